@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace vellumry {
+
+/// Text that is kept long and read seldom: UTF-8, implicitly shared, half the size of a QString for most of what people
+/// copy. A value; any thread.
+class StoredText {
+public:
+    StoredText() = default;
+    StoredText(const QString& text) // NOLINT(google-explicit-constructor): assigning text to it is its purpose
+        : m_utf8(text.toUtf8()) {}
+    [[nodiscard]] static StoredText fromUtf8(QByteArray utf8) {
+        StoredText text;
+        text.m_utf8 = std::move(utf8);
+        return text;
+    }
+
+    [[nodiscard]] QString toString() const { return QString::fromUtf8(m_utf8); }
+    [[nodiscard]] const QByteArray& utf8() const { return m_utf8; }
+    [[nodiscard]] bool isEmpty() const { return m_utf8.isEmpty(); }
+
+    bool operator==(const StoredText&) const = default;
+
+private:
+    QByteArray m_utf8;
+};
+
+} // namespace vellumry

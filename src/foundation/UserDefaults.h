@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QVariantMap>
+#include <memory>
+#include <optional>
+
+namespace vellumry {
+
+/// One domain of settings over an INI file (group [General]). Keeps no copy: a change made to the file by another program
+/// counts at the next read. A write is atomic and durable when the call returns; a file that cannot be written keeps its old
+/// content and the new value holds for this run. Main thread.
+class UserDefaults {
+public:
+    /// `path` need not exist. Its folder is made at the first write, mode 700; the file gets mode 600.
+    explicit UserDefaults(QString path);
+    /// A domain that lives in memory only.
+    UserDefaults();
+    ~UserDefaults();
+    UserDefaults(const UserDefaults&) = delete;
+    UserDefaults& operator=(const UserDefaults&) = delete;
+
+    /// Values that a read gives for keys nobody has set. Adds to what was registered before.
+    void registerDefaults(const QVariantMap& values);
+
+    /// The stored value, else the registered one, else an invalid variant. Data is a QByteArray, lists and maps are
+    /// QVariantList, QStringList and QVariantMap.
+    [[nodiscard]] QVariant object(const QString& key) const;
+    [[nodiscard]] std::optional<QString> string(const QString& key) const;
+    [[nodiscard]] std::optional<QStringList> stringArray(const QString& key) const;
+    /// 0 for what is no number.
+    [[nodiscard]] qint64 integer(const QString& key) const;
+    [[nodiscard]] bool boolean(const QString& key) const;
+
+    void setObject(const QString& key, const QVariant& value);
+    /// Back to the registered default.
+    void removeObject(const QString& key);
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace vellumry

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "history/Clip.h"
+#include "history/ClipFilter.h"
+#include "history/RetentionPolicy.h"
+
+#include <QCoroTask>
+#include <QObject>
+#include <QSet>
+#include <memory>
+
+namespace vellumry {
+
+class ClipDatabase;
+
+/// The one place that knows the history: every clip in memory, ordered by last use, newest first; every change goes through it.
+/// With a database, payloads lie sealed in the history file; without one, everything is in memory and gone at the end.
+///
+/// Main thread only. Operations that persist have changed the memory state before their first suspension; errors never leave
+/// them.
+class ClipStore : public QObject {
+    Q_OBJECT
+
+public:
+    /// Loads the history. Throws what loading threw.
+    [[nodiscard]] static QCoro::Task<std::unique_ptr<ClipStore>> open(std::shared_ptr<ClipDatabase> database,
+                                                                      RetentionPolicy policy, bool recoveredFromDamage);
+    /// Memory-only: a fresh random key, no clips. Cannot fail.
+    explicit ClipStore(RetentionPolicy policy);
+    ~ClipStore() override;
+
+    [[nodiscard]] const std::vector<Clip>& clips() const;
+    /// Null when there is none.
+    [[nodiscard]] const Clip* find(const QUuid& id) const;
+    /// Grows with every change of `clips`.
+    [[nodiscard]] qint64 revision() const;
+    [[nodiscard]] bool isMemoryOnly() const;
+    [[nodiscard]] bool recoveredFromDamage() const;
+    void setRecoveredFromDamage(bool value);
+    [[nodiscard]] const RetentionPolicy& policy() const;
+    /// Does not run retention; the caller does.
+    void setPolicy(RetentionPolicy policy);
+    /// Seconds that a sensitive clip lives; 60 at first.
+    [[nodiscard]] double sensitiveLifetime() const;
+    void setSensitiveLifetime(double seconds);
+    [[nodiscard]] bool autoExpire() const;
+    void setAutoExpire(bool value);
+    /// The earliest expiry of all clips.
+    [[nodiscard]] std::optional<Date> nextExpiry() const;
+
+    /// The stored clip; nothing if it could not be written (then the clip it would have replaced stands unchanged) or if
+    /// retention removed it at once. When the task is done, the clip is durable.
+    QCoro::Task<std::optional<Clip>> add(ClipDraft draft, Date now);
+    /// Nothing for an unknown clip and for one that cannot be read.
+    [[nodiscard]] QCoro::Task<std::optional<ClipPayload>> payload(QUuid id);
+    QCoro::Task<void> markUsed(QUuid id, Date date);
+    QCoro::Task<void> setPinned(QUuid id, bool isPinned, Date date);
+    QCoro::Task<void> setImageText(QUuid id, std::optional<QString> text, bool isAccurate);
+    /// `thorough` gives the space back even for little.
+    QCoro::Task<void> remove(QSet<QUuid> ids, bool thorough);
+    QCoro::Task<void> clearHistory(bool keepPinned);
+    QCoro::Task<void> enforceRetention(Date now);
+
+    [[nodiscard]] std::vector<Clip> recentClips(qint64 limit, bool includePinned) const;
+    /// In pin order.
+    [[nodiscard]] std::vector<Clip> pinnedClips() const;
+    [[nodiscard]] std::vector<QUuid> clipsWithoutText() const;
+    [[nodiscard]] std::vector<QUuid> clipsWithRoughText() const;
+    /// The clips that match, in history order. Synchronous, no limit on the number of results. The pointers hold until the next
+    /// change of `clips`.
+    [[nodiscard]] std::vector<const Clip*> search(const QString& query, ClipFilter filter) const;
+
+Q_SIGNALS:
+    /// Something of `clips` changed.
+    void clipsChanged();
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace vellumry

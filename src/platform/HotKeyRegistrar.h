@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QtGlobal>
+#include <functional>
+
+namespace vellumry {
+
+/// Keys that reach the program whatever application is in front. Key codes are virtual key codes (physical positions), modifiers
+/// the mask of `Shortcut`. Main thread.
+class HotKeyRegistrar {
+public:
+    virtual ~HotKeyRegistrar() = default;
+    /// False when another program holds the combination, or the platform has no global keys.
+    [[nodiscard]] virtual bool grab(quint32 id, quint32 keyCode, quint32 modifiers) = 0;
+    virtual void release(quint32 id) = 0;
+    /// Called on the main thread when a grabbed combination is pressed; key repeats are left out.
+    std::function<void(quint32 id)> onPressed;
+};
+
+} // namespace vellumry
