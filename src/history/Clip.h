@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QUuid>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -92,5 +93,8 @@ struct Clip {
 
     bool operator==(const Clip&) const = default;
 };
+
+/// A clip as the store hands it out: never changed, replaced as a whole when something about it changes. Never null inside a list.
+using ClipRef = std::shared_ptr<const Clip>;
 
 } // namespace vellumry

@@ -30,9 +30,9 @@ public:
     explicit ClipStore(RetentionPolicy policy);
     ~ClipStore() override;
 
-    [[nodiscard]] const std::vector<Clip>& clips() const;
+    [[nodiscard]] const std::vector<ClipRef>& clips() const;
     /// Null when there is none.
-    [[nodiscard]] const Clip* find(const QUuid& id) const;
+    [[nodiscard]] ClipRef find(const QUuid& id) const;
     /// Grows with every change of `clips`.
     [[nodiscard]] qint64 revision() const;
     [[nodiscard]] bool isMemoryOnly() const;
@@ -49,9 +49,9 @@ public:
     /// The earliest expiry of all clips.
     [[nodiscard]] std::optional<Date> nextExpiry() const;
 
-    /// The stored clip; nothing if it could not be written (then the clip it would have replaced stands unchanged) or if
+    /// The stored clip; null if it could not be written (then the clip it would have replaced stands unchanged) or if
     /// retention removed it at once. When the task is done, the clip is durable.
-    QCoro::Task<std::optional<Clip>> add(ClipDraft draft, Date now);
+    QCoro::Task<ClipRef> add(ClipDraft draft, Date now);
     /// Nothing for an unknown clip and for one that cannot be read.
     [[nodiscard]] QCoro::Task<std::optional<ClipPayload>> payload(QUuid id);
     QCoro::Task<void> markUsed(QUuid id, Date date);
@@ -62,14 +62,13 @@ public:
     QCoro::Task<void> clearHistory(bool keepPinned);
     QCoro::Task<void> enforceRetention(Date now);
 
-    [[nodiscard]] std::vector<Clip> recentClips(qint64 limit, bool includePinned) const;
+    [[nodiscard]] std::vector<ClipRef> recentClips(qint64 limit, bool includePinned) const;
     /// In pin order.
-    [[nodiscard]] std::vector<Clip> pinnedClips() const;
+    [[nodiscard]] std::vector<ClipRef> pinnedClips() const;
     [[nodiscard]] std::vector<QUuid> clipsWithoutText() const;
     [[nodiscard]] std::vector<QUuid> clipsWithRoughText() const;
-    /// The clips that match, in history order. Synchronous, no limit on the number of results. The pointers hold until the next
-    /// change of `clips`.
-    [[nodiscard]] std::vector<const Clip*> search(const QString& query, ClipFilter filter) const;
+    /// The clips that match, in history order. Synchronous, no limit on the number of results.
+    [[nodiscard]] std::vector<ClipRef> search(const QString& query, ClipFilter filter) const;
 
 Q_SIGNALS:
     /// Something of `clips` changed.
