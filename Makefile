@@ -1,0 +1,39 @@
+# One word for each task; `make help` lists them.
+
+JOBS ?= $(shell nproc)
+export CCACHE_NOHASHDIR = 1
+export CCACHE_BASEDIR = $(CURDIR)
+
+.PHONY: help run test bench lint build asan clean
+
+help: ## list the tasks
+	@grep -hE '^[a-z]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:.*## /\t/' | expand -t 12
+
+run: ## install what is missing, build, start the program (without a display: play the main job and leave pictures)
+	@scripts/install-deps
+	@$(MAKE) --no-print-directory build
+	@scripts/run
+
+test: ## install what is missing, build, run every test
+	@scripts/install-deps --test
+	@scripts/test
+
+bench: ## build, run the benchmarks and the side-by-side runs, print figures and ratios
+	@scripts/install-deps --test
+	@$(MAKE) --no-print-directory build
+	@bench/run
+
+lint: ## formatting, clang-tidy, qmllint
+	@scripts/install-deps --test
+	@scripts/lint
+
+build: ## build the programs (build/release/vellumry)
+	@cmake --preset release >/dev/null
+	@cmake --build --preset release -j $(JOBS)
+
+asan: ## build with address and undefined-behaviour checks
+	@cmake --preset asan >/dev/null
+	@cmake --build --preset asan -j $(JOBS)
+
+clean: ## remove what was built
+	rm -rf build

@@ -1,0 +1,141 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What foreign applications copy lies sealed in the history, byte for byte."""
+
+import os
+import signal
+import sqlite3
+
+from clients import Browser, FileManager, GtkEditor, PasswordManager, QtEditor, XTerminal
+from desktop import (HISTORY, Failure, Vellumry, clipboard, copy_bytes, copy_text, main, run, same, text_of, unsealed,
+                     representation, wait_for_clip, wait_until)
+from owner import LoggingOwner
+
+TEXT = "public.utf8-plain-text"
+
+
+def a_terminal_copies():
+    with Vellumry(), XTerminal() as client:
+        text = client.copy_first_line()
+        row = wait_for_clip(lambda row: text_of(row) == text, "the terminal's line")
+        same(row["kind"], 0, "its kind")
+        same(row["title"], text.strip(), "its title")
+        same(clipboard(), text.encode(), "the clipboard")
+
+
+def a_gtk_editor_copies():
+    with Vellumry(), GtkEditor() as client:
+        client.type_and_copy("words of a gtk editor")
+        row = wait_for_clip(lambda row: text_of(row) == "words of a gtk editor", "the editor's text")
+        same(row["sourceAppName"], "Mousepad", "the source application")
+
+
+def a_qt_editor_copies():
+    with Vellumry(), QtEditor() as client:
+        client.type_and_copy("words of a qt editor")
+        row = wait_for_clip(lambda row: text_of(row) == "words of a qt editor", "the editor's text")
+        same(row["sourceAppName"], "FeatherPad", "the source application")
+
+
+def a_browser_copies_styled_text():
+    with Vellumry(), Browser() as client:
+        text = client.copy_words()
+        row = wait_for_clip(lambda row: text_of(row) == text, "the page's words", 20)
+        same(row["kind"], 1, "styled text is its kind")
+        same(representation(row, "public.html"), clipboard("text/html"), "the HTML, byte for byte")
+
+
+def a_file_manager_copies_files():
+    with Vellumry(), FileManager("a letter.txt", "b ü.txt") as client:
+        client.copy_all()
+        row = wait_for_clip(lambda row: row["kind"] == 4, "the files")
+        same(sorted(reference["path"] for reference in row["files"]), sorted(client.paths), "the paths")
+        same(len(row["payload"]), 2, "one item a file")
+        same(row["title"], os.path.basename(row["files"][0]["path"]) + " and 1 more", "the title")
+
+
+def a_picture_is_kept_with_its_size():
+    with Vellumry():
+        png = run("convert", "-size", "320x200", "gradient:red-blue", "png:-")
+        copy_bytes(png, "image/png")
+        row = wait_for_clip(lambda row: row["kind"] == 3, "the picture")
+        same(representation(row, "public.png"), png, "the picture, byte for byte")
+        same(row["title"], "Image 320 × 200", "its title")
+        if not row["thumbnail"]:
+            raise Failure("the picture has no thumbnail")
+
+
+def a_password_is_never_kept():
+    with Vellumry(), PasswordManager() as client:
+        client.copy_password()
+        wait_until(lambda: b"x-kde-passwordManagerHint" in (clipboard("TARGETS") or b""), "the password on the clipboard")
+        copy_text("an ordinary copy")
+        wait_for_clip(lambda row: text_of(row) == "an ordinary copy", "the copy after it")
+        same([text_of(row) for row in unsealed()], ["an ordinary copy"], "the whole history")
+
+
+def what_is_refused_is_never_asked_for():
+    with Vellumry() as program:
+        for hint in ("x-kde-passwordManagerHint", "com.vellumry.marker", "org.nspasteboard.TransientType"):
+            with LoggingOwner({"UTF8_STRING": b"kept secret", hint: b"1"}) as owner:
+                wait_until(lambda: "TARGETS" in owner.requests(), "the program to look at what is offered")
+                copy_text("after " + hint)
+                wait_for_clip(lambda row: text_of(row) == "after " + hint, "the copy after it")
+                same(owner.requests(), ["TARGETS"], "what the owner was asked for, offering " + hint)
+        same(program.alive(), True, "the program runs")
+
+
+def what_was_copied_outlives_the_application():
+    with Vellumry():
+        with XTerminal() as client:
+            text = client.copy_first_line()
+            wait_for_clip(lambda row: text_of(row) == text, "the terminal's line")
+            client.stop(signal.SIGKILL)
+        wait_until(lambda: clipboard() == text.encode(), "the clipboard to hold the line of the dead terminal")
+        same(len(unsealed()), 1, "clips; taking over is no new copy")
+
+
+def a_burst_of_copies_is_kept_whole():
+    with Vellumry():
+        wanted = [f"burst {index:03}" for index in range(60)]
+        import time
+
+        next_copy = time.monotonic()
+        for text in wanted:
+            copy_text(text)
+            next_copy += 0.05
+            time.sleep(max(0.0, next_copy - time.monotonic()))  # the rate of copying is what is tested
+        wait_for_clip(lambda row: text_of(row) == wanted[-1], "the last copy")
+        same([text_of(row) for row in unsealed()], wanted[::-1], "the history")
+
+
+def nothing_readable_lies_in_the_file():
+    with Vellumry():
+        copy_text("a needle that must be sealed")
+        wait_for_clip(lambda row: text_of(row) == "a needle that must be sealed", "the copy")
+        for suffix in ("", "-wal", "-shm"):
+            if os.path.exists(HISTORY + suffix):
+                with open(HISTORY + suffix, "rb") as file:
+                    same(b"needle" in file.read(), False, "plain text in History.sqlite" + suffix)
+                same(os.stat(HISTORY + suffix).st_mode & 0o777, 0o600, "the mode of History.sqlite" + suffix)
+        same(os.stat(os.path.dirname(HISTORY)).st_mode & 0o777, 0o700, "the mode of the folder")
+        columns = [row[1] for row in sqlite3.connect(f"file:{HISTORY}?mode=ro", uri=True).execute("PRAGMA table_info(clips)")]
+        same(columns, ["id", "kind", "created", "used", "pinned", "expires", "fingerprint", "size", "meta", "payload"], "columns")
+
+
+if __name__ == "__main__":
+    import shutil
+
+    from desktop import DATA
+
+    def fresh(test):
+        def whole():
+            shutil.rmtree(DATA, ignore_errors=True)
+            test()
+
+        whole.__name__ = test.__name__
+        return whole
+
+    main([fresh(test) for test in (
+        a_terminal_copies, a_gtk_editor_copies, a_qt_editor_copies, a_browser_copies_styled_text, a_file_manager_copies_files,
+        a_picture_is_kept_with_its_size, a_password_is_never_kept, what_is_refused_is_never_asked_for,
+        what_was_copied_outlives_the_application, a_burst_of_copies_is_kept_whole, nothing_readable_lies_in_the_file)])
