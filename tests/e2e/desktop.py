@@ -292,6 +292,17 @@ def wait_panel_closed():
 # --- running tests
 
 
+def fresh(test):
+    """The test, begun without any history."""
+
+    def whole():
+        shutil.rmtree(DATA, ignore_errors=True)
+        test()
+
+    whole.__name__ = test.__name__
+    return whole
+
+
 def main(tests):
     """Runs the functions one after the other, each told by its docstring; exits with 1 when one failed."""
     import traceback

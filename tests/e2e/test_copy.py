@@ -4,10 +4,11 @@
 import os
 import signal
 import sqlite3
+import time
 
 from clients import Browser, FileManager, GtkEditor, PasswordManager, QtEditor, XTerminal
-from desktop import (HISTORY, Failure, Vellumry, clipboard, copy_bytes, copy_text, main, run, same, text_of, unsealed,
-                     representation, wait_for_clip, wait_until)
+from desktop import (HISTORY, Failure, Vellumry, clipboard, copy_bytes, copy_text, fresh, main, representation, run, same,
+                     text_of, unsealed, wait_for_clip, wait_until)
 from owner import LoggingOwner
 
 TEXT = "public.utf8-plain-text"
@@ -97,8 +98,6 @@ def what_was_copied_outlives_the_application():
 def a_burst_of_copies_is_kept_whole():
     with Vellumry():
         wanted = [f"burst {index:03}" for index in range(60)]
-        import time
-
         next_copy = time.monotonic()
         for text in wanted:
             copy_text(text)
@@ -123,18 +122,6 @@ def nothing_readable_lies_in_the_file():
 
 
 if __name__ == "__main__":
-    import shutil
-
-    from desktop import DATA
-
-    def fresh(test):
-        def whole():
-            shutil.rmtree(DATA, ignore_errors=True)
-            test()
-
-        whole.__name__ = test.__name__
-        return whole
-
     main([fresh(test) for test in (
         a_terminal_copies, a_gtk_editor_copies, a_qt_editor_copies, a_browser_copies_styled_text, a_file_manager_copies_files,
         a_picture_is_kept_with_its_size, a_password_is_never_kept, what_is_refused_is_never_asked_for,

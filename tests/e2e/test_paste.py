@@ -1,0 +1,154 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The panel over foreign applications: two letters, Return, and the clip is where the user was typing."""
+
+import subprocess
+
+from clients import Browser, GtkEditor, QtEditor, XTerminal
+from desktop import (PANEL, QUIET, Vellumry, accessible, active_window, clipboard, copy_bytes, copy_text, focused_window, fresh, key, main,
+                     open_panel, panel_is_open, picture, run, same, text_of, type_text, unsealed, wait_for_clip,
+                     wait_panel_closed, wait_until, windows)
+
+WORDS = ["quick brown fox", "lazy dog", "zebra crossing"]
+
+
+def remember(*texts):
+    for text in texts:
+        copy_text(text)
+        wait_for_clip(lambda row: text_of(row) == text, "the copy of " + text)
+
+
+def row_shown(name):
+    return accessible("vellumry", "list item", name)
+
+
+def search_and_paste(letters, title):
+    open_panel()
+    type_text(letters)
+    wait_until(lambda: row_shown("^" + title), "the row of " + title)
+    key("Return")
+    wait_panel_closed()
+
+
+def into_a_gtk_editor():
+    with Vellumry(), GtkEditor() as client:
+        remember(*WORDS)
+        search_and_paste("qu", "quick brown fox")
+        wait_until(lambda: client.content() == "quick brown fox", "the paste in the editor")
+        wait_until(lambda: text_of(unsealed()[0]) == "quick brown fox", "the pasted clip to come first")
+        same(len(unsealed()), len(WORDS), "clips; our own write is no copy")
+
+
+def into_a_qt_editor():
+    with Vellumry(), QtEditor() as client:
+        remember(*WORDS)
+        search_and_paste("ze", "zebra crossing")
+        wait_until(lambda: client.content() == "zebra crossing", "the paste in the editor")
+
+
+def into_a_browser():
+    with Vellumry(), Browser() as client:
+        client.enter_area()
+        remember(*WORDS)
+        search_and_paste("la", "lazy dog")
+        wait_until(lambda: client.content() == "lazy dog", "the paste in the page")
+
+
+def into_a_terminal():
+    with Vellumry(), XTerminal() as client:
+        remember(*WORDS)
+        copy_text("an older primary selection", "primary")
+        search_and_paste("do", "lazy dog")
+        wait_until(lambda: clipboard(selection="primary") == b"lazy dog", "the words on the primary selection")
+        client.finish_line()
+        wait_until(lambda: client.content() == "lazy dog\n", "the paste in the terminal")
+
+
+def while_the_shortcut_is_still_held():
+    with Vellumry(), GtkEditor() as client:
+        remember(*WORDS)
+        run("xdotool", "keydown", "super", "keydown", "ctrl", "keydown", "v")
+        wait_until(panel_is_open, "the panel")
+        run("xdotool", "key", "Return")
+        wait_panel_closed()
+        wait_until(lambda: client.content() == "zebra crossing", "the paste in the editor")
+        run("xdotool", "keyup", "v", "keyup", "ctrl", "keyup", "super")
+        key("ctrl+End")
+        type_text(" x")
+        wait_until(lambda: client.content() == "zebra crossing x", "clean typing afterwards")
+
+
+def a_number_pastes_its_row():
+    with Vellumry(), GtkEditor() as client:
+        remember(*WORDS)
+        open_panel()
+        key("ctrl+2")
+        wait_panel_closed()
+        wait_until(lambda: client.content() == "lazy dog", "the second row in the editor")
+
+
+def arrows_choose_and_return_pastes():
+    with Vellumry(), GtkEditor() as client:
+        remember(*WORDS)
+        open_panel()
+        key("Down", "Down")
+        key("Return")
+        wait_panel_closed()
+        wait_until(lambda: client.content() == "quick brown fox", "the third row in the editor")
+
+
+def escape_gives_the_keyboard_back():
+    with Vellumry(), GtkEditor() as client:
+        remember(*WORDS)
+        before = focused_window()
+        for _ in range(5):
+            open_panel()
+            key("Escape")
+            wait_panel_closed()
+            wait_until(lambda: focused_window() == before, "the editor to have the keyboard again")
+        type_text("typed on")
+        wait_until(lambda: client.content() == "typed on", "typing after the panel closed")
+
+
+def a_click_elsewhere_closes_the_panel():
+    with Vellumry(), GtkEditor() as client:
+        remember(*WORDS)
+        open_panel()
+        run("xdotool", "mousemove", "5", "1000", "click", "1")
+        wait_panel_closed()
+
+
+def the_panel_is_no_window_of_the_task_bar():
+    with Vellumry(), GtkEditor():
+        remember(*WORDS)
+        before = active_window()
+        open_panel()
+        panel = {int(window) for window in windows(PANEL)}
+        listed = run("xprop", "-root", "_NET_CLIENT_LIST").decode()
+        for window in panel:
+            same(hex(window) in listed, False, "the panel among the window manager's clients")
+        picture("panel")
+        key("super+ctrl+v")
+        wait_panel_closed()
+        wait_until(lambda: active_window() == before, "the same active window")
+
+
+def a_large_paste_is_served_whole():
+    with Vellumry(), GtkEditor():
+        text = "0123456789abcde\n" * 200_000
+        copy_text(text)
+        wait_for_clip(lambda row: text_of(row) == text, "the large copy", 30)
+        copy_text("small")
+        wait_for_clip(lambda row: text_of(row) == "small", "the small copy")
+        open_panel()
+        key("Down")
+        key("Return")
+        wait_panel_closed()
+        wait_until(lambda: len(clipboard() or b"") == len(text), "the large clip on the clipboard", 20)
+        same(clipboard(), text.encode(), "the large clip, byte for byte")
+
+
+if __name__ == "__main__":
+    main([fresh(test) for test in (
+        into_a_gtk_editor, into_a_qt_editor, into_a_browser, into_a_terminal, while_the_shortcut_is_still_held,
+        a_number_pastes_its_row, arrows_choose_and_return_pastes, escape_gives_the_keyboard_back,
+        a_click_elsewhere_closes_the_panel, the_panel_is_no_window_of_the_task_bar, a_large_paste_is_served_whole)])
