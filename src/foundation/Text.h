@@ -45,6 +45,8 @@ void forEachCharacter(QStringView text, const std::function<bool(QStringView)>& 
 /// `text` without differences of case, diacritics and width: what two texts share when a reader would call them the same
 /// word. One mapping for all languages but the Turkic i, which follows the current locale.
 [[nodiscard]] QString folded(QStringView text);
+/// `folded` with the i of all other languages, whatever the current locale.
+[[nodiscard]] QString foldedWithoutLocale(QStringView text);
 /// The UTF-8 bytes of `folded(text)`; plain ASCII is mapped without going through Unicode tables.
 [[nodiscard]] QByteArray foldedBytes(QStringView text);
 /// The UTF-8 bytes of `folded` of text that is UTF-8 already.
