@@ -1,0 +1,311 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Whole-process figures of the built program beside CopyQ's, by the same method, in the same headless desktop.
+
+Run by bench/run inside scripts/headless-session. Prints a table; nothing here passes or fails.
+"""
+
+import os
+import random
+import statistics
+import subprocess
+import sys
+import time
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+sys.path.insert(0, os.path.join(os.path.dirname(HERE), "tests", "e2e"))
+
+import sqlite3  # noqa: E402
+
+from Xlib import X, Xatom, display  # noqa: E402
+from Xlib.ext import xtest  # noqa: E402
+from Xlib.protocol import event  # noqa: E402
+
+from desktop import HISTORY, QUIET, Process, Vellumry, focused_window, key, wait_until, window_of_class, windows  # noqa: E402
+
+CLIPS = int(os.environ.get("VELLUMRY_BENCH_CLIPS", "5000"))
+COPIES = int(os.environ.get("VELLUMRY_BENCH_COPIES", "500"))
+
+
+class Owner:
+    """A client that owns the clipboard with one text and answers at once; tells when its text was asked for."""
+
+    def __init__(self):
+        self.display = display.Display()
+        self.window = self.display.screen().root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
+        self.atoms = {name: self.display.intern_atom(name) for name in
+                      ("CLIPBOARD", "TARGETS", "UTF8_STRING", "TEXT", "STRING", "text/plain", "TIMESTAMP")}
+        self.text = b""
+        self.read_at = None
+
+    def copy(self, text):
+        self.text = text.encode()
+        self.read_at = None
+        self.window.set_selection_owner(self.atoms["CLIPBOARD"], X.CurrentTime)
+        self.display.flush()
+
+    def serve(self, seconds=0.0, until=None):
+        """Answers requests for some seconds, or until a condition holds."""
+        end = time.monotonic() + seconds
+        while True:
+            while self.display.pending_events():
+                happened = self.display.next_event()
+                if happened.type == X.SelectionRequest:
+                    self.answer(happened)
+            if until is not None and until():
+                return True
+            if time.monotonic() >= end:
+                return False
+            time.sleep(0.0005)
+
+    def answer(self, request):
+        given = request.property
+        if request.target == self.atoms["TARGETS"]:
+            offered = [self.atoms[name] for name in ("TARGETS", "UTF8_STRING", "TEXT", "STRING", "text/plain")]
+            request.requestor.change_property(given, Xatom.ATOM, 32, offered)
+        elif request.target in (self.atoms["UTF8_STRING"], self.atoms["TEXT"], self.atoms["STRING"], self.atoms["text/plain"]):
+            request.requestor.change_property(given, request.target, 8, self.text)
+            self.read_at = time.monotonic()
+        else:
+            given = X.NONE
+        request.requestor.send_event(event.SelectionNotify(
+            time=request.time, requestor=request.requestor, selection=request.selection, target=request.target, property=given))
+        self.display.flush()
+
+
+def process_tree(pid):
+    found = [pid]
+    for process in found:
+        for task in os.listdir(f"/proc/{process}/task"):
+            with open(f"/proc/{process}/task/{task}/children", encoding="ascii") as file:
+                found += [int(child) for child in file.read().split()]
+    return found
+
+
+def cpu_seconds(pids):
+    total = 0
+    for pid in pids:
+        with open(f"/proc/{pid}/stat", encoding="ascii") as file:
+            fields = file.read().rpartition(")")[2].split()
+        total += int(fields[11]) + int(fields[12])
+    return total / os.sysconf("SC_CLK_TCK")
+
+
+def schedstat_seconds(pids):
+    """Time on the processor of all threads, in the scheduler's nanoseconds."""
+    total = 0
+    for pid in pids:
+        for task in os.listdir(f"/proc/{pid}/task"):
+            with open(f"/proc/{pid}/task/{task}/schedstat", encoding="ascii") as file:
+                total += int(file.read().split()[0])
+    return total / 1e9
+
+
+def pss_megabytes(pids):
+    total = 0
+    for pid in pids:
+        with open(f"/proc/{pid}/smaps_rollup", encoding="ascii") as file:
+            total += next(int(line.split()[1]) for line in file if line.startswith("Pss:"))
+    return total / 1024
+
+
+def switches(pids):
+    total = 0
+    for pid in pids:
+        for task in os.listdir(f"/proc/{pid}/task"):
+            with open(f"/proc/{pid}/task/{task}/status", encoding="ascii") as file:
+                total += next(int(line.split()[1]) for line in file if line.startswith("voluntary_ctxt_switches"))
+    return total
+
+
+def texts(count, seed=5):
+    """Made-up clips: median 18 characters, mean about 720, a few very long."""
+    chance = random.Random(seed)
+    words = ["".join(chance.choice("abcdefghijklmnopqrstuvwxyz") for _ in range(chance.randrange(2, 10))) for _ in range(4000)]
+    for index in range(count):
+        length = min(int(chance.lognormvariate(2.9, 2.7)) + 1, 585_000)
+        made = str(index)
+        pieces = [made]
+        size = len(made)
+        while size < length:
+            pieces.append(chance.choice(words))
+            size += len(pieces[-1]) + 1
+        yield " ".join(pieces)
+
+
+def changed_after(picture, region, action, timeout=5.0):
+    """Seconds from `action` until the pixels of `region` differ from `picture`."""
+    x, y, width, height = region
+    screen = display.Display()
+    root = screen.screen().root
+    action()
+    began = time.monotonic()
+    while time.monotonic() - began < timeout:
+        if root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF).data != picture:
+            return time.monotonic() - began
+    return float("nan")
+
+
+class Ours:
+    name = "Vellumry"
+
+    def start(self):
+        self.process = Vellumry(ready=False)
+        return self.process
+
+    def wait_ready(self):
+        self.process.wait_ready(60)
+
+    def count(self):
+        if not hasattr(self, "connection"):
+            self.connection = sqlite3.connect(f"file:{HISTORY}?mode=ro", uri=True)
+        return self.connection.execute("SELECT count(*) FROM clips").fetchone()[0]
+
+    def watch_next(self):
+        """A question whose answer turns true once one more clip is durable."""
+        before = self.count()
+        return lambda: self.count() > before
+
+    def show(self):
+        screen = display.Display()
+        codes = [screen.keysym_to_keycode(sym) for sym in (0xFFEB, 0xFFE3, 0x0076)]  # Super, Control, v
+
+        def press():
+            for code in codes:
+                xtest.fake_input(screen, X.KeyPress, code)
+            for code in reversed(codes):
+                xtest.fake_input(screen, X.KeyRelease, code)
+            screen.sync()
+
+        return press
+
+    def hide(self):
+        key("Escape")
+        wait_until(lambda: not windows("^Vellumry$"), "the panel to close")
+
+    def stop(self):
+        self.process.stop()
+
+
+class CopyQ:
+    name = "CopyQ"
+
+    def start(self):
+        self.process = Process("copyq")
+        return self.process
+
+    def ask(self, *words):
+        done = subprocess.run(["copyq", *words], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, stdin=subprocess.DEVNULL,
+                              timeout=60)
+        return done.stdout.decode().strip()
+
+    def wait_ready(self):
+        wait_until(lambda: self.ask("size").isdigit(), "CopyQ's server", 30)
+        self.ask("config", "maxitems", "10000")
+
+    def count(self):
+        return int(self.ask("size"))
+
+    def watch_next(self):
+        script = "var n = size(); print('ready\\n'); while (size() == n) sleep(1); print('more\\n');"
+        waiting = subprocess.Popen(["copyq", "eval", script], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                                   stdin=subprocess.DEVNULL)
+        waiting.stdout.readline()
+        os.set_blocking(waiting.stdout.fileno(), False)
+        return lambda: waiting.poll() is not None or b"more" in (waiting.stdout.read() or b"")
+
+    def show(self):
+        return lambda: subprocess.Popen(["copyq", "show"], **QUIET)
+
+    def hide(self):
+        self.ask("hide")
+        time.sleep(0.3)
+
+    def stop(self):
+        self.ask("exit")
+        self.process.stop()
+
+
+def measure(tool):
+    figures = {}
+    owner = Owner()
+    tool.start()
+    tool.wait_ready()
+    # Fill the history through the clipboard, the way a user does, as fast as the tool takes it.
+    for text in texts(CLIPS):
+        owner.copy(text)
+        owner.serve(0.5, until=lambda: owner.read_at is not None)
+        owner.serve(0.004)
+    owner.serve(1.0)
+    figures["clips after filling"] = tool.count()
+
+    delays = []
+    for index in range(20):
+        grown = tool.watch_next()
+        began = time.monotonic()
+        owner.copy(f"one measured copy {index}")
+        if owner.serve(3.0, until=grown):
+            delays.append(time.monotonic() - began)
+    figures["copy to history, median ms"] = statistics.median(delays) * 1000 if delays else float("nan")
+
+    pids = process_tree(tool.process.pid)
+    before, cpu = tool.count(), schedstat_seconds(pids)
+    next_copy = time.monotonic()
+    for index in range(COPIES):
+        owner.copy(f"copy {index} of a burst")
+        next_copy += 0.05
+        owner.serve(max(0.0, next_copy - time.monotonic()))
+    owner.serve(1.0)
+    figures[f"lost of {COPIES} at 20 a second"] = COPIES - (tool.count() - before)
+    figures["CPU ms a copy"] = (schedstat_seconds(pids) - cpu) / COPIES * 1000
+
+    region = (760, 300, 60, 60)
+    root = display.Display().screen().root
+    blank = root.get_image(*region, X.ZPixmap, 0xFFFFFFFF).data
+    shown = []
+    for _ in range(8):
+        press = tool.show()
+        shown.append(changed_after(blank, region, press))
+        owner.serve(0.3)
+        tool.hide()
+        owner.serve(0.2)
+    figures["first showing, ms"] = shown[0] * 1000
+    figures["key to painted panel, median ms"] = statistics.median(shown[1:]) * 1000
+
+    pids = process_tree(tool.process.pid)
+    figures["PSS, MB"] = pss_megabytes(pids)
+    owner.serve(2.0)
+    before = switches(pids)
+    owner.serve(20.0)
+    figures["context switches in 20 s idle"] = switches(pids) - before
+    tool.stop()
+
+    starts = []
+    for index in range(5):
+        began = time.monotonic()
+        tool.start()
+        marker = 0
+        asked = False
+        while not asked and time.monotonic() - began < 20:
+            owner.copy(f"start {index} {marker}")
+            marker += 1
+            asked = owner.serve(0.01, until=lambda: owner.read_at is not None)
+        starts.append((owner.read_at or float("nan")) - began)
+        tool.wait_ready()
+        tool.stop()
+    figures["start to first copy read, median ms"] = statistics.median(starts) * 1000
+    return figures
+
+
+def main():
+    tools = [Ours()]
+    if subprocess.run(["which", "copyq"], **QUIET).returncode == 0 and "--alone" not in sys.argv:
+        tools.append(CopyQ())
+    results = [measure(tool) for tool in tools]
+    width = max(len(name) for name in results[0])
+    print(f"{'':{width}}  " + "  ".join(f"{tool.name:>10}" for tool in tools))
+    for name in results[0]:
+        print(f"{name:{width}}  " + "  ".join(f"{result.get(name, float('nan')):10.1f}" for result in results), flush=True)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,49 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The main job, played once for people to see: copies in several applications, two letters, Return, a paste; a picture of each step."""
+
+import subprocess
+
+from clients import GtkEditor, QtEditor
+from desktop import (QUIET, Vellumry, accessible, copy_bytes, copy_text, key, open_panel, picture, run, text_of, type_text,
+                     wait_for_clip, wait_panel_closed, wait_until)
+
+COPIES = (
+    "Meeting moved to Thursday, 14:30, room Curie",
+    "https://www.freedesktop.org/wiki/Specifications/clipboards-spec/",
+    "#3f7fd9",
+    "git log --oneline --graph --decorate",
+    "Dear neighbours,\nthe roof is going to be repaired next week. Please keep the attic windows shut.",
+    "ssh-keygen -t ed25519 -C laptop",
+)
+
+
+def main():
+    with Vellumry(), QtEditor() as source:
+        run("xdotool", "windowmove", source.window, "60", "60")
+        for text in COPIES:
+            copy_text(text)
+            wait_for_clip(lambda row: text_of(row) == text, text)
+        copy_bytes(run("convert", "-size", "640x400", "plasma:tomato-steelblue", "png:-"), "image/png")
+        wait_for_clip(lambda row: row["kind"] == 3, "the picture")
+        source.type_and_copy("The quick brown fox jumps over the lazy dog")
+        picture("1-copy")
+        wait_for_clip(lambda row: (text_of(row) or "").startswith("The quick"), "the copy in the editor")
+        with GtkEditor() as target:
+            run("xdotool", "windowmove", target.window, "180", "160")
+            type_text("Pasted here: ")
+            open_panel()
+            wait_until(lambda: accessible("vellumry", "list item", "^The quick"), "the rows")
+            picture("2-panel")
+            type_text("ro")
+            wait_until(lambda: accessible("vellumry", "list item", "^Dear") and not accessible("vellumry", "list item", "^git"),
+                       "the rows that match")
+            picture("3-search")
+            key("Return")
+            wait_panel_closed()
+            wait_until(lambda: target.content() != "Pasted here: ", "the paste")
+            picture("4-paste")
+            print("copied, found by two letters, pasted:", repr(target.content()))
+
+
+if __name__ == "__main__":
+    main()
