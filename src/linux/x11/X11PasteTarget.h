@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "linux/x11/X11Focus.h"
+#include "platform/PasteTarget.h"
+
+#include <QObject>
+#include <QStringList>
+
+namespace vellumry {
+
+/// Presses the paste chord of the window that has the keyboard, through the XTEST extension.
+class X11PasteTarget : public QObject, public PasteTarget {
+    Q_OBJECT
+public:
+    struct Options {
+        /// Offers what is on the pasteboard as the primary selection too, which terminals paste. False when that failed.
+        std::function<bool()> offerAsPrimary;
+        /// The user's own list of terminals, read at each paste (see `TerminalApps`).
+        std::function<QStringList()> terminalApps;
+        /// How long the keyboard's return is waited for.
+        std::chrono::milliseconds focusDeadline{400};
+    };
+
+    X11PasteTarget(std::shared_ptr<XlibConnection> connection, std::shared_ptr<X11Focus> focus, Options options);
+
+    [[nodiscard]] bool isTrusted() const override { return m_connection->hasTestExtension(); }
+    /// There is nobody to ask on X11.
+    void requestTrust() override {}
+    [[nodiscard]] bool isSecureInput() const override;
+    [[nodiscard]] QCoro::Task<bool> regainFocus() override;
+    void pressPaste() override;
+
+private:
+    [[nodiscard]] bool isTerminalInFront() const;
+    void releaseHeldKeys();
+    void pressChord(const std::vector<quint32>& keycodes);
+
+    std::shared_ptr<XlibConnection> m_connection;
+    std::shared_ptr<X11Focus> m_focus;
+    Options m_options;
+};
+
+} // namespace vellumry
