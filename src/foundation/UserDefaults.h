@@ -26,13 +26,15 @@ public:
     /// Values that a read gives for keys nobody has set. Adds to what was registered before.
     void registerDefaults(const QVariantMap& values);
 
-    /// The stored value, else the registered one, else an invalid variant. Data is a QByteArray, lists and maps are
-    /// QVariantList, QStringList and QVariantMap.
+    /// The stored value, else the registered one, else an invalid variant. Integers are qint64, fractions double, data is a
+    /// QByteArray; lists of texts are QStringList, other lists QVariantList, maps QVariantMap.
     [[nodiscard]] QVariant object(const QString& key) const;
     [[nodiscard]] std::optional<QString> string(const QString& key) const;
+    /// A single text, as a hand writes it into the file, is a list of one; an empty text is an empty list.
     [[nodiscard]] std::optional<QStringList> stringArray(const QString& key) const;
     /// 0 for what is no number.
     [[nodiscard]] qint64 integer(const QString& key) const;
+    /// False for what is neither a truth value nor a number.
     [[nodiscard]] bool boolean(const QString& key) const;
 
     void setObject(const QString& key, const QVariant& value);
