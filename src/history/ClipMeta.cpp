@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/ClipMeta.h"
+
+#include "history/ClipMetaReader.h"
+#include "history/RecordFields.h"
+#include "history/StringPool.h"
+
+namespace vellumry {
+
+namespace {
+
+const QString titleKey = QStringLiteral("title");
+const QString searchTextKey = QStringLiteral("searchText");
+const QString sourceBundleIDKey = QStringLiteral("sourceBundleID");
+const QString sourceAppNameKey = QStringLiteral("sourceAppName");
+const QString filesKey = QStringLiteral("files");
+const QString thumbnailKey = QStringLiteral("thumbnail");
+const QString imageTextKey = QStringLiteral("imageText");
+const QString imageTextIsAccurateKey = QStringLiteral("imageTextIsAccurate");
+const QString isScreenshotKey = QStringLiteral("isScreenshot");
+const QString pathKey = QStringLiteral("path");
+const QString nameKey = QStringLiteral("name");
+const QString bookmarkKey = QStringLiteral("bookmark");
+
+PropertyList listOf(const FileRef& file) {
+    PropertyList::Dictionary fields{{pathKey, file.path}, {nameKey, file.name}};
+    if (file.bookmark)
+        fields.emplace(bookmarkKey, *file.bookmark);
+    return fields;
+}
+
+std::optional<FileRef> fileOf(const PropertyList& list) {
+    using namespace recordfields;
+    FileRef file;
+    if (!list.dictionary() || !require(list, pathKey, &PropertyList::string, file.path) ||
+        !require(list, nameKey, &PropertyList::string, file.name) ||
+        !allow(list, bookmarkKey, &PropertyList::data, file.bookmark))
+        return std::nullopt;
+    return file;
+}
+
+void share(std::optional<QString>& name, StringPool* pool) {
+    if (name && pool)
+        name = pool->shared(*name);
+}
+
+std::optional<ClipMeta> metaOf(const PropertyList& list) {
+    using namespace recordfields;
+    ClipMeta meta;
+    QString searchText;
+    PropertyList::Array files;
+    if (!list.dictionary() || !require(list, titleKey, &PropertyList::string, meta.title) ||
+        !require(list, searchTextKey, &PropertyList::string, searchText) ||
+        !require(list, filesKey, &PropertyList::array, files) ||
+        !allow(list, sourceBundleIDKey, &PropertyList::string, meta.sourceBundleID) ||
+        !allow(list, sourceAppNameKey, &PropertyList::string, meta.sourceAppName) ||
+        !allow(list, thumbnailKey, &PropertyList::data, meta.thumbnail) ||
+        !allow(list, imageTextKey, &PropertyList::string, meta.imageText) ||
+        !allow(list, imageTextIsAccurateKey, &PropertyList::boolean, meta.imageTextIsAccurate) ||
+        !allow(list, isScreenshotKey, &PropertyList::boolean, meta.isScreenshot))
+        return std::nullopt;
+    meta.searchText = searchText;
+    for (const PropertyList& entry : files) {
+        auto file = fileOf(entry);
+        if (!file)
+            return std::nullopt;
+        meta.files.push_back(*std::move(file));
+    }
+    return meta;
+}
+
+} // namespace
+
+ClipMeta ClipMeta::of(const Clip& clip) {
+    return {clip.title,     clip.searchText, clip.sourceBundleID,      clip.sourceAppName, clip.files,
+            clip.thumbnail, clip.imageText,  clip.imageTextIsAccurate, clip.isScreenshot};
+}
+
+QByteArray ClipMeta::encoded() const {
+    PropertyList::Array fileList;
+    for (const FileRef& file : files)
+        fileList.push_back(listOf(file));
+    PropertyList::Dictionary fields{
+        {titleKey, title}, {searchTextKey, searchText.toString()}, {filesKey, std::move(fileList)}};
+    if (sourceBundleID)
+        fields.emplace(sourceBundleIDKey, *sourceBundleID);
+    if (sourceAppName)
+        fields.emplace(sourceAppNameKey, *sourceAppName);
+    if (thumbnail)
+        fields.emplace(thumbnailKey, *thumbnail);
+    if (imageText)
+        fields.emplace(imageTextKey, *imageText);
+    if (imageTextIsAccurate)
+        fields.emplace(imageTextIsAccurateKey, *imageTextIsAccurate);
+    if (isScreenshot)
+        fields.emplace(isScreenshotKey, *isScreenshot);
+    return PropertyList(std::move(fields)).toBinary();
+}
+
+std::optional<ClipMeta> ClipMeta::decode(QByteArrayView bytes, StringPool* pool) {
+    if (auto meta = readPlainMeta(bytes, pool))
+        return meta;
+    const auto list = PropertyList::fromBytes(bytes.toByteArray());
+    auto meta = list ? metaOf(*list) : std::nullopt;
+    if (meta) {
+        share(meta->sourceBundleID, pool);
+        share(meta->sourceAppName, pool);
+    }
+    return meta;
+}
+
+} // namespace vellumry

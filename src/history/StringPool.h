@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+namespace vellumry {
+
+/// Makes equal strings share their characters. For the few names that thousands of clips repeat.
+class StringPool {
+public:
+    [[nodiscard]] QString shared(const QString& string) {
+        const auto found = m_strings.constFind(string);
+        return found == m_strings.constEnd() ? *m_strings.insert(string, string) : *found;
+    }
+
+    /// As `shared`, for ASCII bytes; makes no string for bytes it has seen before.
+    [[nodiscard]] QString sharedAscii(QByteArrayView ascii) {
+        const QByteArray key = QByteArray::fromRawData(ascii.data(), ascii.size());
+        const auto found = m_ascii.constFind(key);
+        if (found != m_ascii.constEnd())
+            return *found;
+        return *m_ascii.insert(ascii.toByteArray(), shared(QString::fromLatin1(ascii)));
+    }
+
+private:
+    QHash<QString, QString> m_strings;
+    QHash<QByteArray, QString> m_ascii;
+};
+
+} // namespace vellumry
