@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/ImageCodec.h"
+
+#include <utility>
+#include <vector>
+
+namespace vellumry {
+
+/// Answers every picture with the same summary, at once, and remembers what it was asked.
+class FakeImageCodec : public ImageCodec {
+public:
+    struct Request {
+        QByteArray image;
+        int thumbnailPixels;
+        bool operator==(const Request&) const = default;
+    };
+
+    ImageSummary summary;          ///< the answer; empty at first, as for bytes that are no picture
+    std::vector<Request> requests; ///< in the order in which they came
+
+    [[nodiscard]] QCoro::Task<ImageSummary> summarise(QByteArray image, int thumbnailPixels) override {
+        requests.push_back({std::move(image), thumbnailPixels});
+        co_return summary;
+    }
+};
+
+} // namespace vellumry
