@@ -47,6 +47,7 @@ public:
     [[nodiscard]] const QByteArray* data() const;
     [[nodiscard]] const Array* array() const;
     [[nodiscard]] const Dictionary* dictionary() const;
+    [[nodiscard]] const DateValue* date() const;
     [[nodiscard]] const Uid* uid() const;
     /// The value under `key` when this is a dictionary that has it, else null.
     [[nodiscard]] const PropertyList* find(const QString& key) const;

@@ -1,0 +1,295 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "foundation/RtfParser.h"
+
+#include <QSet>
+#include <algorithm>
+
+namespace vellumry {
+
+namespace {
+
+constexpr std::size_t deepest = 512;
+
+bool isLetter(char byte) { return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z'); }
+bool isDigit(char byte) { return byte >= '0' && byte <= '9'; }
+
+int hexValue(char byte) {
+    if (isDigit(byte))
+        return byte - '0';
+    const char lower = static_cast<char>(byte | 0x20);
+    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+}
+
+/// The Windows code page of a font's \fcharset; 0 where the document's own counts.
+int codePageOfCharset(int charset) {
+    switch (charset) {
+    case 0: return 1252;
+    case 77: return 10000;
+    case 128: return 932;
+    case 129: return 949;
+    case 134: return 936;
+    case 136: return 950;
+    case 161: return 1253;
+    case 162: return 1254;
+    case 163: return 1258;
+    case 177: return 1255;
+    case 178: return 1256;
+    case 186: return 1257;
+    case 204: return 1251;
+    case 222: return 874;
+    case 238: return 1250;
+    default: return 0;
+    }
+}
+
+/// Control words that stand for one character.
+std::optional<char16_t> characterOf(const QByteArray& word) {
+    static const QHash<QByteArray, char16_t> characters{
+        {"par", u'\n'},          {"line", u'\n'},         {"sect", u'\n'},          {"page", u'\n'},
+        {"column", u'\n'},       {"row", u'\n'},          {"nestrow", u'\n'},       {"tab", u'\t'},
+        {"cell", u'\t'},         {"nestcell", u'\t'},     {"emdash", u'\u2014'},    {"endash", u'\u2013'},
+        {"emspace", u'\u2003'},  {"enspace", u'\u2002'},  {"qmspace", u'\u2005'},   {"bullet", u'\u2022'},
+        {"lquote", u'\u2018'},   {"rquote", u'\u2019'},   {"ldblquote", u'\u201C'}, {"rdblquote", u'\u201D'},
+        {"zwj", u'\u200D'},      {"zwnj", u'\u200C'},     {"ltrmark", u'\u200E'},   {"rtlmark", u'\u200F'},
+    };
+    const auto found = characters.constFind(word);
+    return found == characters.constEnd() ? std::nullopt : std::optional(*found);
+}
+
+/// Groups whose content is no text of the document.
+bool isIgnoredDestination(const QByteArray& word) {
+    static const QSet<QByteArray> words{
+        "colortbl", "stylesheet", "info",     "pict",    "object",    "objdata",   "header",     "headerl",  "headerr",
+        "headerf",  "footer",     "footerl",  "footerr", "footerf",   "footnote",  "annotation", "fldinst",  "filetbl",
+        "listtable", "listoverridetable", "rsidtbl", "revtbl", "generator", "themedata", "datastore", "latentstyles",
+        "xe",       "tc",         "rxe",      "private", "nonshppict", "shpinst",  "bkmkstart",  "bkmkend",  "template",
+    };
+    return words.contains(word);
+}
+
+} // namespace
+
+std::optional<QString> RtfParser::text() {
+    if (!m_rtf.startsWith("{\\rtf"))
+        return std::nullopt;
+    do {
+        if (!step())
+            return std::nullopt;
+    } while (!m_groups.empty());
+    flushBytes();
+    return std::move(m_text);
+}
+
+bool RtfParser::step() {
+    if (m_position >= m_rtf.size())
+        return false;
+    const char byte = m_rtf[m_position++];
+    switch (byte) {
+    case '{':
+        return openGroup();
+    case '}':
+        closeGroup();
+        return true;
+    case '\\':
+        return readControl();
+    case '\r':
+    case '\n':
+    case '\0':
+        return true;
+    default:
+        m_groups.back().isMarkedIgnorable = false;
+        appendByte(byte);
+        return true;
+    }
+}
+
+bool RtfParser::openGroup() {
+    if (m_groups.size() >= deepest)
+        return false;
+    m_fallbackLeft = 0;
+    Group inner = m_groups.empty() ? Group{} : m_groups.back();
+    inner.isMarkedIgnorable = false;
+    m_groups.push_back(inner);
+    return true;
+}
+
+void RtfParser::closeGroup() {
+    m_fallbackLeft = 0;
+    m_groups.pop_back();
+}
+
+bool RtfParser::readControl() {
+    if (m_position >= m_rtf.size())
+        return false;
+    const char first = m_rtf[m_position];
+    if (!isLetter(first)) {
+        ++m_position;
+        applySymbol(first);
+        return true;
+    }
+    const ControlWord word = readControlWord();
+    if (word.name == "bin") {
+        // Raw bytes follow, braces and backslashes among them.
+        const int length = std::max(word.parameter.value_or(0), 0);
+        if (length > m_rtf.size() - m_position)
+            return false;
+        m_position += length;
+        (void)consumesFallback();
+        return true;
+    }
+    apply(word);
+    return true;
+}
+
+RtfParser::ControlWord RtfParser::readControlWord() {
+    const qsizetype begin = m_position;
+    while (m_position < m_rtf.size() && isLetter(m_rtf[m_position]))
+        ++m_position;
+    ControlWord word{m_rtf.sliced(begin, m_position - begin), std::nullopt};
+    const auto digitAt = [this](qsizetype at) { return at < m_rtf.size() && isDigit(m_rtf[at]); };
+    const bool isNegative = m_position < m_rtf.size() && m_rtf[m_position] == '-' && digitAt(m_position + 1);
+    if (isNegative)
+        ++m_position;
+    if (digitAt(m_position)) {
+        qint64 value = 0;
+        for (; digitAt(m_position); ++m_position)
+            value = std::min<qint64>(value * 10 + (m_rtf[m_position] - '0'), 0x7FFF'FFFF);
+        word.parameter = static_cast<int>(isNegative ? -value : value);
+    }
+    // One space belongs to the word.
+    if (m_position < m_rtf.size() && m_rtf[m_position] == ' ')
+        ++m_position;
+    return word;
+}
+
+void RtfParser::applySymbol(char symbol) {
+    Group& group = m_groups.back();
+    if (symbol == '*') {
+        group.isMarkedIgnorable = true;
+        return;
+    }
+    group.isMarkedIgnorable = false;
+    switch (symbol) {
+    case '\'':
+        return readHexadecimal();
+    case '\\':
+    case '{':
+    case '}':
+        return appendByte(symbol);
+    case '~':
+        return append(u'\u00A0');
+    case '_':
+        return append(u'\u2011');
+    case '\r':
+        if (m_position < m_rtf.size() && m_rtf[m_position] == '\n')
+            ++m_position;
+        return append(u'\n');
+    case '\n':
+        return append(u'\n');
+    case '\t':
+        return append(u'\t');
+    default:
+        // An optional hyphen and index marks show nothing.
+        (void)consumesFallback();
+    }
+}
+
+void RtfParser::readHexadecimal() {
+    const int high = m_position + 1 < m_rtf.size() ? hexValue(m_rtf[m_position]) : -1;
+    const int low = m_position + 1 < m_rtf.size() ? hexValue(m_rtf[m_position + 1]) : -1;
+    if (high < 0 || low < 0)
+        return;
+    m_position += 2;
+    appendByte(static_cast<char>(high << 4 | low));
+}
+
+void RtfParser::apply(const ControlWord& word) {
+    const bool isDestination = applyDestination(word.name);
+    m_groups.back().isMarkedIgnorable = false;
+    if (isDestination || applyToState(word))
+        return;
+    if (word.name == "u" && word.parameter) {
+        append(static_cast<char16_t>(*word.parameter));
+        m_fallbackLeft = m_groups.back().fallbackLength;
+        return;
+    }
+    if (const std::optional<char16_t> character = characterOf(word.name.toByteArray()))
+        return append(*character);
+    (void)consumesFallback();
+}
+
+bool RtfParser::applyDestination(QByteArrayView name) {
+    Group& group = m_groups.back();
+    if (name == "fonttbl") {
+        group.destination = Destination::FontTable;
+        return true;
+    }
+    // \* says: who does not know what follows shall leave it out. Of these we know none but the font table.
+    if (group.isMarkedIgnorable || isIgnoredDestination(name.toByteArray())) {
+        group.destination = Destination::Ignored;
+        return true;
+    }
+    return false;
+}
+
+bool RtfParser::applyToState(const ControlWord& word) {
+    Group& group = m_groups.back();
+    const int parameter = word.parameter.value_or(0);
+    if (word.name == "uc") {
+        group.fallbackLength = std::clamp(word.parameter.value_or(1), 0, 255);
+    } else if (word.name == "ansicpg") {
+        m_documentCodePage = parameter > 0 ? parameter : 1252;
+    } else if (word.name == "ansi") {
+        m_documentCodePage = 1252;
+    } else if (word.name == "mac") {
+        m_documentCodePage = 10000;
+    } else if (word.name == "pc") {
+        m_documentCodePage = 437;
+    } else if (word.name == "pca") {
+        m_documentCodePage = 850;
+    } else if (word.name == "f" && word.parameter) {
+        m_definedFont = parameter;
+        group.codePage = group.destination == Destination::FontTable ? 0 : m_fontCodePages.value(parameter, 0);
+    } else if (word.name == "plain") {
+        group.codePage = 0;
+    } else if (word.name == "fcharset" && group.destination == Destination::FontTable) {
+        if (const int codePage = codePageOfCharset(parameter))
+            m_fontCodePages.insert(m_definedFont, codePage);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool RtfParser::consumesFallback() {
+    if (m_fallbackLeft == 0)
+        return false;
+    --m_fallbackLeft;
+    return true;
+}
+
+void RtfParser::append(char16_t unit) {
+    if (consumesFallback() || m_groups.back().destination != Destination::Body)
+        return;
+    flushBytes();
+    m_text.append(QChar(unit));
+}
+
+void RtfParser::appendByte(char byte) {
+    if (consumesFallback() || m_groups.back().destination != Destination::Body)
+        return;
+    const int codePage = m_groups.back().codePage != 0 ? m_groups.back().codePage : m_documentCodePage;
+    if (codePage != m_bytesCodePage)
+        flushBytes();
+    m_bytesCodePage = codePage;
+    m_bytes.append(byte);
+}
+
+void RtfParser::flushBytes() {
+    if (m_bytes.isEmpty())
+        return;
+    m_text += m_decoder.decoded(m_bytes, m_bytesCodePage);
+    m_bytes.truncate(0);
+}
+
+} // namespace vellumry
