@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "history/Clip.h"
+#include "history/ClipFilter.h"
+#include "history/TextTransform.h"
+#include "panel/PanelModelCalendar.h"
+#include "paste/ToastMessage.h"
+
+#include <QCoroTask>
+#include <QHash>
+#include <QObject>
+#include <QSet>
+#include <QUuid>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace vellumry {
+
+class ClipStore;
+class PasteEngine;
+struct CopyOutcome;
+struct FileStatus;
+struct PasteOutcome;
+
+/// What the panel shows and what its keys do: the list in its sections, the selection, the numbers on the rows, and the actions
+/// on clips. The views read it and decide nothing.
+///
+/// Main thread. Actions that wait (paste, copy, pin, delete, merge) run on by themselves; they survive the panel being closed,
+/// and end quietly when the model goes. Closures must not delete the model.
+class PanelModel : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
+    Q_PROPERTY(int filter READ filterIndex WRITE setFilterIndex NOTIFY filterChanged)
+    Q_PROPERTY(QUuid selectedID READ selectedUuid NOTIFY selectionChanged)
+    Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectionChanged)
+    Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectionChanged)
+    Q_PROPERTY(QUuid hoveredID READ hoveredUuid WRITE setHoveredUuid NOTIFY hoveredIDChanged)
+    Q_PROPERTY(int focusToken READ focusToken NOTIFY focusTokenChanged)
+    Q_PROPERTY(bool isPresented READ isPresented WRITE setPresented NOTIFY isPresentedChanged)
+    Q_PROPERTY(bool hasAccessibility READ hasAccessibility NOTIFY hasAccessibilityChanged)
+    Q_PROPERTY(bool isTransformListOpen READ isTransformListOpen NOTIFY transformChanged)
+    Q_PROPERTY(int transformIndex READ transformIndex NOTIFY transformChanged)
+
+public:
+    struct Section {
+        QString id;
+        QString title; ///< may be empty
+        std::vector<ClipRef> clips;
+    };
+
+    enum class Command : quint8 {
+        enter,
+        enterPlain,
+        up,
+        down,
+        home,
+        end,
+        pageUp,
+        pageDown,
+        extendUp,
+        extendDown,
+        escape,
+        nextFilter,
+        previousFilter
+    };
+
+    /// What follows a merge.
+    enum class MergeAction : quint8 { stay, paste, copy };
+
+    /// The rows of the transform list, from the top.
+    static constexpr std::array transformList{TextTransform::lowercase,     TextTransform::uppercase,
+                                              TextTransform::titleCase,     TextTransform::sentenceCase,
+                                              TextTransform::trimWhitespace, TextTransform::removeLineBreaks};
+
+    using FileStatuses = QHash<QUuid, std::vector<FileStatus>>;
+
+    /// `store` and `paster` must outlive the model.
+    PanelModel(ClipStore& store, PasteEngine& paster, PanelModelCalendar calendar = {}, QObject* parent = nullptr);
+    ~PanelModel() override;
+
+    [[nodiscard]] ClipStore& store() const;
+
+    // The list. References stay good until the next call that changes the model or the store.
+
+    /// The visible clips in their sections; a second read without a change computes nothing. No section is empty.
+    [[nodiscard]] const std::vector<Section>& sections() const;
+    /// The clips of all sections in display order.
+    [[nodiscard]] const std::vector<ClipRef>& visibleClips() const;
+    /// Clip id to the digit, 1 to 9, that pastes it from the open panel.
+    [[nodiscard]] QHash<QUuid, int> rowNumbers() const;
+    /// Clip id to the digit of its pinned hot key.
+    [[nodiscard]] QHash<QUuid, int> pinNumbers() const;
+    [[nodiscard]] qsizetype count(ClipFilter filter) const;
+    Q_INVOKABLE [[nodiscard]] int countOf(int filter) const;
+    /// An excerpt of an image's text around the hit, where the query was found there and not in the title.
+    [[nodiscard]] std::optional<QString> imageMatch(const Clip& clip) const;
+
+    // The selection: one primary row, and a set that is empty or holds at least two.
+
+    [[nodiscard]] std::optional<QUuid> selectedID() const;
+    [[nodiscard]] const QSet<QUuid>& selectedIDs() const;
+    [[nodiscard]] std::optional<QUuid> anchorID() const;
+    /// Null without one, and when it is not visible.
+    [[nodiscard]] ClipRef currentClip() const;
+    /// In display order; what is not visible is left out.
+    [[nodiscard]] std::vector<ClipRef> selectedClips() const;
+    [[nodiscard]] bool isSelected(const QUuid& id) const;
+    [[nodiscard]] int selectedCount() const;
+    /// Index of the primary row in `visibleClips`, -1 when it is not there.
+    [[nodiscard]] int selectedIndex() const;
+
+    /// Called before each show: everything back to its start, the newest unpinned clip selected.
+    void prepareForShow();
+    /// The user typed: takes `text` over and selects the first match. Does nothing for the text it has already.
+    Q_INVOKABLE void searchTextEdited(const QString& text);
+    void resetSelection();
+    /// A press on a row. True when a selection of several is to collapse to `id` once the button is released.
+    Q_INVOKABLE bool click(const QUuid& id, quint32 flags);
+    void move(int offset);
+    void extend(int delta);
+    void toggleSelection(const QUuid& id);
+    void extendSelection(const QUuid& id);
+    void selectOnly(const QUuid& id);
+    void cycleFilter(int delta);
+
+    // Keys and actions.
+
+    /// True when the command was handled.
+    bool handle(Command command);
+    /// A key with Command (Ctrl) held. `flags` are bits of `eventflag`; `hasTextSelection`: part of the search text is selected.
+    /// False leaves the key to the search field.
+    bool keyEquivalent(quint16 keyCode, quint32 flags, bool hasTextSelection);
+    /// Closes the panel, then pastes. `isPlain` false means the user's default.
+    void pasteClip(const ClipRef& clip, bool isPlain, std::optional<TextTransform> transform = std::nullopt);
+    /// For the row under a double click; an unknown id does nothing.
+    Q_INVOKABLE void pasteRow(const QUuid& id);
+    void pastePinned(int number);
+    void copyClip(const ClipRef& clip);
+    /// Pins the selected clips, or unpins them when all are pinned.
+    Q_INVOKABLE void togglePin();
+    Q_INVOKABLE void deleteSelected();
+    void merge(MergeAction action);
+    Q_INVOKABLE void toggleTransforms();
+    /// Pastes the names of a clip's files, one a line.
+    void pasteFileNames(const ClipRef& clip);
+    /// Hands the selected clips, oldest copy first, to the Paste Stack.
+    Q_INVOKABLE void pasteSelectedOneByOne();
+    Q_INVOKABLE void addSelectedToStack();
+    /// The selected clips by their last use, oldest first.
+    [[nodiscard]] std::vector<ClipRef> selectedClipsInCopyOrder() const;
+
+    // Observed fields.
+
+    [[nodiscard]] const QString& query() const;
+    void setQuery(const QString& query);
+    [[nodiscard]] ClipFilter filter() const;
+    /// Resets the selection when it really changes.
+    void setFilter(ClipFilter filter);
+    [[nodiscard]] std::optional<QUuid> hoveredID() const;
+    void setHoveredID(std::optional<QUuid> id);
+    /// Grows to send the keyboard back to the search field.
+    [[nodiscard]] int focusToken() const;
+    [[nodiscard]] bool isPresented() const;
+    void setPresented(bool value);
+    /// We may press keys in other applications; read at each show.
+    [[nodiscard]] bool hasAccessibility() const;
+    [[nodiscard]] const FileStatuses& fileStatuses() const;
+    [[nodiscard]] std::optional<QUuid> transformClipID() const;
+    [[nodiscard]] bool isTransformListOpen() const;
+    [[nodiscard]] int transformIndex() const;
+    [[nodiscard]] const QSet<int>& availablePinnedNumbers() const;
+    void setAvailablePinnedNumbers(const QSet<int>& numbers);
+
+    // The same for QML, where nothing is the null id.
+    [[nodiscard]] int filterIndex() const { return int(filter()); }
+    void setFilterIndex(int index);
+    [[nodiscard]] QUuid selectedUuid() const { return selectedID().value_or(QUuid()); }
+    [[nodiscard]] QUuid hoveredUuid() const { return hoveredID().value_or(QUuid()); }
+    void setHoveredUuid(const QUuid& id);
+
+    std::function<void()> onClose = [] {};
+    std::function<void(const ToastMessage&)> onToast = [](const ToastMessage&) {};
+    std::function<void(const std::vector<ClipRef>&)> onToggleStack = [](const std::vector<ClipRef>&) {};
+    std::function<void(const std::vector<ClipRef>&)> onAddToStack = [](const std::vector<ClipRef>&) {};
+
+Q_SIGNALS:
+    /// `sections`, and with it everything that is told from it, may differ.
+    void sectionsChanged();
+    void queryChanged();
+    void filterChanged();
+    void selectionChanged();
+    void hoveredIDChanged();
+    void focusTokenChanged();
+    void isPresentedChanged();
+    void hasAccessibilityChanged();
+    void fileStatusesChanged();
+    void transformChanged();
+    void availablePinnedNumbersChanged();
+
+private:
+    [[nodiscard]] qsizetype visibleIndex(const std::optional<QUuid>& id) const;
+    void setSelection(std::optional<QUuid> primary, QSet<QUuid> several, std::optional<QUuid> anchor);
+    void select(std::optional<QUuid> id);
+    void closeTransformList();
+    void setTransform(std::optional<QUuid> clipID, int index);
+    bool handleInTransformList(Command command);
+    void handleEnter(bool isPlain);
+    void handleEscape();
+    void selectAfterDeleting(const std::vector<ClipRef>& doomed);
+    void showToast(const std::optional<ToastMessage>& message);
+
+    QCoro::Task<void> refreshFileStatuses();
+    QCoro::Task<void> runPaste(ClipRef clip, std::optional<bool> isPlain, std::optional<TextTransform> transform);
+    QCoro::Task<void> runPasteText(QString text);
+    QCoro::Task<void> runCopy(ClipRef clip);
+    QCoro::Task<void> runPin(std::vector<ClipRef> clips, bool isPinned);
+    QCoro::Task<void> runDelete(QSet<QUuid> ids);
+    QCoro::Task<void> runMerge(std::vector<ClipRef> clips, MergeAction action);
+    QCoro::Task<ClipRef> addMerged(std::vector<ClipRef> clips);
+
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace vellumry
