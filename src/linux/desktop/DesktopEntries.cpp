@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QStandardPaths>
 #include <QThreadPool>
+#include <algorithm>
 #include <condition_variable>
 #include <mutex>
 
@@ -17,6 +18,7 @@ struct DesktopEntries::Reading {
     std::condition_variable finished;
     bool isUnderWay = false;
     std::vector<QDateTime> modified;
+    QDateTime readAt;
     std::shared_ptr<const DesktopEntryIndex> index;
 };
 
@@ -34,6 +36,15 @@ QStringList sessionLanguages() {
     }
     languages.removeDuplicates();
     return languages;
+}
+
+/// A folder may change once more within the same tick of its clock; times as fresh as this prove nothing.
+constexpr qint64 settledMilliseconds = 2000;
+
+bool areSettled(const std::vector<QDateTime>& modified, const QDateTime& readAt) {
+    return std::all_of(modified.begin(), modified.end(), [&](const QDateTime& time) {
+        return !time.isValid() || time.msecsTo(readAt) > settledMilliseconds;
+    });
 }
 
 std::vector<QDateTime> modificationTimes(const QStringList& folders) {
@@ -60,18 +71,21 @@ void DesktopEntries::refresh() {
         m_reading->isUnderWay = true;
     }
     QThreadPool::globalInstance()->start([reading = m_reading, folders = m_folders, languages = m_languages] {
+        const QDateTime now = QDateTime::currentDateTimeUtc();
         const auto modified = modificationTimes(folders);
         bool isKnown = false;
         {
             const std::lock_guard lock(reading->mutex);
-            isKnown = reading->index != nullptr && reading->modified == modified;
+            isKnown = reading->index != nullptr && reading->modified == modified && areSettled(modified, reading->readAt);
         }
         std::shared_ptr<const DesktopEntryIndex> index;
         if (!isKnown)
             index = std::make_shared<const DesktopEntryIndex>(DesktopEntryIndex::read(folders, languages));
         const std::lock_guard lock(reading->mutex);
-        if (index != nullptr)
+        if (index != nullptr) {
             reading->index = index;
+            reading->readAt = now;
+        }
         reading->modified = modified;
         reading->isUnderWay = false;
         reading->finished.notify_all();

@@ -65,7 +65,8 @@ void X11FrontmostApplication::handleEvent(XEvent* event) {
 
 void X11FrontmostApplication::follow() {
     const XWindow active = XWindowProperties::activeWindow(*m_connection);
-    if (active <= 1 || active == m_window)
+    const bool isKnown = active == m_window && m_hints != ApplicationHints();
+    if (active <= 1 || isKnown)
         return;
     const qint64 process = XWindowProperties::processOf(*m_connection, active);
     if (process == QCoreApplication::applicationPid())

@@ -6,8 +6,9 @@
 #include "linux/x11/XErrorTrap.h"
 #include "linux/x11/XWindowProperties.h"
 
-#include <QCoroSignal>
 #include <QPointer>
+#include <QTimer>
+#include <coroutine>
 #include <linux/input-event-codes.h>
 
 #include <X11/Xlib.h>
@@ -21,6 +22,31 @@ namespace {
 constexpr quint32 placeOf(quint32 evdevCode) {
     return evdevCode + KeyCodes::xOffset;
 }
+
+/// Waits until the keyboard may have moved, or the time is up. `focus` outlives the wait. Not the awaiter of a library: a signal
+/// that is emitted twice in one turn of the event loop must resume once.
+struct NextMove {
+    X11Focus* focus;
+    std::chrono::milliseconds limit;
+
+    [[nodiscard]] bool await_ready() const noexcept { return false; }
+    void await_suspend(std::coroutine_handle<> waiting) const {
+        auto* timer = new QTimer;
+        timer->setSingleShot(true);
+        QObject::connect(timer, &QTimer::timeout, timer, [timer, waiting] {
+            timer->disconnect();
+            timer->deleteLater();
+            waiting.resume();
+        });
+        // The first move ends the wait in the next turn of the event loop.
+        QObject::connect(focus, &X11Focus::moved, timer, [timer, source = focus] {
+            QObject::disconnect(source, nullptr, timer, nullptr);
+            timer->start(0);
+        });
+        timer->start(limit);
+    }
+    void await_resume() const noexcept {}
+};
 
 } // namespace
 
@@ -49,8 +75,8 @@ QCoro::Task<bool> X11PasteTarget::regainFocus() {
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
         if (left.count() <= 0)
             co_return false;
-        auto moved = qCoro(focus.get(), &X11Focus::moved, left);
-        co_await moved;
+        NextMove move{focus.get(), left};
+        co_await move;
     }
     co_return false;
 }

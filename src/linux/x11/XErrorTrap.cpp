@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/XErrorTrap.h"
 
-#include <mutex>
-
 #include <X11/Xlib.h>
 
 namespace vellumry {
@@ -24,18 +22,17 @@ int handleXError(Display* display, unsigned long serial, int code) {
     return 0;
 }
 
+// Qt puts a handler of its own in place when it connects, which may be after us; so each trap sees to it anew.
 void XErrorTrap::install() {
-    static std::once_flag once;
-    std::call_once(once, [] {
-        XSetErrorHandler([](Display* display, XErrorEvent* error) {
-            return handleXError(display, error->serial, error->error_code);
-        });
+    XSetErrorHandler([](Display* display, XErrorEvent* error) {
+        return handleXError(display, error->serial, error->error_code);
     });
 }
 
 XErrorTrap::XErrorTrap(Display* display)
     : m_display(display), m_outer(innermost), m_firstSerial(NextRequest(display)) {
     innermost = this;
+    install();
 }
 
 XErrorTrap::~XErrorTrap() {

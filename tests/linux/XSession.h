@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QProcess>
+#include <functional>
+
+namespace vellumry {
+
+/// An X server and a window manager of the test program's own, gone when this is. Sets DISPLAY.
+class XSession {
+public:
+    /// False when the server or the window manager did not come up.
+    [[nodiscard]] bool start();
+    ~XSession();
+
+    /// Gives the server's keyboard another layout, as the user's settings would; false when that failed.
+    [[nodiscard]] static bool setLayout(const QString& layout);
+
+private:
+    QProcess m_server;
+    QProcess m_manager;
+};
+
+/// Turns the event loop until `condition` holds; false when it did not within three seconds.
+[[nodiscard]] bool waitUntil(const std::function<bool()>& condition);
+
+} // namespace vellumry
