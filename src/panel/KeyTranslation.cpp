@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/KeyTranslation.h"
+
+#include "paste/Shortcut.h"
+
+namespace vellumry {
+
+namespace {
+
+using Command = PanelModel::Command;
+
+/// The key codes of the chords, by what the key types: the letter counts, wherever the layout has it.
+std::optional<quint16> chordKeyCode(int key) {
+    if (key >= Qt::Key_1 && key <= Qt::Key_9)
+        return keyCodeOfDigit(key - Qt::Key_0);
+    switch (key) {
+    case Qt::Key_Backspace:
+        return 51;
+    case Qt::Key_Delete:
+        return 117;
+    case Qt::Key_P:
+        return 35;
+    case Qt::Key_M:
+        return 46;
+    case Qt::Key_Q:
+        return 12;
+    case Qt::Key_W:
+        return 13;
+    case Qt::Key_C:
+        return 8;
+    case Qt::Key_T:
+        return 17;
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<Command> plainCommand(int key, bool isFieldEmpty) {
+    switch (key) {
+    case Qt::Key_Up:
+        return Command::up;
+    case Qt::Key_Down:
+        return Command::down;
+    case Qt::Key_PageUp:
+        return Command::pageUp;
+    case Qt::Key_PageDown:
+        return Command::pageDown;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return Command::enter;
+    case Qt::Key_Escape:
+        return Command::escape;
+    case Qt::Key_Tab:
+        return Command::nextFilter;
+    case Qt::Key_Left:
+        return isFieldEmpty ? std::optional(Command::previousFilter) : std::nullopt;
+    case Qt::Key_Right:
+        return isFieldEmpty ? std::optional(Command::nextFilter) : std::nullopt;
+    case Qt::Key_Home:
+        return isFieldEmpty ? std::optional(Command::home) : std::nullopt;
+    case Qt::Key_End:
+        return isFieldEmpty ? std::optional(Command::end) : std::nullopt;
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<Command> shiftedCommand(int key) {
+    switch (key) {
+    case Qt::Key_Up:
+        return Command::extendUp;
+    case Qt::Key_Down:
+        return Command::extendDown;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return Command::enterPlain;
+    case Qt::Key_Backtab:
+    case Qt::Key_Tab:
+        return Command::previousFilter;
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<Command> controlledCommand(int key) {
+    switch (key) {
+    case Qt::Key_Home:
+    case Qt::Key_Up:
+        return Command::home;
+    case Qt::Key_End:
+    case Qt::Key_Down:
+        return Command::end;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+quint32 eventFlags(Qt::KeyboardModifiers modifiers) {
+    quint32 flags = 0;
+    if (modifiers & Qt::ControlModifier)
+        flags |= eventflag::command;
+    if (modifiers & Qt::MetaModifier)
+        flags |= eventflag::control;
+    if (modifiers & Qt::AltModifier)
+        flags |= eventflag::option;
+    if (modifiers & Qt::ShiftModifier)
+        flags |= eventflag::shift;
+    return flags;
+}
+
+KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty) {
+    const quint32 flags = eventFlags(modifiers);
+    KeyMeaning meaning;
+    if (flags == 0)
+        meaning.command = plainCommand(key, isFieldEmpty);
+    else if (flags == eventflag::shift)
+        meaning.command = shiftedCommand(key);
+    else if (flags == eventflag::command)
+        meaning.command = controlledCommand(key);
+    if (!meaning.command && (flags & eventflag::command) != 0) {
+        if (const std::optional<quint16> keyCode = chordKeyCode(key))
+            meaning.chord = KeyMeaning::Chord{*keyCode, flags};
+    }
+    return meaning;
+}
+
+} // namespace vellumry

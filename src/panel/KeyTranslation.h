@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "panel/PanelModel.h"
+
+#include <Qt>
+#include <optional>
+
+namespace vellumry {
+
+/// What a key pressed in the search field means to the panel: one of its commands, or a chord that the model knows by key code
+/// and flags. Neither: the key belongs to the text.
+struct KeyMeaning {
+    struct Chord {
+        quint16 keyCode = 0;
+        quint32 flags = 0; ///< bits of `eventflag`
+        bool operator==(const Chord&) const = default;
+    };
+    std::optional<PanelModel::Command> command;
+    std::optional<Chord> chord;
+
+    bool operator==(const KeyMeaning&) const = default;
+};
+
+/// `isFieldEmpty`: nothing is typed, so the arrows to the sides choose filters instead of moving the caret. Pure.
+[[nodiscard]] KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty);
+
+/// Qt's modifiers as bits of `eventflag`: Ctrl is command, Super control, Alt option.
+[[nodiscard]] quint32 eventFlags(Qt::KeyboardModifiers modifiers);
+
+} // namespace vellumry

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/PanelController.h"
+
+#include "history/ClipStore.h"
+#include "panel/SymbolProvider.h"
+#include "panel/ThumbnailProvider.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QPainterPath>
+#include <QPalette>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QRegion>
+
+namespace vellumry {
+
+namespace {
+
+constexpr int shadowRoom = 28;
+constexpr int cornerRadius = 14;
+constexpr int settleMilliseconds = 120;
+
+/// Round corners for windows that cannot blend.
+QRegion roundedMask(const QSize& size) {
+    QPainterPath outline;
+    outline.addRoundedRect(QRectF(QPointF(), QSizeF(size)), cornerRadius, cornerRadius);
+    return QRegion(outline.toFillPolygon().toPolygon());
+}
+
+} // namespace
+
+PanelController::PanelController(ClipStore& store, PasteEngine& paster, PanelSurface& surface, Hooks hooks)
+    : m_model(store, paster), m_facade(m_model, hooks.openPanelKeys), m_surface(&surface), m_hooks(std::move(hooks)) {
+    m_model.onClose = [this] { hide(); };
+    m_model.onToast = m_hooks.showToast;
+    m_facade.onGrabbed = [this] { grab(); };
+    m_facade.onDragged = [this] { drag(); };
+    m_facade.onDropped = [this] { drop(); };
+    m_settle.setSingleShot(true);
+    m_settle.setInterval(settleMilliseconds);
+    connect(&m_settle, &QTimer::timeout, this, &PanelController::settlePosition);
+    m_surface->onFocusLost = [this](QWindow* window) {
+        if (m_view && window == m_view.get())
+            hide();
+    };
+}
+
+PanelController::~PanelController() { m_surface->onFocusLost = nullptr; }
+
+void PanelController::makeView() {
+    m_view = std::make_unique<QQuickView>();
+    m_view->setTitle(QStringLiteral("Vellumry"));
+    m_view->setColor(Qt::transparent);
+    m_view->setResizeMode(QQuickView::SizeRootObjectToView);
+    m_view->engine()->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
+    m_view->engine()->addImageProvider(
+        QStringLiteral("thumbnail"), new ThumbnailProvider([this](const QUuid& id) -> std::optional<QByteArray> {
+            const ClipRef clip = m_model.store().find(id);
+            return clip ? clip->thumbnail : std::nullopt;
+        }));
+    m_surface->adopt(m_view.get());
+    applyLook();
+    m_view->setInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&m_facade)}});
+    m_view->setSource(QUrl(QStringLiteral("qrc:/vellumry/Vellumry/Panel/PanelView.qml")));
+}
+
+void PanelController::warmUp() {
+    if (!m_view)
+        makeView();
+}
+
+void PanelController::setAppearance(Appearance appearance) {
+    m_appearance = appearance;
+    if (m_view)
+        applyLook();
+}
+
+/// Colours by the user's choice, room for a shadow where windows may be translucent, and cut corners where not.
+void PanelController::applyLook() {
+    const bool systemIsDark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
+    const bool isDark = m_appearance == Appearance::system ? systemIsDark : m_appearance == Appearance::dark;
+    m_shadowMargin = m_surface->canBlend() ? shadowRoom : 0;
+    m_facade.setAppearance(isDark, m_shadowMargin);
+    const QSize size = panelSize + QSize(2 * m_shadowMargin, 2 * m_shadowMargin);
+    m_view->resize(size);
+    m_view->setMask(m_shadowMargin > 0 ? QRegion() : roundedMask(size));
+}
+
+QRect PanelController::windowFrame(const QRectF& panel) const {
+    return panel.toAlignedRect().adjusted(-m_shadowMargin, -m_shadowMargin, m_shadowMargin, m_shadowMargin);
+}
+
+QRectF PanelController::panelFrame() const {
+    return QRectF(m_view->geometry()).adjusted(m_shadowMargin, m_shadowMargin, -m_shadowMargin, -m_shadowMargin);
+}
+
+bool PanelController::isVisible() const { return m_view && m_view->isVisible(); }
+
+void PanelController::show() {
+    if (isVisible())
+        return;
+    m_model.prepareForShow();
+    warmUp();
+    applyLook();
+    std::optional<QRect> frame;
+    if (const std::optional<ScreenPlace> screen = m_surface->screenUnderPointer()) {
+        const auto saved = m_hooks.position(screen->key);
+        frame = windowFrame(placement::placement(saved, panelSize, screen->visible));
+    }
+    m_surface->present(m_view.get(), frame);
+    m_model.setPresented(true);
+    onShow();
+}
+
+void PanelController::hide() {
+    if (!isVisible())
+        return;
+    m_model.setPresented(false);
+    m_surface->dismiss(m_view.get());
+}
+
+void PanelController::toggle() {
+    if (isVisible())
+        hide();
+    else
+        show();
+}
+
+void PanelController::grab() {
+    m_settle.stop();
+    m_grabOffset = QCursor::pos() - m_view->position();
+}
+
+void PanelController::drag() { m_view->setPosition(QCursor::pos() - m_grabOffset); }
+
+void PanelController::drop() { m_settle.start(); }
+
+void PanelController::settlePosition() {
+    if (!isVisible())
+        return;
+    const QRectF frame = panelFrame();
+    const std::optional<ScreenPlace> screen = m_surface->screenOf(frame.toAlignedRect());
+    if (!screen)
+        return;
+    const auto remembered = placement::rememberable(frame, screen->visible);
+    m_hooks.setPosition(remembered, screen->key);
+    const QRect settled = windowFrame(placement::placement(remembered, panelSize, screen->visible));
+    if (settled != m_view->geometry())
+        m_view->setGeometry(settled);
+}
+
+} // namespace vellumry

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "panel/PanelFacade.h"
+#include "panel/PanelModel.h"
+#include "panel/PanelPlacement.h"
+#include "platform/PanelSurface.h"
+
+#include <QObject>
+#include <QTimer>
+#include <functional>
+#include <memory>
+#include <optional>
+
+class QQuickView;
+
+namespace vellumry {
+
+/// Owns the floating panel: where it opens on which display, showing and hiding it, remembering where the user dragged it. The
+/// application the user was typing in stays the active one. The window is made at the first showing or at `warmUp`, and kept.
+/// Main thread.
+class PanelController : public QObject {
+    Q_OBJECT
+
+public:
+    static constexpr QSize panelSize{780, 500};
+    enum class Appearance { system, light, dark };
+
+    /// What the panel needs of the shell.
+    struct Hooks {
+        /// The remembered place on the display with that key; and remembering one, or forgetting it.
+        std::function<std::optional<placement::Fractions>(const QString& display)> position;
+        std::function<void(std::optional<placement::Fractions>, const QString& display)> setPosition;
+        /// The words for the shortcut that opens the panel.
+        std::function<QString()> openPanelKeys;
+        /// Shows a message on the display under the pointer.
+        std::function<void(const ToastMessage&)> showToast;
+    };
+
+    /// `store`, `paster` and `surface` must outlive this.
+    PanelController(ClipStore& store, PasteEngine& paster, PanelSurface& surface, Hooks hooks);
+    ~PanelController() override;
+
+    [[nodiscard]] PanelModel& model() { return m_model; }
+
+    /// Does nothing when the panel is visible already.
+    void show();
+    /// Does nothing when it is not.
+    void hide();
+    void toggle();
+    [[nodiscard]] bool isVisible() const;
+    /// Makes the window without showing it, so that the first showing is as quick as the others.
+    void warmUp();
+    void setAppearance(Appearance appearance);
+
+    /// Called after the panel came up.
+    std::function<void()> onShow = [] {};
+
+private:
+    void makeView();
+    void applyLook();
+    [[nodiscard]] QRect windowFrame(const QRectF& panel) const;
+    [[nodiscard]] QRectF panelFrame() const;
+    void grab();
+    void drag();
+    void drop();
+    void settlePosition();
+
+    PanelModel m_model;
+    PanelFacade m_facade;
+    PanelSurface* m_surface;
+    Hooks m_hooks;
+    std::unique_ptr<QQuickView> m_view;
+    Appearance m_appearance = Appearance::system;
+    int m_shadowMargin = 0;
+    /// Saves the place a moment after the pointer let go.
+    QTimer m_settle;
+    QPoint m_grabOffset;
+};
+
+} // namespace vellumry

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/PanelFacade.h"
+
+#include "foundation/Localisation.h"
+#include "foundation/Text.h"
+#include "history/ClipStore.h"
+#include "panel/KeyTranslation.h"
+
+#include <QLocale>
+
+namespace vellumry {
+
+namespace {
+
+QVariantMap hint(const QString& keys, const QString& text) {
+    return {{QStringLiteral("keys"), keys}, {QStringLiteral("text"), text}};
+}
+
+QString titleOf(ClipFilter filter) {
+    switch (filter) {
+    case ClipFilter::all:
+        return localised("All");
+    case ClipFilter::text:
+        return localised("Text");
+    case ClipFilter::links:
+        return localised("Links");
+    case ClipFilter::images:
+        return localised("Images");
+    case ClipFilter::files:
+        return localised("Files");
+    case ClipFilter::colors:
+        return localised("Colors");
+    case ClipFilter::pinned:
+        return localised("Pinned");
+    }
+    return QString();
+}
+
+} // namespace
+
+PanelFacade::PanelFacade(PanelModel& model, std::function<QString()> openPanelKeys)
+    : m_model(&model), m_openPanelKeys(std::move(openPanelKeys)),
+      m_rows(model, {localised("⌘") + QStringLiteral("%1"), localised("⌃") + localised("⌥") + QStringLiteral("%1")}) {
+    connect(m_model, &PanelModel::queryChanged, this, &PanelFacade::queryChanged);
+    connect(m_model, &PanelModel::filterChanged, this, &PanelFacade::filterChanged);
+    connect(m_model, &PanelModel::sectionsChanged, this, &PanelFacade::contentChanged);
+    connect(m_model, &PanelModel::sectionsChanged, this, &PanelFacade::primaryRowChanged);
+    connect(m_model, &PanelModel::selectionChanged, this, &PanelFacade::primaryRowChanged);
+    connect(m_model, &PanelModel::selectionChanged, this, &PanelFacade::hintsChanged);
+    connect(m_model, &PanelModel::focusTokenChanged, this, &PanelFacade::focusTokenChanged);
+    connect(m_model, &PanelModel::transformChanged, this, &PanelFacade::transformChanged);
+}
+
+QString PanelFacade::words(const QString& key) const { return localised(key.toUtf8().constData()); }
+
+bool PanelFacade::keyPressed(int key, int modifiers, bool hasTextSelection) {
+    const KeyMeaning meaning = meaningOf(key, Qt::KeyboardModifiers(modifiers), m_model->query().isEmpty());
+    if (meaning.command)
+        return m_model->handle(*meaning.command);
+    if (meaning.chord)
+        return m_model->keyEquivalent(meaning.chord->keyCode, meaning.chord->flags, hasTextSelection);
+    return false;
+}
+
+void PanelFacade::rowPressed(int row, int modifiers) {
+    if (const ClipRef clip = m_rows.clipAt(row))
+        m_collapsesOnRelease = m_model->click(clip->id, eventFlags(Qt::KeyboardModifiers(modifiers)));
+}
+
+void PanelFacade::rowReleased(int row) {
+    const ClipRef clip = m_rows.clipAt(row);
+    if (m_collapsesOnRelease && clip)
+        m_model->selectOnly(clip->id);
+    m_collapsesOnRelease = false;
+}
+
+void PanelFacade::rowDoubleClicked(int row) {
+    m_collapsesOnRelease = false;
+    if (const ClipRef clip = m_rows.clipAt(row))
+        m_model->pasteRow(clip->id);
+}
+
+void PanelFacade::transformChosen(int index) {
+    const ClipRef clip = m_model->currentClip();
+    if (!clip || index < 0 || index >= static_cast<int>(PanelModel::transformList.size()))
+        return;
+    m_model->toggleTransforms();
+    m_model->pasteClip(clip, true, PanelModel::transformList[static_cast<std::size_t>(index)]);
+}
+
+void PanelFacade::grabbed() { onGrabbed(); }
+void PanelFacade::dragged() { onDragged(); }
+void PanelFacade::dropped() { onDropped(); }
+
+bool PanelFacade::hasQuery() const { return !text::isBlank(m_model->query()); }
+
+QVariantList PanelFacade::filters() const {
+    QVariantList list;
+    for (const ClipFilter filter : allClipFilters)
+        list.append(QVariantMap{{QStringLiteral("title"), titleOf(filter)},
+                                {QStringLiteral("count"), QLocale().toString(m_model->count(filter))}});
+    return list;
+}
+
+QStringList PanelFacade::emptyLines() const {
+    if (hasQuery())
+        return {localised("No clips match “") + m_model->query() + QStringLiteral("”")};
+    if (m_model->filter() != ClipFilter::all)
+        return {localised("Nothing here yet")};
+    // The sentence names the default keys; who chose others reads those.
+    QString invitation = localised("Press ⌃⌘V anytime to open Vellumry.");
+    invitation.replace(localised("⌃") + localised("⌘") + QLatin1Char('V'), m_openPanelKeys());
+    return {localised("Nothing here yet"), localised("Copy something. It shows up here."), invitation};
+}
+
+QString PanelFacade::countText() const {
+    return QLocale().toString(m_model->count(ClipFilter::all)) + localised(" clips · encrypted on this Mac");
+}
+
+QVariantList PanelFacade::hints() const {
+    const bool several = m_model->selectedCount() > 1;
+    return {
+        hint(QStringLiteral("↑↓"), localised("Choose")),
+        hint(QStringLiteral("↩"), several ? localised("Merge & paste") : localised("Paste")),
+        hint(QStringLiteral("⇧↩"), localised("Plain text")),
+        hint(localised("⌘") + QLatin1Char('T'), localised("Transform")),
+        hint(localised("⌘") + QStringLiteral("⌫"), localised("Delete")),
+    };
+}
+
+QStringList PanelFacade::transforms() const {
+    QStringList titles;
+    for (const TextTransform transform : PanelModel::transformList)
+        titles.append(transformTitle(transform));
+    return titles;
+}
+
+void PanelFacade::setAppearance(bool isDark, int shadowMargin) {
+    if (m_isDark == isDark && m_shadowMargin == shadowMargin)
+        return;
+    m_isDark = isDark;
+    m_shadowMargin = shadowMargin;
+    Q_EMIT appearanceChanged();
+}
+
+} // namespace vellumry

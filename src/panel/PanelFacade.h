@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "panel/PanelListModel.h"
+#include "panel/PanelModel.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QVariant>
+#include <functional>
+
+namespace vellumry {
+
+/// What the panel's QML sees: the model in words and rows, and the raw input handed back to it. Main thread.
+class PanelFacade : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QAbstractItemModel* rows READ rows CONSTANT)
+    Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
+    Q_PROPERTY(bool hasQuery READ hasQuery NOTIFY queryChanged)
+    Q_PROPERTY(int filter READ filter WRITE setFilter NOTIFY filterChanged)
+    Q_PROPERTY(QVariantList filters READ filters NOTIFY contentChanged)
+    Q_PROPERTY(bool hasRows READ hasRows NOTIFY contentChanged)
+    Q_PROPERTY(QStringList emptyLines READ emptyLines NOTIFY contentChanged)
+    Q_PROPERTY(QString countText READ countText NOTIFY contentChanged)
+    Q_PROPERTY(QVariantList hints READ hints NOTIFY hintsChanged)
+    Q_PROPERTY(int primaryRow READ primaryRow NOTIFY primaryRowChanged)
+    Q_PROPERTY(int focusToken READ focusToken NOTIFY focusTokenChanged)
+    Q_PROPERTY(bool isTransformListOpen READ isTransformListOpen NOTIFY transformChanged)
+    Q_PROPERTY(int transformIndex READ transformIndex NOTIFY transformChanged)
+    Q_PROPERTY(QStringList transforms READ transforms CONSTANT)
+    Q_PROPERTY(bool dark READ dark NOTIFY appearanceChanged)
+    Q_PROPERTY(int shadowMargin READ shadowMargin NOTIFY appearanceChanged)
+
+public:
+    /// `openPanelKeys` answers the words for the shortcut that opens the panel.
+    PanelFacade(PanelModel& model, std::function<QString()> openPanelKeys);
+
+    Q_INVOKABLE [[nodiscard]] QString words(const QString& key) const;
+    /// True when the key was the panel's.
+    Q_INVOKABLE bool keyPressed(int key, int modifiers, bool hasTextSelection);
+    Q_INVOKABLE void rowPressed(int row, int modifiers);
+    Q_INVOKABLE void rowReleased(int row);
+    Q_INVOKABLE void rowDoubleClicked(int row);
+    Q_INVOKABLE void transformChosen(int index);
+    Q_INVOKABLE void grabbed();
+    Q_INVOKABLE void dragged();
+    Q_INVOKABLE void dropped();
+
+    [[nodiscard]] QAbstractItemModel* rows() { return &m_rows; }
+    [[nodiscard]] QString query() const { return m_model->query(); }
+    void setQuery(const QString& text) { m_model->searchTextEdited(text); }
+    [[nodiscard]] bool hasQuery() const;
+    [[nodiscard]] int filter() const { return m_model->filterIndex(); }
+    void setFilter(int filter) { m_model->setFilterIndex(filter); }
+    [[nodiscard]] QVariantList filters() const;
+    [[nodiscard]] bool hasRows() const { return m_rows.rowCount() > 0; }
+    [[nodiscard]] QStringList emptyLines() const;
+    [[nodiscard]] QString countText() const;
+    [[nodiscard]] QVariantList hints() const;
+    [[nodiscard]] int primaryRow() const { return m_rows.primaryRow(); }
+    [[nodiscard]] int focusToken() const { return m_model->focusToken(); }
+    [[nodiscard]] bool isTransformListOpen() const { return m_model->isTransformListOpen(); }
+    [[nodiscard]] int transformIndex() const { return m_model->transformIndex(); }
+    [[nodiscard]] QStringList transforms() const;
+    [[nodiscard]] bool dark() const { return m_isDark; }
+    [[nodiscard]] int shadowMargin() const { return m_shadowMargin; }
+    void setAppearance(bool isDark, int shadowMargin);
+
+    /// The pointer took hold of an empty part, moved, let go.
+    std::function<void()> onGrabbed = [] {};
+    std::function<void()> onDragged = [] {};
+    std::function<void()> onDropped = [] {};
+
+Q_SIGNALS:
+    void queryChanged();
+    void filterChanged();
+    void contentChanged();
+    void hintsChanged();
+    void primaryRowChanged();
+    void focusTokenChanged();
+    void transformChanged();
+    void appearanceChanged();
+
+private:
+    PanelModel* m_model;
+    std::function<QString()> m_openPanelKeys;
+    PanelListModel m_rows;
+    bool m_isDark = false;
+    int m_shadowMargin = 0;
+    bool m_collapsesOnRelease = false;
+};
+
+} // namespace vellumry

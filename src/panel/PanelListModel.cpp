@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/PanelListModel.h"
+
+#include "capture/FileStatus.h"
+#include "foundation/Localisation.h"
+#include "panel/RowAppearance.h"
+
+#include <algorithm>
+
+namespace vellumry {
+
+PanelListModel::PanelListModel(PanelModel& model, KeyWords words, QObject* parent)
+    : QAbstractListModel(parent), m_model(&model), m_words(std::move(words)) {
+    connect(m_model, &PanelModel::sectionsChanged, this, &PanelListModel::rebuild);
+    connect(m_model, &PanelModel::fileStatusesChanged, this, &PanelListModel::rebuild);
+    connect(m_model, &PanelModel::availablePinnedNumbersChanged, this, &PanelListModel::rebuild);
+    connect(m_model, &PanelModel::selectionChanged, this, &PanelListModel::repaintSelection);
+    rebuild();
+}
+
+void PanelListModel::rebuild() {
+    std::vector<Row> rows;
+    const std::vector<PanelModel::Section>& sections = m_model->sections();
+    std::size_t count = sections.size();
+    for (const PanelModel::Section& section : sections)
+        count += section.clips.size();
+    rows.reserve(count);
+    for (const PanelModel::Section& section : sections) {
+        rows.push_back({section.title, nullptr});
+        for (const ClipRef& clip : section.clips)
+            rows.push_back({QString(), clip});
+    }
+    m_rowNumbers = m_model->rowNumbers();
+    m_pinNumbers = m_model->pinNumbers();
+    m_selected = m_model->selectedIDs();
+
+    const int before = static_cast<int>(m_rows.size());
+    const int after = static_cast<int>(rows.size());
+    if (after > before) {
+        beginInsertRows({}, before, after - 1);
+        m_rows = std::move(rows);
+        endInsertRows();
+    } else if (after < before) {
+        beginRemoveRows({}, after, before - 1);
+        m_rows = std::move(rows);
+        endRemoveRows();
+    } else {
+        m_rows = std::move(rows);
+    }
+    if (const int shared = std::min(before, after); shared > 0)
+        Q_EMIT dataChanged(index(0), index(shared - 1));
+}
+
+void PanelListModel::repaintSelection() {
+    m_selected = m_model->selectedIDs();
+    if (!m_rows.empty())
+        Q_EMIT dataChanged(index(0), index(static_cast<int>(m_rows.size()) - 1), {IsSelectedRole});
+}
+
+int PanelListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+ClipRef PanelListModel::clipAt(int row) const {
+    return row >= 0 && row < rowCount() ? m_rows[static_cast<std::size_t>(row)].clip : nullptr;
+}
+
+int PanelListModel::primaryRow() const {
+    const std::optional<QUuid> selected = m_model->selectedID();
+    const auto found = std::find_if(m_rows.begin(), m_rows.end(), [&](const Row& row) {
+        return row.clip && selected && row.clip->id == *selected;
+    });
+    return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
+}
+
+QVariant PanelListModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Row& row = m_rows[static_cast<std::size_t>(index.row())];
+    if (role == IsHeaderRole)
+        return !row.clip;
+    if (role == IsFirstRole)
+        return index.row() == 0;
+    return row.clip ? clipData(*row.clip, role) : headerData(row, role);
+}
+
+QVariant PanelListModel::headerData(const Row& row, int role) const {
+    switch (role) {
+    case Qt::DisplayRole:
+    case HeaderRole:
+        return row.header;
+    case IsPinnedRole:
+    case IsSelectedRole:
+    case IsSensitiveRole:
+        return false;
+    default:
+        return QString();
+    }
+}
+
+QVariant PanelListModel::clipData(const Clip& clip, int role) const {
+    switch (role) {
+    case Qt::DisplayRole:
+    case TitleRole:
+        return row::titleOf(clip);
+    case SourceNameRole:
+        return row::sourceOf(clip);
+    case ImageMatchRole:
+        return m_model->imageMatch(clip).value_or(QString());
+    case SymbolRole:
+        return row::symbolOf(clip);
+    case ThumbnailRole:
+        return clip.thumbnail && !clip.isSensitive()
+                   ? QStringLiteral("image://thumbnail/") + clip.id.toString(QUuid::WithoutBraces)
+                   : QString();
+    case SwatchRole:
+        return row::swatchOf(clip);
+    case PillRole:
+        return pillOf(clip);
+    case NumberKeysRole:
+        return keysOf(m_rowNumbers, clip, m_words.number);
+    case PinKeysRole:
+        return keysOf(m_pinNumbers, clip, m_words.pin);
+    case IsPinnedRole:
+        return clip.isPinned;
+    case IsSelectedRole:
+        return m_model->isSelected(clip.id);
+    case IsSensitiveRole:
+        return clip.isSensitive();
+    default:
+        return QString();
+    }
+}
+
+QString PanelListModel::pillOf(const Clip& clip) const {
+    const auto statuses = m_model->fileStatuses().constFind(clip.id);
+    if (statuses == m_model->fileStatuses().constEnd())
+        return QString();
+    for (const FileStatus& status : *statuses) {
+        switch (status.kind) {
+        case FileStatus::Case::missing:
+            return localised("Deleted");
+        case FileStatus::Case::inTrash:
+            return localised("In Trash");
+        case FileStatus::Case::volumeUnavailable:
+            return localised("Offline");
+        case FileStatus::Case::available:
+        case FileStatus::Case::moved:
+            break;
+        }
+    }
+    return QString();
+}
+
+QString PanelListModel::keysOf(const QHash<QUuid, int>& numbers, const Clip& clip, const QString& words) const {
+    const auto number = numbers.constFind(clip.id);
+    return number == numbers.constEnd() ? QString() : words.arg(*number);
+}
+
+QHash<int, QByteArray> PanelListModel::roleNames() const {
+    return {
+        {HeaderRole, "header"},           {IsHeaderRole, "isHeader"},     {IsFirstRole, "isFirst"},
+        {TitleRole, "title"},             {SourceNameRole, "sourceName"}, {ImageMatchRole, "imageMatch"},
+        {SymbolRole, "symbol"},           {ThumbnailRole, "thumbnail"},   {SwatchRole, "swatch"},
+        {PillRole, "pill"},               {NumberKeysRole, "numberKeys"}, {PinKeysRole, "pinKeys"},
+        {IsPinnedRole, "isPinned"},       {IsSelectedRole, "isSelected"}, {IsSensitiveRole, "isSensitive"},
+    };
+}
+
+} // namespace vellumry

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "panel/PanelModel.h"
+
+#include <QAbstractListModel>
+#include <QHash>
+#include <vector>
+
+namespace vellumry {
+
+/// The panel model's sections as the rows of a list: a header, then its clips. A change rebinds the rows that stay and adds or removes
+/// at the end, so that a keystroke makes no delegate anew. Main thread.
+class PanelListModel : public QAbstractListModel {
+    Q_OBJECT
+
+public:
+    enum Role {
+        HeaderRole = Qt::UserRole + 1,
+        IsHeaderRole,
+        IsFirstRole,
+        TitleRole,
+        SourceNameRole,
+        ImageMatchRole,
+        SymbolRole,
+        ThumbnailRole,
+        SwatchRole,
+        PillRole,
+        NumberKeysRole,
+        PinKeysRole,
+        IsPinnedRole,
+        IsSelectedRole,
+        IsSensitiveRole,
+    };
+
+    /// The words on the caps of a row's number and of a pin's keys: "%1" is the digit.
+    struct KeyWords {
+        QString number;
+        QString pin;
+    };
+
+    /// `model` must outlive this.
+    PanelListModel(PanelModel& model, KeyWords words, QObject* parent = nullptr);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    /// Null for a header and for a row out of range.
+    [[nodiscard]] ClipRef clipAt(int row) const;
+    /// -1 without one.
+    [[nodiscard]] int primaryRow() const;
+
+private:
+    struct Row {
+        QString header; ///< of a header; may be empty
+        ClipRef clip;   ///< null for a header
+    };
+
+    void rebuild();
+    void repaintSelection();
+    [[nodiscard]] QVariant headerData(const Row& row, int role) const;
+    [[nodiscard]] QVariant clipData(const Clip& clip, int role) const;
+    [[nodiscard]] QString pillOf(const Clip& clip) const;
+    [[nodiscard]] QString keysOf(const QHash<QUuid, int>& numbers, const Clip& clip, const QString& words) const;
+
+    PanelModel* m_model;
+    KeyWords m_words;
+    std::vector<Row> m_rows;
+    QHash<QUuid, int> m_rowNumbers;
+    QHash<QUuid, int> m_pinNumbers;
+    QSet<QUuid> m_selected;
+};
+
+} // namespace vellumry

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick
+
+// The panel: search above, chips, the list, what the keys do below. `shadowMargin` is the room around it for its shadow.
+Item {
+    id: root
+
+    required property var panel
+    readonly property int shadowMargin: panel.shadowMargin
+
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+
+    Binding {
+        target: Look
+        property: "dark"
+        value: root.panel.dark
+    }
+    BorderImage {
+        visible: root.shadowMargin > 0
+        anchors.fill: parent
+        source: root.shadowMargin > 0 ? "image://symbol/shadow" : ""
+        border {
+            left: 60
+            right: 60
+            top: 60
+            bottom: 60
+        }
+    }
+    Rectangle {
+        id: board
+        anchors.fill: parent
+        anchors.margins: root.shadowMargin
+        radius: Look.radius
+        color: Look.ground
+        border.color: Look.edge
+        border.width: 1
+        Accessible.role: Accessible.Dialog
+        Accessible.name: "Vellumry"
+
+        MouseArea {
+            // The empty parts move the panel.
+            anchors.fill: parent
+            onPressed: root.panel.grabbed()
+            onPositionChanged: root.panel.dragged()
+            onReleased: root.panel.dropped()
+        }
+        Symbol {
+            id: lens
+            anchors.left: parent.left
+            anchors.leftMargin: 18
+            anchors.verticalCenter: field.verticalCenter
+            name: "magnifyingglass"
+            size: 20
+        }
+        SearchField {
+            id: field
+            panel: root.panel
+            anchors.left: lens.right
+            anchors.leftMargin: 12
+            anchors.right: parent.right
+            anchors.rightMargin: 18
+            anchors.top: parent.top
+            anchors.topMargin: 15
+        }
+        Rectangle {
+            id: line
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.leftMargin: 1
+            anchors.rightMargin: 1
+            anchors.top: field.bottom
+            anchors.topMargin: 14
+            height: 1
+            color: Look.line
+        }
+        FilterChips {
+            id: chips
+            panel: root.panel
+            anchors.left: parent.left
+            anchors.leftMargin: 14
+            anchors.top: line.bottom
+            anchors.topMargin: 10
+        }
+        ClipList {
+            id: list
+            panel: root.panel
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.leftMargin: 1
+            anchors.rightMargin: 1
+            anchors.top: chips.bottom
+            anchors.topMargin: 6
+            anchors.bottom: footer.top
+            visible: root.panel.hasRows
+        }
+        EmptyState {
+            panel: root.panel
+            anchors.centerIn: list
+            visible: !root.panel.hasRows
+        }
+        TransformList {
+            panel: root.panel
+            anchors.right: parent.right
+            anchors.rightMargin: 18
+            anchors.bottom: footer.top
+            anchors.bottomMargin: 8
+            visible: root.panel.isTransformListOpen
+        }
+        FooterBar {
+            id: footer
+            panel: root.panel
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.leftMargin: 1
+            anchors.rightMargin: 1
+            anchors.bottom: parent.bottom
+        }
+    }
+}

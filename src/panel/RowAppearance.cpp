@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/RowAppearance.h"
+
+#include "capture/ContentDetection.h"
+#include "foundation/Localisation.h"
+
+#include <QColor>
+#include <QRegularExpression>
+#include <QSet>
+#include <algorithm>
+#include <cmath>
+
+namespace vellumry::row {
+
+namespace {
+
+bool isCodeApp(const QString& identifier) {
+    static const QSet<QString> codeApps{
+        QStringLiteral("com.apple.Terminal"),
+        QStringLiteral("com.googlecode.iterm2"),
+        QStringLiteral("com.microsoft.VSCode"),
+        QStringLiteral("com.apple.dt.Xcode"),
+        QStringLiteral("dev.warp.Warp-Stable"),
+        QStringLiteral("com.sublimetext.4"),
+        QStringLiteral("com.todesktop.230313mzl4w4u92"),
+        QStringLiteral("com.brennhaldt.ghostty"),
+        QStringLiteral("dev.zed.Zed"),
+        QStringLiteral("com.panic.Nova"),
+    };
+    return codeApps.contains(identifier) || identifier.startsWith(QLatin1String("com.jetbrains."));
+}
+
+QString hiddenTitle(const QString& title) {
+    QString digits;
+    for (const QChar character : title) {
+        if (character.isNumber())
+            digits += character;
+    }
+    if (isCardNumber(title) && digits.size() >= 4)
+        return QStringLiteral("Card •••• ") + digits.right(4);
+    return localised("Hidden");
+}
+
+/// "rgb(…)", "rgba(…)", "hsl(…)" and "hsla(…)" of CSS.
+QColor functionalColor(const QString& text) {
+    static const QRegularExpression numbers(QStringLiteral("([0-9.]+)(%?)"));
+    std::vector<std::pair<double, bool>> parts;
+    for (auto match = numbers.globalMatch(text); match.hasNext();) {
+        const auto part = match.next();
+        parts.emplace_back(part.captured(1).toDouble(), !part.captured(2).isEmpty());
+    }
+    if (parts.size() < 3)
+        return {};
+    const auto share = [&](std::size_t index, double whole) {
+        return std::clamp(parts[index].first / (parts[index].second ? 100.0 : whole), 0.0, 1.0);
+    };
+    const double alpha = parts.size() > 3 ? share(3, 1.0) : 1.0;
+    if (text.startsWith(QLatin1String("hsl"), Qt::CaseInsensitive))
+        return QColor::fromHslF(static_cast<float>(std::fmod(parts[0].first, 360.0) / 360.0),
+                                static_cast<float>(std::clamp(parts[1].first / 100.0, 0.0, 1.0)),
+                                static_cast<float>(std::clamp(parts[2].first / 100.0, 0.0, 1.0)), static_cast<float>(alpha));
+    return QColor::fromRgbF(static_cast<float>(share(0, 255.0)), static_cast<float>(share(1, 255.0)),
+                            static_cast<float>(share(2, 255.0)), static_cast<float>(alpha));
+}
+
+} // namespace
+
+QString titleOf(const Clip& clip) {
+    if (clip.isSensitive())
+        return hiddenTitle(clip.title);
+    QString title = clip.title;
+    return title.replace(QLatin1Char('\n'), QLatin1Char(' '));
+}
+
+QString symbolOf(const Clip& clip) {
+    if (clip.isSensitive())
+        return QStringLiteral("lock.fill");
+    switch (clip.kind) {
+    case ClipKind::text:
+        return clip.sourceBundleID && isCodeApp(*clip.sourceBundleID)
+                   ? QStringLiteral("chevron.left.forwardslash.chevron.right")
+                   : QStringLiteral("text.alignleft");
+    case ClipKind::richText:
+        return QStringLiteral("doc.richtext");
+    case ClipKind::link:
+        return QStringLiteral("link");
+    case ClipKind::image:
+        return QStringLiteral("photo");
+    case ClipKind::file:
+        return clip.files.size() > 1 ? QStringLiteral("doc.on.doc") : QStringLiteral("doc");
+    case ClipKind::color:
+        return QStringLiteral("paintpalette");
+    }
+    return QString();
+}
+
+QString swatchOf(const Clip& clip) {
+    if (clip.kind != ClipKind::color || clip.isSensitive())
+        return QString();
+    const QString text = clip.title.trimmed();
+    QColor color;
+    if (text.size() == 9 && text.startsWith(QLatin1Char('#')))
+        color = QColor(QLatin1Char('#') + text.mid(7) + text.mid(1, 6)); // CSS puts alpha last, Qt first
+    else if (text.startsWith(QLatin1Char('#')))
+        color = QColor(text);
+    else
+        color = functionalColor(text);
+    return color.isValid() ? color.name(QColor::HexArgb) : QString();
+}
+
+QString sourceOf(const Clip& clip) { return clip.sourceAppName.value_or(localised("Unknown app")); }
+
+} // namespace vellumry::row

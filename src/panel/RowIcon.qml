@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick
+
+// What a clip looks like in small: its picture, its colour, or the symbol of its kind.
+Rectangle {
+    id: icon
+
+    property string symbol
+    property string thumbnail
+    property string swatch
+    property bool isSelected: false
+    property int size: 32
+
+    width: size
+    height: size
+    radius: 7
+    color: swatch !== "" ? swatch : isSelected ? Look.selectedTile : Look.tile
+    border.width: swatch !== "" ? 1 : 0
+    border.color: Look.edge
+
+    Symbol {
+        anchors.centerIn: parent
+        visible: icon.thumbnail === "" && icon.swatch === ""
+        name: visible ? icon.symbol : ""
+        tint: icon.isSelected ? Look.accent : Look.secondary
+        size: 18
+    }
+    Image {
+        anchors.fill: parent
+        visible: icon.thumbnail !== ""
+        source: icon.thumbnail
+        sourceSize: Qt.size(icon.size, icon.size)
+        asynchronous: false
+    }
+}

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick
+
+// One of our own symbols, in a colour.
+Image {
+    property string name
+    property color tint: Look.secondary
+    property int size: 18
+
+    width: size
+    height: size
+    sourceSize: Qt.size(size, size)
+    source: name === "" ? "" : "image://symbol/" + name + "/" + String(tint).slice(-6)
+    smooth: true
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCache>
+#include <QHash>
+#include <QQuickImageProvider>
+
+namespace vellumry {
+
+/// Draws our symbols ("NAME/RRGGBB") and the panel's shadow ("shadow") for QML. A small cache keeps what is on the screen. Main
+/// thread (QML asks synchronously).
+class SymbolProvider : public QQuickImageProvider {
+public:
+    SymbolProvider();
+    QImage requestImage(const QString& id, QSize* size, const QSize& requested) override;
+
+    /// True when a symbol of that name exists.
+    [[nodiscard]] static bool has(const QString& name);
+
+private:
+    QCache<QString, QImage> m_cache{256};
+};
+
+/// A soft shadow around a rounded rectangle, made to be stretched from its middle; borders of 60.
+[[nodiscard]] QImage panelShadow();
+
+} // namespace vellumry

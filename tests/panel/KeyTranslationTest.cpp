@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/KeyTranslation.h"
+#include "paste/Shortcut.h"
+
+#include <gtest/gtest.h>
+
+using namespace vellumry;
+using Command = PanelModel::Command;
+
+namespace {
+
+struct Row {
+    const char* name;
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    bool isFieldEmpty;
+    KeyMeaning meaning;
+};
+
+class KeyTranslation : public ::testing::TestWithParam<Row> {};
+
+KeyMeaning command(Command which) { return {which, std::nullopt}; }
+KeyMeaning chord(quint16 keyCode, quint32 flags = eventflag::command) { return {std::nullopt, KeyMeaning::Chord{keyCode, flags}}; }
+
+const Row rows[] = {
+    {"Up", Qt::Key_Up, Qt::NoModifier, false, command(Command::up)},
+    {"KeypadDown", Qt::Key_Down, Qt::KeypadModifier, false, command(Command::down)},
+    {"ShiftUpExtends", Qt::Key_Up, Qt::ShiftModifier, false, command(Command::extendUp)},
+    {"ShiftDownExtends", Qt::Key_Down, Qt::ShiftModifier, false, command(Command::extendDown)},
+    {"PageUp", Qt::Key_PageUp, Qt::NoModifier, false, command(Command::pageUp)},
+    {"PageDown", Qt::Key_PageDown, Qt::NoModifier, false, command(Command::pageDown)},
+    {"Return", Qt::Key_Return, Qt::NoModifier, false, command(Command::enter)},
+    {"KeypadEnter", Qt::Key_Enter, Qt::KeypadModifier, false, command(Command::enter)},
+    {"ShiftReturnIsPlain", Qt::Key_Return, Qt::ShiftModifier, false, command(Command::enterPlain)},
+    {"Escape", Qt::Key_Escape, Qt::NoModifier, true, command(Command::escape)},
+    {"Tab", Qt::Key_Tab, Qt::NoModifier, false, command(Command::nextFilter)},
+    {"Backtab", Qt::Key_Backtab, Qt::ShiftModifier, false, command(Command::previousFilter)},
+    {"LeftInAnEmptyField", Qt::Key_Left, Qt::NoModifier, true, command(Command::previousFilter)},
+    {"LeftWithTextMovesTheCaret", Qt::Key_Left, Qt::NoModifier, false, {}},
+    {"RightInAnEmptyField", Qt::Key_Right, Qt::NoModifier, true, command(Command::nextFilter)},
+    {"HomeWithTextMovesTheCaret", Qt::Key_Home, Qt::NoModifier, false, {}},
+    {"HomeInAnEmptyField", Qt::Key_Home, Qt::NoModifier, true, command(Command::home)},
+    {"CtrlEnd", Qt::Key_End, Qt::ControlModifier, false, command(Command::end)},
+    {"CtrlDigit", Qt::Key_3, Qt::ControlModifier, false, chord(20)},
+    {"CtrlP", Qt::Key_P, Qt::ControlModifier, false, chord(35)},
+    {"CtrlC", Qt::Key_C, Qt::ControlModifier, false, chord(8)},
+    {"CtrlBackspace", Qt::Key_Backspace, Qt::ControlModifier, false, chord(51)},
+    {"CtrlShiftPKeepsItsFlags", Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier, false,
+     chord(35, eventflag::command | eventflag::shift)},
+    {"CtrlVBelongsToTheText", Qt::Key_V, Qt::ControlModifier, false, {}},
+    {"ALetterBelongsToTheText", Qt::Key_P, Qt::NoModifier, false, {}},
+    {"AltUpIsNothing", Qt::Key_Up, Qt::AltModifier, false, {}},
+};
+
+} // namespace
+
+TEST_P(KeyTranslation, GivesItsMeaning) {
+    const Row& row = GetParam();
+    EXPECT_TRUE(meaningOf(row.key, row.modifiers, row.isFieldEmpty) == row.meaning);
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, KeyTranslation, ::testing::ValuesIn(rows),
+                         [](const ::testing::TestParamInfo<Row>& info) { return std::string(info.param.name); });
