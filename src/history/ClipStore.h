@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/Date.h"
 #include "history/Clip.h"
 #include "history/ClipFilter.h"
 #include "history/RetentionPolicy.h"
@@ -44,10 +45,16 @@ public:
     /// Seconds that a sensitive clip lives; 60 at first.
     [[nodiscard]] double sensitiveLifetime() const;
     void setSensitiveLifetime(double seconds);
+    /// Whether a timer removes sensitive clips on time. It governs the timer alone: an expired clip goes at the latest with
+    /// the next retention. False at first.
     [[nodiscard]] bool autoExpire() const;
     void setAutoExpire(bool value);
     /// The earliest expiry of all clips.
     [[nodiscard]] std::optional<Date> nextExpiry() const;
+    /// True while the timer waits for an expiry.
+    [[nodiscard]] bool isExpiryScheduled() const;
+    /// What the timer goes by; the wall clock at first.
+    void setClock(Clock clock);
 
     /// The stored clip; null if it could not be written (then the clip it would have replaced stands unchanged) or if
     /// retention removed it at once. When the task is done, the clip is durable.
@@ -75,6 +82,14 @@ Q_SIGNALS:
     void clipsChanged();
 
 private:
+    ClipStore(std::shared_ptr<ClipDatabase> database, RetentionPolicy policy, bool recoveredFromDamage,
+              std::vector<ClipRef> clips);
+    /// Tells everybody who looks at `clips`, the timer first.
+    void changed();
+    void forget(const QUuid& id);
+    /// Undoes an addition that could not be written.
+    void takeBack(const QUuid& id, const ClipRef& existing);
+
     struct Private;
     std::unique_ptr<Private> d;
 };

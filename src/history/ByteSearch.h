@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <array>
+#include <cstddef>
+
+namespace vellumry {
+
+/// Finds one sequence of bytes in long stretches of memory, at the speed of that memory: it looks at the two bytes of the
+/// needle that text seldom has, many places at a time. A value, prepared once for each needle; any thread.
+class ByteSearch {
+public:
+    /// `needle` may not be empty.
+    explicit ByteSearch(QByteArray needle);
+
+    /// The first place of the needle in [begin, end), or null. Reads no byte outside.
+    [[nodiscard]] const char* find(const char* begin, const char* end) const;
+    [[nodiscard]] const QByteArray& needle() const { return m_needle; }
+
+private:
+    /// Examines as many whole blocks as fit; `begin` is moved behind what it has ruled out.
+    const char* findInBlocks(const char*& begin, const char* end) const;
+
+    QByteArray m_needle;
+    std::size_t m_rare = 0;    ///< where in the needle its rarest byte stands
+    std::size_t m_second = 0;  ///< its second rarest, elsewhere; the same when the needle has one byte
+};
+
+} // namespace vellumry

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/ClipDatabase.h"
+
+#include "history/ClipRows.h"
+#include "history/HistoryFile.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace vellumry {
+
+namespace {
+
+/// Lets the file give single pages back. A file that cannot yet, a new one included, is rewritten once.
+void enableIncrementalVacuum(SQLiteDatabase& database) {
+    {
+        auto mode = database.prepare("PRAGMA auto_vacuum;");
+        if (mode.step() && mode.text(0) == "2")
+            return;
+    }
+    database.execute("PRAGMA auto_vacuum = INCREMENTAL;");
+    database.execute("VACUUM;");
+}
+
+} // namespace
+
+OpenedHistory ClipDatabase::openHistory(const QString& folder, KeyStore& keyStore) {
+    ClipCrypto::selfTest();
+    const QString path = QDir(folder).filePath(historyfile::fileName);
+    bool putAside = false;
+    std::optional<SymmetricKey> key = keyStore.load();
+    if (!key) {
+        // Whatever lies there was sealed with a key that is gone.
+        if (QFile::exists(path)) {
+            historyfile::moveAside(path, currentDate());
+            putAside = true;
+        }
+        key = SymmetricKey::random();
+        keyStore.save(*key);
+    }
+    if (QFile::exists(path) && !historyfile::isReadable(path, *key)) {
+        historyfile::moveAside(path, currentDate());
+        putAside = true;
+    }
+    return {std::make_shared<ClipDatabase>(path, ClipCrypto(*std::move(key))), putAside};
+}
+
+ClipDatabase::ClipDatabase(const QString& path, ClipCrypto crypto)
+    : m_sqlite(path, SQLiteDatabase::Access::readWrite), m_crypto(std::move(crypto)), m_executor("History") {
+    historyfile::restrictToUser(path);
+    enableIncrementalVacuum(m_sqlite);
+    cliprows::createTable(m_sqlite);
+}
+
+template <typename Result>
+QCoro::Task<Result> ClipDatabase::onExecutor(std::function<Result(SQLiteDatabase&)> job) {
+    auto bound = [this, job = std::move(job)] { return job(m_sqlite); };
+    auto running = m_executor.run(std::move(bound));
+    co_return co_await running;
+}
+
+QCoro::Task<std::vector<ClipRef>> ClipDatabase::loadAll() {
+    return onExecutor<std::vector<ClipRef>>(
+        [this](SQLiteDatabase& sqlite) { return cliprows::readAll(sqlite, m_crypto); });
+}
+
+QCoro::Task<std::optional<ClipPayload>> ClipDatabase::payload(QUuid id) {
+    return onExecutor<std::optional<ClipPayload>>(
+        [this, id](SQLiteDatabase& sqlite) { return cliprows::readPayload(sqlite, m_crypto, id); });
+}
+
+QCoro::Task<void> ClipDatabase::insert(ClipRef clip, ClipPayload payload) {
+    return onExecutor<void>([this, clip = std::move(clip), payload = std::move(payload)](SQLiteDatabase& sqlite) {
+        cliprows::write(sqlite, m_crypto, *clip, payload);
+    });
+}
+
+QCoro::Task<void> ClipDatabase::updateMeta(ClipRef clip) {
+    return onExecutor<void>([this, clip = std::move(clip)](SQLiteDatabase& sqlite) {
+        cliprows::writeMeta(sqlite, m_crypto, *clip);
+    });
+}
+
+QCoro::Task<void> ClipDatabase::updateExpiry(QUuid id, std::optional<Date> date) {
+    return onExecutor<void>([id, date](SQLiteDatabase& sqlite) { cliprows::writeExpiry(sqlite, id, date); });
+}
+
+QCoro::Task<void> ClipDatabase::updateUsed(QUuid id, Date date) {
+    return onExecutor<void>([id, date](SQLiteDatabase& sqlite) { cliprows::writeUsed(sqlite, id, date); });
+}
+
+QCoro::Task<void> ClipDatabase::updatePinned(QUuid id, qint64 value) {
+    return onExecutor<void>([id, value](SQLiteDatabase& sqlite) { cliprows::writePinned(sqlite, id, value); });
+}
+
+QCoro::Task<void> ClipDatabase::deleteAll(std::vector<QUuid> ids) {
+    return onExecutor<void>(
+        [ids = std::move(ids)](SQLiteDatabase& sqlite) { cliprows::removeAll(sqlite, ids); });
+}
+
+QCoro::Task<void> ClipDatabase::reclaimSpace() {
+    return onExecutor<void>([](SQLiteDatabase& sqlite) {
+        sqlite.execute("PRAGMA incremental_vacuum;");
+        sqlite.execute("PRAGMA wal_checkpoint(TRUNCATE);");
+    });
+}
+
+} // namespace vellumry

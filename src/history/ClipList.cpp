@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/ClipList.h"
+
+#include "history/Retention.h"
+
+#include <algorithm>
+
+namespace vellumry {
+
+ClipRef ClipList::findFingerprint(const QString& fingerprint) const {
+    if (m_byFingerprint.size() == static_cast<qsizetype>(m_clips.size()))
+        return m_byFingerprint.value(fingerprint);
+    const auto found =
+        std::ranges::find_if(m_clips, [&](const ClipRef& clip) { return clip->fingerprint == fingerprint; });
+    return found == m_clips.end() ? nullptr : *found;
+}
+
+std::optional<Date> ClipList::nextExpiry() const {
+    return m_expiries.empty() ? std::nullopt : std::optional(*m_expiries.begin());
+}
+
+qint64 ClipList::greatestPinOrder() const {
+    qint64 greatest = 0;
+    for (const ClipRef& clip : m_clips)
+        greatest = std::max(greatest, clip->pinOrder);
+    return greatest;
+}
+
+bool ClipList::isWithin(const RetentionPolicy& policy, Date now) const {
+    if (!m_expiries.empty() && *m_expiries.begin() <= now)
+        return false;
+    if (m_unpinnedCount > policy.maxCount || m_mediaBytes > policy.maxMediaBytes)
+        return false;
+    if (!policy.maxAge)
+        return true;
+    // The order by last use makes the last unpinned clip the oldest.
+    const auto oldest = std::ranges::find_if(m_clips.rbegin(), m_clips.rend(),
+                                             [](const ClipRef& clip) { return !clip->isPinned; });
+    return oldest == m_clips.rend() || !(now - (*oldest)->lastUsedAt > *policy.maxAge);
+}
+
+std::vector<ClipRef> ClipList::recent(qint64 limit, bool includePinned) const {
+    std::vector<ClipRef> recent;
+    for (const ClipRef& clip : m_clips) {
+        if (std::ssize(recent) >= limit)
+            break;
+        if (includePinned || !clip->isPinned)
+            recent.push_back(clip);
+    }
+    return recent;
+}
+
+std::vector<ClipRef> ClipList::pinned() const {
+    std::vector<ClipRef> pinned;
+    std::ranges::copy_if(m_clips, std::back_inserter(pinned), [](const ClipRef& clip) { return clip->isPinned; });
+    std::ranges::stable_sort(pinned, {}, [](const ClipRef& clip) { return std::pair(clip->pinOrder, clip->createdAt); });
+    return pinned;
+}
+
+std::vector<QUuid> ClipList::pictures(bool (*isWanted)(const Clip&)) const {
+    std::vector<QUuid> ids;
+    for (const ClipRef& clip : m_clips) {
+        if (isWanted(*clip) && (clip->kind == ClipKind::image || clip->isImageFile()))
+            ids.push_back(clip->id);
+    }
+    return ids;
+}
+
+void ClipList::assign(std::vector<ClipRef> clips) {
+    m_byId.clear();
+    m_byFingerprint.clear();
+    m_expiries.clear();
+    m_unpinnedCount = 0;
+    m_mediaBytes = 0;
+    std::ranges::stable_sort(clips, std::greater<>(), [](const ClipRef& clip) { return clip->lastUsedAt; });
+
+    m_byId.reserve(static_cast<qsizetype>(clips.size()));
+    m_byFingerprint.reserve(static_cast<qsizetype>(clips.size()));
+    std::erase_if(clips, [this](const ClipRef& clip) {
+        if (m_byId.contains(clip->id))
+            return true;
+        enter(clip);
+        return false;
+    });
+    m_clips = std::move(clips);
+}
+
+void ClipList::insert(ClipRef clip) {
+    enter(clip);
+    const auto index = position(clip->lastUsedAt, 0, std::ssize(m_clips));
+    m_clips.insert(m_clips.begin() + index, std::move(clip));
+}
+
+void ClipList::replace(const ClipRef& old, ClipRef clip) {
+    const auto from = indexOf(*old);
+    leave(*old);
+    enter(clip);
+    const Date date = clip->lastUsedAt;
+    const auto begin = m_clips.begin();
+    m_clips[static_cast<std::size_t>(from)] = std::move(clip);
+    const auto earlier = position(date, 0, from);
+    if (earlier < from)
+        std::rotate(begin + earlier, begin + from, begin + from + 1);
+    else
+        std::rotate(begin + from, begin + from + 1, begin + position(date, from + 1, std::ssize(m_clips)));
+}
+
+void ClipList::change(ClipRef clip) {
+    auto& place = m_clips[static_cast<std::size_t>(indexOf(*clip))];
+    leave(*place);
+    enter(clip);
+    place = std::move(clip);
+}
+
+std::vector<ClipRef> ClipList::remove(const QSet<QUuid>& ids) {
+    std::vector<std::ptrdiff_t> indexes;
+    for (const QUuid& id : ids) {
+        if (const ClipRef clip = find(id))
+            indexes.push_back(indexOf(*clip));
+    }
+    std::ranges::sort(indexes);
+
+    std::vector<ClipRef> removed;
+    if (indexes.empty())
+        return removed;
+    auto next = indexes.begin();
+    auto kept = indexes.front();
+    for (auto index = kept; index < std::ssize(m_clips); ++index) {
+        ClipRef& clip = m_clips[static_cast<std::size_t>(index)];
+        if (next != indexes.end() && *next == index) {
+            ++next;
+            leave(*clip);
+            removed.push_back(std::move(clip));
+        } else {
+            m_clips[static_cast<std::size_t>(kept++)] = std::move(clip);
+        }
+    }
+    m_clips.resize(static_cast<std::size_t>(kept));
+    return removed;
+}
+
+std::ptrdiff_t ClipList::position(Date date, std::ptrdiff_t first, std::ptrdiff_t last) const {
+    const auto begin = m_clips.begin();
+    return std::partition_point(begin + first, begin + last,
+                                [date](const ClipRef& clip) { return clip->lastUsedAt > date; }) -
+           begin;
+}
+
+std::ptrdiff_t ClipList::indexOf(const Clip& clip) const {
+    auto index = position(clip.lastUsedAt, 0, std::ssize(m_clips));
+    while (m_clips[static_cast<std::size_t>(index)]->id != clip.id)
+        ++index;
+    return index;
+}
+
+void ClipList::enter(const ClipRef& clip) {
+    m_byId.insert(clip->id, clip);
+    if (!m_byFingerprint.contains(clip->fingerprint))
+        m_byFingerprint.insert(clip->fingerprint, clip);
+    if (clip->expiresAt)
+        m_expiries.insert(*clip->expiresAt);
+    m_unpinnedCount += clip->isPinned ? 0 : 1;
+    m_mediaBytes += retention::mediaBytes(*clip);
+}
+
+void ClipList::leave(const Clip& clip) {
+    m_byId.remove(clip.id);
+    const auto entry = m_byFingerprint.constFind(clip.fingerprint);
+    if (entry != m_byFingerprint.constEnd() && (*entry)->id == clip.id)
+        m_byFingerprint.erase(entry);
+    if (clip.expiresAt)
+        m_expiries.erase(m_expiries.find(*clip.expiresAt));
+    m_unpinnedCount -= clip.isPinned ? 0 : 1;
+    m_mediaBytes -= retention::mediaBytes(clip);
+}
+
+} // namespace vellumry

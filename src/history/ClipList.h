@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "history/Clip.h"
+#include "history/RetentionPolicy.h"
+
+#include <QHash>
+#include <QSet>
+#include <set>
+
+namespace vellumry {
+
+/// The clips in their order, last used first, found by identity and by fingerprint without a walk, with the sums that tell
+/// whether the history is within its limits. One thread.
+class ClipList {
+public:
+    [[nodiscard]] const std::vector<ClipRef>& clips() const { return m_clips; }
+    /// Null when there is none.
+    [[nodiscard]] ClipRef find(const QUuid& id) const { return m_byId.value(id); }
+    /// The first clip of that fingerprint, of any kind; null when there is none.
+    [[nodiscard]] ClipRef findFingerprint(const QString& fingerprint) const;
+    /// The earliest expiry of all clips.
+    [[nodiscard]] std::optional<Date> nextExpiry() const;
+    [[nodiscard]] qint64 greatestPinOrder() const;
+    /// True when no limit of `policy` and no expiry asks for anything to go at `now`; costs no walk.
+    [[nodiscard]] bool isWithin(const RetentionPolicy& policy, Date now) const;
+
+    /// The first `limit` clips, the pinned ones left out unless asked for; none for a negative limit.
+    [[nodiscard]] std::vector<ClipRef> recent(qint64 limit, bool includePinned) const;
+    /// In pin order, the older first among equals.
+    [[nodiscard]] std::vector<ClipRef> pinned() const;
+    /// The images and image files for which `isWanted` holds, in order.
+    [[nodiscard]] std::vector<QUuid> pictures(bool (*isWanted)(const Clip&)) const;
+
+    /// Replaces everything; sorts, equals keeping their order. Of several clips with one id the first stays.
+    void assign(std::vector<ClipRef> clips);
+    /// Puts the clip before the first that was not used later.
+    void insert(ClipRef clip);
+    /// Puts `clip` in place of the listed `old`, at the position that its own last use asks for.
+    void replace(const ClipRef& old, ClipRef clip);
+    /// Puts `clip` exactly where the listed clip of the same id and last use is.
+    void change(ClipRef clip);
+    /// Takes out the clips of these ids and returns them.
+    std::vector<ClipRef> remove(const QSet<QUuid>& ids);
+
+private:
+    /// The index of the first clip of [first, last) that was not used later than `date`.
+    [[nodiscard]] std::ptrdiff_t position(Date date, std::ptrdiff_t first, std::ptrdiff_t last) const;
+    [[nodiscard]] std::ptrdiff_t indexOf(const Clip& clip) const;
+    void enter(const ClipRef& clip);
+    void leave(const Clip& clip);
+
+    std::vector<ClipRef> m_clips;
+    QHash<QUuid, ClipRef> m_byId;
+    /// A file written by nobody but us holds no fingerprint twice. If one does, this has fewer entries than there are clips.
+    QHash<QString, ClipRef> m_byFingerprint;
+    std::multiset<Date> m_expiries;
+    qint64 m_unpinnedCount = 0;
+    qint64 m_mediaBytes = 0;
+};
+
+} // namespace vellumry

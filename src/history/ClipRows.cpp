@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/ClipRows.h"
+
+#include "history/ClipMeta.h"
+#include "history/PayloadCoding.h"
+#include "history/StringPool.h"
+#include "history/Unsealer.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vellumry::cliprows {
+
+namespace {
+
+/// Plain text that has been sealed has no business in memory any longer.
+QByteArray sealAndWipe(const ClipCrypto& crypto, QByteArray plain) {
+    QByteArray sealed = crypto.seal(plain);
+    wipe(plain.data(), static_cast<std::size_t>(plain.size()));
+    return sealed;
+}
+
+void run(SQLiteDatabase& database, const char* sql, std::span<const SQLValue> values) {
+    auto statement = database.prepare(sql);
+    statement.bind(values);
+    statement.step();
+}
+
+SQLValue sqlDate(std::optional<Date> date) {
+    return date ? SQLValue(*date) : SQLValue(std::monostate());
+}
+
+int hexValue(char digit) {
+    if (digit >= '0' && digit <= '9')
+        return digit - '0';
+    const char lower = static_cast<char>(digit | 0x20);
+    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+}
+
+ClipRef clipOf(const SQLiteDatabase::Statement& row, Unsealer& unsealer, StringPool& pool) {
+    const auto id = uuidOf(row.text(0));
+    const qint64 kind = row.integer(1);
+    if (!id || kind < 0 || kind > static_cast<qint64>(ClipKind::color))
+        return nullptr;
+    const auto plain = unsealer.open(row.blob(8));
+    auto meta = plain ? ClipMeta::decode(*plain, &pool) : std::nullopt;
+    if (!meta)
+        return nullptr;
+
+    auto clip = std::make_shared<Clip>();
+    clip->id = *id;
+    clip->kind = static_cast<ClipKind>(kind);
+    clip->title = std::move(meta->title);
+    clip->searchText = std::move(meta->searchText);
+    clip->sourceBundleID = std::move(meta->sourceBundleID);
+    clip->sourceAppName = std::move(meta->sourceAppName);
+    clip->createdAt = row.real(2);
+    clip->lastUsedAt = row.real(3);
+    clip->pinOrder = row.integer(4);
+    clip->isPinned = clip->pinOrder != 0;
+    if (!row.isNull(5))
+        clip->expiresAt = row.real(5);
+    clip->fingerprint = QString::fromUtf8(row.text(6));
+    clip->byteSize = row.integer(7);
+    clip->files = std::move(meta->files);
+    clip->thumbnail = std::move(meta->thumbnail);
+    clip->imageText = std::move(meta->imageText);
+    clip->imageTextIsAccurate = meta->imageTextIsAccurate.value_or(false);
+    clip->isScreenshot = meta->isScreenshot.value_or(false);
+    return clip;
+}
+
+} // namespace
+
+void createTable(SQLiteDatabase& database) {
+    database.execute("CREATE TABLE IF NOT EXISTS clips (\n"
+                     "  id TEXT PRIMARY KEY NOT NULL,\n"
+                     "  kind INTEGER NOT NULL,\n"
+                     "  created REAL NOT NULL,\n"
+                     "  used REAL NOT NULL,\n"
+                     "  pinned INTEGER NOT NULL DEFAULT 0,\n"
+                     "  expires REAL,\n"
+                     "  fingerprint TEXT NOT NULL,\n"
+                     "  size INTEGER NOT NULL,\n"
+                     "  meta BLOB NOT NULL,\n"
+                     "  payload BLOB NOT NULL\n"
+                     ");\n"
+                     "CREATE INDEX IF NOT EXISTS clips_used ON clips(used);");
+}
+
+std::vector<ClipRef> readAll(SQLiteDatabase& database, const ClipCrypto& crypto) {
+    auto rows = database.prepare(
+        "SELECT id, kind, created, used, pinned, expires, fingerprint, size, meta FROM clips ORDER BY used DESC;");
+    Unsealer unsealer(crypto.key());
+    StringPool pool;
+    std::vector<ClipRef> clips;
+    while (rows.step()) {
+        if (ClipRef clip = clipOf(rows, unsealer, pool))
+            clips.push_back(std::move(clip));
+    }
+    return clips;
+}
+
+std::optional<ClipPayload> readPayload(SQLiteDatabase& database, const ClipCrypto& crypto, const QUuid& id) {
+    auto row = database.prepare("SELECT payload FROM clips WHERE id = ?;");
+    row.bind(std::array<SQLValue, 1>{uuidString(id)});
+    if (!row.step())
+        return std::nullopt;
+    QByteArray plain = crypto.unseal(row.blob(0));
+    auto payload = decodePayload(plain);
+    wipe(plain.data(), static_cast<std::size_t>(plain.size()));
+    if (!payload)
+        throw std::runtime_error("The stored clip could not be decoded.");
+    return payload;
+}
+
+void write(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip, const ClipPayload& payload) {
+    QByteArray meta = sealAndWipe(crypto, ClipMeta::of(clip).encoded());
+    QByteArray sealedPayload = sealAndWipe(crypto, encodePayload(payload));
+    // A pinned row must never read back as unpinned.
+    const qint64 pinned = clip.isPinned ? std::max<qint64>(clip.pinOrder, 1) : 0;
+    const std::array<SQLValue, 10> values{uuidString(clip.id),
+                                          static_cast<qint64>(clip.kind),
+                                          clip.createdAt,
+                                          clip.lastUsedAt,
+                                          pinned,
+                                          sqlDate(clip.expiresAt),
+                                          clip.fingerprint,
+                                          clip.byteSize,
+                                          std::move(meta),
+                                          std::move(sealedPayload)};
+    run(database,
+        "INSERT OR REPLACE INTO clips (id, kind, created, used, pinned, expires, fingerprint, size, meta, payload)\n"
+        "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?);",
+        values);
+}
+
+void writeMeta(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip) {
+    const std::array<SQLValue, 2> values{sealAndWipe(crypto, ClipMeta::of(clip).encoded()), uuidString(clip.id)};
+    run(database, "UPDATE clips SET meta = ? WHERE id = ?;", values);
+}
+
+void writeExpiry(SQLiteDatabase& database, const QUuid& id, std::optional<Date> date) {
+    const std::array<SQLValue, 2> values{sqlDate(date), uuidString(id)};
+    run(database, "UPDATE clips SET expires = ? WHERE id = ?;", values);
+}
+
+void writeUsed(SQLiteDatabase& database, const QUuid& id, Date date) {
+    const std::array<SQLValue, 2> values{date, uuidString(id)};
+    run(database, "UPDATE clips SET used = ? WHERE id = ?;", values);
+}
+
+void writePinned(SQLiteDatabase& database, const QUuid& id, qint64 value) {
+    const std::array<SQLValue, 2> values{value, uuidString(id)};
+    run(database, "UPDATE clips SET pinned = ? WHERE id = ?;", values);
+}
+
+void removeAll(SQLiteDatabase& database, const std::vector<QUuid>& ids) {
+    if (ids.empty())
+        return;
+    try {
+        database.execute("BEGIN;");
+        for (const QUuid& id : ids) {
+            const std::array<SQLValue, 1> values{uuidString(id)};
+            run(database, "DELETE FROM clips WHERE id = ?;", values);
+        }
+        database.execute("COMMIT;");
+    } catch (...) {
+        const std::exception_ptr first = std::current_exception();
+        try {
+            database.execute("ROLLBACK;");
+        } catch (const SQLiteError&) {
+            // There may be no transaction any more; what went wrong first is what the caller must know.
+        }
+        std::rethrow_exception(first);
+    }
+}
+
+QString uuidString(const QUuid& id) {
+    return id.toString(QUuid::WithoutBraces).toUpper();
+}
+
+std::optional<QUuid> uuidOf(QByteArrayView text) {
+    if (text.size() != 36)
+        return std::nullopt;
+    std::array<char, 16> bytes{};
+    std::size_t digits = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (i == 8 || i == 13 || i == 18 || i == 23) {
+            if (text[i] != '-')
+                return std::nullopt;
+            continue;
+        }
+        const int value = hexValue(text[i]);
+        if (value < 0)
+            return std::nullopt;
+        bytes[digits / 2] = static_cast<char>(bytes[digits / 2] << 4 | value);
+        ++digits;
+    }
+    return QUuid::fromRfc4122(QByteArrayView(bytes.data(), bytes.size()));
+}
+
+} // namespace vellumry::cliprows

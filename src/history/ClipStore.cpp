@@ -1,0 +1,337 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/ClipStore.h"
+
+#include "history/ClipDatabase.h"
+#include "history/ClipFingerprint.h"
+#include "history/ClipList.h"
+#include "history/ClipOfDraft.h"
+#include "history/ClipSearch.h"
+#include "history/ExpiryTimer.h"
+#include "history/Retention.h"
+
+#include <QHash>
+#include <QPointer>
+#include <algorithm>
+
+namespace vellumry {
+
+struct ClipStore::Private {
+    Private(std::shared_ptr<ClipDatabase> file, ClipCrypto historyCrypto, RetentionPolicy limits, ClipStore* store)
+        : database(std::move(file)), crypto(std::move(historyCrypto)), policy(limits),
+          expiry(currentDate, [this, store] { store->enforceRetention(clock()); }) {}
+
+    std::shared_ptr<ClipDatabase> database; ///< null in memory-only mode
+    ClipCrypto crypto;
+    RetentionPolicy policy;
+    ClipList list;
+    qint64 revision = 0;
+    bool recoveredFromDamage = false;
+    double sensitiveLifetime = 60;
+    bool autoExpire = false;
+    QHash<QUuid, ClipPayload> memoryPayloads; ///< memory-only mode keeps them here
+    ClipSearch search;
+    Clock clock = currentDate;
+    ExpiryTimer expiry;
+};
+
+namespace {
+
+/// What the database could not do is not the user's concern: memory is what counts. Tells whether it worked.
+QCoro::Task<bool> attempted(QCoro::Task<void> task) {
+    try {
+        co_await task;
+        co_return true;
+    } catch (const std::exception&) {
+    }
+    co_return false;
+}
+
+QCoro::Task<std::optional<ClipPayload>> loaded(std::shared_ptr<ClipDatabase> database, QUuid id) {
+    try {
+        auto reading = database->payload(id);
+        co_return co_await reading;
+    } catch (const std::exception&) {
+    }
+    co_return std::nullopt;
+}
+
+qint64 milliseconds(Date date) {
+    return static_cast<qint64>(std::clamp(date * 1000, -9e18, 9e18));
+}
+
+} // namespace
+
+QCoro::Task<std::unique_ptr<ClipStore>> ClipStore::open(std::shared_ptr<ClipDatabase> database, RetentionPolicy policy,
+                                                        bool recoveredFromDamage) {
+    auto loading = database->loadAll();
+    std::vector<ClipRef> clips = co_await loading;
+    co_return std::unique_ptr<ClipStore>(
+        new ClipStore(std::move(database), policy, recoveredFromDamage, std::move(clips)));
+}
+
+ClipStore::ClipStore(std::shared_ptr<ClipDatabase> database, RetentionPolicy policy, bool recoveredFromDamage,
+                     std::vector<ClipRef> clips)
+    : d(std::make_unique<Private>(database, database->crypto(), policy, this)) {
+    d->recoveredFromDamage = recoveredFromDamage;
+    d->list.assign(std::move(clips));
+}
+
+ClipStore::ClipStore(RetentionPolicy policy)
+    : d(std::make_unique<Private>(nullptr, ClipCrypto::withRandomKey(), policy, this)) {}
+
+ClipStore::~ClipStore() = default;
+
+QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
+    QString fingerprint;
+    try {
+        fingerprint = fingerprintOf(draft, d->crypto);
+    } catch (const CryptoError&) {
+        co_return ClipRef();
+    }
+    const ClipRef existing = d->list.findFingerprint(fingerprint);
+    const ClipRef clip =
+        std::make_shared<const Clip>(clipOfDraft(draft, existing, fingerprint, now, d->sensitiveLifetime));
+    if (existing)
+        d->list.replace(existing, clip);
+    else
+        d->list.insert(clip);
+    // The keys of its image text stay: that text was kept, or there is none.
+    d->search.forgetText(clip->id);
+
+    const QPointer<ClipStore> self(this);
+    if (const std::shared_ptr<ClipDatabase> database = d->database) {
+        changed();
+        auto writing = attempted(database->insert(clip, std::move(draft.payload)));
+        const bool isWritten = co_await writing;
+        if (!self)
+            co_return ClipRef();
+        if (!isWritten) {
+            takeBack(clip->id, existing);
+            co_return ClipRef();
+        }
+    } else {
+        d->memoryPayloads.insert(clip->id, std::move(draft.payload));
+        changed();
+    }
+    auto retaining = enforceRetention(now);
+    co_await retaining;
+    co_return self ? d->list.find(clip->id) : ClipRef();
+}
+
+void ClipStore::takeBack(const QUuid& id, const ClipRef& existing) {
+    d->list.remove({id});
+    forget(id);
+    if (existing)
+        d->list.insert(existing);
+    changed();
+}
+
+QCoro::Task<std::optional<ClipPayload>> ClipStore::payload(QUuid id) {
+    if (d->database) {
+        auto loading = loaded(d->database, id);
+        co_return co_await loading;
+    }
+    const auto found = d->memoryPayloads.constFind(id);
+    co_return found == d->memoryPayloads.constEnd() ? std::nullopt : std::optional(*found);
+}
+
+QCoro::Task<void> ClipStore::markUsed(QUuid id, Date date) {
+    const ClipRef old = d->list.find(id);
+    if (!old)
+        co_return;
+    auto clip = std::make_shared<Clip>(*old);
+    clip->lastUsedAt = date;
+    d->list.replace(old, std::move(clip));
+    changed();
+    if (const std::shared_ptr<ClipDatabase> database = d->database) {
+        auto writing = attempted(database->updateUsed(id, date));
+        co_await writing;
+    }
+}
+
+QCoro::Task<void> ClipStore::setPinned(QUuid id, bool isPinned, Date date) {
+    const ClipRef old = d->list.find(id);
+    if (!old || old->isPinned == isPinned)
+        co_return;
+    auto clip = std::make_shared<Clip>(*old);
+    clip->isPinned = isPinned;
+    // Pins go by the time they were made, and two of one millisecond still differ.
+    const qint64 greatest = std::min(d->list.greatestPinOrder(), std::numeric_limits<qint64>::max() - 1);
+    const qint64 pinOrder = isPinned ? std::max(greatest + 1, milliseconds(date)) : 0;
+    clip->pinOrder = pinOrder;
+    // Pinning rescues a sensitive clip; unpinning does not bring its end back.
+    const bool isRescued = isPinned && clip->expiresAt.has_value();
+    if (isRescued)
+        clip->expiresAt.reset();
+    d->list.change(std::move(clip));
+    changed();
+    if (const std::shared_ptr<ClipDatabase> database = d->database) {
+        auto pinning = attempted(database->updatePinned(id, pinOrder));
+        co_await pinning;
+        if (isRescued) {
+            auto rescuing = attempted(database->updateExpiry(id, std::nullopt));
+            co_await rescuing;
+        }
+    }
+}
+
+QCoro::Task<void> ClipStore::setImageText(QUuid id, std::optional<QString> text, bool isAccurate) {
+    const ClipRef old = d->list.find(id);
+    if (!old)
+        co_return;
+    auto changedClip = std::make_shared<Clip>(*old);
+    changedClip->imageText = std::move(text);
+    changedClip->imageTextIsAccurate = isAccurate;
+    const ClipRef clip = std::move(changedClip);
+    d->list.change(clip);
+    d->search.forgetText(id);
+    d->search.forgetLookAlikes(id);
+    changed();
+    if (const std::shared_ptr<ClipDatabase> database = d->database) {
+        auto writing = attempted(database->updateMeta(clip));
+        co_await writing;
+    }
+}
+
+QCoro::Task<void> ClipStore::remove(QSet<QUuid> ids, bool thorough) {
+    if (ids.isEmpty())
+        co_return;
+    const std::vector<ClipRef> removed = d->list.remove(ids);
+    for (const QUuid& id : ids) {
+        d->memoryPayloads.remove(id);
+        forget(id);
+    }
+    if (!removed.empty())
+        changed();
+
+    const std::shared_ptr<ClipDatabase> database = d->database;
+    if (!database)
+        co_return;
+    auto deleting = attempted(database->deleteAll({ids.begin(), ids.end()}));
+    co_await deleting;
+    // Only this makes the deletion of a sensitive clip real: until then its pages may lie in the write-ahead log.
+    constexpr double manyBytes = 1'048'576;
+    constexpr qsizetype manyClips = 50;
+    double bytes = 0;
+    for (const ClipRef& clip : removed)
+        bytes += static_cast<double>(clip->byteSize);
+    const bool hadSecret = std::ranges::any_of(removed, [](const ClipRef& clip) { return clip->isSensitive(); });
+    if (hadSecret || thorough || bytes > manyBytes || ids.size() >= manyClips) {
+        auto reclaiming = attempted(database->reclaimSpace());
+        co_await reclaiming;
+    }
+}
+
+QCoro::Task<void> ClipStore::clearHistory(bool keepPinned) {
+    QSet<QUuid> ids;
+    for (const ClipRef& clip : clips()) {
+        if (!keepPinned || !clip->isPinned)
+            ids.insert(clip->id);
+    }
+    auto removing = remove(std::move(ids), true);
+    co_await removing;
+}
+
+QCoro::Task<void> ClipStore::enforceRetention(Date now) {
+    if (d->list.isWithin(d->policy, now))
+        co_return;
+    auto removing = remove(retention::doomedClips(clips(), d->policy, now), false);
+    co_await removing;
+}
+
+void ClipStore::changed() {
+    ++d->revision;
+    if (d->autoExpire)
+        d->expiry.arm(nextExpiry());
+    Q_EMIT clipsChanged();
+}
+
+void ClipStore::forget(const QUuid& id) {
+    d->search.forgetText(id);
+    d->search.forgetLookAlikes(id);
+}
+
+const std::vector<ClipRef>& ClipStore::clips() const {
+    return d->list.clips();
+}
+
+ClipRef ClipStore::find(const QUuid& id) const {
+    return d->list.find(id);
+}
+
+qint64 ClipStore::revision() const {
+    return d->revision;
+}
+
+bool ClipStore::isMemoryOnly() const {
+    return !d->database;
+}
+
+bool ClipStore::recoveredFromDamage() const {
+    return d->recoveredFromDamage;
+}
+
+void ClipStore::setRecoveredFromDamage(bool value) {
+    d->recoveredFromDamage = value;
+}
+
+const RetentionPolicy& ClipStore::policy() const {
+    return d->policy;
+}
+
+void ClipStore::setPolicy(RetentionPolicy policy) {
+    d->policy = policy;
+}
+
+double ClipStore::sensitiveLifetime() const {
+    return d->sensitiveLifetime;
+}
+
+void ClipStore::setSensitiveLifetime(double seconds) {
+    d->sensitiveLifetime = seconds;
+}
+
+bool ClipStore::autoExpire() const {
+    return d->autoExpire;
+}
+
+void ClipStore::setAutoExpire(bool value) {
+    d->autoExpire = value;
+    d->expiry.arm(value ? nextExpiry() : std::nullopt);
+}
+
+std::optional<Date> ClipStore::nextExpiry() const {
+    return d->list.nextExpiry();
+}
+
+bool ClipStore::isExpiryScheduled() const {
+    return d->expiry.isArmed();
+}
+
+void ClipStore::setClock(Clock clock) {
+    d->clock = clock;
+    d->expiry.setClock(std::move(clock));
+    setAutoExpire(d->autoExpire);
+}
+
+std::vector<ClipRef> ClipStore::recentClips(qint64 limit, bool includePinned) const {
+    return d->list.recent(limit, includePinned);
+}
+
+std::vector<ClipRef> ClipStore::pinnedClips() const {
+    return d->list.pinned();
+}
+
+std::vector<QUuid> ClipStore::clipsWithoutText() const {
+    return d->list.pictures([](const Clip& clip) { return !clip.imageText; });
+}
+
+std::vector<QUuid> ClipStore::clipsWithRoughText() const {
+    return d->list.pictures([](const Clip& clip) { return clip.imageText && !clip.imageTextIsAccurate; });
+}
+
+std::vector<ClipRef> ClipStore::search(const QString& query, ClipFilter filter) const {
+    return d->search.search(clips(), query, filter);
+}
+
+} // namespace vellumry

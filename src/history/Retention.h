@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "history/Clip.h"
+#include "history/RetentionPolicy.h"
+
+#include <QSet>
+
+/// Which clips have to go. Pure; any thread.
+namespace vellumry::retention {
+
+/// What the clip counts toward the limit of media bytes: nothing unless it is an image or a file clip.
+[[nodiscard]] qint64 mediaBytes(const Clip& clip);
+
+/// The clips, given last used first, that expired or exceed a limit of `policy` at `now`. Expiry spares no pin. Pinned media
+/// count toward the limit of bytes and are never removed for it; of the others, the least recently used go first.
+[[nodiscard]] QSet<QUuid> doomedClips(const std::vector<ClipRef>& clips, const RetentionPolicy& policy, Date now);
+
+} // namespace vellumry::retention
