@@ -1,0 +1,239 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>Vellumry</name>
+    <message>
+        <source>Your Mac is almost full. Vellumry saves text only for now</source>
+        <translation>Your computer is almost full. Vellumry saves text only for now</translation>
+    </message>
+    <message>
+        <source>To paste files from %1, allow Vellumry in Privacy &amp; Security → Files and Folders</source>
+        <translation>To paste files from %1, give Vellumry permission to read that folder</translation>
+    </message>
+    <message>
+        <source>, allow Vellumry in Privacy &amp; Security → Files and Folders</source>
+        <translation>, give Vellumry permission to read that folder</translation>
+    </message>
+    <message>
+        <source>This field blocks pasting from apps. Press ⌘V</source>
+        <translation>This field blocks pasting from apps. Press Ctrl+V</translation>
+    </message>
+    <message>
+        <source>Copied. Press ⌘V to paste</source>
+        <translation>Copied. Press Ctrl+V to paste</translation>
+    </message>
+    <message>
+        <source>⌃</source>
+        <translation>Super+</translation>
+    </message>
+    <message>
+        <source>⌥</source>
+        <translation>Alt+</translation>
+    </message>
+    <message>
+        <source>⇧</source>
+        <translation>Shift+</translation>
+    </message>
+    <message>
+        <source>⌘</source>
+        <translation>Ctrl+</translation>
+    </message>
+    <message>
+        <source>Nothing pinned at ⌃⌥%1 yet. Pin a clip with ⌘P</source>
+        <translation>Nothing pinned at Super+Alt+%1 yet. Pin a clip with Ctrl+P</translation>
+    </message>
+    <message>
+        <source>Nothing pinned at ⌃⌥</source>
+        <translation>Nothing pinned at Super+Alt+</translation>
+    </message>
+    <message>
+        <source> yet. Pin a clip with ⌘P</source>
+        <translation> yet. Pin a clip with Ctrl+P</translation>
+    </message>
+    <message>
+        <source>Press ⌃⌘V anytime to open Vellumry.</source>
+        <translation>Press Super+Ctrl+V anytime to open Vellumry.</translation>
+    </message>
+    <message>
+        <source>Press %1 anytime to open Vellumry.</source>
+        <translation>Press %1 anytime to open Vellumry.</translation>
+    </message>
+    <message>
+        <source> clips · encrypted on this Mac</source>
+        <translation> clips · encrypted on this computer</translation>
+    </message>
+    <message>
+        <source>%1 clips · encrypted on this Mac</source>
+        <translation>%1 clips · encrypted on this computer</translation>
+    </message>
+    <message>
+        <source>⇧↩</source>
+        <translation>Shift+↩</translation>
+    </message>
+    <message>
+        <source>⌘⌫</source>
+        <translation>Ctrl+⌫</translation>
+    </message>
+    <message>
+        <source>⌘T</source>
+        <translation>Ctrl+T</translation>
+    </message>
+    <message>
+        <source>⌘P</source>
+        <translation>Ctrl+P</translation>
+    </message>
+    <message>
+        <source>⌘C</source>
+        <translation>Ctrl+C</translation>
+    </message>
+    <message>
+        <source>⌘V</source>
+        <translation>Ctrl+V</translation>
+    </message>
+    <message>
+        <source>Paste Stack: copy several things, every ⌘V pastes the next (⌃⌘S)</source>
+        <translation>Paste Stack: copy several things, every Ctrl+V pastes the next (Super+Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>Stop Paste Stack (⌃⌘S)</source>
+        <translation>Stop Paste Stack (Super+Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>Transform (⌘T)</source>
+        <translation>Transform (Ctrl+T)</translation>
+    </message>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Show in Files</translation>
+    </message>
+    <message>
+        <source>Pin (⌘P)</source>
+        <translation>Pin (Ctrl+P)</translation>
+    </message>
+    <message>
+        <source>Unpin (⌘P)</source>
+        <translation>Unpin (Ctrl+P)</translation>
+    </message>
+    <message>
+        <source>Pin all (⌘P)</source>
+        <translation>Pin all (Ctrl+P)</translation>
+    </message>
+    <message>
+        <source>Unpin all (⌘P)</source>
+        <translation>Unpin all (Ctrl+P)</translation>
+    </message>
+    <message>
+        <source>Delete (⌘⌫)</source>
+        <translation>Delete (Ctrl+⌫)</translation>
+    </message>
+    <message>
+        <source>Paste them one by one: every ⌘V pastes the next (Paste Stack)</source>
+        <translation>Paste them one by one: every Ctrl+V pastes the next (Paste Stack)</translation>
+    </message>
+    <message>
+        <source>Vellumry can't open that file. Allow it in Privacy &amp; Security → Files and Folders</source>
+        <translation>Vellumry can't open that file. Give it permission to read the folder</translation>
+    </message>
+    <message>
+        <source>Vellumry can't open your screenshots folder. Allow it in Privacy &amp; Security → Files and Folders</source>
+        <translation>Vellumry can't open your screenshots folder. Give it permission to read the folder</translation>
+    </message>
+    <message>
+        <source>Vellumry can't open your screenshots folder. Allow it in Privacy &amp; Security → Files and Folders.</source>
+        <translation>Vellumry can't open your screenshots folder. Give it permission to read the folder.</translation>
+    </message>
+    <message>
+        <source>Vellumry can't reach your Keychain</source>
+        <translation>Vellumry can't reach your keyring</translation>
+    </message>
+    <message>
+        <source>Your clipboard history will only be kept until you quit Vellumry. Restarting your Mac usually fixes this.</source>
+        <translation>Your clipboard history will only be kept until you quit Vellumry. Logging in again usually fixes this.</translation>
+    </message>
+    <message>
+        <source>Your previous history couldn't be read on this Mac, so it was kept as a backup in Vellumry's folder and a new one was started.</source>
+        <translation>Your previous history couldn't be read on this computer, so it was kept as a backup in Vellumry's folder and a new one was started.</translation>
+    </message>
+    <message>
+        <source>Screenshots you save with ⌘⇧3 or ⌘⇧4 are added to Vellumry too, and their text becomes searchable.</source>
+        <translation>Screenshots you save are added to Vellumry too, and their text becomes searchable.</translation>
+    </message>
+    <message>
+        <source>macOS didn't allow it. Check System Settings → General → Login Items.</source>
+        <translation>Your desktop didn't allow it. Check its settings for programs that start at login.</translation>
+    </message>
+    <message>
+        <source>Off = Vellumry copies and you press ⌘V.</source>
+        <translation>Off = Vellumry copies and you press Ctrl+V.</translation>
+    </message>
+    <message>
+        <source>Allowed in Privacy &amp; Security → Accessibility</source>
+        <translation>Allowed to press keys</translation>
+    </message>
+    <message>
+        <source>Needs your OK in Privacy &amp; Security → Accessibility</source>
+        <translation>Needs your OK to press keys</translation>
+    </message>
+    <message>
+        <source>Screenshots saved with ⌘⇧3 / ⌘⇧4 are added too, and their text becomes searchable. macOS asks once to allow Vellumry to see the folder they're saved in.</source>
+        <translation>Screenshots you save are added too, and their text becomes searchable. Vellumry must be able to read the folder they're saved in.</translation>
+    </message>
+    <message>
+        <source>Paste pinned clips with ⌃⌥1 … ⌃⌥9</source>
+        <translation>Paste pinned clips with Super+Alt+1 … Super+Alt+9</translation>
+    </message>
+    <message>
+        <source>⌘P  ⌘⌫  ⌘C</source>
+        <translation>Ctrl+P  Ctrl+⌫  Ctrl+C</translation>
+    </message>
+    <message>
+        <source>Vellumry updates itself while you're away from your Mac. Off = it asks first.</source>
+        <translation>Vellumry updates itself while you're away from your computer. Off = it asks first.</translation>
+    </message>
+    <message>
+        <source>Your clips never leave this Mac.</source>
+        <translation>Your clips never leave this computer.</translation>
+    </message>
+    <message>
+        <source>Privacy &amp; Security › Accessibility</source>
+        <translation>Permission to press keys</translation>
+    </message>
+    <message>
+        <source>Switch Vellumry on in System Settings. This screen updates by itself.</source>
+        <translation>Allow Vellumry to press keys when your desktop asks. This screen updates by itself.</translation>
+    </message>
+    <message>
+        <source>Open System Settings</source>
+        <translation>Ask for permission</translation>
+    </message>
+    <message>
+        <source>Not now, I'll press ⌘V myself</source>
+        <translation>Not now, I'll press Ctrl+V myself</translation>
+    </message>
+    <message>
+        <source>Vellumry only presses ⌘V for you. It never reads your screen or what you type.</source>
+        <translation>Vellumry only presses Ctrl+V for you. It never reads your screen or what you type.</translation>
+    </message>
+    <message>
+        <source>Files you copy in Finder</source>
+        <translation>Files you copy in your file manager</translation>
+    </message>
+    <message>
+        <source>Optional. macOS asks once for Desktop, Documents and Downloads.</source>
+        <translation>Optional. Vellumry tries Desktop, Documents and Downloads once.</translation>
+    </message>
+    <message>
+        <source>Vellumry lives in your menu bar. Press the shortcut anytime.</source>
+        <translation>Vellumry lives in your system tray. Press the shortcut anytime.</translation>
+    </message>
+    <message>
+        <source>Off: you press ⌘V</source>
+        <translation>Off: you press Ctrl+V</translation>
+    </message>
+    <message>
+        <source>Copy what you need, then ⌘V</source>
+        <translation>Copy what you need, then Ctrl+V</translation>
+    </message>
+</context>
+</TS>
