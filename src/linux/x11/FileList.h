@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayList>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+/// The lists of files that file managers put on the clipboard: `text/uri-list` (RFC 2483) and the desktop's own companion that
+/// tells a copy from a cut. Pure; any thread. Hostile lists cost time in proportion to their size, nothing more.
+namespace vellumry::filelist {
+
+inline const QString uriList = QStringLiteral("text/uri-list");
+inline const QString copiedFiles = QStringLiteral("x-special/gnome-copied-files");
+
+/// What one list holds: the URLs of files on this machine, byte for byte, and the first web address.
+struct Entries {
+    QByteArrayList files;
+    std::optional<QByteArray> webAddress;
+    bool operator==(const Entries&) const = default;
+};
+
+/// True for the names of file lists.
+[[nodiscard]] bool isFileList(const QString& target);
+
+/// Reads either kind of list. Comments, blank lines, remote hosts, broken escapes and other schemes are left out.
+[[nodiscard]] Entries parse(const QByteArray& list);
+
+/// `text/uri-list` bytes: each entry ended by CR LF.
+[[nodiscard]] QByteArray asUriList(const QByteArrayList& urls);
+
+/// `x-special/gnome-copied-files` bytes: the operation, then one URL a line. The operation is that of `original` where it
+/// names one, else a copy.
+[[nodiscard]] QByteArray asCopiedFiles(const QByteArrayList& urls, const QByteArray& original);
+
+/// The paths of the files, one a line, as text.
+[[nodiscard]] QByteArray asPaths(const QByteArrayList& urls);
+
+} // namespace vellumry::filelist
