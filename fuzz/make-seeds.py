@@ -1,0 +1,54 @@
+#!/usr/bin/env python3
+"""Writes the seed corpora beside this script: small valid inputs of each kind, from which the engine goes on."""
+
+import pathlib
+import plistlib
+
+CORPUS = pathlib.Path(__file__).parent / "corpus"
+
+
+def write(target, name, data):
+    folder = CORPUS / target
+    folder.mkdir(parents=True, exist_ok=True)
+    (folder / name).write_bytes(data)
+
+
+def property_lists():
+    values = {
+        "meta": {"title": "größe", "searchText": "a text of more than fifteen letters", "files": [], "isScreenshot": False},
+        "payload": {"items": [{"representations": {"public.utf8-plain-text": b"hello"}, "order": ["public.html"]}]},
+        "numbers": [0, 255, 65536, -1, 2**40, 0.5, True],
+        "deep": [[[[["x"]]]]],
+    }
+    for name, value in values.items():
+        write("FuzzPropertyList", name + ".binary", plistlib.dumps(value, fmt=plistlib.FMT_BINARY))
+        write("FuzzPropertyList", name + ".xml", plistlib.dumps(value, fmt=plistlib.FMT_XML))
+
+
+def rich_texts():
+    documents = {
+        "plain": rb"{\rtf1\ansi\ansicpg1252 Hello {\b bold}\par caf\'e9}",
+        "fonts": rb"{\rtf1{\fonttbl{\f0\fcharset0 A;}{\f1\fcharset204 B;}}{\colortbl;\red0;}\f1\'cf\f0\'e9}",
+        "unicode": rb"{\rtf1\uc2 \u8364\'80\'81 \u-10179?\u-9198?\emdash\~\_\tab}",
+        "binary": rb"{\rtf1{\pict\bin3 }}{}{\*\unknown x}{\field{\*\fldinst L}{\fldrslt link}}}",
+    }
+    for name, document in documents.items():
+        write("FuzzRichText", name + ".rtf", document)
+
+
+def file_urls():
+    urls = [b"file:///home/a/b.txt", b"file://localhost/a%20b/%C3%A9", b"file:/a/../b//c/.", b"FILE:///a?b#c", b"file:///%FF"]
+    for number, url in enumerate(urls):
+        write("FuzzFileUrl", f"url{number}", url)
+
+
+def texts():
+    samples = ["Straße ÄÖÜ", "ΌΣΟΣ", "が\u304b\u3099ｶﾞ", "👨‍👩‍👧🇩🇪", "हिन्दी", "한\u1112\u1161", "مُحَمَّد", "a\r\nb\u2028"]
+    for number, sample in enumerate(samples):
+        write("FuzzText", f"text{number}", sample.encode())
+
+
+property_lists()
+rich_texts()
+file_urls()
+texts()
