@@ -30,7 +30,9 @@ enum Kind : quint8 {
 
 } // namespace
 
-bool BinaryPropertyListReader::recognises(QByteArrayView bytes) { return bytes.startsWith(magic); }
+bool BinaryPropertyListReader::recognises(QByteArrayView bytes) {
+    return bytes.startsWith(magic);
+}
 
 std::optional<PropertyList> BinaryPropertyListReader::read() {
     if (!readTrailer())

@@ -8,12 +8,13 @@
 
 namespace vellumry {
 
-/// Reads one list in the binary coding: a header of 8 bytes, objects, a table of their offsets, a trailer of 32 bytes; all
-/// numbers big-endian. Objects refer to each other by their place in the table, so foreign bytes may claim cycles and
-/// doublings; both end at fixed bounds. Any thread; used once.
+/// Reads one list in the binary coding: a header of 8 bytes, objects, a table of their offsets, a trailer of 32 bytes;
+/// all numbers big-endian. Objects refer to each other by their place in the table, so foreign bytes may claim cycles
+/// and doublings; both end at fixed bounds. Any thread; used once.
 class BinaryPropertyListReader {
 public:
-    explicit BinaryPropertyListReader(QByteArrayView bytes) : m_bytes(bytes) {}
+    explicit BinaryPropertyListReader(QByteArrayView bytes)
+        : m_bytes(bytes) {}
 
     [[nodiscard]] static bool recognises(QByteArrayView bytes);
     [[nodiscard]] std::optional<PropertyList> read();

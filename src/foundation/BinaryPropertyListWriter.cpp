@@ -18,7 +18,9 @@ int bytesFor(quint64 value) {
     return value <= 0xFFFF'FFFF ? 4 : 8;
 }
 
-quint8 exponentOf(int byteCount) { return static_cast<quint8>(std::countr_zero(static_cast<unsigned>(byteCount))); }
+quint8 exponentOf(int byteCount) {
+    return static_cast<quint8>(std::countr_zero(static_cast<unsigned>(byteCount)));
+}
 
 bool isAscii(const QString& text) {
     return std::all_of(text.begin(), text.end(), [](QChar unit) { return unit < u'\x80'; });

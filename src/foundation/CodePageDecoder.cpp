@@ -34,7 +34,9 @@ QByteArray nameOf(int codePage) {
 CodePageDecoder::CodePageDecoder() = default;
 CodePageDecoder::~CodePageDecoder() = default;
 
-void CodePageDecoder::ConverterCloser::operator()(UConverter* converter) const { ucnv_close(converter); }
+void CodePageDecoder::ConverterCloser::operator()(UConverter* converter) const {
+    ucnv_close(converter);
+}
 
 CodePageDecoder::Converter CodePageDecoder::opened(int codePage) {
     UErrorCode status = U_ZERO_ERROR;

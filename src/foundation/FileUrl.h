@@ -5,12 +5,12 @@
 #include <QString>
 #include <optional>
 
-/// File URLs as they lie in payloads (RFC 8089). Paths are kept as text; names that are not UTF-8 survive as percent escapes
-/// in the URL and decode with replacement characters in the path. Any thread; the disk is not touched.
+/// File URLs as they lie in payloads (RFC 8089). Paths are kept as text; names that are not UTF-8 survive as percent
+/// escapes in the URL and decode with replacement characters in the path. Any thread; the disk is not touched.
 namespace vellumry::fileurl {
 
-/// The path of a `file:` URL, with "." and ".." taken out and no slash at the end; nothing for bytes that are no URL, for
-/// another scheme, and for a host that is neither empty nor "localhost" nor this machine's name.
+/// The path of a `file:` URL, with "." and ".." taken out and no slash at the end; nothing for bytes that are no URL,
+/// for another scheme, and for a host that is neither empty nor "localhost" nor this machine's name.
 [[nodiscard]] std::optional<QString> pathOf(const QByteArray& url);
 
 /// `pathOf` without the last component's folders: the name that a reader knows the file by.

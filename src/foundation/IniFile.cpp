@@ -11,11 +11,17 @@ namespace {
 
 const QString generalGroup = QStringLiteral("General");
 
-QByteArray encodedName(const QString& name) { return name.toUtf8().toPercentEncoding(" :@+()"); }
+QByteArray encodedName(const QString& name) {
+    return name.toUtf8().toPercentEncoding(" :@+()");
+}
 
-QString decodedName(const QByteArray& text) { return QString::fromUtf8(QByteArray::fromPercentEncoding(text.trimmed())); }
+QString decodedName(const QByteArray& text) {
+    return QString::fromUtf8(QByteArray::fromPercentEncoding(text.trimmed()));
+}
 
-bool isGeneral(const QString& group) { return group.isEmpty() || group == generalGroup; }
+bool isGeneral(const QString& group) {
+    return group.isEmpty() || group == generalGroup;
+}
 
 } // namespace
 
@@ -78,7 +84,8 @@ void IniFile::assign(Group& group, const QString& key, const QVariant& value) {
 }
 
 IniFile::Group& IniFile::groupNamed(const QString& name) {
-    const auto found = std::find_if(m_groups.begin(), m_groups.end(), [&name](const Group& group) { return group.name == name; });
+    const auto found =
+        std::find_if(m_groups.begin(), m_groups.end(), [&name](const Group& group) { return group.name == name; });
     if (found != m_groups.end())
         return *found;
     // A group of its own is set off from the one before.

@@ -9,8 +9,9 @@
 
 namespace vellumry {
 
-/// The text of a settings file as lines under group headings, so that a change leaves comments, foreign keys and their order
-/// alone. Keys of [General] are the values; any other group is one value, a map, under the group's name. A value; any thread.
+/// The text of a settings file as lines under group headings, so that a change leaves comments, foreign keys and their
+/// order alone. Keys of [General] are the values; any other group is one value, a map, under the group's name. A value;
+/// any thread.
 class IniFile {
 public:
     IniFile() = default;

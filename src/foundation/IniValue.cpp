@@ -38,7 +38,8 @@ QString unescaped(const QString& text, qsizetype& position) {
     return QString(QChar(value));
 }
 
-/// Parts a right-hand side at its commas. Spaces around bare words do not count; quoted stretches are taken as they are.
+/// Parts a right-hand side at its commas. Spaces around bare words do not count; quoted stretches are taken as they
+/// are.
 std::vector<Token> tokens(const QString& text) {
     std::vector<Token> result(1);
     bool isInQuotes = false;
@@ -128,12 +129,15 @@ bool isBareWord(const QString& text) {
     const auto isPlain = [](QChar unit) {
         return unit.isLetterOrNumber() || QStringLiteral("._/:+-@(){} ").contains(unit);
     };
-    if (text.isEmpty() || text.startsWith(u' ') || text.endsWith(u' ') || !std::all_of(text.begin(), text.end(), isPlain))
+    if (text.isEmpty() || text.startsWith(u' ') || text.endsWith(u' ') ||
+        !std::all_of(text.begin(), text.end(), isPlain))
         return false;
     return text.startsWith(u'@') || scalar({text, false}).typeId() == QMetaType::QString;
 }
 
-QString formattedText(const QString& text) { return isBareWord(text) ? text : u'"' + escaped(text) + u'"'; }
+QString formattedText(const QString& text) {
+    return isBareWord(text) ? text : u'"' + escaped(text) + u'"';
+}
 
 QString formattedScalar(const QVariant& value) {
     switch (value.typeId()) {

@@ -5,9 +5,9 @@
 #include <QString>
 #include <QVariant>
 
-/// The right-hand sides of the settings file, in the notation of Qt's INI files: bare words, quoted strings, lists parted by
-/// commas, `@ByteArray(…)` for data. What stands in quotes is text, so that types survive: 5 is a number, "5" is not.
-/// Pure; any thread.
+/// The right-hand sides of the settings file, in the notation of Qt's INI files: bare words, quoted strings, lists
+/// parted by commas, `@ByteArray(…)` for data. What stands in quotes is text, so that types survive: 5 is a number, "5"
+/// is not. Pure; any thread.
 namespace vellumry::inivalue {
 
 /// The value as this program keeps it: integers as qint64, fractions as double, lists of texts as QStringList.

@@ -8,7 +8,9 @@
 
 namespace vellumry {
 
-QString localised(const char* key) { return QCoreApplication::translate("Vellumry", key); }
+QString localised(const char* key) {
+    return QCoreApplication::translate("Vellumry", key);
+}
 
 void installCatalogue() {
     QCoreApplication* application = QCoreApplication::instance();

@@ -5,11 +5,12 @@
 
 namespace vellumry {
 
-/// The user's wording of an English text. The text is its own key; without an installed catalogue it is the answer. Placeholders
-/// %1, %2, … are left for `QString::arg`. Any thread.
+/// The user's wording of an English text. The text is its own key; without an installed catalogue it is the answer.
+/// Placeholders %1, %2, … are left for `QString::arg`. Any thread.
 [[nodiscard]] QString localised(const char* key);
 
-/// Loads the catalogue that fits the user's languages, the Linux wording of English as the last resort. Main thread, once.
+/// Loads the catalogue that fits the user's languages, the Linux wording of English as the last resort. Main thread,
+/// once.
 void installCatalogue();
 
 } // namespace vellumry

@@ -13,8 +13,8 @@ namespace vellumry {
 
 /// A property-list value and its binary coding (the `bplist00` format). Values compare by content. Any thread.
 ///
-/// Integers are signed 64-bit, reals double; dates and UIDs, which this program never writes, are read as the two opaque
-/// cases below so that a foreign list that holds them still opens.
+/// Integers are signed 64-bit, reals double; dates and UIDs, which this program never writes, are read as the two
+/// opaque cases below so that a foreign list that holds them still opens.
 class PropertyList {
 public:
     using Array = std::vector<PropertyList>;

@@ -5,6 +5,8 @@
 
 namespace vellumry {
 
-std::optional<QString> textOfRtf(const QByteArray& rtf) { return RtfParser(rtf).text(); }
+std::optional<QString> textOfRtf(const QByteArray& rtf) {
+    return RtfParser(rtf).text();
+}
 
 } // namespace vellumry

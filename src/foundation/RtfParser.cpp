@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "foundation/RtfParser.h"
 
-#include <QSet>
+#include "foundation/RtfVocabulary.h"
+
 #include <algorithm>
 
 namespace vellumry {
@@ -10,61 +11,18 @@ namespace {
 
 constexpr std::size_t deepest = 512;
 
-bool isLetter(char byte) { return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z'); }
-bool isDigit(char byte) { return byte >= '0' && byte <= '9'; }
+bool isLetter(char byte) {
+    return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
+}
+bool isDigit(char byte) {
+    return byte >= '0' && byte <= '9';
+}
 
 int hexValue(char byte) {
     if (isDigit(byte))
         return byte - '0';
     const char lower = static_cast<char>(byte | 0x20);
     return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
-}
-
-/// The Windows code page of a font's \fcharset; 0 where the document's own counts.
-int codePageOfCharset(int charset) {
-    switch (charset) {
-    case 0: return 1252;
-    case 77: return 10000;
-    case 128: return 932;
-    case 129: return 949;
-    case 134: return 936;
-    case 136: return 950;
-    case 161: return 1253;
-    case 162: return 1254;
-    case 163: return 1258;
-    case 177: return 1255;
-    case 178: return 1256;
-    case 186: return 1257;
-    case 204: return 1251;
-    case 222: return 874;
-    case 238: return 1250;
-    default: return 0;
-    }
-}
-
-/// Control words that stand for one character.
-std::optional<char16_t> characterOf(const QByteArray& word) {
-    static const QHash<QByteArray, char16_t> characters{
-        {"par", u'\n'},          {"line", u'\n'},         {"sect", u'\n'},          {"page", u'\n'},
-        {"column", u'\n'},       {"row", u'\n'},          {"nestrow", u'\n'},       {"tab", u'\t'},
-        {"cell", u'\t'},         {"nestcell", u'\t'},     {"emdash", u'\u2014'},    {"endash", u'\u2013'},
-        {"emspace", u'\u2003'},  {"enspace", u'\u2002'},  {"qmspace", u'\u2005'},   {"bullet", u'\u2022'},
-        {"lquote", u'\u2018'},   {"rquote", u'\u2019'},   {"ldblquote", u'\u201C'}, {"rdblquote", u'\u201D'},
-        {"zwj", u'\u200D'},      {"zwnj", u'\u200C'},     {"ltrmark", u'\u200E'},   {"rtlmark", u'\u200F'},
-    };
-    const auto found = characters.constFind(word);
-    return found == characters.constEnd() ? std::nullopt : std::optional(*found);
-}
-
-/// Groups whose content is no text of the document.
-bool isIgnoredDestination(const QByteArray& word) {
-    static const QSet<QByteArray> words{
-        "colortbl", "stylesheet", "info",     "pict",    "object",    "objdata",   "header",     "headerl",  "headerr",
-        "headerf",  "footer",     "footerl",  "footerr", "footerf",   "footnote",  "annotation", "fldinst",  "filetbl",
-        "listtable", "listoverridetable", "rsidtbl", "revtbl", "generator", "themedata", "datastore", "latentstyles",
-        "xe",       "tc",         "rxe",      "private", "nonshppict", "shpinst",  "bkmkstart",  "bkmkend",  "template",
-    };
-    return words.contains(word);
 }
 
 } // namespace
@@ -213,7 +171,7 @@ void RtfParser::apply(const ControlWord& word) {
         m_fallbackLeft = m_groups.back().fallbackLength;
         return;
     }
-    if (const std::optional<char16_t> character = characterOf(word.name.toByteArray()))
+    if (const std::optional<char16_t> character = rtf::characterOf(word.name.toByteArray()))
         return append(*character);
     (void)consumesFallback();
 }
@@ -225,7 +183,7 @@ bool RtfParser::applyDestination(QByteArrayView name) {
         return true;
     }
     // \* says: who does not know what follows shall leave it out. Of these we know none but the font table.
-    if (group.isMarkedIgnorable || isIgnoredDestination(name.toByteArray())) {
+    if (group.isMarkedIgnorable || rtf::isIgnoredDestination(name.toByteArray())) {
         group.destination = Destination::Ignored;
         return true;
     }
@@ -253,7 +211,7 @@ bool RtfParser::applyToState(const ControlWord& word) {
     } else if (word.name == "plain") {
         group.codePage = 0;
     } else if (word.name == "fcharset" && group.destination == Destination::FontTable) {
-        if (const int codePage = codePageOfCharset(parameter))
+        if (const int codePage = rtf::codePageOfCharset(parameter))
             m_fontCodePages.insert(m_definedFont, codePage);
     } else {
         return false;

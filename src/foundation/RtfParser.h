@@ -10,10 +10,12 @@
 
 namespace vellumry {
 
-/// Walks through an RTF document (RTF 1.9.1) and keeps its text. Any thread; used once; time and memory linear in the input.
+/// Walks through an RTF document (RTF 1.9.1) and keeps its text. Any thread; used once; time and memory linear in the
+/// input.
 class RtfParser {
 public:
-    explicit RtfParser(QByteArrayView rtf) : m_rtf(rtf) {}
+    explicit RtfParser(QByteArrayView rtf)
+        : m_rtf(rtf) {}
     /// Nothing when the bytes do not begin as RTF, end inside a group, or nest groups beyond reason.
     [[nodiscard]] std::optional<QString> text();
 
@@ -22,8 +24,8 @@ private:
     /// What a closing brace brings back.
     struct Group {
         Destination destination = Destination::Body;
-        int codePage = 0; ///< of the current font; 0 where the document's counts
-        int fallbackLength = 1; ///< how many characters stand in for one \u
+        int codePage = 0;               ///< of the current font; 0 where the document's counts
+        int fallbackLength = 1;         ///< how many characters stand in for one \u
         bool isMarkedIgnorable = false; ///< \* was the last thing read
     };
     struct ControlWord {

@@ -35,22 +35,29 @@ unsigned char* allocate(std::size_t size) {
 
 } // namespace
 
-void wipe(void* memory, std::size_t size) { OPENSSL_cleanse(memory, size); }
+void wipe(void* memory, std::size_t size) {
+    OPENSSL_cleanse(memory, size);
+}
 
-SecureBytes::SecureBytes(std::size_t size) : m_data(allocate(size)), m_size(size) {}
+SecureBytes::SecureBytes(std::size_t size)
+    : m_data(allocate(size))
+    , m_size(size) {}
 
-SecureBytes::SecureBytes(QByteArrayView bytes) : SecureBytes(static_cast<std::size_t>(bytes.size())) {
+SecureBytes::SecureBytes(QByteArrayView bytes)
+    : SecureBytes(static_cast<std::size_t>(bytes.size())) {
     if (m_size > 0)
         std::memcpy(m_data, bytes.data(), m_size);
 }
 
-SecureBytes::SecureBytes(const SecureBytes& other) : SecureBytes(other.m_size) {
+SecureBytes::SecureBytes(const SecureBytes& other)
+    : SecureBytes(other.m_size) {
     if (m_size > 0)
         std::memcpy(m_data, other.m_data, m_size);
 }
 
 SecureBytes::SecureBytes(SecureBytes&& other) noexcept
-    : m_data(std::exchange(other.m_data, nullptr)), m_size(std::exchange(other.m_size, 0)) {}
+    : m_data(std::exchange(other.m_data, nullptr))
+    , m_size(std::exchange(other.m_size, 0)) {}
 
 SecureBytes& SecureBytes::operator=(SecureBytes other) noexcept {
     std::swap(m_data, other.m_data);
@@ -76,9 +83,11 @@ SymmetricKey SymmetricKey::random() {
     return SymmetricKey(std::move(bytes));
 }
 
-SymmetricKey::SymmetricKey(QByteArrayView bytes) : SymmetricKey(SecureBytes(bytes)) {}
+SymmetricKey::SymmetricKey(QByteArrayView bytes)
+    : SymmetricKey(SecureBytes(bytes)) {}
 
-SymmetricKey::SymmetricKey(SecureBytes bytes) : m_bytes(std::move(bytes)) {
+SymmetricKey::SymmetricKey(SecureBytes bytes)
+    : m_bytes(std::move(bytes)) {
     if (m_bytes.size() != byteCount)
         throw std::invalid_argument("a key has 32 bytes");
 }

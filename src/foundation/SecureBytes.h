@@ -10,8 +10,8 @@ namespace vellumry {
 /// Overwrites memory in a way the compiler may not leave out.
 void wipe(void* memory, std::size_t size);
 
-/// Bytes that are wiped when they go, kept out of swap and out of core dumps where the system allows. Copies are copies of
-/// the secret and wiped likewise. Any thread, one owner.
+/// Bytes that are wiped when they go, kept out of swap and out of core dumps where the system allows. Copies are copies
+/// of the secret and wiped likewise. Any thread, one owner.
 class SecureBytes {
 public:
     SecureBytes() = default;

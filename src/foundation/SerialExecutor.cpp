@@ -37,7 +37,8 @@ struct SerialExecutor::Private {
     }
 };
 
-SerialExecutor::SerialExecutor(const char* name, bool lowPriority) : d(std::make_unique<Private>()) {
+SerialExecutor::SerialExecutor(const char* name, bool lowPriority)
+    : d(std::make_unique<Private>()) {
     d->thread = std::thread([this, threadName = std::string(name).substr(0, 15), lowPriority] {
         pthread_setname_np(pthread_self(), threadName.c_str());
         // On Linux a nice value belongs to the thread; failing to lower it changes nothing but speed.
@@ -64,7 +65,9 @@ void SerialExecutor::post(std::function<void()> job) {
     d->wake.notify_one();
 }
 
-bool SerialExecutor::isCurrent() const { return std::this_thread::get_id() == d->thread.get_id(); }
+bool SerialExecutor::isCurrent() const {
+    return std::this_thread::get_id() == d->thread.get_id();
+}
 
 void postToMain(std::function<void()> function) {
     QCoreApplication* application = QCoreApplication::instance();

@@ -24,8 +24,8 @@ public:
 
     void post(std::function<void()> job);
 
-    /// Runs `job` on the executor. Awaiting it on the main thread suspends and resumes there with the job's result, or with
-    /// the exception it threw. The result must be awaited.
+    /// Runs `job` on the executor. Awaiting it on the main thread suspends and resumes there with the job's result, or
+    /// with the exception it threw. The result must be awaited.
     template <typename Job>
     [[nodiscard]] auto run(Job job);
 
@@ -54,7 +54,9 @@ class ExecutorAwaiter {
 public:
     using Result = std::invoke_result_t<Job>;
 
-    ExecutorAwaiter(SerialExecutor& executor, Job job) : m_executor(&executor), m_job(std::move(job)) {}
+    ExecutorAwaiter(SerialExecutor& executor, Job job)
+        : m_executor(&executor)
+        , m_job(std::move(job)) {}
 
     bool await_ready() const noexcept { return false; }
     void await_suspend(std::coroutine_handle<> waiting) {

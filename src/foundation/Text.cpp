@@ -20,16 +20,17 @@ struct BreakIteratorCloser {
 UBreakIterator* characterIterator() {
     thread_local const std::unique_ptr<UBreakIterator, BreakIteratorCloser> iterator = [] {
         UErrorCode status = U_ZERO_ERROR;
-        return std::unique_ptr<UBreakIterator, BreakIteratorCloser>(
-            ubrk_open(UBRK_CHARACTER, "", nullptr, 0, &status));
+        return std::unique_ptr<UBreakIterator, BreakIteratorCloser>(ubrk_open(UBRK_CHARACTER, "", nullptr, 0, &status));
     }();
     return iterator.get();
 }
 
-/// Walks over the characters of a text. Units that cannot join stand for themselves; the tables are asked for the rest only.
+/// Walks over the characters of a text. Units that cannot join stand for themselves; the tables are asked for the rest
+/// only.
 class CharacterWalker {
 public:
-    explicit CharacterWalker(QStringView text) : m_text(text) {}
+    explicit CharacterWalker(QStringView text)
+        : m_text(text) {}
     ~CharacterWalker() {
         // The iterator outlives the text that it looks into.
         if (m_iterator)
@@ -131,11 +132,19 @@ bool isWhitespace(char32_t scalar) {
     return QChar::category(scalar) == QChar::Separator_Space;
 }
 
-bool isWhitespaceOrNewline(char32_t scalar) { return isWhitespace(scalar) || isNewline(scalar); }
+bool isWhitespaceOrNewline(char32_t scalar) {
+    return isWhitespace(scalar) || isNewline(scalar);
+}
 
-QString trimmed(const QString& text) { return trimmedOf(text, isWhitespaceOrNewline); }
-QString trimmedOfWhitespace(const QString& text) { return trimmedOf(text, isWhitespace); }
-QString trimmedOfNewlines(const QString& text) { return trimmedOf(text, isNewline); }
+QString trimmed(const QString& text) {
+    return trimmedOf(text, isWhitespaceOrNewline);
+}
+QString trimmedOfWhitespace(const QString& text) {
+    return trimmedOf(text, isWhitespace);
+}
+QString trimmedOfNewlines(const QString& text) {
+    return trimmedOf(text, isNewline);
+}
 
 bool isBlank(QStringView text) {
     for (const QChar unit : text) {

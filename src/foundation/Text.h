@@ -42,8 +42,8 @@ void forEachCharacter(QStringView text, const std::function<bool(QStringView)>& 
 /// Split at each newline scalar (CR LF counts as one), empty lines kept.
 [[nodiscard]] QStringList lines(QStringView text);
 
-/// `text` without differences of case, diacritics and width: what two texts share when a reader would call them the same
-/// word. One mapping for all languages but the Turkic i, which follows the current locale.
+/// `text` without differences of case, diacritics and width: what two texts share when a reader would call them the
+/// same word. One mapping for all languages but the Turkic i, which follows the current locale.
 [[nodiscard]] QString folded(QStringView text);
 /// `folded` with the i of all other languages, whatever the current locale.
 [[nodiscard]] QString foldedWithoutLocale(QStringView text);

@@ -20,8 +20,8 @@ LetterI letterIOfCurrentLocale() {
     return language == QLocale::Turkish || language == QLocale::Azerbaijani ? LetterI::Turkic : LetterI::Dotted;
 }
 
-/// Marks that a reader leaves out when he types the word: the accents of alphabets and vowel points of abjads. Vowel signs of
-/// Indic and Thai writing and the voicing marks of kana make another letter and stay.
+/// Marks that a reader leaves out when he types the word: the accents of alphabets and vowel points of abjads. Vowel
+/// signs of Indic and Thai writing and the voicing marks of kana make another letter and stay.
 bool isDroppedMark(UChar32 scalar) {
     if (scalar < 0x0300 || u_charType(scalar) != U_NON_SPACING_MARK)
         return false;
@@ -71,7 +71,8 @@ QString withOrdinaryWidth(const QString& text) {
         std::array<UChar, 8> ordinary{};
         int32_t length = -1;
         if (kind == U_DT_WIDE || kind == U_DT_NARROW)
-            length = unorm2_getRawDecomposition(compatibility, unit.unicode(), ordinary.data(), ordinary.size(), &status);
+            length =
+                unorm2_getRawDecomposition(compatibility, unit.unicode(), ordinary.data(), ordinary.size(), &status);
         if (length > 0 && U_SUCCESS(status))
             result.append(QStringView(ordinary.data(), length));
         else
@@ -85,9 +86,9 @@ QString normalized(const UNormalizer2* form, const QString& text) {
     QString result(text.size() + text.size() / 2 + 16, Qt::Uninitialized);
     for (;;) {
         UErrorCode status = U_ZERO_ERROR;
-        const int32_t length = unorm2_normalize(form, QStringView(text).utf16(), static_cast<int32_t>(text.size()),
-                                                reinterpret_cast<UChar*>(result.data()),
-                                                static_cast<int32_t>(result.size()), &status);
+        const int32_t length =
+            unorm2_normalize(form, QStringView(text).utf16(), static_cast<int32_t>(text.size()),
+                             reinterpret_cast<UChar*>(result.data()), static_cast<int32_t>(result.size()), &status);
         if (U_SUCCESS(status)) {
             result.truncate(length);
             return result;
@@ -103,8 +104,9 @@ QString caseFolded(const QString& text, LetterI letterI) {
     const uint32_t options = letterI == LetterI::Turkic ? U_FOLD_CASE_EXCLUDE_SPECIAL_I : U_FOLD_CASE_DEFAULT;
     for (;;) {
         UErrorCode status = U_ZERO_ERROR;
-        const int32_t length = u_strFoldCase(reinterpret_cast<UChar*>(result.data()), static_cast<int32_t>(result.size()),
-                                             QStringView(text).utf16(), static_cast<int32_t>(text.size()), options, &status);
+        const int32_t length =
+            u_strFoldCase(reinterpret_cast<UChar*>(result.data()), static_cast<int32_t>(result.size()),
+                          QStringView(text).utf16(), static_cast<int32_t>(text.size()), options, &status);
         if (U_SUCCESS(status)) {
             result.truncate(length);
             return result;
@@ -169,10 +171,12 @@ inline char asciiLower(char byte) {
     return static_cast<char>(byte | (static_cast<unsigned char>(byte - 'A') < 26 ? 0x20 : 0));
 }
 
-bool isAscii(char byte) { return static_cast<signed char>(byte) >= 0; }
+bool isAscii(char byte) {
+    return static_cast<signed char>(byte) >= 0;
+}
 
-/// Lowers the ASCII bytes at the front of [from, end) into `to` and answers how many they were. Whole blocks first: a loop of
-/// fixed length is what compilers turn into vector code.
+/// Lowers the ASCII bytes at the front of [from, end) into `to` and answers how many they were. Whole blocks first: a
+/// loop of fixed length is what compilers turn into vector code.
 qsizetype lowerAsciiRun(const char* from, const char* end, char* to) {
     constexpr qsizetype block = 64;
     const char* cursor = from;
@@ -204,7 +208,8 @@ bool standsForItselfAmongWhole(char32_t scalar) {
            (scalar >= 0xAC00 && scalar <= 0xD7A3);
 }
 
-/// Folds a run of bytes that are not ASCII, scalar by scalar; false when a scalar needs the full tables or its neighbours.
+/// Folds a run of bytes that are not ASCII, scalar by scalar; false when a scalar needs the full tables or its
+/// neighbours.
 bool appendByScalars(const char* from, const char* end, QByteArray& out) {
     const ShortFoldings& table = shortFoldings();
     const auto trail = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; };
@@ -266,11 +271,17 @@ QByteArray foldedUtf8(const QByteArray& utf8, LetterI letterI) {
 
 } // namespace
 
-QByteArray foldedBytes(const QByteArray& utf8) { return foldedUtf8(utf8, letterIOfCurrentLocale()); }
+QByteArray foldedBytes(const QByteArray& utf8) {
+    return foldedUtf8(utf8, letterIOfCurrentLocale());
+}
 
-QByteArray foldedBytes(QStringView text) { return foldedBytes(text.toUtf8()); }
+QByteArray foldedBytes(QStringView text) {
+    return foldedBytes(text.toUtf8());
+}
 
-QString folded(QStringView text) { return QString::fromUtf8(foldedBytes(text)); }
+QString folded(QStringView text) {
+    return QString::fromUtf8(foldedBytes(text));
+}
 
 QString foldedWithoutLocale(QStringView text) {
     return QString::fromUtf8(foldedUtf8(text.toUtf8(), LetterI::Dotted));

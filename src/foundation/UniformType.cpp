@@ -85,10 +85,11 @@ bool isMarkerName(const QString& target) {
 const QSet<QString>& imageExtensions() {
     static const QSet<QString> extensions = [] {
         QSet<QString> result;
-        const QString all = QStringLiteral(
-            "png apng jpg jpeg jpe jfif heic heif heics heifs hif avif avifs tif tiff gif bmp dib webp ico cur icns svg svgz "
-            "jp2 j2k jpf jpx jxl tga exr hdr pbm pgm ppm pnm pam xbm xpm pcx psd psb dds "
-            "dng cr2 cr3 crw nef nrw arw sr2 srf orf raf rw2 pef srw raw rwl 3fr iiq");
+        const QString all =
+            QStringLiteral("png apng jpg jpeg jpe jfif heic heif heics heifs hif avif avifs tif tiff gif bmp dib webp "
+                           "ico cur icns svg svgz "
+                           "jp2 j2k jpf jpx jxl tga exr hdr pbm pgm ppm pnm pam xbm xpm pcx psd psb dds "
+                           "dng cr2 cr3 crw nef nrw arw sr2 srf orf raf rw2 pef srw raw rwl 3fr iiq");
         for (const QString& extension : all.split(u' '))
             result.insert(extension);
         return result;
@@ -143,7 +144,9 @@ std::optional<QString> preferredTarget(const QString& uniformType, const QString
     return std::nullopt;
 }
 
-bool isImageExtension(const QString& extension) { return imageExtensions().contains(extension.toLower()); }
+bool isImageExtension(const QString& extension) {
+    return imageExtensions().contains(extension.toLower());
+}
 
 std::optional<QString> imageTypeOfExtension(const QString& extension) {
     const QString lower = extension.toLower();

@@ -5,8 +5,8 @@
 #include <QStringList>
 #include <optional>
 
-/// The uniform type identifiers that name a representation everywhere in the program and in the history file, and the one
-/// table between them and the MIME types and X atoms of the desktop. Pure; any thread.
+/// The uniform type identifiers that name a representation everywhere in the program and in the history file, and the
+/// one table between them and the MIME types and X atoms of the desktop. Pure; any thread.
 namespace vellumry::uniformtype {
 
 inline const QString utf8PlainText = QStringLiteral("public.utf8-plain-text"); ///< the pasteboard's string type
@@ -29,9 +29,10 @@ inline const QString webArchive = QStringLiteral("com.apple.webarchive");
 inline const QString ownMarker = QStringLiteral("com.vellumry.marker");
 inline const QString concealed = QStringLiteral("org.nspasteboard.ConcealedType");
 
-/// The uniform type that a MIME type or X atom name stands for; the name itself where the table has no entry. Nothing for
-/// housekeeping targets (TARGETS, MULTIPLE, TIMESTAMP, SAVE_TARGETS, DELETE, INSERT_*), for process-local ones
-/// (GTK_TEXT_BUFFER_CONTENTS, chromium/x-internal-*, LibreOffice's internal ids and links) and for the junk atoms of xterm.
+/// The uniform type that a MIME type or X atom name stands for; the name itself where the table has no entry. Nothing
+/// for housekeeping targets (TARGETS, MULTIPLE, TIMESTAMP, SAVE_TARGETS, DELETE, INSERT_*), for process-local ones
+/// (GTK_TEXT_BUFFER_CONTENTS, chromium/x-internal-*, LibreOffice's internal ids and links) and for the junk atoms of
+/// xterm.
 [[nodiscard]] std::optional<QString> fromTarget(const QString& target);
 
 /// The names under which a representation is offered to other programs, best first: `public.utf8-plain-text` gives

@@ -136,8 +136,12 @@ struct UserDefaults::Private {
     }
 };
 
-UserDefaults::UserDefaults(QString path) : d(std::make_unique<Private>()) { d->path = std::move(path); }
-UserDefaults::UserDefaults() : d(std::make_unique<Private>()) {}
+UserDefaults::UserDefaults(QString path)
+    : d(std::make_unique<Private>()) {
+    d->path = std::move(path);
+}
+UserDefaults::UserDefaults()
+    : d(std::make_unique<Private>()) {}
 UserDefaults::~UserDefaults() = default;
 
 void UserDefaults::registerDefaults(const QVariantMap& values) {
@@ -145,7 +149,9 @@ void UserDefaults::registerDefaults(const QVariantMap& values) {
         d->registered.insert(entry.key(), inivalue::normalized(entry.value()));
 }
 
-QVariant UserDefaults::object(const QString& key) const { return d->value(key); }
+QVariant UserDefaults::object(const QString& key) const {
+    return d->value(key);
+}
 
 std::optional<QString> UserDefaults::string(const QString& key) const {
     const QVariant value = object(key);
@@ -198,8 +204,12 @@ bool UserDefaults::boolean(const QString& key) const {
     }
 }
 
-void UserDefaults::setObject(const QString& key, const QVariant& value) { d->change(key, inivalue::normalized(value)); }
+void UserDefaults::setObject(const QString& key, const QVariant& value) {
+    d->change(key, inivalue::normalized(value));
+}
 
-void UserDefaults::removeObject(const QString& key) { d->change(key, QVariant()); }
+void UserDefaults::removeObject(const QString& key) {
+    d->change(key, QVariant());
+}
 
 } // namespace vellumry

@@ -10,9 +10,9 @@
 
 namespace vellumry {
 
-/// One domain of settings over an INI file (group [General]). Keeps no copy: a change made to the file by another program
-/// counts at the next read. A write is atomic and durable when the call returns; a file that cannot be written keeps its old
-/// content and the new value holds for this run. Main thread.
+/// One domain of settings over an INI file (group [General]). Keeps no copy: a change made to the file by another
+/// program counts at the next read. A write is atomic and durable when the call returns; a file that cannot be written
+/// keeps its old content and the new value holds for this run. Main thread.
 class UserDefaults {
 public:
     /// `path` need not exist. Its folder is made at the first write, mode 700; the file gets mode 600.
@@ -26,8 +26,8 @@ public:
     /// Values that a read gives for keys nobody has set. Adds to what was registered before.
     void registerDefaults(const QVariantMap& values);
 
-    /// The stored value, else the registered one, else an invalid variant. Integers are qint64, fractions double, data is a
-    /// QByteArray; lists of texts are QStringList, other lists QVariantList, maps QVariantMap.
+    /// The stored value, else the registered one, else an invalid variant. Integers are qint64, fractions double, data
+    /// is a QByteArray; lists of texts are QStringList, other lists QVariantList, maps QVariantMap.
     [[nodiscard]] QVariant object(const QString& key) const;
     [[nodiscard]] std::optional<QString> string(const QString& key) const;
     /// A single text, as a hand writes it into the file, is a list of one; an empty text is an empty list.

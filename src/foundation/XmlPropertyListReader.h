@@ -10,7 +10,8 @@ namespace vellumry {
 /// Reads one list in the XML coding (`<plist version="1.0">`). Any thread; used once.
 class XmlPropertyListReader {
 public:
-    explicit XmlPropertyListReader(const QByteArray& bytes) : m_xml(bytes) {}
+    explicit XmlPropertyListReader(const QByteArray& bytes)
+        : m_xml(bytes) {}
     [[nodiscard]] std::optional<PropertyList> read();
 
 private:

@@ -20,31 +20,34 @@ class FileUrlPath : public testing::TestWithParam<PathRow> {};
 
 } // namespace
 
-TEST_P(FileUrlPath, IsWhatTheUrlSays) { EXPECT_EQ(fileurl::pathOf(GetParam().url), GetParam().path); }
+TEST_P(FileUrlPath, IsWhatTheUrlSays) {
+    EXPECT_EQ(fileurl::pathOf(GetParam().url), GetParam().path);
+}
 
-INSTANTIATE_TEST_SUITE_P(
-    Urls, FileUrlPath,
-    testing::Values(PathRow{"Plain", "file:///home/a/b.txt", QStringLiteral("/home/a/b.txt")},
-                    PathRow{"NoAuthority", "file:/home/a", QStringLiteral("/home/a")},
-                    PathRow{"Localhost", "file://localhost/a", QStringLiteral("/a")},
-                    PathRow{"UpperCaseScheme", "FILE:///a", QStringLiteral("/a")},
-                    PathRow{"Escapes", "file:///a%20b/%C3%A9", QStringLiteral("/a b/é")},
-                    PathRow{"RawUtf8", "file:///\xC3\xA9", QStringLiteral("/é")},
-                    PathRow{"TrailingSlash", "file:///home/a/", QStringLiteral("/home/a")},
-                    PathRow{"Root", "file:///", QStringLiteral("/")},
-                    PathRow{"Dots", "file:///a/./b/../c", QStringLiteral("/a/c")},
-                    PathRow{"DotsAboveRoot", "file:///../a", QStringLiteral("/a")},
-                    PathRow{"QueryAndFragment", "file:///a?b#c", QStringLiteral("/a")},
-                    PathRow{"EscapedHash", "file:///a%23b", QStringLiteral("/a#b")},
-                    PathRow{"NotUtf8", "file:///a%FFb", QStringLiteral("/a\uFFFDb")},
-                    PathRow{"OtherHost", "file://elsewhere.example/a", std::nullopt},
-                    PathRow{"OtherScheme", "https:///a", std::nullopt},
-                    PathRow{"RelativePath", "file:a/b", std::nullopt}, PathRow{"NoPath", "file://", std::nullopt},
-                    PathRow{"BarePath", "/home/a", std::nullopt}, PathRow{"Empty", "", std::nullopt},
-                    PathRow{"BrokenEscape", "file:///a%2", std::nullopt},
-                    PathRow{"EscapedNul", "file:///a%00b", std::nullopt},
-                    PathRow{"LineFeed", "file:///a\nb", std::nullopt}),
-    [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Urls, FileUrlPath,
+                         testing::Values(PathRow{"Plain", "file:///home/a/b.txt", QStringLiteral("/home/a/b.txt")},
+                                         PathRow{"NoAuthority", "file:/home/a", QStringLiteral("/home/a")},
+                                         PathRow{"Localhost", "file://localhost/a", QStringLiteral("/a")},
+                                         PathRow{"UpperCaseScheme", "FILE:///a", QStringLiteral("/a")},
+                                         PathRow{"Escapes", "file:///a%20b/%C3%A9", QStringLiteral("/a b/é")},
+                                         PathRow{"RawUtf8", "file:///\xC3\xA9", QStringLiteral("/é")},
+                                         PathRow{"TrailingSlash", "file:///home/a/", QStringLiteral("/home/a")},
+                                         PathRow{"Root", "file:///", QStringLiteral("/")},
+                                         PathRow{"Dots", "file:///a/./b/../c", QStringLiteral("/a/c")},
+                                         PathRow{"DotsAboveRoot", "file:///../a", QStringLiteral("/a")},
+                                         PathRow{"QueryAndFragment", "file:///a?b#c", QStringLiteral("/a")},
+                                         PathRow{"EscapedHash", "file:///a%23b", QStringLiteral("/a#b")},
+                                         PathRow{"NotUtf8", "file:///a%FFb", QStringLiteral("/a\uFFFDb")},
+                                         PathRow{"OtherHost", "file://elsewhere.example/a", std::nullopt},
+                                         PathRow{"OtherScheme", "https:///a", std::nullopt},
+                                         PathRow{"RelativePath", "file:a/b", std::nullopt},
+                                         PathRow{"NoPath", "file://", std::nullopt},
+                                         PathRow{"BarePath", "/home/a", std::nullopt},
+                                         PathRow{"Empty", "", std::nullopt},
+                                         PathRow{"BrokenEscape", "file:///a%2", std::nullopt},
+                                         PathRow{"EscapedNul", "file:///a%00b", std::nullopt},
+                                         PathRow{"LineFeed", "file:///a\nb", std::nullopt}),
+                         [](const auto& row) { return row.param.name; });
 
 TEST(FileUrl, ThisMachinesNameIsAHostToo) {
     std::array<char, HOST_NAME_MAX + 1> name{};

@@ -19,8 +19,9 @@ QStringList keysInSources() {
         QStringLiteral("\\b(?:localised|text|tr)\\(\\s*((?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+)"));
     static const QRegularExpression literal(QStringLiteral("\"((?:[^\"\\\\]|\\\\.)*)\""));
     QStringList keys;
-    QDirIterator files(QStringLiteral(VELLUMRY_SOURCE_FOLDER), {QStringLiteral("*.cpp"), QStringLiteral("*.h"), QStringLiteral("*.qml")},
-                       QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator files(QStringLiteral(VELLUMRY_SOURCE_FOLDER),
+                       {QStringLiteral("*.cpp"), QStringLiteral("*.h"), QStringLiteral("*.qml")}, QDir::Files,
+                       QDirIterator::Subdirectories);
     while (files.hasNext()) {
         QFile file(files.next());
         if (!file.open(QIODevice::ReadOnly))
@@ -69,7 +70,8 @@ TEST(Localisation, NoWordingShownSpeaksOfAnotherSystem) {
     const QStringList keys = keysInSources();
     EXPECT_FALSE(keys.isEmpty());
     for (const QString& key : keys)
-        EXPECT_FALSE(speaksOfAnotherSystem(localised(key.toUtf8().constData()))) << "no wording for: " << qPrintable(key);
+        EXPECT_FALSE(speaksOfAnotherSystem(localised(key.toUtf8().constData())))
+            << "no wording for: " << qPrintable(key);
     QCoreApplication::removeTranslator(&catalogue);
 }
 

@@ -33,7 +33,9 @@ QByteArray assembled(const std::vector<QByteArray>& objects) {
     return bytes + table + trailer(objects.size(), 0, tableOffset);
 }
 
-QByteArray hex(const char* digits) { return QByteArray::fromHex(digits); }
+QByteArray hex(const char* digits) {
+    return QByteArray::fromHex(digits);
+}
 
 /// An array of `references`, each of two bytes.
 QByteArray arrayOf(const std::vector<quint64>& references) {
@@ -70,7 +72,9 @@ QByteArray nested(int levels) {
 
 } // namespace
 
-TEST_P(PropertyListHostile, IsRefused) { EXPECT_FALSE(PropertyList::fromBytes(GetParam().bytes)); }
+TEST_P(PropertyListHostile, IsRefused) {
+    EXPECT_FALSE(PropertyList::fromBytes(GetParam().bytes));
+}
 
 INSTANTIATE_TEST_SUITE_P(
     Lists, PropertyListHostile,
@@ -95,21 +99,25 @@ INSTANTIATE_TEST_SUITE_P(
         HostileRow{"OffsetIntoTheHeader", "bplist00" + hex("09") + hex("0003") + trailer(1, 0, 9)},
         HostileRow{"NoOffsetSize", "bplist00" + hex("09") + hex("0008") + trailer(1, 0, 9, 0)},
         HostileRow{"WideReferences", "bplist00" + hex("09") + hex("0008") + trailer(1, 0, 9, 2, 9)},
-        HostileRow{"XmlCutOff", "<plist><dict><key>a</key>"}, HostileRow{"XmlNoKey", "<plist><dict><true/></dict></plist>"},
+        HostileRow{"XmlCutOff", "<plist><dict><key>a</key>"},
+        HostileRow{"XmlNoKey", "<plist><dict><true/></dict></plist>"},
         HostileRow{"XmlUnknownElement", "<plist><thing/></plist>"},
         HostileRow{"XmlBadNumber", "<plist><integer>x</integer></plist>"},
-        HostileRow{"XmlTooDeep", "<plist>" + QByteArray("<array>").repeated(70) + QByteArray("</array>").repeated(70) + "</plist>"},
-        HostileRow{"XmlEntityBomb", "<!DOCTYPE plist [<!ENTITY a \"0123456789\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">"
-                                    "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;\"><!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;\">"
-                                    "<!ENTITY e \"&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;\">]><plist><string>&e;</string></plist>"}),
+        HostileRow{"XmlTooDeep",
+                   "<plist>" + QByteArray("<array>").repeated(70) + QByteArray("</array>").repeated(70) + "</plist>"},
+        HostileRow{"XmlEntityBomb",
+                   "<!DOCTYPE plist [<!ENTITY a \"0123456789\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">"
+                   "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;\"><!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;\">"
+                   "<!ENTITY e \"&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;\">]><plist><string>&e;</string></plist>"}),
     [](const auto& row) { return row.param.name; });
 
-TEST(PropertyListHostile, DepthOf64IsStillRead) { EXPECT_TRUE(PropertyList::fromBytes(nested(64))); }
+TEST(PropertyListHostile, DepthOf64IsStillRead) {
+    EXPECT_TRUE(PropertyList::fromBytes(nested(64)));
+}
 
 TEST(PropertyListHostile, ALongTextReferredToOftenIsHeldOnce) {
     const QByteArray longText = hex("5f114e20") + QByteArray(20'000, 'x');
-    const std::optional<PropertyList> list =
-        PropertyList::fromBytes(assembled({arrayOf({1, 1, 1, 1}), longText}));
+    const std::optional<PropertyList> list = PropertyList::fromBytes(assembled({arrayOf({1, 1, 1, 1}), longText}));
     ASSERT_TRUE(list);
     const PropertyList::Array& array = *list->array();
     EXPECT_EQ(array[0].string()->constData(), array[3].string()->constData());

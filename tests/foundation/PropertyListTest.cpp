@@ -15,7 +15,9 @@ struct ValueRow {
 
 class PropertyListValue : public testing::TestWithParam<ValueRow> {};
 
-PropertyList text(const char16_t* value) { return PropertyList(value); }
+PropertyList text(const char16_t* value) {
+    return PropertyList(value);
+}
 
 PropertyList numbers(qint64 count) {
     PropertyList::Array array;
@@ -34,23 +36,24 @@ TEST_P(PropertyListValue, SurvivesItsBinaryCoding) {
 
 INSTANTIATE_TEST_SUITE_P(
     Values, PropertyListValue,
-    testing::Values(
-        ValueRow{"EmptyDictionary", PropertyList()}, ValueRow{"True", true}, ValueRow{"False", false},
-        ValueRow{"Zero", qint64(0)}, ValueRow{"Byte", qint64(255)}, ValueRow{"Word", qint64(65535)},
-        ValueRow{"Long", qint64(0xFFFF'FFFF)}, ValueRow{"Greatest", std::numeric_limits<qint64>::max()},
-        ValueRow{"MinusOne", qint64(-1)}, ValueRow{"Least", std::numeric_limits<qint64>::min()}, ValueRow{"Real", 0.1},
-        ValueRow{"Infinity", std::numeric_limits<double>::infinity()}, ValueRow{"EmptyText", text(u"")},
-        ValueRow{"Ascii", text(u"title")}, ValueRow{"FifteenLetters", text(u"123456789012345")},
-        ValueRow{"Umlauts", text(u"größe")}, ValueRow{"Emoji", text(u"👍🏽")},
-        ValueRow{"LongText", QString(100'000, u'x')}, ValueRow{"LongWideText", QString(70'000, u'東')},
-        ValueRow{"Data", QByteArray("\0\xFF", 2)}, ValueRow{"NoData", QByteArray()},
-        ValueRow{"LargeData", QByteArray(300'000, 'd')}, ValueRow{"Date", PropertyList::DateValue{12345.5}},
-        ValueRow{"Uid", PropertyList::Uid{70'000}}, ValueRow{"EmptyArray", PropertyList::Array()},
-        ValueRow{"Array", PropertyList::Array{true, text(u"a"), text(u"a"), PropertyList::Array{0.5}}},
-        ValueRow{"ManyObjects", numbers(70'000)},
-        ValueRow{"Dictionary", PropertyList::Dictionary{{QStringLiteral("title"), text(u"title")},
-                                                        {QStringLiteral("größe"), QByteArray("x")},
-                                                        {QStringLiteral("list"), PropertyList::Array{false}}}}),
+    testing::Values(ValueRow{"EmptyDictionary", PropertyList()}, ValueRow{"True", true}, ValueRow{"False", false},
+                    ValueRow{"Zero", qint64(0)}, ValueRow{"Byte", qint64(255)}, ValueRow{"Word", qint64(65535)},
+                    ValueRow{"Long", qint64(0xFFFF'FFFF)}, ValueRow{"Greatest", std::numeric_limits<qint64>::max()},
+                    ValueRow{"MinusOne", qint64(-1)}, ValueRow{"Least", std::numeric_limits<qint64>::min()},
+                    ValueRow{"Real", 0.1}, ValueRow{"Infinity", std::numeric_limits<double>::infinity()},
+                    ValueRow{"EmptyText", text(u"")}, ValueRow{"Ascii", text(u"title")},
+                    ValueRow{"FifteenLetters", text(u"123456789012345")}, ValueRow{"Umlauts", text(u"größe")},
+                    ValueRow{"Emoji", text(u"👍🏽")}, ValueRow{"LongText", QString(100'000, u'x')},
+                    ValueRow{"LongWideText", QString(70'000, u'東')}, ValueRow{"Data", QByteArray("\0\xFF", 2)},
+                    ValueRow{"NoData", QByteArray()}, ValueRow{"LargeData", QByteArray(300'000, 'd')},
+                    ValueRow{"Date", PropertyList::DateValue{12345.5}}, ValueRow{"Uid", PropertyList::Uid{70'000}},
+                    ValueRow{"EmptyArray", PropertyList::Array()},
+                    ValueRow{"Array", PropertyList::Array{true, text(u"a"), text(u"a"), PropertyList::Array{0.5}}},
+                    ValueRow{"ManyObjects", numbers(70'000)},
+                    ValueRow{"Dictionary",
+                             PropertyList::Dictionary{{QStringLiteral("title"), text(u"title")},
+                                                      {QStringLiteral("größe"), QByteArray("x")},
+                                                      {QStringLiteral("list"), PropertyList::Array{false}}}}),
     [](const auto& row) { return row.param.name; });
 
 TEST(PropertyList, BinaryCodingIsTheDocumentedOne) {
@@ -59,7 +62,9 @@ TEST(PropertyList, BinaryCodingIsTheDocumentedOne) {
                                                                              "5161"   // the text "a"
                                                                              "09"     // true
                                                                              "080b0d" // their offsets
-                                                                             "000000000000" "01" "01"
+                                                                             "000000000000"
+                                                                             "01"
+                                                                             "01"
                                                                              "0000000000000003"
                                                                              "0000000000000000"
                                                                              "000000000000000e");
@@ -107,14 +112,15 @@ TEST(PropertyList, XmlCodingIsReadToo) {
   <key>when</key><date>2001-01-01T00:00:10Z</date>
   <key>list</key><array><string/><false/></array>
 </dict></plist>)";
-    const PropertyList expected = PropertyList::Dictionary{{QStringLiteral("name"), text(u"a & ü")},
-                                                           {QStringLiteral("on"), true},
-                                                           {QStringLiteral("n"), qint64(-7)},
-                                                           {QStringLiteral("x"), qint64(16)},
-                                                           {QStringLiteral("r"), 0.5},
-                                                           {QStringLiteral("d"), QByteArray("hello")},
-                                                           {QStringLiteral("when"), PropertyList::DateValue{10}},
-                                                           {QStringLiteral("list"), PropertyList::Array{text(u""), false}}};
+    const PropertyList expected =
+        PropertyList::Dictionary{{QStringLiteral("name"), text(u"a & ü")},
+                                 {QStringLiteral("on"), true},
+                                 {QStringLiteral("n"), qint64(-7)},
+                                 {QStringLiteral("x"), qint64(16)},
+                                 {QStringLiteral("r"), 0.5},
+                                 {QStringLiteral("d"), QByteArray("hello")},
+                                 {QStringLiteral("when"), PropertyList::DateValue{10}},
+                                 {QStringLiteral("list"), PropertyList::Array{text(u""), false}}};
     EXPECT_EQ(PropertyList::fromBytes(xml), expected);
 }
 

@@ -15,11 +15,15 @@ struct RtfRow {
 
 class RichText : public testing::TestWithParam<RtfRow> {};
 
-QString text(const char16_t* value) { return QString::fromUtf16(value); }
+QString text(const char16_t* value) {
+    return QString::fromUtf16(value);
+}
 
 } // namespace
 
-TEST_P(RichText, GivesItsPlainText) { EXPECT_EQ(textOfRtf(GetParam().rtf), GetParam().text); }
+TEST_P(RichText, GivesItsPlainText) {
+    EXPECT_EQ(textOfRtf(GetParam().rtf), GetParam().text);
+}
 
 INSTANTIATE_TEST_SUITE_P(
     Documents, RichText,
@@ -37,7 +41,8 @@ INSTANTIATE_TEST_SUITE_P(
         RtfRow{"FallbackEndsAtTheBrace", "{\\rtf1 {\\u233}x}", text(u"éx")},
         RtfRow{"WesternBytes", "{\\rtf1\\ansi caf\\'e9 \\'93q\\'94}", text(u"café “q”")},
         RtfRow{"CyrillicCodePage", "{\\rtf1\\ansi\\ansicpg1251 \\'cf\\'f0}", text(u"Пр")},
-        RtfRow{"CyrillicFont", "{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset0 A;}{\\f1\\fcharset204 B;}}\\f1\\'cf\\f0\\'e9}", text(u"Пé")},
+        RtfRow{"CyrillicFont", "{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset0 A;}{\\f1\\fcharset204 B;}}\\f1\\'cf\\f0\\'e9}",
+               text(u"Пé")},
         RtfRow{"FontEndsWithItsGroup", "{\\rtf1\\ansi{\\fonttbl{\\f1\\fcharset204 B;}}{\\f1\\'cf}\\'e9}", text(u"Пé")},
         RtfRow{"DoubleByteCodePage", "{\\rtf1\\ansi\\ansicpg932 \\'93\\'fa\\'96\\'7b}", text(u"日本")},
         RtfRow{"MacCodePage", "{\\rtf1\\mac \\'8e}", text(u"é")},
@@ -62,7 +67,8 @@ INSTANTIATE_TEST_SUITE_P(
         RtfRow{"CutInTheBody", "{\\rtf1 a", std::nullopt}, RtfRow{"CutInAGroup", "{\\rtf1 {a}", std::nullopt},
         RtfRow{"CutBehindABackslash", "{\\rtf1 a\\", std::nullopt},
         RtfRow{"BinaryBeyondTheEnd", "{\\rtf1 \\bin999 x}", std::nullopt},
-        RtfRow{"TooDeep", "{\\rtf1 " + QByteArray("{").repeated(600) + QByteArray("}").repeated(600) + "}", std::nullopt}),
+        RtfRow{"TooDeep", "{\\rtf1 " + QByteArray("{").repeated(600) + QByteArray("}").repeated(600) + "}",
+               std::nullopt}),
     [](const auto& row) { return row.param.name; });
 
 TEST(RichTextSize, ALongDocumentIsRead) {

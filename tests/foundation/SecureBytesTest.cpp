@@ -48,6 +48,8 @@ TEST(SymmetricKey, HasExactly32Bytes) {
     EXPECT_THROW(SymmetricKey(QByteArray(33, 'k')), std::invalid_argument);
 }
 
-TEST(SymmetricKey, RandomKeysDiffer) { EXPECT_NE(SymmetricKey::random(), SymmetricKey::random()); }
+TEST(SymmetricKey, RandomKeysDiffer) {
+    EXPECT_NE(SymmetricKey::random(), SymmetricKey::random());
+}
 
 } // namespace vellumry

@@ -40,14 +40,14 @@ INSTANTIATE_TEST_SUITE_P(
     Texts, TextCharacterCount,
     testing::Values(CountRow{"Empty", u"", 0}, CountRow{"Ascii", u"hello", 5}, CountRow{"Latin1", u"café", 4},
                     CountRow{"LineFeeds", u"a\n\nb", 4}, CountRow{"CarriageReturnLineFeedIsOne", u"a\r\nb", 3},
-                    CountRow{"LineFeedCarriageReturnIsTwo", u"a\n\rb", 4},
-                    CountRow{"CombiningAcute", u"cafe\u0301", 4}, CountRow{"TwoMarks", u"a\u0301\u0323b", 2},
-                    CountRow{"LoneMark", u"\u0301", 1}, CountRow{"AstralLetter", u"\U00010400x", 2},
-                    CountRow{"Emoji", u"👍", 1}, CountRow{"EmojiWithSkinTone", u"👍🏽", 1},
-                    CountRow{"Family", u"👨‍👩‍👧‍👦", 1}, CountRow{"TwoFlags", u"🇩🇪🇫🇷", 2},
-                    CountRow{"Keycap", u"1️⃣2", 2}, CountRow{"HangulSyllable", u"한글", 2},
-                    CountRow{"HangulJamo", u"\u1112\u1161\u11AB", 1}, CountRow{"Thai", u"น้ำ", 1},
-                    CountRow{"KanaWithVoicingMark", u"か\u3099き", 2}, CountRow{"AsciiAroundEmoji", u"ab👍🏽cd", 5}),
+                    CountRow{"LineFeedCarriageReturnIsTwo", u"a\n\rb", 4}, CountRow{"CombiningAcute", u"cafe\u0301", 4},
+                    CountRow{"TwoMarks", u"a\u0301\u0323b", 2}, CountRow{"LoneMark", u"\u0301", 1},
+                    CountRow{"AstralLetter", u"\U00010400x", 2}, CountRow{"Emoji", u"👍", 1},
+                    CountRow{"EmojiWithSkinTone", u"👍🏽", 1}, CountRow{"Family", u"👨‍👩‍👧‍👦", 1},
+                    CountRow{"TwoFlags", u"🇩🇪🇫🇷", 2}, CountRow{"Keycap", u"1️⃣2", 2},
+                    CountRow{"HangulSyllable", u"한글", 2}, CountRow{"HangulJamo", u"\u1112\u1161\u11AB", 1},
+                    CountRow{"Thai", u"น้ำ", 1}, CountRow{"KanaWithVoicingMark", u"か\u3099き", 2},
+                    CountRow{"AsciiAroundEmoji", u"ab👍🏽cd", 5}),
     [](const auto& row) { return row.param.name; });
 
 TEST(Text, FirstCharactersNeverCutsACharacter) {
@@ -100,8 +100,8 @@ TEST(Text, LinesKeepEmptyOnes) {
     EXPECT_EQ(text::lines(u""), QStringList{QString()});
     EXPECT_EQ(text::lines(u"a"), QStringList{QStringLiteral("a")});
     EXPECT_EQ(text::lines(u"a\r\nb\n\nc\u2028d\re\n"),
-              (QStringList{QStringLiteral("a"), QStringLiteral("b"), QString(), QStringLiteral("c"), QStringLiteral("d"),
-                           QStringLiteral("e"), QString()}));
+              (QStringList{QStringLiteral("a"), QStringLiteral("b"), QString(), QStringLiteral("c"),
+                           QStringLiteral("d"), QStringLiteral("e"), QString()}));
 }
 
 TEST(Text, Utf8IsDecodedStrictly) {

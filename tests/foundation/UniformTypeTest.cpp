@@ -15,10 +15,16 @@ struct TargetRow {
 
 class UniformTypeOfTarget : public testing::TestWithParam<TargetRow> {};
 
-QString text(const char16_t* value) { return QString::fromUtf16(value); }
+QString text(const char16_t* value) {
+    return QString::fromUtf16(value);
+}
 
-TargetRow kept(const char* name, const char16_t* target) { return {name, text(target), text(target)}; }
-TargetRow dropped(const char* name, const char16_t* target) { return {name, text(target), std::nullopt}; }
+TargetRow kept(const char* name, const char16_t* target) {
+    return {name, text(target), text(target)};
+}
+TargetRow dropped(const char* name, const char16_t* target) {
+    return {name, text(target), std::nullopt};
+}
 
 } // namespace
 
@@ -48,21 +54,24 @@ INSTANTIATE_TEST_SUITE_P(
                     TargetRow{"PasswordHint", text(u"x-kde-passwordManagerHint"), uniformtype::concealed}),
     [](const auto& row) { return row.param.name; });
 
-INSTANTIATE_TEST_SUITE_P(
-    Kept, UniformTypeOfTarget,
-    testing::Values(kept("OwnMarker", u"com.vellumry.marker"), kept("UriList", u"text/uri-list"),
-                    kept("GnomeFiles", u"x-special/gnome-copied-files"), kept("KdeCut", u"application/x-kde-cutselection"),
-                    kept("MozillaUrl", u"text/x-moz-url"), kept("UnknownKeepsItsCase", u"Application/X-Thing"),
-                    kept("ReverseDns", u"org.example.thing"), kept("Latin1", u"text/plain;charset=iso-8859-1"),
-                    kept("GeneratorMarker", u"Pasteboard generator type"),
-                    kept("TransientMarker", u"de.lorentwick.TransientPasteboardType")),
-    [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Kept, UniformTypeOfTarget,
+                         testing::Values(kept("OwnMarker", u"com.vellumry.marker"), kept("UriList", u"text/uri-list"),
+                                         kept("GnomeFiles", u"x-special/gnome-copied-files"),
+                                         kept("KdeCut", u"application/x-kde-cutselection"),
+                                         kept("MozillaUrl", u"text/x-moz-url"),
+                                         kept("UnknownKeepsItsCase", u"Application/X-Thing"),
+                                         kept("ReverseDns", u"org.example.thing"),
+                                         kept("Latin1", u"text/plain;charset=iso-8859-1"),
+                                         kept("GeneratorMarker", u"Pasteboard generator type"),
+                                         kept("TransientMarker", u"de.lorentwick.TransientPasteboardType")),
+                         [](const auto& row) { return row.param.name; });
 
 INSTANTIATE_TEST_SUITE_P(
     Dropped, UniformTypeOfTarget,
-    testing::Values(dropped("Targets", u"TARGETS"), dropped("Multiple", u"MULTIPLE"), dropped("Timestamp", u"TIMESTAMP"),
-                    dropped("SaveTargets", u"SAVE_TARGETS"), dropped("Delete", u"DELETE"),
-                    dropped("InsertProperty", u"INSERT_PROPERTY"), dropped("GtkPointer", u"GTK_TEXT_BUFFER_CONTENTS"),
+    testing::Values(dropped("Targets", u"TARGETS"), dropped("Multiple", u"MULTIPLE"),
+                    dropped("Timestamp", u"TIMESTAMP"), dropped("SaveTargets", u"SAVE_TARGETS"),
+                    dropped("Delete", u"DELETE"), dropped("InsertProperty", u"INSERT_PROPERTY"),
+                    dropped("GtkPointer", u"GTK_TEXT_BUFFER_CONTENTS"),
                     dropped("ChromiumInternal", u"chromium/x-internal-source-rfh-token"),
                     dropped("OfficeInternal", u"application/x-libreoffice-internal-id-4711"),
                     dropped("OfficeLink", u"application/x-openoffice-link;windows_formatname=\"Link\""),
@@ -71,8 +80,8 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(UniformType, TextIsOfferedBestFirst) {
     EXPECT_EQ(uniformtype::targetsFor(uniformtype::utf8PlainText),
-              (QStringList{text(u"UTF8_STRING"), text(u"text/plain;charset=utf-8"), text(u"text/plain"), text(u"STRING"),
-                           text(u"TEXT")}));
+              (QStringList{text(u"UTF8_STRING"), text(u"text/plain;charset=utf-8"), text(u"text/plain"),
+                           text(u"STRING"), text(u"TEXT")}));
 }
 
 TEST(UniformType, UnknownTypesAreOfferedUnderTheirOwnName) {
@@ -81,18 +90,19 @@ TEST(UniformType, UnknownTypesAreOfferedUnderTheirOwnName) {
 }
 
 TEST(UniformType, EveryOfferedNameReadsBack) {
-    for (const QString& type : {uniformtype::utf8PlainText, uniformtype::utf16PlainText, uniformtype::rtf,
-                                uniformtype::html, uniformtype::png, uniformtype::tiff, uniformtype::jpeg,
-                                uniformtype::heic, uniformtype::pdf, uniformtype::icns, uniformtype::color,
-                                uniformtype::sourceUrl, uniformtype::url, uniformtype::urlName, uniformtype::rtfd,
-                                uniformtype::concealed, uniformtype::ownMarker}) {
+    for (const QString& type :
+         {uniformtype::utf8PlainText, uniformtype::utf16PlainText, uniformtype::rtf, uniformtype::html,
+          uniformtype::png, uniformtype::tiff, uniformtype::jpeg, uniformtype::heic, uniformtype::pdf,
+          uniformtype::icns, uniformtype::color, uniformtype::sourceUrl, uniformtype::url, uniformtype::urlName,
+          uniformtype::rtfd, uniformtype::concealed, uniformtype::ownMarker}) {
         for (const QString& target : uniformtype::targetsFor(type))
             EXPECT_EQ(uniformtype::fromTarget(target), type) << qPrintable(target);
     }
 }
 
 TEST(UniformType, ThePreferredTargetIsTheMostFaithful) {
-    const QStringList offered{text(u"TEXT"), text(u"text/plain"), text(u"text/plain;charset=UTF-8"), text(u"text/html")};
+    const QStringList offered{text(u"TEXT"), text(u"text/plain"), text(u"text/plain;charset=UTF-8"),
+                              text(u"text/html")};
     EXPECT_EQ(uniformtype::preferredTarget(uniformtype::utf8PlainText, offered), text(u"text/plain;charset=UTF-8"));
     EXPECT_EQ(uniformtype::preferredTarget(uniformtype::html, offered), text(u"text/html"));
     EXPECT_EQ(uniformtype::preferredTarget(uniformtype::png, offered), std::nullopt);
