@@ -1,0 +1,24 @@
+# The desktop's services: keyring, bus, files, and the conversation with the reader process.
+pkg_check_modules(LIBSECRET REQUIRED IMPORTED_TARGET libsecret-1)
+
+option(VELLUMRY_INSPECTABLE "Leave the process open to debuggers of the same user" OFF)
+
+target_sources(
+  vellumry_linux
+  PRIVATE
+    desktop/ApplicationInterface.cpp desktop/ApplicationInterface.h
+    desktop/CallDeadline.cpp desktop/CallDeadline.h
+    desktop/DBusSingleInstance.cpp desktop/DBusSingleInstance.h
+    desktop/GObjectPointer.h
+    desktop/InstanceLock.cpp desktop/InstanceLock.h
+    desktop/KeychainKeyStore.cpp desktop/KeychainKeyStore.h
+    desktop/ProcessHardening.cpp desktop/ProcessHardening.h
+    desktop/SecretServiceSession.cpp desktop/SecretServiceSession.h)
+target_link_libraries(
+  vellumry_linux
+  PUBLIC Qt6::DBus
+  PRIVATE PkgConfig::LIBSECRET)
+
+if(VELLUMRY_INSPECTABLE OR VELLUMRY_SANITIZE)
+  set_source_files_properties(desktop/ProcessHardening.cpp PROPERTIES COMPILE_DEFINITIONS VELLUMRY_INSPECTABLE)
+endif()
