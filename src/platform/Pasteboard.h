@@ -24,6 +24,9 @@ public:
     /// The bytes of one representation; nothing when the owner does not give it, hangs, dies, or gives more than `maxBytes`.
     /// A representation that fails leaves the others readable.
     [[nodiscard]] virtual QCoro::Task<std::optional<QByteArray>> data(qsizetype item, QString type, qint64 maxBytes) = 0;
+    /// True when the answer of `data` that came last was nothing because there was more than `maxBytes`. An adapter that cannot
+    /// tell says false.
+    [[nodiscard]] virtual bool wasLarger() const { return false; }
     /// False once the pasteboard has another owner or the deadline has passed.
     [[nodiscard]] virtual bool isCurrent() const = 0;
 };

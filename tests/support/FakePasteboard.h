@@ -98,6 +98,7 @@ private:
     /// What a reading shares with its pasteboard; `board` is null once reading has ended.
     struct Session {
         FakePasteboard* board;
+        bool wasLarger = false;
     };
 
     void replace(std::vector<PasteboardItem> items, QStringList alsoDeclared, bool isOurs) {
@@ -162,6 +163,7 @@ public:
         const auto session = m_session;
         if (!session->board)
             co_return std::nullopt;
+        session->wasLarger = false;
         const Request request{item, type, maxBytes};
         session->board->requests.push_back(request);
         if (const auto seen = session->board->onRequest)
@@ -177,10 +179,12 @@ public:
             co_return std::nullopt;
         const auto& representations = items[std::size_t(item)].representations;
         const auto found = representations.find(type);
-        if (found == representations.end() || found->second.size() > maxBytes)
+        session->wasLarger = found != representations.end() && found->second.size() > maxBytes;
+        if (found == representations.end() || session->wasLarger)
             co_return std::nullopt;
         co_return found->second;
     }
+    [[nodiscard]] bool wasLarger() const override { return m_session->wasLarger; }
     [[nodiscard]] bool isCurrent() const override { return m_session->board != nullptr; }
 
 private:
@@ -190,7 +194,7 @@ private:
 
 inline QCoro::Task<std::shared_ptr<PasteboardReading>> FakePasteboard::beginReading() {
     ++beginReadingRequests;
-    auto session = std::make_shared<Session>(this);
+    auto session = std::make_shared<Session>(Session{this, false});
     m_sessions.push_back(session);
     if (hangsBeginReading) {
         Wait wait(this);

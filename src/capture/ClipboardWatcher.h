@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "capture/DraftBuilder.h"
+#include "capture/PasteboardSnapshot.h"
+#include "capture/TickSchedule.h"
+#include "foundation/Date.h"
+#include "foundation/UserDefaults.h"
+#include "history/ClipStore.h"
+#include "platform/Pasteboard.h"
+#include "platform/SourceApp.h"
+
+#include <QCoroTask>
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace vellumry {
+
+/// The program's capture loop: notices that the pasteboard changed, walks a fixed ladder of decisions, and hands what is left of
+/// the copy to the history. Owns the ways of not capturing: the pause, the one copy to be ignored, the refusal of pictures on a
+/// full disk. Main thread; everything handed to it must outlive it and the tasks it started.
+class ClipboardWatcher : public QObject {
+public:
+    /// Tells who is copying.
+    using Source = std::function<SourceApp()>;
+
+    /// What is on the pasteboard now counts as seen.
+    ClipboardWatcher(Pasteboard& pasteboard, ClipStore& store, UserDefaults& defaults, const FileBookmarks& bookmarks,
+                     ImageCodec& images, Source source, QObject* parent = nullptr);
+    ~ClipboardWatcher() override;
+
+    /// From now on changes lead to ticks: by `Pasteboard::onChanged`, which it takes, or by a poll every quarter of a second
+    /// where the pasteboard does not notify. A second call does nothing.
+    void start();
+    /// Looks at the pasteboard once. Returns without waiting for its owner, the disk or the store; a copy that was noticed reaches
+    /// the store behind those noticed before it.
+    void tick(Date now);
+    /// No capture for `seconds`; without end when absent.
+    void pause(std::optional<double> seconds, Date now);
+
+    /// The change count seen last; a caller that sets it to the present one keeps what is there out of the history.
+    qint64 lastChangeCount;
+    /// Capture is paused until then; `distantFuture` is a pause without end. Clear it to resume.
+    std::optional<Date> pausedUntil;
+    /// The next copy is dropped unread.
+    bool ignoreNextCopy = false;
+    /// End of the quiet period behind a dropped copy, whose program may still be writing.
+    std::optional<Date> ignoringUntil;
+
+    /// False when the disk has no room for pictures.
+    std::function<bool()> hasRoomForImages = [] { return true; };
+    /// A picture was dropped for lack of room.
+    std::function<void()> onLowDisk;
+    /// The store took a clip. `changeCount` is the pasteboard's count of the copy it came from.
+    std::function<void(const ClipRef& clip, qint64 changeCount)> onStored;
+    /// The same, for those who need no more than the clip.
+    std::function<void(const ClipRef& clip)> onCapture;
+    /// A draft survived the checks; called before it goes to the store, for a duplicate of an older clip too.
+    std::function<void(const ClipDraft& draft)> onRead;
+    /// `ignoreNextCopy` consumed a copy.
+    std::function<void()> onIgnoredCopy;
+
+private:
+    /// A copy on its way. Its turn comes when all noticed before it had theirs.
+    struct Copy {
+        qint64 changeCount;
+        Date now;
+        bool isRead = false;
+        std::optional<ClipDraft> draft;
+    };
+
+    [[nodiscard]] bool isHeldBack(Date now);
+    void scheduleTick();
+    [[nodiscard]] SnapshotRequest requestFor(const Copy& copy) const;
+    QCoro::Task<void> read(std::shared_ptr<Copy> copy, SnapshotRequest request);
+    void deliverRead();
+    void deliver(std::shared_ptr<Copy> copy);
+    void refreshSensitiveLifetime();
+    QCoro::Task<void> add(std::shared_ptr<Copy> copy);
+
+    Pasteboard* m_pasteboard;
+    ClipStore* m_store;
+    UserDefaults* m_defaults;
+    DraftBuilder m_builder;
+    Source m_source;
+    std::deque<std::shared_ptr<Copy>> m_copies;
+    bool m_isStarted = false;
+    TickSchedule m_schedule;
+    QElapsedTimer m_monotonic;
+    QTimer m_timer;
+};
+
+} // namespace vellumry

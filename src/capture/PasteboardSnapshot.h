@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "capture/DraftBuilder.h"
+#include "history/Clip.h"
+#include "platform/Pasteboard.h"
+#include "platform/SourceApp.h"
+
+#include <QCoroTask>
+#include <QSet>
+#include <optional>
+
+namespace vellumry {
+
+/// How much of one copy is read.
+struct SnapshotLimits {
+    /// Most bytes of one representation whose type is not essential; exactly as many are kept.
+    qint64 maxRepresentationBytes = qint64{2} << 20;
+    /// Most bytes of all representations together; a copy with more is refused as a whole.
+    qint64 maxTotalBytes = qint64{100} << 20;
+};
+
+/// One copy to be looked at.
+struct SnapshotRequest {
+    /// The pasteboard's change count when the copy was noticed; contents of any other count are left to their own request.
+    qint64 changeCount = 0;
+    SourceApp source;
+    QSet<QString> ignoredApps; ///< identifiers of applications whose copies are never read
+    Date now = 0;
+    SnapshotLimits limits;
+};
+
+/// The draft of what the pasteboard holds, or nothing when the copy is refused, cannot be read, holds nothing of use, or was
+/// replaced before it was read to the end.
+///
+/// What is refused is decided by the declared types and the source alone, before any content is asked for. A representation
+/// that fails or hangs costs itself only: text is read first, pictures after it, unknown types last. When the deadline of the
+/// copy passes, what was read until then counts. Main thread; the seams must outlive the task.
+[[nodiscard]] QCoro::Task<std::optional<ClipDraft>> readDraft(Pasteboard* pasteboard, DraftBuilder builder,
+                                                              SnapshotRequest request);
+
+} // namespace vellumry
