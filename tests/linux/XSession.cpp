@@ -9,12 +9,15 @@
 #include <csignal>
 #include <sys/prctl.h>
 
+#include <X11/Xlib.h>
+
 namespace vellumry {
 
 namespace {
 
 constexpr int startMilliseconds = 10000;
 constexpr int waitMilliseconds = 3000;
+constexpr int probeMilliseconds = 100;
 
 void startChild(QProcess& process, const QString& program, const QStringList& arguments) {
     // A test that dies takes them along.
@@ -29,6 +32,23 @@ void endChild(QProcess& process) {
     if (!process.waitForFinished(startMilliseconds))
         process.kill();
     process.waitForFinished();
+}
+
+/// True when the window manager takes a new window in its care. Openbox announces itself before it does so, and loses the windows
+/// that are shown in between.
+bool isManaged(XlibConnection& connection) {
+    Display* display = connection.display();
+    const Window probe = XCreateSimpleWindow(display, connection.root(), 0, 0, 1, 1, 0, 0, 0);
+    XMapWindow(display, probe);
+    XSync(display, False);
+    QElapsedTimer timer;
+    timer.start();
+    bool result = false;
+    while (!result && timer.elapsed() < probeMilliseconds)
+        result = !XWindowProperties::numbers(connection, probe, "WM_STATE").empty();
+    XDestroyWindow(display, probe);
+    XSync(display, False);
+    return result;
 }
 
 } // namespace
@@ -48,9 +68,8 @@ bool XSession::start() {
     QElapsedTimer timer;
     timer.start();
     while (connection != nullptr && timer.elapsed() < startMilliseconds) {
-        if (!XWindowProperties::numbers(*connection, connection->root(), "_NET_SUPPORTING_WM_CHECK").empty())
+        if (isManaged(*connection))
             return true;
-        m_manager.waitForReadyRead(10);
     }
     return false;
 }
