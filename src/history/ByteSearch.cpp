@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/ByteSearch.h"
 
+#include <array>
 #include <cstring>
 #include <string_view>
 #include <utility>
@@ -13,28 +14,32 @@ namespace vellumry {
 
 namespace {
 
-/// How often text of many languages has each byte, in steps: the greater the more often. Only the order matters, and only
-/// for speed.
 constexpr std::array<unsigned char, 256> byteFrequencies() {
-    std::array<unsigned char, 256> frequencies{};
+    std::array<unsigned char, 256> steps{};
     constexpr std::string_view fromCommon = " etaoinsrhldcumfpgwybvkxjqz01.,2-3/945687:_\n\"'()=;";
     for (std::size_t index = 0; index < fromCommon.size(); ++index)
-        frequencies[static_cast<unsigned char>(fromCommon[index])] = static_cast<unsigned char>(200 - 3 * index);
+        steps[static_cast<unsigned char>(fromCommon[index])] = static_cast<unsigned char>(200 - 3 * index);
     for (std::size_t byte = 0x80; byte < 0xC0; ++byte)
-        frequencies[byte] = 100;
+        steps[byte] = 100;
     // What opens a Cyrillic letter, and the characters of East Asia, stands before each of them.
     for (std::size_t byte : {0xC3, 0xD0, 0xD1, 0xD8, 0xD9, 0xE3, 0xE4, 0xE5, 0xE6, 0xE7, 0xE8, 0xE9})
-        frequencies[byte] = 190;
-    return frequencies;
+        steps[byte] = 190;
+    return steps;
 }
 
-constexpr std::array<unsigned char, 256> frequencyOf = byteFrequencies();
+constexpr std::array<unsigned char, 256> frequencies = byteFrequencies();
+
+} // namespace
+
+unsigned char frequencyOfByte(unsigned char byte) { return frequencies[byte]; }
+
+namespace {
 
 std::size_t rarestPosition(const QByteArray& needle, std::size_t exceptAt) {
     std::size_t best = exceptAt == 0 ? 1 : 0;
     for (std::size_t at = best; at < static_cast<std::size_t>(needle.size()); ++at) {
         const auto rank = [&](std::size_t position) {
-            return frequencyOf[static_cast<unsigned char>(needle[static_cast<qsizetype>(position)])];
+            return frequencyOfByte(static_cast<unsigned char>(needle[static_cast<qsizetype>(position)]));
         };
         if (at != exceptAt && rank(at) < rank(best))
             best = at;

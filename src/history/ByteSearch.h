@@ -2,10 +2,12 @@
 #pragma once
 
 #include <QByteArray>
-#include <array>
 #include <cstddef>
 
 namespace vellumry {
+
+/// How often text of many languages has a byte: the greater the more often, at most 200. Only the order means anything.
+[[nodiscard]] unsigned char frequencyOfByte(unsigned char byte);
 
 /// Finds one sequence of bytes in long stretches of memory, at the speed of that memory: it looks at the two bytes of the
 /// needle that text seldom has, many places at a time. A value, prepared once for each needle; any thread.

@@ -2,7 +2,7 @@
 #include "history/LookAlike.h"
 
 #include "foundation/Text.h"
-#include "history/LookAlikeScan.h"
+#include "history/LookAlikeMatcher.h"
 
 #include <QChar>
 
@@ -60,7 +60,7 @@ LookAlikeKeys lookAlikeKeysOf(QStringView text) {
 
 std::optional<LookAlikeStretch> lookAlikeMatch(std::span<const std::uint32_t> query,
                                                std::span<const std::uint32_t> text) {
-    const auto start = findLookAlike(query, text, allowedMismatches(query.size()));
+    const auto start = LookAlikeMatcher(query).find(text);
     if (!start)
         return std::nullopt;
     return LookAlikeStretch{static_cast<qsizetype>(*start), static_cast<qsizetype>(*start + query.size())};

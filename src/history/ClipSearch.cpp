@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/ClipSearch.h"
+
+#include "foundation/SecureBytes.h"
+#include "foundation/Text.h"
+#include "history/ClipSearchOrder.h"
+
+#include <QHash>
+#include <algorithm>
+#include <utility>
+
+namespace vellumry {
+
+namespace {
+
+using Slot = FoldedIndex::Slot;
+
+/// Looking at one text by itself costs about as much as scanning this many bytes more.
+constexpr std::size_t costOfOneText = 128;
+
+/// Everything of a clip that its reader may remember, in one text.
+QByteArray haystackOf(const Clip& clip) {
+    return text::foldedBytes(clip.title.toUtf8() + '\n' + clip.searchText.utf8() + '\n' +
+                             clip.sourceAppName.value_or(QString()).toUtf8() + '\n' +
+                             clip.imageText.value_or(QString()).toUtf8());
+}
+
+/// Those of `clips` that are marked. Each copy counts up in a clip that is far away in memory, so a few are fetched ahead.
+std::vector<ClipRef> gathered(const std::vector<ClipRef>& clips, const std::vector<bool>& isMarked) {
+    constexpr std::size_t ahead = 16;
+    std::vector<std::size_t> marked;
+    for (std::size_t position = 0; position < clips.size(); ++position)
+        if (isMarked[position])
+            marked.push_back(position);
+    std::vector<ClipRef> result;
+    result.reserve(marked.size());
+    for (std::size_t index = 0; index < marked.size(); ++index) {
+        if (index + ahead < marked.size()) {
+            // std::make_shared lays the count right before the clip.
+            const auto* const clip = reinterpret_cast<const char*>(clips[marked[index + ahead]].get());
+            __builtin_prefetch(clip - sizeof(void*), 1);
+        }
+        result.push_back(clips[marked[index]]);
+    }
+    return result;
+}
+
+} // namespace
+
+struct ClipSearch::Private {
+    /// The texts that a former query was found in.
+    struct Found {
+        QByteArray needle;
+        ClipFilter filter = ClipFilter::all;
+        std::vector<Slot> slots;
+    };
+
+    FoldedIndex index;
+    QHash<QUuid, Slot> slotOf;
+    QHash<QUuid, std::shared_ptr<const LookAlikeText>> lookAlikes;
+    ClipSearchOrder order;
+    bool orderHasKeys = false;  ///< some of its pictures share their keys with `lookAlikes`
+    std::optional<Found> found; ///< by the last search, while no clip has changed
+
+    void follow(const std::vector<ClipRef>& clips);
+    [[nodiscard]] std::optional<std::vector<Slot>> candidates(const QByteArray& needle, ClipFilter filter) const;
+    [[nodiscard]] bool isWorthwhile(const std::vector<Slot>& slots) const;
+    void findExact(const ByteSearch& search, ClipFilter filter);
+    [[nodiscard]] std::vector<bool> exactMatches(const std::vector<ClipRef>& clips, const ByteSearch& search,
+                                                 ClipFilter filter) const;
+    const LookAlikeText& keysOf(ClipSearchOrder::Picture& picture, const Clip& clip);
+};
+
+ClipSearch::ClipSearch() : d(std::make_unique<Private>()) {}
+ClipSearch::~ClipSearch() = default;
+
+std::vector<ClipRef> ClipSearch::search(const std::vector<ClipRef>& clips, const QString& query, ClipFilter filter) {
+    const QString trimmed = text::trimmed(query);
+    const QByteArray needle = text::foldedBytes(trimmed);
+    if (needle.isEmpty()) {
+        std::vector<ClipRef> result;
+        std::copy_if(clips.begin(), clips.end(), std::back_inserter(result),
+                     [&](const ClipRef& clip) { return passes(*clip, filter); });
+        return result;
+    }
+
+    d->follow(clips);
+    const ByteSearch exact(needle);
+    d->findExact(exact, filter);
+    std::vector<bool> isMatch = d->exactMatches(clips, exact, filter);
+
+    const LookAlikeMatcher tolerant{lookAlikeKeysOf(trimmed)};
+    for (ClipSearchOrder::Picture& picture : d->order.pictures())
+        if (!isMatch[picture.position] && d->order.passes(picture.position, filter))
+            isMatch[picture.position] = tolerant.find(d->keysOf(picture, *clips[picture.position])).has_value();
+
+    return gathered(clips, isMatch);
+}
+
+void ClipSearch::forgetText(const QUuid& id) {
+    const auto known = d->slotOf.constFind(id);
+    if (known == d->slotOf.constEnd())
+        return;
+    d->index.remove(*known);
+    d->slotOf.erase(known);
+    d->order.invalidate();
+}
+
+void ClipSearch::forgetLookAlikes(const QUuid& id) {
+    if (d->lookAlikes.remove(id) == 0)
+        return;
+    if (std::exchange(d->orderHasKeys, false))
+        d->order.forgetPictures();
+}
+
+void ClipSearch::Private::follow(const std::vector<ClipRef>& clips) {
+    const bool hasChanged = order.follow(clips, index, [this](const Clip& clip) {
+        const auto known = slotOf.constFind(clip.id);
+        if (known != slotOf.constEnd())
+            return *known;
+        return *slotOf.insert(clip.id, index.append(haystackOf(clip)));
+    });
+    if (!hasChanged)
+        return;
+    found.reset();
+    index.recycle();
+}
+
+/// The only texts that the needle can be in, where that is known without looking into them.
+std::optional<std::vector<Slot>> ClipSearch::Private::candidates(const QByteArray& needle, ClipFilter filter) const {
+    // Who goes on typing can only lose hits.
+    if (found && needle.contains(found->needle) && (found->filter == filter || found->filter == ClipFilter::all))
+        return found->slots;
+    if (filter == ClipFilter::all)
+        return std::nullopt;
+    std::vector<Slot> slots;
+    for (std::size_t position = 0; position < order.size(); ++position)
+        if (order.passes(position, filter) && order.slotAt(position) != ClipSearchOrder::noSlot)
+            slots.push_back(order.slotAt(position));
+    return slots;
+}
+
+bool ClipSearch::Private::isWorthwhile(const std::vector<Slot>& slots) const {
+    std::size_t cost = 0;
+    for (const Slot slot : slots)
+        if ((cost += index.lengthOf(slot) + costOfOneText) > index.byteCount())
+            return false;
+    return true;
+}
+
+/// Leaves the texts that have the needle in `found`.
+void ClipSearch::Private::findExact(const ByteSearch& search, ClipFilter filter) {
+    const auto few = candidates(search.needle(), filter);
+    std::vector<Slot> slots;
+    const bool looksAtFew = few && isWorthwhile(*few);
+    if (looksAtFew)
+        std::copy_if(few->begin(), few->end(), std::back_inserter(slots),
+                     [&](Slot slot) { return index.matches(search, slot); });
+    else
+        index.scan(search, [&](Slot slot) { slots.push_back(slot); });
+    found = Found{search.needle(), looksAtFew ? filter : ClipFilter::all, std::move(slots)};
+}
+
+std::vector<bool> ClipSearch::Private::exactMatches(const std::vector<ClipRef>& clips, const ByteSearch& search,
+                                                    ClipFilter filter) const {
+    std::vector<bool> isFound(index.slotCount());
+    for (const Slot slot : found->slots)
+        isFound[slot] = true;
+    std::vector<bool> isMatch(clips.size());
+    for (std::size_t position = 0; position < clips.size(); ++position) {
+        if (!order.passes(position, filter))
+            continue;
+        const Slot slot = order.slotAt(position);
+        if (slot != ClipSearchOrder::noSlot)
+            isMatch[position] = isFound[slot];
+        else
+            isMatch[position] = text::foldedBytes(clips[position]->sourceAppName.value_or(QString()))
+                                    .contains(search.needle());
+    }
+    return isMatch;
+}
+
+const LookAlikeText& ClipSearch::Private::keysOf(ClipSearchOrder::Picture& picture, const Clip& clip) {
+    if (picture.keys == nullptr) {
+        std::shared_ptr<const LookAlikeText>& kept = lookAlikes[clip.id];
+        if (kept == nullptr) {
+            LookAlikeKeys keys = lookAlikeKeysOf(*clip.imageText);
+            kept = std::make_shared<const LookAlikeText>(keys);
+            wipe(keys.data(), keys.size() * sizeof keys[0]);
+        }
+        picture.keys = kept;
+        orderHasKeys = true;
+    }
+    return *picture.keys;
+}
+
+} // namespace vellumry

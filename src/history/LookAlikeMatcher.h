@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "history/LookAlike.h"
+#include "history/LookAlikeScan.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <variant>
+#include <vector>
+
+namespace vellumry {
+
+/// The keys of one text, in the fewest bytes that hold them; wiped when they go. A value; any thread.
+class LookAlikeText {
+public:
+    explicit LookAlikeText(const LookAlikeKeys& keys);
+    ~LookAlikeText();
+    LookAlikeText(const LookAlikeText&) = delete;
+    LookAlikeText& operator=(const LookAlikeText&) = delete;
+
+    using Storage = std::variant<std::vector<std::uint8_t>, std::vector<std::uint16_t>, std::vector<std::uint32_t>>;
+    [[nodiscard]] const Storage& storage() const { return m_storage; }
+
+private:
+    Storage m_storage;
+};
+
+/// One query, prepared once to be looked for in many texts. A value; any thread.
+class LookAlikeMatcher {
+public:
+    explicit LookAlikeMatcher(std::span<const std::uint32_t> query);
+
+    /// The first start of a tolerated stretch.
+    [[nodiscard]] std::optional<std::size_t> find(const LookAlikeText& text) const;
+    [[nodiscard]] std::optional<std::size_t> find(std::span<const std::uint32_t> text) const;
+
+private:
+    template <typename Key>
+    [[nodiscard]] std::optional<std::size_t> findIn(std::span<const Key> text) const;
+
+    int m_allowed;
+    LookAlikeQuery<std::uint8_t> m_narrow;
+    LookAlikeQuery<std::uint16_t> m_medium;
+    LookAlikeQuery<std::uint32_t> m_wide;
+};
+
+} // namespace vellumry
