@@ -22,6 +22,7 @@ public:
     SerialExecutor(const SerialExecutor&) = delete;
     SerialExecutor& operator=(const SerialExecutor&) = delete;
 
+    /// Queues `job`, which must not throw: nobody waits for it.
     void post(std::function<void()> job);
 
     /// Runs `job` on the executor. Awaiting it on the main thread suspends and resumes there with the job's result, or
