@@ -49,7 +49,8 @@ TEST(DesktopEntry, NameIsInTheUsersLanguage) {
 TEST(DesktopEntry, WhatIsNoApplicationHasNone) {
     EXPECT_FALSE(DesktopEntry::parse(QStringLiteral("x"), "[Desktop Entry]\nType=Link\nName=L\n", {}).has_value());
     EXPECT_FALSE(
-        DesktopEntry::parse(QStringLiteral("x"), "[Desktop Entry]\nType=Application\nName=N\nHidden=true\n", {}).has_value());
+        DesktopEntry::parse(QStringLiteral("x"), "[Desktop Entry]\nType=Application\nName=N\nHidden=true\n", {})
+            .has_value());
     EXPECT_FALSE(DesktopEntry::parse(QStringLiteral("x"), "Type=Application\nName=N\n", {}).has_value());
     EXPECT_FALSE(DesktopEntry::parse(QStringLiteral("x"), QByteArray("\xff\xfe\0[", 4), {}).has_value());
     EXPECT_FALSE(DesktopEntry::parse(QStringLiteral("x"), {}, {}).has_value());
@@ -77,7 +78,8 @@ TEST(DesktopEntryIndex, FindsAWindowsApplication) {
     put(folder.path(), QStringLiteral("org.keepassxc.KeePassXC.desktop"), "Name=KeePassXC\nStartupWMClass=keepassxc\n");
     put(folder.path(), QStringLiteral("org.xfce.mousepad.desktop"), "Name=Mousepad\nExec=mousepad %U\n");
     put(folder.path(), QStringLiteral("thunar.desktop"), "Name=Thunar\nExec=thunar\n");
-    put(folder.path(), QStringLiteral("firefox-esr.desktop"), "Name=Firefox\nExec=/usr/lib/firefox-esr/firefox-esr %u\n");
+    put(folder.path(), QStringLiteral("firefox-esr.desktop"),
+        "Name=Firefox\nExec=/usr/lib/firefox-esr/firefox-esr %u\n");
     const auto index = DesktopEntryIndex::read({folder.path()}, {});
 
     EXPECT_EQ(found(index, withClass(QStringLiteral("XTerm"))), u"debian-xterm");

@@ -19,7 +19,8 @@ struct Layout {
     std::u16string bottom;
 
     [[nodiscard]] std::optional<char16_t> typed(quint32 code) const {
-        for (const auto& [first, row] : {std::pair(quint32(KEY_Q), &top), {quint32(KEY_A), &home}, {quint32(KEY_Z), &bottom}}) {
+        for (const auto& [first, row] :
+             {std::pair(quint32(KEY_Q), &top), {quint32(KEY_A), &home}, {quint32(KEY_Z), &bottom}}) {
             if (code >= first && code < first + row->size())
                 return (*row)[code - first];
         }
@@ -47,10 +48,10 @@ TEST(KeyCodes, ShortcutsOfTheProgramAreWhereTheyAreOnAKeyboard) {
 }
 
 TEST(KeyCodes, NamedKeysAreThoseOfTheKeyNames) {
-    const std::map<quint32, quint32> named = {{36, KEY_ENTER}, {48, KEY_TAB},  {49, KEY_SPACE},   {51, KEY_BACKSPACE},
-                                              {53, KEY_ESC},   {115, KEY_HOME}, {116, KEY_PAGEUP}, {117, KEY_DELETE},
-                                              {119, KEY_END},  {121, KEY_PAGEDOWN}, {122, KEY_F1}, {111, KEY_F12},
-                                              {123, KEY_LEFT}, {124, KEY_RIGHT}, {125, KEY_DOWN},  {126, KEY_UP}};
+    const std::map<quint32, quint32> named = {
+        {36, KEY_ENTER},   {48, KEY_TAB},     {49, KEY_SPACE}, {51, KEY_BACKSPACE}, {53, KEY_ESC}, {115, KEY_HOME},
+        {116, KEY_PAGEUP}, {117, KEY_DELETE}, {119, KEY_END},  {121, KEY_PAGEDOWN}, {122, KEY_F1}, {111, KEY_F12},
+        {123, KEY_LEFT},   {124, KEY_RIGHT},  {125, KEY_DOWN}, {126, KEY_UP}};
     for (const auto& [virtualKey, code] : named)
         EXPECT_EQ(KeyCodes::evdevCode(virtualKey), code) << virtualKey;
 }

@@ -6,8 +6,8 @@
 namespace vellumry {
 
 TEST(TerminalApps, KnowsTerminalsByClassWhateverTheCase) {
-    for (const char* name : {"XTerm", "UXTerm", "Gnome-terminal", "Xfce4-terminal", "konsole", "kitty", "Alacritty", "foot",
-                             "org.wezfurlong.wezterm", "Tilix", "URxvt", "st-256color", "com.mitchellh.ghostty",
+    for (const char* name : {"XTerm", "UXTerm", "Gnome-terminal", "Xfce4-terminal", "konsole", "kitty", "Alacritty",
+                             "foot", "org.wezfurlong.wezterm", "Tilix", "URxvt", "st-256color", "com.mitchellh.ghostty",
                              "org.gnome.Ptyxis", "kgx", "Guake", "yakuake", "cool-retro-term"})
         EXPECT_TRUE(TerminalApps::contains({QString::fromLatin1(name)}, {})) << name;
 }

@@ -30,7 +30,8 @@ protected:
 
     QTemporaryDir folder;
     std::shared_ptr<XlibConnection> connection = XlibConnection::create();
-    std::shared_ptr<DesktopEntries> entries = std::make_shared<DesktopEntries>(QStringList{folder.path()}, QStringList());
+    std::shared_ptr<DesktopEntries> entries =
+        std::make_shared<DesktopEntries>(QStringList{folder.path()}, QStringList());
 };
 
 SourceApp app(const char* id, const char* name) {
@@ -57,7 +58,7 @@ TEST_F(X11FrontmostApplicationTest, WithoutADesktopFileTheWindowClassDoes) {
     ASSERT_TRUE(editor.open("edit", "HomeMade"));
     XClient passwords;
     X11FrontmostApplication frontmost(connection, entries);
-    EXPECT_EQ(frontmost.current(), app("HomeMade", "HomeMade"));
+    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("HomeMade", "HomeMade"); }));
     ASSERT_TRUE(passwords.open("bitwarden", "Bitwarden"));
     EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("com.bitwarden.desktop", "Bitwarden"); }));
 }

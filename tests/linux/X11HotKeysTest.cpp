@@ -62,8 +62,9 @@ TEST_F(X11HotKeysTest, AGrabbedCombinationIsTold) {
 }
 
 TEST_F(X11HotKeysTest, EachOfManyIsToldByItsOwnId) {
-    const std::vector<std::pair<quint32, unsigned int>> digits = {{18, KEY_1}, {19, KEY_2}, {20, KEY_3}, {21, KEY_4}, {23, KEY_5},
-                                                                  {22, KEY_6}, {26, KEY_7}, {28, KEY_8}, {25, KEY_9}};
+    const std::vector<std::pair<quint32, unsigned int>> digits = {{18, KEY_1}, {19, KEY_2}, {20, KEY_3},
+                                                                  {21, KEY_4}, {23, KEY_5}, {22, KEY_6},
+                                                                  {26, KEY_7}, {28, KEY_8}, {25, KEY_9}};
     quint32 id = 1;
     for (const auto& [keyCode, code] : digits)
         ASSERT_TRUE(keys.grab(id++, keyCode, superAlt));

@@ -57,7 +57,8 @@ protected:
     QStringList userTerminals;
     std::shared_ptr<XlibConnection> connection = XlibConnection::create();
     std::shared_ptr<X11Focus> focus = std::make_shared<X11Focus>(connection, [this] { return now; });
-    X11PasteTarget target{connection, focus,
+    X11PasteTarget target{connection,
+                          focus,
                           {[this] {
                                ++primaryOffers;
                                return primaryWorks;

@@ -8,8 +8,8 @@
 namespace vellumry {
 
 TEST(X11Screens, TheKeyNamesTheDisplayWhereverItIsPluggedIn) {
-    EXPECT_EQ(X11Screens::keyOf(QStringLiteral("DEL"), QStringLiteral("U2720Q"), QStringLiteral("42"), QStringLiteral("DP-1"),
-                                QSize(3840, 2160)),
+    EXPECT_EQ(X11Screens::keyOf(QStringLiteral("DEL"), QStringLiteral("U2720Q"), QStringLiteral("42"),
+                                QStringLiteral("DP-1"), QSize(3840, 2160)),
               u"DEL U2720Q 42 DP-1");
     EXPECT_EQ(X11Screens::keyOf({}, {}, {}, QStringLiteral("screen"), QSize(1280, 800)), u"screen 1280×800");
 }

@@ -20,7 +20,8 @@ int lastError = 0;
 
 } // namespace
 
-XClient::XClient() : m_display(XOpenDisplay(nullptr)) {}
+XClient::XClient()
+    : m_display(XOpenDisplay(nullptr)) {}
 
 XClient::~XClient() {
     XCloseDisplay(m_display);
@@ -41,13 +42,13 @@ bool XClient::open(const char* instance, const char* className, long process) {
     hints.input = True;
     XSetWMHints(m_display, m_window, &hints);
     if (process != 0)
-        XChangeProperty(m_display, m_window, XInternAtom(m_display, "_NET_WM_PID", False), XA_CARDINAL, 32, PropModeReplace,
-                        reinterpret_cast<unsigned char*>(&process), 1);
+        XChangeProperty(m_display, m_window, XInternAtom(m_display, "_NET_WM_PID", False), XA_CARDINAL, 32,
+                        PropModeReplace, reinterpret_cast<unsigned char*>(&process), 1);
     XSelectInput(m_display, m_window, KeyPressMask | KeyReleaseMask);
     XMapWindow(m_display, m_window);
     XSync(m_display, False);
-    // The window manager gives a new window the keyboard. One that it holds back is asked for once: a request too many would be
-    // answered in the middle of what the test does next.
+    // The window manager gives a new window the keyboard. One that it holds back is asked for once: a request too many
+    // would be answered in the middle of what the test does next.
     return waitUntil([this] { return hasFocus(); }) || (focus(), waitUntil([this] { return hasFocus(); }));
 }
 
@@ -64,7 +65,8 @@ void XClient::focus() {
     request.xclient.message_type = XInternAtom(m_display, "_NET_ACTIVE_WINDOW", False);
     request.xclient.format = 32;
     request.xclient.data.l[0] = 2;
-    XSendEvent(m_display, DefaultRootWindow(m_display), False, SubstructureNotifyMask | SubstructureRedirectMask, &request);
+    XSendEvent(m_display, DefaultRootWindow(m_display), False, SubstructureNotifyMask | SubstructureRedirectMask,
+               &request);
     XSync(m_display, False);
 }
 
@@ -140,7 +142,8 @@ bool XClient::grabKey(unsigned int evdevCode, unsigned int mask) {
     XSync(m_display, False);
     lastError = 0;
     const auto before = XSetErrorHandler([](Display*, XErrorEvent* error) { return lastError = error->error_code; });
-    XGrabKey(m_display, int(evdevCode + offset), mask, DefaultRootWindow(m_display), False, GrabModeAsync, GrabModeAsync);
+    XGrabKey(m_display, int(evdevCode + offset), mask, DefaultRootWindow(m_display), False, GrabModeAsync,
+             GrabModeAsync);
     XSync(m_display, False);
     XSetErrorHandler(before);
     return lastError == 0;

@@ -8,8 +8,8 @@ typedef struct _XDisplay Display;
 
 namespace vellumry {
 
-/// Another program on the display, as far as our program can tell: a connection of its own, perhaps a window, perhaps a hand on
-/// the keyboard. Shares no code with what is tested.
+/// Another program on the display, as far as our program can tell: a connection of its own, perhaps a window, perhaps a
+/// hand on the keyboard. Shares no code with what is tested.
 class XClient {
 public:
     /// A key that the window was sent.

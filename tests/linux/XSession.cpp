@@ -34,8 +34,8 @@ void endChild(QProcess& process) {
     process.waitForFinished();
 }
 
-/// True when the window manager takes a new window in its care. Openbox announces itself before it does so, and loses the windows
-/// that are shown in between.
+/// True when the window manager takes a new window in its care. Openbox announces itself before it does so, and loses
+/// the windows that are shown in between.
 bool isManaged(XlibConnection& connection) {
     Display* display = connection.display();
     const Window probe = XCreateSimpleWindow(display, connection.root(), 0, 0, 1, 1, 0, 0, 0);
@@ -56,7 +56,8 @@ bool isManaged(XlibConnection& connection) {
 bool XSession::start() {
     startChild(m_server, QStringLiteral("Xvfb"),
                {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
-                QStringLiteral("1280x800x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-ac")});
+                QStringLiteral("1280x800x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp"),
+                QStringLiteral("-ac")});
     QByteArray number;
     while (!number.contains('\n') && m_server.waitForReadyRead(startMilliseconds))
         number += m_server.readAllStandardOutput();

@@ -4,8 +4,9 @@
 #include <QString>
 #include <optional>
 
-/// The identifiers that stand for applications in the program's lists (ignored applications, mail and chat programs, code editors,
-/// screenshot tools), by the names that the same applications have on the Linux desktop. Pure functions; any thread.
+/// The identifiers that stand for applications in the program's lists (ignored applications, mail and chat programs,
+/// code editors, screenshot tools), by the names that the same applications have on the Linux desktop. Pure functions;
+/// any thread.
 namespace vellumry::ApplicationIdentifiers {
 
 /// The identifier for a desktop-file id, a window class or a program's name; nothing when the lists do not know it.

@@ -56,10 +56,13 @@ std::vector<QDateTime> modificationTimes(const QStringList& folders) {
 
 } // namespace
 
-DesktopEntries::DesktopEntries() : DesktopEntries(sessionFolders(), sessionLanguages()) {}
+DesktopEntries::DesktopEntries()
+    : DesktopEntries(sessionFolders(), sessionLanguages()) {}
 
 DesktopEntries::DesktopEntries(QStringList folders, QStringList languages)
-    : m_folders(std::move(folders)), m_languages(std::move(languages)), m_reading(std::make_shared<Reading>()) {}
+    : m_folders(std::move(folders))
+    , m_languages(std::move(languages))
+    , m_reading(std::make_shared<Reading>()) {}
 
 DesktopEntries::~DesktopEntries() = default;
 
@@ -76,7 +79,8 @@ void DesktopEntries::refresh() {
         bool isKnown = false;
         {
             const std::lock_guard lock(reading->mutex);
-            isKnown = reading->index != nullptr && reading->modified == modified && areSettled(modified, reading->readAt);
+            isKnown =
+                reading->index != nullptr && reading->modified == modified && areSettled(modified, reading->readAt);
         }
         std::shared_ptr<const DesktopEntryIndex> index;
         if (!isKnown)

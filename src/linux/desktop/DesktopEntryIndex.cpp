@@ -25,7 +25,11 @@ QString unescaped(const QString& value) {
             continue;
         }
         const QChar code = value[++i];
-        result += code == u's' ? u' ' : code == u'n' ? u'\n' : code == u't' ? u'\t' : code == u'r' ? u'\r' : code.unicode();
+        result += code == u's'   ? u' '
+                  : code == u'n' ? u'\n'
+                  : code == u't' ? u'\t'
+                  : code == u'r' ? u'\r'
+                                 : code.unicode();
     }
     return result;
 }
@@ -65,7 +69,8 @@ bool isSame(const QString& left, const QString& right) {
 
 } // namespace
 
-std::optional<DesktopEntry> DesktopEntry::parse(const QString& id, const QByteArray& contents, const QStringList& languages) {
+std::optional<DesktopEntry> DesktopEntry::parse(const QString& id, const QByteArray& contents,
+                                                const QStringList& languages) {
     auto values = mainGroup(contents);
     if (values[QStringLiteral("Type")] != u"Application" || values[QStringLiteral("Hidden")] == u"true")
         return std::nullopt;
@@ -117,8 +122,8 @@ DesktopEntryIndex DesktopEntryIndex::read(const QStringList& folders, const QStr
 }
 
 std::optional<DesktopEntry> DesktopEntryIndex::byID(const QString& id) const {
-    const auto found =
-        std::find_if(m_entries.begin(), m_entries.end(), [&](const DesktopEntry& entry) { return isSame(id, entry.id); });
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [&](const DesktopEntry& entry) { return isSame(id, entry.id); });
     return found == m_entries.end() ? std::nullopt : std::optional(*found);
 }
 
@@ -138,13 +143,15 @@ std::optional<DesktopEntry> DesktopEntryIndex::find(const ApplicationHints& hint
             return entry;
     }
     for (const QString& name : {hints.className, hints.instanceName}) {
-        if (const auto entry = first([&](const DesktopEntry& candidate) { return isSame(name, candidate.startupWmClass); }))
+        if (const auto entry =
+                first([&](const DesktopEntry& candidate) { return isSame(name, candidate.startupWmClass); }))
             return entry;
     }
     for (const QString& name : {hints.className, hints.instanceName}) {
         if (const auto entry = byID(name))
             return entry;
-        if (const auto entry = first([&](const DesktopEntry& candidate) { return isSame(name, candidate.id.section(u'.', -1)); }))
+        if (const auto entry =
+                first([&](const DesktopEntry& candidate) { return isSame(name, candidate.id.section(u'.', -1)); }))
             return entry;
     }
     return first([&](const DesktopEntry& candidate) { return isSame(hints.program, candidate.program); });

@@ -20,7 +20,8 @@ struct DesktopEntry {
 
     bool operator==(const DesktopEntry&) const = default;
 
-    /// Nothing when `contents` is no application's entry. `languages` are locale names as in the file's keys, best first.
+    /// Nothing when `contents` is no application's entry. `languages` are locale names as in the file's keys, best
+    /// first.
     [[nodiscard]] static std::optional<DesktopEntry> parse(const QString& id, const QByteArray& contents,
                                                            const QStringList& languages);
 };
@@ -40,7 +41,8 @@ class DesktopEntryIndex {
 public:
     /// Reads the folders in the order of precedence. Touches the disk.
     [[nodiscard]] static DesktopEntryIndex read(const QStringList& folders, const QStringList& languages);
-    explicit DesktopEntryIndex(std::vector<DesktopEntry> entries) : m_entries(std::move(entries)) {}
+    explicit DesktopEntryIndex(std::vector<DesktopEntry> entries)
+        : m_entries(std::move(entries)) {}
 
     /// The entry that fits the hints best: by the program's own word, by window class, by name, by what it executes.
     [[nodiscard]] std::optional<DesktopEntry> find(const ApplicationHints& hints) const;

@@ -4,8 +4,8 @@
 #include <QtGlobal>
 #include <optional>
 
-/// The two numberings of a keyboard's physical keys: the virtual key codes that shortcuts are stored in (0 to 127) and the evdev
-/// codes of linux/input-event-codes.h. An X key code is the evdev code and 8. Pure functions; any thread.
+/// The two numberings of a keyboard's physical keys: the virtual key codes that shortcuts are stored in (0 to 127) and
+/// the evdev codes of linux/input-event-codes.h. An X key code is the evdev code and 8. Pure functions; any thread.
 namespace vellumry::KeyCodes {
 
 inline constexpr quint32 virtualKeyCount = 128;

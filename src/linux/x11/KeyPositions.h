@@ -9,9 +9,10 @@
 
 namespace vellumry {
 
-/// Which physical key a virtual key code means on the user's layout: a letter's code means the key that types this letter, so that
-/// Ctrl+V stays on the key marked V; every other code means its place. The two directions are inverse to each other: keys that
-/// lost their code to a letter take the codes that the letters left. Without Latin letters all codes mean their places. A value.
+/// Which physical key a virtual key code means on the user's layout: a letter's code means the key that types this
+/// letter, so that Ctrl+V stays on the key marked V; every other code means its place. The two directions are inverse
+/// to each other: keys that lost their code to a letter take the codes that the letters left. Without Latin letters all
+/// codes mean their places. A value.
 class KeyPositions {
 public:
     /// `typed` says what the key of an evdev code types without modifiers, in lower case.

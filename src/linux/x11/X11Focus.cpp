@@ -18,7 +18,8 @@ constexpr long focusEvents = FocusChangeMask | StructureNotifyMask;
 } // namespace
 
 X11Focus::X11Focus(std::shared_ptr<XlibConnection> connection, Clock clock)
-    : m_connection(std::move(connection)), m_clock(std::move(clock)) {
+    : m_connection(std::move(connection))
+    , m_clock(std::move(clock)) {
     m_connection->listen(m_connection->root(), PropertyChangeMask);
     connect(m_connection.get(), &XlibConnection::eventArrived, this, &X11Focus::handleEvent);
 }

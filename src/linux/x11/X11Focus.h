@@ -26,13 +26,14 @@ public:
 
     /// Remembers the window that has the keyboard now, unless one is remembered already.
     void remember();
-    /// Gives the keyboard back to the remembered window, if `ours` still has it; where that window is gone, asks the window
-    /// manager to activate the one that was active. Forgets it where the user gave the keyboard to somebody else.
+    /// Gives the keyboard back to the remembered window, if `ours` still has it; where that window is gone, asks the
+    /// window manager to activate the one that was active. Forgets it where the user gave the keyboard to somebody
+    /// else.
     void giveBack(XWindow ours);
     void forget();
 
-    /// Where the keyboard is. Without a remembered window, and a while after it was given back, whoever has it will do: the user
-    /// may have gone on to another window, and a key of ours pressed there is meant for it.
+    /// Where the keyboard is. Without a remembered window, and a while after it was given back, whoever has it will do:
+    /// the user may have gone on to another window, and a key of ours pressed there is meant for it.
     [[nodiscard]] Standing standing();
 
 Q_SIGNALS:

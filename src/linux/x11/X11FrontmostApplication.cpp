@@ -40,7 +40,8 @@ QString firstOf(std::initializer_list<QString> candidates) {
 
 X11FrontmostApplication::X11FrontmostApplication(std::shared_ptr<XlibConnection> connection,
                                                  std::shared_ptr<DesktopEntries> entries)
-    : m_connection(std::move(connection)), m_entries(std::move(entries)) {
+    : m_connection(std::move(connection))
+    , m_entries(std::move(entries)) {
     m_entries->refresh();
     m_connection->listen(m_connection->root(), PropertyChangeMask);
     connect(m_connection.get(), &XlibConnection::eventArrived, this, &X11FrontmostApplication::handleEvent);
@@ -83,9 +84,9 @@ void X11FrontmostApplication::follow() {
 ApplicationHints X11FrontmostApplication::hintsOf(XWindow window, qint64 process) {
     const auto windowClass = XWindowProperties::windowClass(*m_connection, window);
     ApplicationHints hints;
-    hints.applicationID = firstOf({XWindowProperties::text(*m_connection, window, "_GTK_APPLICATION_ID"),
-                                   XWindowProperties::text(*m_connection, window, "_KDE_NET_WM_DESKTOP_FILE"),
-                                   sandboxedID(process)});
+    hints.applicationID =
+        firstOf({XWindowProperties::text(*m_connection, window, "_GTK_APPLICATION_ID"),
+                 XWindowProperties::text(*m_connection, window, "_KDE_NET_WM_DESKTOP_FILE"), sandboxedID(process)});
     hints.className = windowClass.name;
     hints.instanceName = windowClass.instance;
     if (process > 0)
@@ -101,7 +102,8 @@ SourceApp X11FrontmostApplication::current() const {
     if (m_hints == ApplicationHints())
         return {};
     const auto entry = currentEntry();
-    const QString id = entry.has_value() ? entry->id : firstOf({m_hints.applicationID, m_hints.className, m_hints.program});
+    const QString id =
+        entry.has_value() ? entry->id : firstOf({m_hints.applicationID, m_hints.className, m_hints.program});
     SourceApp source;
     for (const QString& name : {id, m_hints.applicationID, m_hints.className, m_hints.instanceName}) {
         source.bundleID = ApplicationIdentifiers::standing(name);

@@ -40,7 +40,8 @@ std::vector<XIGrabModifiers> grabModifiers(unsigned int mask, const std::vector<
 
 } // namespace
 
-X11HotKeys::X11HotKeys(std::shared_ptr<XlibConnection> connection) : m_connection(std::move(connection)) {
+X11HotKeys::X11HotKeys(std::shared_ptr<XlibConnection> connection)
+    : m_connection(std::move(connection)) {
     m_grabAgain.setSingleShot(true);
     m_grabAgain.setInterval(grabAgainMilliseconds);
     connect(&m_grabAgain, &QTimer::timeout, this, &X11HotKeys::grabAgain);
@@ -105,8 +106,8 @@ std::optional<X11HotKeys::Combination> X11HotKeys::combinationFor(const X11Keyma
     return Combination{*keycode, *mask, keymap.lockCombinations()};
 }
 
-// The server finds no conflict between core grabs and X Input grabs: the later one silently wins. So a core grab is tried for a
-// moment before ours; window managers and desktop shortcuts mostly hold core grabs.
+// The server finds no conflict between core grabs and X Input grabs: the later one silently wins. So a core grab is
+// tried for a moment before ours; window managers and desktop shortcuts mostly hold core grabs.
 bool X11HotKeys::isFreeOfCoreGrabs(const Combination& combination) {
     Display* display = m_connection->display();
     XErrorTrap trap(display);

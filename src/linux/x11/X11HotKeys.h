@@ -11,9 +11,9 @@ namespace vellumry {
 
 class X11Keymap;
 
-/// Hot keys as passive grabs of the X Input extension on the root window. They follow a change of the keyboard layout, work
-/// whatever lock is on, and are taken anew when the window manager is replaced. Another program's combination is found taken
-/// whichever kind of grab it uses, save for X Input grabs on other master keyboards.
+/// Hot keys as passive grabs of the X Input extension on the root window. They follow a change of the keyboard layout,
+/// work whatever lock is on, and are taken anew when the window manager is replaced. Another program's combination is
+/// found taken whichever kind of grab it uses, save for X Input grabs on other master keyboards.
 class X11HotKeys : public QObject, public HotKeyRegistrar {
     Q_OBJECT
 public:

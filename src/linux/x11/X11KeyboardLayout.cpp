@@ -5,7 +5,8 @@
 
 namespace vellumry {
 
-X11KeyboardLayout::X11KeyboardLayout(std::shared_ptr<XlibConnection> connection) : m_connection(std::move(connection)) {}
+X11KeyboardLayout::X11KeyboardLayout(std::shared_ptr<XlibConnection> connection)
+    : m_connection(std::move(connection)) {}
 
 std::optional<quint32> X11KeyboardLayout::keyCodeFor(QChar character) const {
     const X11Keymap keymap = X11Keymap::read(*m_connection);

@@ -6,8 +6,8 @@
 
 namespace vellumry {
 
-/// The letters of the layout that the X server has for the keyboard. A letter's virtual key code means the key that types it
-/// (see `KeyPositions`), as it does for `X11HotKeys`.
+/// The letters of the layout that the X server has for the keyboard. A letter's virtual key code means the key that
+/// types it (see `KeyPositions`), as it does for `X11HotKeys`.
 class X11KeyboardLayout : public KeyboardLayout {
 public:
     explicit X11KeyboardLayout(std::shared_ptr<XlibConnection> connection);

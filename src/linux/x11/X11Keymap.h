@@ -10,8 +10,8 @@
 
 namespace vellumry {
 
-/// One look at the server's keyboard map: what keys type without modifiers in each of the user's layouts (groups), and which
-/// modifier bits they set. Cheap enough to take anew whenever it is needed. A value.
+/// One look at the server's keyboard map: what keys type without modifiers in each of the user's layouts (groups), and
+/// which modifier bits they set. Cheap enough to take anew whenever it is needed. A value.
 class X11Keymap {
 public:
     static constexpr quint32 keyCount = 256;
@@ -22,15 +22,17 @@ public:
     /// The X key code that a virtual key code means; nothing where the keyboard has no such key.
     [[nodiscard]] std::optional<quint32> keycodeFor(quint32 virtualKey) const;
     [[nodiscard]] std::optional<quint32> virtualKeyFor(quint32 keycode) const;
-    /// What the key types without modifiers in the layout that shortcuts go by: the first with Latin letters, else the first.
+    /// What the key types without modifiers in the layout that shortcuts go by: the first with Latin letters, else the
+    /// first.
     [[nodiscard]] std::optional<QString> charactersFor(quint32 keycode) const;
-    /// The key that types the letter in the layout in use, else in another one, else the one in its place on a US keyboard.
+    /// The key that types the letter in the layout in use, else in another one, else the one in its place on a US
+    /// keyboard.
     [[nodiscard]] quint32 keycodeTyping(char16_t letter, quint32 place) const;
     /// A key that carries the symbol, `place` when none does.
     [[nodiscard]] quint32 keycodeOf(unsigned long symbol, quint32 place) const;
 
-    /// The X modifier mask of a shortcut's modifiers (0x100 Ctrl, 0x200 Shift, 0x800 Alt, 0x1000 Super); nothing when the
-    /// keyboard lacks one of them.
+    /// The X modifier mask of a shortcut's modifiers (0x100 Ctrl, 0x200 Shift, 0x800 Alt, 0x1000 Super); nothing when
+    /// the keyboard lacks one of them.
     [[nodiscard]] std::optional<unsigned int> maskFor(quint32 modifiers) const;
     /// All bits that a shortcut may ask for.
     [[nodiscard]] unsigned int shortcutMask() const;

@@ -45,7 +45,9 @@ bool isOverOwnWindow() {
 } // namespace
 
 X11PanelSurface::X11PanelSurface(std::shared_ptr<XlibConnection> connection, std::shared_ptr<X11Focus> focus)
-    : m_connection(std::move(connection)), m_focus(std::move(focus)), m_screens(m_connection) {
+    : m_connection(std::move(connection))
+    , m_focus(std::move(focus))
+    , m_screens(m_connection) {
     connect(m_connection.get(), &XlibConnection::eventArrived, this, &X11PanelSurface::handleEvent);
     followCompositor();
 }
@@ -139,8 +141,8 @@ void X11PanelSurface::setClickThrough(XWindow window, bool clickThrough) {
         XFixesDestroyRegion(display, nothing);
 }
 
-// Raw button presses are told whoever gets the click. Where nobody takes the keyboard on a click (the bare desktop), the panel
-// would stay otherwise.
+// Raw button presses are told whoever gets the click. Where nobody takes the keyboard on a click (the bare desktop),
+// the panel would stay otherwise.
 void X11PanelSurface::listenForClicks(bool isListening) {
     if (!m_connection->inputExtension().has_value())
         return;

@@ -11,8 +11,9 @@
 
 namespace vellumry {
 
-/// Panels as windows that the window manager leaves alone. It neither sees them activated nor deactivates anybody for them; the
-/// keyboard is taken and given back by ourselves. One panel at a time has the keyboard. Needs Qt's own windows on the same display.
+/// Panels as windows that the window manager leaves alone. It neither sees them activated nor deactivates anybody for
+/// them; the keyboard is taken and given back by ourselves. One panel at a time has the keyboard. Needs Qt's own
+/// windows on the same display.
 class X11PanelSurface : public QObject, public PanelSurface {
     Q_OBJECT
 public:

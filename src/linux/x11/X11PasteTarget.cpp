@@ -23,8 +23,8 @@ constexpr quint32 placeOf(quint32 evdevCode) {
     return evdevCode + KeyCodes::xOffset;
 }
 
-/// Waits until the keyboard may have moved, or the time is up. `focus` outlives the wait. Not the awaiter of a library: a signal
-/// that is emitted twice in one turn of the event loop must resume once.
+/// Waits until the keyboard may have moved, or the time is up. `focus` outlives the wait. Not the awaiter of a library:
+/// a signal that is emitted twice in one turn of the event loop must resume once.
 struct NextMove {
     X11Focus* focus;
     std::chrono::milliseconds limit;
@@ -50,11 +50,14 @@ struct NextMove {
 
 } // namespace
 
-X11PasteTarget::X11PasteTarget(std::shared_ptr<XlibConnection> connection, std::shared_ptr<X11Focus> focus, Options options)
-    : m_connection(std::move(connection)), m_focus(std::move(focus)), m_options(std::move(options)) {}
+X11PasteTarget::X11PasteTarget(std::shared_ptr<XlibConnection> connection, std::shared_ptr<X11Focus> focus,
+                               Options options)
+    : m_connection(std::move(connection))
+    , m_focus(std::move(focus))
+    , m_options(std::move(options)) {}
 
-// Screen lockers and password prompts keep the keyboard to themselves, and only a try tells. Taking it succeeds where a hot key of
-// our own holds it.
+// Screen lockers and password prompts keep the keyboard to themselves, and only a try tells. Taking it succeeds where a
+// hot key of our own holds it.
 bool X11PasteTarget::isSecureInput() const {
     Display* display = m_connection->display();
     const int result = XGrabKeyboard(display, m_connection->root(), False, GrabModeAsync, GrabModeAsync, CurrentTime);
@@ -72,7 +75,8 @@ QCoro::Task<bool> X11PasteTarget::regainFocus() {
         const X11Focus::Standing standing = focus->standing();
         if (standing != X11Focus::Standing::away)
             co_return standing == X11Focus::Standing::returned;
-        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        const auto left =
+            std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
         if (left.count() <= 0)
             co_return false;
         NextMove move{focus.get(), left};
@@ -110,8 +114,9 @@ bool X11PasteTarget::isTerminalInFront() const {
     return TerminalApps::contains({windowClass.name, windowClass.instance}, userNames);
 }
 
-// Every key, not only the modifiers: a key that is down cannot be pressed once more. The user's own release later goes unnoticed.
-// They are not pressed again: a modifier pressed by us would stay down when the user lets go of the real one.
+// Every key, not only the modifiers: a key that is down cannot be pressed once more. The user's own release later goes
+// unnoticed. They are not pressed again: a modifier pressed by us would stay down when the user lets go of the real
+// one.
 void X11PasteTarget::releaseHeldKeys() {
     char down[X11Keymap::keyCount / 8];
     XQueryKeymap(m_connection->display(), down);

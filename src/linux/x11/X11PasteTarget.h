@@ -14,7 +14,8 @@ class X11PasteTarget : public QObject, public PasteTarget {
     Q_OBJECT
 public:
     struct Options {
-        /// Offers what is on the pasteboard as the primary selection too, which terminals paste. False when that failed.
+        /// Offers what is on the pasteboard as the primary selection too, which terminals paste. False when that
+        /// failed.
         std::function<bool()> offerAsPrimary;
         /// The user's own list of terminals, read at each paste (see `TerminalApps`).
         std::function<QStringList()> terminalApps;

@@ -9,7 +9,8 @@
 
 namespace vellumry {
 
-X11Screens::X11Screens(std::shared_ptr<XlibConnection> connection) : m_connection(std::move(connection)) {}
+X11Screens::X11Screens(std::shared_ptr<XlibConnection> connection)
+    : m_connection(std::move(connection)) {}
 
 std::optional<ScreenPlace> X11Screens::underPointer() const {
     const QScreen* screen = QGuiApplication::screenAt(QCursor::pos());
@@ -38,7 +39,8 @@ ScreenPlace X11Screens::placeOf(const QScreen& screen) const {
             visiblePart(frame, screen.devicePixelRatio(), workArea())};
 }
 
-QString X11Screens::keyOf(const QString& maker, const QString& model, const QString& serial, const QString& name, QSize size) {
+QString X11Screens::keyOf(const QString& maker, const QString& model, const QString& serial, const QString& name,
+                          QSize size) {
     if (model.isEmpty() && serial.isEmpty())
         return QStringLiteral("%1 %2×%3").arg(name).arg(size.width()).arg(size.height());
     return QStringLiteral("%1 %2 %3 %4").arg(maker, model, serial, name).simplified();

@@ -16,11 +16,12 @@ public:
     [[nodiscard]] std::optional<ScreenPlace> underPointer() const;
     [[nodiscard]] std::optional<ScreenPlace> of(const QRect& frame) const;
 
-    /// What the maker wrote into the display and where it is plugged in; its name and size where the maker wrote nothing.
-    [[nodiscard]] static QString keyOf(const QString& maker, const QString& model, const QString& serial, const QString& name,
-                                       QSize size);
-    /// The part of `workArea` on a display, in device-independent pixels; `workArea` is in the server's pixels, an empty one
-    /// takes nothing away. Displays keep their origin when they are scaled.
+    /// What the maker wrote into the display and where it is plugged in; its name and size where the maker wrote
+    /// nothing.
+    [[nodiscard]] static QString keyOf(const QString& maker, const QString& model, const QString& serial,
+                                       const QString& name, QSize size);
+    /// The part of `workArea` on a display, in device-independent pixels; `workArea` is in the server's pixels, an
+    /// empty one takes nothing away. Displays keep their origin when they are scaled.
     [[nodiscard]] static QRect visiblePart(const QRect& frame, qreal scale, const QRect& workArea);
 
 private:

@@ -24,13 +24,14 @@ int handleXError(Display* display, unsigned long serial, int code) {
 
 // Qt puts a handler of its own in place when it connects, which may be after us; so each trap sees to it anew.
 void XErrorTrap::install() {
-    XSetErrorHandler([](Display* display, XErrorEvent* error) {
-        return handleXError(display, error->serial, error->error_code);
-    });
+    XSetErrorHandler(
+        [](Display* display, XErrorEvent* error) { return handleXError(display, error->serial, error->error_code); });
 }
 
 XErrorTrap::XErrorTrap(Display* display)
-    : m_display(display), m_outer(innermost), m_firstSerial(NextRequest(display)) {
+    : m_display(display)
+    , m_outer(innermost)
+    , m_firstSerial(NextRequest(display)) {
     innermost = this;
     install();
 }

@@ -5,9 +5,9 @@ typedef struct _XDisplay Display;
 
 namespace vellumry {
 
-/// While one lives, errors that the X server reports for requests made on `display` by this thread are kept here. Windows of
-/// other programs vanish at any time, so a request about one may always fail. Outside of a trap errors are ignored: Xlib's own
-/// answer would be to end the process. Traps nest; the innermost of a display counts.
+/// While one lives, errors that the X server reports for requests made on `display` by this thread are kept here.
+/// Windows of other programs vanish at any time, so a request about one may always fail. Outside of a trap errors are
+/// ignored: Xlib's own answer would be to end the process. Traps nest; the innermost of a display counts.
 class XErrorTrap {
 public:
     explicit XErrorTrap(Display* display);

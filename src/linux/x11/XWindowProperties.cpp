@@ -30,8 +30,8 @@ Property read(XlibConnection& connection, XWindow window, const char* name) {
     unsigned long left = 0;
     unsigned char* data = nullptr;
     XErrorTrap trap(connection.display());
-    const int status = XGetWindowProperty(connection.display(), window, connection.atom(name), 0, maxPropertyLength, False,
-                                          AnyPropertyType, &type, &result.format, &count, &left, &data);
+    const int status = XGetWindowProperty(connection.display(), window, connection.atom(name), 0, maxPropertyLength,
+                                          False, AnyPropertyType, &type, &result.format, &count, &left, &data);
     if (status == Success && data != nullptr) {
         if (result.format == 8)
             result.bytes = QByteArray(reinterpret_cast<const char*>(data), qsizetype(count));

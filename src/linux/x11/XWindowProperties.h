@@ -6,8 +6,8 @@
 #include <QString>
 #include <vector>
 
-/// What windows of other programs say about themselves. Every answer is empty when the window is gone. Names and meanings are
-/// those of the ICCCM and of the freedesktop.org window manager specification.
+/// What windows of other programs say about themselves. Every answer is empty when the window is gone. Names and
+/// meanings are those of the ICCCM and of the freedesktop.org window manager specification.
 namespace vellumry::XWindowProperties {
 
 /// WM_CLASS.

@@ -25,7 +25,9 @@ std::shared_ptr<XlibConnection> XlibConnection::create(const QByteArray& display
 }
 
 XlibConnection::XlibConnection(Display* display)
-    : m_display(display), m_root(DefaultRootWindow(display)), m_screen(DefaultScreen(display)) {
+    : m_display(display)
+    , m_root(DefaultRootWindow(display))
+    , m_screen(DefaultScreen(display)) {
     queryExtensions();
     auto* notifier = new QSocketNotifier(ConnectionNumber(display), QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, &XlibConnection::dispatchPending);

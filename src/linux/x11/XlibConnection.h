@@ -16,8 +16,8 @@ namespace vellumry {
 using XWindow = unsigned long;
 using XAtom = unsigned long;
 
-/// Our own line to the X server for keys, focus and windows, apart from Qt's. Main thread. Its events arrive through the event
-/// loop; nothing polls.
+/// Our own line to the X server for keys, focus and windows, apart from Qt's. Main thread. Its events arrive through
+/// the event loop; nothing polls.
 class XlibConnection : public QObject {
     Q_OBJECT
 public:
@@ -30,8 +30,8 @@ public:
     [[nodiscard]] int screen() const { return m_screen; }
     [[nodiscard]] XAtom atom(const char* name);
 
-    /// Adds `mask` to the core events that this connection hears from `window`: Xlib would replace what another user of the
-    /// connection asked for. A window that is gone is left alone.
+    /// Adds `mask` to the core events that this connection hears from `window`: Xlib would replace what another user of
+    /// the connection asked for. A window that is gone is left alone.
     void listen(XWindow window, long mask);
     /// Takes back one `listen` with that very mask.
     void ignore(XWindow window, long mask);
