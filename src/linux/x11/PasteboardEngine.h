@@ -62,6 +62,7 @@ public:
     /// True once somebody took content of what we hold on the clipboard. Any thread.
     [[nodiscard]] bool wasServed() const { return m_wasServed.load(std::memory_order_acquire); }
 
+    /// Begins to follow the selections. Waits for the server a few times; on any one thread, before the engine is used.
     void start();
     void claim(Claim claim);
     /// Gives up the clipboard if it is still ours with `contents`.

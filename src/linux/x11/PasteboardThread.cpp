@@ -28,6 +28,8 @@ std::unique_ptr<PasteboardThread> PasteboardThread::create(std::unique_ptr<Paste
 
 PasteboardThread::PasteboardThread(std::unique_ptr<PasteboardEngine> engine, int wakeDescriptor)
     : m_engine(std::move(engine)), m_wakeDescriptor(wakeDescriptor) {
+    // Before anybody can have a change count: no change of owner is missed from then on.
+    m_engine->start();
     m_thread = std::thread([this] {
         pthread_setname_np(pthread_self(), "pasteboard");
         run();
@@ -58,7 +60,6 @@ void PasteboardThread::wake() const {
 }
 
 void PasteboardThread::run() {
-    m_engine->start();
     while (runCommands()) {
         handleEvents();
         m_engine->expire(std::chrono::steady_clock::now());
