@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "paste/PasteEngine.h"
+
+#include "foundation/FileUrl.h"
+#include "foundation/UniformType.h"
+#include "foundation/UserDefaults.h"
+#include "history/ClipStore.h"
+#include "paste/PasteboardWriter.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace vellumry {
+
+namespace {
+
+std::optional<QString> filePathOf(const PasteboardItem& item) {
+    const auto url = item.representations.find(uniformtype::fileUrl);
+    if (url == item.representations.end())
+        return std::nullopt;
+    return fileurl::pathOf(url->second);
+}
+
+FileRef referenceTo(const QString& path, const std::vector<FileRef>& files) {
+    const auto known = std::ranges::find(files, path, &FileRef::path);
+    return known != files.end() ? *known : FileRef{path, fileurl::lastPathComponent(path), std::nullopt};
+}
+
+} // namespace
+
+PasteEngine::PasteEngine(ClipStore& store, const UserDefaults& preferences, SystemHooks system)
+    : m_store(&store), m_preferences(&preferences), m_system(std::move(system)) {}
+
+QCoro::Task<PasteOutcome> PasteEngine::paste(ClipRef clip, std::optional<bool> isPlain,
+                                             std::optional<TextTransform> transform) {
+    const std::weak_ptr<bool> life = m_life;
+    auto payload = co_await m_store->payload(clip->id);
+    if (life.expired() || !payload)
+        co_return PasteOutcome::failed();
+    auto items = std::move(payload->items);
+    if (clip->kind == ClipKind::file) {
+        auto resolved = co_await resolvingFiles(std::move(items), clip->files);
+        if (life.expired())
+            co_return PasteOutcome::failed();
+        if (!resolved)
+            co_return PasteOutcome::fileMissing();
+        items = std::move(*resolved);
+    }
+
+    const bool goesOutPlain = isPlain.value_or(isPlainByDefault(clip->kind));
+    // The names of files can be pasted whether or not the files may be read.
+    if (clip->kind == ClipKind::file && !goesOutPlain && !transform) {
+        auto paths = filePaths(items);
+        const auto access = co_await m_system.checkFileAccess(std::move(paths));
+        if (life.expired())
+            co_return PasteOutcome::failed();
+        if (access.blocked)
+            co_return PasteOutcome::filesBlocked(*access.blocked);
+    }
+
+    if (!write(items, goesOutPlain, transform))
+        co_return PasteOutcome::failed();
+    const Date now = m_system.now();
+    co_await m_store->markUsed(clip->id, now);
+    if (life.expired())
+        co_return PasteOutcome::failed();
+    co_return co_await deliver();
+}
+
+QCoro::Task<CopyOutcome> PasteEngine::copy(ClipRef clip) {
+    const std::weak_ptr<bool> life = m_life;
+    auto payload = co_await m_store->payload(clip->id);
+    if (life.expired() || !payload)
+        co_return CopyOutcome::failed();
+    auto items = std::move(payload->items);
+    if (clip->kind == ClipKind::file) {
+        auto resolved = co_await resolvingFiles(std::move(items), clip->files);
+        if (life.expired())
+            co_return CopyOutcome::failed();
+        if (!resolved)
+            co_return CopyOutcome::fileMissing();
+        items = std::move(*resolved);
+        auto paths = filePaths(items);
+        const auto access = co_await m_system.checkFileAccess(std::move(paths));
+        if (life.expired())
+            co_return CopyOutcome::failed();
+        if (access.blocked)
+            co_return CopyOutcome::filesBlocked(*access.blocked);
+    }
+
+    if (!PasteboardWriter::write(items, false, *m_system.pasteboard))
+        co_return CopyOutcome::failed();
+    const Date now = m_system.now();
+    co_await m_store->markUsed(clip->id, now);
+    co_return CopyOutcome::copied();
+}
+
+QCoro::Task<PasteOutcome> PasteEngine::pasteText(QString text) {
+    if (!PasteboardWriter::writeText(text, *m_system.pasteboard))
+        co_return PasteOutcome::failed();
+    co_return co_await deliver();
+}
+
+QCoro::Task<PasteOutcome> PasteEngine::deliver() {
+    // The order decides what the user is told: with direct paste off, a password field makes no difference.
+    if (!m_preferences->boolean(QStringLiteral("pasteDirectly")))
+        co_return PasteOutcome::copiedOnly(PasteReason::directPasteOff);
+    if (!m_system.isTrusted())
+        co_return PasteOutcome::copiedOnly(PasteReason::notTrusted);
+    if (m_system.isSecureInput())
+        co_return PasteOutcome::copiedOnly(PasteReason::secureInput);
+
+    const std::weak_ptr<bool> life = m_life;
+    co_await m_system.sleep(m_system.settleDelay);
+    if (life.expired())
+        co_return PasteOutcome::failed();
+    // Keys that reach another window than the user typed in would do there whatever they mean there.
+    const bool hasFocus = co_await m_system.regainFocus();
+    if (life.expired())
+        co_return PasteOutcome::failed();
+    if (!hasFocus)
+        co_return PasteOutcome::copiedOnly(PasteReason::targetGone);
+    m_system.pressPaste();
+    if (onPasted)
+        onPasted();
+    co_return PasteOutcome::pasted();
+}
+
+QCoro::Task<std::optional<std::vector<PasteboardItem>>> PasteEngine::resolvingFiles(std::vector<PasteboardItem> items,
+                                                                                    std::vector<FileRef> files) {
+    std::vector<FileRef> asked;
+    for (const auto& item : items) {
+        if (const auto path = filePathOf(item))
+            asked.push_back(referenceTo(*path, files));
+    }
+    if (asked.empty())
+        co_return std::nullopt;
+    const auto statuses = co_await fileStatuses(std::move(asked));
+    if (!statuses)
+        co_return items; // a disk that does not answer proves nothing
+
+    std::vector<PasteboardItem> result;
+    bool hasLiveFile = false;
+    auto status = statuses->begin();
+    for (auto& item : items) {
+        if (filePathOf(item)) {
+            const auto present = (status++)->path();
+            if (!present)
+                continue;
+            item.representations.insert_or_assign(uniformtype::fileUrl, fileurl::urlOf(*present));
+            hasLiveFile = true;
+        }
+        result.push_back(std::move(item));
+    }
+    if (!hasLiveFile)
+        co_return std::nullopt;
+    co_return result;
+}
+
+QCoro::Task<std::optional<std::vector<FileStatus>>> PasteEngine::fileStatuses(std::vector<FileRef> files) {
+    // The job owns what it uses: it may outlive the engine on a disk that hangs.
+    SystemHooks::FileJob job = [files = std::move(files), check = m_system.fileStatus] {
+        std::vector<FileStatus> statuses;
+        statuses.reserve(files.size());
+        std::ranges::transform(files, std::back_inserter(statuses), check);
+        return statuses;
+    };
+    co_return co_await m_system.runFileJob(std::move(job));
+}
+
+QStringList PasteEngine::filePaths(const std::vector<PasteboardItem>& items) {
+    QStringList paths;
+    for (const auto& item : items) {
+        if (const auto path = filePathOf(item))
+            paths.append(*path);
+    }
+    return paths;
+}
+
+bool PasteEngine::isPlainByDefault(ClipKind kind) const {
+    const bool hasPlainForm = kind == ClipKind::text || kind == ClipKind::richText || kind == ClipKind::link;
+    return hasPlainForm && m_preferences->boolean(QStringLiteral("plainTextByDefault"));
+}
+
+bool PasteEngine::write(const std::vector<PasteboardItem>& items, bool isPlain, std::optional<TextTransform> transform) {
+    if (transform) {
+        if (const auto text = plainText(items))
+            return PasteboardWriter::writeText(apply(*transform, *text), *m_system.pasteboard);
+    }
+    return PasteboardWriter::write(items, isPlain, *m_system.pasteboard);
+}
+
+} // namespace vellumry

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "paste/ShortcutRegistrations.h"
+
+#include "foundation/Localisation.h"
+#include "foundation/UserDefaults.h"
+#include "paste/HotKeyCenter.h"
+
+#include <utility>
+
+namespace vellumry {
+
+ShortcutRegistrations::ShortcutRegistrations(const UserDefaults& preferences, HotKeyCenter& center,
+                                             const KeyboardLayout& layout, Actions actions)
+    : m_preferences(preferences), m_center(center), m_layout(layout), m_actions(std::move(actions)) {}
+
+ShortcutRegistrations::~ShortcutRegistrations() { suspend(); }
+
+QStringList ShortcutRegistrations::reload() {
+    suspend();
+    QStringList problems;
+    addChosen(QStringLiteral("openPanelShortcut"), Shortcut::openPanelDefault(), m_actions.togglePanel, problems);
+    addChosen(QStringLiteral("pasteStackShortcut"), Shortcut::pasteStackDefault(), m_actions.toggleStack, problems);
+    if (m_actions.pastePinned && m_preferences.boolean(QStringLiteral("pinnedShortcutsEnabled")))
+        addPinned();
+    return problems;
+}
+
+void ShortcutRegistrations::suspend() {
+    for (const auto id : std::exchange(m_hotKeyIDs, {}))
+        m_center.unregister(id);
+    m_pinnedNumbers.clear();
+}
+
+void ShortcutRegistrations::addChosen(const QString& key, const Shortcut& standard, const std::function<void()>& action,
+                                      QStringList& problems) {
+    if (!action)
+        return;
+    const Shortcut shortcut = Shortcut::fromStored(m_preferences.object(key)).value_or(standard);
+    if (!add(shortcut, action))
+        problems.append(localised("%1 is already used by another app. Pick another shortcut.").arg(shortcut.display(m_layout)));
+}
+
+bool ShortcutRegistrations::add(const Shortcut& shortcut, std::function<void()> action) {
+    const auto id = m_center.registerShortcut(shortcut, std::move(action));
+    if (id)
+        m_hotKeyIDs.push_back(*id);
+    return id.has_value();
+}
+
+void ShortcutRegistrations::addPinned() {
+    for (int number = 1; number <= 9; ++number) {
+        if (add(Shortcut::pinned(number), [paste = m_actions.pastePinned, number] { paste(number); }))
+            m_pinnedNumbers.insert(number);
+    }
+}
+
+} // namespace vellumry

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "paste/Shortcut.h"
+
+#include <QSet>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+namespace vellumry {
+
+class HotKeyCenter;
+class UserDefaults;
+
+/// The program's global shortcuts as the settings have them: the panel's, the Paste Stack's, and those of the pinned clips.
+/// Main thread.
+class ShortcutRegistrations {
+public:
+    /// What the shortcuts do. A key whose action is not set is left to other programs.
+    struct Actions {
+        std::function<void()> togglePanel;
+        std::function<void()> toggleStack;
+        std::function<void(int number)> pastePinned;
+    };
+
+    /// The references must outlive the registrations.
+    ShortcutRegistrations(const UserDefaults& preferences, HotKeyCenter& center, const KeyboardLayout& layout, Actions actions);
+    ~ShortcutRegistrations();
+    ShortcutRegistrations(const ShortcutRegistrations&) = delete;
+    ShortcutRegistrations& operator=(const ShortcutRegistrations&) = delete;
+
+    /// Registers everything anew. One sentence for the user for each of the two chosen shortcuts that another program holds; a
+    /// taken shortcut of a pinned clip is no problem, it only does not count.
+    QStringList reload();
+    /// Gives all keys back until the next `reload`, so that they reach a recorder.
+    void suspend();
+
+    /// The digits of the pinned clips' shortcuts that are registered now.
+    [[nodiscard]] const QSet<int>& availablePinnedNumbers() const { return m_pinnedNumbers; }
+    [[nodiscard]] const std::vector<quint32>& hotKeyIDs() const { return m_hotKeyIDs; }
+
+private:
+    [[nodiscard]] bool add(const Shortcut& shortcut, std::function<void()> action);
+    void addChosen(const QString& key, const Shortcut& standard, const std::function<void()>& action, QStringList& problems);
+    void addPinned();
+
+    const UserDefaults& m_preferences;
+    HotKeyCenter& m_center;
+    const KeyboardLayout& m_layout;
+    Actions m_actions;
+    std::vector<quint32> m_hotKeyIDs;
+    QSet<int> m_pinnedNumbers;
+};
+
+} // namespace vellumry
