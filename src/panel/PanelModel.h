@@ -12,6 +12,7 @@
 #include <QObject>
 #include <QSet>
 #include <QUuid>
+#include <array>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -209,6 +210,7 @@ private:
     bool handleInTransformList(Command command);
     void handleEnter(bool isPlain);
     void handleEscape();
+    void copySelected();
     void selectAfterDeleting(const std::vector<ClipRef>& doomed);
     void showToast(const std::optional<ToastMessage>& message);
 

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "foundation/Localisation.h"
+#include "history/ClipMerger.h"
+#include "panel/PanelModelPrivate.h"
+
+#include <algorithm>
+#include <ranges>
+#include <variant>
+
+namespace vellumry {
+
+void PanelModel::showToast(const std::optional<ToastMessage>& message) {
+    if (message)
+        onToast(*message);
+}
+
+void PanelModel::pasteClip(const ClipRef& clip, bool isPlain, std::optional<TextTransform> transform) {
+    onClose();
+    const bool wantsTextInImage = isPlain && !transform && clip->kind == ClipKind::image;
+    if (!wantsTextInImage)
+        runPaste(clip, isPlain ? std::optional(true) : std::nullopt, transform);
+    else if (clip->imageText && !clip->imageText->isEmpty())
+        runPasteText(*clip->imageText);
+    else
+        runPaste(clip, std::nullopt, std::nullopt);
+}
+
+void PanelModel::pasteRow(const QUuid& id) {
+    if (const auto clip = d->store.find(id))
+        pasteClip(clip, false);
+}
+
+void PanelModel::pastePinned(int number) {
+    const auto pinned = d->store.pinnedClips();
+    if (number >= 1 && number <= int(pinned.size())) {
+        pasteClip(pinned[std::size_t(number - 1)], false);
+        return;
+    }
+    onToast({QStringLiteral("pin"), localised("Nothing pinned at ⌃⌥%1 yet. Pin a clip with ⌘P").arg(number),
+             ToastMessage::Tone::info});
+}
+
+void PanelModel::pasteFileNames(const ClipRef& clip) {
+    QStringList names;
+    for (const auto& file : clip->files)
+        names.append(file.name);
+    onClose();
+    runPasteText(names.join(u'\n'));
+}
+
+void PanelModel::copyClip(const ClipRef& clip) { runCopy(clip); }
+
+QCoro::Task<void> PanelModel::runPaste(ClipRef clip, std::optional<bool> isPlain, std::optional<TextTransform> transform) {
+    const QPointer<PanelModel> self(this);
+    const auto outcome = co_await d->paster.paste(clip, isPlain, transform);
+    if (self)
+        showToast(toastFor(outcome));
+}
+
+QCoro::Task<void> PanelModel::runPasteText(QString text) {
+    const QPointer<PanelModel> self(this);
+    const auto outcome = co_await d->paster.pasteText(text);
+    if (self)
+        showToast(toastFor(outcome));
+}
+
+QCoro::Task<void> PanelModel::runCopy(ClipRef clip) {
+    const QPointer<PanelModel> self(this);
+    const auto outcome = co_await d->paster.copy(clip);
+    if (self)
+        showToast(toastFor(outcome));
+}
+
+void PanelModel::togglePin() {
+    auto clips = selectedClipsInCopyOrder();
+    const bool pins = std::ranges::any_of(clips, [](const ClipRef& clip) { return !clip->isPinned; });
+    runPin(std::move(clips), pins);
+}
+
+QCoro::Task<void> PanelModel::runPin(std::vector<ClipRef> clips, bool isPinned) {
+    // One after the other, so that the pins stand in the order in which the clips were copied.
+    const QPointer<PanelModel> self(this);
+    for (const auto& clip : clips) {
+        const Date now = d->calendar.now();
+        co_await d->store.setPinned(clip->id, isPinned, now);
+        if (!self)
+            co_return;
+    }
+}
+
+void PanelModel::deleteSelected() {
+    const auto doomed = selectedClips();
+    if (doomed.empty())
+        return;
+    selectAfterDeleting(doomed);
+    QSet<QUuid> ids;
+    for (const auto& clip : doomed)
+        ids.insert(clip->id);
+    runDelete(std::move(ids));
+}
+
+/// The next clip that stays, else the nearest one before.
+void PanelModel::selectAfterDeleting(const std::vector<ClipRef>& doomed) {
+    const auto& clips = visibleClips();
+    const auto stays = [&](const ClipRef& clip) { return std::ranges::find(doomed, clip) == doomed.end(); };
+    const auto behind = std::ranges::find(clips, doomed.back()) + 1;
+    const auto next = std::find_if(behind, clips.end(), stays);
+    if (next != clips.end()) {
+        select((*next)->id);
+        return;
+    }
+    const auto previous = std::find_if(std::reverse_iterator(behind), clips.rend(), stays);
+    select(previous == clips.rend() ? std::nullopt : std::optional((*previous)->id));
+}
+
+QCoro::Task<void> PanelModel::runDelete(QSet<QUuid> ids) { co_await d->store.remove(std::move(ids), false); }
+
+void PanelModel::toggleTransforms() {
+    if (isTransformListOpen()) {
+        closeTransformList();
+        return;
+    }
+    const auto clip = d->selectedIDs.size() < 2 ? currentClip() : nullptr;
+    if (!clip)
+        return;
+    if (clip->canBeTransformed())
+        setTransform(clip->id, 0);
+    else
+        onToast({QStringLiteral("textformat"), localised("Transforms work on text clips"), ToastMessage::Tone::info});
+}
+
+void PanelModel::merge(MergeAction action) {
+    auto clips = selectedClipsInCopyOrder();
+    if (clips.size() < 2)
+        return;
+    if (std::ranges::any_of(clips, [](const ClipRef& clip) { return clip->kind == ClipKind::image; })) {
+        onToast({QStringLiteral("photo.on.rectangle"), localised("Images can't be merged. Drag them out instead"),
+                 ToastMessage::Tone::info});
+        return;
+    }
+    if (action != MergeAction::stay)
+        onClose();
+    runMerge(std::move(clips), action);
+}
+
+QCoro::Task<void> PanelModel::runMerge(std::vector<ClipRef> clips, MergeAction action) {
+    const QPointer<PanelModel> self(this);
+    const auto count = clips.size();
+    const auto merged = co_await addMerged(std::move(clips));
+    if (!self)
+        co_return;
+    if (!merged) {
+        onToast({QStringLiteral("xmark.circle.fill"), localised("Couldn't merge these clips"),
+                 ToastMessage::Tone::warning});
+        co_return;
+    }
+    select(merged->id);
+    switch (action) {
+    case MergeAction::stay:
+        onToast({QStringLiteral("square.stack.fill"), localised("Merged %1 clips into one").arg(count),
+                 ToastMessage::Tone::success});
+        break;
+    case MergeAction::paste:
+        runPaste(merged, std::nullopt, std::nullopt);
+        break;
+    case MergeAction::copy:
+        runCopy(merged);
+        break;
+    }
+}
+
+/// The stored clip; null when one of `clips` cannot be read, they cannot be merged, or the store does not take the result.
+QCoro::Task<ClipRef> PanelModel::addMerged(std::vector<ClipRef> clips) {
+    const QPointer<PanelModel> self(this);
+    ClipMerger::Payloads payloads;
+    for (const auto& clip : clips) {
+        auto payload = co_await d->store.payload(clip->id);
+        if (!self || !payload)
+            co_return ClipRef();
+        payloads.insert(clip->id, std::move(*payload));
+    }
+    auto result = ClipMerger::merge(clips, payloads);
+    auto* draft = std::get_if<ClipDraft>(&result);
+    if (!draft)
+        co_return ClipRef();
+    const Date now = d->calendar.now();
+    auto merged = co_await d->store.add(std::move(*draft), now);
+    co_return merged;
+}
+
+void PanelModel::pasteSelectedOneByOne() { onToggleStack(selectedClipsInCopyOrder()); }
+
+void PanelModel::addSelectedToStack() { onAddToStack(selectedClipsInCopyOrder()); }
+
+} // namespace vellumry

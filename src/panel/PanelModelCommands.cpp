@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "foundation/Text.h"
+#include "panel/PanelModelPrivate.h"
+#include "paste/Shortcut.h"
+
+#include <algorithm>
+
+namespace vellumry {
+
+namespace {
+
+constexpr int pageRows = 8;
+constexpr int lastTransform = int(PanelModel::transformList.size()) - 1;
+
+/// Virtual key codes of the keys that do something together with Command.
+namespace keycode {
+constexpr quint16 c = 8;
+constexpr quint16 q = 12;
+constexpr quint16 w = 13;
+constexpr quint16 t = 17;
+constexpr quint16 p = 35;
+constexpr quint16 m = 46;
+constexpr quint16 backspace = 51;
+constexpr quint16 forwardDelete = 117;
+} // namespace keycode
+
+} // namespace
+
+bool PanelModel::isTransformListOpen() const {
+    return d->transformClipID && d->transformClipID == d->selectedID && d->selectedIDs.size() < 2;
+}
+
+void PanelModel::setTransform(std::optional<QUuid> clipID, int index) {
+    if (clipID == d->transformClipID && index == d->transformIndex)
+        return;
+    d->transformClipID = clipID;
+    d->transformIndex = index;
+    Q_EMIT transformChanged();
+}
+
+void PanelModel::closeTransformList() { setTransform(std::nullopt, d->transformIndex); }
+
+bool PanelModel::handle(Command command) {
+    if (isTransformListOpen() && handleInTransformList(command))
+        return true;
+    const auto& clips = visibleClips();
+    switch (command) {
+    case Command::enter:
+    case Command::enterPlain:
+        handleEnter(command == Command::enterPlain);
+        break;
+    case Command::up:
+        move(-1);
+        break;
+    case Command::down:
+        move(1);
+        break;
+    case Command::home:
+        if (!clips.empty())
+            select(clips.front()->id);
+        break;
+    case Command::end:
+        if (!clips.empty())
+            select(clips.back()->id);
+        break;
+    case Command::pageUp:
+        move(-pageRows);
+        break;
+    case Command::pageDown:
+        move(pageRows);
+        break;
+    case Command::extendUp:
+        extend(-1);
+        break;
+    case Command::extendDown:
+        extend(1);
+        break;
+    case Command::escape:
+        handleEscape();
+        break;
+    case Command::nextFilter:
+        cycleFilter(1);
+        break;
+    case Command::previousFilter:
+        cycleFilter(-1);
+        break;
+    }
+    return true;
+}
+
+bool PanelModel::handleInTransformList(Command command) {
+    switch (command) {
+    case Command::up:
+        setTransform(d->transformClipID, std::max(d->transformIndex - 1, 0));
+        return true;
+    case Command::down:
+        setTransform(d->transformClipID, std::min(d->transformIndex + 1, lastTransform));
+        return true;
+    case Command::home:
+    case Command::pageUp:
+        setTransform(d->transformClipID, 0);
+        return true;
+    case Command::end:
+    case Command::pageDown:
+        setTransform(d->transformClipID, lastTransform);
+        return true;
+    case Command::escape:
+        closeTransformList();
+        return true;
+    case Command::enter:
+    case Command::enterPlain: {
+        const auto clip = currentClip();
+        closeTransformList();
+        if (clip)
+            pasteClip(clip, true, transformList[std::size_t(d->transformIndex)]);
+        return true;
+    }
+    case Command::extendUp:
+    case Command::extendDown:
+    case Command::nextFilter:
+    case Command::previousFilter:
+        break;
+    }
+    return false;
+}
+
+void PanelModel::handleEnter(bool isPlain) {
+    if (d->selectedIDs.size() >= 2)
+        merge(MergeAction::paste);
+    else if (const auto clip = currentClip())
+        pasteClip(clip, isPlain);
+}
+
+void PanelModel::handleEscape() {
+    if (d->selectedIDs.size() >= 2) {
+        select(d->selectedID);
+    } else if (text::isBlank(d->query)) {
+        onClose();
+    } else {
+        setQuery({});
+        resetSelection();
+    }
+}
+
+bool PanelModel::keyEquivalent(quint16 keyCode, quint32 flags, bool hasTextSelection) {
+    constexpr quint32 deviceBits = 0xFFFF;
+    if ((flags & ~deviceBits) != eventflag::command)
+        return false;
+
+    if (const auto number = digitOfKeyCode(keyCode)) {
+        // A digit without a clip is swallowed as well: it must not reach the search field.
+        const auto numbers = rowNumbers();
+        const auto id = numbers.key(*number);
+        pasteRow(id);
+        return true;
+    }
+    switch (keyCode) {
+    case keycode::backspace:
+    case keycode::forwardDelete:
+        deleteSelected();
+        return true;
+    case keycode::p:
+        togglePin();
+        return true;
+    case keycode::m:
+        merge(MergeAction::stay);
+        return true;
+    case keycode::q:
+    case keycode::w:
+        onClose();
+        return true;
+    case keycode::c:
+        if (hasTextSelection)
+            return false;
+        copySelected();
+        return true;
+    case keycode::t:
+        toggleTransforms();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void PanelModel::copySelected() {
+    if (d->selectedIDs.size() >= 2) {
+        merge(MergeAction::copy);
+    } else if (const auto clip = currentClip()) {
+        onClose();
+        copyClip(clip);
+    }
+}
+
+} // namespace vellumry

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/PanelModelPrivate.h"
+#include "paste/Shortcut.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+namespace vellumry {
+
+qsizetype PanelModel::visibleIndex(const std::optional<QUuid>& id) const {
+    const ClipRef clip = id ? d->store.find(*id) : nullptr;
+    if (!clip)
+        return -1;
+    // The list holds the store's own references, so nothing need be looked at behind them.
+    const auto& clips = visibleClips();
+    const auto found = std::ranges::find(clips, clip);
+    return found == clips.end() ? -1 : found - clips.begin();
+}
+
+ClipRef PanelModel::currentClip() const {
+    const auto index = visibleIndex(d->selectedID);
+    return index < 0 ? nullptr : visibleClips()[std::size_t(index)];
+}
+
+std::vector<ClipRef> PanelModel::selectedClips() const {
+    std::vector<ClipRef> clips;
+    if (d->selectedIDs.size() < 2) {
+        if (auto clip = currentClip())
+            clips.push_back(std::move(clip));
+        return clips;
+    }
+    std::ranges::copy_if(visibleClips(), std::back_inserter(clips),
+                         [this](const ClipRef& clip) { return d->selectedIDs.contains(clip->id); });
+    return clips;
+}
+
+std::vector<ClipRef> inCopyOrder(std::vector<ClipRef> clips) {
+    std::ranges::stable_sort(clips, {},
+                             [](const ClipRef& clip) { return std::tuple(clip->lastUsedAt, clip->createdAt); });
+    return clips;
+}
+
+std::vector<ClipRef> PanelModel::selectedClipsInCopyOrder() const { return inCopyOrder(selectedClips()); }
+
+bool PanelModel::isSelected(const QUuid& id) const {
+    return d->selectedIDs.size() < 2 ? d->selectedID == id : d->selectedIDs.contains(id);
+}
+
+int PanelModel::selectedCount() const {
+    return d->selectedIDs.size() < 2 ? int(d->selectedID.has_value()) : int(d->selectedIDs.size());
+}
+
+int PanelModel::selectedIndex() const { return int(visibleIndex(d->selectedID)); }
+
+void PanelModel::setSelection(std::optional<QUuid> primary, QSet<QUuid> several, std::optional<QUuid> anchor) {
+    d->anchorID = anchor;
+    const bool isOther = primary != d->selectedID || several != d->selectedIDs;
+    d->selectedID = primary;
+    d->selectedIDs = std::move(several);
+    if (d->transformClipID && d->transformClipID != d->selectedID)
+        closeTransformList();
+    if (isOther)
+        Q_EMIT selectionChanged();
+}
+
+void PanelModel::select(std::optional<QUuid> id) { setSelection(id, {}, id); }
+
+void PanelModel::selectOnly(const QUuid& id) { select(id); }
+
+void PanelModel::resetSelection() {
+    closeTransformList();
+    const auto& clips = visibleClips();
+    select(clips.empty() ? std::nullopt : std::optional(clips.front()->id));
+}
+
+bool PanelModel::click(const QUuid& id, quint32 flags) {
+    if (flags & eventflag::command) {
+        toggleSelection(id);
+        return false;
+    }
+    if (flags & eventflag::shift) {
+        extendSelection(id);
+        return false;
+    }
+    if (d->selectedIDs.size() >= 2 && d->selectedIDs.contains(id)) {
+        // All of them may be dragged from here; the selection collapses once the button is released without a drag.
+        setSelection(id, d->selectedIDs, d->anchorID);
+        return true;
+    }
+    select(id);
+    return false;
+}
+
+void PanelModel::move(int offset) {
+    const auto& clips = visibleClips();
+    if (clips.empty())
+        return;
+    const auto index = std::clamp<qsizetype>(visibleIndex(d->selectedID) + offset, 0, qsizetype(clips.size()) - 1);
+    select(clips[std::size_t(index)]->id);
+}
+
+void PanelModel::extend(int delta) {
+    const auto& clips = visibleClips();
+    if (clips.empty())
+        return;
+    if (d->selectedIDs.size() < 2)
+        d->anchorID = d->selectedID;
+    const auto index = std::clamp<qsizetype>(visibleIndex(d->selectedID) + delta, 0, qsizetype(clips.size()) - 1);
+    extendSelection(clips[std::size_t(index)]->id);
+}
+
+void PanelModel::extendSelection(const QUuid& id) {
+    const auto anchor = d->anchorID ? d->anchorID : d->selectedID;
+    const auto from = visibleIndex(anchor);
+    const auto to = visibleIndex(id);
+    if (from < 0 || to < 0) {
+        select(id);
+        return;
+    }
+    QSet<QUuid> range;
+    for (auto index = std::min(from, to); index <= std::max(from, to); ++index)
+        range.insert(visibleClips()[std::size_t(index)]->id);
+    if (range.size() < 2)
+        range.clear();
+    setSelection(id, std::move(range), anchor);
+}
+
+void PanelModel::toggleSelection(const QUuid& id) {
+    auto working = d->selectedIDs;
+    auto primary = d->selectedID;
+    if (working.isEmpty() && primary)
+        working.insert(*primary);
+
+    if (!working.remove(id)) {
+        working.insert(id);
+        primary = id;
+    } else if (primary == id) {
+        const auto& clips = visibleClips();
+        const auto left =
+            std::ranges::find_if(clips, [&](const ClipRef& clip) { return working.contains(clip->id); });
+        primary = left == clips.end() ? std::nullopt : std::optional((*left)->id);
+    }
+    if (working.size() < 2) {
+        if (!working.isEmpty())
+            primary = *working.constBegin();
+        working.clear();
+    }
+    setSelection(primary, std::move(working), id);
+}
+
+void PanelModel::cycleFilter(int delta) {
+    const auto count = int(allClipFilters.size());
+    setFilterIndex((filterIndex() + delta + count) % count);
+}
+
+} // namespace vellumry
