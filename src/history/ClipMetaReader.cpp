@@ -37,9 +37,10 @@ public:
         m_objectCount = number(trailer + 8, 8);
         m_top = number(trailer + 16, 8);
         m_offsetTable = number(trailer + 24, 8);
-        m_end = trailer;
+        m_end = m_offsetTable;
+        m_budget = 8 * m_bytes.size();
         return m_offsetSize >= 1 && m_offsetSize <= 8 && m_referenceSize >= 1 && m_referenceSize <= 8 &&
-               m_offsetTable <= trailer && m_objectCount <= (trailer - m_offsetTable) / m_offsetSize;
+               m_offsetTable >= 8 && m_offsetTable <= trailer && m_objectCount <= (trailer - m_offsetTable) / m_offsetSize;
     }
 
     [[nodiscard]] std::optional<Object> top() const { return object(m_top); }
@@ -48,7 +49,7 @@ public:
         if (reference >= m_objectCount)
             return std::nullopt;
         const quint64 offset = number(m_offsetTable + reference * m_offsetSize, m_offsetSize);
-        if (offset >= m_offsetTable)
+        if (offset < 8 || offset >= m_offsetTable)
             return std::nullopt;
         const auto marker = static_cast<quint8>(m_bytes[static_cast<qsizetype>(offset)]);
         if (marker < 0x10)
@@ -64,10 +65,17 @@ public:
         return object(number(container.content + index * m_referenceSize, m_referenceSize));
     }
 
-    [[nodiscard]] QByteArrayView bytesOf(const Object& object) const {
+    /// The content of a string or data object. Objects may be referred to many times; a list that would unfold to far more
+    /// than its own size ends here, with empty content and `isOverdrawn`.
+    [[nodiscard]] QByteArrayView bytesOf(const Object& object) {
         const quint64 size = object.is(Marker::utf16) ? object.count * 2 : object.count;
+        m_budget -= static_cast<qint64>(size);
+        if (m_budget < 0)
+            return {};
         return m_bytes.sliced(static_cast<qsizetype>(object.content), static_cast<qsizetype>(size));
     }
+
+    [[nodiscard]] bool isOverdrawn() const { return m_budget < 0; }
 
 private:
     [[nodiscard]] quint64 number(quint64 position, unsigned size) const {
@@ -113,7 +121,8 @@ private:
     quint64 m_objectCount = 0;
     quint64 m_top = 0;
     quint64 m_offsetTable = 0;
-    quint64 m_end = 0;
+    quint64 m_end = 0; ///< where objects must have ended
+    qint64 m_budget = 0;
 };
 
 bool isAscii(QByteArrayView bytes) {
@@ -131,7 +140,7 @@ QString utf16(QByteArrayView bigEndian) {
 }
 
 /// A string object's text; nothing for anything else, and for bytes beyond ASCII where the marker promises ASCII.
-std::optional<QString> stringOf(const BinaryList& list, const Object& object, StringPool* pool = nullptr) {
+std::optional<QString> stringOf(BinaryList& list, const Object& object, StringPool* pool = nullptr) {
     const bool isUtf16 = object.is(Marker::utf16);
     if (!isUtf16 && !object.is(Marker::ascii))
         return std::nullopt;
@@ -143,15 +152,17 @@ std::optional<QString> stringOf(const BinaryList& list, const Object& object, St
     return pool ? pool->sharedAscii(bytes) : QString::fromLatin1(bytes);
 }
 
-std::optional<StoredText> storedTextOf(const BinaryList& list, const Object& object) {
-    if (object.is(Marker::ascii) && isAscii(list.bytesOf(object)))
-        return StoredText::fromUtf8(list.bytesOf(object).toByteArray());
-    if (object.is(Marker::utf16))
-        return StoredText(utf16(list.bytesOf(object)));
-    return std::nullopt;
+std::optional<StoredText> storedTextOf(BinaryList& list, const Object& object) {
+    const bool isUtf16 = object.is(Marker::utf16);
+    if (!isUtf16 && !object.is(Marker::ascii))
+        return std::nullopt;
+    const QByteArrayView bytes = list.bytesOf(object);
+    if (isUtf16)
+        return StoredText(utf16(bytes));
+    return isAscii(bytes) ? std::optional(StoredText::fromUtf8(bytes.toByteArray())) : std::nullopt;
 }
 
-std::optional<QByteArray> dataOf(const BinaryList& list, const Object& object) {
+std::optional<QByteArray> dataOf(BinaryList& list, const Object& object) {
     return object.is(Marker::data) ? std::optional(list.bytesOf(object).toByteArray()) : std::nullopt;
 }
 
@@ -172,7 +183,7 @@ bool fill(Field& field, Field value) {
 
 /// Calls `visit(key, value)` for each pair of a dictionary with ASCII keys; false as soon as that answers false.
 template <typename Visit>
-bool forEachPair(const BinaryList& list, const Object& dictionary, Visit visit) {
+bool forEachPair(BinaryList& list, const Object& dictionary, Visit visit) {
     for (quint64 i = 0; i < dictionary.count; ++i) {
         const auto key = list.element(dictionary, i);
         const auto value = list.element(dictionary, dictionary.count + i);
@@ -182,7 +193,7 @@ bool forEachPair(const BinaryList& list, const Object& dictionary, Visit visit) 
     return true;
 }
 
-std::optional<FileRef> fileOf(const BinaryList& list, const Object& object) {
+std::optional<FileRef> fileOf(BinaryList& list, const Object& object) {
     if (!object.is(Marker::dictionary))
         return std::nullopt;
     std::optional<QString> path;
@@ -195,12 +206,12 @@ std::optional<FileRef> fileOf(const BinaryList& list, const Object& object) {
             return fill(name, stringOf(list, value));
         return key == "bookmark" && fill(bookmark, dataOf(list, value));
     });
-    if (!isPlain || !path || !name)
+    if (!isPlain || !path || !name || list.isOverdrawn())
         return std::nullopt;
     return FileRef{*path, *name, bookmark};
 }
 
-std::optional<std::vector<FileRef>> filesOf(const BinaryList& list, const Object& object) {
+std::optional<std::vector<FileRef>> filesOf(BinaryList& list, const Object& object) {
     if (!object.is(Marker::array))
         return std::nullopt;
     std::vector<FileRef> files;
@@ -247,7 +258,7 @@ std::optional<ClipMeta> readPlainMeta(QByteArrayView bytes, StringPool* pool) {
             return fill(meta.thumbnail, dataOf(list, value));
         return key == "imageText" && fill(meta.imageText, stringOf(list, value));
     });
-    if (!isPlain || !title || !searchText || !files)
+    if (!isPlain || !title || !searchText || !files || list.isOverdrawn())
         return std::nullopt;
     meta.title = *std::move(title);
     meta.searchText = *std::move(searchText);

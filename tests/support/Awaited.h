@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCoreApplication>
+#include <QCoroTask>
+#include <QTimer>
+#include <exception>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <type_traits>
+
+namespace vellumry {
+
+namespace detail {
+
+template <typename Result>
+struct AwaitedOutcome {
+    std::optional<std::conditional_t<std::is_void_v<Result>, bool, Result>> value;
+    std::exception_ptr error;
+    [[nodiscard]] bool isDone() const { return value.has_value() || error; }
+};
+
+template <typename Result>
+QCoro::Task<void> watchTask(QCoro::Task<Result> task, std::shared_ptr<AwaitedOutcome<Result>> outcome) {
+    try {
+        if constexpr (std::is_void_v<Result>) {
+            co_await task;
+            outcome->value = true;
+        } else {
+            outcome->value.emplace(co_await task);
+        }
+    } catch (...) {
+        outcome->error = std::current_exception();
+    }
+}
+
+} // namespace detail
+
+/// Delivers the main thread's events until `isDone` holds. Throws when it does not within ten seconds: a test that hangs fails.
+template <typename Condition>
+void runUntil(Condition isDone) {
+    bool isLate = false;
+    QTimer deadline;
+    deadline.setSingleShot(true);
+    QObject::connect(&deadline, &QTimer::timeout, &deadline, [&] { isLate = true; });
+    deadline.start(10'000);
+    while (!isDone() && !isLate)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    if (!isDone())
+        throw std::runtime_error("Nothing happened for ten seconds.");
+}
+
+/// The task's result, or the exception that it ended with. The main thread's events are delivered meanwhile.
+template <typename Result>
+Result awaited(QCoro::Task<Result> task) {
+    const auto outcome = std::make_shared<detail::AwaitedOutcome<Result>>();
+    const auto watching = detail::watchTask(std::move(task), outcome);
+    runUntil([&] { return outcome->isDone(); });
+    if (outcome->error)
+        std::rethrow_exception(outcome->error);
+    if constexpr (!std::is_void_v<Result>)
+        return *std::move(outcome->value);
+}
+
+} // namespace vellumry

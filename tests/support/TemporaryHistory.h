@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "history/ClipDatabase.h"
+#include "history/ClipStore.h"
+#include "history/HistoryFile.h"
+#include "history/MemoryKeyStore.h"
+#include "support/Awaited.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace vellumry {
+
+/// A folder with a history of its own, and the key to it; both go with it. Needs `vellumry_history`.
+class TemporaryHistory {
+public:
+    [[nodiscard]] QString folder() const { return m_folder.path(); }
+    [[nodiscard]] QString path() const { return m_folder.filePath(historyfile::fileName); }
+    [[nodiscard]] MemoryKeyStore& keyStore() { return m_keyStore; }
+    [[nodiscard]] SymmetricKey key() { return *m_keyStore.load(); }
+
+    [[nodiscard]] OpenedHistory open() { return ClipDatabase::openHistory(folder(), m_keyStore); }
+    [[nodiscard]] std::unique_ptr<ClipStore> openStore(RetentionPolicy policy = {}) {
+        const OpenedHistory history = open();
+        return awaited(ClipStore::open(history.database, policy, history.recoveredFromDamage));
+    }
+
+    /// A connection beside the program's own, for looking into the file and for getting in its way.
+    [[nodiscard]] SQLiteDatabase connect() const { return {path(), SQLiteDatabase::Access::readWrite}; }
+    /// The names of what was put aside.
+    [[nodiscard]] QStringList backups() const {
+        return QDir(folder()).entryList({QStringLiteral("History-unreadable-*")}, QDir::Files, QDir::Name);
+    }
+
+private:
+    QTemporaryDir m_folder;
+    MemoryKeyStore m_keyStore;
+};
+
+} // namespace vellumry
