@@ -67,6 +67,7 @@ TEST_F(X11FrontmostApplicationTest, WindowsOfThisProcessNeverCount) {
     X11FrontmostApplication frontmost(connection, entries);
     XClient terminal;
     ASSERT_TRUE(terminal.open("xterm", "XTerm"));
+    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
     XClient settings;
     ASSERT_TRUE(settings.open("vellumry", "vellumry", long(QCoreApplication::applicationPid())));
     XClient editor;

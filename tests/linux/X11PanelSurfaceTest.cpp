@@ -88,7 +88,7 @@ TEST_F(X11PanelSurfaceTest, WhoTakesTheKeyboardKeepsIt) {
     EXPECT_EQ(lost.front(), &panel);
     surface.dismiss(&panel);
     EXPECT_TRUE(other.hasFocus());
-    EXPECT_EQ(focus->standing(), X11Focus::Standing::returned);
+    EXPECT_EQ(focus->standing(), X11Focus::Standing::away);
 }
 
 TEST_F(X11PanelSurfaceTest, AHotKeyUnderThePanelDoesNotCloseIt) {

@@ -55,13 +55,13 @@ void X11Focus::forget() {
 }
 
 void X11Focus::giveBack(XWindow ours) {
-    if (XWindowProperties::focusWindow(*m_connection) != ours) {
-        forget();
-        return;
-    }
     if (m_focus == 0)
         return;
     m_givenBack = m_clock();
+    // A window manager gives the keyboard to any window when the remembered one closes. What the user chose for that one
+    // must not be typed into another, so it stays remembered for its while.
+    if (XWindowProperties::focusWindow(*m_connection) != ours)
+        return;
     Display* display = m_connection->display();
     XErrorTrap trap(display);
     XSetInputFocus(display, m_focus, m_revertTo, CurrentTime);

@@ -27,8 +27,7 @@ public:
     /// Remembers the window that has the keyboard now, unless one is remembered already.
     void remember();
     /// Gives the keyboard back to the remembered window, if `ours` still has it; where that window is gone, asks the
-    /// window manager to activate the one that was active. Forgets it where the user gave the keyboard to somebody
-    /// else.
+    /// window manager to activate the one that was active. Who has it otherwise keeps it.
     void giveBack(XWindow ours);
     void forget();
 
