@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayList>
+#include <functional>
+#include <map>
+#include <optional>
+#include <utility>
+#include <vector>
+#include <xcb/xcb.h>
+
+namespace vellumry {
+
+/// A client of the X server that owns selections and asks for them, written against ICCCM alone so that it shares nothing with
+/// what it tests. It keeps the rules or breaks them as told. It works only inside `pump`.
+class HostileOwner {
+public:
+    enum class Manner {
+        whole,          ///< in one property
+        increments,     ///< INCR, `chunkBytes` at a time
+        refusal,        ///< no
+        silence,        ///< never answers
+        endless,        ///< INCR without an end
+        deathHalfWay,   ///< INCR, leaves the server after some chunks
+        silenceHalfWay, ///< INCR, stops after some chunks
+    };
+    struct Offer {
+        QByteArray target;
+        QByteArray bytes;
+        Manner manner = Manner::whole;
+        QByteArray type = {}; ///< empty: that of the target
+        int format = 8;
+        std::optional<quint32> announced = {}; ///< what INCR says; absent: the truth
+    };
+    struct Answer {
+        QByteArray type; ///< empty for a refusal
+        int format = 0;
+        QByteArray bytes;
+        bool wasIncremental = false;
+    };
+
+    explicit HostileOwner(const QByteArray& display);
+    ~HostileOwner();
+    HostileOwner(const HostileOwner&) = delete;
+    HostileOwner& operator=(const HostileOwner&) = delete;
+
+    [[nodiscard]] bool isConnected() const { return m_connection != nullptr; }
+    [[nodiscard]] int fileDescriptor() const { return xcb_get_file_descriptor(m_connection); }
+    [[nodiscard]] xcb_connection_t* handle() const { return m_connection; }
+    [[nodiscard]] xcb_window_t window() const { return m_window; }
+    [[nodiscard]] xcb_atom_t atom(const QByteArray& name);
+    [[nodiscard]] QByteArray atomName(xcb_atom_t atom);
+
+    /// Takes the selection with the server's time. True when it is ours afterwards.
+    bool own(const QByteArray& selection, std::vector<Offer> offers);
+    /// Gives the selection up on purpose.
+    void clear(const QByteArray& selection);
+    [[nodiscard]] bool owns(const QByteArray& selection);
+    [[nodiscard]] bool hasOwner(const QByteArray& selection);
+    /// Closes the connection, as a program that ends.
+    void leave();
+
+    /// Asks for one target; the answer arrives in `answers`, under the target.
+    void ask(const QByteArray& selection, const QByteArray& target);
+    /// Asks, then destroys the window that was to get the answer.
+    void askAndVanish(const QByteArray& selection, const QByteArray& target);
+    /// MULTIPLE for several targets; their answers arrive like those of `ask`.
+    void askForMany(const QByteArray& selection, const QByteArrayList& targets);
+    /// Asks, and never takes a chunk.
+    void askAndStall(const QByteArray& selection, const QByteArray& target);
+
+    /// Does what is due.
+    void pump();
+
+    std::map<QByteArray, Answer> answers;
+    QByteArrayList requests; ///< the targets that were asked of us, in order
+    std::optional<Manner> targetsManner;
+    std::optional<std::vector<quint32>> targetAtoms; ///< in place of the truth
+    qsizetype chunkBytes = 64 * 1024;
+    int chunksSent = 0;
+    bool lostClipboard = false;
+    std::function<void()> onRequest; ///< before a request is answered
+
+private:
+    using Destination = std::pair<xcb_window_t, xcb_atom_t>;
+    struct Outgoing {
+        Offer offer;
+        qsizetype offset = 0;
+        int chunks = 0;
+    };
+
+    void handleRequest(const xcb_selection_request_event_t& request);
+    bool answerRequest(const xcb_selection_request_event_t& request);
+    void sendChunk(Destination destination);
+    void handleNotify(const xcb_selection_notify_event_t& notify);
+    void handleProperty(const xcb_property_notify_event_t& change);
+    [[nodiscard]] Answer takeProperty(xcb_atom_t property);
+    [[nodiscard]] xcb_timestamp_t serverTime();
+    void set(Destination destination, xcb_atom_t type, int format, const QByteArray& bytes);
+    void handle(const xcb_generic_event_t& event);
+
+    xcb_connection_t* m_connection = nullptr;
+    xcb_window_t m_root = XCB_NONE;
+    xcb_window_t m_window = XCB_NONE;
+    std::map<xcb_atom_t, std::vector<Offer>> m_offers;
+    std::map<Destination, Outgoing> m_outgoing;
+    std::map<xcb_atom_t, std::pair<QByteArray, std::optional<Answer>>> m_incoming; ///< by property: target, increments
+    std::map<QByteArray, xcb_atom_t> m_atoms;
+    int m_asked = 0;
+};
+
+} // namespace vellumry

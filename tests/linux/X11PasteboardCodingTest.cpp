@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "foundation/UniformType.h"
+#include "linux/x11/FileList.h"
+#include "linux/x11/OfferedContents.h"
+#include "linux/x11/TargetCoding.h"
+
+#include <gtest/gtest.h>
+
+namespace vellumry {
+
+namespace {
+
+std::optional<QByteArray> text(const char16_t* target, const char16_t* propertyType, const QByteArray& bytes) {
+    return targetcoding::decode(uniformtype::utf8PlainText, QString::fromUtf16(target), QString::fromUtf16(propertyType),
+                                bytes);
+}
+
+TEST(TargetCoding, OneNulAtTheEndOfTextIsNotContent) {
+    EXPECT_EQ(text(u"UTF8_STRING", u"UTF8_STRING", QByteArray("a\0\0", 3)), QByteArray("a\0", 2));
+    EXPECT_EQ(text(u"STRING", u"STRING", QByteArray("\xe9\0", 2)), "\xc3\xa9");
+}
+
+TEST(TargetCoding, PlainTextIsUtf8WhereItCanBe) {
+    EXPECT_EQ(text(u"text/plain", u"text/plain", "\xc3\xa9"), "\xc3\xa9");
+    EXPECT_EQ(text(u"text/plain", u"text/plain", "\xe9"), "\xc3\xa9");
+}
+
+TEST(TargetCoding, CompoundTextIsUnderstoodWithoutEscapeSequences) {
+    EXPECT_EQ(text(u"COMPOUND_TEXT", u"COMPOUND_TEXT", "caf\xe9"), "caf\xc3\xa9");
+    EXPECT_EQ(text(u"COMPOUND_TEXT", u"COMPOUND_TEXT", "\x1b%G\xe2\x82\xac"), std::nullopt);
+}
+
+TEST(TargetCoding, OtherBytesStayAsTheyAre) {
+    const QByteArray bytes("\xff\xfe<\0\0", 5);
+    EXPECT_EQ(targetcoding::decode(uniformtype::html, QStringLiteral("text/html"), QStringLiteral("text/html"), bytes),
+              bytes);
+}
+
+TEST(FileList, ReadsFilesAndLeavesOutTheRest) {
+    const auto entries = filelist::parse("# comment\r\nfile:///a\r\n\r\nfile://far.example/b\r\nfile:///bad%zz\r\n"
+                                         "ftp://x/y\r\nfile:///caf%E9\r\nhttps://one/\r\nhttp://two/\r\n");
+    EXPECT_EQ(entries.files, (QByteArrayList{"file:///a", "file:///caf%E9"}));
+    EXPECT_EQ(entries.webAddress, "https://one/");
+}
+
+TEST(FileList, ReadsTheDesktopsOwnList) {
+    EXPECT_EQ(filelist::parse(QByteArray("cut\nfile:///a\nfile:///b\0", 24)).files,
+              (QByteArrayList{"file:///a", "file:///b"}));
+    EXPECT_EQ(filelist::parse("").files, QByteArrayList());
+    EXPECT_EQ(filelist::parse(QByteArray(100000, '\n')).files, QByteArrayList());
+}
+
+TEST(FileList, WritesTheOperationOfTheOriginal) {
+    EXPECT_EQ(filelist::asCopiedFiles({"file:///a"}, {}), "copy\nfile:///a");
+    EXPECT_EQ(filelist::asCopiedFiles({"file:///a"}, "cut\nfile:///other"), "cut\nfile:///a");
+    EXPECT_EQ(filelist::asCopiedFiles({"file:///a"}, "cutter"), "copy\nfile:///a");
+}
+
+TEST(OfferedContents, TextsOfSeveralItemsBecomeLines) {
+    const PasteboardItem one{{{uniformtype::utf8PlainText, "one"}}, std::nullopt};
+    const PasteboardItem two{{{uniformtype::utf8PlainText, "two"}}, std::nullopt};
+    const auto contents = OfferedContents::of({one, two});
+    EXPECT_EQ(contents->data(QStringLiteral("UTF8_STRING")), "one\ntwo");
+    EXPECT_EQ(contents->items().size(), 2U);
+}
+
+TEST(OfferedContents, AWebAddressIsOfferedAsAListToo) {
+    const auto contents = OfferedContents::of({PasteboardItem{{{uniformtype::url, "https://one/"}}, std::nullopt}});
+    EXPECT_EQ(contents->data(QStringLiteral("text/uri-list")), "https://one/\r\n");
+}
+
+TEST(OfferedContents, TypesFollowTheOrderThatIsKnown) {
+    const PasteboardItem item{{{uniformtype::html, "h"}, {uniformtype::png, "p"}, {uniformtype::rtf, "r"}},
+                              QStringList{uniformtype::rtf, uniformtype::pdf, uniformtype::html}};
+    EXPECT_EQ(OfferedContents::typesOf(item), (QStringList{uniformtype::rtf, uniformtype::html, uniformtype::png}));
+}
+
+TEST(OfferedContents, BytesAreSharedNotCopied) {
+    const QByteArray bytes(1000, 'x');
+    const auto contents = OfferedContents::of({PasteboardItem{{{uniformtype::png, bytes}}, std::nullopt}});
+    EXPECT_EQ(contents->data(QStringLiteral("image/png"))->constData(), bytes.constData());
+}
+
+} // namespace
+
+} // namespace vellumry

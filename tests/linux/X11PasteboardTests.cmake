@@ -1,0 +1,14 @@
+pkg_check_modules(X11_PASTEBOARD_TESTS REQUIRED IMPORTED_TARGET xcb)
+
+vellumry_test(
+  vellumry_x11_tests
+  SOURCES
+    HostileOwner.cpp
+    HostileOwner.h
+    HostileOwnerTest.cpp
+    X11PasteboardCodingTest.cpp
+    X11PasteboardReadTest.cpp
+    X11PasteboardWorld.cpp
+    X11PasteboardWorld.h
+    X11PasteboardWriteTest.cpp
+  LINKS vellumry_linux PkgConfig::X11_PASTEBOARD_TESTS)
