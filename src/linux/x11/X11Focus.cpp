@@ -58,8 +58,8 @@ void X11Focus::giveBack(XWindow ours) {
     if (m_focus == 0)
         return;
     m_givenBack = m_clock();
-    // A window manager gives the keyboard to any window when the remembered one closes. What the user chose for that one
-    // must not be typed into another, so it stays remembered for its while.
+    // A window manager gives the keyboard to any window when the remembered one closes. What the user chose for that
+    // one must not be typed into another, so it stays remembered for its while.
     if (XWindowProperties::focusWindow(*m_connection) != ours)
         return;
     Display* display = m_connection->display();
