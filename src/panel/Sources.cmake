@@ -18,6 +18,7 @@ qt_add_qml_module(
   URI Vellumry.Panel
   VERSION 1.0
   RESOURCE_PREFIX /vellumry
+  OUTPUT_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/Vellumry/Panel
   NO_PLUGIN
   QML_FILES
     ClipList.qml
@@ -67,3 +68,5 @@ qt_add_resources(
     symbols/trash.fill.svg
     symbols/xmark.circle.fill.svg
     symbols/xmark.svg)
+# The code that Qt generates from QML shadows its own parameters.
+target_compile_options(vellumry_panel PRIVATE -Wno-shadow)

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/LinuxPlatform.h"
+
+#include "linux/desktop/DBusSingleInstance.h"
+#include "linux/desktop/DesktopEntries.h"
+#include "linux/desktop/KeychainKeyStore.h"
+#include "linux/desktop/PosixFileBookmarks.h"
+#include "linux/desktop/ReaderImageCodec.h"
+#include "linux/x11/X11Focus.h"
+#include "linux/x11/X11FrontmostApplication.h"
+#include "linux/x11/X11HotKeys.h"
+#include "linux/x11/X11KeyboardLayout.h"
+#include "linux/x11/X11PanelSurface.h"
+#include "linux/x11/X11PasteTarget.h"
+#include "linux/x11/X11Pasteboard.h"
+#include "linux/x11/XlibConnection.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+namespace vellumry {
+
+namespace {
+
+/// One connection for keys, focus and windows; the pasteboard has its own, with its own thread.
+bool addDisplay(Platform& platform) {
+    auto pasteboard = X11Pasteboard::create(qgetenv("DISPLAY"));
+    const std::shared_ptr<XlibConnection> connection = XlibConnection::create();
+    if (!pasteboard || !connection)
+        return false;
+    const auto focus = std::make_shared<X11Focus>(connection);
+    X11PasteTarget::Options options;
+    options.offerAsPrimary = [board = pasteboard.get()] { return board->offerAsPrimary(); };
+    options.terminalApps = [defaults = platform.defaults.get()] {
+        return defaults->stringArray(QStringLiteral("terminalApps")).value_or(QStringList());
+    };
+    platform.pasteboard = std::move(pasteboard);
+    platform.frontmost = std::make_unique<X11FrontmostApplication>(connection, std::make_shared<DesktopEntries>());
+    platform.hotKeys = std::make_unique<X11HotKeys>(connection);
+    platform.keyboard = std::make_unique<X11KeyboardLayout>(connection);
+    platform.pasteTarget = std::make_unique<X11PasteTarget>(connection, focus, std::move(options));
+    platform.panelSurface = std::make_unique<X11PanelSurface>(connection, focus);
+    return true;
+}
+
+} // namespace
+
+std::optional<Platform> makeLinuxPlatform() {
+    Platform platform;
+    platform.home = QDir::homePath();
+    platform.dataHome = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    const QString settings = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    platform.defaults = std::make_unique<UserDefaults>(settings + QStringLiteral("/Vellumry/Vellumry.conf"));
+    if (!addDisplay(platform))
+        return std::nullopt;
+    platform.singleInstance = std::make_unique<DBusSingleInstance>();
+    platform.keyStore = std::make_unique<KeychainKeyStore>();
+    platform.images =
+        std::make_unique<ReaderImageCodec>(QCoreApplication::applicationDirPath() + QStringLiteral("/vellumry-reader"));
+    platform.bookmarks = std::make_unique<PosixFileBookmarks>();
+    return platform;
+}
+
+} // namespace vellumry

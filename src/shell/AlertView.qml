@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick
+
+// A title, a sentence or two, one button.
+Rectangle {
+    id: root
+
+    required property string title
+    required property string message
+    required property string button
+    signal answered
+
+    readonly property bool dark: systemColours.window.hslLightness < 0.5
+
+    width: 440
+    height: column.implicitHeight + 48
+    color: dark ? "#26272b" : "#fbfbfc"
+
+    SystemPalette {
+        id: systemColours
+    }
+
+    Column {
+        id: column
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: parent.top
+            margins: 24
+        }
+        spacing: 10
+
+        Text {
+            width: parent.width
+            text: root.title
+            color: root.dark ? "#f2f2f4" : "#1c1c1f"
+            font.pixelSize: 17
+            font.weight: Font.DemiBold
+            wrapMode: Text.WordWrap
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+        Text {
+            width: parent.width
+            text: root.message
+            color: root.dark ? "#c6c7cc" : "#4a4b50"
+            font.pixelSize: 14
+            lineHeight: 1.25
+            wrapMode: Text.WordWrap
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+        Item {
+            width: parent.width
+            height: 44
+
+            Rectangle {
+                id: key
+                anchors {
+                    right: parent.right
+                    bottom: parent.bottom
+                }
+                width: Math.max(96, label.implicitWidth + 40)
+                height: 34
+                radius: 8
+                color: area.containsPress ? "#1f5fd0" : "#2a6fe8"
+                focus: true
+                Accessible.role: Accessible.Button
+                Accessible.name: root.button
+                Accessible.onPressAction: root.answered()
+                Keys.onReturnPressed: root.answered()
+                Keys.onEnterPressed: root.answered()
+                Keys.onSpacePressed: root.answered()
+                Keys.onEscapePressed: root.answered()
+
+                Text {
+                    id: label
+                    anchors.centerIn: parent
+                    text: root.button
+                    color: "white"
+                    font.pixelSize: 14
+                    font.weight: Font.Medium
+                }
+                MouseArea {
+                    id: area
+                    anchors.fill: parent
+                    onClicked: root.answered()
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/AlertWindow.h"
+
+#include "foundation/Localisation.h"
+
+#include <QEvent>
+#include <QQuickItem>
+#include <QQuickView>
+
+namespace vellumry {
+
+AlertWindow::AlertWindow(const StartupAlert& alert) : m_view(std::make_unique<QQuickView>()) {
+    m_view->setTitle(QStringLiteral("Vellumry"));
+    m_view->setResizeMode(QQuickView::SizeViewToRootObject);
+    m_view->setInitialProperties({{QStringLiteral("title"), alert.title},
+                                  {QStringLiteral("message"), alert.text},
+                                  {QStringLiteral("button"), localised("OK")}});
+    m_view->setSource(QUrl(QStringLiteral("qrc:/vellumry/shell/AlertView.qml")));
+    m_view->installEventFilter(this);
+    if (QQuickItem* root = m_view->rootObject())
+        connect(root, SIGNAL(answered()), m_view.get(), SLOT(close()));
+}
+
+AlertWindow::~AlertWindow() = default;
+
+void AlertWindow::show() {
+    const QSize size = m_view->size();
+    m_view->setFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    m_view->setMinimumSize(size);
+    m_view->setMaximumSize(size);
+    m_view->show();
+    m_view->raise();
+    m_view->requestActivate();
+}
+
+bool AlertWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_view.get() && event->type() == QEvent::Close)
+        finish();
+    return QObject::eventFilter(watched, event);
+}
+
+void AlertWindow::finish() {
+    if (onDone)
+        onDone();
+}
+
+} // namespace vellumry

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/Platform.h"
+
+#include <QCoroTask>
+#include <QObject>
+#include <functional>
+#include <memory>
+
+namespace vellumry {
+
+class AppEnvironment;
+
+/// Receives what the system tells the program about its life: launch, a second start, an action asked from outside, the end.
+/// Main thread.
+class AppDelegate : public QObject {
+    Q_OBJECT
+
+public:
+    explicit AppDelegate(Platform platform);
+    ~AppDelegate() override;
+
+    /// False when another copy runs in this session: then nothing was built and the process is to end. Otherwise the
+    /// environment comes up in the background.
+    [[nodiscard]] bool applicationDidFinishLaunching();
+    /// The process is about to end.
+    void applicationShouldTerminate();
+
+    /// Called once, when the environment is up and the clipboard is watched.
+    std::function<void()> onStarted;
+
+    /// Null until the launch has finished.
+    [[nodiscard]] AppEnvironment* environment() const { return m_environment.get(); }
+
+private:
+    QCoro::Task<void> launch();
+    void reopen();
+    void perform(const QString& action);
+
+    Platform m_platform;
+    std::unique_ptr<AppEnvironment> m_environment;
+};
+
+} // namespace vellumry

@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/AppEnvironment.h"
+
+#include "capture/FileAccess.h"
+#include "capture/FilePlaces.h"
+#include "capture/FileStatus.h"
+#include "foundation/Localisation.h"
+#include "foundation/SerialExecutor.h"
+#include "history/ClipDatabase.h"
+#include "paste/PasteboardWriter.h"
+#include "shell/AlertWindow.h"
+#include "shell/HistoryFolder.h"
+#include "shell/StartupAlert.h"
+
+#include <QLocale>
+#include <QPointer>
+#include <chrono>
+
+namespace vellumry {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto maintenanceInterval = 15s;
+constexpr auto warmUpDelay = 1500ms;
+constexpr double lowDiskSilence = 3600.0;
+
+PanelController::Appearance panelAppearance(Preferences::Appearance appearance) {
+    switch (appearance) {
+    case Preferences::Appearance::light:
+        return PanelController::Appearance::light;
+    case Preferences::Appearance::dark:
+        return PanelController::Appearance::dark;
+    case Preferences::Appearance::system:
+        break;
+    }
+    return PanelController::Appearance::system;
+}
+
+QString imageVolume(const Platform& platform) {
+    try {
+        return historyFolder(platform.dataHome);
+    } catch (const std::exception&) {
+        return platform.home;
+    }
+}
+
+} // namespace
+
+QCoro::Task<std::unique_ptr<AppEnvironment>> AppEnvironment::launch(Platform& platform) {
+    auto preferences = std::make_unique<Preferences>(*platform.defaults);
+    const RetentionPolicy policy = preferences->retentionPolicy();
+    std::unique_ptr<ClipStore> store;
+    {
+        // The keyring and the check of the file may take their time; the event loop goes on meanwhile.
+        SerialExecutor opener("Opening");
+        const auto open = [&platform] {
+            return ClipDatabase::openHistory(historyFolder(platform.dataHome), *platform.keyStore);
+        };
+        try {
+            auto opening = opener.run(open);
+            auto opened = co_await opening;
+            auto loading = ClipStore::open(std::move(opened.database), policy, opened.recoveredFromDamage);
+            store = co_await loading;
+        } catch (const std::exception&) {
+            // Whatever it was, the program runs on in memory and says so at the end of `start`.
+            store.reset();
+        }
+    }
+    const bool isMemoryOnly = store == nullptr;
+    if (isMemoryOnly)
+        store = std::make_unique<ClipStore>(policy);
+    co_return std::unique_ptr<AppEnvironment>(
+        new AppEnvironment(platform, std::move(preferences), std::move(store), isMemoryOnly));
+}
+
+AppEnvironment::AppEnvironment(Platform& platform, std::unique_ptr<Preferences> preferences,
+                               std::unique_ptr<ClipStore> store, bool isMemoryOnly)
+    : m_platform(&platform), m_preferences(std::move(preferences)), m_store(std::move(store)),
+      m_imageVolume(imageVolume(platform)), m_isMemoryOnly(isMemoryOnly) {
+    FrontmostApplication* frontmost = platform.frontmost.get();
+    m_watcher = std::make_unique<ClipboardWatcher>(
+        *platform.pasteboard, *m_store, *platform.defaults, *platform.bookmarks, *platform.images,
+        [frontmost] { return frontmost->current(); });
+    m_paster = std::make_unique<PasteEngine>(*m_store, *platform.defaults, systemHooks());
+    m_hotKeyCenter = std::make_unique<HotKeyCenter>(*platform.hotKeys);
+    m_toast = std::make_unique<ToastController>(*platform.panelSurface);
+    m_panel = std::make_unique<PanelController>(*m_store, *m_paster, *platform.panelSurface, panelHooks());
+    wire();
+}
+
+AppEnvironment::~AppEnvironment() { m_platform->pasteboard->onOwnerGone = nullptr; }
+
+SystemHooks AppEnvironment::systemHooks() {
+    PasteTarget* target = m_platform->pasteTarget.get();
+    const FileBookmarks* bookmarks = m_platform->bookmarks.get();
+    SystemHooks hooks = SystemHooks::of(*m_platform->pasteboard, *target);
+    const FilePlaces places = FilePlaces::ofUser(m_platform->home);
+    hooks.fileStatus = [bookmarks, places](const FileRef& file) { return FileStatus::check(file, *bookmarks, places); };
+    hooks.checkFileAccess = [places](QStringList paths) { return FileAccess::check(std::move(paths), places); };
+    return hooks;
+}
+
+PanelController::Hooks AppEnvironment::panelHooks() {
+    PanelController::Hooks hooks;
+    hooks.position = [this](const QString& display) { return m_preferences->panelPosition(display); };
+    hooks.setPosition = [this](std::optional<placement::Fractions> position, const QString& display) {
+        m_preferences->setPanelPosition(position, display);
+    };
+    hooks.openPanelKeys = [this] {
+        return m_preferences->shortcut(QStringLiteral("openPanelShortcut"))
+            .value_or(Shortcut::openPanelDefault())
+            .display(*m_platform->keyboard);
+    };
+    hooks.showToast = [this](const ToastMessage& message) { showToast(message); };
+    return hooks;
+}
+
+void AppEnvironment::wire() {
+    wireCapture();
+    ShortcutRegistrations::Actions actions;
+    actions.togglePanel = [this] { togglePanel(); };
+    actions.pastePinned = [this](int number) { m_panel->model().pastePinned(number); };
+    m_shortcuts = std::make_unique<ShortcutRegistrations>(*m_platform->defaults, *m_hotKeyCenter, *m_platform->keyboard,
+                                                          std::move(actions));
+    m_store->setAutoExpire(true);
+    m_maintenance.setInterval(maintenanceInterval);
+    m_maintenance.setTimerType(Qt::VeryCoarseTimer);
+    connect(&m_maintenance, &QTimer::timeout, this, &AppEnvironment::runMaintenance);
+}
+
+void AppEnvironment::wireCapture() {
+    m_watcher->hasRoomForImages = [folder = m_imageVolume] { return hasRoomForImages(folder); };
+    m_watcher->onLowDisk = [this] { showLowDiskToast(); };
+    m_watcher->onIgnoredCopy = [this] {
+        showToast({QStringLiteral("eye.slash.fill"), localised("Skipped. That copy wasn't saved"), ToastMessage::Tone::success});
+    };
+    m_watcher->onStored = [this](const ClipRef& clip, qint64 changeCount) { m_captured = Captured{changeCount, clip->id}; };
+    m_platform->pasteboard->onOwnerGone = [this](qint64 changeCount) {
+        if (m_captured && m_captured->changeCount == changeCount)
+            takeOver(m_captured->clip);
+    };
+}
+
+/// What was captured outlives the application it was copied in. The marker on our write keeps it from becoming a new clip.
+QCoro::Task<void> AppEnvironment::takeOver(QUuid clip) {
+    const QPointer<AppEnvironment> self(this);
+    const qint64 changeCount = m_platform->pasteboard->changeCount();
+    auto loading = m_store->payload(clip);
+    const std::optional<ClipPayload> payload = co_await loading;
+    if (self && payload && m_platform->pasteboard->changeCount() == changeCount)
+        (void)PasteboardWriter::write(payload->items, false, *m_platform->pasteboard);
+}
+
+void AppEnvironment::start() {
+    m_panel->setAppearance(panelAppearance(m_preferences->appearance()));
+    m_watcher->start();
+    (void)reloadShortcuts();
+    startMaintenance();
+    m_store->enforceRetention(currentDate());
+    showStartupAlert();
+    QTimer::singleShot(warmUpDelay, this, [this] { m_panel->warmUp(); });
+}
+
+void AppEnvironment::openPanel() { m_panel->show(); }
+
+void AppEnvironment::togglePanel() { m_panel->toggle(); }
+
+void AppEnvironment::showToast(const ToastMessage& message) {
+    m_toast->show(message, ToastController::usualSeconds, m_platform->panelSurface->screenUnderPointer());
+}
+
+QStringList AppEnvironment::reloadShortcuts() {
+    const QStringList problems = m_shortcuts->reload();
+    m_panel->model().setAvailablePinnedNumbers(m_shortcuts->availablePinnedNumbers());
+    return problems;
+}
+
+void AppEnvironment::suspendShortcuts(bool isSuspended) {
+    if (isSuspended)
+        m_shortcuts->suspend();
+    else
+        (void)reloadShortcuts();
+}
+
+QString AppEnvironment::historySize() const {
+    try {
+        return QLocale().formattedDataSize(historyBytes(historyFolder(m_platform->dataHome)), 1, QLocale::DataSizeSIFormat);
+    } catch (const std::exception&) {
+        return QString();
+    }
+}
+
+void AppEnvironment::startMaintenance() { m_maintenance.start(); }
+
+void AppEnvironment::runMaintenance() {
+    m_store->setPolicy(m_preferences->retentionPolicy());
+    m_store->enforceRetention(currentDate());
+}
+
+void AppEnvironment::showStartupAlert() {
+    const std::optional<StartupAlert> alert = startupAlert(m_isMemoryOnly, m_store->recoveredFromDamage());
+    if (!alert)
+        return;
+    if (!m_isMemoryOnly)
+        m_store->setRecoveredFromDamage(false);
+    m_alert = std::make_unique<AlertWindow>(*alert);
+    m_alert->onDone = [this] { m_alert.release()->deleteLater(); };
+    m_alert->show();
+}
+
+void AppEnvironment::showLowDiskToast() {
+    const Date now = currentDate();
+    if (m_lastLowDiskWarning && now - *m_lastLowDiskWarning < lowDiskSilence)
+        return;
+    m_lastLowDiskWarning = now;
+    showToast({QStringLiteral("externaldrive.badge.exclamationmark"),
+               localised("Your Mac is almost full. Vellumry saves text only for now"), ToastMessage::Tone::warning});
+}
+
+} // namespace vellumry

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "capture/ClipboardWatcher.h"
+#include "history/ClipStore.h"
+#include "panel/PanelController.h"
+#include "paste/HotKeyCenter.h"
+#include "paste/PasteEngine.h"
+#include "paste/ShortcutRegistrations.h"
+#include "shell/Platform.h"
+#include "shell/Preferences.h"
+#include "shell/ToastController.h"
+
+#include <QCoroTask>
+#include <QObject>
+#include <QTimer>
+#include <memory>
+
+namespace vellumry {
+
+class AlertWindow;
+
+/// The composition root: makes every long-lived object once, joins them with closures, starts them in a fixed order and runs the
+/// maintenance timer. Lives as long as the process. Main thread.
+class AppEnvironment : public QObject {
+    Q_OBJECT
+
+public:
+    /// Opens the history and builds the environment around it. Never fails: a folder, keyring or file that cannot be used ends in
+    /// memory-only mode. `platform` must outlive the result.
+    [[nodiscard]] static QCoro::Task<std::unique_ptr<AppEnvironment>> launch(Platform& platform);
+    ~AppEnvironment() override;
+
+    /// Brings everything to life. Once.
+    void start();
+
+    void openPanel();
+    void togglePanel();
+    void showToast(const ToastMessage& message);
+    /// Registers the global shortcuts anew; one sentence for each that another program holds.
+    QStringList reloadShortcuts();
+    void suspendShortcuts(bool isSuspended);
+    /// Bytes of the history on disk, in the user's units; empty when the folder cannot be had.
+    [[nodiscard]] QString historySize() const;
+
+    [[nodiscard]] bool isMemoryOnly() const { return m_isMemoryOnly; }
+    [[nodiscard]] bool isQuitting() const { return m_isQuitting; }
+    void setQuitting() { m_isQuitting = true; }
+
+    [[nodiscard]] ClipStore& store() { return *m_store; }
+    [[nodiscard]] PanelController& panel() { return *m_panel; }
+
+private:
+    AppEnvironment(Platform& platform, std::unique_ptr<Preferences> preferences, std::unique_ptr<ClipStore> store,
+                   bool isMemoryOnly);
+
+    [[nodiscard]] SystemHooks systemHooks();
+    [[nodiscard]] PanelController::Hooks panelHooks();
+    void wire();
+    void wireCapture();
+    void startMaintenance();
+    void runMaintenance();
+    void showStartupAlert();
+    void showLowDiskToast();
+    QCoro::Task<void> takeOver(QUuid clip);
+
+    /// The copy that the pasteboard's present owner made and the history took.
+    struct Captured {
+        qint64 changeCount = 0;
+        QUuid clip;
+    };
+
+    Platform* m_platform;
+    std::unique_ptr<Preferences> m_preferences;
+    std::unique_ptr<ClipStore> m_store;
+    std::unique_ptr<ClipboardWatcher> m_watcher;
+    std::unique_ptr<PasteEngine> m_paster;
+    std::unique_ptr<HotKeyCenter> m_hotKeyCenter;
+    std::unique_ptr<ToastController> m_toast;
+    std::unique_ptr<PanelController> m_panel;
+    std::unique_ptr<ShortcutRegistrations> m_shortcuts;
+    std::unique_ptr<AlertWindow> m_alert;
+    QTimer m_maintenance;
+    QString m_imageVolume;
+    std::optional<Captured> m_captured;
+    std::optional<Date> m_lastLowDiskWarning;
+    bool m_isMemoryOnly;
+    bool m_isQuitting = false;
+};
+
+} // namespace vellumry

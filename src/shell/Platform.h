@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "foundation/UserDefaults.h"
+#include "platform/FileBookmarks.h"
+#include "platform/SourceApp.h"
+#include "platform/HotKeyRegistrar.h"
+#include "platform/ImageCodec.h"
+#include "platform/KeyStore.h"
+#include "platform/KeyboardLayout.h"
+#include "platform/PanelSurface.h"
+#include "platform/PasteTarget.h"
+#include "platform/Pasteboard.h"
+#include "platform/SingleInstance.h"
+
+#include <QString>
+#include <memory>
+
+namespace vellumry {
+
+/// Everything the program needs of the system, one implementation a seam, chosen by the entry point. All are present; where the
+/// system lacks a capability, its stand-in says so by its answers. Outlives the environment. Main thread.
+struct Platform {
+    std::unique_ptr<SingleInstance> singleInstance;
+    std::unique_ptr<UserDefaults> defaults;
+    std::unique_ptr<KeyStore> keyStore;
+    std::unique_ptr<Pasteboard> pasteboard;
+    std::unique_ptr<FrontmostApplication> frontmost;
+    std::unique_ptr<HotKeyRegistrar> hotKeys;
+    std::unique_ptr<KeyboardLayout> keyboard;
+    std::unique_ptr<PasteTarget> pasteTarget;
+    std::unique_ptr<PanelSurface> panelSurface;
+    std::unique_ptr<ImageCodec> images;
+    std::unique_ptr<FileBookmarks> bookmarks;
+    /// The folder that holds the application's own folder: $XDG_DATA_HOME.
+    QString dataHome;
+    /// The user's home folder.
+    QString home;
+};
+
+} // namespace vellumry

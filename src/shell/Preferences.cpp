@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/Preferences.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vellumry {
+
+namespace {
+
+const QString panelPositionsKey = QStringLiteral("panelPositions");
+
+QVariantMap registeredDefaults() {
+    const QStringList secretStores{
+        QStringLiteral("com.1password.1password"),
+        QStringLiteral("com.agilebits.onepassword7"),
+        QStringLiteral("com.bitwarden.desktop"),
+        QStringLiteral("com.apple.keychainaccess"),
+        QStringLiteral("com.apple.Passwords"),
+        QStringLiteral("com.lastpass.lastpassmacdesktop"),
+        QStringLiteral("com.dashlane.dashlanephonefinal"),
+        QStringLiteral("in.sinew.Enpass-Desktop"),
+        QStringLiteral("org.keepassxc.keepassxc"),
+    };
+    return {
+        {QStringLiteral("recentInMenu"), 10},
+        {QStringLiteral("keepForDays"), 0},
+        {QStringLiteral("keepAtMost"), 5000},
+        {QStringLiteral("mediaLimitMB"), 1024},
+        {QStringLiteral("sensitiveSeconds"), 60},
+        {QStringLiteral("ignoredApps"), secretStores},
+        {QStringLiteral("pasteDirectly"), true},
+        {QStringLiteral("plainTextByDefault"), false},
+        {QStringLiteral("saveNewScreenshots"), false},
+        {QStringLiteral("onboardingDone"), false},
+        {QStringLiteral("pinnedShortcutsEnabled"), true},
+        {QStringLiteral("soundWhenPasting"), false},
+        {QStringLiteral("appearance"), QStringLiteral("system")},
+    };
+}
+
+std::optional<Preferences::PanelPosition> positionFrom(const QVariant& entry) {
+    const QVariantList numbers = entry.toList();
+    if (numbers.size() != 2)
+        return std::nullopt;
+    double values[2];
+    for (int index = 0; index < 2; ++index) {
+        bool isNumber = false;
+        values[index] = numbers[index].toDouble(&isNumber);
+        if (!isNumber || !std::isfinite(values[index]) || values[index] < 0.0 || values[index] > 1.0)
+            return std::nullopt;
+    }
+    return Preferences::PanelPosition{values[0], values[1]};
+}
+
+} // namespace
+
+Preferences::Preferences(UserDefaults& defaults) : m_defaults(&defaults) {
+    m_defaults->registerDefaults(registeredDefaults());
+}
+
+RetentionPolicy Preferences::retentionPolicy() const {
+    RetentionPolicy policy;
+    const qint64 days = m_defaults->integer(QStringLiteral("keepForDays"));
+    if (days >= 1)
+        policy.maxAge = static_cast<double>(days) * 86'400.0;
+    policy.maxCount = std::max<qint64>(1, m_defaults->integer(QStringLiteral("keepAtMost")));
+    policy.maxMediaBytes = std::max<qint64>(1, m_defaults->integer(QStringLiteral("mediaLimitMB"))) * 1'048'576;
+    return policy;
+}
+
+Preferences::Appearance Preferences::appearance() const {
+    const QString stored = m_defaults->string(QStringLiteral("appearance")).value_or(QString());
+    if (stored == QLatin1String("light"))
+        return Appearance::light;
+    if (stored == QLatin1String("dark"))
+        return Appearance::dark;
+    return Appearance::system;
+}
+
+void Preferences::setIgnoredApps(const QStringList& identifiers) {
+    m_defaults->setObject(QStringLiteral("ignoredApps"), identifiers);
+}
+
+std::optional<Shortcut> Preferences::shortcut(const QString& key) const {
+    return Shortcut::fromStored(m_defaults->object(key));
+}
+
+void Preferences::setShortcut(const Shortcut& shortcut, const Shortcut& fallback, const QString& key) {
+    if (shortcut == fallback)
+        m_defaults->removeObject(key);
+    else
+        m_defaults->setObject(key, shortcut.toJson());
+}
+
+std::optional<Preferences::PanelPosition> Preferences::panelPosition(const QString& key) const {
+    return positionFrom(m_defaults->object(panelPositionsKey).toMap().value(key));
+}
+
+void Preferences::setPanelPosition(std::optional<PanelPosition> position, const QString& key) {
+    QVariantMap positions = m_defaults->object(panelPositionsKey).toMap();
+    if (position)
+        positions.insert(key, QVariantList{position->first, position->second});
+    else
+        positions.remove(key);
+    if (positions.isEmpty())
+        m_defaults->removeObject(panelPositionsKey);
+    else
+        m_defaults->setObject(panelPositionsKey, positions);
+}
+
+void Preferences::resetPanelPositions() { m_defaults->removeObject(panelPositionsKey); }
+
+} // namespace vellumry

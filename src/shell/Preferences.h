@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "foundation/UserDefaults.h"
+#include "history/RetentionPolicy.h"
+#include "paste/Shortcut.h"
+
+#include <optional>
+#include <utility>
+
+namespace vellumry {
+
+/// The user's settings: the one place where their keys and defaults stand. Keeps no value itself; every read goes to the domain,
+/// so that a change made anywhere counts at the next read. Absent, malformed and out-of-range values read as the default, the floor
+/// or nothing. Main thread.
+class Preferences {
+public:
+    enum class Appearance { system, light, dark };
+    /// Horizontal and vertical place as fractions of a display, each from 0 to 1.
+    using PanelPosition = std::pair<double, double>;
+
+    /// Registers the defaults with `defaults`, which must outlive this.
+    explicit Preferences(UserDefaults& defaults);
+
+    [[nodiscard]] UserDefaults& defaults() const { return *m_defaults; }
+
+    [[nodiscard]] RetentionPolicy retentionPolicy() const;
+    [[nodiscard]] Appearance appearance() const;
+    void setIgnoredApps(const QStringList& identifiers);
+
+    /// The stored shortcut; nothing when none was chosen or it cannot be read.
+    [[nodiscard]] std::optional<Shortcut> shortcut(const QString& key) const;
+    /// A shortcut equal to `fallback` is not stored, so that a later change of the default reaches who never chose.
+    void setShortcut(const Shortcut& shortcut, const Shortcut& fallback, const QString& key);
+
+    /// Where the user dragged the panel on the display that `key` names; nothing when never, or when the entry is malformed.
+    [[nodiscard]] std::optional<PanelPosition> panelPosition(const QString& key) const;
+    /// Nothing as `position` forgets the display.
+    void setPanelPosition(std::optional<PanelPosition> position, const QString& key);
+    void resetPanelPositions();
+
+private:
+    UserDefaults* m_defaults;
+};
+
+} // namespace vellumry

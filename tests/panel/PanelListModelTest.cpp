@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/PanelListModel.h"
+
+#include "history/ClipStore.h"
+#include "paste/PasteEngine.h"
+#include "support/Awaited.h"
+#include "support/Drafts.h"
+#include "support/FakePasteboard.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+using namespace vellumry;
+
+namespace {
+
+class PanelListModelTest : public ::testing::Test {
+protected:
+    PanelListModelTest() {
+        hooks.pasteboard = &pasteboard;
+        hooks.isTrusted = [] { return false; };
+    }
+
+    ClipRef add(const ClipDraft& draft, Date now) { return awaited(store.add(draft, now)); }
+    QStringList column(PanelListModel::Role role) const {
+        QStringList values;
+        for (int row = 0; row < rows.rowCount(); ++row)
+            values.append(rows.data(rows.index(row), role).toString());
+        return values;
+    }
+
+    ClipStore store{RetentionPolicy{}};
+    UserDefaults defaults;
+    FakePasteboard pasteboard;
+    SystemHooks hooks;
+    PasteEngine paster{store, defaults, hooks};
+    PanelModelCalendar calendar{[] { return 86'400.0 * 20'000 + 40'000; }, [] { return QTimeZone::utc(); },
+                                [] { return QLocale::c(); }};
+    PanelModel model{store, paster, calendar};
+    PanelListModel rows{model, {QStringLiteral("Ctrl+%1"), QStringLiteral("Super+Alt+%1")}};
+    QAbstractItemModelTester tester{&rows, QAbstractItemModelTester::FailureReportingMode::Fatal};
+    Date today = 86'400.0 * 20'000 + 100;
+};
+
+} // namespace
+
+TEST_F(PanelListModelTest, AHeaderStandsAboveItsClips) {
+    add(drafts::text(QStringLiteral("first")), today);
+    add(drafts::text(QStringLiteral("second")), today + 1);
+    EXPECT_EQ(column(PanelListModel::TitleRole), (QStringList{QString(), QStringLiteral("second"), QStringLiteral("first")}));
+    EXPECT_EQ(rows.data(rows.index(0), PanelListModel::HeaderRole).toString(), QStringLiteral("Today"));
+    EXPECT_TRUE(rows.data(rows.index(0), PanelListModel::IsHeaderRole).toBool());
+    EXPECT_FALSE(rows.data(rows.index(1), PanelListModel::IsHeaderRole).toBool());
+}
+
+TEST_F(PanelListModelTest, NumbersCarryTheirKeys) {
+    add(drafts::text(QStringLiteral("first")), today);
+    add(drafts::secret(QStringLiteral("hidden words")), today + 1);
+    add(drafts::text(QStringLiteral("third")), today + 2);
+    EXPECT_EQ(column(PanelListModel::NumberKeysRole),
+              (QStringList{QString(), QStringLiteral("Ctrl+1"), QString(), QStringLiteral("Ctrl+2")}));
+}
+
+TEST_F(PanelListModelTest, NoRoleOfASensitiveClipHoldsItsText) {
+    add(drafts::secret(QStringLiteral("hidden words")), today);
+    for (int role = PanelListModel::HeaderRole; role <= PanelListModel::IsSensitiveRole; ++role)
+        EXPECT_FALSE(rows.data(rows.index(1), role).toString().contains(QStringLiteral("hidden words"))) << role;
+    EXPECT_TRUE(rows.data(rows.index(1), PanelListModel::IsSensitiveRole).toBool());
+}
+
+TEST_F(PanelListModelTest, AFilterRebindsRowsAndRemovesTheRestAtTheEnd) {
+    add(drafts::text(QStringLiteral("apple")), today);
+    add(drafts::text(QStringLiteral("pear")), today + 1);
+    add(drafts::text(QStringLiteral("apple pie")), today + 2);
+    QSignalSpy resets(&rows, &QAbstractItemModel::modelReset);
+    QSignalSpy removals(&rows, &QAbstractItemModel::rowsRemoved);
+    model.setQuery(QStringLiteral("apple"));
+    EXPECT_EQ(column(PanelListModel::TitleRole), (QStringList{QString(), QStringLiteral("apple pie"), QStringLiteral("apple")}));
+    EXPECT_EQ(resets.count(), 0);
+    EXPECT_EQ(removals.count(), 1);
+}
+
+TEST_F(PanelListModelTest, ASearchWithoutResultsHasNoRows) {
+    add(drafts::text(QStringLiteral("apple")), today);
+    model.setQuery(QStringLiteral("zzz"));
+    EXPECT_EQ(rows.rowCount(), 0);
+    EXPECT_EQ(rows.primaryRow(), -1);
+}
+
+TEST_F(PanelListModelTest, TheSelectionMovesWithoutTouchingTheRows) {
+    add(drafts::text(QStringLiteral("first")), today);
+    add(drafts::text(QStringLiteral("second")), today + 1);
+    model.prepareForShow();
+    EXPECT_EQ(rows.primaryRow(), 1);
+    QSignalSpy changes(&rows, &QAbstractItemModel::dataChanged);
+    model.move(1);
+    EXPECT_EQ(rows.primaryRow(), 2);
+    EXPECT_TRUE(rows.data(rows.index(2), PanelListModel::IsSelectedRole).toBool());
+    EXPECT_FALSE(rows.data(rows.index(1), PanelListModel::IsSelectedRole).toBool());
+    ASSERT_GE(changes.count(), 1);
+    EXPECT_EQ(changes.last().at(2).value<QList<int>>(), QList<int>{PanelListModel::IsSelectedRole});
+}
+
+TEST_F(PanelListModelTest, APictureIsNamedByItsClip) {
+    const ClipRef clip = add(drafts::image(QByteArray("png")), today);
+    EXPECT_EQ(rows.data(rows.index(1), PanelListModel::ThumbnailRole).toString(),
+              QStringLiteral("image://thumbnail/") + clip->id.toString(QUuid::WithoutBraces));
+}

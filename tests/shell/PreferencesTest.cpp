@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/Preferences.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+
+using namespace vellumry;
+
+namespace {
+
+class PreferencesTest : public ::testing::Test {
+protected:
+    UserDefaults defaults;
+    Preferences preferences{defaults};
+};
+
+} // namespace
+
+TEST_F(PreferencesTest, AFreshDomainGivesTheDefaults) {
+    EXPECT_EQ(defaults.integer(QStringLiteral("recentInMenu")), 10);
+    EXPECT_EQ(defaults.integer(QStringLiteral("sensitiveSeconds")), 60);
+    EXPECT_TRUE(defaults.boolean(QStringLiteral("pasteDirectly")));
+    EXPECT_TRUE(defaults.boolean(QStringLiteral("pinnedShortcutsEnabled")));
+    EXPECT_FALSE(defaults.boolean(QStringLiteral("plainTextByDefault")));
+    EXPECT_EQ(defaults.stringArray(QStringLiteral("ignoredApps"))->size(), 9);
+    EXPECT_EQ(preferences.appearance(), Preferences::Appearance::system);
+    EXPECT_EQ(preferences.retentionPolicy(), (RetentionPolicy{std::nullopt, 5000, 1024LL * 1'048'576}));
+}
+
+TEST_F(PreferencesTest, AnAgeLimitNeedsAtLeastOneDay) {
+    defaults.setObject(QStringLiteral("keepForDays"), -1);
+    EXPECT_EQ(preferences.retentionPolicy().maxAge, std::nullopt);
+    defaults.setObject(QStringLiteral("keepForDays"), 2);
+    EXPECT_EQ(preferences.retentionPolicy().maxAge, 172'800.0);
+}
+
+TEST_F(PreferencesTest, CountAndMediaHaveAFloor) {
+    defaults.setObject(QStringLiteral("keepAtMost"), 0);
+    defaults.setObject(QStringLiteral("mediaLimitMB"), 0);
+    EXPECT_EQ(preferences.retentionPolicy().maxCount, 1);
+    EXPECT_EQ(preferences.retentionPolicy().maxMediaBytes, 1'048'576);
+}
+
+TEST_F(PreferencesTest, AnUnknownAppearanceIsTheSystems) {
+    defaults.setObject(QStringLiteral("appearance"), QStringLiteral("blue"));
+    EXPECT_EQ(preferences.appearance(), Preferences::Appearance::system);
+    defaults.setObject(QStringLiteral("appearance"), QStringLiteral("dark"));
+    EXPECT_EQ(preferences.appearance(), Preferences::Appearance::dark);
+}
+
+TEST_F(PreferencesTest, AMalformedPanelPositionIsNone) {
+    const QVariantList malformed[] = {{0.5}, {1.2, 0.3}, {std::numeric_limits<double>::quiet_NaN(), 0.5}, {0.1, 0.2, 0.3}};
+    for (const QVariantList& entry : malformed) {
+        defaults.setObject(QStringLiteral("panelPositions"), QVariantMap{{QStringLiteral("screen"), entry}});
+        EXPECT_EQ(preferences.panelPosition(QStringLiteral("screen")), std::nullopt);
+    }
+}
+
+TEST_F(PreferencesTest, EachDisplayKeepsItsPosition) {
+    preferences.setPanelPosition(Preferences::PanelPosition{0.25, 0.5}, QStringLiteral("one"));
+    preferences.setPanelPosition(Preferences::PanelPosition{1.0, 0.0}, QStringLiteral("two"));
+    EXPECT_EQ(preferences.panelPosition(QStringLiteral("one")), (Preferences::PanelPosition{0.25, 0.5}));
+    EXPECT_EQ(preferences.panelPosition(QStringLiteral("two")), (Preferences::PanelPosition{1.0, 0.0}));
+    EXPECT_EQ(preferences.panelPosition(QStringLiteral("three")), std::nullopt);
+}
+
+TEST_F(PreferencesTest, ForgettingTheOnlyPositionRemovesTheKey) {
+    preferences.setPanelPosition(Preferences::PanelPosition{0.25, 0.5}, QStringLiteral("one"));
+    preferences.setPanelPosition(std::nullopt, QStringLiteral("one"));
+    EXPECT_FALSE(defaults.object(QStringLiteral("panelPositions")).isValid());
+}
+
+TEST_F(PreferencesTest, AShortcutEqualToTheDefaultIsNotStored) {
+    const QString key = QStringLiteral("openPanelShortcut");
+    preferences.setShortcut(Shortcut{11, 0x900}, Shortcut::openPanelDefault(), key);
+    EXPECT_EQ(preferences.shortcut(key), (Shortcut{11, 0x900}));
+    preferences.setShortcut(Shortcut::openPanelDefault(), Shortcut::openPanelDefault(), key);
+    EXPECT_EQ(preferences.shortcut(key), std::nullopt);
+    EXPECT_FALSE(defaults.object(key).isValid());
+}
+
+TEST_F(PreferencesTest, AShortcutThatIsNoDataIsNone) {
+    defaults.setObject(QStringLiteral("openPanelShortcut"), QStringLiteral("ctrl+v"));
+    EXPECT_EQ(preferences.shortcut(QStringLiteral("openPanelShortcut")), std::nullopt);
+}
