@@ -5,6 +5,7 @@
 #include "history/LookAlikeMatcher.h"
 
 #include <QChar>
+#include <algorithm>
 
 namespace vellumry {
 
@@ -49,12 +50,15 @@ std::uint32_t keyOf(QStringView character) {
 } // namespace
 
 LookAlikeKeys lookAlikeKeysOf(QStringView text) {
-    LookAlikeKeys keys;
-    keys.reserve(static_cast<std::size_t>(text.size()));
+    std::vector<QStringView> characters;
+    characters.reserve(static_cast<std::size_t>(text.size()));
     text::forEachCharacter(text, [&](QStringView character) {
-        keys.push_back(keyOf(character));
+        characters.push_back(character);
         return true;
     });
+    // Only now, because a key counts characters itself, and one walk must not begin inside another.
+    LookAlikeKeys keys(characters.size());
+    std::transform(characters.begin(), characters.end(), keys.begin(), keyOf);
     return keys;
 }
 
