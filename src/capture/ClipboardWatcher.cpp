@@ -113,7 +113,8 @@ QCoro::Task<void> ClipboardWatcher::read(std::shared_ptr<Copy> copy, SnapshotReq
         self->deliverRead();
 }
 
-/// A picture is opened elsewhere while a later text is read already: the history still gets them in the order of the copies.
+/// A picture is opened elsewhere while a later text is read already: the history still gets them in the order of the
+/// copies.
 void ClipboardWatcher::deliverRead() {
     const QPointer self(this);
     while (self && !m_copies.empty() && m_copies.front()->isRead) {

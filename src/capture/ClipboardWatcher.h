@@ -21,9 +21,9 @@
 
 namespace vellumry {
 
-/// The program's capture loop: notices that the pasteboard changed, walks a fixed ladder of decisions, and hands what is left of
-/// the copy to the history. Owns the ways of not capturing: the pause, the one copy to be ignored, the refusal of pictures on a
-/// full disk. Main thread; everything handed to it must outlive it and the tasks it started.
+/// The program's capture loop: notices that the pasteboard changed, walks a fixed ladder of decisions, and hands what
+/// is left of the copy to the history. Owns the ways of not capturing: the pause, the one copy to be ignored, the
+/// refusal of pictures on a full disk. Main thread; everything handed to it must outlive it and the tasks it started.
 class ClipboardWatcher : public QObject {
 public:
     /// Tells who is copying.
@@ -34,11 +34,11 @@ public:
                      ImageCodec& images, Source source, QObject* parent = nullptr);
     ~ClipboardWatcher() override;
 
-    /// From now on changes lead to ticks: by `Pasteboard::onChanged`, which it takes, or by a poll every quarter of a second
-    /// where the pasteboard does not notify. A second call does nothing.
+    /// From now on changes lead to ticks: by `Pasteboard::onChanged`, which it takes, or by a poll every quarter of a
+    /// second where the pasteboard does not notify. A second call does nothing.
     void start();
-    /// Looks at the pasteboard once. Returns without waiting for its owner, the disk or the store; a copy that was noticed reaches
-    /// the store behind those noticed before it.
+    /// Looks at the pasteboard once. Returns without waiting for its owner, the disk or the store; a copy that was
+    /// noticed reaches the store behind those noticed before it.
     void tick(Date now);
     /// No capture for `seconds`; without end when absent.
     void pause(std::optional<double> seconds, Date now);

@@ -21,24 +21,30 @@ bool holdsWhitespace(QStringView text) {
     return std::ranges::any_of(text, [](QChar unit) { return text::isWhitespaceOrNewline(unit.unicode()); });
 }
 
-bool isAsciiDigit(QChar unit) { return unit >= u'0' && unit <= u'9'; }
+bool isAsciiDigit(QChar unit) {
+    return unit >= u'0' && unit <= u'9';
+}
 
-bool isAllAsciiDigits(QStringView text) { return std::ranges::all_of(text, isAsciiDigit); }
+bool isAllAsciiDigits(QStringView text) {
+    return std::ranges::all_of(text, isAsciiDigit);
+}
 
 /// True for last labels under which a name without a scheme is rather a host than a file.
 bool isKnownDomainEnding(const QString& label) {
     static const QSet<QString> endings = [] {
-        const QString all = QStringLiteral(
-            "com net org io co app dev ai me gg xyz info biz tv page site online store shop tech blog cloud design studio so "
-            "to fm ly edu gov us uk in de fr jp ca au nl es it se ch br cn ru eu nz ie be at dk fi no pt kr sg hk mx za ae "
-            "tr id vn th ph");
+        const QString all = QStringLiteral("com net org io co app dev ai me gg xyz info biz tv page site online store "
+                                           "shop tech blog cloud design studio so "
+                                           "to fm ly edu gov us uk in de fr jp ca au nl es it se ch br cn ru eu nz ie "
+                                           "be at dk fi no pt kr sg hk mx za ae "
+                                           "tr id vn th ph");
         const QStringList list = all.split(u' ');
         return QSet<QString>(list.begin(), list.end());
     }();
     return endings.contains(label);
 }
 
-/// Programs write URLs with characters that RFC 3986 wants escaped ("|", "{", a lone "%"); readers know them as links all the same.
+/// Programs write URLs with characters that RFC 3986 wants escaped ("|", "{", a lone "%"); readers know them as links
+/// all the same.
 QUrl parsedUrl(const QString& text) {
     const QUrl strict(text, QUrl::StrictMode);
     return strict.isValid() ? strict : QUrl(text, QUrl::TolerantMode);
@@ -161,8 +167,7 @@ bool isOneTimeCode(const QString& text, const std::optional<QString>& sourceBund
         return true;
 
     // Without this every short number out of a spreadsheet would vanish by itself.
-    const bool isTrusted =
-        (sourceBundleID && isMessageApp(*sourceBundleID)) || (sourceUrl && isMessageURL(*sourceUrl));
+    const bool isTrusted = (sourceBundleID && isMessageApp(*sourceBundleID)) || (sourceUrl && isMessageURL(*sourceUrl));
     if (!isTrusted)
         return false;
 

@@ -15,14 +15,15 @@
 
 namespace vellumry {
 
-/// Awaits a job that may block for good, such as a look at a disk that has gone: it runs on a thread of its own, which is left
-/// behind when the deadline passes. Created and awaited on the main thread, once; gives the job's result, or nothing after the
-/// deadline or without a thread. The job must own what it uses and must not throw.
+/// Awaits a job that may block for good, such as a look at a disk that has gone: it runs on a thread of its own, which
+/// is left behind when the deadline passes. Created and awaited on the main thread, once; gives the job's result, or
+/// nothing after the deadline or without a thread. The job must own what it uses and must not throw.
 template <typename Result>
 class DetachedRun {
 public:
     DetachedRun(std::function<Result()> job, std::chrono::milliseconds deadline)
-        : m_job(std::move(job)), m_deadline(deadline) {}
+        : m_job(std::move(job))
+        , m_deadline(deadline) {}
 
     [[nodiscard]] bool await_ready() const noexcept { return false; }
     bool await_suspend(std::coroutine_handle<> waiting) {
@@ -41,7 +42,8 @@ public:
     [[nodiscard]] std::optional<Result> await_resume() { return std::move(m_state->result); }
 
 private:
-    /// Touched on the main thread only, and free of what would have to die there: the blocked thread may be its last holder.
+    /// Touched on the main thread only, and free of what would have to die there: the blocked thread may be its last
+    /// holder.
     struct State {
         std::optional<Result> result;
         std::coroutine_handle<> waiting;

@@ -12,16 +12,18 @@
 
 namespace vellumry {
 
-/// Makes a draft of what a pasteboard held: decides what kind of thing it is, names it, and says whether it is a secret. Files
-/// outrank pictures, pictures outrank text, text outranks a colour. Main thread; holds no state. The seams must outlive it and
-/// every task it started.
+/// Makes a draft of what a pasteboard held: decides what kind of thing it is, names it, and says whether it is a
+/// secret. Files outrank pictures, pictures outrank text, text outranks a colour. Main thread; holds no state. The
+/// seams must outlive it and every task it started.
 class DraftBuilder {
 public:
-    DraftBuilder(const FileBookmarks& bookmarks, ImageCodec& images) : m_bookmarks(&bookmarks), m_images(&images) {}
+    DraftBuilder(const FileBookmarks& bookmarks, ImageCodec& images)
+        : m_bookmarks(&bookmarks)
+        , m_images(&images) {}
 
-    /// The draft, or nothing for contents that are none of these (a PDF alone, white space alone). Suspends for a picture, which
-    /// is opened elsewhere, and for files, whose bookmarks need the disk (at most 2 seconds; what is not made by then stays
-    /// out). A thumbnail or bookmark that cannot be made is left out. `now` names screenshots.
+    /// The draft, or nothing for contents that are none of these (a PDF alone, white space alone). Suspends for a
+    /// picture, which is opened elsewhere, and for files, whose bookmarks need the disk (at most 2 seconds; what is not
+    /// made by then stays out). A thumbnail or bookmark that cannot be made is left out. `now` names screenshots.
     [[nodiscard]] QCoro::Task<std::optional<ClipDraft>> build(ClipPayload payload, SourceApp source, Date now) const;
 
 private:

@@ -42,7 +42,9 @@ QString screenshotTitle(Date date, const QTimeZone& zone, const QLocale& locale)
         .arg(moment.date().toString(Qt::ISODate), locale.toString(moment.time(), QLocale::ShortFormat));
 }
 
-QString screenshotTitle(Date date) { return screenshotTitle(date, QTimeZone::systemTimeZone(), QLocale()); }
+QString screenshotTitle(Date date) {
+    return screenshotTitle(date, QTimeZone::systemTimeZone(), QLocale());
+}
 
 QString filesTitle(const std::vector<FileRef>& files) {
     if (files.size() == 1)

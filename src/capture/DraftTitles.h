@@ -14,7 +14,8 @@
 /// The one-line names that clips get when they are made. Pure; any thread.
 namespace vellumry {
 
-/// The first line of `text` that is not blank, freed of blanks and tabs, at most 300 characters; empty when there is none.
+/// The first line of `text` that is not blank, freed of blanks and tabs, at most 300 characters; empty when there is
+/// none.
 [[nodiscard]] QString titleOf(const QString& text);
 
 /// "Image 640 × 480".

@@ -103,6 +103,8 @@ QString FileAccess::displayName(const QString& path, const FilePlaces& places) {
     return fileurl::lastPathComponent(standard.section(u'/', 0, -2));
 }
 
-bool FileAccess::isPermissionError(int error) { return error == EACCES || error == EPERM; }
+bool FileAccess::isPermissionError(int error) {
+    return error == EACCES || error == EPERM;
+}
 
 } // namespace vellumry

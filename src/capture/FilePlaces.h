@@ -8,8 +8,8 @@
 
 namespace vellumry {
 
-/// Where files lie that may be out of reach: the user's own folders, which a sandbox or a policy may close, and the folders
-/// under which removable volumes are mounted. A value; any thread.
+/// Where files lie that may be out of reach: the user's own folders, which a sandbox or a policy may close, and the
+/// folders under which removable volumes are mounted. A value; any thread.
 struct FilePlaces {
     struct Folder {
         QString path; ///< absolute, no slash at the end

@@ -24,9 +24,12 @@ constexpr QStringView mailPath = u"/mail";
 
 bool isMessageApp(const QString& bundleID) {
     static const QSet<QString> messageApps{
-        QStringLiteral("com.apple.MobileSMS"),   QStringLiteral("com.apple.mail"),
-        QStringLiteral("com.microsoft.Outlook"), QStringLiteral("net.whatsapp.WhatsApp"),
-        QStringLiteral("desktop.WhatsApp"),      QStringLiteral("ru.keepcoder.Telegram"),
+        QStringLiteral("com.apple.MobileSMS"),
+        QStringLiteral("com.apple.mail"),
+        QStringLiteral("com.microsoft.Outlook"),
+        QStringLiteral("net.whatsapp.WhatsApp"),
+        QStringLiteral("desktop.WhatsApp"),
+        QStringLiteral("ru.keepcoder.Telegram"),
         QStringLiteral("org.whispersystems.signal-desktop"),
     };
     return messageApps.contains(bundleID);

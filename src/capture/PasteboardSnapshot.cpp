@@ -13,8 +13,8 @@ namespace {
 
 using pasteboardtype::ReadingTurn;
 
-/// Most representations of types that are not essential, over all items. No program offers so many; one that offers thousands is
-/// out to keep us busy.
+/// Most representations of types that are not essential, over all items. No program offers so many; one that offers
+/// thousands is out to keep us busy.
 constexpr qsizetype mostPrivateRepresentations = 1000;
 
 /// One representation that is to be read.

@@ -22,7 +22,8 @@ struct SnapshotLimits {
 
 /// One copy to be looked at.
 struct SnapshotRequest {
-    /// The pasteboard's change count when the copy was noticed; contents of any other count are left to their own request.
+    /// The pasteboard's change count when the copy was noticed; contents of any other count are left to their own
+    /// request.
     qint64 changeCount = 0;
     SourceApp source;
     QSet<QString> ignoredApps; ///< identifiers of applications whose copies are never read
@@ -30,12 +31,12 @@ struct SnapshotRequest {
     SnapshotLimits limits;
 };
 
-/// The draft of what the pasteboard holds, or nothing when the copy is refused, cannot be read, holds nothing of use, or was
-/// replaced before it was read to the end.
+/// The draft of what the pasteboard holds, or nothing when the copy is refused, cannot be read, holds nothing of use,
+/// or was replaced before it was read to the end.
 ///
-/// What is refused is decided by the declared types and the source alone, before any content is asked for. A representation
-/// that fails or hangs costs itself only: text is read first, pictures after it, unknown types last. When the deadline of the
-/// copy passes, what was read until then counts. Main thread; the seams must outlive the task.
+/// What is refused is decided by the declared types and the source alone, before any content is asked for. A
+/// representation that fails or hangs costs itself only: text is read first, pictures after it, unknown types last.
+/// When the deadline of the copy passes, what was read until then counts. Main thread; the seams must outlive the task.
 [[nodiscard]] QCoro::Task<std::optional<ClipDraft>> readDraft(Pasteboard* pasteboard, DraftBuilder builder,
                                                               SnapshotRequest request);
 

@@ -24,7 +24,7 @@ bool isRefused(const QString& type) {
 }
 
 bool isEssential(const QString& type) {
-    static const QSet<QString> essentialTypes{utf8PlainText, rtf,  rtfd, html, url,   fileUrl, png,     tiff,
+    static const QSet<QString> essentialTypes{utf8PlainText, rtf,  rtfd, html,  url,  fileUrl, png,           tiff,
                                               jpeg,          heic, pdf,  color, icns, urlName, utf16PlainText};
     return essentialTypes.contains(type);
 }

@@ -4,12 +4,12 @@
 #include <QString>
 #include <QStringList>
 
-/// Which of the types on a pasteboard are kept, which refuse a copy, and which are read first. Types are compared as exact
-/// strings. Pure; any thread.
+/// Which of the types on a pasteboard are kept, which refuse a copy, and which are read first. Types are compared as
+/// exact strings. Pure; any thread.
 namespace vellumry::pasteboardtype {
 
-/// True for a type by which its owner asks that the copy be not kept (nspasteboard.org, and the same promise in the dialect of
-/// particular programs).
+/// True for a type by which its owner asks that the copy be not kept (nspasteboard.org, and the same promise in the
+/// dialect of particular programs).
 [[nodiscard]] bool isRefused(const QString& type);
 
 /// True for a type that is kept whatever its size, up to the limit of the whole copy.

@@ -8,8 +8,8 @@
 
 namespace vellumry {
 
-/// The web page (http or https) that a copy came from, as browsers tell it beside the text: a source URL, else the main resource
-/// of a web archive of less than 8,000,000 bytes. Pure; any thread.
+/// The web page (http or https) that a copy came from, as browsers tell it beside the text: a source URL, else the main
+/// resource of a web archive of less than 8,000,000 bytes. Pure; any thread.
 [[nodiscard]] std::optional<QUrl> sourceURL(const PasteboardItem& item);
 
 } // namespace vellumry

@@ -20,10 +20,12 @@ constexpr qsizetype longestColor = 64;
 /// Only short texts can be codes, and parsing a web archive for every long copy would be waste.
 constexpr qsizetype longestCode = 24;
 
-bool has(const PasteboardItem& item, const QString& type) { return item.representations.contains(type); }
+bool has(const PasteboardItem& item, const QString& type) {
+    return item.representations.contains(type);
+}
 
-/// The hexadecimal form of application/x-color (freedesktop drag-and-drop): red, green, blue and opacity as 16-bit numbers of
-/// the machine's own byte order. Opacity is dropped.
+/// The hexadecimal form of application/x-color (freedesktop drag-and-drop): red, green, blue and opacity as 16-bit
+/// numbers of the machine's own byte order. Opacity is dropped.
 std::optional<QString> hexadecimalColor(const PasteboardItem& item) {
     const auto found = item.representations.find(uniformtype::color);
     std::array<quint16, 4> channels{};

@@ -6,8 +6,9 @@
 
 namespace vellumry {
 
-/// When to look at a pasteboard that tells of its changes: a moment after the last word of a burst, so that a program which
-/// writes in several steps is read once, and soon after the first word in any case. A value over a monotonic clock in milliseconds.
+/// When to look at a pasteboard that tells of its changes: a moment after the last word of a burst, so that a program
+/// which writes in several steps is read once, and soon after the first word in any case. A value over a monotonic
+/// clock in milliseconds.
 class TickSchedule {
 public:
     static constexpr qint64 quiet = 20;    ///< from the last notification of a burst to the tick

@@ -11,10 +11,10 @@ namespace vellumry {
 /// Bookmarks without a disk: the bookmark of a path is "bookmark:" and the path, and leads where `moves` says.
 class FakeFileBookmarks : public FileBookmarks {
 public:
-    QSet<QString> unreadablePaths;        ///< `make` gives nothing for these
-    QSet<QString> lostPaths;              ///< `resolve` finds nothing for bookmarks of these
-    std::map<QString, QString> moves;     ///< from where a file was to where it is now
-    QSet<QString> trashedPaths;           ///< present paths that lie in a Trash folder
+    QSet<QString> unreadablePaths;    ///< `make` gives nothing for these
+    QSet<QString> lostPaths;          ///< `resolve` finds nothing for bookmarks of these
+    std::map<QString, QString> moves; ///< from where a file was to where it is now
+    QSet<QString> trashedPaths;       ///< present paths that lie in a Trash folder
 
     [[nodiscard]] static QByteArray bookmarkOf(const QString& path) { return "bookmark:" + path.toUtf8(); }
 

@@ -11,8 +11,8 @@
 
 namespace vellumry {
 
-/// A pasteboard in memory. Answers at once, without suspending, unless it was told to hang; keeps a log of what was asked of
-/// it and of what was written to it.
+/// A pasteboard in memory. Answers at once, without suspending, unless it was told to hang; keeps a log of what was
+/// asked of it and of what was written to it.
 class FakePasteboard : public Pasteboard {
     struct Board;
     class Reading;
@@ -34,7 +34,9 @@ public:
     void copy(std::vector<PasteboardItem> items, QStringList alsoDeclared = {}) {
         replace(std::move(items), std::move(alsoDeclared), false);
     }
-    void copy(const QString& type, const QByteArray& bytes) { copy({PasteboardItem{{{type, bytes}}, QStringList{type}}}); }
+    void copy(const QString& type, const QByteArray& bytes) {
+        copy({PasteboardItem{{{type, bytes}}, QStringList{type}}});
+    }
     void copyText(const QString& text) { copy(QStringLiteral("public.utf8-plain-text"), text.toUtf8()); }
     /// The owner goes away and leaves the pasteboard empty.
     void ownerGoes() {
@@ -62,13 +64,13 @@ public:
     [[nodiscard]] qsizetype waitingCount() const { return qsizetype(m_waiting.size()); }
 
     // What it is told to do.
-    bool hasOwner = true;              ///< false: `beginReading` gives null
-    bool refusesWrites = false;        ///< `write` empties the pasteboard and fails
-    bool notifies = true;              ///< what `notifiesChanges` says, and whether `onChanged` is called
+    bool hasOwner = true;       ///< false: `beginReading` gives null
+    bool refusesWrites = false; ///< `write` empties the pasteboard and fails
+    bool notifies = true;       ///< what `notifiesChanges` says, and whether `onChanged` is called
     bool hangsBeginReading = false;
     bool hangsItemTypes = false;
-    QSet<QString> failingTypes;        ///< `data` gives nothing for these
-    QSet<QString> hangingTypes;        ///< `data` waits for `answerHanging`, or for the reading to end
+    QSet<QString> failingTypes;                    ///< `data` gives nothing for these
+    QSet<QString> hangingTypes;                    ///< `data` waits for `answerHanging`, or for the reading to end
     std::function<void(const Request&)> onRequest; ///< called before a request is answered
 
     // What was asked of it.
@@ -89,7 +91,8 @@ public:
 private:
     /// Suspends until `resumeAll`.
     struct Wait {
-        explicit Wait(FakePasteboard* waitedFor) : board(waitedFor) {}
+        explicit Wait(FakePasteboard* waitedFor)
+            : board(waitedFor) {}
         FakePasteboard* board;
         bool await_ready() const noexcept { return false; }
         void await_suspend(std::coroutine_handle<> handle) { board->m_waiting.push_back(handle); }
@@ -131,7 +134,8 @@ private:
 class FakePasteboard::Reading : public PasteboardReading {
 public:
     Reading(std::shared_ptr<Session> session, QStringList types)
-        : m_session(std::move(session)), m_types(std::move(types)) {}
+        : m_session(std::move(session))
+        , m_types(std::move(types)) {}
 
     [[nodiscard]] static QStringList typesOf(const PasteboardItem& item) {
         if (item.order)

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "capture/Settle.h"
+#include "capture/WatcherFixture.h"
+
+#include <QTimer>
+
+namespace vellumry {
+namespace {
+
+/// Copies that take their time: other ticks come while one is read.
+class ClipboardWatcherOrderTest : public WatcherFixture {};
+
+TEST_F(ClipboardWatcherOrderTest, ATickDoesNotWaitForAHangingOwner) {
+    pasteboard.hangingTypes = {uniformtype::utf8PlainText};
+    copyAndTick("slow", 100);
+    EXPECT_EQ(history(), QStringList());
+    pasteboard.answerHanging();
+    EXPECT_EQ(history(), QStringList{QStringLiteral("slow")});
+    EXPECT_EQ(store.clips().front()->lastUsedAt, 100);
+}
+
+TEST_F(ClipboardWatcherOrderTest, ANewCopyEndsTheReadingOfTheOneBefore) {
+    pasteboard.hangingTypes = {uniformtype::utf8PlainText};
+    copyAndTick("hangs", 100);
+    pasteboard.hangingTypes.clear();
+    copyAndTick("next", 101);
+    EXPECT_EQ(history(), QStringList{QStringLiteral("next")});
+    EXPECT_EQ(pasteboard.waitingCount(), 0);
+}
+
+TEST_F(ClipboardWatcherOrderTest, WhatWasReadBeforeTheDeadlineCounts) {
+    const QString hanging = QStringLiteral("application/x-hangs");
+    pasteboard.hangingTypes = {hanging};
+    pasteboard.copy({PasteboardItem{{{uniformtype::utf8PlainText, "text"}, {hanging, "x"}}, {}}});
+    watcher->tick(100);
+    pasteboard.passDeadline();
+    EXPECT_EQ(history(), QStringList{QStringLiteral("text")});
+}
+
+TEST_F(ClipboardWatcherOrderTest, AnOwnerThatHangsAtFirstLeavesTheNextCopyAlone) {
+    pasteboard.hangsBeginReading = true;
+    copyAndTick("hangs", 100);
+    pasteboard.hangsBeginReading = false;
+    copyAndTick("next", 101);
+    EXPECT_EQ(history(), QStringList{QStringLiteral("next")});
+}
+
+/// File references are made elsewhere, so a copy of files takes longer than a text that comes after it.
+TEST_F(ClipboardWatcherOrderTest, CopiesReachTheHistoryInTheirOrder) {
+    pasteboard.copy(uniformtype::fileUrl, "file:///tmp/first.txt");
+    watcher->tick(100);
+    copyAndTick("second", 101);
+    EXPECT_EQ(readTitles, QStringList());
+    ASSERT_TRUE(eventually([this] { return captured.size() == 2; }));
+    EXPECT_EQ(readTitles, QStringList({QStringLiteral("first.txt"), QStringLiteral("second")}));
+    EXPECT_EQ(history(), QStringList({QStringLiteral("second"), QStringLiteral("first.txt")}));
+    ASSERT_EQ(stored.size(), 2u);
+    EXPECT_EQ(stored[0].second + 1, stored[1].second);
+}
+
+TEST_F(ClipboardWatcherOrderTest, ADestroyedWatcherLeavesItsReadingsInPeace) {
+    pasteboard.hangingTypes = {uniformtype::utf8PlainText};
+    copyAndTick("late", 100);
+    watcher.reset();
+    pasteboard.answerHanging();
+    EXPECT_EQ(history(), QStringList());
+}
+
+TEST_F(ClipboardWatcherOrderTest, AClosureMayDestroyTheWatcher) {
+    pasteboard.copy(uniformtype::fileUrl, "file:///tmp/first.txt");
+    watcher->tick(100);
+    watcher->onCapture = [this](const ClipRef&) { watcher.reset(); };
+    copyAndTick("second", 101);
+    ASSERT_TRUE(eventually([this] { return watcher == nullptr; }));
+    EXPECT_EQ(history(), QStringList{QStringLiteral("first.txt")});
+}
+
+TEST_F(ClipboardWatcherOrderTest, NotificationsLeadToATick) {
+    watcher->start();
+    watcher->start();
+    pasteboard.copyText(QStringLiteral("one"));
+    EXPECT_EQ(history(), QStringList()); // a moment later, with the rest of its burst
+    pasteboard.copyText(QStringLiteral("two"));
+    ASSERT_TRUE(eventually([this] { return !captured.isEmpty(); }));
+    EXPECT_EQ(history(), QStringList{QStringLiteral("two")});
+}
+
+TEST_F(ClipboardWatcherOrderTest, AChangeBeforeTheStartIsNoticed) {
+    pasteboard.copyText(QStringLiteral("early"));
+    watcher->start();
+    ASSERT_TRUE(eventually([this] { return !captured.isEmpty(); }));
+    EXPECT_EQ(history(), QStringList{QStringLiteral("early")});
+}
+
+TEST_F(ClipboardWatcherOrderTest, APasteboardThatDoesNotNotifyIsPolled) {
+    pasteboard.notifies = false;
+    watcher->start();
+    EXPECT_FALSE(pasteboard.onChanged);
+    pasteboard.copyText(QStringLiteral("one"));
+    ASSERT_TRUE(eventually([this] { return captured.size() == 1; }));
+    pasteboard.copyText(QStringLiteral("two"));
+    ASSERT_TRUE(eventually([this] { return captured.size() == 2; }));
+}
+
+TEST_F(ClipboardWatcherOrderTest, ANotificationAfterTheEndDoesNothing) {
+    watcher->start();
+    watcher.reset();
+    pasteboard.copyText(QStringLiteral("nobody sees it"));
+    EXPECT_EQ(history(), QStringList());
+}
+
+} // namespace
+} // namespace vellumry

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "capture/DetachedRun.h"
+
+#include "capture/Settle.h"
+
+#include <QThread>
+#include <future>
+#include <gtest/gtest.h>
+
+namespace vellumry {
+namespace {
+
+using namespace std::chrono_literals;
+
+QCoro::Task<std::optional<int>> run(std::function<int()> job, std::chrono::milliseconds deadline) {
+    DetachedRun<int> detached(std::move(job), deadline);
+    const std::optional<int> result = co_await detached;
+    EXPECT_EQ(QThread::currentThread(), QCoreApplication::instance()->thread());
+    co_return result;
+}
+
+TEST(DetachedRun, GivesTheResultOfAJobDoneElsewhere) {
+    QThread* worker = nullptr;
+    std::function<int()> job = [&worker] {
+        worker = QThread::currentThread();
+        return 7;
+    };
+    EXPECT_EQ(settle(run(job, 10s)).value(), 7);
+    EXPECT_NE(worker, QThread::currentThread());
+}
+
+TEST(DetachedRun, LeavesAJobBehindThatDoesNotEnd) {
+    // What the job waits for is shared: it comes only after the waiting has been given up.
+    auto release = std::make_shared<std::promise<void>>();
+    auto ended = std::make_shared<std::promise<void>>();
+    std::function<int()> job = [release, ended] {
+        release->get_future().wait();
+        ended->set_value();
+        return 7;
+    };
+    EXPECT_EQ(settle(run(job, 1ms)).value(), std::nullopt);
+    release->set_value();
+    EXPECT_EQ(ended->get_future().wait_for(10s), std::future_status::ready);
+    QCoreApplication::processEvents(); // the late result finds nobody waiting
+}
+
+} // namespace
+} // namespace vellumry
