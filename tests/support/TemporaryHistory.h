@@ -28,9 +28,9 @@ public:
 
     /// A connection beside the program's own, for looking into the file and for getting in its way.
     [[nodiscard]] SQLiteDatabase connect() const { return {path(), SQLiteDatabase::Access::readWrite}; }
-    /// The names of what was put aside.
+    /// The names of the history files that were put aside, their companions not counted.
     [[nodiscard]] QStringList backups() const {
-        return QDir(folder()).entryList({QStringLiteral("History-unreadable-*")}, QDir::Files, QDir::Name);
+        return QDir(folder()).entryList({QStringLiteral("History-unreadable-*.sqlite")}, QDir::Files, QDir::Name);
     }
 
 private:
