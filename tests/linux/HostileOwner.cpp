@@ -107,7 +107,7 @@ bool HostileOwner::hasOwner(const QByteArray& selection) {
 
 void HostileOwner::ask(const QByteArray& selection, const QByteArray& target) {
     const xcb_atom_t property = atom("PEER_ANSWER_" + QByteArray::number(m_asked++));
-    m_incoming[property] = {target, std::nullopt};
+    m_incoming[property] = {target};
     xcb_convert_selection(m_connection, m_window, atom(selection), atom(target), property, XCB_CURRENT_TIME);
     xcb_flush(m_connection);
 }
@@ -130,7 +130,7 @@ void HostileOwner::askForMany(const QByteArray& selection, const QByteArrayList&
     std::vector<quint32> pairs;
     for (const QByteArray& target : targets) {
         const xcb_atom_t property = atom("PEER_ANSWER_" + QByteArray::number(m_asked++));
-        m_incoming[property] = {target, std::nullopt};
+        m_incoming[property] = {target};
         pairs.push_back(atom(target));
         pairs.push_back(property);
     }
@@ -287,10 +287,10 @@ void HostileOwner::handleNotify(const xcb_selection_notify_event_t& notify) {
         return;
     Answer answer = takeProperty(notify.property);
     if (answer.type == "INCR") {
-        incoming->second.second = Answer{{}, 0, {}, true};
+        incoming->second.collected.wasIncremental = true;
         return;
     }
-    answers[incoming->second.first] = std::move(answer);
+    answers[incoming->second.target] = std::move(answer);
     m_incoming.erase(incoming);
 }
 
@@ -301,9 +301,9 @@ void HostileOwner::handleProperty(const xcb_property_notify_event_t& change) {
         return;
     }
     const auto incoming = m_incoming.find(change.atom);
-    if (change.window != m_window || incoming == m_incoming.end() || !incoming->second.second)
+    if (change.window != m_window || incoming == m_incoming.end() || !incoming->second.collected.wasIncremental)
         return;
-    Answer& collected = *incoming->second.second;
+    Answer& collected = incoming->second.collected;
     const Answer chunk = takeProperty(change.atom);
     if (chunk.type.isEmpty())
         return;
@@ -311,7 +311,7 @@ void HostileOwner::handleProperty(const xcb_property_notify_event_t& change) {
     collected.format = chunk.format;
     collected.bytes += chunk.bytes;
     if (chunk.bytes.isEmpty()) {
-        answers[incoming->second.first] = std::move(collected);
+        answers[incoming->second.target] = std::move(collected);
         m_incoming.erase(incoming);
     }
 }

@@ -90,6 +90,11 @@ private:
         int chunks = 0;
     };
 
+    struct Incoming {
+        QByteArray target;
+        Answer collected = {}; ///< what came in increments so far
+    };
+
     void handleRequest(const xcb_selection_request_event_t& request);
     bool answerRequest(const xcb_selection_request_event_t& request);
     void sendChunk(Destination destination);
@@ -105,7 +110,7 @@ private:
     xcb_window_t m_window = XCB_NONE;
     std::map<xcb_atom_t, std::vector<Offer>> m_offers;
     std::map<Destination, Outgoing> m_outgoing;
-    std::map<xcb_atom_t, std::pair<QByteArray, std::optional<Answer>>> m_incoming; ///< by property: target, increments
+    std::map<xcb_atom_t, Incoming> m_incoming; ///< by property
     std::map<QByteArray, xcb_atom_t> m_atoms;
     int m_asked = 0;
 };

@@ -200,9 +200,9 @@ std::shared_ptr<const SelectionOffer> PasteboardEngine::offerOf(const XcbPropert
 }
 
 void PasteboardEngine::read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target, qint64 maxBytes,
-                            PendingResult<std::optional<SelectionBytes>> result, Instant now) {
+                            PendingResult<std::shared_ptr<const SelectionBytes>> result, Instant now) {
     if (m_ended || offer->changeCount != changeCount() || offer->deadline <= now || !offer->atoms.contains(target)) {
-        result.deliver(std::nullopt);
+        result.deliver(nullptr);
         return;
     }
     SelectionReader::Request request;
@@ -214,10 +214,13 @@ void PasteboardEngine::read(const std::shared_ptr<const SelectionOffer>& offer, 
     request.deadline = offer->deadline;
     request.done = [this, result](std::optional<XcbProperty> property) {
         // Elements of 32 bits are atoms, windows, numbers: never content.
-        if (!property || property->format == 32)
-            result.deliver(std::nullopt);
-        else
-            result.deliver(SelectionBytes{m_connection->atomName(property->type), std::move(property->bytes)});
+        std::shared_ptr<SelectionBytes> given;
+        if (property && property->format != 32) {
+            given = std::make_shared<SelectionBytes>();
+            given->propertyType = m_connection->atomName(property->type);
+            given->bytes = std::move(property->bytes);
+        }
+        result.deliver(given);
     };
     m_reader.read(std::move(request), now);
 }

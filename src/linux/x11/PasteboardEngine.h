@@ -69,8 +69,9 @@ public:
     void disown(const std::shared_ptr<const OfferedContents>& contents);
     /// Null when nobody owns the clipboard or the owner does not say in time what it offers.
     void readOffer(PendingResult<std::shared_ptr<const SelectionOffer>> result, Instant now);
+    /// Null when the offer is of the past or the owner did not give the target.
     void read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target, qint64 maxBytes,
-              PendingResult<std::optional<SelectionBytes>> result, Instant now);
+              PendingResult<std::shared_ptr<const SelectionBytes>> result, Instant now);
 
     void handleEvent(const xcb_generic_event_t& event, Instant now);
     void expire(Instant now);

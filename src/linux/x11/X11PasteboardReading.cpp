@@ -35,16 +35,16 @@ void appendOnce(QStringList& types, const QString& type) {
         types.append(type);
 }
 
-QCoro::Task<std::optional<SelectionBytes>> readTarget(std::shared_ptr<State> state, QString target, qint64 maxBytes) {
-    const PendingResult<std::optional<SelectionBytes>> result;
+QCoro::Task<std::shared_ptr<const SelectionBytes>> readTarget(std::shared_ptr<State> state, QString target, qint64 maxBytes) {
+    const PendingResult<std::shared_ptr<const SelectionBytes>> result;
     if (const std::shared_ptr<PasteboardThread> thread = state->thread.lock()) {
         thread->post([offer = state->offer, target, maxBytes, result](PasteboardEngine& engine, auto now) {
             engine.read(offer, target, maxBytes, result, now);
         });
     } else {
-        result.deliver(std::nullopt);
+        result.deliver(nullptr);
     }
-    std::optional<SelectionBytes> bytes = co_await result;
+    std::shared_ptr<const SelectionBytes> bytes = co_await result;
     co_return bytes;
 }
 
@@ -54,7 +54,7 @@ QCoro::Task<> readFileList(std::shared_ptr<State> state) {
     for (const QString& target : {filelist::uriList, filelist::copiedFiles}) {
         if (!state->offer->targets.contains(target))
             continue;
-        const std::optional<SelectionBytes> list = co_await readTarget(state, target, state->maxFileListBytes);
+        const std::shared_ptr<const SelectionBytes> list = co_await readTarget(state, target, state->maxFileListBytes);
         if (list)
             entries = filelist::parse(list->bytes);
         if (!entries.files.isEmpty() || entries.webAddress)
@@ -73,7 +73,7 @@ QCoro::Task<std::optional<QByteArray>> readRepresentation(std::shared_ptr<State>
         if (!target)
             break;
         candidates.removeAll(*target);
-        const std::optional<SelectionBytes> given = co_await readTarget(state, *target, maxBytes);
+        const std::shared_ptr<const SelectionBytes> given = co_await readTarget(state, *target, maxBytes);
         if (!given)
             continue;
         std::optional<QByteArray> bytes = targetcoding::decode(type, *target, given->propertyType, given->bytes);
