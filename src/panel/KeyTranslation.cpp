@@ -111,7 +111,10 @@ quint32 eventFlags(Qt::KeyboardModifiers modifiers) {
 }
 
 KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty) {
-    const quint32 flags = eventFlags(modifiers);
+    quint32 flags = eventFlags(modifiers);
+    // Quick fingers choose while the keys of the shortcut that opened the panel are still down.
+    if ((flags & eventflag::control) != 0)
+        flags &= ~(eventflag::control | eventflag::command);
     KeyMeaning meaning;
     if (flags == 0)
         meaning.command = plainCommand(key, isFieldEmpty);

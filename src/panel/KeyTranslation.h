@@ -22,7 +22,7 @@ struct KeyMeaning {
     bool operator==(const KeyMeaning&) const = default;
 };
 
-/// `isFieldEmpty`: nothing is typed, so the arrows to the sides choose filters instead of moving the caret. Pure.
+/// With Super held, Super and Ctrl count as left over from the shortcut that opened the panel. `isFieldEmpty`: nothing is typed, so the arrows to the sides choose filters instead of moving the caret. Pure.
 [[nodiscard]] KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty);
 
 /// Qt's modifiers as bits of `eventflag`: Ctrl is command, Super control, Alt option.

@@ -4,6 +4,7 @@
 import os
 import subprocess
 import tempfile
+import urllib.parse
 
 from desktop import (Process, accessible, clipboard, focus, key, run, text_shown, type_text, wait_until, window_of_class,
                      window_title, windows)
@@ -132,8 +133,8 @@ class FileManager(Process):
 
         def copied():
             key("ctrl+a", "ctrl+c")
-            listed = clipboard("text/uri-list") or b""
-            return all(os.path.basename(path).encode() in listed for path in self.paths)
+            listed = urllib.parse.unquote_to_bytes(clipboard("text/uri-list") or b"")
+            return all(path.encode() in listed for path in self.paths)
 
         wait_until(copied, "the files on the clipboard")
 

@@ -90,19 +90,18 @@ def what_was_copied_outlives_the_application():
         with XTerminal() as client:
             text = client.copy_first_line()
             wait_for_clip(lambda row: text_of(row) == text, "the terminal's line")
+            before = len(unsealed())
             client.stop(signal.SIGKILL)
         wait_until(lambda: clipboard() == text.encode(), "the clipboard to hold the line of the dead terminal")
-        same(len(unsealed()), 1, "clips; taking over is no new copy")
+        same(len(unsealed()), before, "clips; taking over is no new copy")
 
 
 def a_burst_of_copies_is_kept_whole():
     with Vellumry():
         wanted = [f"burst {index:03}" for index in range(60)]
-        next_copy = time.monotonic()
         for text in wanted:
             copy_text(text)
-            next_copy += 0.05
-            time.sleep(max(0.0, next_copy - time.monotonic()))  # the rate of copying is what is tested
+            time.sleep(0.05)  # the rate of copying is what is tested
         wait_for_clip(lambda row: text_of(row) == wanted[-1], "the last copy")
         same([text_of(row) for row in unsealed()], wanted[::-1], "the history")
 

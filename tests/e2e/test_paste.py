@@ -66,12 +66,14 @@ def into_a_terminal():
 def while_the_shortcut_is_still_held():
     with Vellumry(), GtkEditor() as client:
         remember(*WORDS)
-        run("xdotool", "keydown", "super", "keydown", "ctrl", "keydown", "v")
-        wait_until(panel_is_open, "the panel")
-        run("xdotool", "key", "Return")
-        wait_panel_closed()
-        wait_until(lambda: client.content() == "zebra crossing", "the paste in the editor")
-        run("xdotool", "keyup", "v", "keyup", "ctrl", "keyup", "super")
+        try:
+            run("xdotool", "keydown", "super", "keydown", "ctrl", "keydown", "v")
+            wait_until(panel_is_open, "the panel")
+            run("xdotool", "key", "Return")
+            wait_panel_closed()
+            wait_until(lambda: client.content() == "zebra crossing", "the paste in the editor")
+        finally:
+            run("xdotool", "keyup", "v", "keyup", "ctrl", "keyup", "super")
         key("ctrl+End")
         type_text(" x")
         wait_until(lambda: client.content() == "zebra crossing x", "clean typing afterwards")

@@ -49,6 +49,8 @@ const Row rows[] = {
      chord(35, eventflag::command | eventflag::shift)},
     {"CtrlVBelongsToTheText", Qt::Key_V, Qt::ControlModifier, false, {}},
     {"ALetterBelongsToTheText", Qt::Key_P, Qt::NoModifier, false, {}},
+    {"ReturnWhileTheShortcutIsHeld", Qt::Key_Return, Qt::ControlModifier | Qt::MetaModifier, false, command(Command::enter)},
+    {"DownWhileTheShortcutIsHeld", Qt::Key_Down, Qt::ControlModifier | Qt::MetaModifier, false, command(Command::down)},
     {"AltUpIsNothing", Qt::Key_Up, Qt::AltModifier, false, {}},
 };
 
