@@ -21,7 +21,7 @@ constexpr double longestClip = 585'000;
 struct Language {
     std::vector<std::string> onsets;
     std::vector<std::string> rimes;
-    unsigned share; ///< per cent of all words
+    unsigned share; ///< per cent of all text
 };
 
 const std::vector<Language>& languages() {
@@ -51,23 +51,22 @@ Corpus::Corpus(std::uint64_t seed) : m_random(seed) {
 }
 
 void Corpus::makeText() {
-    std::vector<std::string> words;
+    std::uniform_real_distribution<double> uniform(0, 1);
     for (const Language& language : languages()) {
-        for (unsigned count = 0; count < language.share * 200; ++count) {
+        std::vector<std::string> words;
+        for (int count = 0; count < 6000; ++count) {
             std::string word;
             for (std::size_t pairs = 1 + upTo(4); pairs > 0; --pairs)
                 word += language.onsets[upTo(language.onsets.size())] + language.rimes[upTo(language.rimes.size())];
             words.push_back(word);
         }
-    }
-    std::shuffle(words.begin(), words.end(), m_random);
-    std::uniform_real_distribution<double> uniform(0, 1);
-    while (m_text.size() < textSize) {
-        // A word's rank falls off as in any language: the second is half as frequent as the first.
-        const auto rank = static_cast<std::size_t>(std::exp(uniform(m_random) * std::log(static_cast<double>(words.size()))));
-        m_wordStarts.push_back(m_text.size());
-        m_text += words[std::min(rank, words.size() - 1)];
-        m_text += upTo(12) == 0 ? (upTo(3) == 0 ? "\n" : ", ") : " ";
+        for (const std::size_t end = m_text.size() + textSize / 100 * language.share; m_text.size() < end;) {
+            // A word's rank falls off as in any language: the second is half as frequent as the first.
+            const double rank = std::exp(uniform(m_random) * std::log(static_cast<double>(words.size())));
+            m_wordStarts.push_back(m_text.size());
+            m_text += words[std::min(static_cast<std::size_t>(rank), words.size() - 1)];
+            m_text += upTo(12) == 0 ? (upTo(3) == 0 ? "\n" : ", ") : " ";
+        }
     }
 }
 

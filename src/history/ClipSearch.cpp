@@ -57,6 +57,7 @@ struct ClipSearch::Private {
 
     FoldedIndex index;
     QHash<QUuid, Slot> slotOf;
+    LookAlikeAlphabet alphabet;
     QHash<QUuid, std::shared_ptr<const LookAlikeText>> lookAlikes;
     ClipSearchOrder order;
     bool orderHasKeys = false;  ///< some of its pictures share their keys with `lookAlikes`
@@ -68,7 +69,9 @@ struct ClipSearch::Private {
     void findExact(const ByteSearch& search, ClipFilter filter);
     [[nodiscard]] std::vector<bool> exactMatches(const std::vector<ClipRef>& clips, const ByteSearch& search,
                                                  ClipFilter filter) const;
-    const LookAlikeText& keysOf(ClipSearchOrder::Picture& picture, const Clip& clip);
+    void findTolerant(const std::vector<ClipRef>& clips, const LookAlikeKeys& query, ClipFilter filter,
+                      std::vector<bool>& isMatch);
+    std::shared_ptr<const LookAlikeText> keysOf(const Clip& clip);
 };
 
 ClipSearch::ClipSearch() : d(std::make_unique<Private>()) {}
@@ -89,11 +92,7 @@ std::vector<ClipRef> ClipSearch::search(const std::vector<ClipRef>& clips, const
     d->findExact(exact, filter);
     std::vector<bool> isMatch = d->exactMatches(clips, exact, filter);
 
-    const LookAlikeMatcher tolerant{lookAlikeKeysOf(trimmed)};
-    for (ClipSearchOrder::Picture& picture : d->order.pictures())
-        if (!isMatch[picture.position] && d->order.passes(picture.position, filter))
-            isMatch[picture.position] = tolerant.find(d->keysOf(picture, *clips[picture.position])).has_value();
-
+    d->findTolerant(clips, lookAlikeKeysOf(trimmed), filter, isMatch);
     return gathered(clips, isMatch);
 }
 
@@ -180,18 +179,33 @@ std::vector<bool> ClipSearch::Private::exactMatches(const std::vector<ClipRef>& 
     return isMatch;
 }
 
-const LookAlikeText& ClipSearch::Private::keysOf(ClipSearchOrder::Picture& picture, const Clip& clip) {
-    if (picture.keys == nullptr) {
-        std::shared_ptr<const LookAlikeText>& kept = lookAlikes[clip.id];
-        if (kept == nullptr) {
-            LookAlikeKeys keys = lookAlikeKeysOf(*clip.imageText);
-            kept = std::make_shared<const LookAlikeText>(keys);
-            wipe(keys.data(), keys.size() * sizeof keys[0]);
+/// Adds to the matches the pictures that fit with the slack that their readers need.
+void ClipSearch::Private::findTolerant(const std::vector<ClipRef>& clips, const LookAlikeKeys& query, ClipFilter filter,
+                                       std::vector<bool>& isMatch) {
+    std::vector<ClipSearchOrder::Picture*> pictures;
+    for (ClipSearchOrder::Picture& picture : order.pictures()) {
+        if (isMatch[picture.position] || !order.passes(picture.position, filter))
+            continue;
+        if (picture.keys == nullptr) {
+            picture.keys = keysOf(*clips[picture.position]);
+            orderHasKeys = true;
         }
-        picture.keys = kept;
-        orderHasKeys = true;
+        pictures.push_back(&picture);
     }
-    return *picture.keys;
+    // Only now does the alphabet know every character that these texts have.
+    const LookAlikeMatcher matcher(query, alphabet);
+    for (const ClipSearchOrder::Picture* picture : pictures)
+        isMatch[picture->position] = matcher.find(*picture->keys).has_value();
+}
+
+std::shared_ptr<const LookAlikeText> ClipSearch::Private::keysOf(const Clip& clip) {
+    std::shared_ptr<const LookAlikeText>& kept = lookAlikes[clip.id];
+    if (kept == nullptr) {
+        LookAlikeKeys keys = lookAlikeKeysOf(*clip.imageText);
+        kept = std::make_shared<const LookAlikeText>(keys, alphabet);
+        wipe(keys.data(), keys.size() * sizeof keys[0]);
+    }
+    return kept;
 }
 
 } // namespace vellumry

@@ -64,7 +64,7 @@ LookAlikeKeys lookAlikeKeysOf(QStringView text) {
 
 std::optional<LookAlikeStretch> lookAlikeMatch(std::span<const std::uint32_t> query,
                                                std::span<const std::uint32_t> text) {
-    const auto start = LookAlikeMatcher(query).find(text);
+    const auto start = LookAlikeMatcher(query, LookAlikeAlphabet()).find(text);
     if (!start)
         return std::nullopt;
     return LookAlikeStretch{static_cast<qsizetype>(*start), static_cast<qsizetype>(*start + query.size())};

@@ -11,59 +11,41 @@ namespace vellumry {
 
 namespace {
 
-/// No text of this width holds this key, so it stands in a query for all keys that are too great for the width.
-template <typename Key>
-constexpr Key outside = std::numeric_limits<Key>::max();
+/// No text of 16-bit keys holds this one, so in a query it stands for all greater keys.
+constexpr std::uint16_t outsideUnits = std::numeric_limits<std::uint16_t>::max();
 
-template <typename Key>
-std::vector<Key> narrowed(std::span<const std::uint32_t> keys) {
-    std::vector<Key> result;
-    result.reserve(keys.size());
-    for (const std::uint32_t key : keys)
-        result.push_back(key < outside<Key> ? static_cast<Key>(key) : outside<Key>);
-    return result;
+std::vector<std::uint16_t> unitsOf(std::span<const std::uint32_t> keys) {
+    std::vector<std::uint16_t> units(keys.size());
+    std::transform(keys.begin(), keys.end(), units.begin(),
+                   [](std::uint32_t key) { return static_cast<std::uint16_t>(std::min<std::uint32_t>(key, outsideUnits)); });
+    return units;
 }
 
-template <typename Key>
-LookAlikeQuery<Key> queryOf(std::span<const std::uint32_t> keys) {
-    const std::vector<Key> query = narrowed<Key>(keys);
-    return LookAlikeQuery<Key>(std::span<const Key>(query), [](Key key) {
+std::vector<std::uint8_t> bytesOf(std::span<const std::uint32_t> keys, const LookAlikeAlphabet& alphabet) {
+    std::vector<std::uint8_t> bytes(keys.size());
+    std::transform(keys.begin(), keys.end(), bytes.begin(), [&](std::uint32_t key) { return alphabet.find(key); });
+    return bytes;
+}
+
+std::vector<int> raritiesOf(std::span<const std::uint32_t> keys) {
+    std::vector<int> rarities(keys.size());
+    std::transform(keys.begin(), keys.end(), rarities.begin(), [](std::uint32_t key) {
         return key < 0x80 ? 255 - frequencyOfByte(static_cast<unsigned char>(key)) : 155;
     });
+    return rarities;
 }
 
-LookAlikeText::Storage storageOf(const LookAlikeKeys& keys) {
-    const std::uint32_t greatest = keys.empty() ? 0 : *std::max_element(keys.begin(), keys.end());
-    if (greatest < outside<std::uint8_t>)
-        return narrowed<std::uint8_t>(keys);
-    if (greatest < outside<std::uint16_t>)
-        return narrowed<std::uint16_t>(keys);
+LookAlikeText::Storage storageOf(const LookAlikeKeys& keys, LookAlikeAlphabet& alphabet) {
+    if (auto bytes = alphabet.encode(keys))
+        return std::move(*bytes);
+    if (std::all_of(keys.begin(), keys.end(), [](std::uint32_t key) { return key < outsideUnits; }))
+        return unitsOf(keys);
     return keys;
 }
 
-} // namespace
-
-LookAlikeText::LookAlikeText(const LookAlikeKeys& keys) : m_storage(storageOf(keys)) {}
-
-LookAlikeText::~LookAlikeText() {
-    std::visit([](auto& keys) { wipe(keys.data(), keys.size() * sizeof keys[0]); }, m_storage);
-}
-
-LookAlikeMatcher::LookAlikeMatcher(std::span<const std::uint32_t> query)
-    : m_allowed(allowedMismatches(query.size())), m_narrow(queryOf<std::uint8_t>(query)),
-      m_medium(queryOf<std::uint16_t>(query)), m_wide(queryOf<std::uint32_t>(query)) {}
-
 template <typename Key>
-std::optional<std::size_t> LookAlikeMatcher::findIn(std::span<const Key> text) const {
-    const auto& query = [this]() -> const auto& {
-        if constexpr (sizeof(Key) == 1)
-            return m_narrow;
-        else if constexpr (sizeof(Key) == 2)
-            return m_medium;
-        else
-            return m_wide;
-    }();
-    switch (m_allowed) {
+std::optional<std::size_t> findIn(std::span<const Key> text, const LookAlikeQuery<Key>& query, int allowed) {
+    switch (allowed) {
     case 0:
         return findLookAlike<Key, 0>(query, text);
     case 1:
@@ -73,10 +55,29 @@ std::optional<std::size_t> LookAlikeMatcher::findIn(std::span<const Key> text) c
     }
 }
 
-std::optional<std::size_t> LookAlikeMatcher::find(const LookAlikeText& text) const {
-    return std::visit([this](const auto& keys) { return findIn(std::span(keys)); }, text.storage());
+} // namespace
+
+LookAlikeText::LookAlikeText(const LookAlikeKeys& keys, LookAlikeAlphabet& alphabet)
+    : m_storage(storageOf(keys, alphabet)) {}
+
+LookAlikeText::~LookAlikeText() {
+    std::visit([](auto& keys) { wipe(keys.data(), keys.size() * sizeof keys[0]); }, m_storage);
 }
 
-std::optional<std::size_t> LookAlikeMatcher::find(std::span<const std::uint32_t> text) const { return findIn(text); }
+LookAlikeMatcher::LookAlikeMatcher(std::span<const std::uint32_t> query, const LookAlikeAlphabet& alphabet)
+    : m_allowed(allowedMismatches(query.size())), m_bytes(bytesOf(query, alphabet), raritiesOf(query)),
+      m_units(unitsOf(query), raritiesOf(query)), m_scalars(query, raritiesOf(query)) {}
+
+std::optional<std::size_t> LookAlikeMatcher::find(const LookAlikeText& text) const {
+    if (const auto* bytes = std::get_if<std::vector<std::uint8_t>>(&text.storage()))
+        return findIn(std::span(*bytes), m_bytes, m_allowed);
+    if (const auto* units = std::get_if<std::vector<std::uint16_t>>(&text.storage()))
+        return findIn(std::span(*units), m_units, m_allowed);
+    return find(std::span(std::get<std::vector<std::uint32_t>>(text.storage())));
+}
+
+std::optional<std::size_t> LookAlikeMatcher::find(std::span<const std::uint32_t> text) const {
+    return findIn(text, m_scalars, m_allowed);
+}
 
 } // namespace vellumry

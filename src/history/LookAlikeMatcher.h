@@ -2,6 +2,7 @@
 #pragma once
 
 #include "history/LookAlike.h"
+#include "history/LookAlikeAlphabet.h"
 #include "history/LookAlikeScan.h"
 
 #include <cstdint>
@@ -12,14 +13,15 @@
 
 namespace vellumry {
 
-/// The keys of one text, in the fewest bytes that hold them; wiped when they go. A value; any thread.
+/// The keys of one text, in the fewest bytes that hold them; wiped when they go.
 class LookAlikeText {
 public:
-    explicit LookAlikeText(const LookAlikeKeys& keys);
+    LookAlikeText(const LookAlikeKeys& keys, LookAlikeAlphabet& alphabet);
     ~LookAlikeText();
     LookAlikeText(const LookAlikeText&) = delete;
     LookAlikeText& operator=(const LookAlikeText&) = delete;
 
+    /// Bytes of the alphabet, else the keys themselves.
     using Storage = std::variant<std::vector<std::uint8_t>, std::vector<std::uint16_t>, std::vector<std::uint32_t>>;
     [[nodiscard]] const Storage& storage() const { return m_storage; }
 
@@ -27,23 +29,21 @@ private:
     Storage m_storage;
 };
 
-/// One query, prepared once to be looked for in many texts. A value; any thread.
+/// One query, prepared once to be looked for in many texts.
 class LookAlikeMatcher {
 public:
-    explicit LookAlikeMatcher(std::span<const std::uint32_t> query);
+    /// For texts of this alphabet that exist already.
+    LookAlikeMatcher(std::span<const std::uint32_t> query, const LookAlikeAlphabet& alphabet);
 
     /// The first start of a tolerated stretch.
     [[nodiscard]] std::optional<std::size_t> find(const LookAlikeText& text) const;
     [[nodiscard]] std::optional<std::size_t> find(std::span<const std::uint32_t> text) const;
 
 private:
-    template <typename Key>
-    [[nodiscard]] std::optional<std::size_t> findIn(std::span<const Key> text) const;
-
     int m_allowed;
-    LookAlikeQuery<std::uint8_t> m_narrow;
-    LookAlikeQuery<std::uint16_t> m_medium;
-    LookAlikeQuery<std::uint32_t> m_wide;
+    LookAlikeQuery<std::uint8_t> m_bytes;
+    LookAlikeQuery<std::uint16_t> m_units;
+    LookAlikeQuery<std::uint32_t> m_scalars;
 };
 
 } // namespace vellumry

@@ -21,13 +21,12 @@ public:
         Key key;
     };
 
-    /// `rarity` tells for a key how seldom it is; only the order counts, and only for speed.
-    template <typename Rarity>
-    LookAlikeQuery(std::span<const Key> keys, const Rarity& rarity) {
+    /// `rarities` tells of each place how seldom its character is; only the order counts, and only for speed.
+    LookAlikeQuery(std::span<const Key> keys, std::span<const int> rarities) {
         for (std::size_t offset = 0; offset < keys.size(); ++offset)
             m_places.push_back({offset, keys[offset]});
         std::stable_sort(m_places.begin(), m_places.end(), [&](const Place& left, const Place& right) {
-            return rarity(left.key) > rarity(right.key);
+            return rarities[left.offset] > rarities[right.offset];
         });
     }
 

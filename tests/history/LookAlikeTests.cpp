@@ -6,6 +6,7 @@
 
 #include <QLocale>
 #include <gtest/gtest.h>
+#include <numeric>
 #include <random>
 
 namespace vellumry {
@@ -103,34 +104,58 @@ TEST(LookAlike, TheRangeIsThatOfTheTextAsItIsStored) {
     EXPECT_FALSE(lookAlikeRange(u"  "_s, text));
 }
 
+TEST(LookAlike, AnAlphabetHoldsWhatFitsIntoBytesAndNoMore) {
+    LookAlikeAlphabet alphabet;
+    LookAlikeKeys keys(255);
+    std::iota(keys.begin(), keys.end(), 0x400U);
+    const auto bytes = alphabet.encode(keys);
+    ASSERT_TRUE(bytes);
+    for (std::size_t at = 0; at < keys.size(); ++at) {
+        EXPECT_EQ(alphabet.find(keys[at]), (*bytes)[at]);
+        EXPECT_NE((*bytes)[at], LookAlikeAlphabet::outside);
+    }
+    EXPECT_EQ(alphabet.find('a'), LookAlikeAlphabet::outside);
+    EXPECT_FALSE(alphabet.encode(LookAlikeKeys{'a'}));
+    EXPECT_TRUE(alphabet.encode(LookAlikeKeys{0x400, 0x4FE}));
+}
+
+TEST(LookAlike, LargeScriptsLeaveTheAlphabetToTheOthers) {
+    LookAlikeAlphabet alphabet;
+    EXPECT_FALSE(alphabet.encode(LookAlikeKeys{0x65E5, 0x672C}));
+    EXPECT_FALSE(alphabet.encode(LookAlikeKeys{0x1F600}));
+    EXPECT_EQ(alphabet.encode(LookAlikeKeys{'a', 'b', 'a'}), (std::vector<std::uint8_t>{0, 1, 0}));
+}
+
 TEST(LookAlike, TheScanFindsWhatTheWalkFinds) {
     std::mt19937 random(11);
     // The last alphabets hold keys that need two and four bytes, and the keys at the edges of each width.
     const std::vector<LookAlikeKeys> alphabets = {{'a', 'b'},        {'a', 'b', 'c', 'd'},           {'a', 'e', 0xFE},
-                                                  {'a', 0xFF, 0x100}, {'a', 0x430, 0x431, 0xFFFE}, {'a', 0xFFFF, 0x1F600}};
-    const auto keysFrom = [&](const LookAlikeKeys& alphabet, std::size_t length) {
+                                                  {'a', 0xFF, 0x100}, {'a', 0x430, 0x431, 0xFFFE}, {'a', 0xFFFF, 0x1F600}, {0x65E5, 0x672C, 'x'}};
+    const auto keysFrom = [&](const LookAlikeKeys& letters, std::size_t length) {
         LookAlikeKeys keys(length);
         for (std::uint32_t& key : keys)
-            key = alphabet[random() % alphabet.size()];
+            key = letters[random() % letters.size()];
         return keys;
     };
+    LookAlikeAlphabet alphabet;
     int matches = 0;
     for (int round = 0; round < 30'000; ++round) {
-        const auto& alphabet = alphabets[random() % alphabets.size()];
-        const LookAlikeKeys text = keysFrom(alphabet, random() % 300);
+        const auto& letters = alphabets[random() % alphabets.size()];
+        const LookAlikeKeys text = keysFrom(letters, random() % 300);
         // Now and then a query from another alphabet, which has keys that the text cannot have.
-        const auto& queryAlphabet = random() % 4 == 0 ? alphabets[random() % alphabets.size()] : alphabet;
+        const auto& queryAlphabet = random() % 4 == 0 ? alphabets[random() % alphabets.size()] : letters;
         LookAlikeKeys query = keysFrom(queryAlphabet, random() % 20);
         if (text.size() > query.size() && random() % 2 == 0) {
             const auto start = static_cast<std::ptrdiff_t>(random() % (text.size() - query.size()));
             std::copy_n(text.begin() + start, query.size(), query.begin());
             for (int changes = static_cast<int>(random() % 4); changes > 0 && !query.empty(); --changes)
-                query[random() % query.size()] = alphabet[random() % alphabet.size()];
+                query[random() % query.size()] = letters[random() % letters.size()];
         }
         const auto expected = plainMatch(query, text);
         matches += expected ? 1 : 0;
         ASSERT_EQ(lookAlikeMatch(query, text), expected);
-        const auto packed = LookAlikeMatcher(query).find(LookAlikeText(text));
+        const LookAlikeText stored(text, alphabet);
+        const auto packed = LookAlikeMatcher(query, alphabet).find(stored);
         ASSERT_EQ(packed ? static_cast<qsizetype>(*packed) : -1, expected ? expected->start : -1);
     }
     EXPECT_GT(matches, 5000);
