@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// From a copy to its clip on the disk, against SQLite's part of it alone: `bench_add`.
+
+#include "Corpus.h"
+#include "Measure.h"
+#include "history/ClipDatabase.h"
+#include "history/ClipRows.h"
+#include "history/ClipStore.h"
+#include "history/HistoryFile.h"
+#include "history/MemoryKeyStore.h"
+
+#include <QCoreApplication>
+#include <QCoroTask>
+#include <QTemporaryDir>
+#include <QUuid>
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <memory>
+
+namespace vellumry::bench {
+
+namespace {
+
+constexpr int copies = 300;
+
+/// A file with the same table and settings, whose rows are made beforehand.
+class PlainInserter {
+public:
+    explicit PlainInserter(const QString& folder) {
+        MemoryKeyStore keyStore;
+        // The constructor of the product's own database sets the file up; only then does this connection open it.
+        (void)ClipDatabase::openHistory(folder, keyStore);
+        m_file = std::make_unique<SQLiteDatabase>(folder + u'/' + historyfile::fileName,
+                                                  SQLiteDatabase::Access::readWrite);
+    }
+
+    /// A row with `meta` and `payload` as large as a clip's with that much text has them.
+    void insert(qsizetype textLength) {
+        const QByteArray meta(textLength + std::min<qsizetype>(textLength, 300) + 250, 'm');
+        const QByteArray payload(textLength + 200, 'p');
+        const std::array<SQLValue, 10> values{cliprows::uuidString(QUuid::createUuid()),
+                                              qint64{0},
+                                              1.8e9,
+                                              1.8e9,
+                                              qint64{0},
+                                              std::monostate(),
+                                              QString::number(++m_count).rightJustified(64, u'0'),
+                                              qint64{textLength},
+                                              meta,
+                                              payload};
+        auto statement = m_file->prepare(
+            "INSERT OR REPLACE INTO clips (id, kind, created, used, pinned, expires, fingerprint, size, meta, payload)\n"
+            "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?);");
+        statement.bind(values);
+        statement.step();
+    }
+
+private:
+    std::unique_ptr<SQLiteDatabase> m_file;
+    int m_count = 0;
+};
+
+ClipDraft draftOf(qsizetype length, int number) {
+    Clip clip;
+    clip.searchText = StoredText::fromUtf8(QByteArray::number(number).leftJustified(length, 'x', true));
+    ClipDraft draft;
+    draft.searchText = clip.searchText.toString();
+    draft.title = draft.searchText.left(300);
+    draft.payload = Corpus::payloadOf(clip);
+    return draft;
+}
+
+void benchAdd(qsizetype length) {
+    QTemporaryDir plainFolder;
+    QTemporaryDir folder;
+    PlainInserter plain(plainFolder.path());
+    MemoryKeyStore keyStore;
+    const auto store = QCoro::waitFor(
+        ClipStore::open(ClipDatabase::openHistory(folder.path(), keyStore).database, RetentionPolicy(), false));
+    std::vector<double> inserts;
+    std::vector<double> adds;
+    for (int copy = 0; copy < copies; ++copy) {
+        inserts.push_back(milliseconds([&] { plain.insert(length); }));
+        const ClipDraft draft = draftOf(length, copy);
+        adds.push_back(milliseconds([&] { keep(QCoro::waitFor(store->add(draft, 1.8e9 + copy))); }));
+    }
+    std::printf("%10lld %6zu | %10.3f | %10.3f %6.2f\n", static_cast<long long>(length), store->clips().size(),
+                median(inserts), median(adds), median(adds) / median(inserts));
+}
+
+} // namespace
+
+} // namespace vellumry::bench
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    std::printf("%10s %6s | %10s | %10s %6s\n", "characters", "stored", "INSERT ms", "add ms", "ratio");
+    for (const qsizetype length : {18, 720, 20'000, 500'000})
+        vellumry::bench::benchAdd(length);
+    return 0;
+}

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// From the history file to a complete store, against reading the same rows and opening them with AES-GCM: `bench_launch [--large]`.
+
+#include "Corpus.h"
+#include "Measure.h"
+#include "history/ClipDatabase.h"
+#include "history/ClipRows.h"
+#include "history/ClipStore.h"
+#include "history/HistoryFile.h"
+#include "history/MemoryKeyStore.h"
+
+#include <QCoreApplication>
+#include <QCoroTask>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <openssl/evp.h>
+
+namespace vellumry::bench {
+
+namespace {
+
+constexpr int runs = 7;
+
+void fill(const QString& folder, KeyStore& keyStore, const std::vector<ClipRef>& clips) {
+    const auto crypto = ClipDatabase::openHistory(folder, keyStore).database->crypto();
+    SQLiteDatabase file(folder + u'/' + historyfile::fileName, SQLiteDatabase::Access::readWrite);
+    file.execute("BEGIN");
+    for (const ClipRef& clip : clips)
+        cliprows::write(file, crypto, *clip, Corpus::payloadOf(*clip));
+    file.execute("COMMIT");
+    file.execute("PRAGMA wal_checkpoint(TRUNCATE);");
+}
+
+/// Opens sealed bytes with one context that is set up once; as little as it can be.
+class Opener {
+public:
+    explicit Opener(const SymmetricKey& key) : m_context(EVP_CIPHER_CTX_new(), EVP_CIPHER_CTX_free) {
+        EVP_DecryptInit_ex(m_context.get(), EVP_aes_256_gcm(), nullptr, key.bytes().data(), nullptr);
+    }
+    bool open(QByteArrayView sealed) {
+        const auto* const nonce = reinterpret_cast<const unsigned char*>(sealed.data());
+        const auto length = static_cast<int>(sealed.size() - ClipCrypto::overhead);
+        m_plain.resize(length + 16);
+        int written = 0;
+        QByteArray tag = sealed.last(ClipCrypto::tagSize).toByteArray();
+        EVP_DecryptInit_ex(m_context.get(), nullptr, nullptr, nullptr, nonce);
+        EVP_DecryptUpdate(m_context.get(), reinterpret_cast<unsigned char*>(m_plain.data()), &written,
+                          nonce + ClipCrypto::nonceSize, length);
+        EVP_CIPHER_CTX_ctrl(m_context.get(), EVP_CTRL_AEAD_SET_TAG, ClipCrypto::tagSize, tag.data());
+        return EVP_DecryptFinal_ex(m_context.get(), reinterpret_cast<unsigned char*>(m_plain.data()) + written,
+                                   &written) == 1;
+    }
+
+private:
+    std::unique_ptr<EVP_CIPHER_CTX, decltype(&EVP_CIPHER_CTX_free)> m_context;
+    QByteArray m_plain;
+};
+
+/// What no program that has these rows can do without.
+std::size_t readAndOpen(const QString& folder, const SymmetricKey& key) {
+    SQLiteDatabase file(folder + u'/' + historyfile::fileName, SQLiteDatabase::Access::readOnly);
+    Opener opener(key);
+    auto rows = file.prepare("SELECT id, kind, created, used, pinned, expires, fingerprint, size, meta FROM clips "
+                             "ORDER BY used DESC;");
+    std::size_t opened = 0;
+    while (rows.step())
+        opened += opener.open(rows.blob(8)) ? 1 : 0;
+    return opened;
+}
+
+void benchLaunch(std::size_t count) {
+    QTemporaryDir folder;
+    MemoryKeyStore keyStore;
+    fill(folder.path(), keyStore, Corpus(42).clips(count));
+    std::vector<double> floors;
+    std::vector<double> opens;
+    std::vector<double> loads;
+    std::size_t loaded = 0;
+    for (int run = 0; run < runs; ++run) {
+        floors.push_back(milliseconds([&] { keep(readAndOpen(folder.path(), *keyStore.load())); }));
+        OpenedHistory history;
+        opens.push_back(milliseconds([&] { history = ClipDatabase::openHistory(folder.path(), keyStore); }));
+        std::unique_ptr<ClipStore> store;
+        loads.push_back(milliseconds(
+            [&] { store = QCoro::waitFor(ClipStore::open(history.database, RetentionPolicy(), false)); }));
+        loaded = store->clips().size();
+    }
+    std::printf("%9zu %9zu | %10.1f | %10.1f %6.2f | %12.1f %6.2f\n", count, loaded, median(floors), median(loads),
+                median(loads) / median(floors), median(opens), (median(loads) + median(opens)) / median(floors));
+}
+
+} // namespace
+
+} // namespace vellumry::bench
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    const bool isLarge = argc > 1 && std::strcmp(argv[1], "--large") == 0;
+    std::printf("%9s %9s | %10s | %10s %6s | %12s %6s\n", "rows", "clips", "floor ms", "load ms", "ratio",
+                "file check ms", "both");
+    vellumry::bench::benchLaunch(10'000);
+    vellumry::bench::benchLaunch(100'000);
+    if (isLarge)
+        vellumry::bench::benchLaunch(1'000'000);
+    return 0;
+}
