@@ -9,7 +9,8 @@
 namespace vellumry {
 
 PanelModel::PanelModel(ClipStore& store, PasteEngine& paster, PanelModelCalendar calendar, QObject* parent)
-    : QObject(parent), d(std::make_unique<Private>(store, paster, std::move(calendar))) {
+    : QObject(parent)
+    , d(std::make_unique<Private>(store, paster, std::move(calendar))) {
     d->hasAccessibility = paster.isTrusted();
     connect(&store, &ClipStore::clipsChanged, this, &PanelModel::sectionsChanged);
 }
@@ -117,19 +118,47 @@ void PanelModel::setAvailablePinnedNumbers(const QSet<int>& numbers) {
         Q_EMIT availablePinnedNumbersChanged();
 }
 
-ClipStore& PanelModel::store() const { return d->store; }
-const QString& PanelModel::query() const { return d->query; }
-ClipFilter PanelModel::filter() const { return d->filter; }
-std::optional<QUuid> PanelModel::hoveredID() const { return d->hoveredID; }
-int PanelModel::focusToken() const { return d->focusToken; }
-bool PanelModel::isPresented() const { return d->isPresented; }
-bool PanelModel::hasAccessibility() const { return d->hasAccessibility; }
-const PanelModel::FileStatuses& PanelModel::fileStatuses() const { return d->fileStatuses; }
-std::optional<QUuid> PanelModel::transformClipID() const { return d->transformClipID; }
-int PanelModel::transformIndex() const { return d->transformIndex; }
-const QSet<int>& PanelModel::availablePinnedNumbers() const { return d->availablePinnedNumbers; }
-std::optional<QUuid> PanelModel::selectedID() const { return d->selectedID; }
-const QSet<QUuid>& PanelModel::selectedIDs() const { return d->selectedIDs; }
-std::optional<QUuid> PanelModel::anchorID() const { return d->anchorID; }
+ClipStore& PanelModel::store() const {
+    return d->store;
+}
+const QString& PanelModel::query() const {
+    return d->query;
+}
+ClipFilter PanelModel::filter() const {
+    return d->filter;
+}
+std::optional<QUuid> PanelModel::hoveredID() const {
+    return d->hoveredID;
+}
+int PanelModel::focusToken() const {
+    return d->focusToken;
+}
+bool PanelModel::isPresented() const {
+    return d->isPresented;
+}
+bool PanelModel::hasAccessibility() const {
+    return d->hasAccessibility;
+}
+const PanelModel::FileStatuses& PanelModel::fileStatuses() const {
+    return d->fileStatuses;
+}
+std::optional<QUuid> PanelModel::transformClipID() const {
+    return d->transformClipID;
+}
+int PanelModel::transformIndex() const {
+    return d->transformIndex;
+}
+const QSet<int>& PanelModel::availablePinnedNumbers() const {
+    return d->availablePinnedNumbers;
+}
+std::optional<QUuid> PanelModel::selectedID() const {
+    return d->selectedID;
+}
+const QSet<QUuid>& PanelModel::selectedIDs() const {
+    return d->selectedIDs;
+}
+std::optional<QUuid> PanelModel::anchorID() const {
+    return d->anchorID;
+}
 
 } // namespace vellumry

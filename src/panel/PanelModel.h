@@ -26,11 +26,11 @@ struct CopyOutcome;
 struct FileStatus;
 struct PasteOutcome;
 
-/// What the panel shows and what its keys do: the list in its sections, the selection, the numbers on the rows, and the actions
-/// on clips. The views read it and decide nothing.
+/// What the panel shows and what its keys do: the list in its sections, the selection, the numbers on the rows, and the
+/// actions on clips. The views read it and decide nothing.
 ///
-/// Main thread. Actions that wait (paste, copy, pin, delete, merge) run on by themselves; they survive the panel being closed,
-/// and end quietly when the model goes. Closures must not delete the model.
+/// Main thread. Actions that wait (paste, copy, pin, delete, merge) run on by themselves; they survive the panel being
+/// closed, and end quietly when the model goes. Closures must not delete the model.
 class PanelModel : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
@@ -72,8 +72,8 @@ public:
     enum class MergeAction : quint8 { stay, paste, copy };
 
     /// The rows of the transform list, from the top.
-    static constexpr std::array transformList{TextTransform::lowercase,     TextTransform::uppercase,
-                                              TextTransform::titleCase,     TextTransform::sentenceCase,
+    static constexpr std::array transformList{TextTransform::lowercase,      TextTransform::uppercase,
+                                              TextTransform::titleCase,      TextTransform::sentenceCase,
                                               TextTransform::trimWhitespace, TextTransform::removeLineBreaks};
 
     using FileStatuses = QHash<QUuid, std::vector<FileStatus>>;
@@ -131,8 +131,8 @@ public:
 
     /// True when the command was handled.
     bool handle(Command command);
-    /// A key with Command (Ctrl) held. `flags` are bits of `eventflag`; `hasTextSelection`: part of the search text is selected.
-    /// False leaves the key to the search field.
+    /// A key with Command (Ctrl) held. `flags` are bits of `eventflag`; `hasTextSelection`: part of the search text is
+    /// selected. False leaves the key to the search field.
     bool keyEquivalent(quint16 keyCode, quint32 flags, bool hasTextSelection);
     /// Closes the panel, then pastes. `isPlain` false means the user's default.
     void pasteClip(const ClipRef& clip, bool isPlain, std::optional<TextTransform> transform = std::nullopt);

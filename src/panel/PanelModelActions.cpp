@@ -48,9 +48,12 @@ void PanelModel::pasteFileNames(const ClipRef& clip) {
     runPasteText(names.join(u'\n'));
 }
 
-void PanelModel::copyClip(const ClipRef& clip) { runCopy(clip); }
+void PanelModel::copyClip(const ClipRef& clip) {
+    runCopy(clip);
+}
 
-QCoro::Task<void> PanelModel::runPaste(ClipRef clip, std::optional<bool> isPlain, std::optional<TextTransform> transform) {
+QCoro::Task<void> PanelModel::runPaste(ClipRef clip, std::optional<bool> isPlain,
+                                       std::optional<TextTransform> transform) {
     const QPointer<PanelModel> self(this);
     const auto outcome = co_await d->paster.paste(clip, isPlain, transform);
     if (self)
@@ -113,7 +116,9 @@ void PanelModel::selectAfterDeleting(const std::vector<ClipRef>& doomed) {
     select(previous == clips.rend() ? std::nullopt : std::optional((*previous)->id));
 }
 
-QCoro::Task<void> PanelModel::runDelete(QSet<QUuid> ids) { co_await d->store.remove(std::move(ids), false); }
+QCoro::Task<void> PanelModel::runDelete(QSet<QUuid> ids) {
+    co_await d->store.remove(std::move(ids), false);
+}
 
 void PanelModel::toggleTransforms() {
     if (isTransformListOpen()) {
@@ -169,7 +174,8 @@ QCoro::Task<void> PanelModel::runMerge(std::vector<ClipRef> clips, MergeAction a
     }
 }
 
-/// The stored clip; null when one of `clips` cannot be read, they cannot be merged, or the store does not take the result.
+/// The stored clip; null when one of `clips` cannot be read, they cannot be merged, or the store does not take the
+/// result.
 QCoro::Task<ClipRef> PanelModel::addMerged(std::vector<ClipRef> clips) {
     const QPointer<PanelModel> self(this);
     ClipMerger::Payloads payloads;
@@ -188,8 +194,12 @@ QCoro::Task<ClipRef> PanelModel::addMerged(std::vector<ClipRef> clips) {
     co_return merged;
 }
 
-void PanelModel::pasteSelectedOneByOne() { onToggleStack(selectedClipsInCopyOrder()); }
+void PanelModel::pasteSelectedOneByOne() {
+    onToggleStack(selectedClipsInCopyOrder());
+}
 
-void PanelModel::addSelectedToStack() { onAddToStack(selectedClipsInCopyOrder()); }
+void PanelModel::addSelectedToStack() {
+    onAddToStack(selectedClipsInCopyOrder());
+}
 
 } // namespace vellumry

@@ -13,7 +13,9 @@ namespace vellumry {
 
 namespace {
 
-Date startOf(QDate day, const QTimeZone& zone) { return Date(day.startOfDay(zone).toMSecsSinceEpoch()) / 1000; }
+Date startOf(QDate day, const QTimeZone& zone) {
+    return Date(day.startOfDay(zone).toMSecsSinceEpoch()) / 1000;
+}
 
 /// `day` in the order and with the words of the locale's language, with the fields that `skeleton` names (CLDR).
 QString inFieldsOf(const char16_t* skeleton, QDate day, const QLocale& locale) {

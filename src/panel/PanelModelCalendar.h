@@ -11,7 +11,8 @@
 
 namespace vellumry {
 
-/// The user's clock, time zone and language, for naming days. Asked anew each time, so that a journey or midnight counts.
+/// The user's clock, time zone and language, for naming days. Asked anew each time, so that a journey or midnight
+/// counts.
 struct PanelModelCalendar {
     Clock now = currentDate;
     std::function<QTimeZone()> timeZone = QTimeZone::systemTimeZone;
@@ -35,8 +36,8 @@ struct DayLabel {
 [[nodiscard]] QDate dayOf(Date date, const QTimeZone& zone);
 /// The day around `date`; 23 or 25 hours long where the clocks change.
 [[nodiscard]] DayInterval dayInterval(Date date, const QTimeZone& zone);
-/// "Today", "Yesterday", the weekday within the last six days (and for what lies ahead), else day and month, with the year if
-/// it is not this one.
+/// "Today", "Yesterday", the weekday within the last six days (and for what lies ahead), else day and month, with the
+/// year if it is not this one.
 [[nodiscard]] DayLabel dayLabel(Date date, Date now, const QTimeZone& zone, const QLocale& locale);
 
 } // namespace vellumry

@@ -38,7 +38,9 @@ void PanelModel::setTransform(std::optional<QUuid> clipID, int index) {
     Q_EMIT transformChanged();
 }
 
-void PanelModel::closeTransformList() { setTransform(std::nullopt, d->transformIndex); }
+void PanelModel::closeTransformList() {
+    setTransform(std::nullopt, d->transformIndex);
+}
 
 bool PanelModel::handle(Command command) {
     if (isTransformListOpen() && handleInTransformList(command))

@@ -17,8 +17,10 @@ struct TextStretch {
 /// Where `text` first holds `query`, without regard to case, diacritics and width. Nothing for an empty query. Pure.
 [[nodiscard]] std::optional<TextStretch> foldedRange(const QString& query, const QString& text);
 
-/// What a row shows of an image's text around the hit of `query`: 14 characters before it, from the beginning of a word, and 28
-/// behind. Nothing when the query is blank, when the title shows the hit already, and when the text has none. Pure.
-[[nodiscard]] std::optional<QString> imageTextExcerpt(const QString& query, const QString& title, const QString& imageText);
+/// What a row shows of an image's text around the hit of `query`: 14 characters before it, from the beginning of a
+/// word, and 28 behind. Nothing when the query is blank, when the title shows the hit already, and when the text has
+/// none. Pure.
+[[nodiscard]] std::optional<QString> imageTextExcerpt(const QString& query, const QString& title,
+                                                      const QString& imageText);
 
 } // namespace vellumry

@@ -15,17 +15,21 @@ namespace {
 constexpr int numberedRows = 9;
 
 void sortInPinOrder(std::vector<ClipRef>& clips) {
-    std::ranges::stable_sort(clips, {}, [](const ClipRef& clip) { return std::tuple(clip->pinOrder, clip->createdAt); });
+    std::ranges::stable_sort(clips, {},
+                             [](const ClipRef& clip) { return std::tuple(clip->pinOrder, clip->createdAt); });
 }
 
 bool isOutOfReach(const std::vector<FileStatus>& statuses) {
-    return !statuses.empty() && std::ranges::none_of(statuses, [](const FileStatus& status) { return status.path().has_value(); });
+    return !statuses.empty() &&
+           std::ranges::none_of(statuses, [](const FileStatus& status) { return status.path().has_value(); });
 }
 
 } // namespace
 
 /// True for the whole history, pins on top and the days below.
-bool PanelModel::Private::isPlainList() const { return filter != ClipFilter::pinned && text::isBlank(query); }
+bool PanelModel::Private::isPlainList() const {
+    return filter != ClipFilter::pinned && text::isBlank(query);
+}
 
 PanelModel::Private::CacheKey PanelModel::Private::key() {
     const Date now = calendar.now();
@@ -92,9 +96,13 @@ std::vector<PanelModel::Section> PanelModel::Private::sectionsByDay(const std::v
     return sections;
 }
 
-const std::vector<PanelModel::Section>& PanelModel::sections() const { return d->current().sections; }
+const std::vector<PanelModel::Section>& PanelModel::sections() const {
+    return d->current().sections;
+}
 
-const std::vector<ClipRef>& PanelModel::visibleClips() const { return d->current().visible; }
+const std::vector<ClipRef>& PanelModel::visibleClips() const {
+    return d->current().visible;
+}
 
 QHash<QUuid, int> PanelModel::rowNumbers() const {
     const bool skipsPins = d->isPlainList();

@@ -34,7 +34,9 @@ struct PanelModel::Private {
     };
 
     Private(ClipStore& clipStore, PasteEngine& engine, PanelModelCalendar userCalendar)
-        : store(clipStore), paster(engine), calendar(std::move(userCalendar)) {}
+        : store(clipStore)
+        , paster(engine)
+        , calendar(std::move(userCalendar)) {}
 
     [[nodiscard]] bool isPlainList() const;
     [[nodiscard]] CacheKey key();

@@ -41,7 +41,9 @@ std::vector<ClipRef> inCopyOrder(std::vector<ClipRef> clips) {
     return clips;
 }
 
-std::vector<ClipRef> PanelModel::selectedClipsInCopyOrder() const { return inCopyOrder(selectedClips()); }
+std::vector<ClipRef> PanelModel::selectedClipsInCopyOrder() const {
+    return inCopyOrder(selectedClips());
+}
 
 bool PanelModel::isSelected(const QUuid& id) const {
     return d->selectedIDs.size() < 2 ? d->selectedID == id : d->selectedIDs.contains(id);
@@ -51,7 +53,9 @@ int PanelModel::selectedCount() const {
     return d->selectedIDs.size() < 2 ? int(d->selectedID.has_value()) : int(d->selectedIDs.size());
 }
 
-int PanelModel::selectedIndex() const { return int(visibleIndex(d->selectedID)); }
+int PanelModel::selectedIndex() const {
+    return int(visibleIndex(d->selectedID));
+}
 
 void PanelModel::setSelection(std::optional<QUuid> primary, QSet<QUuid> several, std::optional<QUuid> anchor) {
     d->anchorID = anchor;
@@ -64,9 +68,13 @@ void PanelModel::setSelection(std::optional<QUuid> primary, QSet<QUuid> several,
         Q_EMIT selectionChanged();
 }
 
-void PanelModel::select(std::optional<QUuid> id) { setSelection(id, {}, id); }
+void PanelModel::select(std::optional<QUuid> id) {
+    setSelection(id, {}, id);
+}
 
-void PanelModel::selectOnly(const QUuid& id) { select(id); }
+void PanelModel::selectOnly(const QUuid& id) {
+    select(id);
+}
 
 void PanelModel::resetSelection() {
     closeTransformList();
@@ -137,8 +145,7 @@ void PanelModel::toggleSelection(const QUuid& id) {
         primary = id;
     } else if (primary == id) {
         const auto& clips = visibleClips();
-        const auto left =
-            std::ranges::find_if(clips, [&](const ClipRef& clip) { return working.contains(clip->id); });
+        const auto left = std::ranges::find_if(clips, [&](const ClipRef& clip) { return working.contains(clip->id); });
         primary = left == clips.end() ? std::nullopt : std::optional((*left)->id);
     }
     if (working.size() < 2) {

@@ -5,7 +5,8 @@
 
 namespace vellumry {
 
-HotKeyCenter::HotKeyCenter(HotKeyRegistrar& registrar) : m_registrar(registrar) {
+HotKeyCenter::HotKeyCenter(HotKeyRegistrar& registrar)
+    : m_registrar(registrar) {
     m_registrar.onPressed = [this](quint32 id) { press(id); };
 }
 

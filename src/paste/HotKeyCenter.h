@@ -11,8 +11,8 @@ namespace vellumry {
 
 class HotKeyRegistrar;
 
-/// Joins global key combinations with what they do. Takes the registrar's `onPressed` for itself; gives all keys back when it
-/// goes. Main thread.
+/// Joins global key combinations with what they do. Takes the registrar's `onPressed` for itself; gives all keys back
+/// when it goes. Main thread.
 class HotKeyCenter {
 public:
     using Action = std::function<void()>;
@@ -23,8 +23,8 @@ public:
     HotKeyCenter(const HotKeyCenter&) = delete;
     HotKeyCenter& operator=(const HotKeyCenter&) = delete;
 
-    /// The id of the registration; nothing when the combination is taken. An id is never used twice in a run, that of a failed
-    /// registration included, so that a late key press cannot reach a newer action.
+    /// The id of the registration; nothing when the combination is taken. An id is never used twice in a run, that of a
+    /// failed registration included, so that a late key press cannot reach a newer action.
     [[nodiscard]] std::optional<quint32> registerShortcut(const Shortcut& shortcut, Action action);
     /// An unknown id does nothing.
     void unregister(quint32 id);

@@ -29,7 +29,9 @@ FileRef referenceTo(const QString& path, const std::vector<FileRef>& files) {
 } // namespace
 
 PasteEngine::PasteEngine(ClipStore& store, const UserDefaults& preferences, SystemHooks system)
-    : m_store(&store), m_preferences(&preferences), m_system(std::move(system)) {}
+    : m_store(&store)
+    , m_preferences(&preferences)
+    , m_system(std::move(system)) {}
 
 QCoro::Task<PasteOutcome> PasteEngine::paste(ClipRef clip, std::optional<bool> isPlain,
                                              std::optional<TextTransform> transform) {
@@ -182,7 +184,8 @@ bool PasteEngine::isPlainByDefault(ClipKind kind) const {
     return hasPlainForm && m_preferences->boolean(QStringLiteral("plainTextByDefault"));
 }
 
-bool PasteEngine::write(const std::vector<PasteboardItem>& items, bool isPlain, std::optional<TextTransform> transform) {
+bool PasteEngine::write(const std::vector<PasteboardItem>& items, bool isPlain,
+                        std::optional<TextTransform> transform) {
     if (transform) {
         if (const auto text = plainText(items))
             return PasteboardWriter::writeText(apply(*transform, *text), *m_system.pasteboard);

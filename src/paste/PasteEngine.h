@@ -17,9 +17,9 @@ namespace vellumry {
 class ClipStore;
 class UserDefaults;
 
-/// Puts a clip where the user was typing: loads it, finds its files again, writes the pasteboard, records the use, and presses
-/// the keys if it may. Nothing throws; each result is an outcome. Keeps no state between two pastes, and asks the settings each
-/// time. Main thread. What still runs when the engine goes ends without an effect.
+/// Puts a clip where the user was typing: loads it, finds its files again, writes the pasteboard, records the use, and
+/// presses the keys if it may. Nothing throws; each result is an outcome. Keeps no state between two pastes, and asks
+/// the settings each time. Main thread. What still runs when the engine goes ends without an effect.
 class PasteEngine {
 public:
     /// `store`, `preferences` and what `system` names must outlive the engine.
@@ -36,10 +36,10 @@ public:
     /// Presses the keys for what was written already, if it may and the target has its focus back.
     QCoro::Task<PasteOutcome> deliver();
 
-    /// The items with their files' present URLs; items of files that cannot be had are left out. Nothing when none of the files
-    /// can be had.
-    [[nodiscard]] QCoro::Task<std::optional<std::vector<PasteboardItem>>> resolvingFiles(std::vector<PasteboardItem> items,
-                                                                                         std::vector<FileRef> files);
+    /// The items with their files' present URLs; items of files that cannot be had are left out. Nothing when none of
+    /// the files can be had.
+    [[nodiscard]] QCoro::Task<std::optional<std::vector<PasteboardItem>>>
+    resolvingFiles(std::vector<PasteboardItem> items, std::vector<FileRef> files);
     /// One status for each of `files`; nothing when the disk does not answer in time.
     [[nodiscard]] QCoro::Task<std::optional<std::vector<FileStatus>>> fileStatuses(std::vector<FileRef> files);
     /// The paths of the items' files, in their order.
@@ -58,7 +58,8 @@ private:
     ClipStore* m_store;
     const UserDefaults* m_preferences;
     SystemHooks m_system;
-    std::shared_ptr<bool> m_life = std::make_shared<bool>(true); ///< tells a waiting task whether the engine still stands
+    std::shared_ptr<bool> m_life =
+        std::make_shared<bool>(true); ///< tells a waiting task whether the engine still stands
 };
 
 } // namespace vellumry

@@ -10,10 +10,10 @@ namespace vellumry {
 
 /// Why a clip went to the pasteboard only.
 enum class PasteReason : quint8 {
-    notTrusted = 0,      ///< we may not press keys in this session
-    secureInput = 1,     ///< a password field has the focus, or another program holds the keyboard
-    directPasteOff = 2,  ///< the user wants it so
-    targetGone = 3       ///< the window that the user was typing in did not get its focus back
+    notTrusted = 0,     ///< we may not press keys in this session
+    secureInput = 1,    ///< a password field has the focus, or another program holds the keyboard
+    directPasteOff = 2, ///< the user wants it so
+    targetGone = 3      ///< the window that the user was typing in did not get its focus back
 };
 
 /// What became of a paste.

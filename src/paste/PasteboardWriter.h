@@ -10,13 +10,13 @@ namespace vellumry {
 
 class Pasteboard;
 
-/// Puts clips back on the pasteboard, each time with the program's own marker on the first item, so that the watcher knows the
-/// change for the program's own. Main thread. True means that the pasteboard took the data.
+/// Puts clips back on the pasteboard, each time with the program's own marker on the first item, so that the watcher
+/// knows the change for the program's own. Main thread. True means that the pasteboard took the data.
 class PasteboardWriter {
 public:
     /// Writes the items byte for byte, without what marks a copy for other programs and without types that only meant
-    /// something to the program copied from; a refusal leaves the pasteboard empty. As plain text: the text that stands for the
-    /// items; without any, false, and the pasteboard keeps what it held.
+    /// something to the program copied from; a refusal leaves the pasteboard empty. As plain text: the text that stands
+    /// for the items; without any, false, and the pasteboard keeps what it held.
     [[nodiscard]] static bool write(const std::vector<PasteboardItem>& items, bool asPlainText, Pasteboard& pasteboard);
 
     [[nodiscard]] static bool writeText(const QString& text, Pasteboard& pasteboard);

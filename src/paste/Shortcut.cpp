@@ -21,9 +21,10 @@ constexpr std::array<quint16, 9> digitKeyCodes{18, 19, 20, 21, 23, 22, 26, 28, 2
 constexpr std::array<quint16, 10> modifierKeyCodes{55, 54, 56, 60, 58, 61, 59, 62, 57, 63};
 
 constexpr std::array<std::pair<quint32, const char*>, 26> keyNames{{
-    {36, "↩"},  {48, "⇥"},  {49, "Space"}, {51, "⌫"},  {53, "⎋"},  {96, "F5"}, {97, "F6"},  {98, "F7"},  {99, "F3"},
-    {100, "F8"}, {101, "F9"}, {103, "F11"},  {109, "F10"}, {111, "F12"}, {115, "↖"}, {116, "⇞"},  {117, "⌦"},  {118, "F4"},
-    {119, "↘"}, {120, "F2"}, {121, "⇟"},   {122, "F1"},  {123, "←"},  {124, "→"}, {125, "↓"},  {126, "↑"},
+    {36, "↩"},   {48, "⇥"},  {49, "Space"}, {51, "⌫"},   {53, "⎋"},    {96, "F5"},   {97, "F6"},
+    {98, "F7"},  {99, "F3"}, {100, "F8"},   {101, "F9"}, {103, "F11"}, {109, "F10"}, {111, "F12"},
+    {115, "↖"},  {116, "⇞"}, {117, "⌦"},    {118, "F4"}, {119, "↘"},   {120, "F2"},  {121, "⇟"},
+    {122, "F1"}, {123, "←"}, {124, "→"},    {125, "↓"},  {126, "↑"},
 }};
 
 QString keyName(quint32 keyCode, const KeyboardLayout& layout) {
@@ -77,7 +78,8 @@ Shortcut Shortcut::pinned(int number) {
 }
 
 QByteArray Shortcut::toJson() const {
-    const QJsonObject object{{QStringLiteral("keyCode"), qint64(keyCode)}, {QStringLiteral("modifiers"), qint64(modifiers)}};
+    const QJsonObject object{{QStringLiteral("keyCode"), qint64(keyCode)},
+                             {QStringLiteral("modifiers"), qint64(modifiers)}};
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 

@@ -49,8 +49,8 @@ struct Shortcut {
     /// Reads a stored preference. Nothing when it is missing, no bytes, no JSON, or holds numbers out of range.
     [[nodiscard]] static std::optional<Shortcut> fromStored(const QVariant& value);
 
-    /// The words for the combination: modifiers in a fixed order, then the key. "#" and the code for a key that `layout` has no
-    /// character for. Main thread.
+    /// The words for the combination: modifiers in a fixed order, then the key. "#" and the code for a key that
+    /// `layout` has no character for. Main thread.
     [[nodiscard]] QString display(const KeyboardLayout& layout) const;
 };
 

@@ -11,9 +11,14 @@ namespace vellumry {
 
 ShortcutRegistrations::ShortcutRegistrations(const UserDefaults& preferences, HotKeyCenter& center,
                                              const KeyboardLayout& layout, Actions actions)
-    : m_preferences(preferences), m_center(center), m_layout(layout), m_actions(std::move(actions)) {}
+    : m_preferences(preferences)
+    , m_center(center)
+    , m_layout(layout)
+    , m_actions(std::move(actions)) {}
 
-ShortcutRegistrations::~ShortcutRegistrations() { suspend(); }
+ShortcutRegistrations::~ShortcutRegistrations() {
+    suspend();
+}
 
 QStringList ShortcutRegistrations::reload() {
     suspend();
@@ -37,7 +42,8 @@ void ShortcutRegistrations::addChosen(const QString& key, const Shortcut& standa
         return;
     const Shortcut shortcut = Shortcut::fromStored(m_preferences.object(key)).value_or(standard);
     if (!add(shortcut, action))
-        problems.append(localised("%1 is already used by another app. Pick another shortcut.").arg(shortcut.display(m_layout)));
+        problems.append(
+            localised("%1 is already used by another app. Pick another shortcut.").arg(shortcut.display(m_layout)));
 }
 
 bool ShortcutRegistrations::add(const Shortcut& shortcut, std::function<void()> action) {

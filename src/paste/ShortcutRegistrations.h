@@ -13,8 +13,8 @@ namespace vellumry {
 class HotKeyCenter;
 class UserDefaults;
 
-/// The program's global shortcuts as the settings have them: the panel's, the Paste Stack's, and those of the pinned clips.
-/// Main thread.
+/// The program's global shortcuts as the settings have them: the panel's, the Paste Stack's, and those of the pinned
+/// clips. Main thread.
 class ShortcutRegistrations {
 public:
     /// What the shortcuts do. A key whose action is not set is left to other programs.
@@ -25,13 +25,14 @@ public:
     };
 
     /// The references must outlive the registrations.
-    ShortcutRegistrations(const UserDefaults& preferences, HotKeyCenter& center, const KeyboardLayout& layout, Actions actions);
+    ShortcutRegistrations(const UserDefaults& preferences, HotKeyCenter& center, const KeyboardLayout& layout,
+                          Actions actions);
     ~ShortcutRegistrations();
     ShortcutRegistrations(const ShortcutRegistrations&) = delete;
     ShortcutRegistrations& operator=(const ShortcutRegistrations&) = delete;
 
-    /// Registers everything anew. One sentence for the user for each of the two chosen shortcuts that another program holds; a
-    /// taken shortcut of a pinned clip is no problem, it only does not count.
+    /// Registers everything anew. One sentence for the user for each of the two chosen shortcuts that another program
+    /// holds; a taken shortcut of a pinned clip is no problem, it only does not count.
     QStringList reload();
     /// Gives all keys back until the next `reload`, so that they reach a recorder.
     void suspend();
@@ -42,7 +43,8 @@ public:
 
 private:
     [[nodiscard]] bool add(const Shortcut& shortcut, std::function<void()> action);
-    void addChosen(const QString& key, const Shortcut& standard, const std::function<void()>& action, QStringList& problems);
+    void addChosen(const QString& key, const Shortcut& standard, const std::function<void()>& action,
+                   QStringList& problems);
     void addPinned();
 
     const UserDefaults& m_preferences;

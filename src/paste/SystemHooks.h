@@ -16,8 +16,8 @@ namespace vellumry {
 class PasteTarget;
 class Pasteboard;
 
-/// Everything through which the paste engine reaches the outside, so that its decisions run without any of it. Called on the
-/// main thread.
+/// Everything through which the paste engine reaches the outside, so that its decisions run without any of it. Called
+/// on the main thread.
 struct SystemHooks {
     using FileJob = std::function<std::vector<FileStatus>()>;
 

@@ -11,14 +11,18 @@ const QString one = QStringLiteral("/home/u/one.txt");
 const QString two = QStringLiteral("/home/u/two.txt");
 const QString three = QStringLiteral("/home/u/three.txt");
 
-ClipRef threeFiles(PasteWorld& world) { return world.add(drafts::files({one, two, three})); }
+ClipRef threeFiles(PasteWorld& world) {
+    return world.add(drafts::files({one, two, three}));
+}
 
 PasteOutcome paste(PasteWorld& world, const ClipRef& clip, std::optional<bool> isPlain = {},
                    std::optional<TextTransform> transform = {}) {
     return awaited(world.engine->paste(clip, isPlain, transform));
 }
 
-QStringList pastedPaths(const PasteWorld& world) { return PasteEngine::filePaths(world.pasteboard.items()); }
+QStringList pastedPaths(const PasteWorld& world) {
+    return PasteEngine::filePaths(world.pasteboard.items());
+}
 
 } // namespace
 

@@ -13,13 +13,16 @@ ToastMessage message(const char* symbol, const char* text, Tone tone) {
     return {QString::fromUtf8(symbol), QString::fromUtf8(text), tone};
 }
 
-const ToastMessage blocked = message(
-    "lock.doc.fill", "To paste files from Desktop, allow Vellumry in Privacy & Security → Files and Folders", Tone::warning);
+const ToastMessage blocked =
+    message("lock.doc.fill", "To paste files from Desktop, allow Vellumry in Privacy & Security → Files and Folders",
+            Tone::warning);
 const ToastMessage missing = message("trash.fill", "This file was deleted", Tone::warning);
 
 } // namespace
 
-TEST(PasteOutcome, APasteThatWorkedSaysNothing) { EXPECT_EQ(toastFor(PasteOutcome::pasted()), std::nullopt); }
+TEST(PasteOutcome, APasteThatWorkedSaysNothing) {
+    EXPECT_EQ(toastFor(PasteOutcome::pasted()), std::nullopt);
+}
 
 TEST(PasteOutcome, SaysWhatToDoWhenNoKeyWasPressed) {
     const auto press = message("doc.on.clipboard.fill", "Copied. Press ⌘V to paste", Tone::info);
@@ -33,7 +36,8 @@ TEST(PasteOutcome, SaysWhatToDoWhenNoKeyWasPressed) {
 TEST(PasteOutcome, SaysWhyNothingWasWritten) {
     EXPECT_EQ(toastFor(PasteOutcome::filesBlocked(QStringLiteral("Desktop"))), blocked);
     EXPECT_EQ(toastFor(PasteOutcome::fileMissing()), missing);
-    EXPECT_EQ(toastFor(PasteOutcome::failed()), message("xmark.circle.fill", "Couldn't paste this clip", Tone::warning));
+    EXPECT_EQ(toastFor(PasteOutcome::failed()),
+              message("xmark.circle.fill", "Couldn't paste this clip", Tone::warning));
 }
 
 TEST(PasteOutcome, SaysWhatBecameOfACopy) {

@@ -41,9 +41,9 @@ TEST(PasteboardWriter, WritesEachRepresentationByteForByteInItsOrder) {
 
 TEST(PasteboardWriter, KeepsSeveralItemsAndMarksTheFirstOnly) {
     FakePasteboard board;
-    EXPECT_TRUE(PasteboardWriter::write({fileItem(QStringLiteral("/a")), fileItem(QStringLiteral("/b")),
-                                         fileItem(QStringLiteral("/c"))},
-                                        false, board));
+    EXPECT_TRUE(PasteboardWriter::write(
+        {fileItem(QStringLiteral("/a")), fileItem(QStringLiteral("/b")), fileItem(QStringLiteral("/c"))}, false,
+        board));
     ASSERT_EQ(board.items().size(), 3u);
     EXPECT_TRUE(board.items()[0].representations.contains(marker));
     EXPECT_EQ(board.items()[1], fileItem(QStringLiteral("/b")));
@@ -85,8 +85,9 @@ TEST(PasteboardWriter, PutsAFileUrlFirstWhateverTheOrderSaid) {
 TEST(PasteboardWriter, OrdersByRankWhereNobodyKnewTheOrder) {
     auto copied = item({uniformtype::utf8PlainText, uniformtype::png, QStringLiteral("x-unknown"), uniformtype::rtf});
     copied.order.reset();
-    EXPECT_EQ(*PasteboardWriter::makePasteboardItem(copied, 1).order,
-              (QStringList{QStringLiteral("x-unknown"), uniformtype::rtf, uniformtype::png, uniformtype::utf8PlainText}));
+    EXPECT_EQ(
+        *PasteboardWriter::makePasteboardItem(copied, 1).order,
+        (QStringList{QStringLiteral("x-unknown"), uniformtype::rtf, uniformtype::png, uniformtype::utf8PlainText}));
 }
 
 TEST(PasteboardWriter, WritesAnItemThatHadTheMarkerOnce) {
@@ -108,8 +109,8 @@ TEST(PasteboardWriter, WritesPlainTextWithTheMarkerAndNothingElse) {
 
 TEST(PasteboardWriter, WritesTheNamesOfFilesAsPlainText) {
     FakePasteboard board;
-    EXPECT_TRUE(PasteboardWriter::write({fileItem(QStringLiteral("/x/one.txt")), fileItem(QStringLiteral("/y/two.txt"))}, true,
-                                        board));
+    EXPECT_TRUE(PasteboardWriter::write(
+        {fileItem(QStringLiteral("/x/one.txt")), fileItem(QStringLiteral("/y/two.txt"))}, true, board));
     EXPECT_EQ(board.items().front().representations.at(uniformtype::utf8PlainText), "one.txt\ntwo.txt");
 }
 

@@ -18,7 +18,9 @@ struct Keys {
     UserDefaults preferences;
     FakeKeyboardLayout layout;
     QStringList called;
-    ShortcutRegistrations registrations{preferences, center, layout,
+    ShortcutRegistrations registrations{preferences,
+                                        center,
+                                        layout,
                                         {[this] { called.append(QStringLiteral("panel")); },
                                          [this] { called.append(QStringLiteral("stack")); },
                                          [this](int number) { called.append(QString::number(number)); }}};

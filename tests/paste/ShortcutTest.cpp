@@ -55,9 +55,9 @@ TEST(Shortcut, SurvivesItsJson) {
 TEST(Shortcut, ReadsAsAbsentWhenThePreferenceIsNoShortcut) {
     EXPECT_EQ(Shortcut::fromStored({}), std::nullopt);
     EXPECT_EQ(Shortcut::fromStored(QStringLiteral(R"({"modifiers":4352,"keyCode":9})")), std::nullopt);
-    for (const auto* bytes :
-         {"", "{}", "[9,4352]", R"({"keyCode":9})", R"({"keyCode":-1,"modifiers":0})", R"({"keyCode":"9","modifiers":0})",
-          R"({"keyCode":4294967296,"modifiers":0})", R"({"keyCode":1.5,"modifiers":0})", "\xff\x00"})
+    for (const auto* bytes : {"", "{}", "[9,4352]", R"({"keyCode":9})", R"({"keyCode":-1,"modifiers":0})",
+                              R"({"keyCode":"9","modifiers":0})", R"({"keyCode":4294967296,"modifiers":0})",
+                              R"({"keyCode":1.5,"modifiers":0})", "\xff\x00"})
         EXPECT_EQ(Shortcut::fromStored(QByteArray(bytes)), std::nullopt) << bytes;
 }
 
@@ -70,10 +70,11 @@ TEST(Shortcut, ShowsModifiersInAFixedOrderBeforeTheKey) {
 
 TEST(Shortcut, NamesTheKeysThatTypeNothing) {
     const FakeKeyboardLayout layout;
-    const KeyName names[] = {{36, "↩"},   {48, "⇥"},   {51, "⌫"},   {53, "⎋"},   {96, "F5"},   {97, "F6"},  {115, "↖"},
-                             {117, "⌦"},  {98, "F7"},  {99, "F3"},  {100, "F8"}, {101, "F9"},  {103, "F11"}, {109, "F10"},
-                             {111, "F12"}, {116, "⇞"},  {118, "F4"}, {119, "↘"},  {120, "F2"},  {121, "⇟"},  {122, "F1"},
-                             {123, "←"},  {124, "→"},  {125, "↓"},  {126, "↑"}};
+    const KeyName names[] = {{36, "↩"},   {48, "⇥"},   {51, "⌫"},    {53, "⎋"},    {96, "F5"},
+                             {97, "F6"},  {115, "↖"},  {117, "⌦"},   {98, "F7"},   {99, "F3"},
+                             {100, "F8"}, {101, "F9"}, {103, "F11"}, {109, "F10"}, {111, "F12"},
+                             {116, "⇞"},  {118, "F4"}, {119, "↘"},   {120, "F2"},  {121, "⇟"},
+                             {122, "F1"}, {123, "←"},  {124, "→"},   {125, "↓"},   {126, "↑"}};
     for (const auto& [keyCode, name] : names)
         EXPECT_EQ((Shortcut{keyCode, 0}.display(layout)), QString::fromUtf8(name));
 }

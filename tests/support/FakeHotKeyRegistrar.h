@@ -17,9 +17,9 @@ class FakeHotKeyRegistrar : public HotKeyRegistrar {
 public:
     using Combination = std::pair<quint32, quint32>; ///< key code and modifiers
 
-    std::set<Combination> taken;              ///< `grab` refuses these
-    std::map<quint32, Combination> grabbed;   ///< by id, what is held now
-    std::vector<quint32> askedIDs;            ///< of each `grab`, refused ones included
+    std::set<Combination> taken;            ///< `grab` refuses these
+    std::map<quint32, Combination> grabbed; ///< by id, what is held now
+    std::vector<quint32> askedIDs;          ///< of each `grab`, refused ones included
 
     [[nodiscard]] bool grab(quint32 id, quint32 keyCode, quint32 modifiers) override {
         askedIDs.push_back(id);

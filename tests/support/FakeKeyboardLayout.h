@@ -10,8 +10,8 @@ namespace vellumry {
 /// A layout that types what `characters` says, key code by key code.
 class FakeKeyboardLayout : public KeyboardLayout {
 public:
-    std::map<quint32, QString> characters{{0, QStringLiteral("a")}, {1, QStringLiteral("s")}, {9, QStringLiteral("v")},
-                                          {20, QStringLiteral("3")}};
+    std::map<quint32, QString> characters{
+        {0, QStringLiteral("a")}, {1, QStringLiteral("s")}, {9, QStringLiteral("v")}, {20, QStringLiteral("3")}};
 
     [[nodiscard]] std::optional<quint32> keyCodeFor(QChar character) const override {
         for (const auto& [keyCode, text] : characters) {

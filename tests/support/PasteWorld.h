@@ -17,11 +17,13 @@
 
 namespace vellumry {
 
-/// A paste engine with everything around it in memory: a history, a pasteboard, files, a window in front, a clock that stands
-/// still. All answers come at once, so a whole paste runs inside the call that asks for it, unless `holdsSleep` is set.
+/// A paste engine with everything around it in memory: a history, a pasteboard, files, a window in front, a clock that
+/// stands still. All answers come at once, so a whole paste runs inside the call that asks for it, unless it was told
+/// to hold.
 struct PasteWorld {
     PasteWorld() {
-        defaults.registerDefaults({{QStringLiteral("pasteDirectly"), true}, {QStringLiteral("plainTextByDefault"), false}});
+        defaults.registerDefaults(
+            {{QStringLiteral("pasteDirectly"), true}, {QStringLiteral("plainTextByDefault"), false}});
         target.onPress = [this] { log.append(QStringLiteral("press")); };
         engine = std::make_unique<PasteEngine>(store, defaults, hooks());
         engine->onPasted = [this] { ++pastedCount; };
@@ -49,7 +51,8 @@ struct PasteWorld {
     QMap<QString, FileStatus> fileStatuses; ///< by path; a file that is not named is where it was
     std::optional<QString> blockedFolder;
     bool diskHangs = false;
-    bool holdsSleep = false;
+    bool holdsSleep = false; ///< the settle delay lasts until `wakeSleepers`
+    bool holdsFiles = false; ///< looks at files last until `wakeSleepers`
 
     QStringList log; ///< "sleep N", "focus", "press", in their order
     std::vector<QStringList> accessChecks;
@@ -58,16 +61,17 @@ struct PasteWorld {
     std::unique_ptr<PasteEngine> engine;
 
 private:
-    struct Sleep {
+    struct Wait {
         PasteWorld* world;
-        bool await_ready() const noexcept { return !world->holdsSleep; }
+        bool holds;
+        bool await_ready() const noexcept { return !holds; }
         void await_suspend(std::coroutine_handle<> handle) { world->sleepers.push_back(handle); }
         void await_resume() const noexcept {}
     };
 
     QCoro::Task<void> sleep(std::chrono::milliseconds duration) {
         log.append(QStringLiteral("sleep %1").arg(duration.count()));
-        Sleep wait{this};
+        Wait wait{this, holdsSleep};
         co_await wait;
     }
     QCoro::Task<bool> regainFocus() {
@@ -79,6 +83,8 @@ private:
         co_return FileAccess::Result{blockedFolder};
     }
     QCoro::Task<std::optional<std::vector<FileStatus>>> runFileJob(SystemHooks::FileJob job) {
+        Wait wait{this, holdsFiles};
+        co_await wait;
         if (diskHangs)
             co_return std::nullopt;
         co_return job();
