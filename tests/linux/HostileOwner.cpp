@@ -3,19 +3,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <cstring>
-#include <memory>
 
 namespace vellumry {
 
 namespace {
-
-struct Free {
-    void operator()(void* memory) const { std::free(memory); }
-};
-template <typename T>
-using Reply = std::unique_ptr<T, Free>;
 
 constexpr int chunksBeforeTheEnd = 3;
 
@@ -24,46 +16,6 @@ QByteArray raw(const std::vector<quint32>& numbers) {
 }
 
 } // namespace
-
-HostileOwner::HostileOwner(const QByteArray& display) {
-    m_connection = xcb_connect(display.constData(), nullptr);
-    if (xcb_connection_has_error(m_connection)) {
-        leave();
-        return;
-    }
-    m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
-    m_window = xcb_generate_id(m_connection);
-    const quint32 events = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, m_window, m_root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
-                      XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
-}
-
-HostileOwner::~HostileOwner() {
-    leave();
-}
-
-void HostileOwner::leave() {
-    if (m_connection)
-        xcb_disconnect(m_connection);
-    m_connection = nullptr;
-}
-
-xcb_atom_t HostileOwner::atom(const QByteArray& name) {
-    if (const auto known = m_atoms.find(name); known != m_atoms.end())
-        return known->second;
-    const auto cookie =
-        xcb_intern_atom(m_connection, 0, static_cast<quint16>(name.size()), name.constData());
-    const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_connection, cookie, nullptr));
-    const xcb_atom_t atom = reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-    m_atoms[name] = atom;
-    return atom;
-}
-
-QByteArray HostileOwner::atomName(xcb_atom_t atom) {
-    const Reply<xcb_get_atom_name_reply_t> reply(
-        xcb_get_atom_name_reply(m_connection, xcb_get_atom_name(m_connection, atom), nullptr));
-    return reply ? QByteArray(xcb_get_atom_name_name(reply.get()), reply->name_len) : QByteArray();
-}
 
 xcb_timestamp_t HostileOwner::serverTime() {
     const xcb_atom_t property = atom("PEER_TIME");
@@ -91,18 +43,6 @@ void HostileOwner::clear(const QByteArray& selection) {
     m_offers.erase(atom(selection));
     xcb_set_selection_owner(m_connection, XCB_NONE, atom(selection), XCB_CURRENT_TIME);
     xcb_flush(m_connection);
-}
-
-bool HostileOwner::owns(const QByteArray& selection) {
-    const Reply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
-        m_connection, xcb_get_selection_owner(m_connection, atom(selection)), nullptr));
-    return reply && reply->owner == m_window;
-}
-
-bool HostileOwner::hasOwner(const QByteArray& selection) {
-    const Reply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
-        m_connection, xcb_get_selection_owner(m_connection, atom(selection)), nullptr));
-    return reply && reply->owner != XCB_NONE;
 }
 
 void HostileOwner::ask(const QByteArray& selection, const QByteArray& target) {
@@ -172,20 +112,12 @@ void HostileOwner::handle(const xcb_generic_event_t& event) {
     }
 }
 
-void HostileOwner::set(Destination destination, xcb_atom_t type, int format, const QByteArray& bytes) {
-    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, destination.first, destination.second, type,
-                        static_cast<quint8>(format), static_cast<quint32>(bytes.size() / (format / 8)), bytes.constData());
-}
-
 // Owning
 
 void HostileOwner::handleRequest(const xcb_selection_request_event_t& request) {
     requests.append(atomName(request.target));
-    if (onRequest)
-        onRequest();
-    if (!m_connection || !answerRequest(request))
-        return;
-    xcb_flush(m_connection);
+    if (answerRequest(request))
+        xcb_flush(m_connection);
 }
 
 /// False when nothing is to be said.
@@ -241,8 +173,8 @@ void HostileOwner::sendChunk(Destination destination) {
         leave();
         return;
     }
-    const QByteArray chunk = offer.manner == Manner::endless ? QByteArray(chunkBytes, 'e')
-                                                             : offer.bytes.mid(outgoing.offset, chunkBytes);
+    const QByteArray chunk =
+        offer.manner == Manner::endless ? QByteArray(chunkBytes, 'e') : offer.bytes.mid(outgoing.offset, chunkBytes);
     set(destination, atom(offer.type.isEmpty() ? offer.target : offer.type), 8, chunk);
     outgoing.offset += chunk.size();
     ++outgoing.chunks;
@@ -254,7 +186,8 @@ void HostileOwner::sendChunk(Destination destination) {
 // Asking
 
 HostileOwner::Answer HostileOwner::takeProperty(xcb_atom_t property) {
-    const auto cookie = xcb_get_property(m_connection, 1, m_window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, 64 * 1024 * 1024);
+    const auto cookie =
+        xcb_get_property(m_connection, 1, m_window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, 64 * 1024 * 1024);
     const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection, cookie, nullptr));
     if (!reply || reply->type == XCB_ATOM_NONE)
         return {};

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "linux/XPeer.h"
+
 #include <QByteArray>
 #include <QByteArrayList>
-#include <functional>
 #include <map>
 #include <optional>
 #include <utility>
@@ -12,9 +13,9 @@
 
 namespace vellumry {
 
-/// A client of the X server that owns selections and asks for them, written against ICCCM alone so that it shares nothing with
-/// what it tests. It keeps the rules or breaks them as told. It works only inside `pump`.
-class HostileOwner {
+/// A client of the X server that owns selections and asks for them, written against ICCCM alone so that it shares
+/// nothing with what it tests. It keeps the rules or breaks them as told. It works only inside `pump`.
+class HostileOwner : public XPeer {
 public:
     enum class Manner {
         whole,          ///< in one property
@@ -40,26 +41,12 @@ public:
         bool wasIncremental = false;
     };
 
-    explicit HostileOwner(const QByteArray& display);
-    ~HostileOwner();
-    HostileOwner(const HostileOwner&) = delete;
-    HostileOwner& operator=(const HostileOwner&) = delete;
-
-    [[nodiscard]] bool isConnected() const { return m_connection != nullptr; }
-    [[nodiscard]] int fileDescriptor() const { return xcb_get_file_descriptor(m_connection); }
-    [[nodiscard]] xcb_connection_t* handle() const { return m_connection; }
-    [[nodiscard]] xcb_window_t window() const { return m_window; }
-    [[nodiscard]] xcb_atom_t atom(const QByteArray& name);
-    [[nodiscard]] QByteArray atomName(xcb_atom_t atom);
+    using XPeer::XPeer;
 
     /// Takes the selection with the server's time. True when it is ours afterwards.
     bool own(const QByteArray& selection, std::vector<Offer> offers);
     /// Gives the selection up on purpose.
     void clear(const QByteArray& selection);
-    [[nodiscard]] bool owns(const QByteArray& selection);
-    [[nodiscard]] bool hasOwner(const QByteArray& selection);
-    /// Closes the connection, as a program that ends.
-    void leave();
 
     /// Asks for one target; the answer arrives in `answers`, under the target.
     void ask(const QByteArray& selection, const QByteArray& target);
@@ -80,10 +67,8 @@ public:
     qsizetype chunkBytes = 64 * 1024;
     int chunksSent = 0;
     bool lostClipboard = false;
-    std::function<void()> onRequest; ///< before a request is answered
 
 private:
-    using Destination = std::pair<xcb_window_t, xcb_atom_t>;
     struct Outgoing {
         Offer offer;
         qsizetype offset = 0;
@@ -102,16 +87,11 @@ private:
     void handleProperty(const xcb_property_notify_event_t& change);
     [[nodiscard]] Answer takeProperty(xcb_atom_t property);
     [[nodiscard]] xcb_timestamp_t serverTime();
-    void set(Destination destination, xcb_atom_t type, int format, const QByteArray& bytes);
     void handle(const xcb_generic_event_t& event);
 
-    xcb_connection_t* m_connection = nullptr;
-    xcb_window_t m_root = XCB_NONE;
-    xcb_window_t m_window = XCB_NONE;
     std::map<xcb_atom_t, std::vector<Offer>> m_offers;
     std::map<Destination, Outgoing> m_outgoing;
     std::map<xcb_atom_t, Incoming> m_incoming; ///< by property
-    std::map<QByteArray, xcb_atom_t> m_atoms;
     int m_asked = 0;
 };
 

@@ -99,7 +99,8 @@ TEST_F(HostileOwnerReading, ThatNeverEndsIsCutOffAtTheLimit) {
 
 TEST_F(HostileOwnerReading, ThatLiesAboutTheSizeIsTakenByWhatItGives) {
     const QByteArray bytes = patternOf(500000);
-    copied({{"image/png", bytes, Manner::increments, {}, 8, 1}, {"image/jpeg", bytes, Manner::increments, {}, 8, 0xffffffff}});
+    copied({{"image/png", bytes, Manner::increments, {}, 8, 1},
+            {"image/jpeg", bytes, Manner::increments, {}, 8, 0xffffffff}});
     const auto look = reading();
     ASSERT_NE(look, nullptr);
     EXPECT_EQ(read(*look, uniformtype::png), bytes);

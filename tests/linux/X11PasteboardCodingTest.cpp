@@ -11,8 +11,8 @@ namespace vellumry {
 namespace {
 
 std::optional<QByteArray> text(const char16_t* target, const char16_t* propertyType, const QByteArray& bytes) {
-    return targetcoding::decode(uniformtype::utf8PlainText, QString::fromUtf16(target), QString::fromUtf16(propertyType),
-                                bytes);
+    return targetcoding::decode(uniformtype::utf8PlainText, QString::fromUtf16(target),
+                                QString::fromUtf16(propertyType), bytes);
 }
 
 TEST(TargetCoding, OneNulAtTheEndOfTextIsNotContent) {

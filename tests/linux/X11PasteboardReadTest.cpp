@@ -56,7 +56,10 @@ TEST_F(X11PasteboardRead, TypesComeInTheOwnersOrderEachOnce) {
 TEST_F(X11PasteboardRead, RepresentationsComeByteForByte) {
     const QByteArray bytes("\x89PNG\0\r\n\0", 8);
     const QByteArray odd = "application/x-thing;windows_formatname=\"A B\"";
-    copied({{"image/png", bytes}, {odd, bytes}, {"text/html", "\xff\xfe<\0"}, {"application/x-color", "\1\2\3\4\5\6\7\10", Manner::whole, {}, 16}});
+    copied({{"image/png", bytes},
+            {odd, bytes},
+            {"text/html", "\xff\xfe<\0"},
+            {"application/x-color", "\1\2\3\4\5\6\7\10", Manner::whole, {}, 16}});
     const auto look = reading();
     ASSERT_NE(look, nullptr);
     EXPECT_EQ(read(*look, uniformtype::png), bytes);

@@ -11,4 +11,6 @@ vellumry_test(
     X11PasteboardWorld.cpp
     X11PasteboardWorld.h
     X11PasteboardWriteTest.cpp
+    XPeer.cpp
+    XPeer.h
   LINKS vellumry_linux PkgConfig::X11_PASTEBOARD_TESTS)

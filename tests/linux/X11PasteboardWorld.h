@@ -5,6 +5,7 @@
 #include "linux/x11/X11Pasteboard.h"
 
 #include <QProcess>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <vector>

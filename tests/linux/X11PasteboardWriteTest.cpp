@@ -74,7 +74,8 @@ TEST_F(X11PasteboardWrite, EachKindGoesOutByteForByte) {
 }
 
 TEST_F(X11PasteboardWrite, OurOwnContentsAreReadBackWithoutARoundTrip) {
-    PasteboardItem first{{{uniformtype::utf8PlainText, "t"}, {uniformtype::ownMarker, {}}}, QStringList{uniformtype::utf8PlainText}};
+    PasteboardItem first{{{uniformtype::utf8PlainText, "t"}, {uniformtype::ownMarker, {}}},
+                         QStringList{uniformtype::utf8PlainText}};
     const qint64 before = pasteboard->changeCount();
     ASSERT_TRUE(pasteboard->write({first, file("file:///a")}));
     EXPECT_NE(pasteboard->changeCount(), before);
@@ -175,8 +176,9 @@ TEST_F(X11PasteboardWrite, OthersAreServedWhileTheMainThreadIsBusy) {
     ASSERT_TRUE(write({{uniformtype::utf8PlainText, "busy"}}));
     // The main thread does nothing but wait for the other process: no event loop runs.
     QProcess reader;
-    reader.start(QStringLiteral("xclip"), {QStringLiteral("-display"), QString::fromUtf8(display), QStringLiteral("-selection"),
-                                           QStringLiteral("clipboard"), QStringLiteral("-o")});
+    reader.start(QStringLiteral("xclip"),
+                 {QStringLiteral("-display"), QString::fromUtf8(display), QStringLiteral("-selection"),
+                  QStringLiteral("clipboard"), QStringLiteral("-o")});
     ASSERT_TRUE(reader.waitForFinished(5000));
     EXPECT_EQ(reader.readAllStandardOutput(), "busy");
     EXPECT_TRUE(pasteboard->wasServed());

@@ -7,8 +7,9 @@
 #include <QStringList>
 #include <optional>
 
-/// The lists of files that file managers put on the clipboard: `text/uri-list` (RFC 2483) and the desktop's own companion that
-/// tells a copy from a cut. Pure; any thread. Hostile lists cost time in proportion to their size, nothing more.
+/// The lists of files that file managers put on the clipboard: `text/uri-list` (RFC 2483) and the desktop's own
+/// companion that tells a copy from a cut. Pure; any thread. Hostile lists cost time in proportion to their size,
+/// nothing more.
 namespace vellumry::filelist {
 
 inline const QString uriList = QStringLiteral("text/uri-list");
@@ -30,8 +31,8 @@ struct Entries {
 /// `text/uri-list` bytes: each entry ended by CR LF.
 [[nodiscard]] QByteArray asUriList(const QByteArrayList& urls);
 
-/// `x-special/gnome-copied-files` bytes: the operation, then one URL a line. The operation is that of `original` where it
-/// names one, else a copy.
+/// `x-special/gnome-copied-files` bytes: the operation, then one URL a line. The operation is that of `original` where
+/// it names one, else a copy.
 [[nodiscard]] QByteArray asCopiedFiles(const QByteArrayList& urls, const QByteArray& original);
 
 /// The paths of the files, one a line, as text.

@@ -12,8 +12,8 @@
 
 namespace vellumry {
 
-/// What we hold on the pasteboard: the items as they were written, and the same bytes under every name that other programs ask
-/// for. Immutable once made, so the pasteboard thread serves it while the main thread does something else.
+/// What we hold on the pasteboard: the items as they were written, and the same bytes under every name that other
+/// programs ask for. Immutable once made, so the pasteboard thread serves it while the main thread does something else.
 class OfferedContents {
 public:
     /// Shares the bytes of `items`; only other encodings of short texts and the list of files are new.

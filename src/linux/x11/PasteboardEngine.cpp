@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/PasteboardEngine.h"
 
-#include <QSet>
-#include <array>
-#include <cstring>
+#include <algorithm>
 #include <utility>
 #include <xcb/xfixes.h>
 
@@ -161,9 +159,11 @@ void PasteboardEngine::askForTargets(PendingResult<std::shared_ptr<const Selecti
     request.done = [=, this](std::optional<XcbProperty> targets) {
         const Instant answered = std::chrono::steady_clock::now();
         if (targets)
-            result.deliver(offerOf(*targets, time, deadline));
+            result.deliver(
+                SelectionOffer::of(*m_connection, *targets, m_limits.targetCount, {changeCount(), time, deadline}));
         else if (!m_ended && time != XCB_CURRENT_TIME && count == changeCount() && answered < answerDeadline)
-            // Refused. Owners that note a later time than they gave the server take our request for one to their predecessor.
+            // Refused. Owners that note a later time than they gave the server take our request for one to their
+            // predecessor.
             askForTargets(result, XCB_CURRENT_TIME, deadline, answered);
         else
             result.deliver(nullptr);
@@ -171,47 +171,20 @@ void PasteboardEngine::askForTargets(PendingResult<std::shared_ptr<const Selecti
     m_reader.read(std::move(request), now);
 }
 
-std::shared_ptr<const SelectionOffer> PasteboardEngine::offerOf(const XcbProperty& targets, xcb_timestamp_t time,
-                                                                Instant deadline) {
-    if (targets.format != 32)
-        return nullptr;
-    std::vector<xcb_atom_t> atoms;
-    QSet<xcb_atom_t> seen;
-    for (qsizetype at = 0; at + 4 <= targets.bytes.size() && seen.size() < m_limits.targetCount; at += 4) {
-        xcb_atom_t atom = XCB_ATOM_NONE;
-        std::memcpy(&atom, targets.bytes.constData() + at, sizeof atom);
-        if (atom == XCB_ATOM_NONE || seen.contains(atom))
-            continue;
-        seen.insert(atom);
-        atoms.push_back(atom);
-    }
-    const QStringList names = m_connection->atomNames(atoms);
-    const auto offer = std::make_shared<SelectionOffer>();
-    for (qsizetype i = 0; i < names.size(); ++i) {
-        if (names[i].isEmpty() || offer->atoms.contains(names[i]))
-            continue;
-        offer->targets.append(names[i]);
-        offer->atoms.insert(names[i], atoms[static_cast<std::size_t>(i)]);
-    }
-    offer->changeCount = changeCount();
-    offer->time = time;
-    offer->deadline = deadline;
-    return offer;
-}
-
 void PasteboardEngine::read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target, qint64 maxBytes,
                             PendingResult<std::shared_ptr<const SelectionBytes>> result, Instant now) {
-    if (m_ended || offer->changeCount != changeCount() || offer->deadline <= now || !offer->atoms.contains(target)) {
+    if (m_ended || offer->moment.changeCount != changeCount() || offer->moment.deadline <= now ||
+        !offer->atoms.contains(target)) {
         result.deliver(nullptr);
         return;
     }
     SelectionReader::Request request;
     request.selection = m_clipboard;
     request.target = offer->atoms.value(target);
-    request.time = offer->time;
+    request.time = offer->moment.time;
     request.maxBytes = maxBytes;
     request.silence = m_limits.silence;
-    request.deadline = offer->deadline;
+    request.deadline = offer->moment.deadline;
     request.done = [this, result](std::optional<XcbProperty> property) {
         // Elements of 32 bits are atoms, windows, numbers: never content.
         std::shared_ptr<SelectionBytes> given;

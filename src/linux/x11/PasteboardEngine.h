@@ -4,6 +4,7 @@
 #include "linux/x11/OfferedContents.h"
 #include "linux/x11/PasteboardLimits.h"
 #include "linux/x11/PendingResult.h"
+#include "linux/x11/SelectionOffer.h"
 #include "linux/x11/SelectionOwner.h"
 #include "linux/x11/SelectionReader.h"
 #include "linux/x11/XcbConnection.h"
@@ -17,23 +18,14 @@ struct xcb_xfixes_selection_notify_event_t;
 
 namespace vellumry {
 
-/// What an owner offered at one change count. Immutable; shared between the threads.
-struct SelectionOffer {
-    qint64 changeCount = 0;
-    QStringList targets;                ///< in the owner's order, each once
-    QHash<QString, xcb_atom_t> atoms;   ///< of the targets
-    xcb_timestamp_t time = XCB_CURRENT_TIME;
-    SelectionReader::Instant deadline;  ///< for the whole copy
-};
-
 /// The bytes an owner gave, with the name of their type.
 struct SelectionBytes {
     QString propertyType;
     QByteArray bytes;
 };
 
-/// The pasteboard's side of the conversation with the X server: follows who owns the clipboard, reads it, owns it, and stands
-/// in as clipboard manager where the session has none. Pasteboard thread, but for `changeCount` and `wasServed`.
+/// The pasteboard's side of the conversation with the X server: follows who owns the clipboard, reads it, owns it, and
+/// stands in as clipboard manager where the session has none. Pasteboard thread, but for `changeCount` and `wasServed`.
 class PasteboardEngine {
 public:
     using Instant = SelectionReader::Instant;
@@ -92,8 +84,6 @@ private:
     void becomeClipboardManager();
     void askForTargets(PendingResult<std::shared_ptr<const SelectionOffer>> result, xcb_timestamp_t time,
                        Instant deadline, Instant now);
-    [[nodiscard]] std::shared_ptr<const SelectionOffer> offerOf(const XcbProperty& targets, xcb_timestamp_t time,
-                                                                Instant deadline);
 
     const std::unique_ptr<XcbConnection> m_connection;
     const PasteboardLimits m_limits;

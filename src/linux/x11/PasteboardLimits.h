@@ -10,12 +10,12 @@ namespace vellumry {
 struct PasteboardLimits {
     using Milliseconds = std::chrono::milliseconds;
 
-    Milliseconds targetList{500};        ///< until the owner has said what it offers
-    Milliseconds silence{1000};          ///< between two signs of life while it gives one representation
-    Milliseconds copy{5000};             ///< for all representations of a copy
-    Milliseconds ownership{250};         ///< until the server has confirmed that the selection is ours
+    Milliseconds targetList{500};         ///< until the owner has said what it offers
+    Milliseconds silence{1000};           ///< between two signs of life while it gives one representation
+    Milliseconds copy{5000};              ///< for all representations of a copy
+    Milliseconds ownership{250};          ///< until the server has confirmed that the selection is ours
     Milliseconds stalledRequestor{10000}; ///< between two chunks that a reader takes from us
-    int targetCount = 1000;              ///< names looked at in one offer
+    int targetCount = 1000;               ///< names looked at in one offer
     qint64 fileListBytes = 64 * 1024 * 1024;
 };
 

@@ -14,7 +14,8 @@ namespace vellumry {
 
 namespace {
 
-/// So many events at a time, then a look at commands and deadlines: a client that never stops must not keep us from them.
+/// So many events at a time, then a look at commands and deadlines: a client that never stops must not keep us from
+/// them.
 constexpr int eventsAtATime = 64;
 
 } // namespace
@@ -27,7 +28,8 @@ std::unique_ptr<PasteboardThread> PasteboardThread::create(std::unique_ptr<Paste
 }
 
 PasteboardThread::PasteboardThread(std::unique_ptr<PasteboardEngine> engine, int wakeDescriptor)
-    : m_engine(std::move(engine)), m_wakeDescriptor(wakeDescriptor) {
+    : m_engine(std::move(engine))
+    , m_wakeDescriptor(wakeDescriptor) {
     // Before anybody can have a change count: no change of owner is missed from then on.
     m_engine->start();
     m_thread = std::thread([this] {

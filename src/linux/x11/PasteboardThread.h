@@ -10,8 +10,8 @@
 
 namespace vellumry {
 
-/// Runs a `PasteboardEngine`: waits for the X server, for commands and for the engine's next deadline, and for nothing else, so
-/// an idle pasteboard costs no wake-up. Made and destroyed on the main thread; the destructor ends the thread.
+/// Runs a `PasteboardEngine`: waits for the X server, for commands and for the engine's next deadline, and for nothing
+/// else, so an idle pasteboard costs no wake-up. Made and destroyed on the main thread; the destructor ends the thread.
 class PasteboardThread {
 public:
     using Command = std::function<void(PasteboardEngine& engine, PasteboardEngine::Instant now)>;

@@ -12,8 +12,8 @@
 
 namespace vellumry {
 
-/// A value that the pasteboard thread delivers once and the main thread takes once. Copies share the value. Await a local copy,
-/// on the main thread: a value that is there already is taken without suspending.
+/// A value that the pasteboard thread delivers once and the main thread takes once. Copies share the value. Await a
+/// local copy, on the main thread: a value that is there already is taken without suspending.
 template <typename Value>
 class PendingResult {
 public:

@@ -38,8 +38,8 @@ std::shared_ptr<const OfferedContents> SelectionOwner::contents(xcb_atom_t selec
 }
 
 bool SelectionOwner::handleRequest(const xcb_selection_request_event_t& event, Instant now) {
-    // Requests older than the ownership are answered too: a paste key that was held back while the contents were swapped
-    // carries the time of its press.
+    // Requests older than the ownership are answered too: a paste key that was held back while the contents were
+    // swapped carries the time of its press.
     const auto holding = m_holdings.find(event.selection);
     // Clients from before ICCCM name no property and expect the target's.
     const xcb_atom_t property = event.property == XCB_ATOM_NONE ? event.target : event.property;
@@ -77,8 +77,8 @@ SelectionOwner::Answer SelectionOwner::answer(const Holding& holding, xcb_atom_t
         return Answer::housekeeping;
     }
     if (!holding.contents) {
-        // The clipboard manager's only deed: what matters was captured when it was copied, so nothing is asked of a program
-        // that is about to quit.
+        // The clipboard manager's only deed: what matters was captured when it was copied, so nothing is asked of a
+        // program that is about to quit.
         if (target != atom(u"SAVE_TARGETS"))
             return Answer::refused;
         m_connection.setProperty(destination.first, destination.second, atom(u"NULL"), 32, {});

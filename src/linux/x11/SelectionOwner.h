@@ -10,18 +10,20 @@
 
 namespace vellumry {
 
-/// Answers those who ask for a selection that is ours (ICCCM 2.2, 2.6, 2.7.2), many at once; what is long goes in increments.
-/// Pasteboard thread; time is handed in. A reader that vanishes or stops taking costs nothing but its own transfer.
+/// Answers those who ask for a selection that is ours (ICCCM 2.2, 2.6, 2.7.2), many at once; what is long goes in
+/// increments. Pasteboard thread; time is handed in. A reader that vanishes or stops taking costs nothing but its own
+/// transfer.
 class SelectionOwner {
 public:
     using Instant = std::chrono::steady_clock::time_point;
     using Duration = std::chrono::milliseconds;
 
     SelectionOwner(XcbConnection& connection, Duration stalledLimit)
-        : m_connection(connection), m_stalledLimit(stalledLimit) {}
+        : m_connection(connection)
+        , m_stalledLimit(stalledLimit) {}
 
-    /// Serves `contents` for `selection` from now on; `since` is the server's time of the ownership. Null contents stand for a
-    /// selection that has none, that of the clipboard manager.
+    /// Serves `contents` for `selection` from now on; `since` is the server's time of the ownership. Null contents
+    /// stand for a selection that has none, that of the clipboard manager.
     void hold(xcb_atom_t selection, std::shared_ptr<const OfferedContents> contents, xcb_timestamp_t since);
     void release(xcb_atom_t selection);
     /// What is served for `selection`; null when nothing is.

@@ -10,11 +10,11 @@
 
 namespace vellumry {
 
-/// Asks the owner of a selection for representations and collects the answers, in one piece or in increments (ICCCM 2.4, 2.7.2).
-/// Several may be under way at once. Pasteboard thread; time is handed in.
+/// Asks the owner of a selection for representations and collects the answers, in one piece or in increments
+/// (ICCCM 2.4, 2.7.2). Several may be under way at once. Pasteboard thread; time is handed in.
 ///
-/// An answer that nobody waits for any more is still taken off the owner's hands for a while, unread, so that it is not left
-/// hanging in the middle of a transfer.
+/// An answer that nobody waits for any more is still taken off the owner's hands for a while, unread, so that it is not
+/// left hanging in the middle of a transfer.
 class SelectionReader {
 public:
     using Instant = std::chrono::steady_clock::time_point;
@@ -32,7 +32,8 @@ public:
         Done done;
     };
 
-    explicit SelectionReader(XcbConnection& connection) : m_connection(connection) {}
+    explicit SelectionReader(XcbConnection& connection)
+        : m_connection(connection) {}
 
     void read(Request request, Instant now);
     void handleSelectionNotify(const xcb_selection_notify_event_t& event, Instant now);

@@ -19,7 +19,8 @@ QByteArray withoutFinalNul(const QByteArray& bytes) {
 std::optional<QByteArray> decodeText(const QString& target, const QString& propertyType, const QByteArray& raw) {
     const QByteArray bytes = withoutFinalNul(raw);
     // TEXT leaves the choice to the owner, and some answer STRING with UTF-8: the type of the property decides.
-    const bool isNamed = propertyType == u"UTF8_STRING" || propertyType == u"STRING" || propertyType == u"COMPOUND_TEXT";
+    const bool isNamed =
+        propertyType == u"UTF8_STRING" || propertyType == u"STRING" || propertyType == u"COMPOUND_TEXT";
     const QString encoding = isNamed ? propertyType : target;
     if (encoding == u"UTF8_STRING")
         return bytes;

@@ -9,8 +9,8 @@
 
 namespace vellumry {
 
-/// Shared with the pasteboard thread, which may have a notice under way when the pasteboard goes. `pasteboard` is for the main
-/// thread alone.
+/// Shared with the pasteboard thread, which may have a notice under way when the pasteboard goes. `pasteboard` is for
+/// the main thread alone.
 struct X11Pasteboard::Link {
     X11Pasteboard* pasteboard = nullptr;
     std::atomic<bool> isChangeAnnounced = false;
@@ -45,7 +45,9 @@ std::unique_ptr<X11Pasteboard> X11Pasteboard::create(const QByteArray& displayNa
     return pasteboard;
 }
 
-X11Pasteboard::X11Pasteboard(const PasteboardLimits& limits) : m_limits(limits), m_link(std::make_shared<Link>()) {
+X11Pasteboard::X11Pasteboard(const PasteboardLimits& limits)
+    : m_limits(limits)
+    , m_link(std::make_shared<Link>()) {
     m_link->pasteboard = this;
 }
 

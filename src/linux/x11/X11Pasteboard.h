@@ -13,11 +13,12 @@ class OfferedContents;
 class PasteboardThread;
 
 /// The CLIPBOARD selection of an X server as the general pasteboard (ICCCM 2, the XFixes extension, and the freedesktop
-/// conventions for lists of files and for clipboard managers). Main thread; the conversation with the server and with other
-/// programs runs on a thread and a connection of its own, so what we hold is served while the main thread is busy.
+/// conventions for lists of files and for clipboard managers). Main thread; the conversation with the server and with
+/// other programs runs on a thread and a connection of its own, so what we hold is served while the main thread is
+/// busy.
 ///
-/// Where the session has no clipboard manager this is one: a program that quits is told at once that its copy is safe, and
-/// `onOwnerGone` is where what was captured of it is put back.
+/// Where the session has no clipboard manager this is one: a program that quits is told at once that its copy is safe,
+/// and `onOwnerGone` is where what was captured of it is put back.
 class X11Pasteboard final : public Pasteboard {
 public:
     /// Null when there is no such display or it lacks XFixes. An empty name stands for $DISPLAY.
@@ -33,8 +34,9 @@ public:
     bool write(std::vector<PasteboardItem> items) override;
     [[nodiscard]] bool notifiesChanges() const override { return true; }
 
-    /// Offers what was last written on the primary selection too, for programs that paste from there. False when nothing of
-    /// ours is on the pasteboard or the server refused. Losing the primary selection changes nothing here. Waits as `write`.
+    /// Offers what was last written on the primary selection too, for programs that paste from there. False when
+    /// nothing of ours is on the pasteboard or the server refused. Losing the primary selection changes nothing here.
+    /// Waits as `write`.
     bool offerAsPrimary();
     /// True once another program took content, not just the list of types, of what was last written. Any thread.
     [[nodiscard]] bool wasServed() const;

@@ -19,8 +19,8 @@ struct ForeignReading::State {
 
     [[nodiscard]] bool isCurrent() const {
         const std::shared_ptr<PasteboardThread> running = thread.lock();
-        return running && running->engine().changeCount() == offer->changeCount &&
-               std::chrono::steady_clock::now() < offer->deadline;
+        return running && running->engine().changeCount() == offer->moment.changeCount &&
+               std::chrono::steady_clock::now() < offer->moment.deadline;
     }
     [[nodiscard]] QStringList declaredTypes() const;
     [[nodiscard]] std::vector<QStringList> typesByItem() const;
@@ -35,7 +35,8 @@ void appendOnce(QStringList& types, const QString& type) {
         types.append(type);
 }
 
-QCoro::Task<std::shared_ptr<const SelectionBytes>> readTarget(std::shared_ptr<State> state, QString target, qint64 maxBytes) {
+QCoro::Task<std::shared_ptr<const SelectionBytes>> readTarget(std::shared_ptr<State> state, QString target,
+                                                              qint64 maxBytes) {
     const PendingResult<std::shared_ptr<const SelectionBytes>> result;
     if (const std::shared_ptr<PasteboardThread> thread = state->thread.lock()) {
         thread->post([offer = state->offer, target, maxBytes, result](PasteboardEngine& engine, auto now) {
@@ -111,7 +112,8 @@ std::vector<QStringList> ForeignReading::State::typesByItem() const {
     if (place < 0)
         return {first};
     if (entries && !entries->files.isEmpty()) {
-        std::vector<QStringList> items(static_cast<std::size_t>(entries->files.size()), QStringList(uniformtype::fileUrl));
+        std::vector<QStringList> items(static_cast<std::size_t>(entries->files.size()),
+                                       QStringList(uniformtype::fileUrl));
         items.front() = first;
         return items;
     }
@@ -176,7 +178,9 @@ bool ForeignReading::isCurrent() const {
 
 OwnReading::OwnReading(std::weak_ptr<PasteboardThread> thread, std::shared_ptr<const OfferedContents> contents,
                        qint64 changeCount)
-    : m_thread(std::move(thread)), m_contents(std::move(contents)), m_changeCount(changeCount) {}
+    : m_thread(std::move(thread))
+    , m_contents(std::move(contents))
+    , m_changeCount(changeCount) {}
 
 QStringList OwnReading::types() const {
     QStringList types;

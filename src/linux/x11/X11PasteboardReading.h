@@ -8,10 +8,11 @@
 
 namespace vellumry {
 
-/// Reads what another program offers: its targets under our names for them, a list of files as one item a file. Main thread.
+/// Reads what another program offers: its targets under our names for them, a list of files as one item a file. Main
+/// thread.
 ///
-/// `types` declares a list of files as `public.file-url` before it is read; a list that turns out to hold web addresses gives
-/// one item with `public.url`.
+/// `types` declares a list of files as `public.file-url` before it is read; a list that turns out to hold web addresses
+/// gives one item with `public.url`.
 class ForeignReading final : public PasteboardReading {
 public:
     ForeignReading(std::weak_ptr<PasteboardThread> thread, std::shared_ptr<const SelectionOffer> offer,

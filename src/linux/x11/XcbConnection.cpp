@@ -71,7 +71,8 @@ xcb_atom_t XcbConnection::atom(const QString& name) {
         return *known;
     const QByteArray bytes = name.toUtf8();
     const XcbPointer<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
-        m_connection, xcb_intern_atom(m_connection, 0, static_cast<quint16>(bytes.size()), bytes.constData()), nullptr));
+        m_connection, xcb_intern_atom(m_connection, 0, static_cast<quint16>(bytes.size()), bytes.constData()),
+        nullptr));
     if (!reply)
         return XCB_ATOM_NONE;
     remember(reply->atom, name);
@@ -119,11 +120,11 @@ std::optional<XcbProperty> XcbConnection::property(xcb_window_t window, xcb_atom
         // One byte beyond the limit is enough to know that there is too much.
         const qint64 wanted = std::min<qint64>(pieceBytes, maxBytes - result.bytes.size() + 1);
         xcb_generic_error_t* error = nullptr;
-        const XcbPointer<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-            m_connection,
-            xcb_get_property(m_connection, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, offset / 4,
-                             static_cast<quint32>((wanted + 3) / 4)),
-            &error));
+        const XcbPointer<xcb_get_property_reply_t> reply(
+            xcb_get_property_reply(m_connection,
+                                   xcb_get_property(m_connection, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY,
+                                                    offset / 4, static_cast<quint32>((wanted + 3) / 4)),
+                                   &error));
         std::free(error);
         if (!reply)
             return std::nullopt;
@@ -145,7 +146,8 @@ std::optional<XcbProperty> XcbConnection::property(xcb_window_t window, xcb_atom
     return result;
 }
 
-void XcbConnection::setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, int format, QByteArrayView bytes) {
+void XcbConnection::setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, int format,
+                                QByteArrayView bytes) {
     xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, window, name, type, static_cast<quint8>(format),
                         static_cast<quint32>(bytes.size() / (format / 8)), bytes.data());
 }

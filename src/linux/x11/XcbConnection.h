@@ -50,15 +50,16 @@ public:
 
     /// The atom of a name, made when it does not exist. Waits for the server once per name.
     [[nodiscard]] xcb_atom_t atom(const QString& name);
-    /// The names of many atoms in one exchange with the server; null strings for atoms that do not exist and for names beyond
-    /// 256 bytes, which no type has.
+    /// The names of many atoms in one exchange with the server; null strings for atoms that do not exist and for names
+    /// beyond 256 bytes, which no type has.
     [[nodiscard]] QStringList atomNames(std::span<const xcb_atom_t> atoms);
     /// As `atomNames`, for one.
     [[nodiscard]] QString atomName(xcb_atom_t atom);
 
-    /// Reads a property of ours or another client's window; nothing when it holds more than `maxBytes`. With `remove` it is
-    /// deleted afterwards, whatever came out.
-    [[nodiscard]] std::optional<XcbProperty> property(xcb_window_t window, xcb_atom_t name, qint64 maxBytes, bool remove);
+    /// Reads a property of ours or another client's window; nothing when it holds more than `maxBytes`. With `remove`
+    /// it is deleted afterwards, whatever came out.
+    [[nodiscard]] std::optional<XcbProperty> property(xcb_window_t window, xcb_atom_t name, qint64 maxBytes,
+                                                      bool remove);
     void setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, int format, QByteArrayView bytes);
     void deleteProperty(xcb_window_t window, xcb_atom_t name);
     /// Who owns a selection now; XCB_NONE for nobody.
