@@ -7,9 +7,43 @@
 
 namespace vellumry {
 
+namespace {
+
+std::size_t hashOfId(const Clip& clip) {
+    return qHash(clip.id);
+}
+
+bool haveOneId(const Clip& one, const Clip& other) {
+    return one.id == other.id;
+}
+
+std::size_t hashOfFingerprint(const Clip& clip) {
+    // Every part of a keyed hash is as random as the whole.
+    return qHash(QStringView(clip.fingerprint).first(std::min<qsizetype>(clip.fingerprint.size(), 16)));
+}
+
+bool haveOneFingerprint(const Clip& one, const Clip& other) {
+    return one.fingerprint == other.fingerprint;
+}
+
+} // namespace
+
+ClipList::ClipList() : m_byId(hashOfId, haveOneId), m_byFingerprint(hashOfFingerprint, haveOneFingerprint) {}
+
+ClipRef ClipList::find(const QUuid& id) const {
+    Clip sample;
+    sample.id = id;
+    const Clip* const clip = m_byId.find(sample);
+    return clip ? m_clips[static_cast<std::size_t>(indexOf(*clip))] : nullptr;
+}
+
 ClipRef ClipList::findFingerprint(const QString& fingerprint) const {
-    if (m_byFingerprint.size() == static_cast<qsizetype>(m_clips.size()))
-        return m_byFingerprint.value(fingerprint);
+    if (m_byFingerprint.size() == m_clips.size()) {
+        Clip sample;
+        sample.fingerprint = fingerprint;
+        const Clip* const clip = m_byFingerprint.find(sample);
+        return clip ? m_clips[static_cast<std::size_t>(indexOf(*clip))] : nullptr;
+    }
     const auto found =
         std::ranges::find_if(m_clips, [&](const ClipRef& clip) { return clip->fingerprint == fingerprint; });
     return found == m_clips.end() ? nullptr : *found;
@@ -72,21 +106,24 @@ void ClipList::assign(std::vector<ClipRef> clips) {
     m_expiries.clear();
     m_unpinnedCount = 0;
     m_mediaBytes = 0;
-    std::ranges::stable_sort(clips, std::greater<>(), [](const ClipRef& clip) { return clip->lastUsedAt; });
+    const auto usedAt = [](const ClipRef& clip) { return clip->lastUsedAt; };
+    if (!std::ranges::is_sorted(clips, std::greater<>(), usedAt))
+        std::ranges::stable_sort(clips, std::greater<>(), usedAt);
 
-    m_byId.reserve(static_cast<qsizetype>(clips.size()));
-    m_byFingerprint.reserve(static_cast<qsizetype>(clips.size()));
-    std::erase_if(clips, [this](const ClipRef& clip) {
-        if (m_byId.contains(clip->id))
-            return true;
-        enter(clip);
-        return false;
-    });
-    m_clips = std::move(clips);
+    m_byId.reserve(clips.size());
+    m_byFingerprint.reserve(clips.size());
+    m_clips.clear();
+    m_clips.reserve(clips.size());
+    for (ClipRef& clip : clips) {
+        if (m_byId.find(*clip))
+            continue;
+        enter(*clip);
+        m_clips.push_back(std::move(clip));
+    }
 }
 
 void ClipList::insert(ClipRef clip) {
-    enter(clip);
+    enter(*clip);
     const auto index = position(clip->lastUsedAt, 0, std::ssize(m_clips));
     m_clips.insert(m_clips.begin() + index, std::move(clip));
 }
@@ -94,7 +131,7 @@ void ClipList::insert(ClipRef clip) {
 void ClipList::replace(const ClipRef& old, ClipRef clip) {
     const auto from = indexOf(*old);
     leave(*old);
-    enter(clip);
+    enter(*clip);
     const Date date = clip->lastUsedAt;
     const auto begin = m_clips.begin();
     m_clips[static_cast<std::size_t>(from)] = std::move(clip);
@@ -108,7 +145,7 @@ void ClipList::replace(const ClipRef& old, ClipRef clip) {
 void ClipList::change(ClipRef clip) {
     auto& place = m_clips[static_cast<std::size_t>(indexOf(*clip))];
     leave(*place);
-    enter(clip);
+    enter(*clip);
     place = std::move(clip);
 }
 
@@ -153,21 +190,18 @@ std::ptrdiff_t ClipList::indexOf(const Clip& clip) const {
     return index;
 }
 
-void ClipList::enter(const ClipRef& clip) {
-    m_byId.insert(clip->id, clip);
-    if (!m_byFingerprint.contains(clip->fingerprint))
-        m_byFingerprint.insert(clip->fingerprint, clip);
-    if (clip->expiresAt)
-        m_expiries.insert(*clip->expiresAt);
-    m_unpinnedCount += clip->isPinned ? 0 : 1;
-    m_mediaBytes += retention::mediaBytes(*clip);
+void ClipList::enter(const Clip& clip) {
+    m_byId.insert(clip);
+    m_byFingerprint.insert(clip);
+    if (clip.expiresAt)
+        m_expiries.insert(*clip.expiresAt);
+    m_unpinnedCount += clip.isPinned ? 0 : 1;
+    m_mediaBytes += retention::mediaBytes(clip);
 }
 
 void ClipList::leave(const Clip& clip) {
-    m_byId.remove(clip.id);
-    const auto entry = m_byFingerprint.constFind(clip.fingerprint);
-    if (entry != m_byFingerprint.constEnd() && (*entry)->id == clip.id)
-        m_byFingerprint.erase(entry);
+    m_byId.erase(clip);
+    m_byFingerprint.erase(clip);
     if (clip.expiresAt)
         m_expiries.erase(m_expiries.find(*clip.expiresAt));
     m_unpinnedCount -= clip.isPinned ? 0 : 1;

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "history/Clip.h"
+#include "history/ClipIndex.h"
 #include "history/RetentionPolicy.h"
 
-#include <QHash>
 #include <QSet>
 #include <set>
 
@@ -14,9 +14,11 @@ namespace vellumry {
 /// whether the history is within its limits. One thread.
 class ClipList {
 public:
+    ClipList();
+
     [[nodiscard]] const std::vector<ClipRef>& clips() const { return m_clips; }
     /// Null when there is none.
-    [[nodiscard]] ClipRef find(const QUuid& id) const { return m_byId.value(id); }
+    [[nodiscard]] ClipRef find(const QUuid& id) const;
     /// The first clip of that fingerprint, of any kind; null when there is none.
     [[nodiscard]] ClipRef findFingerprint(const QString& fingerprint) const;
     /// The earliest expiry of all clips.
@@ -47,13 +49,13 @@ private:
     /// The index of the first clip of [first, last) that was not used later than `date`.
     [[nodiscard]] std::ptrdiff_t position(Date date, std::ptrdiff_t first, std::ptrdiff_t last) const;
     [[nodiscard]] std::ptrdiff_t indexOf(const Clip& clip) const;
-    void enter(const ClipRef& clip);
+    void enter(const Clip& clip);
     void leave(const Clip& clip);
 
     std::vector<ClipRef> m_clips;
-    QHash<QUuid, ClipRef> m_byId;
+    ClipIndex m_byId;
     /// A file written by nobody but us holds no fingerprint twice. If one does, this has fewer entries than there are clips.
-    QHash<QString, ClipRef> m_byFingerprint;
+    ClipIndex m_byFingerprint;
     std::multiset<Date> m_expiries;
     qint64 m_unpinnedCount = 0;
     qint64 m_mediaBytes = 0;

@@ -1,129 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/ClipMetaReader.h"
 
+#include "history/BinaryList.h"
 #include "history/StringPool.h"
-
-#include <QtEndian>
-#include <algorithm>
+#include "history/Utf16Bytes.h"
 
 namespace vellumry {
 
 namespace {
 
-enum class Marker : quint8 { falseValue = 0x08, trueValue = 0x09, integer = 0x1, data = 0x4, ascii = 0x5, utf16 = 0x6,
-                             array = 0xA, dictionary = 0xD };
-
-/// One object of a list: its kind and where its content lies. `count` is bytes, UTF-16 units, elements or pairs.
-struct Object {
-    quint8 kind = 0; ///< the marker's upper half, or the whole marker of a boolean
-    quint64 count = 0;
-    quint64 content = 0;
-
-    [[nodiscard]] bool is(Marker marker) const { return kind == static_cast<quint8>(marker); }
-};
-
-/// The layout of `bplist00`: header, objects, offset table, trailer of 32 bytes. Every position is checked against the bytes.
-class BinaryList {
-public:
-    explicit BinaryList(QByteArrayView bytes) : m_bytes(bytes) {}
-
-    [[nodiscard]] bool open() {
-        constexpr qsizetype trailerSize = 32;
-        if (m_bytes.size() < trailerSize + 8 || !m_bytes.startsWith("bplist00"))
-            return false;
-        const auto trailer = static_cast<quint64>(m_bytes.size() - trailerSize);
-        m_offsetSize = static_cast<quint8>(m_bytes[static_cast<qsizetype>(trailer) + 6]);
-        m_referenceSize = static_cast<quint8>(m_bytes[static_cast<qsizetype>(trailer) + 7]);
-        m_objectCount = number(trailer + 8, 8);
-        m_top = number(trailer + 16, 8);
-        m_offsetTable = number(trailer + 24, 8);
-        m_end = m_offsetTable;
-        m_budget = 8 * m_bytes.size();
-        return m_offsetSize >= 1 && m_offsetSize <= 8 && m_referenceSize >= 1 && m_referenceSize <= 8 &&
-               m_offsetTable >= 8 && m_offsetTable <= trailer && m_objectCount <= (trailer - m_offsetTable) / m_offsetSize;
-    }
-
-    [[nodiscard]] std::optional<Object> top() const { return object(m_top); }
-
-    [[nodiscard]] std::optional<Object> object(quint64 reference) const {
-        if (reference >= m_objectCount)
-            return std::nullopt;
-        const quint64 offset = number(m_offsetTable + reference * m_offsetSize, m_offsetSize);
-        if (offset < 8 || offset >= m_offsetTable)
-            return std::nullopt;
-        const auto marker = static_cast<quint8>(m_bytes[static_cast<qsizetype>(offset)]);
-        if (marker < 0x10)
-            return Object{marker, 0, offset + 1};
-        Object found{static_cast<quint8>(marker >> 4), static_cast<quint8>(marker & 0xF), offset + 1};
-        if (found.count == 0xF && !found.is(Marker::integer) && !readCount(found))
-            return std::nullopt;
-        return fits(found) ? std::optional(found) : std::nullopt;
-    }
-
-    /// The object that element `index` of an array refers to; of a dictionary, keys come first, then values.
-    [[nodiscard]] std::optional<Object> element(const Object& container, quint64 index) const {
-        return object(number(container.content + index * m_referenceSize, m_referenceSize));
-    }
-
-    /// The content of a string or data object. Objects may be referred to many times; a list that would unfold to far more
-    /// than its own size ends here, with empty content and `isOverdrawn`.
-    [[nodiscard]] QByteArrayView bytesOf(const Object& object) {
-        const quint64 size = object.is(Marker::utf16) ? object.count * 2 : object.count;
-        m_budget -= static_cast<qint64>(size);
-        if (m_budget < 0)
-            return {};
-        return m_bytes.sliced(static_cast<qsizetype>(object.content), static_cast<qsizetype>(size));
-    }
-
-    [[nodiscard]] bool isOverdrawn() const { return m_budget < 0; }
-
-private:
-    [[nodiscard]] quint64 number(quint64 position, unsigned size) const {
-        quint64 value = 0;
-        for (unsigned i = 0; i < size; ++i)
-            value = value << 8 | static_cast<quint8>(m_bytes[static_cast<qsizetype>(position + i)]);
-        return value;
-    }
-
-    /// A count of 15 and more stands behind the marker, as an integer object.
-    [[nodiscard]] bool readCount(Object& found) const {
-        if (found.content >= m_end)
-            return false;
-        const auto marker = static_cast<quint8>(m_bytes[static_cast<qsizetype>(found.content)]);
-        const unsigned size = 1U << (marker & 0xF);
-        if (marker >> 4 != static_cast<quint8>(Marker::integer) || size > 8 || m_end - found.content < 1 + size)
-            return false;
-        found.count = number(found.content + 1, size);
-        found.content += 1 + size;
-        return true;
-    }
-
-    [[nodiscard]] bool fits(const Object& found) const {
-        const quint64 room = m_end - found.content;
-        switch (static_cast<Marker>(found.kind)) {
-        case Marker::data:
-        case Marker::ascii:
-            return found.count <= room;
-        case Marker::utf16:
-            return found.count <= room / 2;
-        case Marker::array:
-            return found.count <= room / m_referenceSize;
-        case Marker::dictionary:
-            return found.count <= room / m_referenceSize / 2;
-        default:
-            return false;
-        }
-    }
-
-    QByteArrayView m_bytes;
-    quint8 m_offsetSize = 0;
-    quint8 m_referenceSize = 0;
-    quint64 m_objectCount = 0;
-    quint64 m_top = 0;
-    quint64 m_offsetTable = 0;
-    quint64 m_end = 0; ///< where objects must have ended
-    qint64 m_budget = 0;
-};
+using Marker = BinaryList::Marker;
+using Object = BinaryList::Object;
 
 bool isAscii(QByteArrayView bytes) {
     // Without an early way out, so that the compiler can look at many bytes at a time.
@@ -133,12 +20,6 @@ bool isAscii(QByteArrayView bytes) {
     return any < 0x80;
 }
 
-QString utf16(QByteArrayView bigEndian) {
-    QString string(bigEndian.size() / 2, Qt::Uninitialized);
-    qFromBigEndian<char16_t>(bigEndian.data(), string.size(), string.data());
-    return string;
-}
-
 /// A string object's text; nothing for anything else, and for bytes beyond ASCII where the marker promises ASCII.
 std::optional<QString> stringOf(BinaryList& list, const Object& object, StringPool* pool = nullptr) {
     const bool isUtf16 = object.is(Marker::utf16);
@@ -146,7 +27,7 @@ std::optional<QString> stringOf(BinaryList& list, const Object& object, StringPo
         return std::nullopt;
     const QByteArrayView bytes = list.bytesOf(object);
     if (isUtf16)
-        return pool ? pool->shared(utf16(bytes)) : utf16(bytes);
+        return pool ? pool->shared(utf16bytes::toString(bytes)) : utf16bytes::toString(bytes);
     if (!isAscii(bytes))
         return std::nullopt;
     return pool ? pool->sharedAscii(bytes) : QString::fromLatin1(bytes);
@@ -157,8 +38,10 @@ std::optional<StoredText> storedTextOf(BinaryList& list, const Object& object) {
     if (!isUtf16 && !object.is(Marker::ascii))
         return std::nullopt;
     const QByteArrayView bytes = list.bytesOf(object);
-    if (isUtf16)
-        return StoredText(utf16(bytes));
+    if (isUtf16) {
+        auto converted = utf16bytes::toUtf8(bytes);
+        return converted ? StoredText::fromUtf8(*std::move(converted)) : StoredText(utf16bytes::toString(bytes));
+    }
     return isAscii(bytes) ? std::optional(StoredText::fromUtf8(bytes.toByteArray())) : std::nullopt;
 }
 

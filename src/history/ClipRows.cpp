@@ -30,12 +30,16 @@ SQLValue sqlDate(std::optional<Date> date) {
     return date ? SQLValue(*date) : SQLValue(std::monostate());
 }
 
-int hexValue(char digit) {
-    if (digit >= '0' && digit <= '9')
-        return digit - '0';
-    const char lower = static_cast<char>(digit | 0x20);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
-}
+/// The value of each hexadecimal digit, -1 for every other byte.
+constexpr std::array<qint8, 256> hexValues = [] {
+    std::array<qint8, 256> values{};
+    values.fill(-1);
+    for (int i = 0; i < 16; ++i) {
+        values[static_cast<quint8>("0123456789abcdef"[i])] = static_cast<qint8>(i);
+        values[static_cast<quint8>("0123456789ABCDEF"[i])] = static_cast<qint8>(i);
+    }
+    return values;
+}();
 
 ClipRef clipOf(const SQLiteDatabase::Statement& row, Unsealer& unsealer, StringPool& pool) {
     const auto id = uuidOf(row.text(0));
@@ -191,7 +195,7 @@ std::optional<QUuid> uuidOf(QByteArrayView text) {
                 return std::nullopt;
             continue;
         }
-        const int value = hexValue(text[i]);
+        const int value = hexValues[static_cast<quint8>(text[i])];
         if (value < 0)
             return std::nullopt;
         bytes[digits / 2] = static_cast<char>(bytes[digits / 2] << 4 | value);

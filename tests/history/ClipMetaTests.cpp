@@ -162,6 +162,15 @@ TEST(ClipMeta, TheShortWayNeverContradictsTheGeneralReader) {
     EXPECT_GT(answered, 1000);
 }
 
+TEST(ClipMeta, TextWithASurrogateAloneReadsTheSameBothWays) {
+    ClipMeta meta;
+    meta.title = QString(QChar(0xD83D)) + u"x"_s;
+    auto record = minimalRecord();
+    record[u"searchText"_s] = meta.title;
+    const QByteArray bytes = PropertyList(record).toBinary();
+    EXPECT_EQ(readPlainMeta(bytes, nullptr)->searchText, StoredText(meta.title));
+}
+
 TEST(ClipMeta, AListThatUnfoldsBeyondAllMeasureIsNotUnfolded) {
     ClipMeta meta;
     meta.files.assign(20'000, {QString(20'000, u'x'), u"n"_s, std::nullopt});

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArrayView>
+#include <optional>
+
+namespace vellumry {
+
+/// The objects of a binary property list (`bplist00`: header, objects, offset table, trailer of 32 bytes) where they lie, for a
+/// reader that knows what it looks for. Every position is checked against the bytes, which must outlive it.
+class BinaryList {
+public:
+    enum class Marker : quint8 {
+        falseValue = 0x08,
+        trueValue = 0x09,
+        integer = 0x1,
+        data = 0x4,
+        ascii = 0x5,
+        utf16 = 0x6,
+        array = 0xA,
+        dictionary = 0xD
+    };
+    /// One object of a list: its kind and where its content lies. `count` is bytes, UTF-16 units, elements or pairs.
+    struct Object {
+        quint8 kind = 0; ///< the marker's upper half, or the whole marker of a boolean
+        quint64 count = 0;
+        quint64 content = 0;
+
+        [[nodiscard]] bool is(Marker marker) const { return kind == static_cast<quint8>(marker); }
+    };
+
+    explicit BinaryList(QByteArrayView bytes) : m_bytes(bytes) {}
+
+    /// Reads the trailer; false for bytes that are no such list. Comes before everything else.
+    [[nodiscard]] bool open();
+
+    [[nodiscard]] std::optional<Object> top() const { return object(m_top); }
+
+    /// Nothing for a reference or an object that does not lie within the list, and for the kinds that `Marker` leaves out.
+    [[nodiscard]] std::optional<Object> object(quint64 reference) const;
+
+    /// The object that element `index` of an array refers to; of a dictionary, keys come first, then values.
+    [[nodiscard]] std::optional<Object> element(const Object& container, quint64 index) const {
+        return object(number(container.content + index * m_referenceSize, m_referenceSize));
+    }
+
+    /// The content of a string or data object. Objects may be referred to many times; a list that would unfold to far more
+    /// than its own size ends here, with empty content and `isOverdrawn`.
+    [[nodiscard]] QByteArrayView bytesOf(const Object& object);
+
+    /// True once `bytesOf` has refused; what was read is then not to be trusted.
+    [[nodiscard]] bool isOverdrawn() const { return m_budget < 0; }
+
+private:
+    [[nodiscard]] quint64 number(quint64 position, unsigned size) const;
+
+    /// A count of 15 and more stands behind the marker, as an integer object.
+    [[nodiscard]] bool readCount(Object& found) const;
+
+    /// Whether all of a string's, data's or container's content lies before the offset table.
+    [[nodiscard]] bool fits(const Object& found) const;
+
+    QByteArrayView m_bytes;
+    quint8 m_offsetSize = 0;
+    quint8 m_referenceSize = 0;
+    quint64 m_objectCount = 0;
+    quint64 m_top = 0;
+    quint64 m_offsetTable = 0;
+    quint64 m_end = 0; ///< where objects must have ended
+    qint64 m_budget = 0;
+};
+
+} // namespace vellumry
