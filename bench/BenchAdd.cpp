@@ -32,8 +32,8 @@ public:
         MemoryKeyStore keyStore;
         // The constructor of the product's own database sets the file up; only then does this connection open it.
         (void)ClipDatabase::openHistory(folder, keyStore);
-        m_file = std::make_unique<SQLiteDatabase>(folder + u'/' + historyfile::fileName,
-                                                  SQLiteDatabase::Access::readWrite);
+        m_file =
+            std::make_unique<SQLiteDatabase>(folder + u'/' + historyfile::fileName, SQLiteDatabase::Access::readWrite);
     }
 
     /// A row with `meta` and `payload` as large as a clip's with that much text has them.
@@ -50,9 +50,9 @@ public:
                                               qint64{textLength},
                                               meta,
                                               payload};
-        auto statement = m_file->prepare(
-            "INSERT OR REPLACE INTO clips (id, kind, created, used, pinned, expires, fingerprint, size, meta, payload)\n"
-            "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?);");
+        auto statement = m_file->prepare("INSERT OR REPLACE INTO clips (id, kind, created, used, pinned, expires, "
+                                         "fingerprint, size, meta, payload)\n"
+                                         "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?);");
         statement.bind(values);
         statement.step();
     }

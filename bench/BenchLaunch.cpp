@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// From the history file to a complete store, against reading the same rows and opening them with AES-GCM: `bench_launch [--large]`.
+// From the history file to a complete store, against reading the same rows and opening them with AES-GCM: `bench_launch
+// [--large]`.
 
 #include "Corpus.h"
 #include "Measure.h"
@@ -37,7 +38,8 @@ void fill(const QString& folder, KeyStore& keyStore, const std::vector<ClipRef>&
 /// Opens sealed bytes with one context that is set up once; as little as it can be.
 class Opener {
 public:
-    explicit Opener(const SymmetricKey& key) : m_context(EVP_CIPHER_CTX_new(), EVP_CIPHER_CTX_free) {
+    explicit Opener(const SymmetricKey& key)
+        : m_context(EVP_CIPHER_CTX_new(), EVP_CIPHER_CTX_free) {
         EVP_DecryptInit_ex(m_context.get(), EVP_aes_256_gcm(), nullptr, key.bytes().data(), nullptr);
     }
     bool open(QByteArrayView sealed) {
@@ -84,8 +86,8 @@ void benchLaunch(std::size_t count) {
         OpenedHistory history;
         opens.push_back(milliseconds([&] { history = ClipDatabase::openHistory(folder.path(), keyStore); }));
         std::unique_ptr<ClipStore> store;
-        loads.push_back(milliseconds(
-            [&] { store = QCoro::waitFor(ClipStore::open(history.database, RetentionPolicy(), false)); }));
+        loads.push_back(
+            milliseconds([&] { store = QCoro::waitFor(ClipStore::open(history.database, RetentionPolicy(), false)); }));
         loaded = store->clips().size();
     }
     std::printf("%9zu %9zu | %10.1f | %10.1f %6.2f | %12.1f %6.2f\n", count, loaded, median(floors), median(loads),

@@ -8,9 +8,11 @@
 #include "history/ByteSearch.h"
 #include "history/ClipSearch.h"
 
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <string>
+#include <vector>
 
 namespace vellumry::bench {
 
@@ -54,6 +56,15 @@ std::size_t scanWithByteSearch(const std::string& buffer, const QByteArray& need
     return hits;
 }
 
+/// Leaves none of what is measured in the processor's caches: a user's next keystroke comes after other work.
+void forgetCaches() {
+    static std::vector<std::uint64_t> other(std::size_t{32} << 20);
+    std::uint64_t sum = 0;
+    for (std::uint64_t& value : other)
+        sum += ++value;
+    keep(sum);
+}
+
 struct Figures {
     double search = 0;
     double memmemScan = 0;
@@ -71,8 +82,11 @@ Figures measure(ClipSearch& search, const std::vector<ClipRef>& clips, const std
     for (int run = 0; run < runs; ++run) {
         // A query that has nothing in common with the next one, so that the next one starts from nothing.
         keep(search.search(clips, QStringLiteral("☃☃"), ClipFilter::all));
+        forgetCaches();
         searches.push_back(milliseconds([&] { figures.found = search.search(clips, query, ClipFilter::all).size(); }));
+        forgetCaches();
         memmemScans.push_back(milliseconds([&] { keep(scanWithMemmem(buffer, needle)); }));
+        forgetCaches();
         ownScans.push_back(milliseconds([&] { keep(scanWithByteSearch(buffer, needle)); }));
     }
     figures.search = median(searches);
@@ -87,8 +101,8 @@ void printHeading() {
 }
 
 void print(const QByteArray& needle, const Figures& figures) {
-    std::printf("  %-22s %8zu %10.3f | %10.3f %6.2f | %10.3f %6.2f\n", needle.constData(), figures.found, figures.search,
-                figures.memmemScan, figures.search / figures.memmemScan, figures.ownScan,
+    std::printf("  %-22s %8zu %10.3f | %10.3f %6.2f | %10.3f %6.2f\n", needle.constData(), figures.found,
+                figures.search, figures.memmemScan, figures.search / figures.memmemScan, figures.ownScan,
                 figures.search / figures.ownScan);
 }
 
@@ -117,7 +131,8 @@ void benchHistory(std::size_t count) {
     const std::vector<ClipRef> clips = corpus.clips(count);
     const std::string buffer = foldedBuffer(clips);
     std::printf("%zu clips, %.1f MB of folded text (%.0f bytes a clip)\n", count,
-                static_cast<double>(buffer.size()) / 1e6, static_cast<double>(buffer.size()) / static_cast<double>(count));
+                static_cast<double>(buffer.size()) / 1e6,
+                static_cast<double>(buffer.size()) / static_cast<double>(count));
     ClipSearch search;
     std::printf("  first search, which folds everything: %.1f ms\n",
                 milliseconds([&] { keep(search.search(clips, QStringLiteral("☃"), ClipFilter::all)); }));
@@ -139,9 +154,10 @@ void benchScreenshots() {
     Corpus corpus(43);
     const std::vector<ClipRef> clips = corpus.screenshots(5000, 1500);
     const std::string buffer = foldedBuffer(clips);
-    std::printf("5000 screenshots with 1500 characters each (%.1f MB); the tolerant comparison sees all that have no exact "
-                "hit\n",
-                static_cast<double>(buffer.size()) / 1e6);
+    std::printf(
+        "5000 screenshots with 1500 characters each (%.1f MB); the tolerant comparison sees all that have no exact "
+        "hit\n",
+        static_cast<double>(buffer.size()) / 1e6);
     ClipSearch search;
     std::printf("  first search, which makes the keys: %.1f ms\n",
                 milliseconds([&] { keep(search.search(clips, QStringLiteral("☃"), ClipFilter::all)); }));

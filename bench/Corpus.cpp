@@ -26,13 +26,16 @@ struct Language {
 
 const std::vector<Language>& languages() {
     static const std::vector<Language> all = {
-        {{"", "b", "c", "d", "f", "g", "h", "l", "m", "n", "p", "r", "s", "t", "th", "w", "st", "tr", "v", "k", "qu", "j"},
+        {{"",  "b", "c", "d",  "f", "g",  "h",  "l", "m", "n",  "p",
+          "r", "s", "t", "th", "w", "st", "tr", "v", "k", "qu", "j"},
          {"a", "e", "i", "o", "u", "an", "en", "er", "in", "on", "es", "ed", "ing", "at", "ix", "ay", "ou"},
          72},
         {{"", "b", "d", "f", "g", "h", "k", "l", "m", "n", "r", "s", "sch", "t", "w", "z", "B", "G", "S"},
          {"a", "ä", "e", "ei", "en", "er", "ie", "o", "ö", "u", "ü", "ung", "aß", "é"},
          14},
-        {{"б", "в", "г", "д", "к", "л", "м", "н", "п", "р", "с", "т", "П"}, {"а", "е", "и", "о", "у", "ой", "ие", "ть"}, 7},
+        {{"б", "в", "г", "д", "к", "л", "м", "н", "п", "р", "с", "т", "П"},
+         {"а", "е", "и", "о", "у", "ой", "ие", "ть"},
+         7},
         {{"κ", "λ", "μ", "ν", "π", "σ", "τ"}, {"α", "ε", "ι", "ο", "ος", "ας", "ή"}, 4},
         {{"カ", "シ", "日", "本", "語", "の", "と"}, {"ア", "ン", "を", "に", "は"}, 3},
     };
@@ -41,7 +44,8 @@ const std::vector<Language>& languages() {
 
 } // namespace
 
-Corpus::Corpus(std::uint64_t seed) : m_random(seed) {
+Corpus::Corpus(std::uint64_t seed)
+    : m_random(seed) {
     makeText();
     for (int count = 0; count < 32; ++count) {
         QByteArray thumbnail(8000 + static_cast<qsizetype>(upTo(400)), Qt::Uninitialized);
@@ -81,13 +85,14 @@ QByteArray Corpus::cut(std::size_t bytes) {
 }
 
 ClipRef Corpus::nextClip() {
-    static const QStringList applications{QStringLiteral("Terminal"), QStringLiteral("Firefox"), QStringLiteral("Editor"),
-                                          QStringLiteral("Mail"),     QStringLiteral("Files"),   QStringLiteral("Slides")};
+    static const QStringList applications{QStringLiteral("Terminal"), QStringLiteral("Firefox"),
+                                          QStringLiteral("Editor"),   QStringLiteral("Mail"),
+                                          QStringLiteral("Files"),    QStringLiteral("Slides")};
     auto clip = std::make_shared<Clip>();
     const quint64 high = m_random();
-    clip->id = QUuid(static_cast<uint>(high), static_cast<ushort>(high >> 32), static_cast<ushort>(high >> 48), 1, 2, 3, 4,
-                     static_cast<uchar>(m_made >> 24), static_cast<uchar>(m_made >> 16), static_cast<uchar>(m_made >> 8),
-                     static_cast<uchar>(m_made));
+    clip->id = QUuid(static_cast<uint>(high), static_cast<ushort>(high >> 32), static_cast<ushort>(high >> 48), 1, 2, 3,
+                     4, static_cast<uchar>(m_made >> 24), static_cast<uchar>(m_made >> 16),
+                     static_cast<uchar>(m_made >> 8), static_cast<uchar>(m_made));
     clip->createdAt = clip->lastUsedAt = 1.8e9 - static_cast<double>(++m_made);
     clip->fingerprint = QString::number(m_made, 16).rightJustified(64, u'0');
     clip->sourceAppName = applications.at(static_cast<qsizetype>(upTo(static_cast<std::size_t>(applications.size()))));

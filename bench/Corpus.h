@@ -11,9 +11,9 @@
 
 namespace vellumry::bench {
 
-/// Clips as people who copy all day have them, the same for the same seed: most are a few words, a few are whole files (median
-/// 18 characters, mean about 700, at most 585,000), one in twenty is a picture with a thumbnail of 8 KB, every second of
-/// these with text that was read out of it. The words come from made-up vocabularies in several scripts.
+/// Clips as people who copy all day have them, the same for the same seed: most are a few words, a few are whole files
+/// (median 18 characters, mean about 700, at most 585,000), one in twenty is a picture with a thumbnail of 8 KB, every
+/// second of these with text that was read out of it. The words come from made-up vocabularies in several scripts.
 class Corpus {
 public:
     explicit Corpus(std::uint64_t seed);
@@ -23,8 +23,8 @@ public:
     [[nodiscard]] std::vector<ClipRef> screenshots(std::size_t count, std::size_t characters);
     /// What the clip's pasteboard held.
     [[nodiscard]] static ClipPayload payloadOf(const Clip& clip);
-    /// A piece of the running text that all clips are cut from, in ASCII: of `samples` pieces the one that is most, or least,
-    /// often among them.
+    /// A piece of the running text that all clips are cut from, in ASCII: of `samples` pieces the one that is most, or
+    /// least, often among them.
     [[nodiscard]] QByteArray piece(std::size_t length, bool isCommon, std::size_t samples);
 
 private:

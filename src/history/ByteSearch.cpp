@@ -31,7 +31,9 @@ constexpr std::array<unsigned char, 256> frequencies = byteFrequencies();
 
 } // namespace
 
-unsigned char frequencyOfByte(unsigned char byte) { return frequencies[byte]; }
+unsigned char frequencyOfByte(unsigned char byte) {
+    return frequencies[byte];
+}
 
 namespace {
 
@@ -49,7 +51,8 @@ std::size_t rarestPosition(const QByteArray& needle, std::size_t exceptAt) {
 
 } // namespace
 
-ByteSearch::ByteSearch(QByteArray needle) : m_needle(std::move(needle)) {
+ByteSearch::ByteSearch(QByteArray needle)
+    : m_needle(std::move(needle)) {
     m_rare = rarestPosition(m_needle, static_cast<std::size_t>(m_needle.size()));
     m_second = m_needle.size() > 1 ? rarestPosition(m_needle, m_rare) : m_rare;
 }
@@ -85,8 +88,8 @@ const char* ByteSearch::findInBlocks(const char*& begin, const char* end) const 
         const __m128i high = candidates(begin + lane);
         if (_mm_movemask_epi8(_mm_or_si128(low, high)) == 0) [[likely]]
             continue;
-        auto places = static_cast<unsigned>(_mm_movemask_epi8(low)) |
-                      static_cast<unsigned>(_mm_movemask_epi8(high)) << lane;
+        auto places = static_cast<unsigned>(_mm_movemask_epi8(low)) | static_cast<unsigned>(_mm_movemask_epi8(high))
+                                                                          << lane;
         for (; places != 0; places &= places - 1) {
             const char* const place = begin + __builtin_ctz(places);
             if (std::memcmp(place, m_needle.constData(), length) == 0)
@@ -100,8 +103,8 @@ const char* ByteSearch::findInBlocks(const char*& begin, const char* end) const 
 
 const char* ByteSearch::findInBlocks(const char*& begin, const char* end) const {
     const auto length = static_cast<std::size_t>(m_needle.size());
-    const auto* const hit = static_cast<const char*>(
-        memmem(begin, static_cast<std::size_t>(end - begin), m_needle.constData(), length));
+    const auto* const hit =
+        static_cast<const char*>(memmem(begin, static_cast<std::size_t>(end - begin), m_needle.constData(), length));
     if (hit == nullptr)
         begin = end - (length - 1);
     return hit;

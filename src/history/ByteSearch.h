@@ -9,8 +9,8 @@ namespace vellumry {
 /// How often text of many languages has a byte: the greater the more often, at most 200. Only the order means anything.
 [[nodiscard]] unsigned char frequencyOfByte(unsigned char byte);
 
-/// Finds one sequence of bytes in long stretches of memory, at the speed of that memory: it looks at the two bytes of the
-/// needle that text seldom has, many places at a time. A value, prepared once for each needle; any thread.
+/// Finds one sequence of bytes in long stretches of memory, at the speed of that memory: it looks at the two bytes of
+/// the needle that text seldom has, many places at a time. A value, prepared once for each needle; any thread.
 class ByteSearch {
 public:
     /// `needle` may not be empty.
@@ -25,8 +25,8 @@ private:
     const char* findInBlocks(const char*& begin, const char* end) const;
 
     QByteArray m_needle;
-    std::size_t m_rare = 0;    ///< where in the needle its rarest byte stands
-    std::size_t m_second = 0;  ///< its second rarest, elsewhere; the same when the needle has one byte
+    std::size_t m_rare = 0;   ///< where in the needle its rarest byte stands
+    std::size_t m_second = 0; ///< its second rarest, elsewhere; the same when the needle has one byte
 };
 
 } // namespace vellumry

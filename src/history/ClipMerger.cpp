@@ -64,8 +64,7 @@ public:
     void add(const Clip& clip, const ClipPayload& payload) {
         for (const ClipPayload::Item& item : payload.items) {
             const auto url = item.representations.find(uniformtype::fileUrl);
-            const auto path =
-                url == item.representations.end() ? std::nullopt : fileurl::pathOf(url->second);
+            const auto path = url == item.representations.end() ? std::nullopt : fileurl::pathOf(url->second);
             if (path && isNew(*path))
                 append(knownFile(clip, *path), item);
         }
@@ -93,8 +92,8 @@ private:
     }
 
     static FileRef knownFile(const Clip& clip, const QString& path) {
-        const auto known = std::find_if(clip.files.begin(), clip.files.end(),
-                                        [&](const FileRef& file) { return file.path == path; });
+        const auto known =
+            std::find_if(clip.files.begin(), clip.files.end(), [&](const FileRef& file) { return file.path == path; });
         return {path, known == clip.files.end() ? fileurl::lastPathComponent(path) : known->name,
                 known == clip.files.end() ? std::nullopt : known->bookmark};
     }

@@ -15,9 +15,10 @@ enum class Failure { notEnoughClips, containsImages };
 
 using Payloads = QHash<QUuid, ClipPayload>;
 
-/// One draft of all `clips` in the order in which they were copied, whatever the order they are given in: files when all are
-/// files, each path once; else plain text. It is sensitive when one of them is. A clip without an entry in `payloads` gives
-/// what it knows itself. Images cannot be merged; fewer than two clips, or files without any path, are not enough.
+/// One draft of all `clips` in the order in which they were copied, whatever the order they are given in: files when
+/// all are files, each path once; else plain text. It is sensitive when one of them is. A clip without an entry in
+/// `payloads` gives what it knows itself. Images cannot be merged; fewer than two clips, or files without any path, are
+/// not enough.
 [[nodiscard]] std::variant<ClipDraft, Failure> merge(const std::vector<ClipRef>& clips, const Payloads& payloads);
 
 } // namespace vellumry::ClipMerger

@@ -25,7 +25,8 @@ QByteArray haystackOf(const Clip& clip) {
                              clip.imageText.value_or(QString()).toUtf8());
 }
 
-/// Those of `clips` that are marked. Each copy counts up in a clip that is far away in memory, so a few are fetched ahead.
+/// Those of `clips` that are marked. Each copy counts up in a clip that is far away in memory, so a few are fetched
+/// ahead.
 std::vector<ClipRef> gathered(const std::vector<ClipRef>& clips, const std::vector<bool>& isMarked) {
     constexpr std::size_t ahead = 16;
     std::vector<std::size_t> marked;
@@ -74,7 +75,8 @@ struct ClipSearch::Private {
     std::shared_ptr<const LookAlikeText> keysOf(const Clip& clip);
 };
 
-ClipSearch::ClipSearch() : d(std::make_unique<Private>()) {}
+ClipSearch::ClipSearch()
+    : d(std::make_unique<Private>()) {}
 ClipSearch::~ClipSearch() = default;
 
 std::vector<ClipRef> ClipSearch::search(const std::vector<ClipRef>& clips, const QString& query, ClipFilter filter) {
@@ -173,8 +175,8 @@ std::vector<bool> ClipSearch::Private::exactMatches(const std::vector<ClipRef>& 
         if (slot != ClipSearchOrder::noSlot)
             isMatch[position] = isFound[slot];
         else
-            isMatch[position] = text::foldedBytes(clips[position]->sourceAppName.value_or(QString()))
-                                    .contains(search.needle());
+            isMatch[position] =
+                text::foldedBytes(clips[position]->sourceAppName.value_or(QString())).contains(search.needle());
     }
     return isMatch;
 }

@@ -22,9 +22,10 @@ public:
     ClipSearch(const ClipSearch&) = delete;
     ClipSearch& operator=(const ClipSearch&) = delete;
 
-    /// Those of `clips` that pass `filter` and match `query`, in the order of `clips`. A blank query matches everything. A
-    /// sensitive clip is found by the name of its application only; none of its text is kept here.
-    [[nodiscard]] std::vector<ClipRef> search(const std::vector<ClipRef>& clips, const QString& query, ClipFilter filter);
+    /// Those of `clips` that pass `filter` and match `query`, in the order of `clips`. A blank query matches
+    /// everything. A sensitive clip is found by the name of its application only; none of its text is kept here.
+    [[nodiscard]] std::vector<ClipRef> search(const std::vector<ClipRef>& clips, const QString& query,
+                                              ClipFilter filter);
 
     /// Wipes what was folded of the clip. Call it when anything of its text changed, and when the clip went.
     void forgetText(const QUuid& id);

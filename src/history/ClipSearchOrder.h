@@ -14,8 +14,8 @@
 
 namespace vellumry {
 
-/// What a search needs to know of each clip, in the clips' order and close together, so that a keystroke does not touch the
-/// clips themselves. Recognises clips that it has seen before without looking into them; keeps none of them alive.
+/// What a search needs to know of each clip, in the clips' order and close together, so that a keystroke does not touch
+/// the clips themselves. Recognises clips that it has seen before without looking into them; keeps none of them alive.
 /// Main thread.
 class ClipSearchOrder {
 public:
@@ -29,8 +29,8 @@ public:
         std::shared_ptr<const LookAlikeText> keys;
     };
 
-    /// Follows `clips`. `slotOf` gives the slot of a clip that is not sensitive; it is asked only about clips that are new here
-    /// or whose slot has gone from `index`. True when anything differs from the last time.
+    /// Follows `clips`. `slotOf` gives the slot of a clip that is not sensitive; it is asked only about clips that are
+    /// new here or whose slot has gone from `index`. True when anything differs from the last time.
     bool follow(const std::vector<ClipRef>& clips, const FoldedIndex& index,
                 const std::function<Slot(const Clip&)>& slotOf);
     /// The slots of some clips have gone: the next `follow` looks at each.
@@ -52,7 +52,9 @@ private:
         std::weak_ptr<const Clip> owner;
         const Clip* address = nullptr;
 
-        explicit Known(const ClipRef& clip) : owner(clip), address(clip.get()) {}
+        explicit Known(const ClipRef& clip)
+            : owner(clip)
+            , address(clip.get()) {}
         [[nodiscard]] bool is(const ClipRef& clip) const {
             return address == clip.get() && !owner.owner_before(clip) && !clip.owner_before(owner);
         }

@@ -24,7 +24,9 @@ struct Entry {
 
 /// Texts one after the other, each followed by a separator.
 struct FoldedIndex::Chunk {
-    explicit Chunk(std::size_t size) : bytes(new char[size]), capacity(size) {}
+    explicit Chunk(std::size_t size)
+        : bytes(new char[size])
+        , capacity(size) {}
     ~Chunk() { wipe(bytes.get(), used); }
     Chunk(const Chunk&) = delete;
     Chunk& operator=(const Chunk&) = delete;
@@ -79,7 +81,9 @@ std::uint32_t FoldedIndex::chunkWithRoomFor(std::size_t needed) {
     return number;
 }
 
-bool FoldedIndex::contains(Slot slot) const { return slot < m_places.size() && m_places[slot].isAlive; }
+bool FoldedIndex::contains(Slot slot) const {
+    return slot < m_places.size() && m_places[slot].isAlive;
+}
 
 void FoldedIndex::remove(Slot slot) {
     Place& place = m_places[slot];

@@ -12,9 +12,9 @@
 
 namespace vellumry {
 
-/// The folded texts of many clips, laid side by side, so that one scan of memory searches them all. Each text is known by the
-/// slot it was given. A byte that UTF-8 never has stands between two texts, so no needle reaches from one into the next.
-/// Texts that were removed are overwritten at once. One thread.
+/// The folded texts of many clips, laid side by side, so that one scan of memory searches them all. Each text is known
+/// by the slot it was given. A byte that UTF-8 never has stands between two texts, so no needle reaches from one into
+/// the next. Texts that were removed are overwritten at once. One thread.
 class FoldedIndex {
 public:
     using Slot = std::uint32_t;
@@ -24,7 +24,8 @@ public:
     FoldedIndex(const FoldedIndex&) = delete;
     FoldedIndex& operator=(const FoldedIndex&) = delete;
 
-    /// Keeps `text`, which is valid UTF-8. The slot is one that no living text has and that was not removed since `recycle`.
+    /// Keeps `text`, which is valid UTF-8. The slot is one that no living text has and that was not removed since
+    /// `recycle`.
     Slot append(const QByteArray& text);
     /// Wipes the text. Its slot stays out of use until `recycle`.
     void remove(Slot slot);

@@ -30,8 +30,8 @@ struct LookAlikeStretch {
     return queryLength < 6 ? 0 : queryLength < 12 ? 1 : 2;
 }
 
-/// The first stretch of `text` as long as `query` that differs from it in no more places than allowed. Nothing for an empty
-/// query. A character too many or too few is not forgiven.
+/// The first stretch of `text` as long as `query` that differs from it in no more places than allowed. Nothing for an
+/// empty query. A character too many or too few is not forgiven.
 [[nodiscard]] std::optional<LookAlikeStretch> lookAlikeMatch(std::span<const std::uint32_t> query,
                                                              std::span<const std::uint32_t> text);
 

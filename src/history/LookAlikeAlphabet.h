@@ -11,8 +11,8 @@
 
 namespace vellumry {
 
-/// Gives the keys that texts really have one byte each, so that most texts can be kept and compared in bytes. It grows with the
-/// texts; a byte that was given stays with its key. One thread.
+/// Gives the keys that texts really have one byte each, so that most texts can be kept and compared in bytes. It grows
+/// with the texts; a byte that was given stays with its key. One thread.
 class LookAlikeAlphabet {
 public:
     /// No key has this byte.

@@ -16,8 +16,9 @@ constexpr std::uint16_t outsideUnits = std::numeric_limits<std::uint16_t>::max()
 
 std::vector<std::uint16_t> unitsOf(std::span<const std::uint32_t> keys) {
     std::vector<std::uint16_t> units(keys.size());
-    std::transform(keys.begin(), keys.end(), units.begin(),
-                   [](std::uint32_t key) { return static_cast<std::uint16_t>(std::min<std::uint32_t>(key, outsideUnits)); });
+    std::transform(keys.begin(), keys.end(), units.begin(), [](std::uint32_t key) {
+        return static_cast<std::uint16_t>(std::min<std::uint32_t>(key, outsideUnits));
+    });
     return units;
 }
 
@@ -65,8 +66,10 @@ LookAlikeText::~LookAlikeText() {
 }
 
 LookAlikeMatcher::LookAlikeMatcher(std::span<const std::uint32_t> query, const LookAlikeAlphabet& alphabet)
-    : m_allowed(allowedMismatches(query.size())), m_bytes(bytesOf(query, alphabet), raritiesOf(query)),
-      m_units(unitsOf(query), raritiesOf(query)), m_scalars(query, raritiesOf(query)) {}
+    : m_allowed(allowedMismatches(query.size()))
+    , m_bytes(bytesOf(query, alphabet), raritiesOf(query))
+    , m_units(unitsOf(query), raritiesOf(query))
+    , m_scalars(query, raritiesOf(query)) {}
 
 std::optional<std::size_t> LookAlikeMatcher::find(const LookAlikeText& text) const {
     if (const auto* bytes = std::get_if<std::vector<std::uint8_t>>(&text.storage()))

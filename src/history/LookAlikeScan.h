@@ -104,8 +104,8 @@ template <typename Key>
     return true;
 }
 
-/// The first start in `text` from which the query differs in no more places than `allowed`. Nothing for an empty query and
-/// for one that is longer than the text.
+/// The first start in `text` from which the query differs in no more places than `allowed`. Nothing for an empty query
+/// and for one that is longer than the text.
 template <typename Key, int allowed>
 [[nodiscard]] std::optional<std::size_t> findLookAlike(const LookAlikeQuery<Key>& query, std::span<const Key> text) {
     using Block = LookAlikeBlock<Key, allowed>;

@@ -36,23 +36,26 @@ QString mapped(const QString& text, const CaseMapping& mapping) {
 
 QString lowercased(const QString& text, const QLocale& locale) {
     const QByteArray name = locale.name().toLatin1();
-    return mapped(text, [&](const char16_t* source, int32_t length, char16_t* target, int32_t room, UErrorCode& status) {
-        return icu::CaseMap::toLower(name.constData(), 0, source, length, target, room, nullptr, status);
-    });
+    return mapped(text,
+                  [&](const char16_t* source, int32_t length, char16_t* target, int32_t room, UErrorCode& status) {
+                      return icu::CaseMap::toLower(name.constData(), 0, source, length, target, room, nullptr, status);
+                  });
 }
 
 QString uppercased(const QString& text, const QLocale& locale) {
     const QByteArray name = locale.name().toLatin1();
-    return mapped(text, [&](const char16_t* source, int32_t length, char16_t* target, int32_t room, UErrorCode& status) {
-        return icu::CaseMap::toUpper(name.constData(), 0, source, length, target, room, nullptr, status);
-    });
+    return mapped(text,
+                  [&](const char16_t* source, int32_t length, char16_t* target, int32_t room, UErrorCode& status) {
+                      return icu::CaseMap::toUpper(name.constData(), 0, source, length, target, room, nullptr, status);
+                  });
 }
 
 QString capitalized(const QString& text, const QLocale& locale) {
     const QByteArray name = locale.name().toLatin1();
-    return mapped(text, [&](const char16_t* source, int32_t length, char16_t* target, int32_t room, UErrorCode& status) {
-        return icu::CaseMap::toTitle(name.constData(), 0, nullptr, source, length, target, room, nullptr, status);
-    });
+    return mapped(
+        text, [&](const char16_t* source, int32_t length, char16_t* target, int32_t room, UErrorCode& status) {
+            return icu::CaseMap::toTitle(name.constData(), 0, nullptr, source, length, target, room, nullptr, status);
+        });
 }
 
 UChar32 firstScalar(QStringView character) {

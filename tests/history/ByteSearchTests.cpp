@@ -15,7 +15,9 @@ qsizetype indexOf(const QByteArray& needle, const QByteArray& bytes) {
     return hit == nullptr ? -1 : hit - exact.data();
 }
 
-TEST(ByteSearch, FindsTheFirstOfSeveralPlaces) { EXPECT_EQ(indexOf("ab", "xxabxxab"), 2); }
+TEST(ByteSearch, FindsTheFirstOfSeveralPlaces) {
+    EXPECT_EQ(indexOf("ab", "xxabxxab"), 2);
+}
 
 TEST(ByteSearch, FindsNothingInLessThanTheNeedle) {
     EXPECT_EQ(indexOf("abc", "ab"), -1);

@@ -242,8 +242,8 @@ TEST(ClipMerger, AFileClipWithoutPayloadGivesTheFilesItRemembers) {
                                                          {u"/a/c"_s, u"c"_s, std::nullopt}};
     selection.add(ClipKind::file, {{fileItem(u"/a/c"_s)}});
     const ClipDraft draft = selection.draft();
-    EXPECT_EQ(draft.files, (std::vector<FileRef>{{u"/a/ä b"_s, u"Shown"_s, QByteArray("mark")},
-                                                 {u"/a/c"_s, u"c"_s, std::nullopt}}));
+    EXPECT_EQ(draft.files,
+              (std::vector<FileRef>{{u"/a/ä b"_s, u"Shown"_s, QByteArray("mark")}, {u"/a/c"_s, u"c"_s, std::nullopt}}));
     EXPECT_EQ(draft.payload.items.at(0), fileItem(u"/a/ä b"_s));
     EXPECT_FALSE(draft.payload.items.at(0).order);
 }

@@ -129,8 +129,10 @@ TEST(LookAlike, LargeScriptsLeaveTheAlphabetToTheOthers) {
 TEST(LookAlike, TheScanFindsWhatTheWalkFinds) {
     std::mt19937 random(11);
     // The last alphabets hold keys that need two and four bytes, and the keys at the edges of each width.
-    const std::vector<LookAlikeKeys> alphabets = {{'a', 'b'},        {'a', 'b', 'c', 'd'},           {'a', 'e', 0xFE},
-                                                  {'a', 0xFF, 0x100}, {'a', 0x430, 0x431, 0xFFFE}, {'a', 0xFFFF, 0x1F600}, {0x65E5, 0x672C, 'x'}};
+    const std::vector<LookAlikeKeys> alphabets = {
+        {'a', 'b'},           {'a', 'b', 'c', 'd'},        {'a', 'e', 0xFE},
+        {'a', 0xFF, 0x100},   {'a', 0x430, 0x431, 0xFFFE}, {'a', 0xFFFF, 0x1F600},
+        {0x65E5, 0x672C, 'x'}};
     const auto keysFrom = [&](const LookAlikeKeys& letters, std::size_t length) {
         LookAlikeKeys keys(length);
         for (std::uint32_t& key : keys)

@@ -17,7 +17,9 @@ struct Case {
     QString expected;
 };
 
-void PrintTo(const Case& row, std::ostream* out) { *out << row.name; }
+void PrintTo(const Case& row, std::ostream* out) {
+    *out << row.name;
+}
 
 class TransformedText : public testing::TestWithParam<Case> {};
 
