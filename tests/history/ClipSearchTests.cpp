@@ -170,6 +170,17 @@ TEST(ClipSearch, NewImageTextIsFindableAtOnce) {
     EXPECT_TRUE(search.search({after}, u"first"_s, ClipFilter::all).empty());
 }
 
+TEST(ClipSearch, WhatWasForgottenOfAClipThatStaysIsMadeAnew) {
+    ClipSearch search;
+    const Clips clips{textClip(u"first words"_s), pictureOf(u"second w0rds"_s)};
+    EXPECT_EQ(search.search(clips, u"w0rds"_s, ClipFilter::all), Clips{clips[1]});
+    for (const ClipRef& clip : clips) {
+        search.forgetText(clip->id);
+        search.forgetLookAlikes(clip->id);
+    }
+    EXPECT_EQ(search.search(clips, u"words"_s, ClipFilter::all), clips);
+}
+
 TEST(ClipSearch, WhoGoesOnTypingSeesFewerClipsAndMoreAgainWhenDeleting) {
     ClipSearch search;
     const Clips clips{textClip(u"alpha"_s), textClip(u"alps"_s), textClip(u"beta"_s), pictureOf(u"a1pine"_s)};
