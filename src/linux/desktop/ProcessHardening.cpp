@@ -4,9 +4,9 @@
 #include <sys/prctl.h>
 #include <sys/resource.h>
 
-namespace vellumry::processhardening {
+namespace vellumry {
 
-void forbidInspection() {
+void hardenProcess() {
     const rlimit none{0, 0};
     setrlimit(RLIMIT_CORE, &none);
 #ifndef VELLUMRY_INSPECTABLE
@@ -15,4 +15,4 @@ void forbidInspection() {
 #endif
 }
 
-} // namespace vellumry::processhardening
+} // namespace vellumry

@@ -13,10 +13,12 @@ target_sources(
     desktop/InstanceLock.cpp desktop/InstanceLock.h
     desktop/KeychainKeyStore.cpp desktop/KeychainKeyStore.h
     desktop/ProcessHardening.cpp desktop/ProcessHardening.h
+    desktop/ReaderImageCodec.cpp desktop/ReaderImageCodec.h
+    desktop/ReaderProcess.cpp desktop/ReaderProcess.h
     desktop/SecretServiceSession.cpp desktop/SecretServiceSession.h)
 target_link_libraries(
   vellumry_linux
-  PUBLIC Qt6::DBus
+  PUBLIC Qt6::DBus vellumry_reader_protocol
   PRIVATE PkgConfig::LIBSECRET)
 
 if(VELLUMRY_INSPECTABLE OR VELLUMRY_SANITIZE)

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "reader/ReaderProtocol.h"
+#include "reader/ReaderSocket.h"
+
+#include <QString>
+#include <atomic>
+#include <functional>
+#include <mutex>
+#include <sys/types.h>
+
+namespace vellumry {
+
+/// One reader process at a time: started for a request, kept for the next, replaced when it has died. Blocks; all calls on
+/// one thread, except `interrupt`.
+class ReaderProcess {
+public:
+    /// `path` is the program. A reply that has not come after `deadline` never will: the process is ended.
+    ReaderProcess(QString path, std::chrono::milliseconds deadline);
+    ReaderProcess(const ReaderProcess&) = delete;
+    ReaderProcess& operator=(const ReaderProcess&) = delete;
+    /// Ends the process.
+    ~ReaderProcess();
+
+    /// Called with a descriptor that becomes readable when the process just started has ended (pidfd_open(2)). The receiver
+    /// owns it and calls `reap` then, so that a process that went away idle does not stay a zombie.
+    std::function<void(readersocket::Descriptor)> onStarted;
+
+    /// Hands the picture over and waits for the answer. Nothing when the process could not be started, died or took too long.
+    [[nodiscard]] std::optional<readerprotocol::Reply> ask(const QByteArray& picture, int thumbnailPixels);
+    /// Collects a process that has ended of its own; does nothing while it runs.
+    void reap();
+    /// Ends a running request at once and lets no other begin. Any thread.
+    void interrupt();
+
+private:
+    enum class Outcome { answered, failed, readerHadLeft };
+
+    [[nodiscard]] Outcome exchange(const readerprotocol::Request& request, int picture, readerprotocol::Reply& reply);
+    [[nodiscard]] bool start();
+    [[nodiscard]] bool isRunning();
+    /// Ends the process; true when it had left of its own and in peace before.
+    bool finish();
+
+    QString m_path;
+    std::chrono::milliseconds m_deadline;
+    readersocket::Descriptor m_socket;
+    std::atomic<bool> m_isInterrupted{false};
+    /// Held while the process is collected: until then its number is nobody else's.
+    std::mutex m_mutex;
+    pid_t m_process = 0;
+    quint64 m_lastId = 0;
+};
+
+} // namespace vellumry

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "reader/ReaderProtocol.h"
+
+namespace vellumry {
+
+/// Opens pictures: PNG, JPEG, TIFF, WebP, BMP and GIF (its first frame). Runs in the reader process, where a crafted file can
+/// do no more than end it. One thread.
+class ImageSummariser {
+public:
+    /// A picture with more pixels than this is not decoded.
+    static constexpr qint64 maxArea = 250'000'000;
+
+    /// Loads the decoders: from here on no file is opened.
+    ImageSummariser();
+
+    /// The size as stored, an upright thumbnail that is never larger than the picture, and the marks. Empty for bytes that are
+    /// no picture. `file` must stay where it is meanwhile; it is not copied. The reply carries no identity.
+    [[nodiscard]] readerprotocol::Reply summarise(QByteArrayView file, int thumbnailPixels) const;
+};
+
+} // namespace vellumry

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QSize>
+#include <optional>
+
+/// What the program and its reader process say to each other over a stream socket, the reader's standard input. A message is
+/// its length as four bytes (little-endian, not counting themselves) and that many bytes. A request's first byte carries one
+/// file descriptor (SCM_RIGHTS): a sealed memory file with the picture. Requests are answered in their order. Any thread.
+namespace vellumry::readerprotocol {
+
+/// What is asked for. The numbers go over the wire; further operations take further numbers.
+enum class Operation : quint8 { summarise = 1 };
+
+struct Request {
+    quint64 id = 0;
+    Operation operation = Operation::summarise;
+    /// The longer side of the thumbnail at most, 1 to `maxThumbnailPixels`.
+    qint32 thumbnailPixels = 0;
+
+    bool operator==(const Request&) const = default;
+};
+
+struct Reply {
+    quint64 id = 0;
+    std::optional<QSize> pixelSize;
+    std::optional<QByteArray> thumbnail; ///< PNG
+    bool isScreenshot = false;
+
+    bool operator==(const Reply&) const = default;
+};
+
+constexpr qint32 maxThumbnailPixels = 8192;
+/// Neither side believes in a longer message.
+constexpr quint32 maxRequestBytes = 64;
+constexpr quint32 maxReplyBytes = 64 * 1024 * 1024;
+/// A message, its length included. Nothing when it would be longer than the other side accepts.
+[[nodiscard]] QByteArray encode(const Request& request);
+[[nodiscard]] std::optional<QByteArray> encode(const Reply& reply);
+
+/// Reads a message without its length; nothing for bytes that are not exactly one such message.
+[[nodiscard]] std::optional<Request> decodeRequest(const QByteArray& message);
+[[nodiscard]] std::optional<Reply> decodeReply(const QByteArray& message);
+
+/// The length in the first four bytes, which `bytes` must have.
+[[nodiscard]] quint32 messageLength(const char* bytes);
+constexpr int lengthBytes = 4;
+
+} // namespace vellumry::readerprotocol

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "reader/ImageSummariser.h"
+
+#include <chrono>
+
+namespace vellumry {
+
+/// Answers requests on one socket until nobody asks any more. One thread.
+class ReaderService {
+public:
+    enum class End {
+        idle,     ///< no request for a while, or the other side is gone
+        violation ///< the other side does not speak the protocol
+    };
+
+    /// `socket` stays the caller's.
+    explicit ReaderService(int socket, std::chrono::milliseconds patience = std::chrono::seconds(10))
+        : m_socket(socket), m_patience(patience) {}
+
+    [[nodiscard]] End run();
+
+private:
+    [[nodiscard]] bool answer(const readerprotocol::Request& request, int picture);
+
+    int m_socket;
+    std::chrono::milliseconds m_patience;
+    ImageSummariser m_summariser;
+};
+
+} // namespace vellumry
