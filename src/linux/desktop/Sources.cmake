@@ -9,13 +9,18 @@ target_sources(
     desktop/ApplicationInterface.cpp desktop/ApplicationInterface.h
     desktop/CallDeadline.cpp desktop/CallDeadline.h
     desktop/DBusSingleInstance.cpp desktop/DBusSingleInstance.h
+    desktop/FileIdentity.cpp desktop/FileIdentity.h
+    desktop/FileSearch.cpp desktop/FileSearch.h
     desktop/GObjectPointer.h
     desktop/InstanceLock.cpp desktop/InstanceLock.h
     desktop/KeychainKeyStore.cpp desktop/KeychainKeyStore.h
+    desktop/MountTable.cpp desktop/MountTable.h
+    desktop/PosixFileBookmarks.cpp desktop/PosixFileBookmarks.h
     desktop/ProcessHardening.cpp desktop/ProcessHardening.h
     desktop/ReaderImageCodec.cpp desktop/ReaderImageCodec.h
     desktop/ReaderProcess.cpp desktop/ReaderProcess.h
-    desktop/SecretServiceSession.cpp desktop/SecretServiceSession.h)
+    desktop/SecretServiceSession.cpp desktop/SecretServiceSession.h
+    desktop/TrashFolders.cpp desktop/TrashFolders.h)
 target_link_libraries(
   vellumry_linux
   PUBLIC Qt6::DBus vellumry_reader_protocol
