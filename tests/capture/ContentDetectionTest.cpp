@@ -120,6 +120,12 @@ TEST(IsCardNumber, RefusesNearMisses) {
         EXPECT_FALSE(isCardNumber(QString::fromUtf8(text))) << text;
 }
 
+TEST(IsCardNumber, RefusesFirstDigitsThatNoIssuerHas) {
+    // The checksum holds for all of these.
+    for (const char* text : {"0234567890123454", "1234567890123452", "7234567890123459"})
+        EXPECT_FALSE(isCardNumber(QString::fromUtf8(text))) << text;
+}
+
 TEST(IsCardNumber, NeedsTwoDifferentDigits) {
     EXPECT_FALSE(isCardNumber(QString(16, u'0')));
     EXPECT_FALSE(isCardNumber(QString(15, u'5')));
