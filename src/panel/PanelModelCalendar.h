@@ -11,6 +11,8 @@
 
 namespace vellumry {
 
+class PanelModelDayFormat;
+
 /// The user's clock, time zone and language, for naming days. Asked anew each time, so that a journey or midnight
 /// counts.
 struct PanelModelCalendar {
@@ -19,11 +21,12 @@ struct PanelModelCalendar {
     std::function<QLocale()> locale = [] { return QLocale(); };
 };
 
-/// From `start` on, up to but without `end`.
-struct DayInterval {
+/// One day of the user's calendar: from `start` on, up to but without `end`.
+struct CalendarDay {
+    QDate date;
     Date start = 0;
     Date end = 0;
-    [[nodiscard]] bool contains(Date date) const { return date >= start && date < end; }
+    [[nodiscard]] bool contains(Date moment) const { return moment >= start && moment < end; }
 };
 
 /// The heading under which the clips of one day stand.
@@ -33,11 +36,10 @@ struct DayLabel {
     bool operator==(const DayLabel&) const = default;
 };
 
-[[nodiscard]] QDate dayOf(Date date, const QTimeZone& zone);
-/// The day around `date`; 23 or 25 hours long where the clocks change.
-[[nodiscard]] DayInterval dayInterval(Date date, const QTimeZone& zone);
+/// The day around `moment`; 23 or 25 hours long where the clocks change.
+[[nodiscard]] CalendarDay dayAround(Date moment, const QTimeZone& zone);
 /// "Today", "Yesterday", the weekday within the last six days (and for what lies ahead), else day and month, with the
 /// year if it is not this one.
-[[nodiscard]] DayLabel dayLabel(Date date, Date now, const QTimeZone& zone, const QLocale& locale);
+[[nodiscard]] DayLabel dayLabel(const CalendarDay& day, QDate today, const PanelModelDayFormat& format);
 
 } // namespace vellumry

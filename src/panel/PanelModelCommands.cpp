@@ -24,6 +24,22 @@ constexpr quint16 backspace = 51;
 constexpr quint16 forwardDelete = 117;
 } // namespace keycode
 
+/// How many rows a command moves the selection; 0 for one that does not.
+int moveOffset(PanelModel::Command command) {
+    switch (command) {
+    case PanelModel::Command::up:
+        return -1;
+    case PanelModel::Command::down:
+        return 1;
+    case PanelModel::Command::pageUp:
+        return -pageRows;
+    case PanelModel::Command::pageDown:
+        return pageRows;
+    default:
+        return 0;
+    }
+}
+
 } // namespace
 
 bool PanelModel::isTransformListOpen() const {
@@ -45,17 +61,15 @@ void PanelModel::closeTransformList() {
 bool PanelModel::handle(Command command) {
     if (isTransformListOpen() && handleInTransformList(command))
         return true;
+    if (const int offset = moveOffset(command)) {
+        move(offset);
+        return true;
+    }
     const auto& clips = visibleClips();
     switch (command) {
     case Command::enter:
     case Command::enterPlain:
         handleEnter(command == Command::enterPlain);
-        break;
-    case Command::up:
-        move(-1);
-        break;
-    case Command::down:
-        move(1);
         break;
     case Command::home:
         if (!clips.empty())
@@ -64,12 +78,6 @@ bool PanelModel::handle(Command command) {
     case Command::end:
         if (!clips.empty())
             select(clips.back()->id);
-        break;
-    case Command::pageUp:
-        move(-pageRows);
-        break;
-    case Command::pageDown:
-        move(pageRows);
         break;
     case Command::extendUp:
         extend(-1);
@@ -86,6 +94,11 @@ bool PanelModel::handle(Command command) {
     case Command::previousFilter:
         cycleFilter(-1);
         break;
+    case Command::up:
+    case Command::down:
+    case Command::pageUp:
+    case Command::pageDown:
+        break; // moved above
     }
     return true;
 }

@@ -34,7 +34,7 @@ bool PanelModel::Private::isPlainList() const {
 PanelModel::Private::CacheKey PanelModel::Private::key() {
     const Date now = calendar.now();
     if (!today.contains(now))
-        today = dayInterval(now, calendar.timeZone());
+        today = dayAround(now, calendar.timeZone());
     return {store.revision(), query, filter, today.start};
 }
 
@@ -44,17 +44,22 @@ const PanelModel::Private::SectionCache& PanelModel::Private::current() {
         return *sectionCache;
 
     SectionCache cache{std::move(wanted), makeSections(), {}};
+    std::size_t count = 0;
+    for (const auto& section : cache.sections)
+        count += section.clips.size();
+    cache.visible.reserve(count);
     for (const auto& section : cache.sections)
         cache.visible.insert(cache.visible.end(), section.clips.begin(), section.clips.end());
     sectionCache = std::move(cache);
     return *sectionCache;
 }
 
-std::vector<PanelModel::Section> PanelModel::Private::makeSections() const {
-    auto clips = store.search(query, filter);
+std::vector<PanelModel::Section> PanelModel::Private::makeSections() {
+    // The whole history needs no search, and no copy of a long list.
     if (isPlainList())
-        return sectionsByDay(clips);
+        return filter == ClipFilter::all ? sectionsByDay(store.clips()) : sectionsByDay(store.search(query, filter));
 
+    auto clips = store.search(query, filter);
     if (filter == ClipFilter::pinned)
         sortInPinOrder(clips);
     std::vector<Section> sections;
@@ -65,33 +70,40 @@ std::vector<PanelModel::Section> PanelModel::Private::makeSections() const {
     return sections;
 }
 
-std::vector<PanelModel::Section> PanelModel::Private::sectionsByDay(const std::vector<ClipRef>& clips) const {
-    std::vector<Section> sections;
-    std::vector<ClipRef> pinned;
-    std::ranges::copy_if(clips, std::back_inserter(pinned), &Clip::isPinned, &ClipRef::operator*);
-    if (!pinned.empty()) {
-        sortInPinOrder(pinned);
-        sections.push_back({QStringLiteral("pinned"), localised("Pinned"), std::move(pinned)});
-    }
-
-    const Date now = calendar.now();
+std::vector<PanelModel::Section> PanelModel::Private::sectionsByDay(const std::vector<ClipRef>& clips) {
     const auto zone = calendar.timeZone();
     const auto locale = calendar.locale();
-    // The interval spares a look at the calendar for each clip but the first of a day.
-    DayInterval day;
+    if (!dayFormat || dayFormat->locale() != locale)
+        dayFormat = std::make_unique<PanelModelDayFormat>(locale);
+    const QDate date = dayAround(calendar.now(), zone).date;
+
+    std::vector<Section> sections(1);
+    // The day spares a look at the calendar for each clip but the first of a day.
+    CalendarDay day;
     QString dayID;
     for (const auto& clip : clips) {
-        if (clip->isPinned)
+        if (clip->isPinned) {
+            sections.front().clips.push_back(clip);
             continue;
+        }
         if (!day.contains(clip->lastUsedAt)) {
-            auto label = dayLabel(clip->lastUsedAt, now, zone, locale);
+            day = dayAround(clip->lastUsedAt, zone);
+            auto label = dayLabel(day, date, *dayFormat);
             if (label.id != dayID) {
                 dayID = label.id;
                 sections.push_back({std::move(label.id), std::move(label.title), {}});
             }
-            day = dayInterval(clip->lastUsedAt, zone);
         }
         sections.back().clips.push_back(clip);
+    }
+
+    auto& pinned = sections.front();
+    if (pinned.clips.empty()) {
+        sections.erase(sections.begin());
+    } else {
+        pinned.id = QStringLiteral("pinned");
+        pinned.title = localised("Pinned");
+        sortInPinOrder(pinned.clips);
     }
     return sections;
 }

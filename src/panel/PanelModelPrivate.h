@@ -4,6 +4,7 @@
 #include "capture/FileStatus.h"
 #include "history/ClipStore.h"
 #include "panel/PanelModel.h"
+#include "panel/PanelModelDayFormat.h"
 #include "paste/PasteEngine.h"
 
 #include <QPointer>
@@ -40,8 +41,8 @@ struct PanelModel::Private {
 
     [[nodiscard]] bool isPlainList() const;
     [[nodiscard]] CacheKey key();
-    [[nodiscard]] std::vector<Section> makeSections() const;
-    [[nodiscard]] std::vector<Section> sectionsByDay(const std::vector<ClipRef>& clips) const;
+    [[nodiscard]] std::vector<Section> makeSections();
+    [[nodiscard]] std::vector<Section> sectionsByDay(const std::vector<ClipRef>& clips);
     const SectionCache& current();
 
     ClipStore& store;
@@ -64,7 +65,8 @@ struct PanelModel::Private {
 
     std::optional<SectionCache> sectionCache;
     std::optional<CountCache> countCache;
-    DayInterval today;
+    CalendarDay today;
+    std::unique_ptr<PanelModelDayFormat> dayFormat;
     quint64 statusRefresh = 0; ///< grows with each refresh; an older one finds out that it is no longer wanted
 };
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/PanelModelCalendar.h"
+#include "panel/PanelModelDayFormat.h"
 
 #include <QDateTime>
 #include <gtest/gtest.h>
@@ -15,8 +16,12 @@ Date at(int year, int month, int day, int hour, int minute, const QTimeZone& zon
     return Date(QDateTime(QDate(year, month, day), QTime(hour, minute), zone).toSecsSinceEpoch());
 }
 
+DayLabel labelOf(Date date, Date now, const QLocale& locale = english) {
+    return dayLabel(dayAround(date, berlin), dayAround(now, berlin).date, PanelModelDayFormat(locale));
+}
+
 QString title(Date date, Date now, const QLocale& locale = english) {
-    return dayLabel(date, now, berlin, locale).title;
+    return labelOf(date, now, locale).title;
 }
 
 QString idOf(Date start) {
@@ -27,9 +32,9 @@ QString idOf(Date start) {
 
 TEST(PanelModelCalendar, NamesTodayAndYesterdayByTheCalendarAndNotByHours) {
     const auto now = at(2023, 11, 15, 0, 5);
-    EXPECT_EQ(dayLabel(at(2023, 11, 15, 0, 0), now, berlin, english),
+    EXPECT_EQ(labelOf(at(2023, 11, 15, 0, 0), now, english),
               (DayLabel{QStringLiteral("today"), QStringLiteral("Today")}));
-    EXPECT_EQ(dayLabel(at(2023, 11, 14, 23, 59), now, berlin, english),
+    EXPECT_EQ(labelOf(at(2023, 11, 14, 23, 59), now, english),
               (DayLabel{QStringLiteral("yesterday"), QStringLiteral("Yesterday")}));
 }
 
@@ -61,14 +66,14 @@ TEST(PanelModelCalendar, UsesTheOrderAndTheWordsOfTheLanguage) {
 TEST(PanelModelCalendar, TheIdIsTheStartOfTheDay) {
     const auto now = at(2023, 11, 15, 12, 0);
     const auto start = at(2023, 11, 12, 0, 0);
-    EXPECT_EQ(dayLabel(start, now, berlin, english).id, idOf(start));
-    EXPECT_EQ(dayLabel(at(2023, 11, 12, 23, 59), now, berlin, english).id, idOf(start));
+    EXPECT_EQ(labelOf(start, now, english).id, idOf(start));
+    EXPECT_EQ(labelOf(at(2023, 11, 12, 23, 59), now, english).id, idOf(start));
 }
 
 TEST(PanelModelCalendar, ADayIsAsLongAsTheClocksMakeIt) {
-    const auto spring = dayInterval(at(2023, 3, 26, 12, 0), berlin);
+    const auto spring = dayAround(at(2023, 3, 26, 12, 0), berlin);
     EXPECT_EQ(spring.end - spring.start, 23 * 3600.0);
-    const auto autumn = dayInterval(at(2023, 10, 29, 12, 0), berlin);
+    const auto autumn = dayAround(at(2023, 10, 29, 12, 0), berlin);
     EXPECT_EQ(autumn.end - autumn.start, 25 * 3600.0);
     EXPECT_TRUE(autumn.contains(autumn.start));
     EXPECT_FALSE(autumn.contains(autumn.end));
