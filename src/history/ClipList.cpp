@@ -10,7 +10,8 @@ namespace vellumry {
 namespace {
 
 std::size_t hashOfId(const Clip& clip) {
-    return qHash(clip.id);
+    // Not QUuid's own hash, which folds its parts: identities that are not random, from another program, must spread too.
+    return qHashBits(&clip.id, sizeof clip.id);
 }
 
 bool haveOneId(const Clip& one, const Clip& other) {
@@ -18,8 +19,7 @@ bool haveOneId(const Clip& one, const Clip& other) {
 }
 
 std::size_t hashOfFingerprint(const Clip& clip) {
-    // Every part of a keyed hash is as random as the whole.
-    return qHash(QStringView(clip.fingerprint).first(std::min<qsizetype>(clip.fingerprint.size(), 16)));
+    return qHash(clip.fingerprint);
 }
 
 bool haveOneFingerprint(const Clip& one, const Clip& other) {

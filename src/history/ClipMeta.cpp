@@ -76,6 +76,18 @@ ClipMeta ClipMeta::of(const Clip& clip) {
             clip.thumbnail, clip.imageText,  clip.imageTextIsAccurate, clip.isScreenshot};
 }
 
+void ClipMeta::applyTo(Clip& clip) && {
+    clip.title = std::move(title);
+    clip.searchText = std::move(searchText);
+    clip.sourceBundleID = std::move(sourceBundleID);
+    clip.sourceAppName = std::move(sourceAppName);
+    clip.files = std::move(files);
+    clip.thumbnail = std::move(thumbnail);
+    clip.imageText = std::move(imageText);
+    clip.imageTextIsAccurate = imageTextIsAccurate.value_or(false);
+    clip.isScreenshot = isScreenshot.value_or(false);
+}
+
 QByteArray ClipMeta::encoded() const {
     PropertyList::Array fileList;
     for (const FileRef& file : files)

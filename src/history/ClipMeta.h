@@ -24,6 +24,8 @@ struct ClipMeta {
     std::optional<bool> isScreenshot;
 
     [[nodiscard]] static ClipMeta of(const Clip& clip);
+    /// Puts the fields into the clip, absent booleans as false.
+    void applyTo(Clip& clip) &&;
 
     /// A binary property list: one dictionary under the names of the fields, absent optionals left out.
     [[nodiscard]] QByteArray encoded() const;

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/ClipRows.h"
 
+#include "history/ClipLoading.h"
 #include "history/ClipMeta.h"
 #include "history/PayloadCoding.h"
-#include "history/StringPool.h"
-#include "history/Unsealer.h"
 
 #include <algorithm>
 #include <array>
@@ -41,39 +40,6 @@ constexpr std::array<qint8, 256> hexValues = [] {
     return values;
 }();
 
-ClipRef clipOf(const SQLiteDatabase::Statement& row, Unsealer& unsealer, StringPool& pool) {
-    const auto id = uuidOf(row.text(0));
-    const qint64 kind = row.integer(1);
-    if (!id || kind < 0 || kind > static_cast<qint64>(ClipKind::color))
-        return nullptr;
-    const auto plain = unsealer.open(row.blob(8));
-    auto meta = plain ? ClipMeta::decode(*plain, &pool) : std::nullopt;
-    if (!meta)
-        return nullptr;
-
-    auto clip = std::make_shared<Clip>();
-    clip->id = *id;
-    clip->kind = static_cast<ClipKind>(kind);
-    clip->title = std::move(meta->title);
-    clip->searchText = std::move(meta->searchText);
-    clip->sourceBundleID = std::move(meta->sourceBundleID);
-    clip->sourceAppName = std::move(meta->sourceAppName);
-    clip->createdAt = row.real(2);
-    clip->lastUsedAt = row.real(3);
-    clip->pinOrder = row.integer(4);
-    clip->isPinned = clip->pinOrder != 0;
-    if (!row.isNull(5))
-        clip->expiresAt = row.real(5);
-    clip->fingerprint = QString::fromUtf8(row.text(6));
-    clip->byteSize = row.integer(7);
-    clip->files = std::move(meta->files);
-    clip->thumbnail = std::move(meta->thumbnail);
-    clip->imageText = std::move(meta->imageText);
-    clip->imageTextIsAccurate = meta->imageTextIsAccurate.value_or(false);
-    clip->isScreenshot = meta->isScreenshot.value_or(false);
-    return clip;
-}
-
 } // namespace
 
 void createTable(SQLiteDatabase& database) {
@@ -95,14 +61,10 @@ void createTable(SQLiteDatabase& database) {
 std::vector<ClipRef> readAll(SQLiteDatabase& database, const ClipCrypto& crypto) {
     auto rows = database.prepare(
         "SELECT id, kind, created, used, pinned, expires, fingerprint, size, meta FROM clips ORDER BY used DESC;");
-    Unsealer unsealer(crypto.key());
-    StringPool pool;
-    std::vector<ClipRef> clips;
-    while (rows.step()) {
-        if (ClipRef clip = clipOf(rows, unsealer, pool))
-            clips.push_back(std::move(clip));
-    }
-    return clips;
+    ClipLoading loading(crypto);
+    while (rows.step())
+        loading.take(rows);
+    return loading.finish();
 }
 
 std::optional<ClipPayload> readPayload(SQLiteDatabase& database, const ClipCrypto& crypto, const QUuid& id) {

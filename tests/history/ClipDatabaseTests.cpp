@@ -118,6 +118,29 @@ TEST_F(ClipDatabaseTest, LoadsTheLatestFirst) {
     EXPECT_EQ(dates, (std::vector<Date>{3, 2, 1}));
 }
 
+// Long histories are decoded by two threads, in pieces: nothing may be lost, doubled or out of order where they meet.
+TEST_F(ClipDatabaseTest, ALongHistoryLoadsWholeAndInOrder) {
+    const auto database = m_history.open().database;
+    constexpr int count = 5'000;
+    {
+        auto connection = m_history.connect();
+        connection.execute("BEGIN;");
+        for (int i = 0; i < count; ++i)
+            cliprows::write(connection, database->crypto(), *someClip(count - i, QString::number(i)), {});
+        connection.execute("UPDATE clips SET meta = zeroblob(64) WHERE used % 10 = 0;");
+        connection.execute("COMMIT;");
+    }
+    const auto clips = load(*database);
+    ASSERT_EQ(clips.size(), static_cast<std::size_t>(count - count / 10));
+    std::size_t next = 0;
+    for (int i = 0; i < count; ++i) {
+        if ((count - i) % 10 == 0)
+            continue;
+        ASSERT_EQ(clips[next]->title, QString::number(i));
+        ++next;
+    }
+}
+
 TEST_F(ClipDatabaseTest, TheFileShowsNothingOfTheContent) {
     const auto database = m_history.open().database;
     auto clip = std::make_shared<Clip>(*someClip(1, u"FINDME-title"_s));
