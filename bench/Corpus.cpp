@@ -94,7 +94,9 @@ ClipRef Corpus::nextClip() {
                      4, static_cast<uchar>(m_made >> 24), static_cast<uchar>(m_made >> 16),
                      static_cast<uchar>(m_made >> 8), static_cast<uchar>(m_made));
     clip->createdAt = clip->lastUsedAt = 1.8e9 - static_cast<double>(++m_made);
-    clip->fingerprint = QString::number(m_made, 16).rightJustified(64, u'0');
+    // As random as an authentication code.
+    for (int part = 0; part < 4; ++part)
+        clip->fingerprint += QString::number(m_random(), 16).rightJustified(16, u'0');
     clip->sourceAppName = applications.at(static_cast<qsizetype>(upTo(static_cast<std::size_t>(applications.size()))));
     clip->sourceBundleID = QStringLiteral("org.example.") + *clip->sourceAppName;
     if (upTo(20) == 0) {
