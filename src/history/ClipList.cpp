@@ -4,6 +4,7 @@
 #include "history/Retention.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace vellumry {
 
@@ -53,11 +54,13 @@ std::optional<Date> ClipList::nextExpiry() const {
     return m_expiries.empty() ? std::nullopt : std::optional(*m_expiries.begin());
 }
 
-qint64 ClipList::greatestPinOrder() const {
+qint64 ClipList::nextPinOrder(Date date) const {
     qint64 greatest = 0;
     for (const ClipRef& clip : m_clips)
         greatest = std::max(greatest, clip->pinOrder);
-    return greatest;
+    // Neither a file's nonsense nor a clock's may leave the type.
+    greatest = std::min(greatest, std::numeric_limits<qint64>::max() - 1);
+    return std::max(greatest + 1, static_cast<qint64>(std::clamp(date * 1000, -9e18, 9e18)));
 }
 
 bool ClipList::isWithin(const RetentionPolicy& policy, Date now) const {

@@ -23,7 +23,9 @@ public:
     [[nodiscard]] ClipRef findFingerprint(const QString& fingerprint) const;
     /// The earliest expiry of all clips.
     [[nodiscard]] std::optional<Date> nextExpiry() const;
-    [[nodiscard]] qint64 greatestPinOrder() const;
+    /// The place of a pin made at `date`: pins go by the time they were made, in milliseconds, and two of one millisecond
+    /// still differ.
+    [[nodiscard]] qint64 nextPinOrder(Date date) const;
     /// True when no limit of `policy` and no expiry asks for anything to go at `now`; costs no walk.
     [[nodiscard]] bool isWithin(const RetentionPolicy& policy, Date now) const;
 

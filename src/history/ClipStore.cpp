@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/ClipStore.h"
 
+#include "history/Attempts.h"
 #include "history/ClipDatabase.h"
 #include "history/ClipFingerprint.h"
 #include "history/ClipList.h"
@@ -9,9 +10,7 @@
 #include "history/ExpiryTimer.h"
 #include "history/Retention.h"
 
-#include <QHash>
 #include <QPointer>
-#include <algorithm>
 
 namespace vellumry {
 
@@ -33,33 +32,6 @@ struct ClipStore::Private {
     Clock clock = currentDate;
     ExpiryTimer expiry;
 };
-
-namespace {
-
-/// What the database could not do is not the user's concern: memory is what counts. Tells whether it worked.
-QCoro::Task<bool> attempted(QCoro::Task<void> task) {
-    try {
-        co_await task;
-        co_return true;
-    } catch (const std::exception&) {
-    }
-    co_return false;
-}
-
-QCoro::Task<std::optional<ClipPayload>> loaded(std::shared_ptr<ClipDatabase> database, QUuid id) {
-    try {
-        auto reading = database->payload(id);
-        co_return co_await reading;
-    } catch (const std::exception&) {
-    }
-    co_return std::nullopt;
-}
-
-qint64 milliseconds(Date date) {
-    return static_cast<qint64>(std::clamp(date * 1000, -9e18, 9e18));
-}
-
-} // namespace
 
 QCoro::Task<std::unique_ptr<ClipStore>> ClipStore::open(std::shared_ptr<ClipDatabase> database, RetentionPolicy policy,
                                                         bool recoveredFromDamage) {
@@ -91,10 +63,7 @@ QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
     const ClipRef existing = d->list.findFingerprint(fingerprint);
     const ClipRef clip =
         std::make_shared<const Clip>(clipOfDraft(draft, existing, fingerprint, now, d->sensitiveLifetime));
-    if (existing)
-        d->list.replace(existing, clip);
-    else
-        d->list.insert(clip);
+    existing ? d->list.replace(existing, clip) : d->list.insert(clip);
     // The keys of its image text stay: that text was kept, or there is none.
     d->search.forgetText(clip->id);
 
@@ -128,7 +97,7 @@ void ClipStore::takeBack(const QUuid& id, const ClipRef& existing) {
 
 QCoro::Task<std::optional<ClipPayload>> ClipStore::payload(QUuid id) {
     if (d->database) {
-        auto loading = loaded(d->database, id);
+        auto loading = attemptedPayload(d->database, id);
         co_return co_await loading;
     }
     const auto found = d->memoryPayloads.constFind(id);
@@ -155,9 +124,7 @@ QCoro::Task<void> ClipStore::setPinned(QUuid id, bool isPinned, Date date) {
         co_return;
     auto clip = std::make_shared<Clip>(*old);
     clip->isPinned = isPinned;
-    // Pins go by the time they were made, and two of one millisecond still differ.
-    const qint64 greatest = std::min(d->list.greatestPinOrder(), std::numeric_limits<qint64>::max() - 1);
-    const qint64 pinOrder = isPinned ? std::max(greatest + 1, milliseconds(date)) : 0;
+    const qint64 pinOrder = isPinned ? d->list.nextPinOrder(date) : 0;
     clip->pinOrder = pinOrder;
     // Pinning rescues a sensitive clip; unpinning does not bring its end back.
     const bool isRescued = isPinned && clip->expiresAt.has_value();
@@ -209,14 +176,7 @@ QCoro::Task<void> ClipStore::remove(QSet<QUuid> ids, bool thorough) {
         co_return;
     auto deleting = attempted(database->deleteAll({ids.begin(), ids.end()}));
     co_await deleting;
-    // Only this makes the deletion of a sensitive clip real: until then its pages may lie in the write-ahead log.
-    constexpr double manyBytes = 1'048'576;
-    constexpr qsizetype manyClips = 50;
-    double bytes = 0;
-    for (const ClipRef& clip : removed)
-        bytes += static_cast<double>(clip->byteSize);
-    const bool hadSecret = std::ranges::any_of(removed, [](const ClipRef& clip) { return clip->isSensitive(); });
-    if (hadSecret || thorough || bytes > manyBytes || ids.size() >= manyClips) {
+    if (thorough || retention::isWorthReclaiming(removed, ids.size())) {
         auto reclaiming = attempted(database->reclaimSpace());
         co_await reclaiming;
     }

@@ -45,4 +45,14 @@ QSet<QUuid> doomedClips(const std::vector<ClipRef>& clips, const RetentionPolicy
     return doomed;
 }
 
+bool isWorthReclaiming(const std::vector<ClipRef>& removed, qsizetype askedFor) {
+    constexpr double manyBytes = 1'048'576;
+    constexpr qsizetype manyClips = 50;
+    double bytes = 0;
+    for (const ClipRef& clip : removed)
+        bytes += static_cast<double>(clip->byteSize);
+    return std::ranges::any_of(removed, [](const ClipRef& clip) { return clip->isSensitive(); }) || bytes > manyBytes ||
+           askedFor >= manyClips;
+}
+
 } // namespace vellumry::retention

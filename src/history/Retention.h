@@ -16,4 +16,8 @@ namespace vellumry::retention {
 /// count toward the limit of bytes and are never removed for it; of the others, the least recently used go first.
 [[nodiscard]] QSet<QUuid> doomedClips(const std::vector<ClipRef>& clips, const RetentionPolicy& policy, Date now);
 
+/// Whether space must be given back after these clips went, of so many that were asked for: after a sensitive one always, whose
+/// pages may lie in the write-ahead log until then, else for more than a megabyte or from fifty clips on.
+[[nodiscard]] bool isWorthReclaiming(const std::vector<ClipRef>& removed, qsizetype askedFor);
+
 } // namespace vellumry::retention

@@ -2,29 +2,13 @@
 #include "history/ClipDatabase.h"
 
 #include "history/ClipRows.h"
-#include "support/Drafts.h"
+#include "history/DatabaseTest.h"
 #include "support/FileSizeLimit.h"
-#include "support/TemporaryHistory.h"
-
-#include <QFile>
-#include <QRandomGenerator>
-#include <filesystem>
-#include <gtest/gtest.h>
-#include <sys/stat.h>
 
 namespace vellumry {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-ClipRef someClip(Date used, const QString& title = u"title"_s) {
-    auto clip = std::make_shared<Clip>();
-    clip->id = QUuid::createUuid();
-    clip->title = title;
-    clip->lastUsedAt = used;
-    clip->fingerprint = clip->id.toString();
-    return clip;
-}
 
 ClipRef everyField() {
     auto clip = std::make_shared<Clip>(*someClip(1234.5678, u"Títle"_s));
@@ -45,52 +29,7 @@ ClipRef everyField() {
     return clip;
 }
 
-class FailingKeyStore : public KeyStore {
-public:
-    [[nodiscard]] std::optional<SymmetricKey> load() override {
-        if (failsToLoad)
-            throw CryptoError::invalidKeyData();
-        return std::nullopt;
-    }
-    void save(const SymmetricKey&) override { throw CryptoError::keychain(-5); }
-    bool failsToLoad = true;
-};
-
-class ClipDatabaseTest : public testing::Test {
-protected:
-    void insert(ClipDatabase& database, const ClipRef& clip, const ClipPayload& payload = {}) {
-        awaited(database.insert(clip, payload));
-    }
-    [[nodiscard]] std::vector<ClipRef> load(ClipDatabase& database) { return awaited(database.loadAll()); }
-    void execute(const char* sql) const { m_history.connect().execute(sql); }
-    [[nodiscard]] QByteArray query(const char* sql) const {
-        auto database = m_history.connect();
-        auto row = database.prepare(sql);
-        return row.step() ? row.text(0).toByteArray() : QByteArray();
-    }
-    [[nodiscard]] QByteArray allBytes() const {
-        QByteArray bytes;
-        for (const char* suffix : historyfile::companionSuffixes) {
-            QFile file(m_history.path() + QLatin1StringView(suffix));
-            if (file.open(QIODevice::ReadOnly))
-                bytes += file.readAll();
-        }
-        return bytes;
-    }
-    TemporaryHistory m_history;
-};
-
-TEST_F(ClipDatabaseTest, AFirstStartMakesAKeyAndAnEmptyHistory) {
-    const OpenedHistory history = m_history.open();
-    EXPECT_FALSE(history.recoveredFromDamage);
-    EXPECT_TRUE(load(*history.database).empty());
-    EXPECT_EQ(m_history.key(), history.database->crypto().key());
-    EXPECT_EQ(query("PRAGMA auto_vacuum;"), "2");
-    EXPECT_EQ(query("PRAGMA journal_mode;"), "wal");
-    struct stat status {};
-    ASSERT_EQ(::stat(QFile::encodeName(m_history.path()).constData(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777, 0600U);
-}
+class ClipDatabaseTest : public DatabaseTest {};
 
 TEST_F(ClipDatabaseTest, EveryFieldReadsBack) {
     const ClipRef clip = everyField();
@@ -318,113 +257,6 @@ TEST_F(ClipDatabaseTest, AFullDiskRefusesTheRowAndKeepsTheOld) {
     EXPECT_EQ(*load(*database)[0], *clip);
     insert(*database, larger, {{{{{u"t"_s, QByteArray(1'000'000, 'x')}}, std::nullopt}}});
     EXPECT_EQ(*load(*database)[0], *larger);
-}
-
-TEST_F(ClipDatabaseTest, AKeyStoreThatFailsLeavesTheFileAlone) {
-    { const OpenedHistory history = m_history.open(); }
-    const QByteArray before = allBytes();
-    FailingKeyStore failing;
-    EXPECT_THROW((void)ClipDatabase::openHistory(m_history.folder(), failing), CryptoError);
-    EXPECT_EQ(allBytes(), before);
-    EXPECT_TRUE(m_history.backups().isEmpty());
-}
-
-TEST_F(ClipDatabaseTest, AKeyThatCannotBeSavedThrowsAfterTheOldFileWasPutAside) {
-    { const OpenedHistory history = m_history.open(); }
-    FailingKeyStore failing;
-    failing.failsToLoad = false;
-    EXPECT_THROW((void)ClipDatabase::openHistory(m_history.folder(), failing), CryptoError);
-    EXPECT_EQ(m_history.backups().size(), 1);
-    EXPECT_FALSE(QFile::exists(m_history.path()));
-}
-
-TEST_F(ClipDatabaseTest, AFileWithoutItsKeyIsPutAside) {
-    {
-        const auto database = m_history.open().database;
-        insert(*database, someClip(1));
-    }
-    MemoryKeyStore empty;
-    const OpenedHistory history = ClipDatabase::openHistory(m_history.folder(), empty);
-    EXPECT_TRUE(history.recoveredFromDamage);
-    EXPECT_TRUE(load(*history.database).empty());
-    EXPECT_EQ(m_history.backups().size(), 1);
-    EXPECT_TRUE(empty.load().has_value());
-}
-
-TEST_F(ClipDatabaseTest, AnotherKeyPutsTheFileAsideAndItOpensAgainWithItsOwn) {
-    {
-        const auto database = m_history.open().database;
-        insert(*database, someClip(1, u"kept"_s));
-    }
-    MemoryKeyStore other;
-    other.save(SymmetricKey::random());
-    EXPECT_TRUE(ClipDatabase::openHistory(m_history.folder(), other).recoveredFromDamage);
-    const auto backups = m_history.backups();
-    ASSERT_EQ(backups.size(), 1);
-    ClipDatabase backup(m_history.folder() + u'/' + backups[0], ClipCrypto(m_history.key()));
-    EXPECT_EQ(load(backup)[0]->title, u"kept"_s);
-}
-
-TEST_F(ClipDatabaseTest, AForeignTableIsKeptAndJoinedByOurs) {
-    m_history.keyStore().save(SymmetricKey::random());
-    execute("CREATE TABLE other (a); INSERT INTO other VALUES (42);");
-    const OpenedHistory history = m_history.open();
-    EXPECT_FALSE(history.recoveredFromDamage);
-    insert(*history.database, someClip(1));
-    EXPECT_EQ(query("SELECT a FROM other;"), "42");
-    EXPECT_EQ(query("PRAGMA auto_vacuum;"), "2");
-}
-
-TEST_F(ClipDatabaseTest, AFolderThatIsNotThereThrows) {
-    EXPECT_THROW((void)ClipDatabase::openHistory(m_history.folder() + u"/missing"_s, m_history.keyStore()), SQLiteError);
-}
-
-// Whatever lies under the history's name, a start gives a working history, and what was there is either kept or put aside.
-TEST_F(ClipDatabaseTest, AnyBytesUnderItsNameGiveAWorkingHistory) {
-    {
-        const auto database = m_history.open().database;
-        for (int i = 0; i < 50; ++i)
-            insert(*database, someClip(i));
-    }
-    QFile file(m_history.path());
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray sound = file.readAll();
-    file.close();
-    QRandomGenerator random(11);
-    for (int round = 0; round < 30; ++round) {
-        QByteArray bytes = round == 0 ? QByteArray() : sound;
-        if (round % 3 == 1)
-            bytes.truncate(random.bounded(bytes.size()));
-        for (int left = round % 3 == 2 ? 20 : 0; left > 0; --left)
-            bytes[random.bounded(bytes.size())] = static_cast<char>(random.bounded(256));
-        for (const QString& name : QDir(m_history.folder()).entryList(QDir::Files))
-            QFile::remove(m_history.folder() + u'/' + name);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        file.close();
-
-        try {
-            const OpenedHistory history = m_history.open();
-            EXPECT_EQ(history.recoveredFromDamage, !m_history.backups().isEmpty());
-            const std::size_t before = load(*history.database).size();
-            insert(*history.database, someClip(1000));
-            EXPECT_EQ(load(*history.database).size(), before + 1);
-        } catch (const SQLiteError&) {
-            // Sound enough for the check, not for the work: the caller goes on in memory, and the file is still there.
-            EXPECT_TRUE(QFile::exists(m_history.path()));
-        }
-    }
-}
-
-TEST(ClipRows, AnIdIsReadInAnyCaseAndInNoOtherForm) {
-    const QUuid id(u"0a1b2c3d-4e5f-6071-8293-a4b5c6d7e8f9"_s);
-    EXPECT_EQ(cliprows::uuidOf("0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9"), id);
-    EXPECT_EQ(cliprows::uuidOf("0a1b2c3d-4e5f-6071-8293-a4b5c6d7e8f9"), id);
-    EXPECT_EQ(cliprows::uuidOf("00000000-0000-0000-0000-000000000000"), QUuid());
-    for (const char* wrong : {"", "{0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9}", "0A1B2C3D4E5F60718293A4B5C6D7E8F9",
-                              "0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8FG", "0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9 ",
-                              "0A1B2C3D+4E5F-6071-8293-A4B5C6D7E8F9"})
-        EXPECT_EQ(cliprows::uuidOf(wrong), std::nullopt) << wrong;
 }
 
 } // namespace

@@ -1,31 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "history/ClipStore.h"
-
-#include "support/Awaited.h"
-#include "support/Drafts.h"
-
-#include <gtest/gtest.h>
+#include "history/MemoryStoreTest.h"
 
 namespace vellumry {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-/// A memory-only store, whose operations never suspend.
-class ClipStoreTest : public testing::Test {
-protected:
-    ClipRef add(const ClipDraft& draft, Date now) { return awaited(m_store.add(draft, now)); }
-    ClipRef addText(const QString& string, Date now) { return add(drafts::text(string), now); }
-    void pin(const ClipRef& clip, bool isPinned, Date now) { awaited(m_store.setPinned(clip->id, isPinned, now)); }
-    [[nodiscard]] ClipRef current(const ClipRef& clip) const { return m_store.find(clip->id); }
-    [[nodiscard]] QStringList titles() const {
-        QStringList list;
-        for (const ClipRef& clip : m_store.clips())
-            list.append(clip->title);
-        return list;
-    }
-    ClipStore m_store{RetentionPolicy()};
-};
+class ClipStoreTest : public MemoryStoreTest {};
 
 TEST_F(ClipStoreTest, BeginsEmptyAndInMemory) {
     EXPECT_TRUE(m_store.clips().empty());
@@ -92,32 +73,6 @@ TEST_F(ClipStoreTest, RecopyOfAPinnedClipKeepsThePin) {
     EXPECT_TRUE(again->isPinned);
     EXPECT_EQ(again->pinOrder, 5000);
     EXPECT_EQ(m_store.clips().front()->id, clip->id);
-}
-
-TEST_F(ClipStoreTest, ASensitiveRecopyOfAPinGivesItAnEndThatItMeets) {
-    const ClipRef clip = addText(u"one"_s, 1);
-    pin(clip, true, 2);
-    const ClipRef again = add(drafts::secret(u"one"_s), 10);
-    EXPECT_TRUE(again->isPinned);
-    EXPECT_EQ(again->expiresAt, 70);
-    awaited(m_store.enforceRetention(69.9));
-    EXPECT_TRUE(current(clip));
-    awaited(m_store.enforceRetention(70));
-    EXPECT_FALSE(current(clip));
-}
-
-TEST_F(ClipStoreTest, AnOrdinaryRecopyOfASecretLosesItsEnd) {
-    EXPECT_EQ(add(drafts::secret(u"one"_s), 10)->expiresAt, 70);
-    EXPECT_EQ(addText(u"one"_s, 20)->expiresAt, std::nullopt);
-    EXPECT_EQ(m_store.nextExpiry(), std::nullopt);
-}
-
-TEST_F(ClipStoreTest, AnEndIsCountedFromTheCopyWithTheLifetimeOfThatMoment) {
-    m_store.setSensitiveLifetime(5);
-    const ClipRef clip = add(drafts::secret(u"one"_s), 10);
-    EXPECT_EQ(clip->expiresAt, 15);
-    m_store.setSensitiveLifetime(500);
-    EXPECT_EQ(current(clip)->expiresAt, 15);
 }
 
 TEST_F(ClipStoreTest, StyledTextReplacesPlainTextOfTheSameWords) {
@@ -202,44 +157,6 @@ TEST_F(ClipStoreTest, UseMovesAClipAndNothingElse) {
     const qint64 before = m_store.revision();
     awaited(m_store.markUsed(QUuid::createUuid(), 9));
     EXPECT_EQ(m_store.revision(), before);
-}
-
-TEST_F(ClipStoreTest, PinsAreNumberedByTheTimeTheyWereMade) {
-    const ClipRef one = addText(u"one"_s, 1);
-    const ClipRef two = addText(u"two"_s, 2);
-    const ClipRef three = addText(u"three"_s, 3);
-    pin(two, true, 1000.0017);
-    pin(one, true, 1000.0018);
-    pin(three, true, 1000.5);
-    EXPECT_EQ(current(two)->pinOrder, 1'000'001);
-    EXPECT_EQ(current(one)->pinOrder, 1'000'002) << "the second of one millisecond goes behind the first";
-    EXPECT_EQ(current(three)->pinOrder, 1'000'500);
-    EXPECT_EQ(titles(), (QStringList{u"three"_s, u"two"_s, u"one"_s})) << "pinning moves nothing";
-    std::vector<QUuid> ids;
-    for (const ClipRef& clip : m_store.pinnedClips())
-        ids.push_back(clip->id);
-    EXPECT_EQ(ids, (std::vector<QUuid>{two->id, one->id, three->id}));
-}
-
-TEST_F(ClipStoreTest, PinningRescuesASecretAndUnpinningDoesNotCondemnIt) {
-    const ClipRef clip = add(drafts::secret(u"one"_s), 1);
-    pin(clip, true, 2);
-    EXPECT_EQ(current(clip)->expiresAt, std::nullopt);
-    pin(clip, false, 3);
-    EXPECT_EQ(current(clip)->expiresAt, std::nullopt);
-    EXPECT_EQ(current(clip)->pinOrder, 0);
-    EXPECT_FALSE(current(clip)->isPinned);
-}
-
-TEST_F(ClipStoreTest, PinningWhatIsPinnedChangesNothing) {
-    const ClipRef clip = addText(u"one"_s, 1);
-    pin(clip, false, 2);
-    pin(clip, true, 2);
-    const qint64 before = m_store.revision();
-    pin(clip, true, 9);
-    awaited(m_store.setPinned(QUuid::createUuid(), true, 9));
-    EXPECT_EQ(m_store.revision(), before);
-    EXPECT_EQ(current(clip)->pinOrder, 2000);
 }
 
 TEST_F(ClipStoreTest, TextOfAPictureIsFoundAtOnce) {
@@ -327,50 +244,6 @@ TEST_F(ClipStoreTest, EveryChangeIsAnnouncedOnceItIsTrue) {
     awaited(m_store.markUsed(one->id, 3));
     awaited(m_store.remove({one->id}, false));
     EXPECT_EQ(seen, (QStringList{u"one"_s, u"two+one"_s, u"one+two"_s, u"two"_s}));
-}
-
-TEST_F(ClipStoreTest, NoTimerRunsUntilAskedFor) {
-    Date now = 10;
-    m_store.setClock([&] { return now; });
-    add(drafts::secret(u"one"_s), 10);
-    EXPECT_FALSE(m_store.isExpiryScheduled());
-    EXPECT_EQ(m_store.nextExpiry(), 70);
-    now = 80;
-    addText(u"two"_s, now);
-    EXPECT_EQ(titles(), QStringList{u"two"_s}) << "a due clip goes with the next copy all the same";
-}
-
-TEST_F(ClipStoreTest, TheTimerFollowsTheNextExpiry) {
-    m_store.setClock([] { return 10.0; });
-    m_store.setAutoExpire(true);
-    EXPECT_FALSE(m_store.isExpiryScheduled());
-    const ClipRef clip = add(drafts::secret(u"one"_s), 10);
-    EXPECT_TRUE(m_store.isExpiryScheduled());
-    pin(clip, true, 11);
-    EXPECT_FALSE(m_store.isExpiryScheduled());
-    add(drafts::secret(u"two"_s), 12);
-    EXPECT_TRUE(m_store.isExpiryScheduled());
-    m_store.setAutoExpire(false);
-    EXPECT_FALSE(m_store.isExpiryScheduled());
-}
-
-TEST_F(ClipStoreTest, SecretsDeleteThemselvesOneAfterTheOther) {
-    Date now = 10;
-    m_store.setClock([&] { return now; });
-    m_store.setAutoExpire(true);
-    add(drafts::secret(u"one"_s), 10);
-    add(drafts::secret(u"two"_s), 11);
-    addText(u"three"_s, 12);
-    now = 70;
-    m_store.setAutoExpire(true);
-    runUntil([&] { return m_store.clips().size() == 2; });
-    EXPECT_EQ(titles(), (QStringList{u"three"_s, u"two"_s}));
-    EXPECT_TRUE(m_store.isExpiryScheduled());
-    now = 71;
-    m_store.setAutoExpire(true);
-    runUntil([&] { return m_store.clips().size() == 1; });
-    EXPECT_EQ(titles(), QStringList{u"three"_s});
-    EXPECT_FALSE(m_store.isExpiryScheduled());
 }
 
 } // namespace
