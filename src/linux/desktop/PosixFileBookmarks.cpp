@@ -18,7 +18,7 @@ bool isBackupOf(const QByteArray& original, const QByteArray& path) {
         return false;
     const QByteArray originalName = original.sliced(folderEnd);
     const QByteArray name = path.sliced(folderEnd);
-    return name.size() > originalName.size() && name.contains(originalName);
+    return name.size() > originalName.size() && name.contains(originalName) && !name.contains('/');
 }
 
 } // namespace

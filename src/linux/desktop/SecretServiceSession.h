@@ -3,6 +3,7 @@
 
 #include "linux/desktop/GObjectPointer.h"
 #include "linux/desktop/KeychainKeyStore.h"
+#include "linux/desktop/PrivateMainContext.h"
 
 #include <QByteArray>
 #include <libsecret/secret.h>
@@ -40,6 +41,8 @@ private:
     QByteArray m_serviceAttribute;
     QByteArray m_accountAttribute;
     KeychainKeyStore::Patience m_patience;
+    /// First, so that it goes last and takes along what the others left with it: the connection closes then.
+    PrivateMainContext m_context;
     GObjectPointer<GDBusConnection> m_bus;
     GObjectPointer<SecretService> m_service;
 };

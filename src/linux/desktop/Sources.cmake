@@ -16,6 +16,7 @@ target_sources(
     desktop/KeychainKeyStore.cpp desktop/KeychainKeyStore.h
     desktop/MountTable.cpp desktop/MountTable.h
     desktop/PosixFileBookmarks.cpp desktop/PosixFileBookmarks.h
+    desktop/PrivateMainContext.h
     desktop/ProcessHardening.cpp desktop/ProcessHardening.h
     desktop/ReaderImageCodec.cpp desktop/ReaderImageCodec.h
     desktop/ReaderProcess.cpp desktop/ReaderProcess.h

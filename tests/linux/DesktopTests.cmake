@@ -1,0 +1,20 @@
+add_executable(second_copy SecondCopy.cpp)
+vellumry_target_defaults(second_copy)
+target_link_libraries(second_copy PRIVATE vellumry_linux)
+
+vellumry_test(
+  vellumry_desktop_tests
+  SOURCES
+    DBusSingleInstanceTest.cpp
+    KeychainKeyStoreTest.cpp
+    MountTableTest.cpp
+    PosixFileBookmarksTest.cpp
+    PrivateBus.cpp
+    PrivateBus.h
+    ProcessHardeningTest.cpp
+  LINKS vellumry_linux)
+add_dependencies(vellumry_desktop_tests second_copy)
+target_compile_definitions(vellumry_desktop_tests PRIVATE VELLUMRY_SECOND_COPY="$<TARGET_FILE:second_copy>")
+if(VELLUMRY_INSPECTABLE OR VELLUMRY_SANITIZE)
+  target_compile_definitions(vellumry_desktop_tests PRIVATE VELLUMRY_INSPECTABLE)
+endif()
