@@ -6,7 +6,9 @@ ListView {
     id: list
 
     required property var panel // PanelController's view of the model
+    property int hoveredRow: -1
 
+    objectName: "clips"
     model: panel.rows
     clip: true
     reuseItems: true
@@ -15,12 +17,21 @@ ListView {
     currentIndex: -1
     keyNavigationEnabled: false
     highlightFollowsCurrentItem: false
+    onContentYChanged: area.rest()
     Accessible.role: Accessible.List
     Accessible.name: panel.words("Clips")
 
     Connections {
         target: list.panel
+        function onPresented() {
+            area.isKnown = false;
+            area.rest();
+        }
+        function onContentChanged() {
+            area.rest();
+        }
         function onPrimaryRowChanged() {
+            area.rest();
             if (list.panel.primaryRow <= 1)
                 list.positionViewAtBeginning();
             else
@@ -72,17 +83,46 @@ ListView {
             visible: !line.isHeader
             width: parent.width
             clip: line
-            isHovered: area.containsMouse
+            isHovered: list.hoveredRow === line.index
         }
-        MouseArea {
-            id: area
-            anchors.fill: parent
-            enabled: !line.isHeader
-            hoverEnabled: true
-            onPressed: mouse => list.panel.rowPressed(line.index, mouse.modifiers)
-            onReleased: list.panel.rowReleased(line.index)
-            onDoubleClicked: list.panel.rowDoubleClicked(line.index)
+    }
+
+    MouseArea {
+        // One for all rows. A row lights up only when the pointer was moved there: neither the panel coming up under it nor rows
+        // passing beneath it count.
+        id: area
+        property point restingAt
+        property bool isKnown: false
+        property int pressedRow: -1
+
+        function rowAt(mouse: var): int {
+            return list.indexAt(mouse.x, mouse.y + list.contentY);
         }
+        function rest() {
+            list.hoveredRow = -1;
+        }
+
+        parent: list
+        anchors.fill: parent
+        hoverEnabled: true
+        onEntered: {
+            restingAt = mapToGlobal(mouseX, mouseY);
+            isKnown = true;
+        }
+        onPositionChanged: mouse => {
+            const place = mapToGlobal(mouse.x, mouse.y);
+            if (isKnown && (place.x !== restingAt.x || place.y !== restingAt.y))
+                list.hoveredRow = rowAt(mouse);
+            restingAt = place;
+            isKnown = true;
+        }
+        onExited: rest()
+        onPressed: mouse => {
+            pressedRow = rowAt(mouse);
+            list.panel.rowPressed(pressedRow, mouse.modifiers);
+        }
+        onReleased: list.panel.rowReleased(pressedRow)
+        onDoubleClicked: mouse => list.panel.rowDoubleClicked(rowAt(mouse))
     }
 
     Rectangle {

@@ -33,7 +33,7 @@ Item {
         anchors.right: marks.left
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
+        spacing: 1
 
         Text {
             width: parent.width

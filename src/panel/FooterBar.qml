@@ -7,7 +7,7 @@ Item {
 
     required property var panel
 
-    height: 36
+    height: 34
 
     Rectangle {
         anchors.left: parent.left

@@ -26,8 +26,8 @@ QtObject {
     readonly property int radius: 14
     readonly property int rowRadius: 8
     readonly property int margin: 12
-    readonly property int rowHeight: 46
-    readonly property int headerHeight: 30
+    readonly property int rowHeight: 42
+    readonly property int headerHeight: 28
     readonly property int titleSize: 14
     readonly property int smallSize: 12
     readonly property int fieldSize: 19

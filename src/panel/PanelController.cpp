@@ -19,9 +19,8 @@ namespace vellumry {
 
 namespace {
 
-constexpr int shadowRoom = 28;
+constexpr int shadowRoom = 40;
 constexpr int cornerRadius = 14;
-constexpr int settleMilliseconds = 120;
 
 /// Round corners for windows that cannot blend.
 QRegion roundedMask(const QSize& size) {
@@ -40,7 +39,7 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, PanelSur
     m_facade.onDragged = [this] { drag(); };
     m_facade.onDropped = [this] { drop(); };
     m_settle.setSingleShot(true);
-    m_settle.setInterval(settleMilliseconds);
+    m_settle.setInterval(m_hooks.settleDelay);
     connect(&m_settle, &QTimer::timeout, this, &PanelController::settlePosition);
     m_surface->onFocusLost = [this](QWindow* window) {
         if (m_view && window == m_view.get())
@@ -105,6 +104,7 @@ void PanelController::show() {
     m_model.prepareForShow();
     warmUp();
     applyLook();
+    m_facade.present();
     std::optional<QRect> frame;
     if (const std::optional<ScreenPlace> screen = m_surface->screenUnderPointer()) {
         const auto saved = m_hooks.position(screen->key);

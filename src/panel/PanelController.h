@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -35,6 +36,8 @@ public:
         std::function<QString()> openPanelKeys;
         /// Shows a message on the display under the pointer.
         std::function<void(const ToastMessage&)> showToast;
+        /// How long after the pointer let go the place is remembered.
+        std::chrono::milliseconds settleDelay{120};
     };
 
     /// `store`, `paster` and `surface` must outlive this.

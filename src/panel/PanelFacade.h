@@ -66,6 +66,9 @@ public:
     [[nodiscard]] int shadowMargin() const { return m_shadowMargin; }
     void setAppearance(bool isDark, int shadowMargin);
 
+    /// To be called when the panel comes up.
+    void present() { Q_EMIT presented(); }
+
     /// The pointer took hold of an empty part, moved, let go.
     std::function<void()> onGrabbed = [] {};
     std::function<void()> onDragged = [] {};
@@ -80,6 +83,7 @@ Q_SIGNALS:
     void focusTokenChanged();
     void transformChanged();
     void appearanceChanged();
+    void presented();
 
 private:
     PanelModel* m_model;

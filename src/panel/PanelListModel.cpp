@@ -20,19 +20,21 @@ PanelListModel::PanelListModel(PanelModel& model, KeyWords words, QObject* paren
 
 void PanelListModel::rebuild() {
     std::vector<Row> rows;
+    std::vector<int> headers;
     const std::vector<PanelModel::Section>& sections = m_model->sections();
     std::size_t count = sections.size();
     for (const PanelModel::Section& section : sections)
         count += section.clips.size();
     rows.reserve(count);
     for (const PanelModel::Section& section : sections) {
+        headers.push_back(static_cast<int>(rows.size()));
         rows.push_back({section.title, nullptr});
         for (const ClipRef& clip : section.clips)
             rows.push_back({QString(), clip});
     }
+    m_headers = std::move(headers);
     m_rowNumbers = m_model->rowNumbers();
     m_pinNumbers = m_model->pinNumbers();
-    m_selected = m_model->selectedIDs();
 
     const int before = static_cast<int>(m_rows.size());
     const int after = static_cast<int>(rows.size());
@@ -52,7 +54,6 @@ void PanelListModel::rebuild() {
 }
 
 void PanelListModel::repaintSelection() {
-    m_selected = m_model->selectedIDs();
     if (!m_rows.empty())
         Q_EMIT dataChanged(index(0), index(static_cast<int>(m_rows.size()) - 1), {IsSelectedRole});
 }
@@ -66,11 +67,17 @@ ClipRef PanelListModel::clipAt(int row) const {
 }
 
 int PanelListModel::primaryRow() const {
-    const std::optional<QUuid> selected = m_model->selectedID();
-    const auto found = std::find_if(m_rows.begin(), m_rows.end(), [&](const Row& row) {
-        return row.clip && selected && row.clip->id == *selected;
-    });
-    return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
+    const int index = m_model->selectedIndex();
+    if (index < 0)
+        return -1;
+    // One header stands above each section, so a clip lies as many rows lower as sections begin up to it.
+    int row = index;
+    for (const int header : m_headers) {
+        if (header > row)
+            break;
+        ++row;
+    }
+    return row < rowCount() ? row : -1;
 }
 
 QVariant PanelListModel::data(const QModelIndex& index, int role) const {

@@ -67,9 +67,9 @@ private:
     PanelModel* m_model;
     KeyWords m_words;
     std::vector<Row> m_rows;
+    std::vector<int> m_headers; ///< the rows that are headers, ascending
     QHash<QUuid, int> m_rowNumbers;
     QHash<QUuid, int> m_pinNumbers;
-    QSet<QUuid> m_selected;
 };
 
 } // namespace vellumry

@@ -21,10 +21,10 @@ Item {
         anchors.fill: parent
         source: root.shadowMargin > 0 ? "image://symbol/shadow" : ""
         border {
-            left: 60
-            right: 60
-            top: 60
-            bottom: 60
+            left: 86
+            right: 86
+            top: 86
+            bottom: 86
         }
     }
     Rectangle {

@@ -5,8 +5,8 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QSvgRenderer>
-#include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace vellumry {
 
@@ -30,24 +30,23 @@ QImage drawn(const QString& name, const QColor& tint, const QSize& size) {
 
 } // namespace
 
+// A Gaussian blur of a rectangle is the product of the blurs of its two spans.
 QImage panelShadow() {
-    constexpr int side = 128;
-    constexpr double blur = 22;
-    constexpr double margin = 28;
-    constexpr double drop = 6;
-    constexpr double radius = 14;
-    constexpr double strength = 92;
+    constexpr int side = 2 * 86 + 8;
+    constexpr double margin = 40;
+    constexpr double blur = 12; // standard deviation
+    constexpr double drop = 5;  // lies a little lower than the panel
+    constexpr double strength = 84;
+    const auto covered = [](double place) {
+        constexpr double scale = blur * std::numbers::sqrt2;
+        return (std::erf((place - margin) / scale) - std::erf((place - (side - margin)) / scale)) / 2.0;
+    };
     QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < side; ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < side; ++x) {
-            // Distance from a rounded rectangle that lies a little lower than the panel.
-            const double half = side / 2.0 - margin;
-            const double dx = std::max(std::abs(x + 0.5 - side / 2.0) - (half - radius), 0.0);
-            const double dy = std::max(std::abs(y + 0.5 - drop - side / 2.0) - (half - radius), 0.0);
-            const double outside = std::max(std::hypot(dx, dy) - radius, 0.0);
-            const double fade = std::clamp(1.0 - outside / blur, 0.0, 1.0);
-            line[x] = qPremultiply(qRgba(0, 0, 0, static_cast<int>(std::lround(strength * fade * fade))));
+            const double share = covered(x + 0.5) * covered(y + 0.5 - drop);
+            line[x] = qPremultiply(qRgba(0, 0, 0, static_cast<int>(std::lround(strength * share))));
         }
     }
     return image;

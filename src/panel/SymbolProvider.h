@@ -21,7 +21,7 @@ private:
     QCache<QString, QImage> m_cache{256};
 };
 
-/// A soft shadow around a rounded rectangle, made to be stretched from its middle; borders of 60.
+/// A soft shadow around a rounded rectangle, made to be stretched from its middle; borders of 86, room of 40 around the panel.
 [[nodiscard]] QImage panelShadow();
 
 } // namespace vellumry
