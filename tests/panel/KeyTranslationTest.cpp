@@ -62,4 +62,4 @@ TEST_P(KeyTranslation, GivesItsMeaning) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Keys, KeyTranslation, ::testing::ValuesIn(rows),
-                         [](const ::testing::TestParamInfo<Row>& info) { return std::string(info.param.name); });
+                         [](const ::testing::TestParamInfo<Row>& row) { return std::string(row.param.name); });

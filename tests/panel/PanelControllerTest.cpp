@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/PanelWindowWorld.h"
+
+using namespace vellumry;
+
+namespace {
+
+class PanelControllerTest : public PanelWindowWorld {
+protected:
+    [[nodiscard]] QRect home() const {
+        return placement::defaultFrame(PanelController::panelSize, surface.screen->visible).toAlignedRect();
+    }
+    /// The user holds an empty part, takes the panel along and lets go.
+    void dragTo(const QPoint& place) {
+        view()->setPosition(place);
+        QTest::mouseClick(view(), Qt::LeftButton, {}, QPoint(5, 5));
+    }
+};
+
+} // namespace
+
+TEST_F(PanelControllerTest, WarmingUpMakesTheWindowWithoutShowingIt) {
+    EXPECT_EQ(view(), nullptr);
+    panel.warmUp();
+    ASSERT_NE(view(), nullptr);
+    EXPECT_NE(view()->rootObject(), nullptr);
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_TRUE(surface.frames.isEmpty());
+}
+
+TEST_F(PanelControllerTest, ToggleShowsAndHides) {
+    int shown = 0;
+    panel.onShow = [&] { ++shown; };
+    panel.toggle();
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_TRUE(panel.model().isPresented());
+    panel.show();
+    EXPECT_EQ(shown, 1);
+    panel.toggle();
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_FALSE(panel.model().isPresented());
+    panel.hide();
+    EXPECT_EQ(surface.dismissals, 1);
+}
+
+TEST_F(PanelControllerTest, LosingTheKeyboardClosesThePanel) {
+    open();
+    QWindow other;
+    surface.onFocusLost(&other);
+    EXPECT_TRUE(panel.isVisible());
+    surface.onFocusLost(view());
+    EXPECT_FALSE(panel.isVisible());
+}
+
+TEST_F(PanelControllerTest, ItOpensAtHomeWithoutARememberedPlace) {
+    open();
+    EXPECT_EQ(surface.frames, QList<QRect>{home()});
+}
+
+TEST_F(PanelControllerTest, ARememberedPlaceCounts) {
+    positions.insert(QStringLiteral("one"), placement::Fractions{0.5, 0.5});
+    open();
+    EXPECT_EQ(surface.frames.first().center(), QRect(QPoint(410, 250), PanelController::panelSize).center());
+}
+
+TEST_F(PanelControllerTest, TheShadowLiesAroundThePanelWhereWindowsBlend) {
+    surface.blends = true;
+    open();
+    const QRect frame = surface.frames.first();
+    EXPECT_EQ(frame.center(), home().center());
+    EXPECT_GT(frame.width(), home().width());
+    EXPECT_TRUE(view()->mask().isEmpty());
+}
+
+TEST_F(PanelControllerTest, CornersAreCutWhereWindowsDoNotBlend) {
+    open();
+    EXPECT_FALSE(view()->mask().contains(QPoint(0, 0)));
+    EXPECT_TRUE(view()->mask().contains(QPoint(390, 250)));
+}
+
+TEST_F(PanelControllerTest, APlaceFarFromHomeIsRemembered) {
+    open();
+    dragTo(QPoint(100, 400));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return savings == 1; }));
+    EXPECT_TRUE(positions.contains(QStringLiteral("one")));
+    EXPECT_EQ(view()->position(), QPoint(100, 400));
+}
+
+TEST_F(PanelControllerTest, NearHomeItSlidesBackAndIsForgotten) {
+    positions.insert(QStringLiteral("one"), placement::Fractions{0.5, 0.6});
+    open();
+    dragTo(home().topLeft() + QPoint(15, 10));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return savings == 1; }));
+    EXPECT_TRUE(positions.isEmpty());
+    EXPECT_EQ(view()->position(), home().topLeft());
+}
+
+TEST_F(PanelControllerTest, TheAppearanceIsTheUsersChoice) {
+    const auto ground = [this] {
+        QTest::qWait(0);
+        return view()->grabWindow().pixelColor(390, 6);
+    };
+    panel.setAppearance(PanelController::Appearance::dark);
+    open();
+    EXPECT_LT(ground().lightness(), 100);
+    panel.setAppearance(PanelController::Appearance::light);
+    EXPECT_GT(ground().lightness(), 200);
+}

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "foundation/Localisation.h"
+#include "panel/PanelWindowWorld.h"
+
+using namespace vellumry;
+
+namespace {
+
+class PanelViewTest : public PanelWindowWorld {};
+
+} // namespace
+
+TEST_F(PanelViewTest, RowsShowTheirTitlesAndTheKeysThatPasteThem) {
+    addText("first words");
+    addText("second words");
+    open();
+    const QStringList shown = texts();
+    EXPECT_TRUE(shown.contains(QStringLiteral("first words")));
+    EXPECT_TRUE(shown.contains(QStringLiteral("second words")));
+    EXPECT_TRUE(shown.contains(localised("⌘") + QStringLiteral("1")));
+    EXPECT_TRUE(shown.contains(localised("⌘") + QStringLiteral("2")));
+    EXPECT_FALSE(shown.contains(localised("⌘") + QStringLiteral("3")));
+}
+
+TEST_F(PanelViewTest, ASensitiveRowNeverShowsItsText) {
+    add(drafts::secret(QStringLiteral("correct horse")));
+    open();
+    const QStringList shown = texts();
+    EXPECT_TRUE(shown.contains(localised("Hidden")));
+    EXPECT_TRUE(shown.filter(QStringLiteral("correct horse")).isEmpty());
+}
+
+TEST_F(PanelViewTest, AnEmptyHistorySaysHowToBegin) {
+    open();
+    const QStringList shown = texts();
+    EXPECT_TRUE(shown.contains(localised("Nothing here yet")));
+    EXPECT_TRUE(shown.contains(localised("Copy something. It shows up here.")));
+}
+
+TEST_F(PanelViewTest, ASearchInVainQuotesTheQuery) {
+    addText("apple");
+    open();
+    for (int count = 0; count < 3; ++count)
+        press(Qt::Key_Z);
+    EXPECT_EQ(panel.model().query(), QStringLiteral("zzz"));
+    EXPECT_TRUE(texts().contains(localised("No clips match “") + QStringLiteral("zzz”")));
+    EXPECT_FALSE(texts().contains(QStringLiteral("apple")));
+}
+
+TEST_F(PanelViewTest, TheFooterCountsClipsAndNamesTheKeys) {
+    addText("first");
+    addText("second");
+    open();
+    EXPECT_TRUE(texts().contains(QStringLiteral("2") + localised(" clips · encrypted on this Mac")));
+    EXPECT_TRUE(texts().contains(localised("Paste")));
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_TRUE(texts().contains(localised("Merge & paste")));
+    EXPECT_FALSE(texts().contains(localised("Paste")));
+}
+
+TEST_F(PanelViewTest, AChipClickedFiltersTheRows) {
+    addText("plain words");
+    add(drafts::image(QByteArray("png")));
+    open();
+    QTest::mouseClick(view(), Qt::LeftButton, {}, middleOf(itemWithText(localised("Images"))));
+    EXPECT_EQ(panel.model().filter(), ClipFilter::images);
+    EXPECT_EQ(view()->rootObject()->findChild<QQuickItem*>(QStringLiteral("clips"))->property("count").toInt(), 2);
+    EXPECT_TRUE(texts().contains(QStringLiteral("Image")));
+}
+
+TEST_F(PanelViewTest, KeysReachTheModelBeforeTheText) {
+    addText("first");
+    addText("second");
+    open();
+    EXPECT_EQ(panel.model().selectedIndex(), 0);
+    press(Qt::Key_Down);
+    EXPECT_EQ(panel.model().selectedIndex(), 1);
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(panel.isVisible());
+}
+
+TEST_F(PanelViewTest, ADoubleClickPastesTheRow) {
+    addText("older");
+    addText("newer");
+    open();
+    QTest::mouseDClick(view(), Qt::LeftButton, {}, middleOf(itemWithText(QStringLiteral("older"))));
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_EQ(pastedText(), QStringLiteral("older"));
+}
+
+TEST_F(PanelViewTest, TheTransformListShowsItsEntriesOnlyWhileItIsOpen) {
+    addText("some words");
+    open();
+    const QString entry = transformTitle(TextTransform::uppercase);
+    EXPECT_FALSE(texts().contains(entry));
+    press(Qt::Key_T, Qt::ControlModifier);
+    EXPECT_TRUE(texts().contains(entry));
+}
+
+TEST_F(PanelViewTest, AGrowingFocusTokenBringsTheKeyboardBackToTheField) {
+    addText("some words");
+    open();
+    const int before = panel.model().focusToken();
+    QQuickItem* field = view()->activeFocusItem();
+    ASSERT_NE(field, nullptr);
+    field->setFocus(false);
+    panel.hide();
+    open();
+    EXPECT_GT(panel.model().focusToken(), before);
+    EXPECT_EQ(view()->activeFocusItem(), field);
+}
+
+TEST_F(PanelViewTest, ARowLightsUpOnlyWhenThePointerMoved) {
+    addText("older");
+    addText("newer");
+    open();
+    QQuickItem* list = view()->rootObject()->findChild<QQuickItem*>(QStringLiteral("clips"));
+    ASSERT_NE(list, nullptr);
+    const QPoint place = middleOf(itemWithText(QStringLiteral("older")));
+    QTest::mouseMove(view(), place);
+    EXPECT_EQ(list->property("hoveredRow").toInt(), -1);
+    QTest::mouseMove(view(), place + QPoint(3, 0));
+    EXPECT_EQ(list->property("hoveredRow").toInt(), 2);
+    press(Qt::Key_Down);
+    EXPECT_EQ(list->property("hoveredRow").toInt(), -1);
+}
+
+TEST_F(PanelViewTest, EightRowsUnderTheirHeaderShowWhole) {
+    for (int number = 0; number < 12; ++number)
+        addText(QByteArray("clip " + QByteArray::number(number)).constData());
+    open();
+    QQuickItem* list = view()->rootObject()->findChild<QQuickItem*>(QStringLiteral("clips"));
+    ASSERT_NE(list, nullptr);
+    const QQuickItem* eighth = itemWithText(QStringLiteral("clip 4"));
+    ASSERT_NE(eighth, nullptr);
+    EXPECT_LE(eighth->mapToItem(list, QPointF(0, eighth->height())).y(), list->height());
+}

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "panel/PanelController.h"
+#include "support/FakePanelSurface.h"
+#include "support/PasteWorld.h"
+
+#include <QMap>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace vellumry {
+
+/// The panel over a world in memory, on a display that is not there.
+class PanelWindowWorld : public ::testing::Test, public PasteWorld {
+protected:
+    PanelWindowWorld() { now = currentDate() - 60; }
+
+    PanelController::Hooks panelHooks() {
+        PanelController::Hooks hooks;
+        hooks.position = [this](const QString& display) {
+            const auto found = positions.constFind(display);
+            return found == positions.constEnd() ? std::nullopt : std::optional(*found);
+        };
+        hooks.setPosition = [this](std::optional<placement::Fractions> position, const QString& display) {
+            ++savings;
+            positions.remove(display);
+            if (position)
+                positions.insert(display, *position);
+        };
+        hooks.openPanelKeys = [] { return QStringLiteral("Super+V"); };
+        hooks.showToast = [this](const ToastMessage& toast) { toasts.push_back(toast); };
+        hooks.settleDelay = std::chrono::milliseconds(0);
+        return hooks;
+    }
+
+    [[nodiscard]] QQuickView* view() const {
+        return surface.adopted.isEmpty() ? nullptr : qobject_cast<QQuickView*>(surface.adopted.first());
+    }
+    void open() {
+        panel.show();
+        (void)QTest::qWaitForWindowExposed(view());
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { QTest::keyClick(view(), key, modifiers); }
+
+    /// The texts that can be seen, top to bottom as the items stand in the tree.
+    [[nodiscard]] QStringList texts() const {
+        QStringList found;
+        collect(view()->rootObject(), found);
+        return found;
+    }
+    [[nodiscard]] QQuickItem* itemWithText(const QString& text) const { return find(view()->rootObject(), text); }
+    [[nodiscard]] static QPoint middleOf(const QQuickItem* item) {
+        return item->mapToScene(QPointF(20, item->height() / 2)).toPoint();
+    }
+
+    FakePanelSurface surface;
+    QMap<QString, placement::Fractions> positions;
+    int savings = 0;
+    std::vector<ToastMessage> toasts;
+    PanelController panel{store, *engine, surface, panelHooks()};
+
+private:
+    static void collect(const QQuickItem* item, QStringList& found) {
+        if (!item->isVisible())
+            return;
+        const QString text = item->property("text").toString();
+        if (item->inherits("QQuickText") && !text.isEmpty())
+            found.append(text);
+        for (const QQuickItem* child : item->childItems())
+            collect(child, found);
+    }
+    static QQuickItem* find(QQuickItem* item, const QString& text) {
+        if (!item->isVisible())
+            return nullptr;
+        if (item->inherits("QQuickText") && item->property("text").toString() == text)
+            return item;
+        for (QQuickItem* child : item->childItems()) {
+            if (QQuickItem* found = find(child, text))
+                return found;
+        }
+        return nullptr;
+    }
+};
+
+} // namespace vellumry

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/PanelSurface.h"
+
+#include <QWindow>
+
+namespace vellumry {
+
+/// A desktop of one display: windows are shown and hidden at once, and what was asked of it is kept.
+class FakePanelSurface : public PanelSurface {
+public:
+    void adopt(QWindow* window) override { adopted.append(window); }
+    void present(QWindow* window, std::optional<QRect> frame) override {
+        if (frame)
+            window->setGeometry(*frame);
+        frames.append(frame.value_or(QRect()));
+        window->show();
+    }
+    void dismiss(QWindow* window) override {
+        ++dismissals;
+        window->hide();
+    }
+    void presentPassive(QWindow* window, QRect frame, bool clickThrough) override {
+        frames.append(frame);
+        lastClickThrough = clickThrough;
+        window->setGeometry(frame);
+        window->show();
+    }
+    [[nodiscard]] bool canBlend() const override { return blends; }
+    [[nodiscard]] std::optional<ScreenPlace> screenUnderPointer() const override { return screen; }
+    [[nodiscard]] std::optional<ScreenPlace> screenOf(const QRect&) const override { return screen; }
+
+    bool blends = false;
+    std::optional<ScreenPlace> screen = ScreenPlace{QStringLiteral("one"), QRect(0, 0, 1600, 1000), QRect(0, 0, 1600, 1000)};
+    QList<QWindow*> adopted;
+    QList<QRect> frames;
+    int dismissals = 0;
+    bool lastClickThrough = false;
+};
+
+} // namespace vellumry
