@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/PanelListModel.h"
 
+#include "foundation/UserDefaults.h"
 #include "history/ClipStore.h"
 #include "paste/PasteEngine.h"
 #include "support/Awaited.h"
