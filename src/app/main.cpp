@@ -5,6 +5,7 @@
 #include "linux/desktop/ProcessHardening.h"
 #include "shell/AppDelegate.h"
 
+#include <QClipboard>
 #include <QGuiApplication>
 #include <cstdio>
 #include <cstdlib>
@@ -22,6 +23,10 @@ void chooseQtDefaults() {
         setenv("QT_QPA_PLATFORM", "xcb", 0);
 }
 
+/// Text fields of Qt look at the clipboard on every change of it, on the main thread and for as long as the owner keeps
+/// silent: ten seconds without a panel. We read it through the pasteboard alone, so that nobody misses the notice.
+void keepTextFieldsOffTheClipboard() { QGuiApplication::clipboard()->blockSignals(true); }
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -32,6 +37,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setApplicationName(QStringLiteral("Vellumry"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.vellumry.Vellumry"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    keepTextFieldsOffTheClipboard();
     installCatalogue();
 
     std::optional<Platform> platform = makeLinuxPlatform();
