@@ -20,6 +20,11 @@ SQLiteDatabase::SQLiteDatabase(const QString& path, Access access) {
     }
     if (access == Access::readOnly)
         return;
+    // SQLite opens what it may not write for reading, without a word; every change would then be lost.
+    if (sqlite3_db_readonly(m_handle, "main") == 1) {
+        close();
+        throw SQLiteError(SQLiteError::Case::open, "attempt to write a readonly database");
+    }
     try {
         execute("PRAGMA journal_mode=WAL;");
         execute("PRAGMA secure_delete = ON;");
