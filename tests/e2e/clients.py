@@ -10,6 +10,12 @@ from desktop import (Process, accessible, clipboard, focus, key, run, text_shown
                      window_title, windows)
 
 
+def fresh_home():
+    """An environment in which an application finds nothing of its earlier runs: an editor that was ended offers to restore."""
+    folder = tempfile.mkdtemp(prefix="client")
+    return dict(os.environ, XDG_CONFIG_HOME=folder + "/config", XDG_DATA_HOME=folder + "/data", XDG_CACHE_HOME=folder + "/cache")
+
+
 class XTerminal(Process):
     """xterm, which pastes the primary selection on Shift+Insert and copies what is selected."""
 
@@ -39,7 +45,7 @@ class GtkEditor(Process):
     """mousepad, a GTK 3 editor."""
 
     def __init__(self):
-        super().__init__("dbus-run-session", "mousepad", "--disable-server")
+        super().__init__("dbus-run-session", "mousepad", "--disable-server", env=fresh_home())
         self.window = window_of_class("mousepad")
         focus(self.window)
 
@@ -61,7 +67,7 @@ class QtEditor(Process):
     """featherpad, a Qt 5 editor."""
 
     def __init__(self):
-        super().__init__("featherpad", "--standalone", env=dict(os.environ, QT_QPA_PLATFORM="xcb"))
+        super().__init__("featherpad", "--standalone", env=fresh_home())
         self.window = window_of_class("featherpad")
         focus(self.window)
 
@@ -152,7 +158,7 @@ class PasswordManager(Process):
         subprocess.run(["keepassxc-cli", "add", "--username", "someone", "--password-prompt", vault, "entry"],
                        input=("open\n" + self.SECRET + "\n" + self.SECRET + "\n").encode(), check=True, stdout=subprocess.DEVNULL,
                        stderr=subprocess.DEVNULL, timeout=60)
-        super().__init__("keepassxc", "--pw-stdin", vault, stdin=subprocess.PIPE)
+        super().__init__("keepassxc", "--pw-stdin", vault, stdin=subprocess.PIPE, env=fresh_home())
         self.handle.stdin.write(b"open\n")
         self.handle.stdin.close()
         self.window = wait_until(lambda: (windows("vault.*KeePassXC") or [None])[0], "the password manager's vault", 40)
