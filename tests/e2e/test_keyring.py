@@ -135,5 +135,34 @@ def with_a_key_of_sixteen_bytes():
     the_old_history_is_back()
 
 
+def lock_the_keyring():
+    run("gdbus", "call", "--session", "--dest", "org.freedesktop.secrets", "--object-path", "/org/freedesktop/secrets",
+        "--method", "org.freedesktop.Secret.Service.Lock", "['/org/freedesktop/secrets/collection/login']")
+
+
+def refuse_the_keyring():
+    """Its question takes keys once it is drawn; before that they go elsewhere."""
+
+    def answered():
+        if windows("^Unlock"):
+            key("Escape")
+        return not windows("^Unlock")
+
+    wait_until(lambda: windows("^Unlock"), "the keyring's question")
+    wait_until(answered, "the keyring's question to go")
+
+
+def with_a_locked_keyring():
+    """The last of this session: the keyring stays locked."""
+    before = keep_a_history()
+    lock_the_keyring()
+    with Vellumry(ready=False) as program:
+        refuse_the_keyring()
+        program.wait_ready()
+        works_in_memory("locked-keyring")
+    same(files() == before, True, "the files of the history are as they were")
+
+
 if __name__ == "__main__":
-    main([fresh(test) for test in (without_a_keyring, without_a_session_bus, with_a_key_of_sixteen_bytes)])
+    main([fresh(test) for test in (without_a_keyring, without_a_session_bus, with_a_key_of_sixteen_bytes,
+                                with_a_locked_keyring)])

@@ -27,7 +27,7 @@ def nothing_seen_in_the_file_is_lost_by_a_kill():
             for index in range(chance.randrange(1, 6)):
                 copy_text(f"life {life} copy {index}")
                 seen |= set(ids())
-            time.sleep(chance.random() * 0.4)  # the instant of the kill is to fall anywhere
+                time.sleep(chance.random() * 0.2)  # the instant of the kill is to fall anywhere
             seen |= set(ids())
         finally:
             program.stop(signal.SIGKILL)
