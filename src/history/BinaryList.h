@@ -6,8 +6,8 @@
 
 namespace vellumry {
 
-/// The objects of a binary property list (`bplist00`: header, objects, offset table, trailer of 32 bytes) where they lie, for a
-/// reader that knows what it looks for. Every position is checked against the bytes, which must outlive it.
+/// The objects of a binary property list (`bplist00`: header, objects, offset table, trailer of 32 bytes) where they
+/// lie, for a reader that knows what it looks for. Every position is checked against the bytes, which must outlive it.
 class BinaryList {
 public:
     enum class Marker : quint8 {
@@ -29,14 +29,16 @@ public:
         [[nodiscard]] bool is(Marker marker) const { return kind == static_cast<quint8>(marker); }
     };
 
-    explicit BinaryList(QByteArrayView bytes) : m_bytes(bytes) {}
+    explicit BinaryList(QByteArrayView bytes)
+        : m_bytes(bytes) {}
 
     /// Reads the trailer; false for bytes that are no such list. Comes before everything else.
     [[nodiscard]] bool open();
 
     [[nodiscard]] std::optional<Object> top() const { return object(m_top); }
 
-    /// Nothing for a reference or an object that does not lie within the list, and for the kinds that `Marker` leaves out.
+    /// Nothing for a reference or an object that does not lie within the list, and for the kinds that `Marker` leaves
+    /// out.
     [[nodiscard]] std::optional<Object> object(quint64 reference) const;
 
     /// The object that element `index` of an array refers to; of a dictionary, keys come first, then values.
@@ -44,8 +46,8 @@ public:
         return object(number(container.content + index * m_referenceSize, m_referenceSize));
     }
 
-    /// The content of a string or data object. Objects may be referred to many times; a list that would unfold to far more
-    /// than its own size ends here, with empty content and `isOverdrawn`.
+    /// The content of a string or data object. Objects may be referred to many times; a list that would unfold to far
+    /// more than its own size ends here, with empty content and `isOverdrawn`.
     [[nodiscard]] QByteArrayView bytesOf(const Object& object);
 
     /// True once `bytesOf` has refused; what was read is then not to be trusted.

@@ -21,10 +21,20 @@ const QByteArray* representation(const PasteboardItem& item, const QString& type
 
 /// Place of a standard format behind the file URL and the formats that the program knows nothing of.
 int rank(const QString& type) {
-    static const QStringList standardFormats{
-        uniformtype::rtfd, uniformtype::rtf,  uniformtype::html, uniformtype::pdf, uniformtype::png,
-        uniformtype::tiff, uniformtype::jpeg, uniformtype::heic, uniformtype::icns, uniformtype::url,
-        uniformtype::urlName, uniformtype::utf8PlainText, uniformtype::utf16PlainText, uniformtype::color};
+    static const QStringList standardFormats{uniformtype::rtfd,
+                                             uniformtype::rtf,
+                                             uniformtype::html,
+                                             uniformtype::pdf,
+                                             uniformtype::png,
+                                             uniformtype::tiff,
+                                             uniformtype::jpeg,
+                                             uniformtype::heic,
+                                             uniformtype::icns,
+                                             uniformtype::url,
+                                             uniformtype::urlName,
+                                             uniformtype::utf8PlainText,
+                                             uniformtype::utf16PlainText,
+                                             uniformtype::color};
     if (type == uniformtype::fileUrl)
         return 0;
     const qsizetype place = standardFormats.indexOf(type);

@@ -94,7 +94,8 @@ struct Clip {
     bool operator==(const Clip&) const = default;
 };
 
-/// A clip as the store hands it out: never changed, replaced as a whole when something about it changes. Never null inside a list.
+/// A clip as the store hands it out: never changed, replaced as a whole when something about it changes. Never null
+/// inside a list.
 using ClipRef = std::shared_ptr<const Clip>;
 
 } // namespace vellumry

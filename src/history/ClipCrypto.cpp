@@ -44,7 +44,8 @@ QByteArray sealWithNonce(const SymmetricKey& key, QByteArrayView nonce, QByteArr
 
     const CipherContext context(EVP_CIPHER_CTX_new());
     require(context != nullptr);
-    require(EVP_EncryptInit_ex(context.get(), EVP_aes_256_gcm(), nullptr, key.bytes().data(), unsignedBytes(nonce)) == 1);
+    require(EVP_EncryptInit_ex(context.get(), EVP_aes_256_gcm(), nullptr, key.bytes().data(), unsignedBytes(nonce)) ==
+            1);
     int written = 0;
     require(EVP_EncryptUpdate(context.get(), out + ClipCrypto::nonceSize, &written, unsignedBytes(bytes),
                               static_cast<int>(bytes.size())) == 1);
@@ -110,7 +111,8 @@ void ClipCrypto::selfTest() {
     changed[nonceSize] = static_cast<char>(changed[nonceSize] ^ 1);
     require(!unsealer.open(changed).has_value());
 
-    // HMAC pads a key to its block with zeros, so the vector's short key may be given with its first zeros already there.
+    // HMAC pads a key to its block with zeros, so the vector's short key may be given with its first zeros already
+    // there.
     const ClipCrypto keyed{SymmetricKey(QByteArray("Jefe").leftJustified(SymmetricKey::byteCount, '\0'))};
     const std::array<QByteArrayView, 2> parts{"what do ya want ", "for nothing?"};
     require(keyed.authenticationCode(parts) == hex("5bdcc146bf60754e6a042426089575c75a003f089d2739839dec58b964ec3843"));

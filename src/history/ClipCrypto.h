@@ -19,8 +19,8 @@ public:
     };
     explicit UnsealError(Case kind)
         : std::runtime_error(kind == Case::incorrectSize ? "The sealed data is too short."
-                                                         : "The sealed data could not be opened."),
-          m_case(kind) {}
+                                                         : "The sealed data could not be opened.")
+        , m_case(kind) {}
     [[nodiscard]] Case kind() const { return m_case; }
 
 private:
@@ -29,15 +29,16 @@ private:
 
 /// Seals everything that could show what was copied, and keys the fingerprints, all with the one history key.
 ///
-/// A sealed blob is AES-256-GCM (NIST SP 800-38D): 12 bytes of random nonce, the ciphertext, a 16-byte tag; no header, no
-/// additional data. A value; any thread.
+/// A sealed blob is AES-256-GCM (NIST SP 800-38D): 12 bytes of random nonce, the ciphertext, a 16-byte tag; no header,
+/// no additional data. A value; any thread.
 class ClipCrypto {
 public:
     static constexpr qsizetype nonceSize = 12;
     static constexpr qsizetype tagSize = 16;
     static constexpr qsizetype overhead = nonceSize + tagSize;
 
-    explicit ClipCrypto(SymmetricKey key) : m_key(std::move(key)) {}
+    explicit ClipCrypto(SymmetricKey key)
+        : m_key(std::move(key)) {}
     /// With a fresh random key.
     [[nodiscard]] static ClipCrypto withRandomKey() { return ClipCrypto(SymmetricKey::random()); }
 
@@ -51,8 +52,8 @@ public:
     [[nodiscard]] const SymmetricKey& key() const { return m_key; }
 
     /// Checks sealing, opening, the refusal of a changed blob, and the authentication code against published vectors
-    /// (NIST's GCM test case 15, RFC 4231 test case 2). Throws `CryptoError::sealFailed` when the library under us computes
-    /// anything else. Run it before a key is first used.
+    /// (NIST's GCM test case 15, RFC 4231 test case 2). Throws `CryptoError::sealFailed` when the library under us
+    /// computes anything else. Run it before a key is first used.
     static void selfTest();
 
 private:

@@ -46,7 +46,9 @@ OpenedHistory ClipDatabase::openHistory(const QString& folder, KeyStore& keyStor
 }
 
 ClipDatabase::ClipDatabase(const QString& path, ClipCrypto crypto)
-    : m_sqlite(path, SQLiteDatabase::Access::readWrite), m_crypto(std::move(crypto)), m_executor("History") {
+    : m_sqlite(path, SQLiteDatabase::Access::readWrite)
+    , m_crypto(std::move(crypto))
+    , m_executor("History") {
     historyfile::restrictToUser(path);
     enableIncrementalVacuum(m_sqlite);
     cliprows::createTable(m_sqlite);
@@ -76,9 +78,8 @@ QCoro::Task<void> ClipDatabase::insert(ClipRef clip, ClipPayload payload) {
 }
 
 QCoro::Task<void> ClipDatabase::updateMeta(ClipRef clip) {
-    return onExecutor<void>([this, clip = std::move(clip)](SQLiteDatabase& sqlite) {
-        cliprows::writeMeta(sqlite, m_crypto, *clip);
-    });
+    return onExecutor<void>(
+        [this, clip = std::move(clip)](SQLiteDatabase& sqlite) { cliprows::writeMeta(sqlite, m_crypto, *clip); });
 }
 
 QCoro::Task<void> ClipDatabase::updateExpiry(QUuid id, std::optional<Date> date) {
@@ -94,8 +95,7 @@ QCoro::Task<void> ClipDatabase::updatePinned(QUuid id, qint64 value) {
 }
 
 QCoro::Task<void> ClipDatabase::deleteAll(std::vector<QUuid> ids) {
-    return onExecutor<void>(
-        [ids = std::move(ids)](SQLiteDatabase& sqlite) { cliprows::removeAll(sqlite, ids); });
+    return onExecutor<void>([ids = std::move(ids)](SQLiteDatabase& sqlite) { cliprows::removeAll(sqlite, ids); });
 }
 
 QCoro::Task<void> ClipDatabase::reclaimSpace() {

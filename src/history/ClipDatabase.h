@@ -15,18 +15,18 @@ namespace vellumry {
 
 struct OpenedHistory;
 
-/// The history file: clips as rows, everything that could show content sealed. Owns the connection and the one thread that uses
-/// it; operations queue there in the order of their calls and resume the caller on the main thread. When one that writes is
-/// done without an error, the change survives a power cut.
+/// The history file: clips as rows, everything that could show content sealed. Owns the connection and the one thread
+/// that uses it; operations queue there in the order of their calls and resume the caller on the main thread. When one
+/// that writes is done without an error, the change survives a power cut.
 ///
-/// Operations are called on the main thread. They throw `SQLiteError`, `CryptoError`, `UnsealError`, all std::runtime_error.
-/// The destructor waits for what is queued.
+/// Operations are called on the main thread. They throw `SQLiteError`, `CryptoError`, `UnsealError`, all
+/// std::runtime_error. The destructor waits for what is queued.
 class ClipDatabase {
 public:
-    /// Opens "History.sqlite" in `folder`, which must exist, making the key and the file where there are none. A file that
-    /// this key does not open, or that is damaged, is put aside as a backup and a new one begun. Throws what the key store
-    /// throws (the file is then untouched), SQLiteError, CryptoError, std::filesystem::filesystem_error. Any thread; reads
-    /// the whole file once, so better not the main one.
+    /// Opens "History.sqlite" in `folder`, which must exist, making the key and the file where there are none. A file
+    /// that this key does not open, or that is damaged, is put aside as a backup and a new one begun. Throws what the
+    /// key store throws (the file is then untouched), SQLiteError, CryptoError, std::filesystem::filesystem_error. Any
+    /// thread; reads the whole file once, so better not the main one.
     [[nodiscard]] static OpenedHistory openHistory(const QString& folder, KeyStore& keyStore);
 
     /// The file at `path` with a key that is known to fit. Blocking; any thread.

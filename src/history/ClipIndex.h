@@ -8,13 +8,15 @@
 
 namespace vellumry {
 
-/// Finds clips by a value of theirs that only one of them has. A flat table (open addressing, linear probing): 100,000 clips are
-/// entered in a few milliseconds without touching a clip twice. Does not own the clips. One thread.
+/// Finds clips by a value of theirs that only one of them has. A flat table (open addressing, linear probing): 100,000
+/// clips are entered in a few milliseconds without touching a clip twice. Does not own the clips. One thread.
 class ClipIndex {
 public:
     using Hash = std::size_t (*)(const Clip&);
     using Equal = bool (*)(const Clip&, const Clip&);
-    ClipIndex(Hash hash, Equal equal) : m_hash(hash), m_equal(equal) {}
+    ClipIndex(Hash hash, Equal equal)
+        : m_hash(hash)
+        , m_equal(equal) {}
 
     [[nodiscard]] std::size_t size() const { return m_size; }
     void clear();

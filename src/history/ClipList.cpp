@@ -11,7 +11,8 @@ namespace vellumry {
 namespace {
 
 std::size_t hashOfId(const Clip& clip) {
-    // Not QUuid's own hash, which folds its parts: identities that are not random, from another program, must spread too.
+    // Not QUuid's own hash, which folds its parts: identities that are not random, from another program, must spread
+    // too.
     return qHashBits(&clip.id, sizeof clip.id);
 }
 
@@ -29,7 +30,9 @@ bool haveOneFingerprint(const Clip& one, const Clip& other) {
 
 } // namespace
 
-ClipList::ClipList() : m_byId(hashOfId, haveOneId), m_byFingerprint(hashOfFingerprint, haveOneFingerprint) {}
+ClipList::ClipList()
+    : m_byId(hashOfId, haveOneId)
+    , m_byFingerprint(hashOfFingerprint, haveOneFingerprint) {}
 
 ClipRef ClipList::find(const QUuid& id) const {
     Clip sample;
@@ -71,8 +74,8 @@ bool ClipList::isWithin(const RetentionPolicy& policy, Date now) const {
     if (!policy.maxAge)
         return true;
     // The order by last use makes the last unpinned clip the oldest.
-    const auto oldest = std::ranges::find_if(m_clips.rbegin(), m_clips.rend(),
-                                             [](const ClipRef& clip) { return !clip->isPinned; });
+    const auto oldest =
+        std::ranges::find_if(m_clips.rbegin(), m_clips.rend(), [](const ClipRef& clip) { return !clip->isPinned; });
     return oldest == m_clips.rend() || !(now - (*oldest)->lastUsedAt > *policy.maxAge);
 }
 
@@ -90,7 +93,8 @@ std::vector<ClipRef> ClipList::recent(qint64 limit, bool includePinned) const {
 std::vector<ClipRef> ClipList::pinned() const {
     std::vector<ClipRef> pinned;
     std::ranges::copy_if(m_clips, std::back_inserter(pinned), [](const ClipRef& clip) { return clip->isPinned; });
-    std::ranges::stable_sort(pinned, {}, [](const ClipRef& clip) { return std::pair(clip->pinOrder, clip->createdAt); });
+    std::ranges::stable_sort(pinned, {},
+                             [](const ClipRef& clip) { return std::pair(clip->pinOrder, clip->createdAt); });
     return pinned;
 }
 

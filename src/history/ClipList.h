@@ -10,8 +10,8 @@
 
 namespace vellumry {
 
-/// The clips in their order, last used first, found by identity and by fingerprint without a walk, with the sums that tell
-/// whether the history is within its limits. One thread.
+/// The clips in their order, last used first, found by identity and by fingerprint without a walk, with the sums that
+/// tell whether the history is within its limits. One thread.
 class ClipList {
 public:
     ClipList();
@@ -23,8 +23,8 @@ public:
     [[nodiscard]] ClipRef findFingerprint(const QString& fingerprint) const;
     /// The earliest expiry of all clips.
     [[nodiscard]] std::optional<Date> nextExpiry() const;
-    /// The place of a pin made at `date`: pins go by the time they were made, in milliseconds, and two of one millisecond
-    /// still differ.
+    /// The place of a pin made at `date`: pins go by the time they were made, in milliseconds, and two of one
+    /// millisecond still differ.
     [[nodiscard]] qint64 nextPinOrder(Date date) const;
     /// True when no limit of `policy` and no expiry asks for anything to go at `now`; costs no walk.
     [[nodiscard]] bool isWithin(const RetentionPolicy& policy, Date now) const;
@@ -56,7 +56,8 @@ private:
 
     std::vector<ClipRef> m_clips;
     ClipIndex m_byId;
-    /// A file written by nobody but us holds no fingerprint twice. If one does, this has fewer entries than there are clips.
+    /// A file written by nobody but us holds no fingerprint twice. If one does, this has fewer entries than there are
+    /// clips.
     ClipIndex m_byFingerprint;
     std::multiset<Date> m_expiries;
     qint64 m_unpinnedCount = 0;

@@ -37,7 +37,8 @@ struct Batch {
 /// What one thread needs to decode.
 class Decoder {
 public:
-    explicit Decoder(const SymmetricKey& key) : m_unsealer(key) {}
+    explicit Decoder(const SymmetricKey& key)
+        : m_unsealer(key) {}
 
     void decode(Batch& batch) {
         batch.clips.reserve(batch.rows.size());
@@ -81,7 +82,9 @@ std::shared_ptr<Clip> clipOf(const SQLiteDatabase::Statement& row) {
 } // namespace
 
 struct ClipLoading::Private {
-    explicit Private(const SymmetricKey& historyKey) : key(historyKey), decoder(key) {}
+    explicit Private(const SymmetricKey& historyKey)
+        : key(historyKey)
+        , decoder(key) {}
 
     /// Whoever comes first decodes the batch.
     void decode(Batch& batch, Decoder& with) {
@@ -116,7 +119,8 @@ struct ClipLoading::Private {
     std::unique_ptr<SerialExecutor> helper; // last, so that its thread has ended before what it works on goes
 };
 
-ClipLoading::ClipLoading(const ClipCrypto& crypto) : d(std::make_unique<Private>(crypto.key())) {
+ClipLoading::ClipLoading(const ClipCrypto& crypto)
+    : d(std::make_unique<Private>(crypto.key())) {
     d->batches.push_back(std::make_unique<Batch>());
 }
 

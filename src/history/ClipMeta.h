@@ -20,7 +20,8 @@ struct ClipMeta {
     std::vector<FileRef> files;
     std::optional<QByteArray> thumbnail;
     std::optional<QString> imageText;
-    std::optional<bool> imageTextIsAccurate; ///< rows of before this field existed lack it and the next; both read as false
+    std::optional<bool>
+        imageTextIsAccurate; ///< rows of before this field existed lack it and the next; both read as false
     std::optional<bool> isScreenshot;
 
     [[nodiscard]] static ClipMeta of(const Clip& clip);
@@ -29,8 +30,9 @@ struct ClipMeta {
 
     /// A binary property list: one dictionary under the names of the fields, absent optionals left out.
     [[nodiscard]] QByteArray encoded() const;
-    /// Nothing for bytes that are no property list, and for one that lacks title, searchText or files or holds another type
-    /// than a field's own. Keys that it does not know are passed over. Source names are taken from `pool` when there is one.
+    /// Nothing for bytes that are no property list, and for one that lacks title, searchText or files or holds another
+    /// type than a field's own. Keys that it does not know are passed over. Source names are taken from `pool` when
+    /// there is one.
     [[nodiscard]] static std::optional<ClipMeta> decode(QByteArrayView bytes, StringPool* pool = nullptr);
 
     bool operator==(const ClipMeta&) const = default;

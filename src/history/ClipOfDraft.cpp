@@ -3,7 +3,8 @@
 
 namespace vellumry {
 
-Clip clipOfDraft(const ClipDraft& draft, const ClipRef& existing, const QString& fingerprint, Date now, double lifetime) {
+Clip clipOfDraft(const ClipDraft& draft, const ClipRef& existing, const QString& fingerprint, Date now,
+                 double lifetime) {
     Clip clip;
     clip.id = existing ? existing->id : QUuid::createUuid();
     clip.kind = draft.kind;
@@ -26,8 +27,7 @@ Clip clipOfDraft(const ClipDraft& draft, const ClipRef& existing, const QString&
         clip.imageText = existing->imageText;
         clip.imageTextIsAccurate = existing->imageTextIsAccurate;
     }
-    clip.isScreenshot =
-        draft.isScreenshot || (draft.kind == ClipKind::image && existing && existing->isScreenshot);
+    clip.isScreenshot = draft.isScreenshot || (draft.kind == ClipKind::image && existing && existing->isScreenshot);
     return clip;
 }
 

@@ -5,19 +5,20 @@
 #include "history/ClipCrypto.h"
 #include "history/SQLiteDatabase.h"
 
-/// Clips as rows of the table `clips`. Each function runs its statement on the caller's thread and throws what the layers below
-/// throw: `SQLiteError`, `CryptoError`, `UnsealError`.
+/// Clips as rows of the table `clips`. Each function runs its statement on the caller's thread and throws what the
+/// layers below throw: `SQLiteError`, `CryptoError`, `UnsealError`.
 namespace vellumry::cliprows {
 
 /// Makes the table and its index when they are missing.
 void createTable(SQLiteDatabase& database);
 
-/// Every clip that can be read, latest first. A row with a strange id or kind, one that this key does not open and one whose
-/// meta is not a meta are passed over: they are neither reported nor removed.
+/// Every clip that can be read, latest first. A row with a strange id or kind, one that this key does not open and one
+/// whose meta is not a meta are passed over: they are neither reported nor removed.
 [[nodiscard]] std::vector<ClipRef> readAll(SQLiteDatabase& database, const ClipCrypto& crypto);
 
 /// Nothing when there is no such row. Throws std::runtime_error for a payload that opens but cannot be decoded.
-[[nodiscard]] std::optional<ClipPayload> readPayload(SQLiteDatabase& database, const ClipCrypto& crypto, const QUuid& id);
+[[nodiscard]] std::optional<ClipPayload> readPayload(SQLiteDatabase& database, const ClipCrypto& crypto,
+                                                     const QUuid& id);
 
 /// Writes the whole row, over one with the same id.
 void write(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip, const ClipPayload& payload);

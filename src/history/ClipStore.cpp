@@ -10,14 +10,17 @@
 #include "history/ExpiryTimer.h"
 #include "history/Retention.h"
 
+#include <QHash>
 #include <QPointer>
 
 namespace vellumry {
 
 struct ClipStore::Private {
     Private(std::shared_ptr<ClipDatabase> file, ClipCrypto historyCrypto, RetentionPolicy limits, ClipStore* store)
-        : database(std::move(file)), crypto(std::move(historyCrypto)), policy(limits),
-          expiry(currentDate, [this, store] { store->enforceRetention(clock()); }) {}
+        : database(std::move(file))
+        , crypto(std::move(historyCrypto))
+        , policy(limits)
+        , expiry(currentDate, [this, store] { store->enforceRetention(clock()); }) {}
 
     std::shared_ptr<ClipDatabase> database; ///< null in memory-only mode
     ClipCrypto crypto;

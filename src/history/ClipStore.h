@@ -15,11 +15,12 @@ namespace vellumry {
 
 class ClipDatabase;
 
-/// The one place that knows the history: every clip in memory, ordered by last use, newest first; every change goes through it.
-/// With a database, payloads lie sealed in the history file; without one, everything is in memory and gone at the end.
+/// The one place that knows the history: every clip in memory, ordered by last use, newest first; every change goes
+/// through it. With a database, payloads lie sealed in the history file; without one, everything is in memory and gone
+/// at the end.
 ///
-/// Main thread only. Operations that persist have changed the memory state before their first suspension; errors never leave
-/// them.
+/// Main thread only. Operations that persist have changed the memory state before their first suspension; errors never
+/// leave them.
 class ClipStore : public QObject {
     Q_OBJECT
 
@@ -45,8 +46,8 @@ public:
     /// Seconds that a sensitive clip lives; 60 at first.
     [[nodiscard]] double sensitiveLifetime() const;
     void setSensitiveLifetime(double seconds);
-    /// Whether a timer removes sensitive clips on time. It governs the timer alone: an expired clip goes at the latest with
-    /// the next retention. False at first.
+    /// Whether a timer removes sensitive clips on time. It governs the timer alone: an expired clip goes at the latest
+    /// with the next retention. False at first.
     [[nodiscard]] bool autoExpire() const;
     void setAutoExpire(bool value);
     /// The earliest expiry of all clips.

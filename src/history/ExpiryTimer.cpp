@@ -7,7 +7,8 @@
 namespace vellumry {
 
 ExpiryTimer::ExpiryTimer(Clock clock, std::function<void()> onDue)
-    : m_clock(std::move(clock)), m_onDue(std::move(onDue)) {
+    : m_clock(std::move(clock))
+    , m_onDue(std::move(onDue)) {
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { timeout(); });

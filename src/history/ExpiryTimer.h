@@ -24,8 +24,8 @@ public:
     [[nodiscard]] std::optional<Date> date() const { return m_date; }
     void setClock(Clock clock) { m_clock = std::move(clock); }
 
-    /// How long to wait at `now` before looking again: the time left, and an hour at the most, since a wall clock can be set
-    /// and a machine can sleep while a timer stands still.
+    /// How long to wait at `now` before looking again: the time left, and an hour at the most, since a wall clock can
+    /// be set and a machine can sleep while a timer stands still.
     [[nodiscard]] static std::chrono::milliseconds wait(Date date, Date now);
 
 private:

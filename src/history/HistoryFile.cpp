@@ -25,8 +25,8 @@ bool passesQuickCheck(SQLiteDatabase& database) {
     return check.step() && check.text(0) == "ok";
 }
 
-/// A file whose table of contents cannot be asked is treated as one without clips; what else is wrong with it shows when the
-/// database is made.
+/// A file whose table of contents cannot be asked is treated as one without clips; what else is wrong with it shows
+/// when the database is made.
 bool mayHaveClips(SQLiteDatabase& database) {
     try {
         auto table = database.prepare("SELECT name FROM sqlite_master WHERE type='table' AND name='clips';");
@@ -66,8 +66,7 @@ bool isReadable(const QString& path, const SymmetricKey& key) {
 
 void moveAside(const QString& path, Date now) {
     const auto seconds = static_cast<qint64>(now);
-    const QString stamp =
-        QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate).replace(u':', u'-');
+    const QString stamp = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate).replace(u':', u'-');
     const fs::path folder = fs::path(QFile::encodeName(path).toStdString()).parent_path();
     const std::string backup = "History-unreadable-" + stamp.toStdString() + ".sqlite";
     for (const char* suffix : companionSuffixes) {

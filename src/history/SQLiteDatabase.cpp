@@ -12,9 +12,8 @@ SQLiteDatabase::SQLiteDatabase(const QString& path, Access access) {
                                                  : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
     const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle, flags, nullptr);
     if (result != SQLITE_OK || !m_handle) {
-        const SQLiteError failure = m_handle
-                                        ? error(SQLiteError::Case::open)
-                                        : SQLiteError(SQLiteError::Case::open, "code " + std::to_string(result));
+        const SQLiteError failure = m_handle ? error(SQLiteError::Case::open)
+                                             : SQLiteError(SQLiteError::Case::open, "code " + std::to_string(result));
         close();
         throw failure;
     }
@@ -65,7 +64,8 @@ SQLiteError SQLiteDatabase::error(SQLiteError::Case kind) const {
 }
 
 SQLiteDatabase::Statement::Statement(Statement&& other) noexcept
-    : m_database(other.m_database), m_pointer(std::exchange(other.m_pointer, nullptr)) {}
+    : m_database(other.m_database)
+    , m_pointer(std::exchange(other.m_pointer, nullptr)) {}
 
 SQLiteDatabase::Statement::~Statement() {
     sqlite3_finalize(m_pointer);

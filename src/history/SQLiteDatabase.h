@@ -13,8 +13,8 @@ struct sqlite3_stmt;
 
 namespace vellumry {
 
-/// One connection to an SQLite file. Opened without SQLite's own mutex: one thread at a time may use a connection and its
-/// statements, which the owner guarantees. Every operation throws `SQLiteError`.
+/// One connection to an SQLite file. Opened without SQLite's own mutex: one thread at a time may use a connection and
+/// its statements, which the owner guarantees. Every operation throws `SQLiteError`.
 class SQLiteDatabase {
 public:
     enum class Access { readOnly, readWrite };
@@ -34,14 +34,17 @@ public:
         [[nodiscard]] bool isNull(int column) const;
         [[nodiscard]] qint64 integer(int column) const;
         [[nodiscard]] double real(int column) const;
-        /// The column's bytes as they lie in SQLite, valid until the next `step`. NULL reads as empty, of a null pointer.
+        /// The column's bytes as they lie in SQLite, valid until the next `step`. NULL reads as empty, of a null
+        /// pointer.
         [[nodiscard]] QByteArrayView text(int column) const;
         /// As `text`, unconverted.
         [[nodiscard]] QByteArrayView blob(int column) const;
 
     private:
         friend class SQLiteDatabase;
-        Statement(const SQLiteDatabase& database, sqlite3_stmt* pointer) : m_database(&database), m_pointer(pointer) {}
+        Statement(const SQLiteDatabase& database, sqlite3_stmt* pointer)
+            : m_database(&database)
+            , m_pointer(pointer) {}
         const SQLiteDatabase* m_database;
         sqlite3_stmt* m_pointer;
     };

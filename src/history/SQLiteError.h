@@ -13,8 +13,9 @@ public:
     enum class Case { open, prepare, step };
 
     SQLiteError(Case kind, const std::string& message)
-        : std::runtime_error((kind == Case::open ? "Couldn't open the history file: " : "History file error: ") + message),
-          m_case(kind) {}
+        : std::runtime_error((kind == Case::open ? "Couldn't open the history file: " : "History file error: ") +
+                             message)
+        , m_case(kind) {}
 
     [[nodiscard]] Case kind() const { return m_case; }
     [[nodiscard]] QString errorDescription() const { return QString::fromUtf8(what()); }

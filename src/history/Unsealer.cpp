@@ -22,9 +22,9 @@ void Unsealer::ContextDeleter::operator()(evp_cipher_ctx_st* context) const {
     EVP_CIPHER_CTX_free(context);
 }
 
-Unsealer::Unsealer(const SymmetricKey& key) : m_context(EVP_CIPHER_CTX_new()) {
-    if (!m_context ||
-        EVP_DecryptInit_ex(m_context.get(), EVP_aes_256_gcm(), nullptr, key.bytes().data(), nullptr) != 1)
+Unsealer::Unsealer(const SymmetricKey& key)
+    : m_context(EVP_CIPHER_CTX_new()) {
+    if (!m_context || EVP_DecryptInit_ex(m_context.get(), EVP_aes_256_gcm(), nullptr, key.bytes().data(), nullptr) != 1)
         throw CryptoError::sealFailed();
 }
 

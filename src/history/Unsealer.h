@@ -11,8 +11,8 @@ struct evp_cipher_ctx_st;
 
 namespace vellumry {
 
-/// Opens many blobs sealed with one key: the key is expanded once and the plain text lies in one buffer that is wiped when
-/// it grows and when the unsealer goes. One thread at a time.
+/// Opens many blobs sealed with one key: the key is expanded once and the plain text lies in one buffer that is wiped
+/// when it grows and when the unsealer goes. One thread at a time.
 class Unsealer {
 public:
     /// Throws `CryptoError::sealFailed` when the cipher cannot be set up.
@@ -21,7 +21,8 @@ public:
     Unsealer(const Unsealer&) = delete;
     Unsealer& operator=(const Unsealer&) = delete;
 
-    /// The plain bytes, valid until the next call; nothing for a blob that is too short, changed, or sealed with another key.
+    /// The plain bytes, valid until the next call; nothing for a blob that is too short, changed, or sealed with
+    /// another key.
     [[nodiscard]] std::optional<QByteArrayView> open(QByteArrayView blob);
 
 private:

@@ -7,8 +7,8 @@ namespace vellumry::utf16bytes {
 
 namespace {
 
-// Words of one script come in runs, so four units at a time are tried before each single one. In the numbers below the first
-// unit is the lowest sixteen bits.
+// Words of one script come in runs, so four units at a time are tried before each single one. In the numbers below the
+// first unit is the lowest sixteen bits.
 constexpr quint64 everyUnit(quint64 unit) {
     return unit | unit << 16 | unit << 32 | unit << 48;
 }

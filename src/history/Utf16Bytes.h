@@ -5,7 +5,8 @@
 #include <QString>
 #include <optional>
 
-/// Text as it lies in a binary property list: UTF-16, the greater byte first, an even number of bytes. Pure; any thread.
+/// Text as it lies in a binary property list: UTF-16, the greater byte first, an even number of bytes. Pure; any
+/// thread.
 namespace vellumry::utf16bytes {
 
 [[nodiscard]] QString toString(QByteArrayView bigEndian);

@@ -158,7 +158,8 @@ TEST_F(ClipDatabaseTest, RowsThatCannotBeReadAreSkippedAndStay) {
         insert(*database, clips.back());
     }
     const auto spoil = [&](int index, const char* assignment) {
-        const QString sql = u"UPDATE clips SET %1 WHERE used = %2;"_s.arg(QLatin1StringView(assignment)).arg(100 - index);
+        const QString sql =
+            u"UPDATE clips SET %1 WHERE used = %2;"_s.arg(QLatin1StringView(assignment)).arg(100 - index);
         execute(sql.toLatin1().constData());
     };
     spoil(1, "kind = 6");
@@ -166,7 +167,8 @@ TEST_F(ClipDatabaseTest, RowsThatCannotBeReadAreSkippedAndStay) {
     spoil(3, "id = 'not-a-uuid'");
     spoil(4, "meta = x'00'");
     spoil(5, "meta = zeroblob(100)");
-    execute(("UPDATE clips SET meta = x'" + database->crypto().seal("no list").toHex() + "' WHERE used = 94;").constData());
+    execute(
+        ("UPDATE clips SET meta = x'" + database->crypto().seal("no list").toHex() + "' WHERE used = 94;").constData());
     const auto loaded = load(*database);
     ASSERT_EQ(loaded.size(), 2U);
     EXPECT_EQ(*loaded[0], *clips[0]);
@@ -252,7 +254,8 @@ TEST_F(ClipDatabaseTest, AFullDiskRefusesTheRowAndKeepsTheOld) {
     larger->title = u"larger"_s;
     {
         const FileSizeLimit limit(200'000);
-        EXPECT_THROW(insert(*database, larger, {{{{{u"t"_s, QByteArray(1'000'000, 'x')}}, std::nullopt}}}), SQLiteError);
+        EXPECT_THROW(insert(*database, larger, {{{{{u"t"_s, QByteArray(1'000'000, 'x')}}, std::nullopt}}}),
+                     SQLiteError);
     }
     EXPECT_EQ(*load(*database)[0], *clip);
     insert(*database, larger, {{{{{u"t"_s, QByteArray(1'000'000, 'x')}}, std::nullopt}}});

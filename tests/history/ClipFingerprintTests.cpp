@@ -56,10 +56,13 @@ TEST_F(ClipFingerprint, TextWithoutPlainTextGoesByItsBytes) {
 TEST_F(ClipFingerprint, APictureGoesByItsBestRepresentationAlone) {
     const QString png = ofInput("image|P");
     EXPECT_EQ(of(imageDraft({{{{uniformtype::png, "P"}}, std::nullopt}})), png);
-    EXPECT_EQ(of(imageDraft({{{{uniformtype::png, "P"}, {uniformtype::tiff, "T"}, {uniformtype::html, "H"}}, std::nullopt}})),
-              png);
-    EXPECT_EQ(of(imageDraft({{{{uniformtype::tiff, "T"}, {uniformtype::jpeg, "J"}}, std::nullopt}})), ofInput("image|T"));
-    EXPECT_EQ(of(imageDraft({{{{uniformtype::jpeg, "J"}, {uniformtype::heic, "H"}}, std::nullopt}})), ofInput("image|J"));
+    EXPECT_EQ(
+        of(imageDraft({{{{uniformtype::png, "P"}, {uniformtype::tiff, "T"}, {uniformtype::html, "H"}}, std::nullopt}})),
+        png);
+    EXPECT_EQ(of(imageDraft({{{{uniformtype::tiff, "T"}, {uniformtype::jpeg, "J"}}, std::nullopt}})),
+              ofInput("image|T"));
+    EXPECT_EQ(of(imageDraft({{{{uniformtype::jpeg, "J"}, {uniformtype::heic, "H"}}, std::nullopt}})),
+              ofInput("image|J"));
     EXPECT_EQ(of(imageDraft({{{{uniformtype::heic, "H"}}, std::nullopt}})), ofInput("image|H"));
     // Items come before formats: the first item that has any of the four decides.
     EXPECT_EQ(of(imageDraft({{{{uniformtype::html, "x"}}, std::nullopt},

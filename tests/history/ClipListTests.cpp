@@ -24,8 +24,8 @@ ClipRef usedAt(const ClipRef& clip, Date date) {
 
 /// The order as it is defined, by walking.
 void insertByWalking(std::vector<ClipRef>& clips, const ClipRef& clip) {
-    const auto place = std::ranges::find_if(
-        clips, [&](const ClipRef& other) { return other->lastUsedAt <= clip->lastUsedAt; });
+    const auto place =
+        std::ranges::find_if(clips, [&](const ClipRef& other) { return other->lastUsedAt <= clip->lastUsedAt; });
     clips.insert(place, clip);
 }
 

@@ -99,9 +99,8 @@ TEST(ClipMeta, ARequiredFieldThatIsMissingSpoilsTheRecord) {
 }
 
 TEST(ClipMeta, AFieldOfAnotherTypeSpoilsTheRecord) {
-    for (const QString& key :
-         {u"title"_s, u"searchText"_s, u"files"_s, u"sourceBundleID"_s, u"sourceAppName"_s, u"thumbnail"_s,
-          u"imageText"_s, u"imageTextIsAccurate"_s, u"isScreenshot"_s}) {
+    for (const QString& key : {u"title"_s, u"searchText"_s, u"files"_s, u"sourceBundleID"_s, u"sourceAppName"_s,
+                               u"thumbnail"_s, u"imageText"_s, u"imageTextIsAccurate"_s, u"isScreenshot"_s}) {
         auto record = minimalRecord();
         record[key] = qint64{1};
         EXPECT_EQ(decodeRecord(record), std::nullopt) << key.toStdString();

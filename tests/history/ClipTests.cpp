@@ -23,14 +23,16 @@ Clip fileClip(const QStringList& paths) {
 }
 
 TEST(ClipPayload, CountsTheBytesOfAllRepresentationsAndNothingElse) {
-    const ClipPayload payload{{item({{u"a"_s, "12"}, {u"b"_s, "345"}}, QStringList{u"a"_s}), item({{u"c"_s, "6"}}), item({})}};
+    const ClipPayload payload{
+        {item({{u"a"_s, "12"}, {u"b"_s, "345"}}, QStringList{u"a"_s}), item({{u"c"_s, "6"}}), item({})}};
     EXPECT_EQ(payload.byteCount(), 6);
     EXPECT_EQ(ClipPayload().byteCount(), 0);
 }
 
 TEST(ClipPayload, CanonicalDataListsKeyLengthAndValueByKey) {
     const ClipPayload payload{{item({{u"b"_s, "xy"}, {u"a"_s, ""}})}};
-    const QByteArray expected = QByteArray("a\0\0\0\0\0\0\0\0\0", 10) + QByteArray("b\0\0\0\0\0\0\0\0\2xy", 12) + '\xff';
+    const QByteArray expected =
+        QByteArray("a\0\0\0\0\0\0\0\0\0", 10) + QByteArray("b\0\0\0\0\0\0\0\0\2xy", 12) + '\xff';
     EXPECT_EQ(payload.canonicalData(), expected);
 }
 
@@ -83,9 +85,11 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         ItemTextCase{"StringFirst", {{uniformtype::utf8PlainText, "s"}, {uniformtype::rtf, "{\\rtf1 r}"}}, u"s"_s},
         ItemTextCase{"EmptyStringIsText", {{uniformtype::utf8PlainText, ""}, {uniformtype::url, "x"}}, u""_s},
-        ItemTextCase{"RtfWhenStringIsNotUtf8", {{uniformtype::utf8PlainText, "\xff"}, {uniformtype::rtf, "{\\rtf1 r}"}}, u"r"_s},
+        ItemTextCase{
+            "RtfWhenStringIsNotUtf8", {{uniformtype::utf8PlainText, "\xff"}, {uniformtype::rtf, "{\\rtf1 r}"}}, u"r"_s},
         ItemTextCase{"EmptyRtfIsText", {{uniformtype::rtf, "{\\rtf1}"}, {uniformtype::url, "x"}}, u""_s},
-        ItemTextCase{"UrlWhenRtfDoesNotOpen", {{uniformtype::rtf, "no"}, {uniformtype::url, "http://x"}}, u"http://x"_s},
+        ItemTextCase{
+            "UrlWhenRtfDoesNotOpen", {{uniformtype::rtf, "no"}, {uniformtype::url, "http://x"}}, u"http://x"_s},
         ItemTextCase{"NothingElseCounts",
                      {{uniformtype::html, "<b>h</b>"}, {uniformtype::urlName, "n"}, {uniformtype::utf16PlainText, "a"}},
                      std::nullopt}),
@@ -100,16 +104,27 @@ TEST(OrderedTypes, SourceOrderFirstThenTheRestByRank) {
                               {uniformtype::fileUrl, "f"},
                               {uniformtype::url, "u"}},
                              QStringList{uniformtype::html, u"org.example.gone"_s});
-    const QStringList expected{uniformtype::html, uniformtype::fileUrl, u"org.example.a"_s,          u"org.example.z"_s,
+    const QStringList expected{uniformtype::html, uniformtype::fileUrl, u"org.example.a"_s,        u"org.example.z"_s,
                                uniformtype::rtf,  uniformtype::url,     uniformtype::utf8PlainText};
     EXPECT_EQ(orderedTypes(sample), expected);
 }
 
 TEST(OrderedTypes, StandardFormatsGoFromRichToPlain) {
-    const QStringList ranked{uniformtype::fileUrl, u"unknown"_s,           uniformtype::rtfd,          uniformtype::rtf,
-                             uniformtype::html,    uniformtype::pdf,     uniformtype::png,           uniformtype::tiff,
-                             uniformtype::jpeg,    uniformtype::heic,    uniformtype::icns,          uniformtype::url,
-                             uniformtype::urlName, uniformtype::utf8PlainText, uniformtype::utf16PlainText,
+    const QStringList ranked{uniformtype::fileUrl,
+                             u"unknown"_s,
+                             uniformtype::rtfd,
+                             uniformtype::rtf,
+                             uniformtype::html,
+                             uniformtype::pdf,
+                             uniformtype::png,
+                             uniformtype::tiff,
+                             uniformtype::jpeg,
+                             uniformtype::heic,
+                             uniformtype::icns,
+                             uniformtype::url,
+                             uniformtype::urlName,
+                             uniformtype::utf8PlainText,
+                             uniformtype::utf16PlainText,
                              uniformtype::color};
     PasteboardItem everything;
     for (const QString& type : ranked)
@@ -127,7 +142,8 @@ TEST(Clip, IsSensitiveExactlyWithAnExpiry) {
 }
 
 TEST(Clip, OnlyTextCanBeTransformed) {
-    for (const auto kind : {ClipKind::text, ClipKind::richText, ClipKind::link, ClipKind::image, ClipKind::file, ClipKind::color}) {
+    for (const auto kind :
+         {ClipKind::text, ClipKind::richText, ClipKind::link, ClipKind::image, ClipKind::file, ClipKind::color}) {
         Clip clip;
         clip.kind = kind;
         EXPECT_EQ(clip.canBeTransformed(), kind == ClipKind::text || kind == ClipKind::richText);

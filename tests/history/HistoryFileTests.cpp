@@ -18,9 +18,7 @@ using historyfile::isReadable;
 
 class HistoryFileTest : public testing::Test {
 protected:
-    [[nodiscard]] QString path(const char* suffix = "") const {
-        return m_history.path() + QLatin1StringView(suffix);
-    }
+    [[nodiscard]] QString path(const char* suffix = "") const { return m_history.path() + QLatin1StringView(suffix); }
     void write(const QString& file, const QByteArray& bytes) const {
         QFile target(file);
         ASSERT_TRUE(target.open(QIODevice::WriteOnly));

@@ -90,10 +90,12 @@ TEST_F(OpenHistoryTest, AForeignTableIsKeptAndJoinedByOurs) {
 }
 
 TEST_F(OpenHistoryTest, AFolderThatIsNotThereThrows) {
-    EXPECT_THROW((void)ClipDatabase::openHistory(m_history.folder() + u"/missing"_s, m_history.keyStore()), SQLiteError);
+    EXPECT_THROW((void)ClipDatabase::openHistory(m_history.folder() + u"/missing"_s, m_history.keyStore()),
+                 SQLiteError);
 }
 
-// Whatever lies under the history's name, a start gives a working history, and what was there is either kept or put aside.
+// Whatever lies under the history's name, a start gives a working history, and what was there is either kept or put
+// aside.
 TEST_F(OpenHistoryTest, AnyBytesUnderItsNameGiveAWorkingHistory) {
     {
         const auto database = m_history.open().database;

@@ -14,10 +14,10 @@ TEST(PayloadCoding, WritesItemsWithTheirRepresentationsAndOrder) {
     const ClipPayload payload{{{{{u"public.png"_s, "png"}}, QStringList{u"public.png"_s}}, {{}, std::nullopt}}};
     const PropertyList::Dictionary expected{
         {u"items"_s,
-         PropertyList::Array{
-             PropertyList::Dictionary{{u"representations"_s, PropertyList::Dictionary{{u"public.png"_s, QByteArray("png")}}},
-                                      {u"order"_s, PropertyList::Array{u"public.png"_s}}},
-             PropertyList::Dictionary{{u"representations"_s, PropertyList::Dictionary()}}}}};
+         PropertyList::Array{PropertyList::Dictionary{
+                                 {u"representations"_s, PropertyList::Dictionary{{u"public.png"_s, QByteArray("png")}}},
+                                 {u"order"_s, PropertyList::Array{u"public.png"_s}}},
+                             PropertyList::Dictionary{{u"representations"_s, PropertyList::Dictionary()}}}}};
     EXPECT_EQ(PropertyList::fromBytes(encodePayload(payload)), PropertyList(expected));
 }
 

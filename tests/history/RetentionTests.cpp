@@ -147,7 +147,8 @@ TEST(Retention, TheQuickAnswerAgreesWithTheWalk) {
                 clip.expiresAt = 998 + random.bounded(4);
             sample.add(clip);
         }
-        RetentionPolicy policy{.maxAge = std::nullopt, .maxCount = random.bounded(5), .maxMediaBytes = random.bounded(12)};
+        RetentionPolicy policy{
+            .maxAge = std::nullopt, .maxCount = random.bounded(5), .maxMediaBytes = random.bounded(12)};
         if (random.bounded(2))
             policy.maxAge = random.bounded(6);
         ClipList list;

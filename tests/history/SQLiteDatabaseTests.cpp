@@ -110,7 +110,11 @@ TEST_F(SQLiteDatabaseTest, EachFailureSaysWhatSQLiteSays) {
               "History file error: near \"SELEKT\": syntax error");
     failureOf([&] { (void)database.prepare(""); }, SQLiteError::Case::prepare);
     auto insertion = database.prepare("INSERT INTO t VALUES (?);");
-    EXPECT_EQ(failureOf([&] { insertion.bind(std::array<SQLValue, 2>{qint64{1}, qint64{2}}); }, SQLiteError::Case::step),
+    EXPECT_EQ(failureOf(
+                  [&] {
+                      insertion.bind(std::array<SQLValue, 2>{qint64{1}, qint64{2}});
+                  },
+                  SQLiteError::Case::step),
               "History file error: column index out of range");
     auto null = database.prepare("INSERT INTO t VALUES (NULL);");
     EXPECT_EQ(failureOf([&] { null.step(); }, SQLiteError::Case::step),

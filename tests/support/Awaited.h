@@ -37,7 +37,8 @@ QCoro::Task<void> watchTask(QCoro::Task<Result> task, std::shared_ptr<AwaitedOut
 
 } // namespace detail
 
-/// Delivers the main thread's events until `isDone` holds. Throws when it does not within ten seconds: a test that hangs fails.
+/// Delivers the main thread's events until `isDone` holds. Throws when it does not within ten seconds: a test that
+/// hangs fails.
 template <typename Condition>
 void runUntil(Condition isDone) {
     bool isLate = false;

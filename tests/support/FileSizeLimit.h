@@ -9,7 +9,8 @@ namespace vellumry {
 /// While it lives, this process can make no file longer than so many bytes: what a full disk looks like to a writer.
 class FileSizeLimit {
 public:
-    explicit FileSizeLimit(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
+    explicit FileSizeLimit(rlim_t bytes)
+        : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
         getrlimit(RLIMIT_FSIZE, &m_before);
         const rlimit limit{bytes, m_before.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limit);
