@@ -95,7 +95,8 @@ readerprotocol::Reply ImageSummariser::summarise(QByteArrayView file, int thumbn
     const QSize size = reader.size();
     if (size.width() > 0 && size.height() > 0)
         reply.pixelSize = size;
-    reply.isScreenshot = imagemarks::isScreenshot(file);
+    // Marks alone make no picture.
+    reply.isScreenshot = reply.pixelSize && imagemarks::isScreenshot(file);
     if (static_cast<qint64>(size.width()) * size.height() <= maxArea)
         reply.thumbnail = makeThumbnail(reader, reply.pixelSize.value_or(QSize()), thumbnailPixels);
     return reply;

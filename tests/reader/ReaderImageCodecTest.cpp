@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "linux/desktop/ReaderImageCodec.h"
+
+#include "reader/PictureBytes.h"
+#include "support/Awaited.h"
+
+#include <QDir>
+#include <QFile>
+#include <gtest/gtest.h>
+#include <csignal>
+
+namespace vellumry {
+namespace {
+
+using namespace picturebytes;
+
+const QString realReader = QStringLiteral(VELLUMRY_READER);
+const QString fakeReader = QStringLiteral(VELLUMRY_FAKE_READER);
+constexpr auto shortDeadline = std::chrono::milliseconds(300);
+
+/// The processes that this one has started and not collected, by number.
+QList<QByteArray> children() {
+    QList<QByteArray> numbers;
+    for (const QString& task : QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile list(QStringLiteral("/proc/self/task/%1/children").arg(task));
+        if (list.open(QIODevice::ReadOnly))
+            numbers += list.readAll().simplified().split(' ');
+    }
+    numbers.removeAll(QByteArray());
+    return numbers;
+}
+
+TEST(ReaderImageCodec, SummarisesAPicture) {
+    ReaderImageCodec codec(realReader);
+    const ImageSummary summary = awaited(codec.summarise(encode(twoColours(640, 320), "PNG"), 160));
+    EXPECT_EQ(summary.pixelSize, QSize(640, 320));
+    EXPECT_EQ(QImage::fromData(summary.thumbnail.value_or(QByteArray()), "PNG").size(), QSize(160, 80));
+    EXPECT_FALSE(summary.isScreenshot);
+}
+
+TEST(ReaderImageCodec, EveryDecoderWorksInTheSealedReader) {
+    ReaderImageCodec codec(realReader);
+    for (const char* format : {"PNG", "JPEG", "TIFF", "WEBP", "BMP"}) {
+        const ImageSummary summary = awaited(codec.summarise(encode(twoColours(640, 320), format), 160));
+        EXPECT_EQ(summary.pixelSize, QSize(640, 320)) << format;
+        EXPECT_TRUE(summary.thumbnail.has_value()) << format;
+    }
+}
+
+TEST(ReaderImageCodec, APictureLargerThanASocketHoldsArrivesWhole) {
+    QImage noise(2000, 1500, QImage::Format_RGB32);
+    quint32 state = 1;
+    for (int y = 0; y < noise.height(); ++y) {
+        for (int x = 0; x < noise.width(); ++x)
+            noise.setPixel(x, y, state = state * 1664525 + 1013904223);
+    }
+    const QByteArray file = encode(noise, "PNG");
+    ASSERT_GT(file.size(), 5'000'000);
+    ReaderImageCodec codec(realReader);
+    const ImageSummary summary = awaited(codec.summarise(file, 3000));
+    EXPECT_EQ(QImage::fromData(summary.thumbnail.value_or(QByteArray()), "PNG").convertToFormat(QImage::Format_RGB32), noise);
+}
+
+TEST(ReaderImageCodec, OneReaderServesMany) {
+    ReaderImageCodec codec(realReader);
+    (void)awaited(codec.summarise(encode(twoColours(8, 8), "PNG"), 160));
+    const QList<QByteArray> first = children();
+    (void)awaited(codec.summarise(encode(twoColours(9, 9), "PNG"), 160));
+    EXPECT_EQ(first.size(), 1);
+    EXPECT_EQ(children(), first);
+}
+
+TEST(ReaderImageCodec, NothingIsStartedForNothing) {
+    ReaderImageCodec codec(realReader);
+    EXPECT_EQ(awaited(codec.summarise(QByteArray(), 160)), ImageSummary());
+    EXPECT_TRUE(children().isEmpty());
+}
+
+TEST(ReaderImageCodec, RequestsMadeTogetherAreAnsweredEachForItself) {
+    ReaderImageCodec codec(realReader);
+    auto first = codec.summarise(encode(twoColours(10, 20), "PNG"), 160);
+    auto second = codec.summarise("no picture", 160);
+    auto third = codec.summarise(encode(twoColours(30, 40), "JPEG"), 160);
+    EXPECT_EQ(awaited(std::move(first)).pixelSize, QSize(10, 20));
+    EXPECT_EQ(awaited(std::move(second)), ImageSummary());
+    EXPECT_EQ(awaited(std::move(third)).pixelSize, QSize(30, 40));
+}
+
+class ReaderImageCodecMisfortune : public testing::TestWithParam<const char*> {};
+
+TEST_P(ReaderImageCodecMisfortune, CostsThatOnePicture) {
+    ReaderImageCodec codec(fakeReader, shortDeadline);
+    EXPECT_EQ(awaited(codec.summarise("good", 160)).pixelSize, QSize(7, 9));
+    EXPECT_EQ(awaited(codec.summarise(QByteArray(GetParam()), 160)), ImageSummary());
+    EXPECT_EQ(awaited(codec.summarise("good", 160)).pixelSize, QSize(7, 9));
+    EXPECT_LE(children().size(), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Readers, ReaderImageCodecMisfortune,
+                         testing::Values("crash", "hang", "leave", "flood", "lie", "babble"),
+                         [](const auto& instance) { return std::string(instance.param); });
+
+TEST(ReaderImageCodec, AReaderThatLeftIsReplacedUnnoticed) {
+    ReaderImageCodec codec(fakeReader, shortDeadline);
+    ASSERT_EQ(awaited(codec.summarise("good", 160)).pixelSize, QSize(7, 9));
+    ASSERT_EQ(children().size(), 1);
+    const pid_t reader = children().first().toInt();
+    kill(reader, SIGKILL);
+    runUntil([] { return children().isEmpty(); });
+    EXPECT_EQ(awaited(codec.summarise("good", 160)).pixelSize, QSize(7, 9));
+}
+
+TEST(ReaderImageCodec, WithoutAReaderSummariesAreEmpty) {
+    ReaderImageCodec codec(QStringLiteral("/no/such/reader"));
+    EXPECT_EQ(awaited(codec.summarise(encode(twoColours(8, 8), "PNG"), 160)), ImageSummary());
+}
+
+TEST(ReaderImageCodec, GoingAwayEndsAHangingReaderAtOnce) {
+    auto codec = std::make_unique<ReaderImageCodec>(fakeReader, std::chrono::hours(1));
+    auto first = codec->summarise("hang", 160);
+    auto second = codec->summarise("good", 160);
+    codec.reset();
+    EXPECT_TRUE(children().isEmpty());
+    EXPECT_EQ(awaited(std::move(first)), ImageSummary());
+    EXPECT_EQ(awaited(std::move(second)), ImageSummary());
+}
+
+} // namespace
+} // namespace vellumry
