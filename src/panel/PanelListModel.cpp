@@ -6,6 +6,7 @@
 #include "panel/RowAppearance.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace vellumry {
 
@@ -36,21 +37,29 @@ void PanelListModel::rebuild() {
     m_rowNumbers = m_model->rowNumbers();
     m_pinNumbers = m_model->pinNumbers();
 
-    const int before = static_cast<int>(m_rows.size());
-    const int after = static_cast<int>(rows.size());
-    if (after > before) {
-        beginInsertRows({}, before, after - 1);
-        m_rows = std::move(rows);
-        endInsertRows();
-    } else if (after < before) {
+    replaceRows(std::move(rows));
+}
+
+/// Rows that stay are rebound before any are added and after any are removed: views may look at them in between.
+void PanelListModel::replaceRows(std::vector<Row> rows) {
+    const auto before = static_cast<int>(m_rows.size());
+    const auto after = static_cast<int>(rows.size());
+    const int shared = std::min(before, after);
+    if (after < before) {
         beginRemoveRows({}, after, before - 1);
-        m_rows = std::move(rows);
+        m_rows.resize(rows.size());
         endRemoveRows();
-    } else {
-        m_rows = std::move(rows);
     }
-    if (const int shared = std::min(before, after); shared > 0)
+    std::vector<Row> added(std::make_move_iterator(rows.begin() + shared), std::make_move_iterator(rows.end()));
+    rows.resize(static_cast<std::size_t>(shared));
+    m_rows = std::move(rows);
+    if (shared > 0)
         Q_EMIT dataChanged(index(0), index(shared - 1));
+    if (!added.empty()) {
+        beginInsertRows({}, before, after - 1);
+        m_rows.insert(m_rows.end(), std::make_move_iterator(added.begin()), std::make_move_iterator(added.end()));
+        endInsertRows();
+    }
 }
 
 void PanelListModel::repaintSelection() {
@@ -82,6 +91,8 @@ int PanelListModel::primaryRow() const {
 
 QVariant PanelListModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    if (role != Qt::DisplayRole && (role < HeaderRole || role > IsSensitiveRole))
         return {};
     const Row& row = m_rows[static_cast<std::size_t>(index.row())];
     if (role == IsHeaderRole)

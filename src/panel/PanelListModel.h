@@ -58,6 +58,7 @@ private:
     };
 
     void rebuild();
+    void replaceRows(std::vector<Row> rows);
     void repaintSelection();
     [[nodiscard]] QVariant headerData(const Row& row, int role) const;
     [[nodiscard]] QVariant clipData(const Clip& clip, int role) const;

@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/PanelListModel.h"
 
-#include "foundation/UserDefaults.h"
-#include "history/ClipStore.h"
-#include "paste/PasteEngine.h"
-#include "support/Awaited.h"
-#include "support/Drafts.h"
-#include "support/FakePasteboard.h"
+#include "support/PasteWorld.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -16,14 +11,9 @@ using namespace vellumry;
 
 namespace {
 
-class PanelListModelTest : public ::testing::Test {
+class PanelListModelTest : public ::testing::Test, public PasteWorld {
 protected:
-    PanelListModelTest() {
-        hooks.pasteboard = &pasteboard;
-        hooks.isTrusted = [] { return false; };
-    }
-
-    ClipRef add(const ClipDraft& draft, Date now) { return awaited(store.add(draft, now)); }
+    ClipRef add(const ClipDraft& draft, Date date) { return awaited(store.add(draft, date)); }
     QStringList column(PanelListModel::Role role) const {
         QStringList values;
         for (int row = 0; row < rows.rowCount(); ++row)
@@ -31,14 +21,9 @@ protected:
         return values;
     }
 
-    ClipStore store{RetentionPolicy{}};
-    UserDefaults defaults;
-    FakePasteboard pasteboard;
-    SystemHooks hooks;
-    PasteEngine paster{store, defaults, hooks};
     PanelModelCalendar calendar{[] { return 86'400.0 * 20'000 + 40'000; }, [] { return QTimeZone::utc(); },
                                 [] { return QLocale::c(); }};
-    PanelModel model{store, paster, calendar};
+    PanelModel model{store, *engine, calendar};
     PanelListModel rows{model, {QStringLiteral("Ctrl+%1"), QStringLiteral("Super+Alt+%1")}};
     QAbstractItemModelTester tester{&rows, QAbstractItemModelTester::FailureReportingMode::Fatal};
     Date today = 86'400.0 * 20'000 + 100;
@@ -101,6 +86,18 @@ TEST_F(PanelListModelTest, TheSelectionMovesWithoutTouchingTheRows) {
     EXPECT_FALSE(rows.data(rows.index(1), PanelListModel::IsSelectedRole).toBool());
     ASSERT_GE(changes.count(), 1);
     EXPECT_EQ(changes.last().at(2).value<QList<int>>(), QList<int>{PanelListModel::IsSelectedRole});
+}
+
+TEST_F(PanelListModelTest, ThePrimaryRowCountsTheHeadersAboveIt) {
+    add(drafts::text(QStringLiteral("day before")), today - 2 * 86'400.0);
+    add(drafts::text(QStringLiteral("yesterday")), today - 86'400.0);
+    add(drafts::text(QStringLiteral("today")), today);
+    model.prepareForShow();
+    for (const int row : {1, 3, 5}) {
+        EXPECT_EQ(rows.primaryRow(), row);
+        EXPECT_EQ(rows.clipAt(row)->id, model.selectedID());
+        model.move(1);
+    }
 }
 
 TEST_F(PanelListModelTest, APictureIsNamedByItsClip) {
