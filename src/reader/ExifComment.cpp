@@ -19,7 +19,8 @@ constexpr qsizetype entryBytes = 12;
 /// A TIFF file's numbers in its own byte order; nothing beyond its end.
 class TiffBytes {
 public:
-    explicit TiffBytes(QByteArrayView bytes) : m_bytes(bytes) {
+    explicit TiffBytes(QByteArrayView bytes)
+        : m_bytes(bytes) {
         m_isBigEndian = bytes.startsWith(QByteArrayView("MM\0*", 4));
         m_isValid = m_isBigEndian || bytes.startsWith(QByteArrayView("II*\0", 4));
     }
@@ -89,7 +90,8 @@ QString decodeComment(QByteArrayView comment, bool isBigEndian) {
         QStringDecoder decoder(isBigEndian ? QStringDecoder::Utf16BE : QStringDecoder::Utf16LE);
         return withoutPadding(decoder.decode(comment.sliced(8)));
     }
-    const bool isNamed = coding.size() == 8 && (coding.startsWith("ASCII") || coding == QByteArrayView("\0\0\0\0\0\0\0\0", 8));
+    const bool isNamed =
+        coding.size() == 8 && (coding.startsWith("ASCII") || coding == QByteArrayView("\0\0\0\0\0\0\0\0", 8));
     return withoutPadding(QString::fromUtf8(isNamed ? comment.sliced(8) : comment));
 }
 

@@ -11,8 +11,8 @@ namespace vellumry::imagemarks {
 
 namespace {
 
-/// XMP packets are kilobytes. The XML reader compares each attribute of an element with each other one, so that a longer packet
-/// could take seconds.
+/// XMP packets are kilobytes. The XML reader compares each attribute of an element with each other one, so that a
+/// longer packet could take seconds.
 constexpr qsizetype longestPacket = 64 * 1024;
 
 bool isScreenshotComment(const QString& comment) {

@@ -5,8 +5,8 @@
 
 namespace vellumry {
 
-/// Opens pictures: PNG, JPEG, TIFF, WebP, BMP and GIF (its first frame). Runs in the reader process, where a crafted file can
-/// do no more than end it. One thread.
+/// Opens pictures: PNG, JPEG, TIFF, WebP, BMP and GIF (its first frame). Runs in the reader process, where a crafted
+/// file can do no more than end it. One thread.
 class ImageSummariser {
 public:
     /// A picture with more pixels than this is not decoded.
@@ -15,8 +15,8 @@ public:
     /// Loads the decoders: from here on no file is opened.
     ImageSummariser();
 
-    /// The size as stored, an upright thumbnail that is never larger than the picture, and the marks. Empty for bytes that are
-    /// no picture. `file` must stay where it is meanwhile; it is not copied. The reply carries no identity.
+    /// The size as stored, an upright thumbnail that is never larger than the picture, and the marks. Empty for bytes
+    /// that are no picture. `file` must stay where it is meanwhile; it is not copied. The reply carries no identity.
     [[nodiscard]] readerprotocol::Reply summarise(QByteArrayView file, int thumbnailPixels) const;
 };
 

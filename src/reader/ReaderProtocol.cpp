@@ -84,6 +84,8 @@ std::optional<Reply> decodeReply(const QByteArray& message) {
     return reply;
 }
 
-quint32 messageLength(const char* bytes) { return qFromLittleEndian<quint32>(bytes); }
+quint32 messageLength(const char* bytes) {
+    return qFromLittleEndian<quint32>(bytes);
+}
 
 } // namespace vellumry::readerprotocol

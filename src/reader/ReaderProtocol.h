@@ -5,9 +5,10 @@
 #include <QSize>
 #include <optional>
 
-/// What the program and its reader process say to each other over a stream socket, the reader's standard input. A message is
-/// its length as four bytes (little-endian, not counting themselves) and that many bytes. A request's first byte carries one
-/// file descriptor (SCM_RIGHTS): a sealed memory file with the picture. Requests are answered in their order. Any thread.
+/// What the program and its reader process say to each other over a stream socket, the reader's standard input. A
+/// message is its length as four bytes (little-endian, not counting themselves) and that many bytes. A request's first
+/// byte carries one file descriptor (SCM_RIGHTS): a sealed memory file with the picture. Requests are answered in their
+/// order. Any thread.
 namespace vellumry::readerprotocol {
 
 /// What is asked for. The numbers go over the wire; further operations take further numbers.

@@ -48,13 +48,12 @@ void giveUpFiles() {
     close(ruleset);
 }
 
-constexpr std::array refusedCalls{
-    SYS_socket,  SYS_connect,  SYS_bind,   SYS_listen,            SYS_accept4,           SYS_execve,
-    SYS_execveat, SYS_ptrace,  SYS_kill,   SYS_process_vm_readv,  SYS_process_vm_writev, SYS_io_uring_setup,
-    SYS_bpf,     SYS_keyctl,   SYS_unshare, SYS_setns,            SYS_mount,             SYS_open_by_handle_at,
-    SYS_pidfd_getfd, SYS_pidfd_send_signal, SYS_userfaultfd, SYS_perf_event_open,
+constexpr std::array refusedCalls {
+    SYS_socket, SYS_connect, SYS_bind, SYS_listen, SYS_accept4, SYS_execve, SYS_execveat, SYS_ptrace, SYS_kill,
+        SYS_process_vm_readv, SYS_process_vm_writev, SYS_io_uring_setup, SYS_bpf, SYS_keyctl, SYS_unshare, SYS_setns,
+        SYS_mount, SYS_open_by_handle_at, SYS_pidfd_getfd, SYS_pidfd_send_signal, SYS_userfaultfd, SYS_perf_event_open,
 #if defined(__x86_64__)
-    SYS_fork,    SYS_vfork,    SYS_accept,
+        SYS_fork, SYS_vfork, SYS_accept,
 #endif
 };
 

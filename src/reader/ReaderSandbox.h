@@ -3,12 +3,12 @@
 
 namespace vellumry::readersandbox {
 
-/// Gives up what the reader process does not need, for good: priority, memory beyond 2 GiB, descriptors besides the standard
-/// ones, new privileges, core dumps. Before anything else in `main`.
+/// Gives up what the reader process does not need, for good: priority, memory beyond 2 GiB, descriptors besides the
+/// standard ones, new privileges, core dumps. Before anything else in `main`.
 void enter();
 
-/// Gives up the rest once all decoders are loaded: the file system (Landlock, Linux 5.13), the network, other processes and
-/// new programs (seccomp). What the kernel does not know is left out.
+/// Gives up the rest once all decoders are loaded: the file system (Landlock, Linux 5.13), the network, other processes
+/// and new programs (seccomp). What the kernel does not know is left out.
 void seal();
 
 /// Allows `seconds` of processor time from now; a decoder that uses them up ends the process.

@@ -17,7 +17,8 @@ public:
 
     /// `socket` stays the caller's.
     explicit ReaderService(int socket, std::chrono::milliseconds patience = std::chrono::seconds(10))
-        : m_socket(socket), m_patience(patience) {}
+        : m_socket(socket)
+        , m_patience(patience) {}
 
     [[nodiscard]] End run();
 

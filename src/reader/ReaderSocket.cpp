@@ -95,7 +95,9 @@ Descriptor::~Descriptor() {
         close(m_number);
 }
 
-int Descriptor::release() { return std::exchange(m_number, -1); }
+int Descriptor::release() {
+    return std::exchange(m_number, -1);
+}
 
 bool send(int socket, const QByteArray& bytes, int attached, Clock::time_point deadline) {
     qsizetype sent = 0;
@@ -125,6 +127,8 @@ std::optional<Message> receive(int socket, quint32 maxBytes, Clock::time_point d
     return message;
 }
 
-bool waitForInput(int socket, Clock::time_point deadline) { return waitFor(socket, POLLIN, deadline); }
+bool waitForInput(int socket, Clock::time_point deadline) {
+    return waitFor(socket, POLLIN, deadline);
+}
 
 } // namespace vellumry::readersocket

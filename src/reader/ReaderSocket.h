@@ -13,8 +13,10 @@ using Clock = std::chrono::steady_clock;
 /// Owns a file descriptor. Not copied; -1 is none.
 class Descriptor {
 public:
-    explicit Descriptor(int number = -1) : m_number(number) {}
-    Descriptor(Descriptor&& other) noexcept : m_number(other.release()) {}
+    explicit Descriptor(int number = -1)
+        : m_number(number) {}
+    Descriptor(Descriptor&& other) noexcept
+        : m_number(other.release()) {}
     Descriptor& operator=(Descriptor&& other) noexcept;
     ~Descriptor();
 
@@ -31,11 +33,12 @@ struct Message {
     Descriptor attached;
 };
 
-/// Sends `bytes` with `attached` beside the first of them (-1: nothing). False when the other side is gone or does not read.
+/// Sends `bytes` with `attached` beside the first of them (-1: nothing). False when the other side is gone or does not
+/// read.
 [[nodiscard]] bool send(int socket, const QByteArray& bytes, int attached, Clock::time_point deadline);
 
-/// Receives one message, without its length. Nothing at the deadline, at the end of the stream, and for a message that says
-/// to be longer than `maxBytes`.
+/// Receives one message, without its length. Nothing at the deadline, at the end of the stream, and for a message that
+/// says to be longer than `maxBytes`.
 [[nodiscard]] std::optional<Message> receive(int socket, quint32 maxBytes, Clock::time_point deadline);
 
 /// Waits until something can be received. False at the deadline; true at the end of the stream too.

@@ -41,7 +41,9 @@ TEST(MountTable, WithoutATableEverythingIsNear) {
     EXPECT_EQ(table.mountPointOf("/anything"), "/");
 }
 
-TEST(MountTable, ReadsTheTableOfThisProcess) { EXPECT_TRUE(MountTable::current().isLocal("/proc/self")); }
+TEST(MountTable, ReadsTheTableOfThisProcess) {
+    EXPECT_TRUE(MountTable::current().isLocal("/proc/self"));
+}
 
 } // namespace
 } // namespace vellumry

@@ -14,8 +14,8 @@ namespace {
 class PosixFileBookmarksTest : public testing::Test {
 protected:
     void SetUp() override {
-        for (const char* folder : {"data/Trash/files", "data/Trash/info", "home/Documents/deep/deeper", "home/Desktop",
-                                   "elsewhere"})
+        for (const char* folder :
+             {"data/Trash/files", "data/Trash/info", "home/Documents/deep/deeper", "home/Desktop", "elsewhere"})
             ASSERT_TRUE(QDir(root.path()).mkpath(QString::fromLatin1(folder)));
     }
 
@@ -114,7 +114,8 @@ TEST_F(PosixFileBookmarksTest, AFileThatWasCopiedIntoTheTrashIsFoundByItsNote) {
     write(path("data/Trash/files/\xC3\xA4 b.txt.2"), "content");
     write(path("data/Trash/info/\xC3\xA4 b.txt.2.trashinfo"),
           "[Trash Info]\nPath=" + QUrl::toPercentEncoding(origin, "/") + "\nDeletionDate=2024-01-02T03:04:05\n");
-    EXPECT_EQ(bookmarks().resolve(foreign->encode()), QString::fromUtf8(QFile::encodeName(path("data/Trash/files/\xC3\xA4 b.txt.2"))));
+    EXPECT_EQ(bookmarks().resolve(foreign->encode()),
+              QString::fromUtf8(QFile::encodeName(path("data/Trash/files/\xC3\xA4 b.txt.2"))));
 }
 
 TEST_F(PosixFileBookmarksTest, ANewFileAtTheOldPathIsNotTheOldOne) {
@@ -143,7 +144,8 @@ TEST_F(PosixFileBookmarksTest, TheLookIsBounded) {
 
 TEST_F(PosixFileBookmarksTest, ANetworkFileSystemIsNeitherRememberedNorTouched) {
     const QByteArray bookmark = remember("home/a.txt");
-    mounts = MountTable::parse("1 0 0:1 / / rw - ext4 x rw\n2 1 0:2 / " + QFile::encodeName(path("home")) + " rw - nfs4 s:/ rw\n");
+    mounts = MountTable::parse("1 0 0:1 / / rw - ext4 x rw\n2 1 0:2 / " + QFile::encodeName(path("home")) +
+                               " rw - nfs4 s:/ rw\n");
     EXPECT_EQ(bookmarks().make(path("home/a.txt")), std::nullopt);
     EXPECT_EQ(bookmarks().resolve(bookmark), std::nullopt);
 }

@@ -81,8 +81,8 @@ void PrivateBus::end(QProcess& process) {
 bool PrivateBus::startKeyring() {
     prepare(m_keyring);
     m_keyring.setStandardOutputFile(QProcess::nullDevice());
-    m_keyring.start(QStringLiteral("gnome-keyring-daemon"),
-                    {QStringLiteral("--foreground"), QStringLiteral("--unlock"), QStringLiteral("--components=secrets")});
+    m_keyring.start(QStringLiteral("gnome-keyring-daemon"), {QStringLiteral("--foreground"), QStringLiteral("--unlock"),
+                                                             QStringLiteral("--components=secrets")});
     m_keyring.write("\n");
     m_keyring.waitForBytesWritten(patienceMilliseconds);
     m_keyring.closeWriteChannel();
@@ -110,11 +110,11 @@ std::optional<QByteArray> PrivateBus::output(const QString& program, const QStri
 }
 
 bool PrivateBus::lockKeyring() {
-    return output(QStringLiteral("gdbus"),
-                  {QStringLiteral("call"), QStringLiteral("--session"), QStringLiteral("--dest=org.freedesktop.secrets"),
-                   QStringLiteral("--object-path=/org/freedesktop/secrets"),
-                   QStringLiteral("--method=org.freedesktop.Secret.Service.Lock"),
-                   QStringLiteral("[objectpath '/org/freedesktop/secrets/aliases/default']")})
+    return output(QStringLiteral("gdbus"), {QStringLiteral("call"), QStringLiteral("--session"),
+                                            QStringLiteral("--dest=org.freedesktop.secrets"),
+                                            QStringLiteral("--object-path=/org/freedesktop/secrets"),
+                                            QStringLiteral("--method=org.freedesktop.Secret.Service.Lock"),
+                                            QStringLiteral("[objectpath '/org/freedesktop/secrets/aliases/default']")})
         .has_value();
 }
 

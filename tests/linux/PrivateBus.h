@@ -7,8 +7,8 @@
 
 namespace vellumry {
 
-/// A session bus of the test's own that can start nothing by itself. This process and its children meet it as the session's
-/// bus, with folders of their own, as long as it lives.
+/// A session bus of the test's own that can start nothing by itself. This process and its children meet it as the
+/// session's bus, with folders of their own, as long as it lives.
 class PrivateBus {
 public:
     PrivateBus();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Starts as a copy of the program would and tells by its exit code whether another one runs: 1 yes, 0 no. With "hold" as its
-// argument it stays as the running copy until its standard input ends, after a line that says so.
+// Starts as a copy of the program would and tells by its exit code whether another one runs: 1 yes, 0 no. With "hold"
+// as its argument it stays as the running copy until its standard input ends, after a line that says so.
 #include "linux/desktop/DBusSingleInstance.h"
 
 #include <QCoreApplication>

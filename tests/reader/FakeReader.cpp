@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A reader that misbehaves in the way that the first bytes of the picture ask for: "crash", "hang", "leave" (once, in peace,
-// without an answer), "flood" (says that its answer is endless), "lie" (answers another question), "babble" (no answer at all,
-// but bytes). Any other picture is answered with the size 7 x 9.
+// A reader that misbehaves in the way that the first bytes of the picture ask for: "crash", "hang", "leave" (once, in
+// peace, without an answer), "flood" (says that its answer is endless), "lie" (answers another question), "babble" (no
+// answer at all, but bytes). Any other picture is answered with the size 7 x 9.
 #include "reader/ReaderProtocol.h"
 #include "reader/ReaderSocket.h"
 

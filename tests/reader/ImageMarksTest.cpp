@@ -26,7 +26,9 @@ QByteArray xmpWithElement(const QByteArray& comment) {
            comment + "</rdf:li></rdf:Alt></exif:UserComment></rdf:Description></rdf:RDF></x:xmpmeta>";
 }
 
-QByteArray jpeg() { return encode(twoColours(8, 8), "JPEG"); }
+QByteArray jpeg() {
+    return encode(twoColours(8, 8), "JPEG");
+}
 
 TEST(ImageMarks, APngSignedByAScreenshotToolIsOne) {
     EXPECT_TRUE(isScreenshot(pngWith(textChunk("Software", "gnome-screenshot"))));
@@ -38,7 +40,8 @@ TEST(ImageMarks, APngSignedByAScreenshotToolIsOne) {
 TEST(ImageMarks, TheUserCommentCountsInEitherByteOrder) {
     for (const bool isBigEndian : {false, true}) {
         EXPECT_TRUE(isScreenshot(pngWith(pngChunk("eXIf", exif(asciiCode + "Screenshot", isBigEndian)))));
-        EXPECT_TRUE(isScreenshot(jpegWith(jpeg(), 0xE1, exifIntroduction + exif(asciiCode + "Screenshot", isBigEndian))));
+        EXPECT_TRUE(
+            isScreenshot(jpegWith(jpeg(), 0xE1, exifIntroduction + exif(asciiCode + "Screenshot", isBigEndian))));
         EXPECT_TRUE(isScreenshot(exif(asciiCode + "Screenshot", isBigEndian))) << "a TIFF file";
     }
 }

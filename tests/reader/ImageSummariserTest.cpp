@@ -21,7 +21,8 @@ QImage thumbnailOf(const readerprotocol::Reply& reply) {
 
 bool isAbout(const QColor& colour, const QColor& expected) {
     constexpr int tolerance = 40;
-    return std::abs(colour.red() - expected.red()) < tolerance && std::abs(colour.green() - expected.green()) < tolerance &&
+    return std::abs(colour.red() - expected.red()) < tolerance &&
+           std::abs(colour.green() - expected.green()) < tolerance &&
            std::abs(colour.blue() - expected.blue()) < tolerance;
 }
 
@@ -64,7 +65,8 @@ TEST(ImageSummariser, AnExtremelyLongPictureKeepsAPixelOfWidth) {
 }
 
 TEST(ImageSummariser, DeepAndTranslucentPicturesHaveThumbnails) {
-    EXPECT_EQ(thumbnailOf(summarise(encode(twoColours(400, 200, QImage::Format_RGBA64), "PNG"))).size(), QSize(160, 80));
+    EXPECT_EQ(thumbnailOf(summarise(encode(twoColours(400, 200, QImage::Format_RGBA64), "PNG"))).size(),
+              QSize(160, 80));
     QImage translucent(400, 200, QImage::Format_ARGB32);
     translucent.fill(QColor(0, 255, 0, 128));
     const QImage thumbnail = thumbnailOf(summarise(encode(translucent, "PNG")));
@@ -73,8 +75,8 @@ TEST(ImageSummariser, DeepAndTranslucentPicturesHaveThumbnails) {
 
 TEST(ImageSummariser, AThumbnailStandsUpright) {
     constexpr quint16 turnedRight = 6;
-    const QByteArray file = jpegWith(encode(twoColours(400, 200), "JPEG"), 0xE1,
-                                     QByteArray("Exif\0\0", 6) + exifOrientation(turnedRight));
+    const QByteArray file =
+        jpegWith(encode(twoColours(400, 200), "JPEG"), 0xE1, QByteArray("Exif\0\0", 6) + exifOrientation(turnedRight));
     const auto reply = summarise(file);
     EXPECT_EQ(reply.pixelSize, QSize(400, 200)) << "as stored";
     const QImage thumbnail = thumbnailOf(reply);
@@ -106,9 +108,9 @@ TEST(ImageSummariser, BytesThatAreNoPictureGiveNothing) {
 
 TEST(ImageSummariser, AMarkedPictureIsAScreenshot) {
     EXPECT_TRUE(summarise(pngWith(pngChunk("tEXt", QByteArray("Software\0gnome-screenshot", 25)))).isScreenshot);
-    EXPECT_FALSE(summarise(QByteArray("\x89PNG\r\n\x1a\n", 8) +
-                           pngChunk("tEXt", QByteArray("Software\0gnome-screenshot", 25)))
-                     .isScreenshot)
+    EXPECT_FALSE(
+        summarise(QByteArray("\x89PNG\r\n\x1a\n", 8) + pngChunk("tEXt", QByteArray("Software\0gnome-screenshot", 25)))
+            .isScreenshot)
         << "marks without a picture";
 }
 

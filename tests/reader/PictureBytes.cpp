@@ -68,7 +68,8 @@ QImage twoColours(int width, int height, QImage::Format format) {
 }
 
 QByteArray pngChunk(const QByteArray& name, const QByteArray& content) {
-    return bytesOf(static_cast<quint32>(content.size()), true) + name + content + bytesOf(checksum(name + content), true);
+    return bytesOf(static_cast<quint32>(content.size()), true) + name + content +
+           bytesOf(checksum(name + content), true);
 }
 
 QByteArray pngWith(const QByteArray& chunks) {
@@ -83,15 +84,16 @@ QByteArray pngHeader(quint32 width, quint32 height) {
 }
 
 QByteArray jpegWith(const QByteArray& jpeg, quint8 marker, const QByteArray& content) {
-    return jpeg.first(2) + '\xFF' + static_cast<char>(marker) + bytesOf(static_cast<quint16>(content.size() + 2), true) +
-           content + jpeg.sliced(2);
+    return jpeg.first(2) + '\xFF' + static_cast<char>(marker) +
+           bytesOf(static_cast<quint16>(content.size() + 2), true) + content + jpeg.sliced(2);
 }
 
 QByteArray exif(const QByteArray& comment, bool isBigEndian) {
     constexpr quint32 exifFolder = 8 + 18;
     constexpr quint32 commentStart = exifFolder + 18;
     return tiffStart(isBigEndian) + folder(entry(0x8769, 4, 1, exifFolder, isBigEndian), isBigEndian) +
-           folder(entry(0x9286, 7, static_cast<quint32>(comment.size()), commentStart, isBigEndian), isBigEndian) + comment;
+           folder(entry(0x9286, 7, static_cast<quint32>(comment.size()), commentStart, isBigEndian), isBigEndian) +
+           comment;
 }
 
 QByteArray exifOrientation(quint16 orientation) {

@@ -6,8 +6,8 @@
 
 #include <QDir>
 #include <QFile>
-#include <gtest/gtest.h>
 #include <csignal>
+#include <gtest/gtest.h>
 
 namespace vellumry {
 namespace {
@@ -58,7 +58,8 @@ TEST(ReaderImageCodec, APictureLargerThanASocketHoldsArrivesWhole) {
     ASSERT_GT(file.size(), 5'000'000);
     ReaderImageCodec codec(realReader);
     const ImageSummary summary = awaited(codec.summarise(file, 3000));
-    EXPECT_EQ(QImage::fromData(summary.thumbnail.value_or(QByteArray()), "PNG").convertToFormat(QImage::Format_RGB32), noise);
+    EXPECT_EQ(QImage::fromData(summary.thumbnail.value_or(QByteArray()), "PNG").convertToFormat(QImage::Format_RGB32),
+              noise);
 }
 
 TEST(ReaderImageCodec, OneReaderServesMany) {

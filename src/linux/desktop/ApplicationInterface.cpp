@@ -3,7 +3,8 @@
 
 namespace vellumry {
 
-ApplicationInterface::ApplicationInterface(QObject* parent) : QDBusAbstractAdaptor(parent) {
+ApplicationInterface::ApplicationInterface(QObject* parent)
+    : QDBusAbstractAdaptor(parent) {
     setAutoRelaySignals(false);
 }
 
@@ -12,7 +13,9 @@ void ApplicationInterface::Activate(const QVariantMap&) {
         onActivate();
 }
 
-void ApplicationInterface::Open(const QStringList&, const QVariantMap& platformData) { Activate(platformData); }
+void ApplicationInterface::Open(const QStringList&, const QVariantMap& platformData) {
+    Activate(platformData);
+}
 
 void ApplicationInterface::ActivateAction(const QString& name, const QVariantList&, const QVariantMap&) {
     if (onAction)

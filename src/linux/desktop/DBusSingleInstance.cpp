@@ -73,8 +73,8 @@ bool DBusSingleInstance::claimName() {
 }
 
 void DBusSingleInstance::activateOther() {
-    QDBusMessage call = QDBusMessage::createMethodCall(busName, objectPath, QStringLiteral("org.freedesktop.Application"),
-                                                       QStringLiteral("Activate"));
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        busName, objectPath, QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
     // A bus that knows how to start the program must not do so now.
     call.setAutoStartService(false);
     call << platformData();

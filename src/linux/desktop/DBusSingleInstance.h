@@ -10,8 +10,8 @@
 namespace vellumry {
 
 /// The one copy of the session: owns the name `com.vellumry.Vellumry` on the session bus and answers there at
-/// `/com/vellumry/Vellumry`. A file lock stands beside the name, so that a copy without a bus, or on another one, cannot
-/// touch the same history. Main thread.
+/// `/com/vellumry/Vellumry`. A file lock stands beside the name, so that a copy without a bus, or on another one,
+/// cannot touch the same history. Main thread.
 class DBusSingleInstance : public SingleInstance {
 public:
     /// How long the running copy may take to answer before the second one ends without its answer.

@@ -10,7 +10,8 @@ namespace vellumry {
 /// What makes a file the same file under another name. A value; any thread.
 struct FileIdentity {
     quint64 device = 0;
-    quint64 fileSystem = 0; ///< the file system's own number (statfs(2), f_fsid), which outlives device numbers; 0: none
+    quint64 fileSystem =
+        0; ///< the file system's own number (statfs(2), f_fsid), which outlives device numbers; 0: none
     quint64 inode = 0;
     qint64 birthSeconds = 0;
     quint32 birthNanoseconds = 0;

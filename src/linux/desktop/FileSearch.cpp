@@ -22,9 +22,13 @@ FileSearch::FileSearch(const FileIdentity& wanted, const MountTable& mounts, Bou
     , m_clock(std::move(clock))
     , m_end(m_clock() + bounds.time) {}
 
-bool FileSearch::isExhausted() const { return m_entriesLeft <= 0 || m_clock() >= m_end; }
+bool FileSearch::isExhausted() const {
+    return m_entriesLeft <= 0 || m_clock() >= m_end;
+}
 
-std::optional<QByteArray> FileSearch::inFolder(const QByteArray& folder) { return scan(folder, nullptr); }
+std::optional<QByteArray> FileSearch::inFolder(const QByteArray& folder) {
+    return scan(folder, nullptr);
+}
 
 std::optional<QByteArray> FileSearch::below(const QByteArray& folder) {
     std::vector<QByteArray> folders{folder};

@@ -9,8 +9,8 @@
 
 namespace vellumry {
 
-/// One bounded look for a file by its identity. It reads folders, whose entries carry inode numbers, and examines only the
-/// entries whose number fits. Network file systems, links and hidden folders are left alone. One thread.
+/// One bounded look for a file by its identity. It reads folders, whose entries carry inode numbers, and examines only
+/// the entries whose number fits. Network file systems, links and hidden folders are left alone. One thread.
 class FileSearch {
 public:
     struct Bounds {

@@ -11,7 +11,8 @@
 
 namespace vellumry {
 
-InstanceLock::InstanceLock(QString path) : m_path(std::move(path)) {}
+InstanceLock::InstanceLock(QString path)
+    : m_path(std::move(path)) {}
 
 InstanceLock::~InstanceLock() {
     if (m_descriptor >= 0)
@@ -20,7 +21,8 @@ InstanceLock::~InstanceLock() {
 
 QString InstanceLock::defaultPath() {
     const QString name = QStringLiteral("com.vellumry.Vellumry.lock");
-    // Not QStandardPaths::RuntimeLocation: it makes up a folder of its own, with a warning, where the variable is not set.
+    // Not QStandardPaths::RuntimeLocation: it makes up a folder of its own, with a warning, where the variable is not
+    // set.
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
     if (QDir::isAbsolutePath(runtime) && QDir(runtime).exists())
         return runtime + u'/' + name;

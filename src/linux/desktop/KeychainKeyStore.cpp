@@ -9,7 +9,8 @@ std::optional<SymmetricKey> KeychainKeyStore::load() {
     SecretServiceSession session(m_service.toUtf8(), m_account.toUtf8(), m_patience);
     auto items = session.findItems();
     if (items.empty() && !session.isDefaultCollectionUnlocked()) {
-        // A service may hide what is in a locked keyring. To believe that there is no key would cost the user the history.
+        // A service may hide what is in a locked keyring. To believe that there is no key would cost the user the
+        // history.
         session.unlockDefaultCollection();
         items = session.findItems();
     }

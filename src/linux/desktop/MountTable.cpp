@@ -27,7 +27,7 @@ bool contains(const QByteArray& folder, const QByteArray& path) {
 
 bool isRemote(const QByteArray& type) {
     static constexpr std::array<const char*, 13> remote{"nfs",  "nfs4", "cifs",  "smb3",      "smbfs", "9p",    "afs",
-                                                       "ceph", "coda", "ncpfs", "glusterfs", "davfs", "autofs"};
+                                                        "ceph", "coda", "ncpfs", "glusterfs", "davfs", "autofs"};
     // FUSE serves whatever a program likes; only block devices (NTFS, exFAT) are known to be near.
     return type == "fuse" || type.startsWith("fuse.") ||
            std::any_of(remote.begin(), remote.end(), [&type](const char* name) { return type == name; });

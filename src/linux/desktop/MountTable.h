@@ -7,8 +7,8 @@
 
 namespace vellumry {
 
-/// The mounted file systems, as the kernel lists them (proc(5), mountinfo). Asking it touches none of them: a hung server or an
-/// automounter is never woken. A value; any thread.
+/// The mounted file systems, as the kernel lists them (proc(5), mountinfo). Asking it touches none of them: a hung
+/// server or an automounter is never woken. A value; any thread.
 class MountTable {
 public:
     /// The table of this process, as it is now; empty when there is none.
@@ -18,8 +18,8 @@ public:
 
     /// Where the file system of `path`, an absolute path without links, is mounted; "/" when nothing better is known.
     [[nodiscard]] QByteArray mountPointOf(const QByteArray& path) const;
-    /// True when looking at `path` stays on this machine: its file system is no network's, no automounter's and none that a
-    /// program serves from afar.
+    /// True when looking at `path` stays on this machine: its file system is no network's, no automounter's and none
+    /// that a program serves from afar.
     [[nodiscard]] bool isLocal(const QByteArray& path) const;
 
 private:

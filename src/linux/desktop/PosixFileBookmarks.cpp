@@ -10,8 +10,8 @@ namespace vellumry {
 
 namespace {
 
-/// What programs call the old file when they save a new one in its place ("a.txt~", "a.txt.bak", ".a.txt.swp"). The file that
-/// the user copied is the one that has the name, not its predecessor.
+/// What programs call the old file when they save a new one in its place ("a.txt~", "a.txt.bak", ".a.txt.swp"). The
+/// file that the user copied is the one that has the name, not its predecessor.
 bool isBackupOf(const QByteArray& original, const QByteArray& path) {
     const auto folderEnd = original.lastIndexOf('/') + 1;
     if (!path.startsWith(original.first(folderEnd)))
@@ -27,9 +27,9 @@ PosixFileBookmarks::Places PosixFileBookmarks::usersPlaces() {
     Places places;
     places.home = QDir::homePath();
     places.dataHome = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    for (const auto location : {QStandardPaths::DesktopLocation, QStandardPaths::DownloadLocation,
-                                QStandardPaths::DocumentsLocation, QStandardPaths::PicturesLocation,
-                                QStandardPaths::MoviesLocation, QStandardPaths::MusicLocation}) {
+    for (const auto location :
+         {QStandardPaths::DesktopLocation, QStandardPaths::DownloadLocation, QStandardPaths::DocumentsLocation,
+          QStandardPaths::PicturesLocation, QStandardPaths::MoviesLocation, QStandardPaths::MusicLocation}) {
         const QString folder = QStandardPaths::writableLocation(location);
         if (!folder.isEmpty() && folder != places.home && !places.userFolders.contains(folder))
             places.userFolders.append(folder);

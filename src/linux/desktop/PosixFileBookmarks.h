@@ -10,8 +10,8 @@
 
 namespace vellumry {
 
-/// Finds files again by inode and birth time (statx(2)): at their path, in their folder, in the Trash, and by a bounded look
-/// through the user's own folders. Network file systems are never touched. Blocking, milliseconds; any thread.
+/// Finds files again by inode and birth time (statx(2)): at their path, in their folder, in the Trash, and by a bounded
+/// look through the user's own folders. Network file systems are never touched. Blocking, milliseconds; any thread.
 class PosixFileBookmarks : public FileBookmarks {
 public:
     /// Where to look, and whose Trash it is.

@@ -16,7 +16,9 @@ ReaderImageCodec::ReaderImageCodec(QString readerPath, std::chrono::milliseconds
     };
 }
 
-ReaderImageCodec::~ReaderImageCodec() { m_process->interrupt(); }
+ReaderImageCodec::~ReaderImageCodec() {
+    m_process->interrupt();
+}
 
 QCoro::Task<ImageSummary> ReaderImageCodec::summarise(QByteArray image, int thumbnailPixels) {
     ImageSummary summary;

@@ -11,9 +11,9 @@ class QSocketNotifier;
 
 namespace vellumry {
 
-/// Has pictures opened by `vellumry-reader`, one after the other, on a thread of its own. A picture that ends the reader, or
-/// keeps it busy beyond the deadline, gives an empty summary; the next one meets a fresh reader. Without requests there is no
-/// reader and no timer. Main thread.
+/// Has pictures opened by `vellumry-reader`, one after the other, on a thread of its own. A picture that ends the
+/// reader, or keeps it busy beyond the deadline, gives an empty summary; the next one meets a fresh reader. Without
+/// requests there is no reader and no timer. Main thread.
 class ReaderImageCodec : public ImageCodec {
 public:
     /// `readerPath` is the program. Nothing is started before the first picture.

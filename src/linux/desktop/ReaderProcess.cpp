@@ -23,8 +23,8 @@ Descriptor memoryFileOf(const QByteArray& picture) {
     Descriptor file(memfd_create("picture", MFD_CLOEXEC | MFD_ALLOW_SEALING));
     qsizetype written = 0;
     while (file.isValid() && written < picture.size()) {
-        const ssize_t count = write(file.get(), picture.constData() + written,
-                                    static_cast<std::size_t>(picture.size() - written));
+        const ssize_t count =
+            write(file.get(), picture.constData() + written, static_cast<std::size_t>(picture.size() - written));
         if (count < 0 && errno == EINTR)
             continue;
         if (count <= 0)
@@ -66,7 +66,9 @@ ReaderProcess::ReaderProcess(QString path, std::chrono::milliseconds deadline)
     : m_path(std::move(path))
     , m_deadline(deadline) {}
 
-ReaderProcess::~ReaderProcess() { finish(); }
+ReaderProcess::~ReaderProcess() {
+    finish();
+}
 
 std::optional<readerprotocol::Reply> ReaderProcess::ask(const QByteArray& picture, int thumbnailPixels) {
     const Descriptor file = memoryFileOf(picture);
@@ -94,8 +96,8 @@ ReaderProcess::Outcome ReaderProcess::exchange(const readerprotocol::Request& re
                                                readerprotocol::Reply& reply) {
     const auto deadline = readersocket::Clock::now() + m_deadline;
     const bool isSent = readersocket::send(m_socket.get(), readerprotocol::encode(request), picture, deadline);
-    const auto message = isSent ? readersocket::receive(m_socket.get(), readerprotocol::maxReplyBytes, deadline)
-                                : std::nullopt;
+    const auto message =
+        isSent ? readersocket::receive(m_socket.get(), readerprotocol::maxReplyBytes, deadline) : std::nullopt;
     const auto decoded = message ? readerprotocol::decodeReply(message->bytes) : std::nullopt;
     if (decoded && decoded->id == request.id) {
         reply = *decoded;

@@ -12,8 +12,8 @@
 
 namespace vellumry {
 
-/// One reader process at a time: started for a request, kept for the next, replaced when it has died. Blocks; all calls on
-/// one thread, except `interrupt`.
+/// One reader process at a time: started for a request, kept for the next, replaced when it has died. Blocks; all calls
+/// on one thread, except `interrupt`.
 class ReaderProcess {
 public:
     /// `path` is the program. A reply that has not come after `deadline` never will: the process is ended.
@@ -23,11 +23,12 @@ public:
     /// Ends the process.
     ~ReaderProcess();
 
-    /// Called with a descriptor that becomes readable when the process just started has ended (pidfd_open(2)). The receiver
-    /// owns it and calls `reap` then, so that a process that went away idle does not stay a zombie.
+    /// Called with a descriptor that becomes readable when the process just started has ended (pidfd_open(2)). The
+    /// receiver owns it and calls `reap` then, so that a process that went away idle does not stay a zombie.
     std::function<void(readersocket::Descriptor)> onStarted;
 
-    /// Hands the picture over and waits for the answer. Nothing when the process could not be started, died or took too long.
+    /// Hands the picture over and waits for the answer. Nothing when the process could not be started, died or took too
+    /// long.
     [[nodiscard]] std::optional<readerprotocol::Reply> ask(const QByteArray& picture, int thumbnailPixels);
     /// Collects a process that has ended of its own; does nothing while it runs.
     void reap();

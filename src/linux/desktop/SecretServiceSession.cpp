@@ -18,7 +18,14 @@ const SecretSchema keySchema = {"com.vellumry.Vellumry.HistoryKey",
                                 {{"service", SECRET_SCHEMA_ATTRIBUTE_STRING},
                                  {"account", SECRET_SCHEMA_ATTRIBUTE_STRING},
                                  {nullptr, SECRET_SCHEMA_ATTRIBUTE_STRING}},
-                                0, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr};
+                                0,
+                                nullptr,
+                                nullptr,
+                                nullptr,
+                                nullptr,
+                                nullptr,
+                                nullptr,
+                                nullptr};
 
 struct AttributesUnreference {
     void operator()(GHashTable* table) const { g_hash_table_unref(table); }
@@ -31,8 +38,8 @@ struct SecretValueUnreference {
 using Secret = std::unique_ptr<SecretValue, SecretValueUnreference>;
 
 Attributes attributesOf(const QByteArray& service, const QByteArray& account) {
-    return Attributes(secret_attributes_build(&keySchema, "service", service.constData(), "account",
-                                              account.constData(), nullptr));
+    return Attributes(
+        secret_attributes_build(&keySchema, "service", service.constData(), "account", account.constData(), nullptr));
 }
 
 [[noreturn]] void fail(const GErrorReceiver& error) {
@@ -81,9 +88,8 @@ SecretServiceSession::Items SecretServiceSession::findItems() {
 GObjectPointer<SecretCollection> SecretServiceSession::defaultCollection() {
     const CallDeadline deadline(m_patience.answer);
     GErrorReceiver error;
-    GObjectPointer<SecretCollection> collection(
-        secret_collection_for_alias_sync(m_service.get(), defaultAlias, SECRET_COLLECTION_NONE, deadline.cancellable(),
-                                         error.receive()));
+    GObjectPointer<SecretCollection> collection(secret_collection_for_alias_sync(
+        m_service.get(), defaultAlias, SECRET_COLLECTION_NONE, deadline.cancellable(), error.receive()));
     if (error)
         fail(error);
     return collection;
@@ -171,9 +177,9 @@ void SecretServiceSession::addItem(const char* label, std::span<const unsigned c
     const Attributes attributes = attributesOf(m_serviceAttribute, m_accountAttribute);
     const Secret value(secret_value_new(reinterpret_cast<const char*>(secret.data()),
                                         static_cast<gssize>(secret.size()), contentType));
-    const GObjectPointer<SecretItem> item(
-        secret_item_create_sync(collection.get(), &keySchema, attributes.get(), label, value.get(),
-                                SECRET_ITEM_CREATE_NONE, deadline.cancellable(), error.receive()));
+    const GObjectPointer<SecretItem> item(secret_item_create_sync(collection.get(), &keySchema, attributes.get(), label,
+                                                                  value.get(), SECRET_ITEM_CREATE_NONE,
+                                                                  deadline.cancellable(), error.receive()));
     if (!item)
         fail(error);
 }

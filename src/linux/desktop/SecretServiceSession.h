@@ -11,8 +11,8 @@
 
 namespace vellumry {
 
-/// One conversation with the Secret Service about the items of one `service` and `account`. Blocking calls with a deadline
-/// each; every failure is thrown as `CryptoError::keychain` with a `KeychainKeyStore::Status`. One thread.
+/// One conversation with the Secret Service about the items of one `service` and `account`. Blocking calls with a
+/// deadline each; every failure is thrown as `CryptoError::keychain` with a `KeychainKeyStore::Status`. One thread.
 class SecretServiceSession {
 public:
     /// Connects and agrees on an encrypted transfer.
