@@ -12,7 +12,10 @@ class StoredText {
 public:
     StoredText() = default;
     StoredText(const QString& text) // NOLINT(google-explicit-constructor): assigning text to it is its purpose
-        : m_utf8(text.toUtf8()) {}
+        : m_utf8(text.toUtf8()) {
+        // The conversion leaves room for three bytes a character, which would be kept as long as the text.
+        m_utf8.squeeze();
+    }
     [[nodiscard]] static StoredText fromUtf8(QByteArray utf8) {
         StoredText text;
         text.m_utf8 = std::move(utf8);
