@@ -7,8 +7,8 @@
 
 namespace vellumry {
 
-/// The implementations for this session. Nothing when there is no display that the program can work on. Main thread, after the
-/// application object.
+/// The implementations for this session. Nothing when there is no display that the program can work on. Main thread,
+/// after the application object.
 [[nodiscard]] std::optional<Platform> makeLinuxPlatform();
 
 } // namespace vellumry

@@ -3,8 +3,8 @@
 
 namespace vellumry {
 
-/// Tells the service manager that started us, if one did, that the program watches the clipboard: "READY=1" as a datagram to
-/// $NOTIFY_SOCKET (sd_notify(3)). Does nothing without one; failures are nobody's concern.
+/// Tells the service manager that started us, if one did, that the program watches the clipboard: "READY=1" as a
+/// datagram to $NOTIFY_SOCKET (sd_notify(3)). Does nothing without one; failures are nobody's concern.
 void sendReadyNotice();
 
 } // namespace vellumry

@@ -25,7 +25,9 @@ void chooseQtDefaults() {
 
 /// Text fields of Qt look at the clipboard on every change of it, on the main thread and for as long as the owner keeps
 /// silent: ten seconds without a panel. We read it through the pasteboard alone, so that nobody misses the notice.
-void keepTextFieldsOffTheClipboard() { QGuiApplication::clipboard()->blockSignals(true); }
+void keepTextFieldsOffTheClipboard() {
+    QGuiApplication::clipboard()->blockSignals(true);
+}
 
 } // namespace
 

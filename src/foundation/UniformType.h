@@ -29,10 +29,11 @@ inline const QString webArchive = QStringLiteral("com.apple.webarchive");
 inline const QString ownMarker = QStringLiteral("com.vellumry.marker");
 inline const QString concealed = QStringLiteral("org.nspasteboard.ConcealedType");
 
-/// The uniform type that a MIME type or X atom name stands for; the name itself where the table has no entry. MIME names are
-/// compared without regard to case. Nothing for housekeeping targets (TARGETS, MULTIPLE, TIMESTAMP, SAVE_TARGETS, DELETE,
-/// INSERT_*), for process-local ones (GTK_TEXT_BUFFER_CONTENTS, chromium/x-internal-*, LibreOffice's internal ids and links)
-/// and for atoms without '/' and '.' that no table knows, such as the junk of xterm.
+/// The uniform type that a MIME type or X atom name stands for; the name itself where the table has no entry. MIME
+/// names are compared without regard to case. Nothing for housekeeping targets (TARGETS, MULTIPLE, TIMESTAMP,
+/// SAVE_TARGETS, DELETE, INSERT_*), for process-local ones (GTK_TEXT_BUFFER_CONTENTS, chromium/x-internal-*,
+/// LibreOffice's internal ids and links) and for atoms without '/' and '.' that no table knows, such as the junk of
+/// xterm.
 ///
 /// Lists of files (text/uri-list, x-special/gnome-copied-files, x-special/mate-copied-files,
 /// application/x-kde-cutselection) keep their MIME names: one list is many items, which only the pasteboard can part.
@@ -42,8 +43,9 @@ inline const QString concealed = QStringLiteral("org.nspasteboard.ConcealedType"
 /// UTF8_STRING, text/plain;charset=utf-8, text/plain, STRING, TEXT; an unknown type its own name alone.
 [[nodiscard]] QStringList targetsFor(const QString& uniformType);
 
-/// Of the offered targets that all stand for `uniformType`, the one to ask for, as it is offered. Nothing when none does.
-/// Of the two that carry a page's address, text/x-moz-url-priv (UTF-16LE) comes behind chromium/x-source-url (UTF-8).
+/// Of the offered targets that all stand for `uniformType`, the one to ask for, as it is offered. Nothing when none
+/// does. Of the two that carry a page's address, text/x-moz-url-priv (UTF-16LE) comes behind chromium/x-source-url
+/// (UTF-8).
 [[nodiscard]] std::optional<QString> preferredTarget(const QString& uniformType, const QStringList& offered);
 
 /// True when a file name extension (without dot, any case) names a kind of picture.

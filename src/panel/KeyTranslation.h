@@ -8,8 +8,8 @@
 
 namespace vellumry {
 
-/// What a key pressed in the search field means to the panel: one of its commands, or a chord that the model knows by key code
-/// and flags. Neither: the key belongs to the text.
+/// What a key pressed in the search field means to the panel: one of its commands, or a chord that the model knows by
+/// key code and flags. Neither: the key belongs to the text.
 struct KeyMeaning {
     struct Chord {
         quint16 keyCode = 0;
@@ -22,7 +22,8 @@ struct KeyMeaning {
     bool operator==(const KeyMeaning&) const = default;
 };
 
-/// With Super held, Super and Ctrl count as left over from the shortcut that opened the panel. `isFieldEmpty`: nothing is typed, so the arrows to the sides choose filters instead of moving the caret. Pure.
+/// With Super held, Super and Ctrl count as left over from the shortcut that opened the panel. `isFieldEmpty`: nothing
+/// is typed, so the arrows to the sides choose filters instead of moving the caret. Pure.
 [[nodiscard]] KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty);
 
 /// Qt's modifiers as bits of `eventflag`: Ctrl is command, Super control, Alt option.

@@ -32,7 +32,10 @@ QRegion roundedMask(const QSize& size) {
 } // namespace
 
 PanelController::PanelController(ClipStore& store, PasteEngine& paster, PanelSurface& surface, Hooks hooks)
-    : m_model(store, paster), m_facade(m_model, hooks.openPanelKeys), m_surface(&surface), m_hooks(std::move(hooks)) {
+    : m_model(store, paster)
+    , m_facade(m_model, hooks.openPanelKeys)
+    , m_surface(&surface)
+    , m_hooks(std::move(hooks)) {
     m_model.onClose = [this] { hide(); };
     m_model.onToast = m_hooks.showToast;
     m_facade.onGrabbed = [this] { grab(); };
@@ -47,7 +50,9 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, PanelSur
     };
 }
 
-PanelController::~PanelController() { m_surface->onFocusLost = nullptr; }
+PanelController::~PanelController() {
+    m_surface->onFocusLost = nullptr;
+}
 
 void PanelController::makeView() {
     m_view = std::make_unique<QQuickView>();
@@ -55,11 +60,11 @@ void PanelController::makeView() {
     m_view->setColor(Qt::transparent);
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
     m_view->engine()->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
-    m_view->engine()->addImageProvider(
-        QStringLiteral("thumbnail"), new ThumbnailProvider([this](const QUuid& id) -> std::optional<QByteArray> {
-            const ClipRef clip = m_model.store().find(id);
-            return clip ? clip->thumbnail : std::nullopt;
-        }));
+    m_view->engine()->addImageProvider(QStringLiteral("thumbnail"),
+                                       new ThumbnailProvider([this](const QUuid& id) -> std::optional<QByteArray> {
+                                           const ClipRef clip = m_model.store().find(id);
+                                           return clip ? clip->thumbnail : std::nullopt;
+                                       }));
     m_surface->adopt(m_view.get());
     applyLook();
     m_view->setInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&m_facade)}});
@@ -96,7 +101,9 @@ QRectF PanelController::panelFrame() const {
     return QRectF(m_view->geometry()).adjusted(m_shadowMargin, m_shadowMargin, -m_shadowMargin, -m_shadowMargin);
 }
 
-bool PanelController::isVisible() const { return m_view && m_view->isVisible(); }
+bool PanelController::isVisible() const {
+    return m_view && m_view->isVisible();
+}
 
 void PanelController::show() {
     if (isVisible())
@@ -134,9 +141,13 @@ void PanelController::grab() {
     m_grabOffset = QCursor::pos() - m_view->position();
 }
 
-void PanelController::drag() { m_view->setPosition(QCursor::pos() - m_grabOffset); }
+void PanelController::drag() {
+    m_view->setPosition(QCursor::pos() - m_grabOffset);
+}
 
-void PanelController::drop() { m_settle.start(); }
+void PanelController::drop() {
+    m_settle.start();
+}
 
 void PanelController::settlePosition() {
     if (!isVisible())

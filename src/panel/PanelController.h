@@ -17,9 +17,9 @@ class QQuickView;
 
 namespace vellumry {
 
-/// Owns the floating panel: where it opens on which display, showing and hiding it, remembering where the user dragged it. The
-/// application the user was typing in stays the active one. The window is made at the first showing or at `warmUp`, and kept.
-/// Main thread.
+/// Owns the floating panel: where it opens on which display, showing and hiding it, remembering where the user dragged
+/// it. The application the user was typing in stays the active one. The window is made at the first showing or at
+/// `warmUp`, and kept. Main thread.
 class PanelController : public QObject {
     Q_OBJECT
 

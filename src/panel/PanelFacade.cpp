@@ -39,8 +39,9 @@ QString titleOf(ClipFilter filter) {
 } // namespace
 
 PanelFacade::PanelFacade(PanelModel& model, std::function<QString()> openPanelKeys)
-    : m_model(&model), m_openPanelKeys(std::move(openPanelKeys)),
-      m_rows(model, {localised("⌘") + QStringLiteral("%1"), localised("⌃") + localised("⌥") + QStringLiteral("%1")}) {
+    : m_model(&model)
+    , m_openPanelKeys(std::move(openPanelKeys))
+    , m_rows(model, {localised("⌘") + QStringLiteral("%1"), localised("⌃") + localised("⌥") + QStringLiteral("%1")}) {
     connect(m_model, &PanelModel::queryChanged, this, &PanelFacade::queryChanged);
     connect(m_model, &PanelModel::filterChanged, this, &PanelFacade::filterChanged);
     connect(m_model, &PanelModel::sectionsChanged, this, &PanelFacade::contentChanged);
@@ -51,7 +52,9 @@ PanelFacade::PanelFacade(PanelModel& model, std::function<QString()> openPanelKe
     connect(m_model, &PanelModel::transformChanged, this, &PanelFacade::transformChanged);
 }
 
-QString PanelFacade::words(const QString& key) const { return localised(key.toUtf8().constData()); }
+QString PanelFacade::words(const QString& key) const {
+    return localised(key.toUtf8().constData());
+}
 
 bool PanelFacade::keyPressed(int key, int modifiers, bool hasTextSelection) {
     const KeyMeaning meaning = meaningOf(key, Qt::KeyboardModifiers(modifiers), m_model->query().isEmpty());
@@ -88,11 +91,19 @@ void PanelFacade::transformChosen(int index) {
     m_model->pasteClip(clip, true, PanelModel::transformList[static_cast<std::size_t>(index)]);
 }
 
-void PanelFacade::grabbed() { onGrabbed(); }
-void PanelFacade::dragged() { onDragged(); }
-void PanelFacade::dropped() { onDropped(); }
+void PanelFacade::grabbed() {
+    onGrabbed();
+}
+void PanelFacade::dragged() {
+    onDragged();
+}
+void PanelFacade::dropped() {
+    onDropped();
+}
 
-bool PanelFacade::hasQuery() const { return !text::isBlank(m_model->query()); }
+bool PanelFacade::hasQuery() const {
+    return !text::isBlank(m_model->query());
+}
 
 QVariantList PanelFacade::filters() const {
     QVariantList list;

@@ -11,7 +11,9 @@
 namespace vellumry {
 
 PanelListModel::PanelListModel(PanelModel& model, KeyWords words, QObject* parent)
-    : QAbstractListModel(parent), m_model(&model), m_words(std::move(words)) {
+    : QAbstractListModel(parent)
+    , m_model(&model)
+    , m_words(std::move(words)) {
     connect(m_model, &PanelModel::sectionsChanged, this, &PanelListModel::rebuild);
     connect(m_model, &PanelModel::fileStatusesChanged, this, &PanelListModel::rebuild);
     connect(m_model, &PanelModel::availablePinnedNumbersChanged, this, &PanelListModel::rebuild);
@@ -177,11 +179,11 @@ QString PanelListModel::keysOf(const QHash<QUuid, int>& numbers, const Clip& cli
 
 QHash<int, QByteArray> PanelListModel::roleNames() const {
     return {
-        {HeaderRole, "header"},           {IsHeaderRole, "isHeader"},     {IsFirstRole, "isFirst"},
-        {TitleRole, "title"},             {SourceNameRole, "sourceName"}, {ImageMatchRole, "imageMatch"},
-        {SymbolRole, "symbol"},           {ThumbnailRole, "thumbnail"},   {SwatchRole, "swatch"},
-        {PillRole, "pill"},               {NumberKeysRole, "numberKeys"}, {PinKeysRole, "pinKeys"},
-        {IsPinnedRole, "isPinned"},       {IsSelectedRole, "isSelected"}, {IsSensitiveRole, "isSensitive"},
+        {HeaderRole, "header"},     {IsHeaderRole, "isHeader"},     {IsFirstRole, "isFirst"},
+        {TitleRole, "title"},       {SourceNameRole, "sourceName"}, {ImageMatchRole, "imageMatch"},
+        {SymbolRole, "symbol"},     {ThumbnailRole, "thumbnail"},   {SwatchRole, "swatch"},
+        {PillRole, "pill"},         {NumberKeysRole, "numberKeys"}, {PinKeysRole, "pinKeys"},
+        {IsPinnedRole, "isPinned"}, {IsSelectedRole, "isSelected"}, {IsSensitiveRole, "isSensitive"},
     };
 }
 

@@ -9,8 +9,8 @@
 
 namespace vellumry {
 
-/// The panel model's sections as the rows of a list: a header, then its clips. A change rebinds the rows that stay and adds or removes
-/// at the end, so that a keystroke makes no delegate anew. Main thread.
+/// The panel model's sections as the rows of a list: a header, then its clips. A change rebinds the rows that stay and
+/// adds or removes at the end, so that a keystroke makes no delegate anew. Main thread.
 class PanelListModel : public QAbstractListModel {
     Q_OBJECT
 

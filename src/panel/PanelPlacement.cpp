@@ -36,7 +36,8 @@ QRectF placement(std::optional<Fractions> saved, QSizeF size, QRectF visible) {
     if (!saved)
         return defaultFrame(size, visible);
     QRectF frame(QPointF(), size);
-    frame.moveCenter({visible.left() + visible.width() * saved->first, visible.bottom() - visible.height() * saved->second});
+    frame.moveCenter(
+        {visible.left() + visible.width() * saved->first, visible.bottom() - visible.height() * saved->second});
     return clampedFrame(frame, visible);
 }
 

@@ -58,7 +58,8 @@ QColor functionalColor(const QString& text) {
     if (text.startsWith(QLatin1String("hsl"), Qt::CaseInsensitive))
         return QColor::fromHslF(static_cast<float>(std::fmod(parts[0].first, 360.0) / 360.0),
                                 static_cast<float>(std::clamp(parts[1].first / 100.0, 0.0, 1.0)),
-                                static_cast<float>(std::clamp(parts[2].first / 100.0, 0.0, 1.0)), static_cast<float>(alpha));
+                                static_cast<float>(std::clamp(parts[2].first / 100.0, 0.0, 1.0)),
+                                static_cast<float>(alpha));
     return QColor::fromRgbF(static_cast<float>(share(0, 255.0)), static_cast<float>(share(1, 255.0)),
                             static_cast<float>(share(2, 255.0)), static_cast<float>(alpha));
 }
@@ -108,6 +109,8 @@ QString swatchOf(const Clip& clip) {
     return color.isValid() ? color.name(QColor::HexArgb) : QString();
 }
 
-QString sourceOf(const Clip& clip) { return clip.sourceAppName.value_or(localised("Unknown app")); }
+QString sourceOf(const Clip& clip) {
+    return clip.sourceAppName.value_or(localised("Unknown app"));
+}
 
 } // namespace vellumry::row

@@ -8,8 +8,8 @@
 /// How a clip looks in a row: pure functions of the clip.
 namespace vellumry::row {
 
-/// What stands for the clip. A sensitive clip never shows its text: "Card •••• " with the last four digits, or "Hidden". Any other
-/// shows its title in one line.
+/// What stands for the clip. A sensitive clip never shows its text: "Card •••• " with the last four digits, or
+/// "Hidden". Any other shows its title in one line.
 [[nodiscard]] QString titleOf(const Clip& clip);
 /// The name of one of the program's symbols.
 [[nodiscard]] QString symbolOf(const Clip& clip);

@@ -12,7 +12,9 @@ namespace vellumry {
 
 namespace {
 
-QString pathOf(const QString& name) { return QStringLiteral(":/vellumry/symbols/") + name + QStringLiteral(".svg"); }
+QString pathOf(const QString& name) {
+    return QStringLiteral(":/vellumry/symbols/") + name + QStringLiteral(".svg");
+}
 
 /// The drawing in black, recoloured through its coverage.
 QImage drawn(const QString& name, const QColor& tint, const QSize& size) {
@@ -52,9 +54,12 @@ QImage panelShadow() {
     return image;
 }
 
-SymbolProvider::SymbolProvider() : QQuickImageProvider(QQuickImageProvider::Image) {}
+SymbolProvider::SymbolProvider()
+    : QQuickImageProvider(QQuickImageProvider::Image) {}
 
-bool SymbolProvider::has(const QString& name) { return QFile::exists(pathOf(name)); }
+bool SymbolProvider::has(const QString& name) {
+    return QFile::exists(pathOf(name));
+}
 
 QImage SymbolProvider::requestImage(const QString& id, QSize* size, const QSize& requested) {
     const QSize wanted = requested.isValid() && !requested.isEmpty() ? requested : QSize(24, 24);

@@ -7,8 +7,8 @@
 
 namespace vellumry {
 
-/// Draws our symbols ("NAME/RRGGBB") and the panel's shadow ("shadow") for QML. A small cache keeps what is on the screen. Main
-/// thread (QML asks synchronously).
+/// Draws our symbols ("NAME/RRGGBB") and the panel's shadow ("shadow") for QML. A small cache keeps what is on the
+/// screen. Main thread (QML asks synchronously).
 class SymbolProvider : public QQuickImageProvider {
 public:
     SymbolProvider();
@@ -21,7 +21,8 @@ private:
     QCache<QString, QImage> m_cache{256};
 };
 
-/// A soft shadow around a rounded rectangle, made to be stretched from its middle; borders of 86, room of 40 around the panel.
+/// A soft shadow around a rounded rectangle, made to be stretched from its middle; borders of 86, room of 40 around the
+/// panel.
 [[nodiscard]] QImage panelShadow();
 
 } // namespace vellumry

@@ -25,7 +25,8 @@ QImage roundedSquare(const QImage& picture, const QSize& size) {
 } // namespace
 
 ThumbnailProvider::ThumbnailProvider(Source source)
-    : QQuickImageProvider(QQuickImageProvider::Image), m_source(std::move(source)) {}
+    : QQuickImageProvider(QQuickImageProvider::Image)
+    , m_source(std::move(source)) {}
 
 QImage ThumbnailProvider::requestImage(const QString& id, QSize* size, const QSize& requested) {
     const QSize wanted = requested.isValid() && !requested.isEmpty() ? requested : QSize(32, 32);

@@ -6,8 +6,8 @@
 
 namespace vellumry {
 
-/// Keys that reach the program whatever application is in front. Key codes are virtual key codes (physical positions), modifiers
-/// the mask of `Shortcut`. Main thread.
+/// Keys that reach the program whatever application is in front. Key codes are virtual key codes (physical positions),
+/// modifiers the mask of `Shortcut`. Main thread.
 class HotKeyRegistrar {
 public:
     virtual ~HotKeyRegistrar() = default;

@@ -12,8 +12,8 @@ namespace vellumry {
 struct ImageSummary {
     /// Width and height in pixels as stored; absent when the header cannot be read.
     std::optional<QSize> pixelSize;
-    /// PNG, upright, at most the asked number of pixels on the longer side; absent when the picture cannot be decoded or has
-    /// more than 250,000,000 pixels.
+    /// PNG, upright, at most the asked number of pixels on the longer side; absent when the picture cannot be decoded
+    /// or has more than 250,000,000 pixels.
     std::optional<QByteArray> thumbnail;
     /// A mark in the file says that it is a screenshot.
     bool isScreenshot = false;

@@ -29,7 +29,9 @@ public:
 
 private:
     CryptoError(Case kind, qint32 status, const std::string& text)
-        : std::runtime_error(text), m_case(kind), m_status(status) {}
+        : std::runtime_error(text)
+        , m_case(kind)
+        , m_status(status) {}
     Case m_case;
     qint32 m_status;
 };

@@ -6,8 +6,8 @@
 
 namespace vellumry {
 
-/// The letters on the keys of the layout the user types with. Virtual key codes are physical positions, the same numbers as in
-/// stored shortcuts. Main thread; asked anew at each use, so a change of layout counts at once.
+/// The letters on the keys of the layout the user types with. Virtual key codes are physical positions, the same
+/// numbers as in stored shortcuts. Main thread; asked anew at each use, so a change of layout counts at once.
 class KeyboardLayout {
 public:
     virtual ~KeyboardLayout() = default;

@@ -12,14 +12,14 @@ namespace vellumry {
 
 /// A display as panels see it, in device-independent pixels, y pointing down.
 struct ScreenPlace {
-    QString key;     ///< names the display across runs
-    QRect frame;     ///< all of it
-    QRect visible;   ///< without docks and bars
+    QString key;   ///< names the display across runs
+    QRect frame;   ///< all of it
+    QRect visible; ///< without docks and bars
     bool operator==(const ScreenPlace&) const = default;
 };
 
-/// Puts a window of ours above everything without making us the active application, lets it take typing, and gives the focus
-/// back to the exact window that had it. Main thread.
+/// Puts a window of ours above everything without making us the active application, lets it take typing, and gives the
+/// focus back to the exact window that had it. Main thread.
 class PanelSurface {
 public:
     virtual ~PanelSurface() = default;

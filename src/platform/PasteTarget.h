@@ -15,11 +15,11 @@ public:
     virtual void requestTrust() = 0;
     /// True while another program holds the keyboard or a password field has the focus.
     [[nodiscard]] virtual bool isSecureInput() const = 0;
-    /// Waits, at most a moment, until the window that was in front has its focus back. False when it did not get it, has gone,
-    /// or another window has the focus: then nothing may be typed.
+    /// Waits, at most a moment, until the window that was in front has its focus back. False when it did not get it,
+    /// has gone, or another window has the focus: then nothing may be typed.
     [[nodiscard]] virtual QCoro::Task<bool> regainFocus() = 0;
-    /// Lets go of every key that is still down, then presses the target's own paste chord. Terminals get what they paste from
-    /// as well (the primary selection).
+    /// Lets go of every key that is still down, then presses the target's own paste chord. Terminals get what they
+    /// paste from as well (the primary selection).
     virtual void pressPaste() = 0;
 };
 

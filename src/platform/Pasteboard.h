@@ -10,22 +10,25 @@
 
 namespace vellumry {
 
-/// One look at what the pasteboard held at one change count. Reading ends when another owner takes the pasteboard, or when the
-/// deadline for the whole copy has passed: from then on `data` gives nothing at once. Main thread; every wait is a suspension.
+/// One look at what the pasteboard held at one change count. Reading ends when another owner takes the pasteboard, or
+/// when the deadline for the whole copy has passed: from then on `data` gives nothing at once. Main thread; every wait
+/// is a suspension.
 class PasteboardReading {
 public:
     virtual ~PasteboardReading() = default;
 
-    /// The types that are declared, of all items together, in the owner's order. Known before any content was asked for.
+    /// The types that are declared, of all items together, in the owner's order. Known before any content was asked
+    /// for.
     [[nodiscard]] virtual QStringList types() const = 0;
-    /// The types of each item in the owner's order. May read a file list to learn how many items there are; reads nothing else.
-    /// Empty when reading has ended.
+    /// The types of each item in the owner's order. May read a file list to learn how many items there are; reads
+    /// nothing else. Empty when reading has ended.
     [[nodiscard]] virtual QCoro::Task<std::vector<QStringList>> itemTypes() = 0;
-    /// The bytes of one representation; nothing when the owner does not give it, hangs, dies, or gives more than `maxBytes`.
-    /// A representation that fails leaves the others readable.
-    [[nodiscard]] virtual QCoro::Task<std::optional<QByteArray>> data(qsizetype item, QString type, qint64 maxBytes) = 0;
-    /// True when the answer of `data` that came last was nothing because there was more than `maxBytes`. An adapter that cannot
-    /// tell says false.
+    /// The bytes of one representation; nothing when the owner does not give it, hangs, dies, or gives more than
+    /// `maxBytes`. A representation that fails leaves the others readable.
+    [[nodiscard]] virtual QCoro::Task<std::optional<QByteArray>> data(qsizetype item, QString type,
+                                                                      qint64 maxBytes) = 0;
+    /// True when the answer of `data` that came last was nothing because there was more than `maxBytes`. An adapter
+    /// that cannot tell says false.
     [[nodiscard]] virtual bool wasLarger() const { return false; }
     /// False once the pasteboard has another owner or the deadline has passed.
     [[nodiscard]] virtual bool isCurrent() const = 0;
@@ -41,8 +44,8 @@ public:
     /// Asks the present owner what it offers. Null when there is no owner or it does not answer in time.
     [[nodiscard]] virtual QCoro::Task<std::shared_ptr<PasteboardReading>> beginReading() = 0;
 
-    /// Replaces the contents with `items`. True when the pasteboard is ours with them; false when it refused, and then the
-    /// contents are empty or another owner's.
+    /// Replaces the contents with `items`. True when the pasteboard is ours with them; false when it refused, and then
+    /// the contents are empty or another owner's.
     virtual bool write(std::vector<PasteboardItem> items) = 0;
 
     /// Called after the change count moved, on the main thread; several changes may come as one call.

@@ -9,8 +9,8 @@
 
 namespace vellumry {
 
-/// One thing on the pasteboard, in all the forms it was offered in. Types are uniform type identifiers, or the MIME name where
-/// no identifier exists.
+/// One thing on the pasteboard, in all the forms it was offered in. Types are uniform type identifiers, or the MIME
+/// name where no identifier exists.
 struct PasteboardItem {
     std::map<QString, QByteArray> representations;
     /// The types in the order in which the source offered them; absent where nobody knew it.

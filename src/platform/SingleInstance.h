@@ -6,8 +6,8 @@
 
 namespace vellumry {
 
-/// Makes sure that one copy of the program runs in a session, and hears what a second start or a key binding of the desktop
-/// asks of it. Main thread.
+/// Makes sure that one copy of the program runs in a session, and hears what a second start or a key binding of the
+/// desktop asks of it. Main thread.
 class SingleInstance {
 public:
     virtual ~SingleInstance() = default;

@@ -8,7 +8,8 @@ namespace vellumry {
 
 /// The application that something was copied from, or that is in front.
 struct SourceApp {
-    /// The desktop-file id without ".desktop", or the identifier that stands for the same application in the program's lists.
+    /// The desktop-file id without ".desktop", or the identifier that stands for the same application in the program's
+    /// lists.
     std::optional<QString> bundleID;
     /// The name the user knows it by.
     std::optional<QString> name;

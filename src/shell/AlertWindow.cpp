@@ -9,7 +9,8 @@
 
 namespace vellumry {
 
-AlertWindow::AlertWindow(const StartupAlert& alert) : m_view(std::make_unique<QQuickView>()) {
+AlertWindow::AlertWindow(const StartupAlert& alert)
+    : m_view(std::make_unique<QQuickView>()) {
     m_view->setTitle(QStringLiteral("Vellumry"));
     m_view->setResizeMode(QQuickView::SizeViewToRootObject);
     m_view->setInitialProperties({{QStringLiteral("title"), alert.title},

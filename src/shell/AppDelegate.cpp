@@ -5,7 +5,8 @@
 
 namespace vellumry {
 
-AppDelegate::AppDelegate(Platform platform) : m_platform(std::move(platform)) {}
+AppDelegate::AppDelegate(Platform platform)
+    : m_platform(std::move(platform)) {}
 
 AppDelegate::~AppDelegate() = default;
 

@@ -12,8 +12,8 @@ namespace vellumry {
 
 class AppEnvironment;
 
-/// Receives what the system tells the program about its life: launch, a second start, an action asked from outside, the end.
-/// Main thread.
+/// Receives what the system tells the program about its life: launch, a second start, an action asked from outside, the
+/// end. Main thread.
 class AppDelegate : public QObject {
     Q_OBJECT
 

@@ -77,12 +77,15 @@ QCoro::Task<std::unique_ptr<AppEnvironment>> AppEnvironment::launch(Platform& pl
 
 AppEnvironment::AppEnvironment(Platform& platform, std::unique_ptr<Preferences> preferences,
                                std::unique_ptr<ClipStore> store, bool isMemoryOnly)
-    : m_platform(&platform), m_preferences(std::move(preferences)), m_store(std::move(store)),
-      m_imageVolume(imageVolume(platform)), m_isMemoryOnly(isMemoryOnly) {
+    : m_platform(&platform)
+    , m_preferences(std::move(preferences))
+    , m_store(std::move(store))
+    , m_imageVolume(imageVolume(platform))
+    , m_isMemoryOnly(isMemoryOnly) {
     FrontmostApplication* frontmost = platform.frontmost.get();
-    m_watcher = std::make_unique<ClipboardWatcher>(
-        *platform.pasteboard, *m_store, *platform.defaults, *platform.bookmarks, *platform.images,
-        [frontmost] { return frontmost->current(); });
+    m_watcher =
+        std::make_unique<ClipboardWatcher>(*platform.pasteboard, *m_store, *platform.defaults, *platform.bookmarks,
+                                           *platform.images, [frontmost] { return frontmost->current(); });
     m_paster = std::make_unique<PasteEngine>(*m_store, *platform.defaults, systemHooks());
     m_hotKeyCenter = std::make_unique<HotKeyCenter>(*platform.hotKeys);
     m_toast = std::make_unique<ToastController>(*platform.panelSurface);
@@ -90,7 +93,9 @@ AppEnvironment::AppEnvironment(Platform& platform, std::unique_ptr<Preferences> 
     wire();
 }
 
-AppEnvironment::~AppEnvironment() { m_platform->pasteboard->onOwnerGone = nullptr; }
+AppEnvironment::~AppEnvironment() {
+    m_platform->pasteboard->onOwnerGone = nullptr;
+}
 
 SystemHooks AppEnvironment::systemHooks() {
     PasteTarget* target = m_platform->pasteTarget.get();
@@ -134,16 +139,20 @@ void AppEnvironment::wireCapture() {
     m_watcher->hasRoomForImages = [folder = m_imageVolume] { return hasRoomForImages(folder); };
     m_watcher->onLowDisk = [this] { showLowDiskToast(); };
     m_watcher->onIgnoredCopy = [this] {
-        showToast({QStringLiteral("eye.slash.fill"), localised("Skipped. That copy wasn't saved"), ToastMessage::Tone::success});
+        showToast({QStringLiteral("eye.slash.fill"), localised("Skipped. That copy wasn't saved"),
+                   ToastMessage::Tone::success});
     };
-    m_watcher->onStored = [this](const ClipRef& clip, qint64 changeCount) { m_captured = Captured{changeCount, clip->id}; };
+    m_watcher->onStored = [this](const ClipRef& clip, qint64 changeCount) {
+        m_captured = Captured{changeCount, clip->id};
+    };
     m_platform->pasteboard->onOwnerGone = [this](qint64 changeCount) {
         if (m_captured && m_captured->changeCount == changeCount)
             takeOver(m_captured->clip);
     };
 }
 
-/// What was captured outlives the application it was copied in. The marker on our write keeps it from becoming a new clip.
+/// What was captured outlives the application it was copied in. The marker on our write keeps it from becoming a new
+/// clip.
 QCoro::Task<void> AppEnvironment::takeOver(QUuid clip) {
     const QPointer<AppEnvironment> self(this);
     const qint64 changeCount = m_platform->pasteboard->changeCount();
@@ -163,9 +172,13 @@ void AppEnvironment::start() {
     QTimer::singleShot(warmUpDelay, this, [this] { m_panel->warmUp(); });
 }
 
-void AppEnvironment::openPanel() { m_panel->show(); }
+void AppEnvironment::openPanel() {
+    m_panel->show();
+}
 
-void AppEnvironment::togglePanel() { m_panel->toggle(); }
+void AppEnvironment::togglePanel() {
+    m_panel->toggle();
+}
 
 void AppEnvironment::showToast(const ToastMessage& message) {
     m_toast->show(message, ToastController::usualSeconds, m_platform->panelSurface->screenUnderPointer());
@@ -186,13 +199,16 @@ void AppEnvironment::suspendShortcuts(bool isSuspended) {
 
 QString AppEnvironment::historySize() const {
     try {
-        return QLocale().formattedDataSize(historyBytes(historyFolder(m_platform->dataHome)), 1, QLocale::DataSizeSIFormat);
+        return QLocale().formattedDataSize(historyBytes(historyFolder(m_platform->dataHome)), 1,
+                                           QLocale::DataSizeSIFormat);
     } catch (const std::exception&) {
         return QString();
     }
 }
 
-void AppEnvironment::startMaintenance() { m_maintenance.start(); }
+void AppEnvironment::startMaintenance() {
+    m_maintenance.start();
+}
 
 void AppEnvironment::runMaintenance() {
     m_store->setPolicy(m_preferences->retentionPolicy());

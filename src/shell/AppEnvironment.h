@@ -20,14 +20,14 @@ namespace vellumry {
 
 class AlertWindow;
 
-/// The composition root: makes every long-lived object once, joins them with closures, starts them in a fixed order and runs the
-/// maintenance timer. Lives as long as the process. Main thread.
+/// The composition root: makes every long-lived object once, joins them with closures, starts them in a fixed order and
+/// runs the maintenance timer. Lives as long as the process. Main thread.
 class AppEnvironment : public QObject {
     Q_OBJECT
 
 public:
-    /// Opens the history and builds the environment around it. Never fails: a folder, keyring or file that cannot be used ends in
-    /// memory-only mode. `platform` must outlive the result.
+    /// Opens the history and builds the environment around it. Never fails: a folder, keyring or file that cannot be
+    /// used ends in memory-only mode. `platform` must outlive the result.
     [[nodiscard]] static QCoro::Task<std::unique_ptr<AppEnvironment>> launch(Platform& platform);
     ~AppEnvironment() override;
 

@@ -18,7 +18,9 @@ QString historyFolder(const QString& dataHome) {
     return folder;
 }
 
-bool isRoomForImages(qint64 available) { return available < 0 || available >= qint64{1} << 30; }
+bool isRoomForImages(qint64 available) {
+    return available < 0 || available >= qint64{1} << 30;
+}
 
 bool hasRoomForImages(const QString& folder) {
     const QStorageInfo volume(folder);

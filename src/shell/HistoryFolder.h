@@ -5,8 +5,9 @@
 
 namespace vellumry {
 
-/// The application's own folder, "Vellumry" inside `dataHome`: made with all folders above it when missing, mode 700 at every call.
-/// Throws std::runtime_error when it cannot be made. Permissions that cannot be set are ignored. Any thread.
+/// The application's own folder, "Vellumry" inside `dataHome`: made with all folders above it when missing, mode 700 at
+/// every call. Throws std::runtime_error when it cannot be made. Permissions that cannot be set are ignored. Any
+/// thread.
 [[nodiscard]] QString historyFolder(const QString& dataHome);
 
 /// True when the volume of `folder` has at least 1 GiB left for this user, and when it does not say. Any thread.

@@ -3,7 +3,6 @@
 
 #include "foundation/UserDefaults.h"
 #include "platform/FileBookmarks.h"
-#include "platform/SourceApp.h"
 #include "platform/HotKeyRegistrar.h"
 #include "platform/ImageCodec.h"
 #include "platform/KeyStore.h"
@@ -12,14 +11,15 @@
 #include "platform/PasteTarget.h"
 #include "platform/Pasteboard.h"
 #include "platform/SingleInstance.h"
+#include "platform/SourceApp.h"
 
 #include <QString>
 #include <memory>
 
 namespace vellumry {
 
-/// Everything the program needs of the system, one implementation a seam, chosen by the entry point. All are present; where the
-/// system lacks a capability, its stand-in says so by its answers. Outlives the environment. Main thread.
+/// Everything the program needs of the system, one implementation a seam, chosen by the entry point. All are present;
+/// where the system lacks a capability, its stand-in says so by its answers. Outlives the environment. Main thread.
 struct Platform {
     std::unique_ptr<SingleInstance> singleInstance;
     std::unique_ptr<UserDefaults> defaults;

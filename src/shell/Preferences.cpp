@@ -55,7 +55,8 @@ std::optional<Preferences::PanelPosition> positionFrom(const QVariant& entry) {
 
 } // namespace
 
-Preferences::Preferences(UserDefaults& defaults) : m_defaults(&defaults) {
+Preferences::Preferences(UserDefaults& defaults)
+    : m_defaults(&defaults) {
     m_defaults->registerDefaults(registeredDefaults());
 }
 
@@ -109,6 +110,8 @@ void Preferences::setPanelPosition(std::optional<PanelPosition> position, const 
         m_defaults->setObject(panelPositionsKey, positions);
 }
 
-void Preferences::resetPanelPositions() { m_defaults->removeObject(panelPositionsKey); }
+void Preferences::resetPanelPositions() {
+    m_defaults->removeObject(panelPositionsKey);
+}
 
 } // namespace vellumry

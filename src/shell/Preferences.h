@@ -10,9 +10,9 @@
 
 namespace vellumry {
 
-/// The user's settings: the one place where their keys and defaults stand. Keeps no value itself; every read goes to the domain,
-/// so that a change made anywhere counts at the next read. Absent, malformed and out-of-range values read as the default, the floor
-/// or nothing. Main thread.
+/// The user's settings: the one place where their keys and defaults stand. Keeps no value itself; every read goes to
+/// the domain, so that a change made anywhere counts at the next read. Absent, malformed and out-of-range values read
+/// as the default, the floor or nothing. Main thread.
 class Preferences {
 public:
     enum class Appearance { system, light, dark };
@@ -33,7 +33,8 @@ public:
     /// A shortcut equal to `fallback` is not stored, so that a later change of the default reaches who never chose.
     void setShortcut(const Shortcut& shortcut, const Shortcut& fallback, const QString& key);
 
-    /// Where the user dragged the panel on the display that `key` names; nothing when never, or when the entry is malformed.
+    /// Where the user dragged the panel on the display that `key` names; nothing when never, or when the entry is
+    /// malformed.
     [[nodiscard]] std::optional<PanelPosition> panelPosition(const QString& key) const;
     /// Nothing as `position` forgets the display.
     void setPanelPosition(std::optional<PanelPosition> position, const QString& key);

@@ -37,7 +37,8 @@ QRegion capsule(const QSize& size) {
 
 } // namespace
 
-ToastController::ToastController(PanelSurface& surface) : m_surface(&surface) {
+ToastController::ToastController(PanelSurface& surface)
+    : m_surface(&surface) {
     m_hide.setSingleShot(true);
     m_hide.setTimerType(Qt::PreciseTimer);
     connect(&m_hide, &QTimer::timeout, this, [this] { m_view->hide(); });

@@ -12,8 +12,8 @@ class QQuickView;
 
 namespace vellumry {
 
-/// One short message near the bottom of a display, which takes neither keyboard nor pointer. A second one replaces the first and gets
-/// its full time. The window is made at the first message and kept. Main thread.
+/// One short message near the bottom of a display, which takes neither keyboard nor pointer. A second one replaces the
+/// first and gets its full time. The window is made at the first message and kept. Main thread.
 class ToastController : public QObject {
     Q_OBJECT
 

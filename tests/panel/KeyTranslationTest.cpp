@@ -19,8 +19,12 @@ struct Row {
 
 class KeyTranslation : public ::testing::TestWithParam<Row> {};
 
-KeyMeaning command(Command which) { return {which, std::nullopt}; }
-KeyMeaning chord(quint16 keyCode, quint32 flags = eventflag::command) { return {std::nullopt, KeyMeaning::Chord{keyCode, flags}}; }
+KeyMeaning command(Command which) {
+    return {which, std::nullopt};
+}
+KeyMeaning chord(quint16 keyCode, quint32 flags = eventflag::command) {
+    return {std::nullopt, KeyMeaning::Chord{keyCode, flags}};
+}
 
 const Row rows[] = {
     {"Up", Qt::Key_Up, Qt::NoModifier, false, command(Command::up)},
@@ -49,7 +53,8 @@ const Row rows[] = {
      chord(35, eventflag::command | eventflag::shift)},
     {"CtrlVBelongsToTheText", Qt::Key_V, Qt::ControlModifier, false, {}},
     {"ALetterBelongsToTheText", Qt::Key_P, Qt::NoModifier, false, {}},
-    {"ReturnWhileTheShortcutIsHeld", Qt::Key_Return, Qt::ControlModifier | Qt::MetaModifier, false, command(Command::enter)},
+    {"ReturnWhileTheShortcutIsHeld", Qt::Key_Return, Qt::ControlModifier | Qt::MetaModifier, false,
+     command(Command::enter)},
     {"DownWhileTheShortcutIsHeld", Qt::Key_Down, Qt::ControlModifier | Qt::MetaModifier, false, command(Command::down)},
     {"AltUpIsNothing", Qt::Key_Up, Qt::AltModifier, false, {}},
 };

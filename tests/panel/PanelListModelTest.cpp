@@ -34,7 +34,8 @@ protected:
 TEST_F(PanelListModelTest, AHeaderStandsAboveItsClips) {
     add(drafts::text(QStringLiteral("first")), today);
     add(drafts::text(QStringLiteral("second")), today + 1);
-    EXPECT_EQ(column(PanelListModel::TitleRole), (QStringList{QString(), QStringLiteral("second"), QStringLiteral("first")}));
+    EXPECT_EQ(column(PanelListModel::TitleRole),
+              (QStringList{QString(), QStringLiteral("second"), QStringLiteral("first")}));
     EXPECT_EQ(rows.data(rows.index(0), PanelListModel::HeaderRole).toString(), QStringLiteral("Today"));
     EXPECT_TRUE(rows.data(rows.index(0), PanelListModel::IsHeaderRole).toBool());
     EXPECT_FALSE(rows.data(rows.index(1), PanelListModel::IsHeaderRole).toBool());
@@ -62,7 +63,8 @@ TEST_F(PanelListModelTest, AFilterRebindsRowsAndRemovesTheRestAtTheEnd) {
     QSignalSpy resets(&rows, &QAbstractItemModel::modelReset);
     QSignalSpy removals(&rows, &QAbstractItemModel::rowsRemoved);
     model.setQuery(QStringLiteral("apple"));
-    EXPECT_EQ(column(PanelListModel::TitleRole), (QStringList{QString(), QStringLiteral("apple pie"), QStringLiteral("apple")}));
+    EXPECT_EQ(column(PanelListModel::TitleRole),
+              (QStringList{QString(), QStringLiteral("apple pie"), QStringLiteral("apple")}));
     EXPECT_EQ(resets.count(), 0);
     EXPECT_EQ(removals.count(), 1);
 }

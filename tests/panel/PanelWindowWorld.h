@@ -43,7 +43,9 @@ protected:
         panel.show();
         (void)QTest::qWaitForWindowExposed(view());
     }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { QTest::keyClick(view(), key, modifiers); }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(view(), key, modifiers);
+    }
 
     /// The texts that can be seen, top to bottom as the items stand in the tree.
     [[nodiscard]] QStringList texts() const {

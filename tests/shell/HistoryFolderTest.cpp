@@ -20,7 +20,8 @@ TEST(HistoryFolder, IsMadeWithAllFoldersAboveItForTheUserAlone) {
 TEST(HistoryFolder, LoosePermissionsAreTightenedAtEachStart) {
     QTemporaryDir home;
     const QString folder = historyFolder(home.path());
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+    QFile::setPermissions(folder,
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
     (void)historyFolder(home.path());
     EXPECT_FALSE(QFile::permissions(folder).testFlag(QFile::ReadOther));
 }

@@ -49,7 +49,8 @@ TEST_F(PreferencesTest, AnUnknownAppearanceIsTheSystems) {
 }
 
 TEST_F(PreferencesTest, AMalformedPanelPositionIsNone) {
-    const QVariantList malformed[] = {{0.5}, {1.2, 0.3}, {std::numeric_limits<double>::quiet_NaN(), 0.5}, {0.1, 0.2, 0.3}};
+    const QVariantList malformed[] = {
+        {0.5}, {1.2, 0.3}, {std::numeric_limits<double>::quiet_NaN(), 0.5}, {0.1, 0.2, 0.3}};
     for (const QVariantList& entry : malformed) {
         defaults.setObject(QStringLiteral("panelPositions"), QVariantMap{{QStringLiteral("screen"), entry}});
         EXPECT_EQ(preferences.panelPosition(QStringLiteral("screen")), std::nullopt);

@@ -5,7 +5,9 @@
 
 using namespace vellumry;
 
-TEST(StartupAlert, AnOrdinaryStartHasNone) { EXPECT_EQ(startupAlert(false, false), std::nullopt); }
+TEST(StartupAlert, AnOrdinaryStartHasNone) {
+    EXPECT_EQ(startupAlert(false, false), std::nullopt);
+}
 
 TEST(StartupAlert, MemoryOnlyOutweighsAFreshHistory) {
     EXPECT_EQ(startupAlert(true, true)->title, QStringLiteral("Vellumry can't reach your Keychain"));

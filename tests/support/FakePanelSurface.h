@@ -32,7 +32,8 @@ public:
     [[nodiscard]] std::optional<ScreenPlace> screenOf(const QRect&) const override { return screen; }
 
     bool blends = false;
-    std::optional<ScreenPlace> screen = ScreenPlace{QStringLiteral("one"), QRect(0, 0, 1600, 1000), QRect(0, 0, 1600, 1000)};
+    std::optional<ScreenPlace> screen =
+        ScreenPlace{QStringLiteral("one"), QRect(0, 0, 1600, 1000), QRect(0, 0, 1600, 1000)};
     QList<QWindow*> adopted;
     QList<QRect> frames;
     int dismissals = 0;
