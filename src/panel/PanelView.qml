@@ -8,7 +8,7 @@ Item {
     required property var panel
     readonly property int shadowMargin: panel.shadowMargin
 
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
     Binding {

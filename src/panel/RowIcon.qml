@@ -29,7 +29,8 @@ Rectangle {
         anchors.fill: parent
         visible: icon.thumbnail !== ""
         source: icon.thumbnail
-        sourceSize: Qt.size(icon.size, icon.size)
+        sourceSize.width: icon.size
+        sourceSize.height: icon.size
         asynchronous: false
     }
 }

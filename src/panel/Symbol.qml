@@ -9,7 +9,8 @@ Image {
 
     width: size
     height: size
-    sourceSize: Qt.size(size, size)
+    sourceSize.width: size
+    sourceSize.height: size
     source: name === "" ? "" : "image://symbol/" + name + "/" + String(tint).slice(-6)
     smooth: true
 }

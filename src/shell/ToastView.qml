@@ -29,7 +29,8 @@ Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             width: 19
             height: 19
-            sourceSize: Qt.size(19, 19)
+            sourceSize.width: 19
+            sourceSize.height: 19
             source: toast.symbol === "" ? "" : "image://symbol/" + toast.symbol + "/" + String(toast.toneColour).slice(-6)
         }
         Text {
