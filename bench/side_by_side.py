@@ -122,7 +122,7 @@ def texts(count, seed=5):
     chance = random.Random(seed)
     words = ["".join(chance.choice("abcdefghijklmnopqrstuvwxyz") for _ in range(chance.randrange(2, 10))) for _ in range(4000)]
     for index in range(count):
-        length = min(int(chance.lognormvariate(2.9, 2.7)) + 1, 585_000)
+        length = min(int(chance.lognormvariate(2.9, 2.7)) + 1, 200_000)  # what one property request of this client holds
         made = str(index)
         pieces = [made]
         size = len(made)
