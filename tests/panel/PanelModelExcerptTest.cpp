@@ -49,7 +49,8 @@ TEST(PanelModelExcerpt, LineFeedsBecomeBlanks) {
     EXPECT_EQ(excerpt("two", "one\ntwo\nthree"), some("one two three"));
 }
 
-// clang-format off: it breaks strings of joined emoji anew each time
+// The formatter breaks strings of joined emoji anew each time.
+// clang-format off
 TEST(PanelModelExcerpt, CountsWholeCharacters) {
     EXPECT_EQ(excerpt("x", "👩‍👩‍👧👩‍👩‍👧👩‍👩‍👧👩‍👩‍👧👩‍👩‍👧👩‍👩‍👧👩‍👩‍👧👩‍👩"
                            "‍👧👩‍👩‍👧👩‍👩‍"
