@@ -4,6 +4,8 @@
 #include <limits>
 #include <memory>
 #include <unicode/ubrk.h>
+#include <utility>
+#include <vector>
 
 namespace vellumry::text {
 
@@ -16,14 +18,35 @@ struct BreakIteratorCloser {
     void operator()(UBreakIterator* iterator) const { ubrk_close(iterator); }
 };
 
-/// Opening a break iterator costs more than most texts do, so each thread keeps one.
-UBreakIterator* characterIterator() {
-    thread_local const std::unique_ptr<UBreakIterator, BreakIteratorCloser> iterator = [] {
+using BreakIterator = std::unique_ptr<UBreakIterator, BreakIteratorCloser>;
+
+/// Opening a break iterator costs more than most texts do, so each thread keeps those that it has opened: as many as
+/// walks have been inside each other. Null when ICU has no tables.
+class BreakIterators {
+public:
+    [[nodiscard]] static BreakIterator take() {
+        std::vector<BreakIterator>& idle = ofThisThread();
+        if (idle.empty()) {
+            UErrorCode status = U_ZERO_ERROR;
+            return BreakIterator(ubrk_open(UBRK_CHARACTER, "", nullptr, 0, &status));
+        }
+        BreakIterator iterator = std::move(idle.back());
+        idle.pop_back();
+        return iterator;
+    }
+    static void giveBack(BreakIterator iterator) {
+        // It outlives the text that it looks into.
         UErrorCode status = U_ZERO_ERROR;
-        return std::unique_ptr<UBreakIterator, BreakIteratorCloser>(ubrk_open(UBRK_CHARACTER, "", nullptr, 0, &status));
-    }();
-    return iterator.get();
-}
+        ubrk_setText(iterator.get(), u"", 0, &status);
+        ofThisThread().push_back(std::move(iterator));
+    }
+
+private:
+    static std::vector<BreakIterator>& ofThisThread() {
+        thread_local std::vector<BreakIterator> idle;
+        return idle;
+    }
+};
 
 /// Walks over the characters of a text. Units that cannot join stand for themselves; the tables are asked for the rest
 /// only.
@@ -32,9 +55,8 @@ public:
     explicit CharacterWalker(QStringView text)
         : m_text(text) {}
     ~CharacterWalker() {
-        // The iterator outlives the text that it looks into.
         if (m_iterator)
-            ubrk_setText(m_iterator, u"", 0, &m_status);
+            BreakIterators::giveBack(std::move(m_iterator));
     }
     CharacterWalker(const CharacterWalker&) = delete;
     CharacterWalker& operator=(const CharacterWalker&) = delete;
@@ -57,19 +79,19 @@ public:
 private:
     qsizetype boundaryAfter(qsizetype position) {
         if (!m_iterator && m_text.size() <= std::numeric_limits<int32_t>::max()) {
-            m_iterator = characterIterator();
+            m_iterator = BreakIterators::take();
             if (m_iterator)
-                ubrk_setText(m_iterator, m_text.utf16(), static_cast<int32_t>(m_text.size()), &m_status);
+                ubrk_setText(m_iterator.get(), m_text.utf16(), static_cast<int32_t>(m_text.size()), &m_status);
         }
         if (!m_iterator || U_FAILURE(m_status))
             return position + 1;
-        const int32_t boundary = ubrk_following(m_iterator, static_cast<int32_t>(position));
+        const int32_t boundary = ubrk_following(m_iterator.get(), static_cast<int32_t>(position));
         return boundary == UBRK_DONE ? m_text.size() : boundary;
     }
 
     QStringView m_text;
     qsizetype m_position = 0;
-    UBreakIterator* m_iterator = nullptr;
+    BreakIterator m_iterator; ///< taken for the first characters that need it
     UErrorCode m_status = U_ZERO_ERROR;
 };
 

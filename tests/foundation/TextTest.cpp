@@ -71,14 +71,20 @@ TEST(Text, AVisitorEndsTheWalk) {
 }
 
 TEST(Text, AWalkInsideAWalkKeepsItsPlace) {
-    QString seen;
-    text::forEachCharacter(QStringLiteral("e\u0301o\u0301"), [&seen](QStringView outer) {
-        text::forEachCharacter(QStringLiteral("x\u0301y"), [](QStringView) { return true; });
-        seen += outer;
-        seen += u'|';
+    QStringList seen;
+    text::forEachCharacter(QStringLiteral("e\u0301o\u0301u\u0301"), [&seen](QStringView outer) {
+        text::forEachCharacter(QStringLiteral("x\u0301\u0323yz\u0301"), [&](QStringView inner) {
+            seen << outer.toString() + inner.toString() + QString::number(text::characterCount(u"🇩🇪🇫🇷"));
+            return inner != u"y";
+        });
         return true;
     });
-    EXPECT_EQ(seen, QStringLiteral("e\u0301|o\u0301|"));
+    const QStringList expected{
+        QStringLiteral("e\u0301x\u0301\u03232"), QStringLiteral("e\u0301y2"),
+        QStringLiteral("o\u0301x\u0301\u03232"), QStringLiteral("o\u0301y2"),
+        QStringLiteral("u\u0301x\u0301\u03232"), QStringLiteral("u\u0301y2"),
+    };
+    EXPECT_EQ(seen, expected);
 }
 
 TEST(Text, TrimmingTakesWhatItsNameSays) {
