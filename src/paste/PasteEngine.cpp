@@ -1,32 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "paste/PasteEngine.h"
 
-#include "foundation/FileUrl.h"
-#include "foundation/UniformType.h"
 #include "foundation/UserDefaults.h"
 #include "history/ClipStore.h"
+#include "paste/FileResolution.h"
 #include "paste/PasteboardWriter.h"
 
 #include <algorithm>
 #include <iterator>
 
 namespace vellumry {
-
-namespace {
-
-std::optional<QString> filePathOf(const PasteboardItem& item) {
-    const auto url = item.representations.find(uniformtype::fileUrl);
-    if (url == item.representations.end())
-        return std::nullopt;
-    return fileurl::pathOf(url->second);
-}
-
-FileRef referenceTo(const QString& path, const std::vector<FileRef>& files) {
-    const auto known = std::ranges::find(files, path, &FileRef::path);
-    return known != files.end() ? *known : FileRef{path, fileurl::lastPathComponent(path), std::nullopt};
-}
-
-} // namespace
 
 PasteEngine::PasteEngine(ClipStore& store, const UserDefaults& preferences, SystemHooks system)
     : m_store(&store)
@@ -130,33 +113,13 @@ QCoro::Task<PasteOutcome> PasteEngine::deliver() {
 
 QCoro::Task<std::optional<std::vector<PasteboardItem>>> PasteEngine::resolvingFiles(std::vector<PasteboardItem> items,
                                                                                     std::vector<FileRef> files) {
-    std::vector<FileRef> asked;
-    for (const auto& item : items) {
-        if (const auto path = filePathOf(item))
-            asked.push_back(referenceTo(*path, files));
-    }
+    auto asked = fileresolution::references(items, files);
     if (asked.empty())
         co_return std::nullopt;
     const auto statuses = co_await fileStatuses(std::move(asked));
     if (!statuses)
         co_return items; // a disk that does not answer proves nothing
-
-    std::vector<PasteboardItem> result;
-    bool hasLiveFile = false;
-    auto status = statuses->begin();
-    for (auto& item : items) {
-        if (filePathOf(item)) {
-            const auto present = (status++)->path();
-            if (!present)
-                continue;
-            item.representations.insert_or_assign(uniformtype::fileUrl, fileurl::urlOf(*present));
-            hasLiveFile = true;
-        }
-        result.push_back(std::move(item));
-    }
-    if (!hasLiveFile)
-        co_return std::nullopt;
-    co_return result;
+    co_return fileresolution::resolved(std::move(items), *statuses);
 }
 
 QCoro::Task<std::optional<std::vector<FileStatus>>> PasteEngine::fileStatuses(std::vector<FileRef> files) {
@@ -171,12 +134,7 @@ QCoro::Task<std::optional<std::vector<FileStatus>>> PasteEngine::fileStatuses(st
 }
 
 QStringList PasteEngine::filePaths(const std::vector<PasteboardItem>& items) {
-    QStringList paths;
-    for (const auto& item : items) {
-        if (const auto path = filePathOf(item))
-            paths.append(*path);
-    }
-    return paths;
+    return fileresolution::paths(items);
 }
 
 bool PasteEngine::isPlainByDefault(ClipKind kind) const {
