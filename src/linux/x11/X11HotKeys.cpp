@@ -164,14 +164,30 @@ void X11HotKeys::handleKey(XEvent* event) {
     const auto* press = static_cast<const XIDeviceEvent*>(event->xcookie.data);
     if (press == nullptr)
         return;
+    const int device = press->deviceid;
+    if ((press->flags & XIKeyRepeat) == 0) {
+        // What is typed before the answer stands on the screen waits for it: the panel's first letter must not land in
+        // the window below.
+        freeze(device);
+        answer(quint32(press->detail), unsigned(press->mods.effective));
+    }
     // The held key keeps the whole keyboard for us; the panel could not be typed into, nor could anybody grab.
-    XIUngrabDevice(m_connection->display(), press->deviceid, CurrentTime);
+    XIUngrabDevice(m_connection->display(), device, CurrentTime);
     XSync(m_connection->display(), False);
-    if ((press->flags & XIKeyRepeat) != 0)
-        return;
-    const unsigned int mask = unsigned(press->mods.effective) & m_shortcutMask;
+}
+
+void X11HotKeys::freeze(int device) {
+    std::array<unsigned char, XIMaskLen(XI_LASTEVENT)> bits{};
+    XIEventMask mask{device, int(bits.size()), bits.data()};
+    XErrorTrap trap(m_connection->display());
+    XIGrabDevice(m_connection->display(), device, m_connection->root(), CurrentTime, 0, XIGrabModeSync, XIGrabModeAsync,
+                 False, &mask);
+}
+
+void X11HotKeys::answer(quint32 keycode, unsigned int modifiers) {
+    const unsigned int mask = modifiers & m_shortcutMask;
     for (const auto& [id, key] : m_keys) {
-        if (key.held.has_value() && key.held->keycode == quint32(press->detail) && key.held->mask == mask) {
+        if (key.held.has_value() && key.held->keycode == keycode && key.held->mask == mask) {
             const quint32 pressed = id;
             if (onPressed)
                 onPressed(pressed);

@@ -45,6 +45,9 @@ private:
     void listenForChanges();
     void handleEvent(XEvent* event);
     void handleKey(XEvent* event);
+    /// Holds back every key until the ungrab that must follow in the same call.
+    void freeze(int device);
+    void answer(quint32 keycode, unsigned int modifiers);
     void grabAgain();
 
     std::shared_ptr<XlibConnection> m_connection;
