@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/Text.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -12,10 +14,7 @@ class StoredText {
 public:
     StoredText() = default;
     StoredText(const QString& text) // NOLINT(google-explicit-constructor): assigning text to it is its purpose
-        : m_utf8(text.toUtf8()) {
-        // The conversion leaves room for three bytes a character, which would be kept as long as the text.
-        m_utf8.squeeze();
-    }
+        : m_utf8(utf8Of(text)) {}
     [[nodiscard]] static StoredText fromUtf8(QByteArray utf8) {
         StoredText text;
         text.m_utf8 = std::move(utf8);
@@ -29,6 +28,15 @@ public:
     bool operator==(const StoredText&) const = default;
 
 private:
+    static QByteArray utf8Of(const QString& text) {
+        if (text::isAscii(text))
+            return text.toLatin1();
+        QByteArray utf8 = text.toUtf8();
+        // The conversion leaves room for three bytes a character, which would be kept as long as the text.
+        utf8.squeeze();
+        return utf8;
+    }
+
     QByteArray m_utf8;
 };
 

@@ -106,7 +106,28 @@ QString trimmedOf(const QString& text, Predicate goes) {
     return begin == 0 && end == text.size() ? text : text.mid(begin, end - begin);
 }
 
+/// Whole blocks first: a loop of fixed length is what compilers turn into vector code.
+template <typename Unit>
+bool areAscii(const Unit* units, qsizetype count) {
+    constexpr qsizetype block = 64;
+    Unit seen = 0;
+    for (; count >= block && seen < 0x80; units += block, count -= block)
+        for (qsizetype at = 0; at < block; ++at)
+            seen |= units[at];
+    for (qsizetype at = 0; at < count; ++at)
+        seen |= units[at];
+    return seen < 0x80;
+}
+
 } // namespace
+
+bool isAscii(QStringView text) {
+    return areAscii(text.utf16(), text.size());
+}
+
+bool isAscii(QByteArrayView bytes) {
+    return areAscii(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
+}
 
 qsizetype characterCount(QStringView text) {
     qsizetype count = 0;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 #include <QStringList>
 #include <QStringView>
@@ -51,6 +52,10 @@ void forEachCharacter(QStringView text, const std::function<bool(QStringView)>& 
 [[nodiscard]] QByteArray foldedBytes(QStringView text);
 /// The UTF-8 bytes of `folded` of text that is UTF-8 already.
 [[nodiscard]] QByteArray foldedBytes(const QByteArray& utf8);
+
+/// True for text of nothing but U+0000…U+007F, in UTF-16 units or in the bytes of any coding that begins with ASCII.
+[[nodiscard]] bool isAscii(QStringView text);
+[[nodiscard]] bool isAscii(QByteArrayView bytes);
 
 /// Strict UTF-8 decoding: nothing when `bytes` are not valid UTF-8. A NUL is a character like any other.
 [[nodiscard]] std::optional<QString> fromUtf8(const QByteArray& bytes);

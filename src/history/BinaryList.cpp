@@ -26,8 +26,11 @@ std::optional<BinaryList::Object> BinaryList::object(quint64 reference) const {
     if (offset < 8 || offset >= m_offsetTable)
         return std::nullopt;
     const auto marker = static_cast<quint8>(m_bytes[static_cast<qsizetype>(offset)]);
-    if (marker < 0x10)
+    if (marker == static_cast<quint8>(Marker::falseValue) || marker == static_cast<quint8>(Marker::trueValue))
         return Object{marker, 0, offset + 1};
+    // What else begins with 0 must not pass for the kind that its lower half is the number of.
+    if (marker < 0x10)
+        return std::nullopt;
     Object found{static_cast<quint8>(marker >> 4), static_cast<quint8>(marker & 0xF), offset + 1};
     if (found.count == 0xF && !found.is(Marker::integer) && !readCount(found))
         return std::nullopt;

@@ -36,33 +36,48 @@ void require(bool succeeded) {
         throw CryptoError::sealFailed();
 }
 
-QByteArray sealWithNonce(const SymmetricKey& key, QByteArrayView nonce, QByteArrayView bytes) {
-    require(bytes.size() <= std::numeric_limits<int>::max() - ClipCrypto::overhead);
-    QByteArray blob(bytes.size() + ClipCrypto::overhead, Qt::Uninitialized);
-    auto* const out = reinterpret_cast<unsigned char*>(blob.data());
+/// Of `blob`, the bytes between the room for the nonce and that for the tag; the cipher reads and writes them in place.
+void sealWithNonce(const SymmetricKey& key, QByteArrayView nonce, QByteArray& blob) {
+    const qsizetype size = blob.size() - ClipCrypto::overhead;
+    require(size >= 0 && blob.size() <= std::numeric_limits<int>::max());
     std::copy(nonce.begin(), nonce.end(), blob.data());
+    auto* const bytes = reinterpret_cast<unsigned char*>(blob.data()) + ClipCrypto::nonceSize;
 
     const CipherContext context(EVP_CIPHER_CTX_new());
     require(context != nullptr);
     require(EVP_EncryptInit_ex(context.get(), EVP_aes_256_gcm(), nullptr, key.bytes().data(), unsignedBytes(nonce)) ==
             1);
     int written = 0;
-    require(EVP_EncryptUpdate(context.get(), out + ClipCrypto::nonceSize, &written, unsignedBytes(bytes),
-                              static_cast<int>(bytes.size())) == 1);
+    require(EVP_EncryptUpdate(context.get(), bytes, &written, bytes, static_cast<int>(size)) == 1);
     int rest = 0;
-    require(EVP_EncryptFinal_ex(context.get(), out + ClipCrypto::nonceSize + written, &rest) == 1);
-    require(written + rest == bytes.size());
-    require(EVP_CIPHER_CTX_ctrl(context.get(), EVP_CTRL_GCM_GET_TAG, ClipCrypto::tagSize,
-                                out + ClipCrypto::nonceSize + bytes.size()) == 1);
+    require(EVP_EncryptFinal_ex(context.get(), bytes + written, &rest) == 1);
+    require(written + rest == size);
+    require(EVP_CIPHER_CTX_ctrl(context.get(), EVP_CTRL_GCM_GET_TAG, ClipCrypto::tagSize, bytes + size) == 1);
+}
+
+QByteArray withRoom(QByteArrayView bytes) {
+    QByteArray blob(bytes.size() + ClipCrypto::overhead, Qt::Uninitialized);
+    std::copy(bytes.begin(), bytes.end(), blob.data() + ClipCrypto::nonceSize);
     return blob;
 }
 
 } // namespace
 
 QByteArray ClipCrypto::seal(QByteArrayView bytes) const {
+    QByteArray blob = withRoom(bytes);
+    sealInPlace(blob);
+    return blob;
+}
+
+void ClipCrypto::sealInPlace(QByteArray& blob) const {
     std::array<char, nonceSize> nonce{};
-    require(RAND_bytes(reinterpret_cast<unsigned char*>(nonce.data()), nonceSize) == 1);
-    return sealWithNonce(m_key, QByteArrayView(nonce.data(), nonceSize), bytes);
+    try {
+        require(RAND_bytes(reinterpret_cast<unsigned char*>(nonce.data()), nonceSize) == 1);
+        sealWithNonce(m_key, QByteArrayView(nonce.data(), nonceSize), blob);
+    } catch (...) {
+        wipe(blob.data(), static_cast<std::size_t>(blob.size()));
+        throw;
+    }
 }
 
 QByteArray ClipCrypto::unseal(QByteArrayView blob) const {
@@ -103,7 +118,9 @@ void ClipCrypto::selfTest() {
     const QByteArray expected = nonce + hex("522dc1f099567d07f47f37a32a84427d643a8cdcbfe5c0c97598a2bd2555d1aa"
                                             "8cb08e48590dbb3da7b08b1056828838c5f61e6393ba7a0abcc9f662898015ad"
                                             "b094dac5d93471bdec1a502270e3cc6c");
-    require(sealWithNonce(sealing.m_key, nonce, plain) == expected);
+    QByteArray sealed = withRoom(plain);
+    sealWithNonce(sealing.m_key, nonce, sealed);
+    require(sealed == expected);
     Unsealer unsealer(sealing.m_key);
     const auto opened = unsealer.open(expected);
     require(opened.has_value() && *opened == plain);

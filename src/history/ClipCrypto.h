@@ -44,6 +44,9 @@ public:
 
     /// Throws `CryptoError::sealFailed`. The nonce is fresh, so two seals of the same bytes differ.
     [[nodiscard]] QByteArray seal(QByteArrayView bytes) const;
+    /// Seals bytes where they lie, between `nonceSize` and `tagSize` bytes of room: `blob` becomes what `seal` makes.
+    /// Throws `CryptoError::sealFailed`, the bytes wiped.
+    void sealInPlace(QByteArray& blob) const;
     /// Throws `UnsealError`.
     [[nodiscard]] QByteArray unseal(QByteArrayView blob) const;
     /// HMAC-SHA256 (RFC 2104) of the concatenated parts, 32 bytes. Throws `CryptoError::sealFailed`.

@@ -22,11 +22,11 @@ const QString pathKey = QStringLiteral("path");
 const QString nameKey = QStringLiteral("name");
 const QString bookmarkKey = QStringLiteral("bookmark");
 
-PropertyList listOf(const FileRef& file) {
-    PropertyList::Dictionary fields{{pathKey, file.path}, {nameKey, file.name}};
+BinaryListWriter::Reference write(BinaryListWriter& writer, const FileRef& file) {
+    BinaryListWriter::Fields fields{{"path", writer.text(file.path)}, {"name", writer.text(file.name)}};
     if (file.bookmark)
-        fields.emplace(bookmarkKey, *file.bookmark);
-    return fields;
+        fields.emplace_back("bookmark", writer.data(*file.bookmark));
+    return writer.dictionary(fields);
 }
 
 std::optional<FileRef> fileOf(const PropertyList& list) {
@@ -88,25 +88,26 @@ void ClipMeta::applyTo(Clip& clip) && {
     clip.isScreenshot = isScreenshot.value_or(false);
 }
 
-QByteArray ClipMeta::encoded() const {
-    PropertyList::Array fileList;
+QByteArray ClipMeta::encoded(BinaryListWriter::Margins margins) const {
+    BinaryListWriter writer;
+    std::vector<BinaryListWriter::Reference> fileList;
     for (const FileRef& file : files)
-        fileList.push_back(listOf(file));
-    PropertyList::Dictionary fields{
-        {titleKey, title}, {searchTextKey, searchText.toString()}, {filesKey, std::move(fileList)}};
+        fileList.push_back(write(writer, file));
+    BinaryListWriter::Fields fields{
+        {"title", writer.text(title)}, {"searchText", writer.text(searchText)}, {"files", writer.array(fileList)}};
     if (sourceBundleID)
-        fields.emplace(sourceBundleIDKey, *sourceBundleID);
+        fields.emplace_back("sourceBundleID", writer.text(*sourceBundleID));
     if (sourceAppName)
-        fields.emplace(sourceAppNameKey, *sourceAppName);
+        fields.emplace_back("sourceAppName", writer.text(*sourceAppName));
     if (thumbnail)
-        fields.emplace(thumbnailKey, *thumbnail);
+        fields.emplace_back("thumbnail", writer.data(*thumbnail));
     if (imageText)
-        fields.emplace(imageTextKey, *imageText);
+        fields.emplace_back("imageText", writer.text(*imageText));
     if (imageTextIsAccurate)
-        fields.emplace(imageTextIsAccurateKey, *imageTextIsAccurate);
+        fields.emplace_back("imageTextIsAccurate", writer.boolean(*imageTextIsAccurate));
     if (isScreenshot)
-        fields.emplace(isScreenshotKey, *isScreenshot);
-    return PropertyList(std::move(fields)).toBinary();
+        fields.emplace_back("isScreenshot", writer.boolean(*isScreenshot));
+    return writer.finish(writer.dictionary(fields), margins);
 }
 
 std::optional<ClipMeta> ClipMeta::decode(QByteArrayView bytes, StringPool* pool) {

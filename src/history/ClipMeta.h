@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "history/BinaryListWriter.h"
 #include "history/Clip.h"
 
 #include <QByteArray>
@@ -29,7 +30,7 @@ struct ClipMeta {
     void applyTo(Clip& clip) &&;
 
     /// A binary property list: one dictionary under the names of the fields, absent optionals left out.
-    [[nodiscard]] QByteArray encoded() const;
+    [[nodiscard]] QByteArray encoded(BinaryListWriter::Margins margins = {}) const;
     /// Nothing for bytes that are no property list, and for one that lacks title, searchText or files or holds another
     /// type than a field's own. Keys that it does not know are passed over. Source names are taken from `pool` when
     /// there is one.

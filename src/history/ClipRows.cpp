@@ -12,11 +12,17 @@ namespace vellumry::cliprows {
 
 namespace {
 
-/// Plain text that has been sealed has no business in memory any longer.
-QByteArray sealAndWipe(const ClipCrypto& crypto, QByteArray plain) {
-    QByteArray sealed = crypto.seal(plain);
-    wipe(plain.data(), static_cast<std::size_t>(plain.size()));
-    return sealed;
+/// What sealing puts around the bytes.
+constexpr BinaryListWriter::Margins margins{ClipCrypto::nonceSize, ClipCrypto::tagSize};
+
+/// The plain bytes become the sealed ones where they lie, so none are left behind.
+QByteArray sealed(const ClipCrypto& crypto, QByteArray bytesWithMargins) {
+    crypto.sealInPlace(bytesWithMargins);
+    return bytesWithMargins;
+}
+
+QByteArray sealedMeta(const ClipCrypto& crypto, const Clip& clip) {
+    return sealed(crypto, ClipMeta::of(clip).encoded(margins));
 }
 
 void run(SQLiteDatabase& database, const char* sql, std::span<const SQLValue> values) {
@@ -81,8 +87,8 @@ std::optional<ClipPayload> readPayload(SQLiteDatabase& database, const ClipCrypt
 }
 
 void write(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip, const ClipPayload& payload) {
-    QByteArray meta = sealAndWipe(crypto, ClipMeta::of(clip).encoded());
-    QByteArray sealedPayload = sealAndWipe(crypto, encodePayload(payload));
+    QByteArray meta = sealedMeta(crypto, clip);
+    QByteArray sealedPayload = sealed(crypto, encodePayload(payload, margins));
     // A pinned row must never read back as unpinned.
     const qint64 pinned = clip.isPinned ? std::max<qint64>(clip.pinOrder, 1) : 0;
     const std::array<SQLValue, 10> values{uuidString(clip.id),
@@ -102,7 +108,7 @@ void write(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip,
 }
 
 void writeMeta(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip) {
-    const std::array<SQLValue, 2> values{sealAndWipe(crypto, ClipMeta::of(clip).encoded()), uuidString(clip.id)};
+    const std::array<SQLValue, 2> values{sealedMeta(crypto, clip), uuidString(clip.id)};
     run(database, "UPDATE clips SET meta = ? WHERE id = ?;", values);
 }
 

@@ -11,19 +11,21 @@ const QString itemsKey = QStringLiteral("items");
 const QString representationsKey = QStringLiteral("representations");
 const QString orderKey = QStringLiteral("order");
 
-PropertyList listOf(const PasteboardItem& item) {
-    PropertyList::Dictionary representations;
-    for (const auto& [type, bytes] : item.representations)
-        representations.emplace(type, bytes);
-    PropertyList::Dictionary fields;
-    fields.emplace(representationsKey, std::move(representations));
-    if (item.order) {
-        PropertyList::Array order;
-        for (const QString& type : *item.order)
-            order.emplace_back(type);
-        fields.emplace(orderKey, std::move(order));
+BinaryListWriter::Reference write(BinaryListWriter& writer, const PasteboardItem& item) {
+    std::vector<BinaryListWriter::Reference> types;
+    std::vector<BinaryListWriter::Reference> contents;
+    for (const auto& [type, bytes] : item.representations) {
+        types.push_back(writer.text(type));
+        contents.push_back(writer.data(bytes));
     }
-    return fields;
+    BinaryListWriter::Fields fields{{"representations", writer.dictionary(std::move(types), contents)}};
+    if (item.order) {
+        std::vector<BinaryListWriter::Reference> order;
+        for (const QString& type : *item.order)
+            order.push_back(writer.text(type));
+        fields.emplace_back("order", writer.array(std::move(order)));
+    }
+    return writer.dictionary(fields);
 }
 
 std::optional<PasteboardItem> itemOf(const PropertyList& list) {
@@ -54,13 +56,12 @@ std::optional<PasteboardItem> itemOf(const PropertyList& list) {
 
 } // namespace
 
-QByteArray encodePayload(const ClipPayload& payload) {
-    PropertyList::Array items;
+QByteArray encodePayload(const ClipPayload& payload, BinaryListWriter::Margins margins) {
+    BinaryListWriter writer;
+    std::vector<BinaryListWriter::Reference> items;
     for (const PasteboardItem& item : payload.items)
-        items.push_back(listOf(item));
-    PropertyList::Dictionary fields;
-    fields.emplace(itemsKey, std::move(items));
-    return PropertyList(std::move(fields)).toBinary();
+        items.push_back(write(writer, item));
+    return writer.finish(writer.dictionary({{"items", writer.array(std::move(items))}}), margins);
 }
 
 std::optional<ClipPayload> decodePayload(const QByteArray& bytes) {

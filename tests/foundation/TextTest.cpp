@@ -110,6 +110,24 @@ TEST(Text, LinesKeepEmptyOnes) {
                            QStringLiteral("d"), QStringLiteral("e"), QString()}));
 }
 
+TEST(Text, OneLetterOutsideMakesATextMoreThanAscii) {
+    EXPECT_TRUE(text::isAscii(u""));
+    EXPECT_TRUE(text::isAscii(QByteArrayView()));
+    for (qsizetype length = 1; length < 200; ++length) {
+        QString units(length, QChar(0x7F));
+        QByteArray bytes(length, '\x7F');
+        EXPECT_TRUE(text::isAscii(units) && text::isAscii(bytes));
+        for (qsizetype at = 0; at < length; ++at) {
+            QString changedUnits = units;
+            changedUnits[at] = at % 2 == 0 ? u'\u0080' : u'\u0100';
+            QByteArray changedBytes = bytes;
+            changedBytes[at] = '\x80';
+            ASSERT_FALSE(text::isAscii(changedUnits)) << at;
+            ASSERT_FALSE(text::isAscii(changedBytes)) << at;
+        }
+    }
+}
+
 TEST(Text, Utf8IsDecodedStrictly) {
     EXPECT_EQ(text::fromUtf8("h\xC3\xA9"), QStringLiteral("hé"));
     EXPECT_EQ(text::fromUtf8(QByteArray("a\0b", 3)).value_or(QString()).size(), 3);

@@ -44,6 +44,24 @@ TEST(ClipCrypto, NothingSealsToTwentyEightBytes) {
     EXPECT_EQ(crypto.unseal(blob), QByteArray());
 }
 
+TEST(ClipCrypto, SealingInPlaceMakesWhatSealingMakes) {
+    const auto crypto = ClipCrypto::withRandomKey();
+    for (const qsizetype size : {0, 1, 16, 5000}) {
+        const QByteArray plain(size, 'p');
+        QByteArray blob = QByteArray(12, 'n') + plain + QByteArray(16, 't');
+        const QByteArray before = blob;
+        crypto.sealInPlace(blob);
+        EXPECT_EQ(crypto.unseal(blob), plain);
+        EXPECT_NE(blob.first(12), before.first(12));
+    }
+}
+
+TEST(ClipCrypto, WithoutRoomNothingIsSealedInPlace) {
+    QByteArray blob(27, 's');
+    EXPECT_THROW(ClipCrypto::withRandomKey().sealInPlace(blob), CryptoError);
+    EXPECT_EQ(blob, QByteArray(27, '\0')) << "what could not be sealed is wiped";
+}
+
 TEST(ClipCrypto, RefusesAnotherKey) {
     const QByteArray blob = ClipCrypto::withRandomKey().seal("secret");
     EXPECT_EQ(failureOf(ClipCrypto::withRandomKey(), blob), UnsealError::Case::notAuthentic);
