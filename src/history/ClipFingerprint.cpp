@@ -30,7 +30,23 @@ QByteArray pathBytes(const std::vector<FileRef>& files) {
     return paths.join('\n');
 }
 
+/// The bytes of `plainText` where they stand in the payload already; most copies are nothing but text, and decoding a
+/// long one only to encode it again takes longer than its code.
+const QByteArray* standingTextBytes(const ClipPayload& payload) {
+    const auto isFile = [](const PasteboardItem& item) { return item.representations.contains(uniformtype::fileUrl); };
+    if (payload.items.empty() || std::ranges::any_of(payload.items, isFile))
+        return nullptr;
+    const auto& representations = payload.items.front().representations;
+    const auto found = representations.find(uniformtype::utf8PlainText);
+    // Decoding takes a byte order mark away.
+    if (found == representations.end() || found->second.startsWith("\xEF\xBB\xBF") || !found->second.isValidUtf8())
+        return nullptr;
+    return &found->second;
+}
+
 QByteArray textBytes(const ClipPayload& payload) {
+    if (const QByteArray* const bytes = standingTextBytes(payload))
+        return *bytes;
     const auto text = plainText(payload.items);
     return text ? text->toUtf8() : payload.canonicalData();
 }

@@ -53,6 +53,23 @@ TEST_F(ClipFingerprint, TextWithoutPlainTextGoesByItsBytes) {
     EXPECT_EQ(of(draft), ofInput("text|" + draft.payload.canonicalData()));
 }
 
+TEST_F(ClipFingerprint, BytesThatAreTextAlreadyCountAsTheTextTheyAre) {
+    const auto withBytes = [this](const QByteArray& bytes, bool hasRtf = false) {
+        ClipDraft draft;
+        draft.payload.items = {{{{uniformtype::utf8PlainText, bytes}}, std::nullopt}};
+        if (hasRtf)
+            draft.payload.items[0].representations.emplace(uniformtype::rtf, "{\\rtf1 word}");
+        return of(draft);
+    };
+    EXPECT_EQ(withBytes("word"), ofInput("text|word"));
+    EXPECT_EQ(withBytes(QByteArray("a\0b", 3)), ofInput(QByteArrayView("text|a\0b", 8)));
+    EXPECT_EQ(withBytes("\xEF\xBB\xBFword"), ofInput("text|word")) << "a byte order mark is no text";
+    EXPECT_EQ(withBytes("\xE9t\xE9", true), ofInput("text|word")) << "what is no UTF-8 is passed over";
+    ClipDraft file = drafts::text(u"/tmp/a"_s);
+    file.payload.items[0].representations.emplace(uniformtype::fileUrl, "file:///tmp/a");
+    EXPECT_EQ(of(file), ofInput("text|a")) << "names of files come before the text";
+}
+
 TEST_F(ClipFingerprint, APictureGoesByItsBestRepresentationAlone) {
     const QString png = ofInput("image|P");
     EXPECT_EQ(of(imageDraft({{{{uniformtype::png, "P"}}, std::nullopt}})), png);
