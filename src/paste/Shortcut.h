@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/EventFlags.h"
+
 #include <QByteArray>
 #include <QHashFunctions>
 #include <QString>
@@ -18,14 +20,6 @@ inline constexpr quint32 shift = 0x200;
 inline constexpr quint32 option = 0x800;
 inline constexpr quint32 control = 0x1000;
 } // namespace shortcutmodifier
-
-/// The bits of a key event's flags, as recorders and key equivalents get them.
-namespace eventflag {
-inline constexpr quint32 shift = 0x20000;
-inline constexpr quint32 control = 0x40000;
-inline constexpr quint32 option = 0x80000;
-inline constexpr quint32 command = 0x100000;
-} // namespace eventflag
 
 /// One key combination. A value; any thread.
 struct Shortcut {

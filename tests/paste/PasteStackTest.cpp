@@ -19,16 +19,16 @@ PasteStack::Item itemOf(const ClipDraft& draft) {
     return item;
 }
 
-PasteStack::Item text(const char* string) {
+PasteStack::Item textItem(const char* string) {
     return itemOf(drafts::text(QString::fromUtf8(string)));
 }
 
-PasteStack::Item file(const char* path) {
+PasteStack::Item fileItem(const char* path) {
     return itemOf(drafts::files({QString::fromUtf8(path)}));
 }
 
-PasteStack::Item styled(ClipKind kind) {
-    PasteStack::Item item = text("words");
+PasteStack::Item styledItem(ClipKind kind) {
+    PasteStack::Item item = textItem("words");
     item.kind = kind;
     item.payload.items.front().representations.insert_or_assign(uniformtype::html, QByteArray("<b>words</b>"));
     item.payload.items.front().order->append(uniformtype::html);
@@ -67,7 +67,7 @@ struct StackWorld {
 
 TEST(PasteStack, IsIdleAtFirstAndTakesNothing) {
     StackWorld world;
-    world.stack.enqueue(text("a"));
+    world.stack.enqueue(textItem("a"));
     EXPECT_FALSE(world.stack.isActive());
     EXPECT_EQ(world.stack.count(), 0);
     EXPECT_FALSE(world.stack.isReversed());
@@ -77,8 +77,8 @@ TEST(PasteStack, IsIdleAtFirstAndTakesNothing) {
 
 TEST(PasteStack, PastesTheOldestFirst) {
     StackWorld world;
-    world.stack.start({text("a"), text("b")});
-    world.stack.enqueue(text("c"));
+    world.stack.start({textItem("a"), textItem("b")});
+    world.stack.enqueue(textItem("c"));
     EXPECT_TRUE(world.stack.pasteNext());
     EXPECT_EQ(world.onBoard(), QStringLiteral("a"));
     EXPECT_TRUE(world.stack.pasteNext());
@@ -90,7 +90,7 @@ TEST(PasteStack, PastesTheOldestFirst) {
 
 TEST(PasteStack, EndsOnThePressThatTakesItsLastItem) {
     StackWorld world;
-    world.stack.start({text("a")});
+    world.stack.start({textItem("a")});
     EXPECT_TRUE(world.stack.pasteNext());
     EXPECT_EQ(world.onBoard(), QStringLiteral("a"));
     EXPECT_FALSE(world.stack.isActive());
@@ -114,7 +114,7 @@ TEST(PasteStack, AnEmptyOneLeavesThePasteboardAloneAndRunsOn) {
 
 TEST(PasteStack, TurningItRoundTakesTheNewestNext) {
     StackWorld world;
-    world.stack.start({text("a"), text("b"), text("c")});
+    world.stack.start({textItem("a"), textItem("b"), textItem("c")});
     EXPECT_TRUE(world.stack.pasteNext());
     world.stack.setReversed(true);
     EXPECT_EQ(world.stack.nextItem()->id, world.stack.items().back().id);
@@ -128,7 +128,7 @@ TEST(PasteStack, TurningItRoundTakesTheNewestNext) {
 TEST(PasteStack, PassesOverADeletedFileWithinTheSamePress) {
     StackWorld world;
     world.goneFiles = {QStringLiteral("/u/gone"), QStringLiteral("/u/too")};
-    world.stack.start({file("/u/gone"), file("/u/too"), text("b"), text("c")});
+    world.stack.start({fileItem("/u/gone"), fileItem("/u/too"), textItem("b"), textItem("c")});
     const std::vector<QUuid> gone{world.stack.items()[0].id, world.stack.items()[1].id};
     EXPECT_TRUE(world.stack.pasteNext());
     EXPECT_EQ(world.onBoard(), QStringLiteral("b"));
@@ -139,7 +139,7 @@ TEST(PasteStack, PassesOverADeletedFileWithinTheSamePress) {
 TEST(PasteStack, OnlyDeletedFilesLeftEndIfSomethingWasPasted) {
     StackWorld world;
     world.goneFiles = {QStringLiteral("/u/gone")};
-    world.stack.start({text("a"), file("/u/gone"), file("/u/gone")});
+    world.stack.start({textItem("a"), fileItem("/u/gone"), fileItem("/u/gone")});
     EXPECT_TRUE(world.stack.pasteNext());
     EXPECT_FALSE(world.stack.pasteNext());
     EXPECT_EQ(world.skipped.size(), 2u);
@@ -151,7 +151,7 @@ TEST(PasteStack, OnlyDeletedFilesLeftEndIfSomethingWasPasted) {
 TEST(PasteStack, OnlyDeletedFilesFromTheStartKeepItWaiting) {
     StackWorld world;
     world.goneFiles = {QStringLiteral("/u/gone")};
-    world.stack.start({file("/u/gone")});
+    world.stack.start({fileItem("/u/gone")});
     EXPECT_FALSE(world.stack.pasteNext());
     EXPECT_EQ(world.skipped.size(), 1u);
     EXPECT_TRUE(world.stack.isActive());
@@ -161,7 +161,7 @@ TEST(PasteStack, OnlyDeletedFilesFromTheStartKeepItWaiting) {
 TEST(PasteStack, ARefusedWriteIsPassedOverLikeADeletedFile) {
     StackWorld world;
     world.board.refusesWrites = true;
-    world.stack.start({text("a"), text("b")});
+    world.stack.start({textItem("a"), textItem("b")});
     EXPECT_FALSE(world.stack.pasteNext());
     EXPECT_EQ(world.skipped.size(), 2u);
     EXPECT_TRUE(world.stack.isActive());
@@ -170,7 +170,7 @@ TEST(PasteStack, ARefusedWriteIsPassedOverLikeADeletedFile) {
 TEST(PasteStack, AFileGoesOutAsAFileAlsoForThoseWhoWantPlainText) {
     StackWorld world;
     world.wantsPlainText = true;
-    world.stack.start({file("/u/one")});
+    world.stack.start({fileItem("/u/one")});
     EXPECT_TRUE(world.stack.pasteNext());
     EXPECT_TRUE(world.board.items().front().representations.contains(uniformtype::fileUrl));
 }
@@ -178,7 +178,7 @@ TEST(PasteStack, AFileGoesOutAsAFileAlsoForThoseWhoWantPlainText) {
 TEST(PasteStack, PlainTextConcernsTextRichTextAndLinksOnly) {
     for (const auto kind : {ClipKind::text, ClipKind::richText, ClipKind::link}) {
         StackWorld world;
-        world.stack.start({styled(kind), styled(kind)});
+        world.stack.start({styledItem(kind), styledItem(kind)});
         EXPECT_TRUE(world.stack.pasteNext());
         EXPECT_TRUE(world.hasHtml());
         world.wantsPlainText = true; // asked anew for each item
@@ -189,7 +189,7 @@ TEST(PasteStack, PlainTextConcernsTextRichTextAndLinksOnly) {
     for (const auto kind : {ClipKind::image, ClipKind::color}) {
         StackWorld world;
         world.wantsPlainText = true;
-        world.stack.start({styled(kind)});
+        world.stack.start({styledItem(kind)});
         EXPECT_TRUE(world.stack.pasteNext());
         EXPECT_TRUE(world.hasHtml());
     }
@@ -197,14 +197,14 @@ TEST(PasteStack, PlainTextConcernsTextRichTextAndLinksOnly) {
 
 TEST(PasteStack, WritesCarryTheProgramsMarker) {
     StackWorld world;
-    world.stack.start({text("a")});
+    world.stack.start({textItem("a")});
     EXPECT_TRUE(world.stack.pasteNext());
     EXPECT_TRUE(world.board.items().front().representations.contains(uniformtype::ownMarker));
 }
 
 TEST(PasteStack, StoppedByHandItForgetsAllAndTheWrittenItemStays) {
     StackWorld world;
-    world.stack.start({text("a"), text("b")});
+    world.stack.start({textItem("a"), textItem("b")});
     EXPECT_TRUE(world.stack.pasteNext());
     world.stack.stop();
     EXPECT_FALSE(world.stack.isActive());
@@ -216,9 +216,9 @@ TEST(PasteStack, StoppedByHandItForgetsAllAndTheWrittenItemStays) {
 
 TEST(PasteStack, StartingAnewBeginsFromNothing) {
     StackWorld world;
-    world.stack.start({text("a"), text("b")});
+    world.stack.start({textItem("a"), textItem("b")});
     EXPECT_TRUE(world.stack.pasteNext());
-    world.stack.start({text("c")});
+    world.stack.start({textItem("c")});
     EXPECT_EQ(world.stack.pastedCount(), 0);
     EXPECT_EQ(world.stack.count(), 1);
     EXPECT_TRUE(world.stack.pasteNext());
@@ -230,7 +230,7 @@ TEST(PasteStack, StoppingItFromTheNoticeOfAPassedOverItemIsTheEnd) {
     StackWorld world;
     world.goneFiles = {QStringLiteral("/u/gone")};
     world.stack.onSkip = [&](const PasteStack::Item&) { world.stack.stop(); };
-    world.stack.start({file("/u/gone"), text("b")});
+    world.stack.start({fileItem("/u/gone"), textItem("b")});
     EXPECT_FALSE(world.stack.pasteNext());
     EXPECT_FALSE(world.stack.isActive());
     EXPECT_EQ(world.finishCount, 0);
@@ -239,8 +239,8 @@ TEST(PasteStack, StoppingItFromTheNoticeOfAPassedOverItemIsTheEnd) {
 
 TEST(PasteStack, TellsOfEachChange) {
     StackWorld world;
-    world.stack.start({text("a"), text("b")});
-    world.stack.enqueue(text("c"));
+    world.stack.start({textItem("a"), textItem("b")});
+    world.stack.enqueue(textItem("c"));
     world.stack.setReversed(true);
     world.stack.setReversed(true); // no change
     EXPECT_EQ(world.changes, 3);
@@ -251,7 +251,7 @@ TEST(PasteStack, TellsOfEachChange) {
 }
 
 TEST(PasteStack, EachItemHasAnIdentityOfItsOwn) {
-    EXPECT_NE(text("a").id, text("a").id);
+    EXPECT_NE(textItem("a").id, textItem("a").id);
 }
 
 } // namespace vellumry
