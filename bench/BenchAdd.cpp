@@ -24,6 +24,9 @@ namespace vellumry::bench {
 namespace {
 
 constexpr int copies = 300;
+// As capture cuts them.
+constexpr qsizetype longestTitle = 300;
+constexpr qsizetype longestSearchText = 200'000;
 
 /// A file with the same table and settings, whose rows are made beforehand.
 class PlainInserter {
@@ -36,24 +39,29 @@ public:
             std::make_unique<SQLiteDatabase>(folder + u'/' + historyfile::fileName, SQLiteDatabase::Access::readWrite);
     }
 
+    using Row = std::array<SQLValue, 10>;
+
     /// A row with `meta` and `payload` as large as a clip's with that much text has them.
-    void insert(qsizetype textLength) {
-        const QByteArray meta(textLength + std::min<qsizetype>(textLength, 300) + 250, 'm');
-        const QByteArray payload(textLength + 200, 'p');
-        const std::array<SQLValue, 10> values{cliprows::uuidString(QUuid::createUuid()),
-                                              qint64{0},
-                                              1.8e9,
-                                              1.8e9,
-                                              qint64{0},
-                                              std::monostate(),
-                                              QString::number(++m_count).rightJustified(64, u'0'),
-                                              qint64{textLength},
-                                              meta,
-                                              payload};
+    [[nodiscard]] Row rowOf(qsizetype textLength) {
+        const qsizetype metaSize =
+            std::min(textLength, longestSearchText) + std::min<qsizetype>(textLength, longestTitle) + 250;
+        return {cliprows::uuidString(QUuid::createUuid()),
+                qint64{0},
+                1.8e9,
+                1.8e9,
+                qint64{0},
+                std::monostate(),
+                QString::number(++m_count).rightJustified(64, u'0'),
+                qint64{textLength},
+                QByteArray(metaSize, 'm'),
+                QByteArray(textLength + 200, 'p')};
+    }
+
+    void insert(const Row& row) {
         auto statement = m_file->prepare("INSERT OR REPLACE INTO clips (id, kind, created, used, pinned, expires, "
                                          "fingerprint, size, meta, payload)\n"
                                          "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?);");
-        statement.bind(values);
+        statement.bind(row);
         statement.step();
     }
 
@@ -66,8 +74,8 @@ ClipDraft draftOf(qsizetype length, int number) {
     Clip clip;
     clip.searchText = StoredText::fromUtf8(QByteArray::number(number).leftJustified(length, 'x', true));
     ClipDraft draft;
-    draft.searchText = clip.searchText.toString();
-    draft.title = draft.searchText.left(300);
+    draft.searchText = clip.searchText.toString().left(longestSearchText);
+    draft.title = draft.searchText.left(longestTitle);
     draft.payload = Corpus::payloadOf(clip);
     return draft;
 }
@@ -82,7 +90,8 @@ void benchAdd(qsizetype length) {
     std::vector<double> inserts;
     std::vector<double> adds;
     for (int copy = 0; copy < copies; ++copy) {
-        inserts.push_back(milliseconds([&] { plain.insert(length); }));
+        const PlainInserter::Row row = plain.rowOf(length);
+        inserts.push_back(milliseconds([&] { plain.insert(row); }));
         const ClipDraft draft = draftOf(length, copy);
         adds.push_back(milliseconds([&] { keep(QCoro::waitFor(store->add(draft, 1.8e9 + copy))); }));
     }
