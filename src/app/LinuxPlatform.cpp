@@ -3,6 +3,7 @@
 
 #include "linux/desktop/DBusSingleInstance.h"
 #include "linux/desktop/DesktopEntries.h"
+#include "linux/desktop/InotifyFolderWatching.h"
 #include "linux/desktop/KeychainKeyStore.h"
 #include "linux/desktop/PosixFileBookmarks.h"
 #include "linux/desktop/ReaderImageCodec.h"
@@ -59,6 +60,7 @@ std::optional<Platform> makeLinuxPlatform() {
     platform.images =
         std::make_unique<ReaderImageCodec>(QCoreApplication::applicationDirPath() + QStringLiteral("/vellumry-reader"));
     platform.bookmarks = std::make_unique<PosixFileBookmarks>();
+    platform.folders = std::make_unique<InotifyFolderWatching>();
     return platform;
 }
 

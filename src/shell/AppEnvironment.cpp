@@ -4,6 +4,7 @@
 #include "capture/FileAccess.h"
 #include "capture/FilePlaces.h"
 #include "capture/FileStatus.h"
+#include "capture/ScreenshotFolders.h"
 #include "foundation/Localisation.h"
 #include "foundation/SerialExecutor.h"
 #include "history/ClipDatabase.h"
@@ -89,6 +90,11 @@ AppEnvironment::AppEnvironment(Platform& platform, std::unique_ptr<Preferences> 
     m_paster = std::make_unique<PasteEngine>(*m_store, *platform.defaults, systemHooks());
     m_hotKeyCenter = std::make_unique<HotKeyCenter>(*platform.hotKeys);
     m_toast = std::make_unique<ToastController>(*platform.panelSurface);
+    ScreenshotImporter::Hooks screenshotHooks;
+    screenshotHooks.folders = [] { return ScreenshotFolders::ofUser().list(); };
+    m_screenshots = std::make_unique<ScreenshotImporter>(*m_store, *platform.images, *platform.folders,
+                                                         std::move(screenshotHooks));
+    m_screenshotSaving = std::make_unique<ScreenshotSaving>(*m_screenshots, *platform.defaults);
     m_panel = std::make_unique<PanelController>(*m_store, *m_paster, *platform.panelSurface, panelHooks());
     wire();
 }
@@ -124,6 +130,7 @@ PanelController::Hooks AppEnvironment::panelHooks() {
 
 void AppEnvironment::wire() {
     wireCapture();
+    wireScreenshots();
     ShortcutRegistrations::Actions actions;
     actions.togglePanel = [this] { togglePanel(); };
     actions.pastePinned = [this](int number) { m_panel->model().pastePinned(number); };
@@ -151,6 +158,14 @@ void AppEnvironment::wireCapture() {
     };
 }
 
+void AppEnvironment::wireScreenshots() {
+    m_screenshots->hasRoomForImages = [folder = m_imageVolume] { return hasRoomForImages(folder); };
+    m_screenshots->isAllowed = [this] {
+        return !m_watcher->pausedUntil || *m_watcher->pausedUntil <= currentDate();
+    };
+    m_screenshotSaving->onToast = [this](const ToastMessage& message) { showToast(message); };
+}
+
 /// What was captured outlives the application it was copied in. The marker on our write keeps it from becoming a new
 /// clip.
 QCoro::Task<void> AppEnvironment::takeOver(QUuid clip) {
@@ -168,6 +183,7 @@ void AppEnvironment::start() {
     (void)reloadShortcuts();
     startMaintenance();
     m_store->enforceRetention(currentDate());
+    m_screenshotSaving->startIfWanted();
     showStartupAlert();
     QTimer::singleShot(warmUpDelay, this, [this] { m_panel->warmUp(); });
 }

@@ -9,6 +9,7 @@
 #include "paste/ShortcutRegistrations.h"
 #include "shell/Platform.h"
 #include "shell/Preferences.h"
+#include "shell/ScreenshotSaving.h"
 #include "shell/ToastController.h"
 
 #include <QCoroTask>
@@ -48,6 +49,7 @@ public:
     void setQuitting() { m_isQuitting = true; }
 
     [[nodiscard]] ClipStore& store() { return *m_store; }
+    [[nodiscard]] ScreenshotSaving& screenshotSaving() { return *m_screenshotSaving; }
     [[nodiscard]] PanelController& panel() { return *m_panel; }
 
 private:
@@ -58,6 +60,7 @@ private:
     [[nodiscard]] PanelController::Hooks panelHooks();
     void wire();
     void wireCapture();
+    void wireScreenshots();
     void startMaintenance();
     void runMaintenance();
     void showStartupAlert();
@@ -75,6 +78,8 @@ private:
     std::unique_ptr<ClipStore> m_store;
     std::unique_ptr<ClipboardWatcher> m_watcher;
     std::unique_ptr<PasteEngine> m_paster;
+    std::unique_ptr<ScreenshotImporter> m_screenshots;
+    std::unique_ptr<ScreenshotSaving> m_screenshotSaving;
     std::unique_ptr<HotKeyCenter> m_hotKeyCenter;
     std::unique_ptr<ToastController> m_toast;
     std::unique_ptr<PanelController> m_panel;

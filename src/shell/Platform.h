@@ -3,6 +3,7 @@
 
 #include "foundation/UserDefaults.h"
 #include "platform/FileBookmarks.h"
+#include "platform/FolderWatching.h"
 #include "platform/HotKeyRegistrar.h"
 #include "platform/ImageCodec.h"
 #include "platform/KeyStore.h"
@@ -32,6 +33,7 @@ struct Platform {
     std::unique_ptr<PanelSurface> panelSurface;
     std::unique_ptr<ImageCodec> images;
     std::unique_ptr<FileBookmarks> bookmarks;
+    std::unique_ptr<FolderWatching> folders;
     /// The folder that holds the application's own folder: $XDG_DATA_HOME.
     QString dataHome;
     /// The user's home folder.

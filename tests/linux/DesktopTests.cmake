@@ -6,6 +6,7 @@ vellumry_test(
   vellumry_desktop_tests
   SOURCES
     DBusSingleInstanceTest.cpp
+    InotifyFolderWatchingTest.cpp
     KeychainKeyStoreTest.cpp
     MountTableTest.cpp
     PosixFileBookmarksTest.cpp

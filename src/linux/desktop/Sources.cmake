@@ -12,6 +12,8 @@ target_sources(
     desktop/FileIdentity.cpp desktop/FileIdentity.h
     desktop/FileSearch.cpp desktop/FileSearch.h
     desktop/GObjectPointer.h
+    desktop/InotifyFolderWatching.cpp desktop/InotifyFolderWatching.h
+    desktop/InotifyThread.cpp desktop/InotifyThread.h
     desktop/InstanceLock.cpp desktop/InstanceLock.h
     desktop/KeychainKeyStore.cpp desktop/KeychainKeyStore.h
     desktop/MountTable.cpp desktop/MountTable.h

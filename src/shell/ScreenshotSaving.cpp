@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/ScreenshotSaving.h"
+
+#include "foundation/Localisation.h"
+
+#include <QPointer>
+
+namespace vellumry {
+
+namespace {
+
+const QString preference = QStringLiteral("saveNewScreenshots");
+
+} // namespace
+
+ScreenshotSaving::ScreenshotSaving(ScreenshotImporter& importer, UserDefaults& defaults)
+    : m_importer(&importer)
+    , m_defaults(&defaults) {}
+
+QCoro::Task<void> ScreenshotSaving::startIfWanted() {
+    if (!m_defaults->boolean(preference))
+        co_return;
+    auto starting = setSaving(true);
+    co_await starting;
+}
+
+QCoro::Task<bool> ScreenshotSaving::setSaving(bool isWanted) {
+    if (!isWanted) {
+        m_defaults->setObject(preference, false);
+        m_importer->stop();
+        co_return true;
+    }
+    const QPointer<ScreenshotSaving> self(this);
+    auto starting = m_importer->start();
+    const bool isWatching = co_await starting;
+    if (!self)
+        co_return false;
+    m_defaults->setObject(preference, isWatching);
+    co_return isWatching;
+}
+
+QCoro::Task<void> ScreenshotSaving::toggle() {
+    if (m_defaults->boolean(preference)) {
+        auto stopping = setSaving(false);
+        co_await stopping;
+        co_return;
+    }
+    const QPointer<ScreenshotSaving> self(this);
+    auto starting = setSaving(true);
+    const bool isWatching = co_await starting;
+    if (!self || !onToast)
+        co_return;
+    if (isWatching)
+        onToast({QStringLiteral("camera.viewfinder"), localised("New screenshots will be saved in Vellumry"),
+                 ToastMessage::Tone::success});
+    else
+        onToast({QStringLiteral("folder.badge.questionmark"),
+                 localised("Vellumry can't open your screenshots folder. Allow it in Privacy & Security → Files and "
+                           "Folders"),
+                 ToastMessage::Tone::warning});
+}
+
+} // namespace vellumry
