@@ -2,12 +2,12 @@
 pragma Singleton
 import QtQuick
 
-// Every colour and measure of the panel, in light and dark. Contrast of text on its ground is at least 4.5 : 1.
+// Every colour and measure of our windows, in light and dark. Contrast of text on its ground is at least 4.5 : 1.
 QtObject {
     id: look
 
-    // Set by the controller from the user's choice and the desktop's scheme.
-    property bool dark: false
+    // By the user's choice and the desktop's scheme; `views` is what all windows are drawn with.
+    readonly property bool dark: views.dark
 
     readonly property color ground: dark ? "#1f2024" : "#fafafb"
     readonly property color edge: dark ? "#3c3d44" : "#d2d3d8"
@@ -21,6 +21,7 @@ QtObject {
     readonly property color selectedTile: dark ? "#3b4d6e" : "#c8dafa"
     readonly property color cap: dark ? "#2e2f35" : "#f0f0f3"
     readonly property color capEdge: dark ? "#4a4b53" : "#cfd0d6"
+    readonly property color success: dark ? "#5fd08a" : "#177a3e"
     readonly property color warning: dark ? "#ffb454" : "#9a5b00"
 
     readonly property int radius: 14

@@ -2,14 +2,10 @@
 #include "panel/PanelController.h"
 
 #include "history/ClipStore.h"
-#include "panel/SymbolProvider.h"
 #include "panel/ThumbnailProvider.h"
 
 #include <QCursor>
-#include <QGuiApplication>
 #include <QPainterPath>
-#include <QPalette>
-#include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -21,6 +17,7 @@ namespace {
 
 constexpr int shadowRoom = 40;
 constexpr int cornerRadius = 14;
+const QString thumbnails = QStringLiteral("thumbnail");
 
 /// Round corners for windows that cannot blend.
 QRegion roundedMask(const QSize& size) {
@@ -31,10 +28,12 @@ QRegion roundedMask(const QSize& size) {
 
 } // namespace
 
-PanelController::PanelController(ClipStore& store, PasteEngine& paster, PanelSurface& surface, Hooks hooks)
+PanelController::PanelController(ClipStore& store, PasteEngine& paster, PanelSurface& surface, ViewEngine& views,
+                                 Hooks hooks)
     : m_model(store, paster)
     , m_facade(m_model, hooks.openPanelKeys)
     , m_surface(&surface)
+    , m_views(&views)
     , m_hooks(std::move(hooks)) {
     m_model.onClose = [this] { hide(); };
     m_model.onToast = m_hooks.showToast;
@@ -52,15 +51,15 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, PanelSur
 
 PanelController::~PanelController() {
     m_surface->onFocusLost = nullptr;
+    if (m_view)
+        m_views->engine().removeImageProvider(thumbnails);
 }
 
 void PanelController::makeView() {
-    m_view = std::make_unique<QQuickView>();
-    m_view->setTitle(QStringLiteral("Vellumry"));
+    m_view = m_views->makeWindow(QStringLiteral("Vellumry"));
     m_view->setColor(Qt::transparent);
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
-    m_view->engine()->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
-    m_view->engine()->addImageProvider(QStringLiteral("thumbnail"),
+    m_views->engine().addImageProvider(thumbnails,
                                        new ThumbnailProvider([this](const QUuid& id) -> std::optional<QByteArray> {
                                            const ClipRef clip = m_model.store().find(id);
                                            return clip ? clip->thumbnail : std::nullopt;
@@ -76,18 +75,10 @@ void PanelController::warmUp() {
         makeView();
 }
 
-void PanelController::setAppearance(Appearance appearance) {
-    m_appearance = appearance;
-    if (m_view)
-        applyLook();
-}
-
-/// Colours by the user's choice, room for a shadow where windows may be translucent, and cut corners where not.
+/// Room for a shadow where windows may be translucent, and cut corners where not.
 void PanelController::applyLook() {
-    const bool systemIsDark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
-    const bool isDark = m_appearance == Appearance::system ? systemIsDark : m_appearance == Appearance::dark;
     m_shadowMargin = m_surface->canBlend() ? shadowRoom : 0;
-    m_facade.setAppearance(isDark, m_shadowMargin);
+    m_facade.setShadowMargin(m_shadowMargin);
     const QSize size = panelSize + QSize(2 * m_shadowMargin, 2 * m_shadowMargin);
     m_view->resize(size);
     m_view->setMask(m_shadowMargin > 0 ? QRegion() : roundedMask(size));

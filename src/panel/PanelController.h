@@ -4,6 +4,7 @@
 #include "panel/PanelFacade.h"
 #include "panel/PanelModel.h"
 #include "panel/PanelPlacement.h"
+#include "panel/ViewEngine.h"
 #include "platform/PanelSurface.h"
 
 #include <QObject>
@@ -25,7 +26,7 @@ class PanelController : public QObject {
 
 public:
     static constexpr QSize panelSize{780, 500};
-    enum class Appearance { system, light, dark };
+    using Appearance = ViewEngine::Appearance;
 
     /// What the panel needs of the shell.
     struct Hooks {
@@ -40,8 +41,8 @@ public:
         std::chrono::milliseconds settleDelay{120};
     };
 
-    /// `store`, `paster` and `surface` must outlive this.
-    PanelController(ClipStore& store, PasteEngine& paster, PanelSurface& surface, Hooks hooks);
+    /// Everything but the hooks must outlive this.
+    PanelController(ClipStore& store, PasteEngine& paster, PanelSurface& surface, ViewEngine& views, Hooks hooks);
     ~PanelController() override;
 
     [[nodiscard]] PanelModel& model() { return m_model; }
@@ -54,7 +55,7 @@ public:
     [[nodiscard]] bool isVisible() const;
     /// Makes the window without showing it, so that the first showing is as quick as the others.
     void warmUp();
-    void setAppearance(Appearance appearance);
+    void setAppearance(Appearance appearance) { m_views->setAppearance(appearance); }
 
     /// Called after the panel came up.
     std::function<void()> onShow = [] {};
@@ -72,9 +73,9 @@ private:
     PanelModel m_model;
     PanelFacade m_facade;
     PanelSurface* m_surface;
+    ViewEngine* m_views;
     Hooks m_hooks;
     std::unique_ptr<QQuickView> m_view;
-    Appearance m_appearance = Appearance::system;
     int m_shadowMargin = 0;
     /// Saves the place a moment after the pointer let go.
     QTimer m_settle;

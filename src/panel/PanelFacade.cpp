@@ -146,12 +146,11 @@ QStringList PanelFacade::transforms() const {
     return titles;
 }
 
-void PanelFacade::setAppearance(bool isDark, int shadowMargin) {
-    if (m_isDark == isDark && m_shadowMargin == shadowMargin)
+void PanelFacade::setShadowMargin(int shadowMargin) {
+    if (m_shadowMargin == shadowMargin)
         return;
-    m_isDark = isDark;
     m_shadowMargin = shadowMargin;
-    Q_EMIT appearanceChanged();
+    Q_EMIT shadowMarginChanged();
 }
 
 } // namespace vellumry

@@ -28,8 +28,7 @@ class PanelFacade : public QObject {
     Q_PROPERTY(bool isTransformListOpen READ isTransformListOpen NOTIFY transformChanged)
     Q_PROPERTY(int transformIndex READ transformIndex NOTIFY transformChanged)
     Q_PROPERTY(QStringList transforms READ transforms CONSTANT)
-    Q_PROPERTY(bool dark READ dark NOTIFY appearanceChanged)
-    Q_PROPERTY(int shadowMargin READ shadowMargin NOTIFY appearanceChanged)
+    Q_PROPERTY(int shadowMargin READ shadowMargin NOTIFY shadowMarginChanged)
 
 public:
     /// `openPanelKeys` answers the words for the shortcut that opens the panel.
@@ -62,9 +61,8 @@ public:
     [[nodiscard]] bool isTransformListOpen() const { return m_model->isTransformListOpen(); }
     [[nodiscard]] int transformIndex() const { return m_model->transformIndex(); }
     [[nodiscard]] QStringList transforms() const;
-    [[nodiscard]] bool dark() const { return m_isDark; }
     [[nodiscard]] int shadowMargin() const { return m_shadowMargin; }
-    void setAppearance(bool isDark, int shadowMargin);
+    void setShadowMargin(int shadowMargin);
 
     /// To be called when the panel comes up.
     void present() { Q_EMIT presented(); }
@@ -82,14 +80,13 @@ Q_SIGNALS:
     void primaryRowChanged();
     void focusTokenChanged();
     void transformChanged();
-    void appearanceChanged();
+    void shadowMarginChanged();
     void presented();
 
 private:
     PanelModel* m_model;
     std::function<QString()> m_openPanelKeys;
     PanelListModel m_rows;
-    bool m_isDark = false;
     int m_shadowMargin = 0;
     bool m_collapsesOnRelease = false;
 };

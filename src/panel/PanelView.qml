@@ -11,11 +11,6 @@ Item {
     LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
-    Binding {
-        target: Look
-        property: "dark"
-        value: root.panel.dark
-    }
     BorderImage {
         visible: root.shadowMargin > 0
         anchors.fill: parent

@@ -9,7 +9,8 @@ target_sources(
     PanelPlacement.cpp PanelPlacement.h
     RowAppearance.cpp RowAppearance.h
     SymbolProvider.cpp SymbolProvider.h
-    ThumbnailProvider.cpp ThumbnailProvider.h)
+    ThumbnailProvider.cpp ThumbnailProvider.h
+    ViewEngine.cpp ViewEngine.h)
 target_link_libraries(vellumry_panel PUBLIC Qt6::Quick PRIVATE Qt6::Svg)
 
 set_source_files_properties(Look.qml PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
@@ -39,6 +40,7 @@ qt_add_resources(
   vellumry_panel vellumry_symbols
   PREFIX /vellumry
   FILES
+    symbols/arrow.up.arrow.down.svg
     symbols/camera.viewfinder.svg
     symbols/checkmark.circle.fill.svg
     symbols/chevron.left.forwardslash.chevron.right.svg

@@ -33,6 +33,8 @@ public:
     virtual void presentPassive(QWindow* window, QRect frame, bool clickThrough) = 0;
     /// True when windows may be translucent.
     [[nodiscard]] virtual bool canBlend() const = 0;
+    /// True when the user asked the desktop for less motion.
+    [[nodiscard]] virtual bool reducesMotion() const { return false; }
     /// The display under the pointer, else the primary one; nothing without any display.
     [[nodiscard]] virtual std::optional<ScreenPlace> screenUnderPointer() const = 0;
     /// The display that holds most of `frame`.

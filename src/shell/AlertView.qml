@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
+import Vellumry.Panel
 
 // A title, a sentence or two, one button.
 Rectangle {
@@ -10,15 +11,9 @@ Rectangle {
     required property string button
     signal answered
 
-    readonly property bool dark: systemColours.window.hslLightness < 0.5
-
     width: 440
     height: column.implicitHeight + 48
-    color: dark ? "#26272b" : "#fbfbfc"
-
-    SystemPalette {
-        id: systemColours
-    }
+    color: Look.ground
 
     Column {
         id: column
@@ -33,7 +28,7 @@ Rectangle {
         Text {
             width: parent.width
             text: root.title
-            color: root.dark ? "#f2f2f4" : "#1c1c1f"
+            color: Look.text
             font.pixelSize: 17
             font.weight: Font.DemiBold
             wrapMode: Text.WordWrap
@@ -43,7 +38,7 @@ Rectangle {
         Text {
             width: parent.width
             text: root.message
-            color: root.dark ? "#c6c7cc" : "#4a4b50"
+            color: Look.secondary
             font.pixelSize: 14
             lineHeight: 1.25
             wrapMode: Text.WordWrap

@@ -2,6 +2,7 @@
 #include "shell/AlertWindow.h"
 
 #include "foundation/Localisation.h"
+#include "panel/ViewEngine.h"
 
 #include <QEvent>
 #include <QQuickItem>
@@ -9,9 +10,8 @@
 
 namespace vellumry {
 
-AlertWindow::AlertWindow(const StartupAlert& alert)
-    : m_view(std::make_unique<QQuickView>()) {
-    m_view->setTitle(QStringLiteral("Vellumry"));
+AlertWindow::AlertWindow(const StartupAlert& alert, ViewEngine& views)
+    : m_view(views.makeWindow(QStringLiteral("Vellumry"))) {
     m_view->setResizeMode(QQuickView::SizeViewToRootObject);
     m_view->setInitialProperties({{QStringLiteral("title"), alert.title},
                                   {QStringLiteral("message"), alert.text},

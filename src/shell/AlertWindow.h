@@ -11,12 +11,15 @@ class QQuickView;
 
 namespace vellumry {
 
+class ViewEngine;
+
 /// One message with one button, in a window of its own that stays until it is answered. Main thread.
 class AlertWindow : public QObject {
     Q_OBJECT
 
 public:
-    explicit AlertWindow(const StartupAlert& alert);
+    /// `views` must outlive the window.
+    AlertWindow(const StartupAlert& alert, ViewEngine& views);
     ~AlertWindow() override;
 
     void show();

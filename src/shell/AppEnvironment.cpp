@@ -89,13 +89,13 @@ AppEnvironment::AppEnvironment(Platform& platform, std::unique_ptr<Preferences> 
                                            *platform.images, [frontmost] { return frontmost->current(); });
     m_paster = std::make_unique<PasteEngine>(*m_store, *platform.defaults, systemHooks());
     m_hotKeyCenter = std::make_unique<HotKeyCenter>(*platform.hotKeys);
-    m_toast = std::make_unique<ToastController>(*platform.panelSurface);
+    m_toast = std::make_unique<ToastController>(*platform.panelSurface, m_views);
     ScreenshotImporter::Hooks screenshotHooks;
     screenshotHooks.folders = [] { return ScreenshotFolders::ofUser().list(); };
     m_screenshots = std::make_unique<ScreenshotImporter>(*m_store, *platform.images, *platform.folders,
                                                          std::move(screenshotHooks));
     m_screenshotSaving = std::make_unique<ScreenshotSaving>(*m_screenshots, *platform.defaults);
-    m_panel = std::make_unique<PanelController>(*m_store, *m_paster, *platform.panelSurface, panelHooks());
+    m_panel = std::make_unique<PanelController>(*m_store, *m_paster, *platform.panelSurface, m_views, panelHooks());
     wire();
 }
 
@@ -237,7 +237,7 @@ void AppEnvironment::showStartupAlert() {
         return;
     if (!m_isMemoryOnly)
         m_store->setRecoveredFromDamage(false);
-    m_alert = std::make_unique<AlertWindow>(*alert);
+    m_alert = std::make_unique<AlertWindow>(*alert, m_views);
     m_alert->onDone = [this] { m_alert.release()->deleteLater(); };
     m_alert->show();
 }

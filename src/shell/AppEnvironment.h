@@ -4,6 +4,7 @@
 #include "capture/ClipboardWatcher.h"
 #include "history/ClipStore.h"
 #include "panel/PanelController.h"
+#include "panel/ViewEngine.h"
 #include "paste/HotKeyCenter.h"
 #include "paste/PasteEngine.h"
 #include "paste/ShortcutRegistrations.h"
@@ -76,6 +77,7 @@ private:
     Platform* m_platform;
     std::unique_ptr<Preferences> m_preferences;
     std::unique_ptr<ClipStore> m_store;
+    ViewEngine m_views;
     std::unique_ptr<ClipboardWatcher> m_watcher;
     std::unique_ptr<PasteEngine> m_paster;
     std::unique_ptr<ScreenshotImporter> m_screenshots;

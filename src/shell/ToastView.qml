@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
+import Vellumry.Panel
 
 // A symbol and a sentence.
 Rectangle {
@@ -8,39 +9,43 @@ Rectangle {
     property string symbol
     property string message
     property string tone: "info"
-    property bool dark: false
-    readonly property color toneColour: tone === "success" ? (dark ? "#5fd08a" : "#177a3e") : tone === "warning" ? (dark ? "#ffb454" : "#9a5b00") : (dark ? "#7fb0ff" : "#1d62dc")
+    property int maximumWidth: 800 // of the display
+    readonly property color toneColour: tone === "success" ? Look.success : tone === "warning" ? Look.warning : Look.accent
 
-    width: Math.ceil(row.implicitWidth) + 36
-    height: 44
+    width: 18 + picture.width + 10 + sentence.width + 18
+    height: Math.max(44, Math.ceil(sentence.implicitHeight) + 24)
     radius: 14
-    color: dark ? "#26272c" : "#fcfcfd"
+    color: Look.ground
     border.width: 1
-    border.color: dark ? "#3c3d44" : "#d2d3d8"
+    border.color: Look.edge
+    LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.Notification
     Accessible.name: message
 
-    Row {
-        id: row
-        anchors.centerIn: parent
-        spacing: 10
-
-        Image {
-            anchors.verticalCenter: parent.verticalCenter
-            width: 19
-            height: 19
-            sourceSize.width: 19
-            sourceSize.height: 19
-            source: toast.symbol === "" ? "" : "image://symbol/" + toast.symbol + "/" + String(toast.toneColour).slice(-6)
-        }
-        Text {
-            anchors.verticalCenter: parent.verticalCenter
-            text: toast.message
-            textFormat: Text.PlainText
-            color: toast.dark ? "#f1f1f4" : "#19191c"
-            font.pixelSize: 14
-            font.weight: Font.Medium
-            renderType: Text.NativeRendering
-        }
+    // Not laid out by a row: the window needs the new size at once.
+    Symbol {
+        id: picture
+        anchors.left: parent.left
+        anchors.leftMargin: 18
+        anchors.verticalCenter: parent.verticalCenter
+        name: toast.symbol
+        tint: toast.toneColour
+        size: 19
+    }
+    Text {
+        id: sentence
+        anchors.left: picture.right
+        anchors.leftMargin: 10
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(Math.ceil(implicitWidth), 560, toast.maximumWidth - 120)
+        text: toast.message
+        textFormat: Text.PlainText
+        wrapMode: Text.Wrap
+        color: Look.text
+        font.pixelSize: 14
+        font.weight: Font.Medium
+        horizontalAlignment: Text.AlignLeft
+        renderType: Text.NativeRendering
     }
 }

@@ -59,10 +59,11 @@ protected:
     }
 
     FakePanelSurface surface;
+    ViewEngine views;
     QMap<QString, placement::Fractions> positions;
     int savings = 0;
     std::vector<ToastMessage> toasts;
-    PanelController panel{store, *engine, surface, panelHooks()};
+    PanelController panel{store, *engine, surface, views, panelHooks()};
 
 private:
     static void collect(const QQuickItem* item, QStringList& found) {

@@ -28,12 +28,15 @@ public:
         window->show();
     }
     [[nodiscard]] bool canBlend() const override { return blends; }
-    [[nodiscard]] std::optional<ScreenPlace> screenUnderPointer() const override { return screen; }
+    [[nodiscard]] bool reducesMotion() const override { return stillness; }
+    [[nodiscard]] std::optional<ScreenPlace> screenUnderPointer() const override { return under ? under : screen; }
     [[nodiscard]] std::optional<ScreenPlace> screenOf(const QRect&) const override { return screen; }
 
     bool blends = false;
+    bool stillness = false; ///< the user wants no motion
     std::optional<ScreenPlace> screen =
         ScreenPlace{QStringLiteral("one"), QRect(0, 0, 1600, 1000), QRect(0, 0, 1600, 1000)};
+    std::optional<ScreenPlace> under; ///< the display under the pointer, when it is not `screen`
     QList<QWindow*> adopted;
     QList<QRect> frames;
     int dismissals = 0;

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/PassiveWindow.h"
+
+#include "panel/ViewEngine.h"
+
+#include <QPainterPath>
+#include <QPropertyAnimation>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QRegion>
+#include <QUrl>
+#include <cmath>
+
+namespace vellumry {
+
+namespace {
+
+constexpr double cornerRadius = 14;
+
+} // namespace
+
+PassiveWindow::PassiveWindow(PanelSurface& surface, ViewEngine& views, Description description)
+    : m_surface(&surface)
+    , m_views(&views)
+    , m_description(std::move(description)) {}
+
+PassiveWindow::~PassiveWindow() = default;
+
+void PassiveWindow::makeView() {
+    m_view = m_views->makeWindow(m_description.title);
+    m_view->setColor(Qt::transparent);
+    m_view->setResizeMode(QQuickView::SizeViewToRootObject);
+    m_surface->adopt(m_view.get());
+    m_view->setInitialProperties(m_description.properties);
+    m_view->setSource(QUrl(m_description.view));
+    QQuickItem* item = m_view->rootObject();
+    m_fade = new QPropertyAnimation(item, "opacity", item);
+    connect(m_fade, &QPropertyAnimation::finished, this, [this, item] {
+        if (item->opacity() == 0.0)
+            hide();
+    });
+    connect(item, &QQuickItem::widthChanged, this, &PassiveWindow::wantedSizeChanged);
+    connect(item, &QQuickItem::heightChanged, this, &PassiveWindow::wantedSizeChanged);
+}
+
+QQuickItem& PassiveWindow::root() {
+    if (!m_view)
+        makeView();
+    return *m_view->rootObject();
+}
+
+bool PassiveWindow::isVisible() const {
+    return m_view && m_view->isVisible();
+}
+
+QRect PassiveWindow::frame() const {
+    return m_view ? m_view->geometry() : QRect();
+}
+
+QSize PassiveWindow::wantedSize() {
+    const QQuickItem& item = root();
+    return {static_cast<int>(std::ceil(item.width())), static_cast<int>(std::ceil(item.height()))};
+}
+
+void PassiveWindow::cutCorners(const QSize& size) {
+    QRegion shape;
+    if (!m_surface->canBlend()) {
+        QPainterPath outline;
+        outline.addRoundedRect(QRectF(QPointF(), QSizeF(size)), cornerRadius, cornerRadius);
+        shape = QRegion(outline.toFillPolygon().toPolygon());
+    }
+    m_view->setMask(shape);
+}
+
+void PassiveWindow::place(const QRect& frame) {
+    (void)root();
+    cutCorners(frame.size());
+    m_view->setGeometry(frame);
+}
+
+void PassiveWindow::appear(const QRect& frame, std::chrono::milliseconds fade) {
+    root().setOpacity(0);
+    cutCorners(frame.size());
+    fadeTo(1, fade);
+    m_surface->presentPassive(m_view.get(), frame, m_description.clickThrough);
+}
+
+void PassiveWindow::stay(std::chrono::milliseconds fade) {
+    if (isVisible() && m_fade->endValue().toDouble() < 1)
+        fadeTo(1, fade);
+}
+
+void PassiveWindow::disappear(std::chrono::milliseconds fade) {
+    if (isVisible())
+        fadeTo(0, fade);
+}
+
+void PassiveWindow::hide() {
+    if (!m_view)
+        return;
+    m_fade->stop();
+    m_view->hide();
+}
+
+void PassiveWindow::fadeTo(double opacity, std::chrono::milliseconds duration) {
+    m_fade->stop();
+    const bool moves = m_surface->canBlend() && !m_surface->reducesMotion();
+    m_fade->setDuration(moves ? static_cast<int>(duration.count()) : 0);
+    m_fade->setStartValue(root().opacity());
+    m_fade->setEndValue(opacity);
+    m_fade->start();
+}
+
+} // namespace vellumry

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/StackHUDController.h"
+
+#include "foundation/Localisation.h"
+#include "paste/PasteStack.h"
+#include "shell/TimerAlarm.h"
+
+#include <QQuickItem>
+#include <chrono>
+#include <cmath>
+
+namespace vellumry {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto fade = 200ms;
+constexpr auto finishedStays = 1400ms;
+constexpr int belowTop = 6;
+
+} // namespace
+
+StackHUDController::StackHUDController(PasteStack& stack, PanelSurface& surface, ViewEngine& views)
+    : StackHUDController(stack, surface, views, std::make_unique<TimerAlarm>()) {}
+
+StackHUDController::StackHUDController(PasteStack& stack, PanelSurface& surface, ViewEngine& views,
+                                       std::unique_ptr<Alarm> alarm)
+    : m_stack(&stack)
+    , m_surface(&surface)
+    , m_window(surface, views,
+               {localised("Paste Stack"),
+                QStringLiteral("qrc:/vellumry/shell/StackHUDView.qml"),
+                {{QStringLiteral("stack"), QVariant::fromValue<QObject*>(&stack)}},
+                false})
+    , m_hide(std::move(alarm)) {
+    connect(&m_window, &PassiveWindow::wantedSizeChanged, this, &StackHUDController::place);
+}
+
+void StackHUDController::show() {
+    m_hide->cancel();
+    QQuickItem& root = m_window.root();
+    if (!m_isConnected) {
+        connect(&root, SIGNAL(reversed()), this, SLOT(turnAround()));
+        connect(&root, SIGNAL(stopped()), this, SLOT(stopPressed()));
+        m_isConnected = true;
+    }
+    if (m_window.isVisible()) {
+        place();
+        m_window.stay(fade);
+    } else {
+        m_window.appear(wantedFrame(), fade);
+    }
+}
+
+void StackHUDController::showFinished() {
+    show();
+    m_hide->ring(finishedStays, [this] { hide(); });
+}
+
+void StackHUDController::hide() {
+    m_hide->cancel();
+    m_window.disappear(fade);
+}
+
+void StackHUDController::turnAround() {
+    m_stack->setReversed(!m_stack->isReversed());
+}
+
+void StackHUDController::stopPressed() {
+    onStop();
+}
+
+/// Follows what the view needs: the hint is wider than the count.
+void StackHUDController::place() {
+    if (m_window.isVisible())
+        m_window.place(wantedFrame());
+}
+
+QRect StackHUDController::wantedFrame() {
+    QRect frame(m_window.frame().topLeft(), m_window.wantedSize());
+    const auto screen = m_window.isVisible() ? m_surface->screenOf(m_window.frame()) : m_surface->screenUnderPointer();
+    if (screen) {
+        const QRectF visible = screen->visible;
+        frame.moveTopLeft({static_cast<int>(std::lround(visible.center().x() - frame.width() / 2.0)),
+                           static_cast<int>(std::lround(visible.top())) + belowTop});
+    }
+    return frame;
+}
+
+} // namespace vellumry

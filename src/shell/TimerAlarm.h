@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/Alarm.h"
+
+#include <QTimer>
+
+namespace vellumry {
+
+/// An alarm by the event loop's clock, exact to a few milliseconds.
+class TimerAlarm : public Alarm {
+public:
+    TimerAlarm();
+    void ring(std::chrono::milliseconds delay, std::function<void()> action) override;
+    void cancel() override;
+
+private:
+    QTimer m_timer;
+    std::function<void()> m_action;
+};
+
+} // namespace vellumry

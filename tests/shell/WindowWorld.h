@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "panel/ViewEngine.h"
+#include "support/FakeAlarm.h"
+#include "support/FakePanelSurface.h"
+
+#include <QPropertyAnimation>
+#include <QQuickItem>
+#include <QQuickView>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace vellumry {
+
+/// Small windows on a display that is not there, with time as a value.
+class WindowWorld : public ::testing::Test {
+protected:
+    WindowWorld() { surface.blends = true; }
+
+    [[nodiscard]] QQuickView* window() const {
+        return surface.adopted.isEmpty() ? nullptr : qobject_cast<QQuickView*>(surface.adopted.first());
+    }
+    [[nodiscard]] double opacity() const { return window()->rootObject()->opacity(); }
+    /// Time goes by for fades and alarms alike. The event loop, which moves fades otherwise, does not run.
+    void pass(std::chrono::milliseconds time) {
+        alarm->pass(time);
+        auto* fade = window()->rootObject()->findChild<QPropertyAnimation*>();
+        if (fade->state() == QAbstractAnimation::Running)
+            fade->setCurrentTime(fade->currentTime() + static_cast<int>(time.count()));
+    }
+
+    [[nodiscard]] QStringList texts() const {
+        QStringList found;
+        collect(window()->rootObject(), found);
+        return found;
+    }
+
+    FakePanelSurface surface;
+    ViewEngine views;
+    FakeAlarm* alarm = new FakeAlarm; // the controller under test owns it
+
+private:
+    static void collect(const QQuickItem* item, QStringList& found) {
+        if (!item->isVisible())
+            return;
+        const QString text = item->property("text").toString();
+        if (item->inherits("QQuickText") && !text.isEmpty())
+            found.append(text);
+        for (const QQuickItem* child : item->childItems())
+            collect(child, found);
+    }
+};
+
+} // namespace vellumry
