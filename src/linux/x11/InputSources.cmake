@@ -10,6 +10,8 @@ target_sources(
     desktop/DesktopEntries.h
     desktop/DesktopEntryIndex.cpp
     desktop/DesktopEntryIndex.h
+    x11/InjectedPresses.cpp
+    x11/InjectedPresses.h
     x11/KeyCodes.cpp
     x11/KeyCodes.h
     x11/KeyPositions.cpp
@@ -28,6 +30,12 @@ target_sources(
     x11/X11Keymap.h
     x11/X11PanelSurface.cpp
     x11/X11PanelSurface.h
+    x11/X11PassiveGrabs.cpp
+    x11/X11PassiveGrabs.h
+    x11/X11PasteKeyGrab.cpp
+    x11/X11PasteKeyGrab.h
+    x11/X11PasteKeys.cpp
+    x11/X11PasteKeys.h
     x11/X11PasteTarget.cpp
     x11/X11PasteTarget.h
     x11/X11Screens.cpp

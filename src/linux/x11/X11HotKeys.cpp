@@ -17,27 +17,6 @@ namespace {
 /// A change of layout comes as a handful of notices.
 constexpr int grabAgainMilliseconds = 50;
 
-/// The master keyboard that goes with the pointer of the session.
-int masterKeyboard(Display* display) {
-    int pointer = 0;
-    if (!XIGetClientPointer(display, 0, &pointer))
-        return XIAllMasterDevices;
-    int count = 0;
-    int keyboard = XIAllMasterDevices;
-    if (XIDeviceInfo* device = XIQueryDevice(display, pointer, &count)) {
-        keyboard = count > 0 ? device->attachment : keyboard;
-        XIFreeDeviceInfo(device);
-    }
-    return keyboard;
-}
-
-std::vector<XIGrabModifiers> grabModifiers(unsigned int mask, const std::vector<unsigned int>& locks) {
-    std::vector<XIGrabModifiers> modifiers;
-    for (const unsigned int lock : locks)
-        modifiers.push_back({int(mask | lock), 0});
-    return modifiers;
-}
-
 } // namespace
 
 X11HotKeys::X11HotKeys(std::shared_ptr<XlibConnection> connection)
@@ -47,7 +26,7 @@ X11HotKeys::X11HotKeys(std::shared_ptr<XlibConnection> connection)
     connect(&m_grabAgain, &QTimer::timeout, this, &X11HotKeys::grabAgain);
     if (!m_connection->inputExtension().has_value())
         return;
-    m_keyboard = masterKeyboard(m_connection->display());
+    m_keyboard = passivegrabs::masterKeyboard(*m_connection);
     listenForChanges();
     connect(m_connection.get(), &XlibConnection::eventArrived, this, &X11HotKeys::handleEvent);
 }
@@ -80,7 +59,7 @@ bool X11HotKeys::grab(quint32 id, quint32 keyCode, quint32 modifiers) {
         if (other.held == combination)
             return false;
     }
-    if (!isFreeOfCoreGrabs(*combination) || !hold(*combination))
+    if (!passivegrabs::isFreeOfCoreGrabs(*m_connection, *combination) || !hold(*combination))
         return false;
     key.held = combination;
     m_shortcutMask = keymap.shortcutMask();
@@ -106,41 +85,12 @@ std::optional<X11HotKeys::Combination> X11HotKeys::combinationFor(const X11Keyma
     return Combination{*keycode, *mask, keymap.lockCombinations()};
 }
 
-// The server finds no conflict between core grabs and X Input grabs: the later one silently wins. So a core grab is
-// tried for a moment before ours; window managers and desktop shortcuts mostly hold core grabs.
-bool X11HotKeys::isFreeOfCoreGrabs(const Combination& combination) {
-    Display* display = m_connection->display();
-    XErrorTrap trap(display);
-    for (const unsigned int lock : combination.locks)
-        XGrabKey(display, int(combination.keycode), combination.mask | lock, m_connection->root(), False, GrabModeAsync,
-                 GrabModeAsync);
-    const bool isFree = trap.finish() == 0;
-    for (const unsigned int lock : combination.locks)
-        XUngrabKey(display, int(combination.keycode), combination.mask | lock, m_connection->root());
-    return isFree;
-}
-
 bool X11HotKeys::hold(const Combination& combination) {
-    auto modifiers = grabModifiers(combination.mask, combination.locks);
-    std::array<unsigned char, XIMaskLen(XI_LASTEVENT)> bits{};
-    XISetMask(bits.data(), XI_KeyPress);
-    XISetMask(bits.data(), XI_KeyRelease);
-    XIEventMask mask{m_keyboard, int(bits.size()), bits.data()};
-    XErrorTrap trap(m_connection->display());
-    const int failures =
-        XIGrabKeycode(m_connection->display(), m_keyboard, int(combination.keycode), m_connection->root(),
-                      XIGrabModeAsync, XIGrabModeAsync, False, &mask, int(modifiers.size()), modifiers.data());
-    if (failures == 0 && trap.finish() == 0)
-        return true;
-    letGo(combination);
-    return false;
+    return passivegrabs::hold(*m_connection, m_keyboard, combination, passivegrabs::Mode::passOn);
 }
 
 void X11HotKeys::letGo(const Combination& combination) {
-    auto modifiers = grabModifiers(combination.mask, combination.locks);
-    XErrorTrap trap(m_connection->display());
-    XIUngrabKeycode(m_connection->display(), m_keyboard, int(combination.keycode), m_connection->root(),
-                    int(modifiers.size()), modifiers.data());
+    passivegrabs::letGo(*m_connection, m_keyboard, combination);
 }
 
 void X11HotKeys::handleEvent(XEvent* event) {

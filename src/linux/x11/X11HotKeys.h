@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "linux/x11/X11PassiveGrabs.h"
 #include "linux/x11/XlibConnection.h"
 #include "platform/HotKeyRegistrar.h"
 
@@ -24,13 +25,7 @@ public:
     void release(quint32 id) override;
 
 private:
-    /// What is asked of the server: an X key code and a modifier mask without locks.
-    struct Combination {
-        quint32 keycode = 0;
-        unsigned int mask = 0;
-        std::vector<unsigned int> locks;
-        bool operator==(const Combination&) const = default;
-    };
+    using Combination = passivegrabs::Combination;
     struct HotKey {
         quint32 keyCode = 0;
         quint32 modifiers = 0;
@@ -39,7 +34,6 @@ private:
     };
 
     [[nodiscard]] std::optional<Combination> combinationFor(const X11Keymap& keymap, const HotKey& key) const;
-    [[nodiscard]] bool isFreeOfCoreGrabs(const Combination& combination);
     [[nodiscard]] bool hold(const Combination& combination);
     void letGo(const Combination& combination);
     void listenForChanges();

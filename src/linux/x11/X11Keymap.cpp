@@ -83,7 +83,11 @@ std::optional<quint32> X11Keymap::virtualKeyFor(quint32 keycode) const {
 }
 
 std::optional<QString> X11Keymap::charactersFor(quint32 keycode) const {
-    const auto character = typed(keycode, latinGroup());
+    return charactersFor(keycode, latinGroup());
+}
+
+std::optional<QString> X11Keymap::charactersFor(quint32 keycode, unsigned int group) const {
+    const auto character = typed(keycode, group);
     return character.has_value() ? std::optional(QString(QChar(*character))) : std::nullopt;
 }
 
@@ -98,6 +102,19 @@ quint32 X11Keymap::keycodeTyping(char16_t letter, quint32 place) const {
         }
     }
     return place;
+}
+
+std::vector<quint32> X11Keymap::keycodesTyping(char16_t letter) const {
+    std::vector<quint32> keycodes;
+    for (quint32 key = 0; key < keyCount; ++key) {
+        for (unsigned int group = 0; group < groupCount; ++group) {
+            if (typed(key, group) == letter) {
+                keycodes.push_back(key);
+                break;
+            }
+        }
+    }
+    return keycodes;
 }
 
 quint32 X11Keymap::keycodeOf(unsigned long symbol, quint32 place) const {

@@ -25,9 +25,15 @@ public:
     /// What the key types without modifiers in the layout that shortcuts go by: the first with Latin letters, else the
     /// first.
     [[nodiscard]] std::optional<QString> charactersFor(quint32 keycode) const;
+    /// What the key types without modifiers in the layout of that group.
+    [[nodiscard]] std::optional<QString> charactersFor(quint32 keycode, unsigned int group) const;
     /// The key that types the letter in the layout in use, else in another one, else the one in its place on a US
     /// keyboard.
     [[nodiscard]] quint32 keycodeTyping(char16_t letter, quint32 place) const;
+    /// All keys that type the letter in any of the layouts.
+    [[nodiscard]] std::vector<quint32> keycodesTyping(char16_t letter) const;
+    /// The user switched to another of the layouts since the look was taken.
+    void setActiveGroup(unsigned int group) { m_activeGroup = group; }
     /// A key that carries the symbol, `place` when none does.
     [[nodiscard]] quint32 keycodeOf(unsigned long symbol, quint32 place) const;
 
