@@ -3,6 +3,7 @@
 
 #include "foundation/SecureBytes.h"
 #include "foundation/Text.h"
+#include "history/BitSet.h"
 #include "history/ClipSearchOrder.h"
 
 #include <QHash>
@@ -27,12 +28,9 @@ QByteArray haystackOf(const Clip& clip) {
 
 /// Those of `clips` that are marked. Each copy counts up in a clip that is far away in memory, so a few are fetched
 /// ahead.
-std::vector<ClipRef> gathered(const std::vector<ClipRef>& clips, const std::vector<bool>& isMarked) {
+std::vector<ClipRef> gathered(const std::vector<ClipRef>& clips, const BitSet& isMarked) {
     constexpr std::size_t ahead = 16;
-    std::vector<std::size_t> marked;
-    for (std::size_t position = 0; position < clips.size(); ++position)
-        if (isMarked[position])
-            marked.push_back(position);
+    const std::vector<std::size_t> marked = isMarked.positions();
     std::vector<ClipRef> result;
     result.reserve(marked.size());
     for (std::size_t index = 0; index < marked.size(); ++index) {
@@ -64,14 +62,14 @@ struct ClipSearch::Private {
     bool orderHasKeys = false;  ///< some of its pictures share their keys with `lookAlikes`
     std::optional<Found> found; ///< by the last search, while no clip has changed
 
-    void follow(const std::vector<ClipRef>& clips);
+    void follow(const std::vector<ClipRef>& clips, std::optional<qint64> revision);
     [[nodiscard]] std::optional<std::vector<Slot>> candidates(const QByteArray& needle, ClipFilter filter) const;
     [[nodiscard]] bool isWorthwhile(const std::vector<Slot>& slots) const;
     void findExact(const ByteSearch& search, ClipFilter filter);
-    [[nodiscard]] std::vector<bool> exactMatches(const std::vector<ClipRef>& clips, const ByteSearch& search,
-                                                 ClipFilter filter) const;
+    [[nodiscard]] BitSet exactMatches(const std::vector<ClipRef>& clips, const ByteSearch& search,
+                                      ClipFilter filter) const;
     void findTolerant(const std::vector<ClipRef>& clips, const LookAlikeKeys& query, ClipFilter filter,
-                      std::vector<bool>& isMatch);
+                      BitSet& isMatch);
     std::shared_ptr<const LookAlikeText> keysOf(const Clip& clip);
 };
 
@@ -79,7 +77,8 @@ ClipSearch::ClipSearch()
     : d(std::make_unique<Private>()) {}
 ClipSearch::~ClipSearch() = default;
 
-std::vector<ClipRef> ClipSearch::search(const std::vector<ClipRef>& clips, const QString& query, ClipFilter filter) {
+std::vector<ClipRef> ClipSearch::search(const std::vector<ClipRef>& clips, const QString& query, ClipFilter filter,
+                                        std::optional<qint64> revision) {
     const QString trimmed = text::trimmed(query);
     const QByteArray needle = text::foldedBytes(trimmed);
     if (needle.isEmpty()) {
@@ -89,10 +88,10 @@ std::vector<ClipRef> ClipSearch::search(const std::vector<ClipRef>& clips, const
         return result;
     }
 
-    d->follow(clips);
+    d->follow(clips, revision);
     const ByteSearch exact(needle);
     d->findExact(exact, filter);
-    std::vector<bool> isMatch = d->exactMatches(clips, exact, filter);
+    BitSet isMatch = d->exactMatches(clips, exact, filter);
 
     d->findTolerant(clips, lookAlikeKeysOf(trimmed), filter, isMatch);
     return gathered(clips, isMatch);
@@ -114,13 +113,14 @@ void ClipSearch::forgetLookAlikes(const QUuid& id) {
         d->order.forgetPictures();
 }
 
-void ClipSearch::Private::follow(const std::vector<ClipRef>& clips) {
-    const bool hasChanged = order.follow(clips, index, [this](const Clip& clip) {
+void ClipSearch::Private::follow(const std::vector<ClipRef>& clips, std::optional<qint64> revision) {
+    const auto slotOfClip = [this](const Clip& clip) {
         const auto known = slotOf.constFind(clip.id);
         if (known != slotOf.constEnd())
             return *known;
         return *slotOf.insert(clip.id, index.append(haystackOf(clip)));
-    });
+    };
+    const bool hasChanged = order.follow(clips, index, slotOfClip, revision);
     if (!hasChanged)
         return;
     found.reset();
@@ -162,31 +162,29 @@ void ClipSearch::Private::findExact(const ByteSearch& search, ClipFilter filter)
     found = Found{search.needle(), looksAtFew ? filter : ClipFilter::all, std::move(slots)};
 }
 
-std::vector<bool> ClipSearch::Private::exactMatches(const std::vector<ClipRef>& clips, const ByteSearch& search,
-                                                    ClipFilter filter) const {
-    std::vector<bool> isFound(index.slotCount());
-    for (const Slot slot : found->slots)
-        isFound[slot] = true;
-    std::vector<bool> isMatch(clips.size());
-    for (std::size_t position = 0; position < clips.size(); ++position) {
-        if (!order.passes(position, filter))
-            continue;
-        const Slot slot = order.slotAt(position);
-        if (slot != ClipSearchOrder::noSlot)
-            isMatch[position] = isFound[slot];
-        else
-            isMatch[position] =
-                text::foldedBytes(clips[position]->sourceAppName.value_or(QString())).contains(search.needle());
+BitSet ClipSearch::Private::exactMatches(const std::vector<ClipRef>& clips, const ByteSearch& search,
+                                         ClipFilter filter) const {
+    BitSet isMatch(clips.size());
+    for (const Slot slot : found->slots) {
+        const auto position = order.positionOf(slot);
+        if (position && order.passes(*position, filter))
+            isMatch.set(*position);
+    }
+    for (const std::uint32_t position : order.withoutText()) {
+        const QString application = clips[position]->sourceAppName.value_or(QString());
+        if (order.passes(position, filter) && text::foldedBytes(application).contains(search.needle()))
+            isMatch.set(position);
     }
     return isMatch;
 }
 
 /// Adds to the matches the pictures that fit with the slack that their readers need.
 void ClipSearch::Private::findTolerant(const std::vector<ClipRef>& clips, const LookAlikeKeys& query, ClipFilter filter,
-                                       std::vector<bool>& isMatch) {
-    std::vector<ClipSearchOrder::Picture*> pictures;
+                                       BitSet& isMatch) {
+    std::vector<const ClipSearchOrder::Picture*> pictures;
+    pictures.reserve(order.pictures().size());
     for (ClipSearchOrder::Picture& picture : order.pictures()) {
-        if (isMatch[picture.position] || !order.passes(picture.position, filter))
+        if (isMatch.contains(picture.position) || !order.passes(picture.position, filter))
             continue;
         if (picture.keys == nullptr) {
             picture.keys = keysOf(*clips[picture.position]);
@@ -196,8 +194,17 @@ void ClipSearch::Private::findTolerant(const std::vector<ClipRef>& clips, const 
     }
     // Only now does the alphabet know every character that these texts have.
     const LookAlikeMatcher matcher(query, alphabet);
-    for (const ClipSearchOrder::Picture* picture : pictures)
-        isMatch[picture->position] = matcher.find(*picture->keys).has_value();
+    // Each text lies somewhere else, and the time goes into waiting for its first bytes unless they are asked for
+    // early.
+    constexpr std::size_t textsAhead = 4;
+    for (std::size_t next = 0; next < pictures.size(); ++next) {
+        if (next + 2 * textsAhead < pictures.size())
+            __builtin_prefetch(pictures[next + 2 * textsAhead]->keys.get());
+        if (next + textsAhead < pictures.size())
+            pictures[next + textsAhead]->keys->prefetch();
+        if (matcher.find(*pictures[next]->keys))
+            isMatch.set(pictures[next]->position);
+    }
 }
 
 std::shared_ptr<const LookAlikeText> ClipSearch::Private::keysOf(const Clip& clip) {

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QUuid>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace vellumry {
@@ -24,8 +25,9 @@ public:
 
     /// Those of `clips` that pass `filter` and match `query`, in the order of `clips`. A blank query matches
     /// everything. A sensitive clip is found by the name of its application only; none of its text is kept here.
+    /// Whoever numbers the states of `clips`, so that equal numbers mean equal clips, spares the search a look at each.
     [[nodiscard]] std::vector<ClipRef> search(const std::vector<ClipRef>& clips, const QString& query,
-                                              ClipFilter filter);
+                                              ClipFilter filter, std::optional<qint64> revision = std::nullopt);
 
     /// Wipes what was folded of the clip. Call it when anything of its text changed, and when the clip went.
     void forgetText(const QUuid& id);

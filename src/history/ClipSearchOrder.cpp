@@ -15,9 +15,12 @@ bool ClipSearchOrder::isUnchanged(const std::vector<ClipRef>& clips) const {
 }
 
 bool ClipSearchOrder::follow(const std::vector<ClipRef>& clips, const FoldedIndex& index,
-                             const std::function<Slot(const Clip&)>& slotOf) {
-    if (isUnchanged(clips))
+                             const std::function<Slot(const Clip&)>& slotOf, std::optional<qint64> revision) {
+    const bool isSameRevision = !m_isStale && revision && m_revision == revision;
+    if (isSameRevision || isUnchanged(clips)) {
+        m_revision = revision;
         return false;
+    }
     ClipSearchOrder old = std::exchange(*this, ClipSearchOrder());
     m_known.reserve(clips.size());
     m_slots.reserve(clips.size());
@@ -43,7 +46,22 @@ bool ClipSearchOrder::follow(const std::vector<ClipRef>& clips, const FoldedInde
         if (m_slots.back() != noSlot && m_slots.back() < isPlaced.size())
             isPlaced[m_slots.back()] = true;
     }
+    notePositions();
+    m_revision = revision;
     return true;
+}
+
+void ClipSearchOrder::notePositions() {
+    for (std::uint32_t position = 0; position < m_slots.size(); ++position) {
+        const Slot slot = m_slots[position];
+        if (slot == noSlot) {
+            m_withoutText.push_back(position);
+            continue;
+        }
+        if (slot >= m_positions.size())
+            m_positions.resize(slot + 1, noPosition);
+        m_positions[slot] = position;
+    }
 }
 
 void ClipSearchOrder::takeOver(ClipSearchOrder& old, std::size_t position) {

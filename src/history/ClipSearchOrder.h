@@ -10,6 +10,7 @@
 #include <functional>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace vellumry {
@@ -30,9 +31,10 @@ public:
     };
 
     /// Follows `clips`. `slotOf` gives the slot of a clip that is not sensitive; it is asked only about clips that are
-    /// new here or whose slot has gone from `index`. True when anything differs from the last time.
+    /// new here or whose slot has gone from `index`. Clips of the same `revision` as the last are taken for the same.
+    /// True when anything differs from the last time.
     bool follow(const std::vector<ClipRef>& clips, const FoldedIndex& index,
-                const std::function<Slot(const Clip&)>& slotOf);
+                const std::function<Slot(const Clip&)>& slotOf, std::optional<qint64> revision = std::nullopt);
     /// The slots of some clips have gone: the next `follow` looks at each.
     void invalidate() { m_isStale = true; }
     /// Lets go of all keys; whoever else has them keeps them.
@@ -40,6 +42,14 @@ public:
 
     [[nodiscard]] std::size_t size() const { return m_slots.size(); }
     [[nodiscard]] Slot slotAt(std::size_t position) const { return m_slots[position]; }
+    /// Where the clip with that text stands; nothing when it has gone.
+    [[nodiscard]] std::optional<std::size_t> positionOf(Slot slot) const {
+        if (slot >= m_positions.size() || m_positions[slot] == noPosition)
+            return std::nullopt;
+        return m_positions[slot];
+    }
+    /// The positions of the sensitive clips.
+    [[nodiscard]] const std::vector<std::uint32_t>& withoutText() const { return m_withoutText; }
     [[nodiscard]] bool passes(std::size_t position, ClipFilter filter) const {
         return (m_traits[position] >> static_cast<unsigned>(filter) & 1U) != 0;
     }
@@ -47,6 +57,8 @@ public:
     [[nodiscard]] std::vector<Picture>& pictures() { return m_pictures; }
 
 private:
+    static constexpr std::uint32_t noPosition = std::numeric_limits<std::uint32_t>::max();
+
     /// The address alone could be that of a later clip; the owner alone could be shared by many.
     struct Known {
         std::weak_ptr<const Clip> owner;
@@ -63,12 +75,16 @@ private:
     [[nodiscard]] bool isUnchanged(const std::vector<ClipRef>& clips) const;
     void takeOver(ClipSearchOrder& old, std::size_t position);
     void append(const ClipRef& clip, const std::function<Slot(const Clip&)>& slotOf);
+    void notePositions();
 
     std::vector<Known> m_known;
     std::vector<Slot> m_slots;
-    std::vector<std::uint8_t> m_traits; ///< one bit for each filter that the clip passes
+    std::vector<std::uint8_t> m_traits;     ///< one bit for each filter that the clip passes
+    std::vector<std::uint32_t> m_positions; ///< by slot
+    std::vector<std::uint32_t> m_withoutText;
     std::vector<Picture> m_pictures;
     std::size_t m_nextPicture = 0; ///< of those that are being taken over
+    std::optional<qint64> m_revision;
     bool m_isStale = false;
 };
 

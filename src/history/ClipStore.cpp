@@ -294,7 +294,7 @@ std::vector<QUuid> ClipStore::clipsWithRoughText() const {
 }
 
 std::vector<ClipRef> ClipStore::search(const QString& query, ClipFilter filter) const {
-    return d->search.search(clips(), query, filter);
+    return d->search.search(clips(), query, filter, d->revision);
 }
 
 } // namespace vellumry

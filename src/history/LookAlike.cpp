@@ -50,15 +50,12 @@ std::uint32_t keyOf(QStringView character) {
 } // namespace
 
 LookAlikeKeys lookAlikeKeysOf(QStringView text) {
-    std::vector<QStringView> characters;
-    characters.reserve(static_cast<std::size_t>(text.size()));
+    LookAlikeKeys keys;
+    keys.reserve(static_cast<std::size_t>(text.size()));
     text::forEachCharacter(text, [&](QStringView character) {
-        characters.push_back(character);
+        keys.push_back(keyOf(character));
         return true;
     });
-    // Only now, because a key counts characters itself, and one walk must not begin inside another.
-    LookAlikeKeys keys(characters.size());
-    std::transform(characters.begin(), characters.end(), keys.begin(), keyOf);
     return keys;
 }
 

@@ -65,6 +65,19 @@ LookAlikeText::~LookAlikeText() {
     std::visit([](auto& keys) { wipe(keys.data(), keys.size() * sizeof keys[0]); }, m_storage);
 }
 
+void LookAlikeText::prefetch() const {
+    constexpr std::size_t line = 64;
+    constexpr std::size_t lines = 8; // from there on the processor sees what is coming
+    std::visit(
+        [](const auto& keys) {
+            const auto* const bytes = reinterpret_cast<const char*>(keys.data());
+            const std::size_t end = std::min(keys.size() * sizeof keys[0], lines * line);
+            for (std::size_t at = 0; at < end; at += line)
+                __builtin_prefetch(bytes + at);
+        },
+        m_storage);
+}
+
 LookAlikeMatcher::LookAlikeMatcher(std::span<const std::uint32_t> query, const LookAlikeAlphabet& alphabet)
     : m_allowed(allowedMismatches(query.size()))
     , m_bytes(bytesOf(query, alphabet), raritiesOf(query))

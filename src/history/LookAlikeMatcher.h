@@ -24,6 +24,8 @@ public:
     /// Bytes of the alphabet, else the keys themselves.
     using Storage = std::variant<std::vector<std::uint8_t>, std::vector<std::uint16_t>, std::vector<std::uint32_t>>;
     [[nodiscard]] const Storage& storage() const { return m_storage; }
+    /// Asks for the first keys, so that they are there when they are read a little later.
+    void prefetch() const;
 
 private:
     Storage m_storage;

@@ -71,6 +71,7 @@ public:
         : m_random(seed) {}
 
     void change() {
+        ++m_revision;
         const auto kindOfChange = m_clips.empty() ? 0U : m_random() % 8;
         if (kindOfChange <= 3)
             insert(m_random() % (m_clips.size() + 1), clipWith([this](Clip& clip) { fill(clip); }));
@@ -89,7 +90,7 @@ public:
         const auto filter = allClipFilters.at(m_random() % allClipFilters.size());
         for (qsizetype typed = 1; typed <= query.size(); ++typed) {
             const QString text = query.first(typed);
-            ASSERT_EQ(m_search.search(m_clips, text, filter), m_plain.search(m_clips, text, filter))
+            ASSERT_EQ(m_search.search(m_clips, text, filter, maybeRevision()), m_plain.search(m_clips, text, filter))
                 << text.toStdString() << ", filter " << rawValue(filter).toStdString();
         }
         ASSERT_EQ(m_search.search(m_clips, query, ClipFilter::all), m_plain.search(m_clips, query, ClipFilter::all));
@@ -114,6 +115,11 @@ private:
         clip.imageText = m_random() % 2 == 0 ? std::optional<QString>() : words(static_cast<int>(m_random() % 30));
         clip.isPinned = m_random() % 4 == 0;
         clip.expiresAt = m_random() % 5 == 0 ? std::optional<Date>(100) : std::nullopt;
+    }
+
+    /// Its owner may number the clips or not, and change its mind.
+    std::optional<qint64> maybeRevision() {
+        return m_random() % 4 == 0 ? std::optional<qint64>() : std::optional(m_revision);
     }
 
     void forget(const QUuid& id) {
@@ -141,6 +147,7 @@ private:
 
     std::mt19937 m_random;
     Clips m_clips;
+    qint64 m_revision = 0;
     ClipSearch m_search;
     PlainSearch m_plain;
 };
