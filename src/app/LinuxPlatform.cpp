@@ -7,6 +7,7 @@
 #include "linux/desktop/KeychainKeyStore.h"
 #include "linux/desktop/PosixFileBookmarks.h"
 #include "linux/desktop/ReaderImageCodec.h"
+#include "linux/desktop/TimerfdDateTimer.h"
 #include "linux/x11/X11Focus.h"
 #include "linux/x11/X11FrontmostApplication.h"
 #include "linux/x11/X11HotKeys.h"
@@ -59,6 +60,7 @@ std::optional<Platform> makeLinuxPlatform() {
     platform.keyStore = std::make_unique<KeychainKeyStore>();
     platform.images =
         std::make_unique<ReaderImageCodec>(QCoreApplication::applicationDirPath() + QStringLiteral("/vellumry-reader"));
+    platform.expiryTimer = TimerfdDateTimer::create();
     platform.bookmarks = std::make_unique<PosixFileBookmarks>();
     platform.folders = std::make_unique<InotifyFolderWatching>();
     return platform;

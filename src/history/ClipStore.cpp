@@ -274,7 +274,10 @@ bool ClipStore::isExpiryScheduled() const {
 void ClipStore::setClock(Clock clock) {
     d->clock = clock;
     d->expiry.setClock(std::move(clock));
-    setAutoExpire(d->autoExpire);
+}
+
+void ClipStore::setExpiryTimer(std::unique_ptr<DateTimer> timer) {
+    d->expiry.setTimer(std::move(timer));
 }
 
 std::vector<ClipRef> ClipStore::recentClips(qint64 limit, bool includePinned) const {

@@ -5,6 +5,7 @@
 #include "history/Clip.h"
 #include "history/ClipFilter.h"
 #include "history/RetentionPolicy.h"
+#include "platform/DateTimer.h"
 
 #include <QCoroTask>
 #include <QObject>
@@ -56,6 +57,8 @@ public:
     [[nodiscard]] bool isExpiryScheduled() const;
     /// What the timer goes by; the wall clock at first.
     void setClock(Clock clock);
+    /// How the timer waits; by intervals at first.
+    void setExpiryTimer(std::unique_ptr<DateTimer> timer);
 
     /// The stored clip; null if it could not be written (then the clip it would have replaced stands unchanged) or if
     /// retention removed it at once. When the task is done, the clip is durable.

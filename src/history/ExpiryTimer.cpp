@@ -1,37 +1,44 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/ExpiryTimer.h"
 
+#include "history/IntervalDateTimer.h"
+
 #include <algorithm>
-#include <cmath>
 
 namespace vellumry {
 
 ExpiryTimer::ExpiryTimer(Clock clock, std::function<void()> onDue)
     : m_clock(std::move(clock))
     , m_onDue(std::move(onDue)) {
-    m_timer.setSingleShot(true);
-    m_timer.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { timeout(); });
+    setTimer(std::make_unique<IntervalDateTimer>([this] { return m_clock(); }));
 }
 
 void ExpiryTimer::arm(std::optional<Date> date) {
     m_date = date;
-    m_timer.stop();
-    if (m_date)
-        start();
+    start();
 }
 
-std::chrono::milliseconds ExpiryTimer::wait(Date date, Date now) {
-    constexpr double longest = 3600;
-    const double seconds = std::min(std::max(date, now) + margin - now, longest);
-    return std::chrono::milliseconds(static_cast<qint64>(std::ceil(seconds * 1000)));
+void ExpiryTimer::setClock(Clock clock) {
+    m_clock = std::move(clock);
+    start();
+}
+
+void ExpiryTimer::setTimer(std::unique_ptr<DateTimer> timer) {
+    m_timer = std::move(timer);
+    m_timer->onWake = [this] { wake(); };
+    start();
 }
 
 void ExpiryTimer::start() {
-    m_timer.start(wait(*m_date, m_clock()));
+    if (m_date)
+        m_timer->arm(std::max(*m_date, m_clock()) + margin);
+    else
+        m_timer->disarm();
 }
 
-void ExpiryTimer::timeout() {
+void ExpiryTimer::wake() {
+    if (!m_date)
+        return;
     if (m_clock() < *m_date) {
         start();
         return;

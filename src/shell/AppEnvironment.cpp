@@ -136,6 +136,8 @@ void AppEnvironment::wire() {
     actions.pastePinned = [this](int number) { m_panel->model().pastePinned(number); };
     m_shortcuts = std::make_unique<ShortcutRegistrations>(*m_platform->defaults, *m_hotKeyCenter, *m_platform->keyboard,
                                                           std::move(actions));
+    if (m_platform->expiryTimer)
+        m_store->setExpiryTimer(std::move(m_platform->expiryTimer));
     m_store->setAutoExpire(true);
     m_maintenance.setInterval(maintenanceInterval);
     m_maintenance.setTimerType(Qt::VeryCoarseTimer);

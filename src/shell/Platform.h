@@ -2,6 +2,7 @@
 #pragma once
 
 #include "foundation/UserDefaults.h"
+#include "platform/DateTimer.h"
 #include "platform/FileBookmarks.h"
 #include "platform/FolderWatching.h"
 #include "platform/HotKeyRegistrar.h"
@@ -34,6 +35,8 @@ struct Platform {
     std::unique_ptr<ImageCodec> images;
     std::unique_ptr<FileBookmarks> bookmarks;
     std::unique_ptr<FolderWatching> folders;
+    /// What punctual expiry waits with; null where the system has nothing better than an interval.
+    std::unique_ptr<DateTimer> expiryTimer;
     /// The folder that holds the application's own folder: $XDG_DATA_HOME.
     QString dataHome;
     /// The user's home folder.

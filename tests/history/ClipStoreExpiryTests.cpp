@@ -1,12 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/MemoryStoreTest.h"
+#include "support/FakeTime.h"
 
 namespace vellumry {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-class ClipStoreExpiryTest : public MemoryStoreTest {};
+class ClipStoreExpiryTest : public MemoryStoreTest {
+protected:
+    void runOn(const FakeTime& time) {
+        m_store.setClock(time.clock());
+        m_store.setExpiryTimer(std::make_unique<FakeTime::Timer>(time));
+        m_store.setAutoExpire(true);
+    }
+    FakeTime m_time{10};
+};
 
 TEST_F(ClipStoreExpiryTest, NoTimerRunsUntilAskedFor) {
     Date now = 10;
@@ -34,22 +43,73 @@ TEST_F(ClipStoreExpiryTest, TheTimerFollowsTheNextExpiry) {
 }
 
 TEST_F(ClipStoreExpiryTest, SecretsDeleteThemselvesOneAfterTheOther) {
-    Date now = 10;
-    m_store.setClock([&] { return now; });
-    m_store.setAutoExpire(true);
+    runOn(m_time);
     add(drafts::secret(u"one"_s), 10);
     add(drafts::secret(u"two"_s), 11);
     addText(u"three"_s, 12);
-    now = 70;
-    m_store.setAutoExpire(true);
-    runUntil([&] { return m_store.clips().size() == 2; });
+    m_time.pass(60.049);
+    EXPECT_EQ(titles(), (QStringList{u"three"_s, u"two"_s, u"one"_s}));
+    m_time.pass(0.001);
     EXPECT_EQ(titles(), (QStringList{u"three"_s, u"two"_s}));
-    EXPECT_TRUE(m_store.isExpiryScheduled());
-    now = 71;
-    m_store.setAutoExpire(true);
-    runUntil([&] { return m_store.clips().size() == 1; });
+    EXPECT_EQ(m_time.waitsFor(), 71.05);
+    m_time.pass(1);
     EXPECT_EQ(titles(), QStringList{u"three"_s});
     EXPECT_FALSE(m_store.isExpiryScheduled());
+}
+
+TEST_F(ClipStoreExpiryTest, SecretsWhoseTimeCameInASleepGoTogetherOnWaking) {
+    runOn(m_time);
+    add(drafts::secret(u"one"_s), 10);
+    add(drafts::secret(u"two"_s), 40);
+    add(drafts::secret(u"three"_s), 3600);
+    m_time.pass(3600);
+    EXPECT_EQ(titles(), QStringList{u"three"_s});
+    EXPECT_EQ(m_time.waitsFor(), 3660.05);
+}
+
+TEST_F(ClipStoreExpiryTest, AClockSetForwardEndsASecretAndOneSetBackSparesIt) {
+    runOn(m_time);
+    add(drafts::secret(u"one"_s), 10);
+    m_time.set(69);
+    EXPECT_EQ(m_store.clips().size(), 1U);
+    m_time.set(5);
+    m_time.pass(64);
+    EXPECT_EQ(m_store.clips().size(), 1U) << "its date is by the wall clock";
+    m_time.set(70);
+    EXPECT_TRUE(m_store.clips().empty());
+}
+
+TEST_F(ClipStoreExpiryTest, AnExpiryInThePastIsDueAfterALittle) {
+    runOn(m_time);
+    m_store.setSensitiveLifetime(5);
+    m_time.pass(100);
+    // The copy was seen long ago and is stored only now.
+    awaited(m_store.add(drafts::secret(u"late"_s), 10));
+    EXPECT_EQ(m_store.nextExpiry(), 15);
+    EXPECT_EQ(m_time.waitsFor(), 110.05);
+    m_time.pass(0.05);
+    EXPECT_TRUE(m_store.clips().empty());
+}
+
+TEST_F(ClipStoreExpiryTest, AskingForTheTimerAgainArmsItAgain) {
+    runOn(m_time);
+    add(drafts::secret(u"one"_s), 10);
+    m_store.setAutoExpire(false);
+    EXPECT_EQ(m_time.waitsFor(), std::nullopt);
+    m_store.setAutoExpire(true);
+    EXPECT_EQ(m_time.waitsFor(), 70.05);
+    m_time.pass(30);
+    m_store.setAutoExpire(true);
+    EXPECT_EQ(m_time.waitsFor(), 70.05);
+}
+
+TEST_F(ClipStoreExpiryTest, UseDoesNotRestartTheCountdown) {
+    runOn(m_time);
+    const ClipRef clip = add(drafts::secret(u"one"_s), 10);
+    awaited(m_store.markUsed(clip->id, 50));
+    EXPECT_EQ(m_time.waitsFor(), 70.05);
+    m_time.pass(60.05);
+    EXPECT_TRUE(m_store.clips().empty());
 }
 
 TEST_F(ClipStoreExpiryTest, ASensitiveRecopyOfAPinGivesItAnEndThatItMeets) {

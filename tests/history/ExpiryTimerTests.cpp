@@ -1,66 +1,97 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/ExpiryTimer.h"
 
-#include "support/Awaited.h"
+#include "support/FakeTime.h"
 
 #include <gtest/gtest.h>
 
 namespace vellumry {
 namespace {
 
-using std::chrono::milliseconds;
+class ExpiryTimerTest : public testing::Test {
+protected:
+    void SetUp() override { m_timer.setTimer(std::make_unique<FakeTime::Timer>(m_time)); }
+    FakeTime m_time{1000};
+    int m_fired = 0;
+    ExpiryTimer m_timer{m_time.clock(), [this] { ++m_fired; }};
+};
 
-TEST(ExpiryTimer, WaitsForTheDateAndALittle) {
-    EXPECT_EQ(ExpiryTimer::wait(1010, 1000), milliseconds(10'050));
-    EXPECT_EQ(ExpiryTimer::wait(1000, 1000), milliseconds(50));
+TEST_F(ExpiryTimerTest, WaitsForTheDateAndALittle) {
+    m_timer.arm(1010);
+    EXPECT_EQ(m_time.waitsFor(), 1010.05);
+    m_time.pass(10);
+    EXPECT_EQ(m_fired, 0);
+    m_time.pass(0.06);
+    EXPECT_EQ(m_fired, 1);
+    EXPECT_FALSE(m_timer.isArmed());
 }
 
-TEST(ExpiryTimer, ADateInThePastIsDueAtOnce) {
-    EXPECT_EQ(ExpiryTimer::wait(10, 1000), milliseconds(50));
+TEST_F(ExpiryTimerTest, ADateInThePastIsDueAfterALittle) {
+    m_timer.arm(10);
+    EXPECT_EQ(m_time.waitsFor(), 1000.05);
+    m_time.pass(0.05);
+    EXPECT_EQ(m_fired, 1);
 }
 
-TEST(ExpiryTimer, LooksAgainWithinTheHour) {
-    EXPECT_EQ(ExpiryTimer::wait(distantFuture, 1000), milliseconds(3'600'000));
+TEST_F(ExpiryTimerTest, IsArmedOnlyWhileThereIsADate) {
+    EXPECT_FALSE(m_timer.isArmed());
+    m_timer.arm(1100);
+    EXPECT_TRUE(m_timer.isArmed());
+    EXPECT_EQ(m_timer.date(), 1100);
+    m_timer.arm(std::nullopt);
+    EXPECT_FALSE(m_timer.isArmed());
+    EXPECT_EQ(m_time.waitsFor(), std::nullopt);
 }
 
-TEST(ExpiryTimer, IsArmedOnlyWhileThereIsADate) {
-    ExpiryTimer timer([] { return 0.0; }, [] {});
-    EXPECT_FALSE(timer.isArmed());
-    timer.arm(100);
-    EXPECT_TRUE(timer.isArmed());
-    EXPECT_EQ(timer.date(), 100);
-    timer.arm(std::nullopt);
-    EXPECT_FALSE(timer.isArmed());
+TEST_F(ExpiryTimerTest, FiresOnceForTheLatestDate) {
+    m_timer.arm(1010);
+    m_timer.arm(1020);
+    m_time.pass(15);
+    EXPECT_EQ(m_fired, 0);
+    m_time.pass(3600);
+    EXPECT_EQ(m_fired, 1);
+    m_time.pass(3600);
+    EXPECT_EQ(m_fired, 1);
 }
 
-TEST(ExpiryTimer, FiresOnce) {
-    int fired = 0;
-    ExpiryTimer timer([] { return 1000.0; }, [&] { ++fired; });
-    timer.arm(10);
-    runUntil([&] { return fired > 0; });
-    EXPECT_EQ(fired, 1);
-    EXPECT_FALSE(timer.isArmed());
+TEST_F(ExpiryTimerTest, ADateSleptThroughIsDueOnWaking) {
+    m_timer.arm(1060);
+    m_time.pass(8 * 3600);
+    EXPECT_EQ(m_fired, 1);
 }
 
-TEST(ExpiryTimer, DoesNotFireBeforeTheDateWhenTheClockWasSetBack) {
-    Date now = 1000;
-    int asked = 0;
-    int fired = 0;
-    ExpiryTimer timer(
-        [&] {
-            ++asked;
-            return now;
-        },
-        [&] { ++fired; });
-    timer.arm(1000);
-    now = 999.99;
-    const int before = asked;
-    runUntil([&] { return asked > before; });
-    EXPECT_EQ(fired, 0);
-    EXPECT_TRUE(timer.isArmed());
-    now = 1000.06;
-    runUntil([&] { return fired > 0; });
-    EXPECT_EQ(fired, 1);
+TEST_F(ExpiryTimerTest, AClockSetBackPutsTheDateOff) {
+    m_timer.arm(1060);
+    m_time.set(500);
+    EXPECT_EQ(m_fired, 0);
+    EXPECT_EQ(m_time.waitsFor(), 1060.05);
+    m_time.pass(560);
+    EXPECT_EQ(m_fired, 0);
+    m_time.pass(1);
+    EXPECT_EQ(m_fired, 1);
+}
+
+TEST_F(ExpiryTimerTest, AClockSetForwardPastTheDateIsObeyedAtOnce) {
+    m_timer.arm(1060);
+    m_time.set(1061);
+    EXPECT_EQ(m_fired, 1);
+}
+
+TEST_F(ExpiryTimerTest, AClockSetForwardShortOfTheDateLeavesIt) {
+    m_timer.arm(1060);
+    m_time.set(1059);
+    EXPECT_EQ(m_fired, 0);
+    m_time.pass(1.1);
+    EXPECT_EQ(m_fired, 1);
+}
+
+TEST_F(ExpiryTimerTest, AnotherTimerOrClockTakesTheDateOver) {
+    m_timer.arm(1060);
+    m_timer.setTimer(std::make_unique<FakeTime::Timer>(m_time));
+    EXPECT_EQ(m_time.waitsFor(), 1060.05);
+    FakeTime later(2000);
+    m_timer.setClock(later.clock());
+    EXPECT_EQ(m_time.waitsFor(), 2000.05);
 }
 
 } // namespace

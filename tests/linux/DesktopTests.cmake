@@ -13,6 +13,7 @@ vellumry_test(
     PrivateBus.cpp
     PrivateBus.h
     ProcessHardeningTest.cpp
+    TimerfdDateTimerTest.cpp
   LINKS vellumry_linux)
 add_dependencies(vellumry_desktop_tests second_copy)
 target_compile_definitions(vellumry_desktop_tests PRIVATE VELLUMRY_SECOND_COPY="$<TARGET_FILE:second_copy>")

@@ -23,6 +23,7 @@ target_sources(
     desktop/ReaderImageCodec.cpp desktop/ReaderImageCodec.h
     desktop/ReaderProcess.cpp desktop/ReaderProcess.h
     desktop/SecretServiceSession.cpp desktop/SecretServiceSession.h
+    desktop/TimerfdDateTimer.cpp desktop/TimerfdDateTimer.h
     desktop/TrashFolders.cpp desktop/TrashFolders.h)
 target_link_libraries(
   vellumry_linux
