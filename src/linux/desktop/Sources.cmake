@@ -30,6 +30,14 @@ target_link_libraries(
   PUBLIC Qt6::DBus vellumry_reader_protocol
   PRIVATE PkgConfig::LIBSECRET)
 
+# Programs link it as a whole. A sanitizer brings an allocator of its own, which must see every block.
+add_library(vellumry_wiping_free INTERFACE)
+if(NOT VELLUMRY_SANITIZE)
+  add_library(vellumry_wiping_free_object OBJECT desktop/WipingFree.cpp)
+  vellumry_target_defaults(vellumry_wiping_free_object)
+  target_link_libraries(vellumry_wiping_free INTERFACE $<TARGET_OBJECTS:vellumry_wiping_free_object>)
+endif()
+
 if(VELLUMRY_INSPECTABLE OR VELLUMRY_SANITIZE)
   set_source_files_properties(desktop/ProcessHardening.cpp PROPERTIES COMPILE_DEFINITIONS VELLUMRY_INSPECTABLE)
 endif()
