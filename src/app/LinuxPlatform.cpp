@@ -7,6 +7,7 @@
 #include "linux/desktop/KeychainKeyStore.h"
 #include "linux/desktop/PosixFileBookmarks.h"
 #include "linux/desktop/ReaderImageCodec.h"
+#include "linux/desktop/ReaderTextReader.h"
 #include "linux/desktop/TimerfdDateTimer.h"
 #include "linux/x11/X11Focus.h"
 #include "linux/x11/X11FrontmostApplication.h"
@@ -58,8 +59,9 @@ std::optional<Platform> makeLinuxPlatform() {
         return std::nullopt;
     platform.singleInstance = std::make_unique<DBusSingleInstance>();
     platform.keyStore = std::make_unique<KeychainKeyStore>();
-    platform.images =
-        std::make_unique<ReaderImageCodec>(QCoreApplication::applicationDirPath() + QStringLiteral("/vellumry-reader"));
+    const QString reader = QCoreApplication::applicationDirPath() + QStringLiteral("/vellumry-reader");
+    platform.images = std::make_unique<ReaderImageCodec>(reader);
+    platform.textReader = std::make_unique<ReaderTextReader>(reader);
     platform.expiryTimer = TimerfdDateTimer::create();
     platform.bookmarks = std::make_unique<PosixFileBookmarks>();
     platform.folders = std::make_unique<InotifyFolderWatching>();

@@ -5,7 +5,7 @@
 
 namespace vellumry {
 
-/// Opens pictures: PNG, JPEG, TIFF, WebP, BMP and GIF (its first frame). Runs in the reader process, where a crafted
+/// Tells what is worth knowing of a picture. Runs in the reader process, where a crafted
 /// file can do no more than end it. One thread.
 class ImageSummariser {
 public:

@@ -9,7 +9,7 @@ namespace vellumry::readerprotocol {
 
 namespace {
 
-enum Flag : quint8 { hasPixelSize = 1, hasThumbnail = 2, isMarkedAsScreenshot = 4 };
+enum Flag : quint8 { hasPixelSize = 1, hasThumbnail = 2, isMarkedAsScreenshot = 4, hasText = 8 };
 
 void prepare(QDataStream& stream) {
     stream.setVersion(QDataStream::Qt_6_4);
@@ -28,7 +28,7 @@ QByteArray encode(const Request& request) {
     QByteArray message;
     QDataStream stream(&message, QIODevice::WriteOnly);
     prepare(stream);
-    stream << request.id << static_cast<quint8>(request.operation) << request.thumbnailPixels;
+    stream << request.id << static_cast<quint8>(request.operation) << request.pixels;
     return withLength(message);
 }
 
@@ -37,10 +37,10 @@ std::optional<QByteArray> encode(const Reply& reply) {
     QDataStream stream(&message, QIODevice::WriteOnly);
     prepare(stream);
     const quint8 flags = (reply.pixelSize ? hasPixelSize : 0) | (reply.thumbnail ? hasThumbnail : 0) |
-                         (reply.isScreenshot ? isMarkedAsScreenshot : 0);
+                         (reply.isScreenshot ? isMarkedAsScreenshot : 0) | (reply.text ? hasText : 0);
     const QSize size = reply.pixelSize.value_or(QSize(0, 0));
     stream << reply.id << flags << static_cast<qint32>(size.width()) << static_cast<qint32>(size.height())
-           << reply.thumbnail.value_or(QByteArray());
+           << reply.thumbnail.value_or(QByteArray()) << reply.text.value_or(QString()).toUtf8();
     if (message.size() > static_cast<qsizetype>(maxReplyBytes))
         return std::nullopt;
     return withLength(message);
@@ -51,12 +51,13 @@ std::optional<Request> decodeRequest(const QByteArray& message) {
     prepare(stream);
     Request request;
     quint8 operation = 0;
-    stream >> request.id >> operation >> request.thumbnailPixels;
+    stream >> request.id >> operation >> request.pixels;
     if (stream.status() != QDataStream::Ok || !stream.atEnd())
         return std::nullopt;
-    if (operation != static_cast<quint8>(Operation::summarise))
+    if (operation < static_cast<quint8>(Operation::summarise) ||
+        operation > static_cast<quint8>(Operation::readAccurately))
         return std::nullopt;
-    if (request.thumbnailPixels < 1 || request.thumbnailPixels > maxThumbnailPixels)
+    if (request.pixels < 1 || request.pixels > maxPixels)
         return std::nullopt;
     request.operation = static_cast<Operation>(operation);
     return request;
@@ -70,7 +71,8 @@ std::optional<Reply> decodeReply(const QByteArray& message) {
     qint32 width = 0;
     qint32 height = 0;
     QByteArray thumbnail;
-    stream >> reply.id >> flags >> width >> height >> thumbnail;
+    QByteArray text;
+    stream >> reply.id >> flags >> width >> height >> thumbnail >> text;
     if (stream.status() != QDataStream::Ok || !stream.atEnd())
         return std::nullopt;
     if (flags & hasPixelSize) {
@@ -80,6 +82,8 @@ std::optional<Reply> decodeReply(const QByteArray& message) {
     }
     if (flags & hasThumbnail)
         reply.thumbnail = thumbnail;
+    if (flags & hasText)
+        reply.text = QString::fromUtf8(text);
     reply.isScreenshot = flags & isMarkedAsScreenshot;
     return reply;
 }

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QSize>
+#include <QString>
 #include <optional>
 
 /// What the program and its reader process say to each other over a stream socket, the reader's standard input. A
@@ -12,27 +13,30 @@
 namespace vellumry::readerprotocol {
 
 /// What is asked for. The numbers go over the wire; further operations take further numbers.
-enum class Operation : quint8 { summarise = 1 };
+enum class Operation : quint8 { summarise = 1, readFast = 2, readAccurately = 3 };
 
 struct Request {
     quint64 id = 0;
     Operation operation = Operation::summarise;
-    /// The longer side of the thumbnail at most, 1 to `maxThumbnailPixels`.
-    qint32 thumbnailPixels = 0;
+    /// The longer side at most, 1 to `maxPixels`: of the thumbnail, or of the picture when its text is read.
+    qint32 pixels = 0;
 
     bool operator==(const Request&) const = default;
 };
 
 struct Reply {
     quint64 id = 0;
-    std::optional<QSize> pixelSize;
+    std::optional<QSize> pixelSize;      ///< as stored; as it was read, when text was asked for
     std::optional<QByteArray> thumbnail; ///< PNG
     bool isScreenshot = false;
+    /// The text as it stands in the picture, a line feed behind each line. Absent when the picture could not be opened
+    /// (then `pixelSize` is absent too), when reading failed, and when it was not asked for.
+    std::optional<QString> text;
 
     bool operator==(const Reply&) const = default;
 };
 
-constexpr qint32 maxThumbnailPixels = 8192;
+constexpr qint32 maxPixels = 8192;
 /// Neither side believes in a longer message.
 constexpr quint32 maxRequestBytes = 64;
 constexpr quint32 maxReplyBytes = 64 * 1024 * 1024;

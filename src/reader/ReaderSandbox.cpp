@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
+#include <fcntl.h>
 #include <linux/audit.h>
 #include <linux/filter.h>
 #include <linux/landlock.h>
@@ -37,13 +38,27 @@ void limit(__rlimit_resource resource, rlim_t most) {
     setrlimit(resource, &both);
 }
 
-/// Every file access that Landlock's first version knows, with no rule that allows any.
-void giveUpFiles() {
+/// Lets files beneath `folder` be read, whatever else is given up.
+void keepReadable(int ruleset, const std::string& folder) {
+    const int place = open(folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    if (place < 0)
+        return;
+    landlock_path_beneath_attr rule{};
+    rule.allowed_access = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
+    rule.parent_fd = place;
+    syscall(SYS_landlock_add_rule, ruleset, LANDLOCK_RULE_PATH_BENEATH, &rule, 0);
+    close(place);
+}
+
+/// Every file access that Landlock's first version knows, with no rule that allows any but the one.
+void giveUpFiles(const std::string& readableFolder) {
     landlock_ruleset_attr attributes{};
     attributes.handled_access_fs = (LANDLOCK_ACCESS_FS_MAKE_SYM << 1) - 1;
     const auto ruleset = static_cast<int>(syscall(SYS_landlock_create_ruleset, &attributes, sizeof(attributes), 0));
     if (ruleset < 0)
         return;
+    if (!readableFolder.empty())
+        keepReadable(ruleset, readableFolder);
     syscall(SYS_landlock_restrict_self, ruleset, 0);
     close(ruleset);
 }
@@ -111,8 +126,8 @@ void enter() {
     prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
 }
 
-void seal() {
-    giveUpFiles();
+void seal(const std::string& readableFolder) {
+    giveUpFiles(readableFolder);
     giveUpCalls();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <string>
+
 namespace vellumry::readersandbox {
 
 /// Gives up what the reader process does not need, for good: priority, memory beyond 2 GiB, descriptors besides the
@@ -8,8 +10,9 @@ namespace vellumry::readersandbox {
 void enter();
 
 /// Gives up the rest once all decoders are loaded: the file system (Landlock, Linux 5.13), the network, other processes
-/// and new programs (seccomp). What the kernel does not know is left out.
-void seal();
+/// and new programs (seccomp). What lies in `readableFolder` can still be read; empty: nothing can. What the kernel
+/// does not know is left out.
+void seal(const std::string& readableFolder = {});
 
 /// Allows `seconds` of processor time from now; a decoder that uses them up ends the process.
 void allowProcessorSeconds(unsigned seconds);

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reader/ReaderService.h"
 
+#include "reader/PictureDecoder.h"
 #include "reader/ReaderSandbox.h"
 #include "reader/ReaderSocket.h"
 
+#include <new>
 #include <sys/mman.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -12,7 +14,9 @@ namespace vellumry {
 
 namespace {
 
+/// The asking side ends a slower reader by the clock; these end one that nobody watches any more.
 constexpr unsigned processorSeconds = 20;
+constexpr unsigned processorSecondsForReading = 180;
 constexpr std::chrono::seconds transferTime{10};
 
 /// A picture's bytes, shared with the process that sent them.
@@ -66,14 +70,44 @@ ReaderService::End ReaderService::run() {
     return End::idle;
 }
 
-bool ReaderService::answer(const readerprotocol::Request& request, int picture) {
+readerprotocol::Reply ReaderService::read(QByteArrayView file, int longerSide, PictureReader::Mode mode) {
+    readersandbox::allowProcessorSeconds(processorSecondsForReading);
+    readerprotocol::Reply reply;
+    const QImage picture = picturedecoder::imageForReading(file, longerSide);
+    if (picture.isNull())
+        return reply;
+    reply.pixelSize = picture.size();
+    try {
+        if (m_pictureReader)
+            reply.text = m_pictureReader->read(picture, mode);
+    } catch (const std::bad_alloc&) {
+        reply.text.reset();
+    }
+    return reply;
+}
+
+readerprotocol::Reply ReaderService::replyTo(const readerprotocol::Request& request, QByteArrayView file) {
+    using readerprotocol::Operation;
+    switch (request.operation) {
+    case Operation::readFast:
+        return read(file, request.pixels, PictureReader::Mode::fast);
+    case Operation::readAccurately:
+        return read(file, request.pixels, PictureReader::Mode::accurate);
+    case Operation::summarise:
+        break;
+    }
     readersandbox::allowProcessorSeconds(processorSeconds);
+    return m_summariser.summarise(file, request.pixels);
+}
+
+bool ReaderService::answer(const readerprotocol::Request& request, int picture) {
     const MappedPicture file(picture);
-    readerprotocol::Reply reply = m_summariser.summarise(file.bytes(), request.thumbnailPixels);
+    readerprotocol::Reply reply = replyTo(request, file.bytes());
     reply.id = request.id;
     auto message = readerprotocol::encode(reply);
     if (!message) {
         reply.thumbnail.reset();
+        reply.text.reset();
         message = readerprotocol::encode(reply);
     }
     return message && readersocket::send(m_socket, *message, -1, readersocket::Clock::now() + transferTime);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "reader/ImageSummariser.h"
+#include "reader/PictureReader.h"
 
 #include <chrono>
 
@@ -15,19 +16,24 @@ public:
         violation ///< the other side does not speak the protocol
     };
 
-    /// `socket` stays the caller's.
-    explicit ReaderService(int socket, std::chrono::milliseconds patience = std::chrono::seconds(10))
+    /// `socket` stays the caller's. Without a picture reader, reading fails.
+    explicit ReaderService(int socket, std::unique_ptr<PictureReader> pictureReader = nullptr,
+                           std::chrono::milliseconds patience = std::chrono::seconds(10))
         : m_socket(socket)
-        , m_patience(patience) {}
+        , m_patience(patience)
+        , m_pictureReader(std::move(pictureReader)) {}
 
     [[nodiscard]] End run();
 
 private:
+    [[nodiscard]] readerprotocol::Reply replyTo(const readerprotocol::Request& request, QByteArrayView file);
+    [[nodiscard]] readerprotocol::Reply read(QByteArrayView file, int longerSide, PictureReader::Mode mode);
     [[nodiscard]] bool answer(const readerprotocol::Request& request, int picture);
 
     int m_socket;
     std::chrono::milliseconds m_patience;
     ImageSummariser m_summariser;
+    std::unique_ptr<PictureReader> m_pictureReader;
 };
 
 } // namespace vellumry

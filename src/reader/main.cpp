@@ -3,15 +3,36 @@
 #include "reader/ReaderService.h"
 
 #include <QCoreApplication>
+#include <fcntl.h>
+#include <string_view>
 #include <unistd.h>
 
 using namespace vellumry;
 
+namespace {
+
+/// The recognition library says on the error output what it makes of a picture; that is nobody's business.
+void silenceErrors() {
+    const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+    dup2(nowhere, STDERR_FILENO);
+    close(nowhere);
+}
+
+} // namespace
+
+/// `vellumry-reader`: opens pictures. `vellumry-reader text`: reads the text in them too.
 int main(int argc, char** argv) {
     readersandbox::enter();
     // Tells Qt where its decoders are; there is no event loop.
     const QCoreApplication application(argc, argv);
-    ReaderService service(STDIN_FILENO);
-    readersandbox::seal();
+    std::unique_ptr<PictureReader> pictureReader;
+    std::string languages;
+    if (argc > 1 && std::string_view(argv[1]) == "text") {
+        silenceErrors();
+        pictureReader = PictureReader::create();
+        languages = pictureReader ? pictureReader->dataFolder().toStdString() : std::string();
+    }
+    ReaderService service(STDIN_FILENO, std::move(pictureReader));
+    readersandbox::seal(languages);
     return service.run() == ReaderService::End::idle ? 0 : 1;
 }

@@ -87,6 +87,7 @@ AppEnvironment::AppEnvironment(Platform& platform, std::unique_ptr<Preferences> 
     m_watcher =
         std::make_unique<ClipboardWatcher>(*platform.pasteboard, *m_store, *platform.defaults, *platform.bookmarks,
                                            *platform.images, [frontmost] { return frontmost->current(); });
+    m_textReading = std::make_unique<TextReading>(platform, *m_store);
     m_paster = std::make_unique<PasteEngine>(*m_store, *platform.defaults, systemHooks());
     m_hotKeyCenter = std::make_unique<HotKeyCenter>(*platform.hotKeys);
     m_toast = std::make_unique<ToastController>(*platform.panelSurface, m_views);
@@ -151,6 +152,8 @@ void AppEnvironment::wireCapture() {
         showToast({QStringLiteral("eye.slash.fill"), localised("Skipped. That copy wasn't saved"),
                    ToastMessage::Tone::success});
     };
+    m_watcher->onCapture = [this](const ClipRef& clip) { m_textReading->take(clip); };
+    m_textReading->onToast = [this](const ToastMessage& message) { showToast(message); };
     m_watcher->onStored = [this](const ClipRef& clip, qint64 changeCount) {
         m_captured = Captured{changeCount, clip->id};
     };
@@ -161,6 +164,7 @@ void AppEnvironment::wireCapture() {
 }
 
 void AppEnvironment::wireScreenshots() {
+    m_screenshots->onImported = [this](const ClipRef& clip) { m_textReading->take(clip); };
     m_screenshots->hasRoomForImages = [folder = m_imageVolume] { return hasRoomForImages(folder); };
     m_screenshots->isAllowed = [this] {
         return !m_watcher->pausedUntil || *m_watcher->pausedUntil <= currentDate();
@@ -185,6 +189,7 @@ void AppEnvironment::start() {
     (void)reloadShortcuts();
     startMaintenance();
     m_store->enforceRetention(currentDate());
+    m_textReading->scheduleBacklog();
     m_screenshotSaving->startIfWanted();
     showStartupAlert();
     QTimer::singleShot(warmUpDelay, this, [this] { m_panel->warmUp(); });

@@ -11,6 +11,7 @@
 #include "shell/Platform.h"
 #include "shell/Preferences.h"
 #include "shell/ScreenshotSaving.h"
+#include "shell/TextReading.h"
 #include "shell/ToastController.h"
 
 #include <QCoroTask>
@@ -52,6 +53,7 @@ public:
     [[nodiscard]] ClipStore& store() { return *m_store; }
     [[nodiscard]] ScreenshotSaving& screenshotSaving() { return *m_screenshotSaving; }
     [[nodiscard]] PanelController& panel() { return *m_panel; }
+    [[nodiscard]] TextReadingQueue& textReader() { return m_textReading->queue(); }
 
 private:
     AppEnvironment(Platform& platform, std::unique_ptr<Preferences> preferences, std::unique_ptr<ClipStore> store,
@@ -79,6 +81,7 @@ private:
     std::unique_ptr<ClipStore> m_store;
     ViewEngine m_views;
     std::unique_ptr<ClipboardWatcher> m_watcher;
+    std::unique_ptr<TextReading> m_textReading;
     std::unique_ptr<PasteEngine> m_paster;
     std::unique_ptr<ScreenshotImporter> m_screenshots;
     std::unique_ptr<ScreenshotSaving> m_screenshotSaving;

@@ -14,6 +14,7 @@
 #include "platform/Pasteboard.h"
 #include "platform/SingleInstance.h"
 #include "platform/SourceApp.h"
+#include "platform/TextReader.h"
 
 #include <QString>
 #include <memory>
@@ -33,6 +34,7 @@ struct Platform {
     std::unique_ptr<PasteTarget> pasteTarget;
     std::unique_ptr<PanelSurface> panelSurface;
     std::unique_ptr<ImageCodec> images;
+    std::unique_ptr<TextReader> textReader;
     std::unique_ptr<FileBookmarks> bookmarks;
     std::unique_ptr<FolderWatching> folders;
     /// What punctual expiry waits with; null where the system has nothing better than an interval.

@@ -32,7 +32,7 @@ TEST(ReaderProtocol, AnUnknownOperationIsRefused) {
 }
 
 TEST(ReaderProtocol, AThumbnailOfNoOrAbsurdSizeIsRefused) {
-    for (const qint32 pixels : {0, -1, maxThumbnailPixels + 1})
+    for (const qint32 pixels : {0, -1, maxPixels + 1})
         EXPECT_EQ(decodeRequest(withoutLength(encode(Request{1, Operation::summarise, pixels}))), std::nullopt)
             << pixels;
 }

@@ -36,8 +36,9 @@ Descriptor memoryFileOf(const QByteArray& picture) {
     return file;
 }
 
-/// Starts `path` with `input` as its standard input, with no signal blocked or ignored; 0 on failure.
-pid_t spawn(const QByteArray& path, int input) {
+/// Starts `path` with `argument` and with `input` as its standard input, with no signal blocked or ignored; 0 on
+/// failure.
+pid_t spawn(const QByteArray& path, const QByteArray& argument, int input) {
     posix_spawn_file_actions_t actions;
     posix_spawnattr_t attributes;
     posix_spawn_file_actions_init(&actions);
@@ -51,7 +52,8 @@ pid_t spawn(const QByteArray& path, int input) {
     posix_spawnattr_setsigdefault(&attributes, &all);
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
     QByteArray name = path;
-    char* arguments[] = {name.data(), nullptr};
+    QByteArray first = argument;
+    char* arguments[] = {name.data(), first.isEmpty() ? nullptr : first.data(), nullptr};
     pid_t process = 0;
     if (posix_spawn(&process, path.constData(), &actions, &attributes, arguments, environ) != 0)
         process = 0;
@@ -62,39 +64,40 @@ pid_t spawn(const QByteArray& path, int input) {
 
 } // namespace
 
-ReaderProcess::ReaderProcess(QString path, std::chrono::milliseconds deadline)
+ReaderProcess::ReaderProcess(QString path, QByteArray argument)
     : m_path(std::move(path))
-    , m_deadline(deadline) {}
+    , m_argument(std::move(argument)) {}
 
 ReaderProcess::~ReaderProcess() {
     finish();
 }
 
-std::optional<readerprotocol::Reply> ReaderProcess::ask(const QByteArray& picture, int thumbnailPixels) {
+ReaderProcess::Answer ReaderProcess::ask(const QByteArray& picture, readerprotocol::Operation operation, int pixels,
+                                         std::chrono::milliseconds deadline) {
     const Descriptor file = memoryFileOf(picture);
     if (!file.isValid())
-        return std::nullopt;
-    const readerprotocol::Request request{++m_lastId, readerprotocol::Operation::summarise, thumbnailPixels};
+        return {};
+    const readerprotocol::Request request{++m_lastId, operation, pixels};
+    const auto end = readersocket::Clock::now() + deadline;
     readerprotocol::Reply reply;
     // A reader goes away when it has been idle, perhaps in this very moment: that is not the picture's fault.
     for (int attempt = 0; attempt < 2 && !m_isInterrupted; ++attempt) {
         if (!isRunning() && !start())
-            return std::nullopt;
-        switch (exchange(request, file.get(), reply)) {
+            return {};
+        switch (exchange(request, file.get(), end, reply)) {
         case Outcome::answered:
-            return reply;
+            return {reply};
         case Outcome::failed:
-            return std::nullopt;
+            return {std::nullopt, readersocket::Clock::now() >= end};
         case Outcome::readerHadLeft:
             break;
         }
     }
-    return std::nullopt;
+    return {};
 }
 
 ReaderProcess::Outcome ReaderProcess::exchange(const readerprotocol::Request& request, int picture,
-                                               readerprotocol::Reply& reply) {
-    const auto deadline = readersocket::Clock::now() + m_deadline;
+                                               readersocket::Clock::time_point deadline, readerprotocol::Reply& reply) {
     const bool isSent = readersocket::send(m_socket.get(), readerprotocol::encode(request), picture, deadline);
     const auto message =
         isSent ? readersocket::receive(m_socket.get(), readerprotocol::maxReplyBytes, deadline) : std::nullopt;
@@ -116,7 +119,7 @@ bool ReaderProcess::start() {
     {
         const std::lock_guard lock(m_mutex);
         if (!m_isInterrupted)
-            process = m_process = spawn(QFile::encodeName(m_path), other.get());
+            process = m_process = spawn(QFile::encodeName(m_path), m_argument, other.get());
     }
     if (process == 0)
         return false;

@@ -16,8 +16,8 @@ namespace vellumry {
 /// on one thread, except `interrupt`.
 class ReaderProcess {
 public:
-    /// `path` is the program. A reply that has not come after `deadline` never will: the process is ended.
-    ReaderProcess(QString path, std::chrono::milliseconds deadline);
+    /// `path` is the program, started with `argument` unless that is empty.
+    explicit ReaderProcess(QString path, QByteArray argument = {});
     ReaderProcess(const ReaderProcess&) = delete;
     ReaderProcess& operator=(const ReaderProcess&) = delete;
     /// Ends the process.
@@ -27,9 +27,14 @@ public:
     /// receiver owns it and calls `reap` then, so that a process that went away idle does not stay a zombie.
     std::function<void(readersocket::Descriptor)> onStarted;
 
-    /// Hands the picture over and waits for the answer. Nothing when the process could not be started, died or took too
-    /// long.
-    [[nodiscard]] std::optional<readerprotocol::Reply> ask(const QByteArray& picture, int thumbnailPixels);
+    struct Answer {
+        std::optional<readerprotocol::Reply> reply; ///< nothing when the process could not be started, died or was late
+        bool wasLate = false;
+    };
+    /// Hands the picture over and waits for the answer. A reply that has not come after `deadline` never will: the
+    /// process is ended.
+    [[nodiscard]] Answer ask(const QByteArray& picture, readerprotocol::Operation operation, int pixels,
+                             std::chrono::milliseconds deadline);
     /// Collects a process that has ended of its own; does nothing while it runs.
     void reap();
     /// Ends a running request at once and lets no other begin. Any thread.
@@ -38,14 +43,15 @@ public:
 private:
     enum class Outcome { answered, failed, readerHadLeft };
 
-    [[nodiscard]] Outcome exchange(const readerprotocol::Request& request, int picture, readerprotocol::Reply& reply);
+    [[nodiscard]] Outcome exchange(const readerprotocol::Request& request, int picture,
+                                   readersocket::Clock::time_point deadline, readerprotocol::Reply& reply);
     [[nodiscard]] bool start();
     [[nodiscard]] bool isRunning();
     /// Ends the process; true when it had left of its own and in peace before.
     bool finish();
 
     QString m_path;
-    std::chrono::milliseconds m_deadline;
+    QByteArray m_argument;
     readersocket::Descriptor m_socket;
     std::atomic<bool> m_isInterrupted{false};
     /// Held while the process is collected: until then its number is nobody else's.

@@ -22,6 +22,8 @@ target_sources(
     desktop/ProcessHardening.cpp desktop/ProcessHardening.h
     desktop/ReaderImageCodec.cpp desktop/ReaderImageCodec.h
     desktop/ReaderProcess.cpp desktop/ReaderProcess.h
+    desktop/ReaderTextReader.cpp desktop/ReaderTextReader.h
+    desktop/ReaderWorker.cpp desktop/ReaderWorker.h
     desktop/SecretServiceSession.cpp desktop/SecretServiceSession.h
     desktop/TimerfdDateTimer.cpp desktop/TimerfdDateTimer.h
     desktop/TrashFolders.cpp desktop/TrashFolders.h)

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "reader/TesseractLibrary.h"
+
+#include <cstdlib>
+#include <dlfcn.h>
+
+namespace vellumry {
+
+namespace {
+
+/// Looks functions up by name and remembers whether one was missing.
+class Symbols {
+public:
+    explicit Symbols(void* handle)
+        : m_handle(handle) {}
+
+    template <typename Function>
+    void find(Function& function, const char* name) {
+        function = reinterpret_cast<Function>(dlsym(m_handle, name));
+        m_isComplete = m_isComplete && function;
+    }
+    [[nodiscard]] bool isComplete() const { return m_isComplete; }
+
+private:
+    void* m_handle;
+    bool m_isComplete = true;
+};
+
+} // namespace
+
+std::unique_ptr<const TesseractLibrary> TesseractLibrary::load() {
+    // OpenMP reads it once, when it is loaded. More threads cost more than they bring on pictures of this size.
+    setenv("OMP_THREAD_LIMIT", "1", 1);
+    void* handle = dlopen("libtesseract.so.5", RTLD_NOW | RTLD_LOCAL);
+    if (!handle)
+        return nullptr;
+    auto library = std::make_unique<TesseractLibrary>();
+    Symbols symbols(handle);
+    symbols.find(library->create, "TessBaseAPICreate");
+    symbols.find(library->destroy, "TessBaseAPIDelete");
+    symbols.find(library->init, "TessBaseAPIInit2");
+    symbols.find(library->setVariable, "TessBaseAPISetVariable");
+    symbols.find(library->setPageSegMode, "TessBaseAPISetPageSegMode");
+    symbols.find(library->setImage, "TessBaseAPISetImage");
+    symbols.find(library->setSourceResolution, "TessBaseAPISetSourceResolution");
+    symbols.find(library->recognize, "TessBaseAPIRecognize");
+    symbols.find(library->resultIterator, "TessBaseAPIGetIterator");
+    symbols.find(library->clear, "TessBaseAPIClear");
+    symbols.find(library->deleteResultIterator, "TessResultIteratorDelete");
+    symbols.find(library->pageIterator, "TessResultIteratorGetPageIteratorConst");
+    symbols.find(library->next, "TessResultIteratorNext");
+    symbols.find(library->utf8Text, "TessResultIteratorGetUTF8Text");
+    symbols.find(library->confidence, "TessResultIteratorConfidence");
+    symbols.find(library->boundingBox, "TessPageIteratorBoundingBox");
+    symbols.find(library->deleteText, "TessDeleteText");
+    return symbols.isComplete() ? std::move(library) : nullptr;
+}
+
+} // namespace vellumry
