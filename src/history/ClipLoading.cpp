@@ -2,6 +2,7 @@
 #include "history/ClipLoading.h"
 
 #include "foundation/SerialExecutor.h"
+#include "foundation/UnusedMemory.h"
 #include "history/ClipMeta.h"
 #include "history/ClipRows.h"
 #include "history/StringPool.h"
@@ -150,6 +151,9 @@ std::vector<ClipRef> ClipLoading::finish() {
             std::rethrow_exception(batch->error);
         std::ranges::move(batch->clips, std::back_inserter(clips));
     }
+    // What was sealed is as much again as what was in it.
+    d->batches.clear();
+    giveBackUnusedMemory();
     return clips;
 }
 

@@ -3,6 +3,7 @@
 
 #include "foundation/SecureBytes.h"
 #include "foundation/Text.h"
+#include "foundation/UnusedMemory.h"
 #include "history/BitSet.h"
 #include "history/ClipSearchOrder.h"
 
@@ -18,6 +19,8 @@ using Slot = FoldedIndex::Slot;
 
 /// Looking at one text by itself costs about as much as scanning this many bytes more.
 constexpr std::size_t costOfOneText = 128;
+/// So many texts folded at once are a first search.
+constexpr std::size_t manyTexts = 1000;
 
 /// Everything of a clip that its reader may remember, in one text.
 QByteArray haystackOf(const Clip& clip) {
@@ -120,11 +123,15 @@ void ClipSearch::Private::follow(const std::vector<ClipRef>& clips, std::optiona
             return *known;
         return *slotOf.insert(clip.id, index.append(haystackOf(clip)));
     };
+    const std::size_t slotsBefore = index.slotCount();
     const bool hasChanged = order.follow(clips, index, slotOfClip, revision);
     if (!hasChanged)
         return;
     found.reset();
     index.recycle();
+    // Folding the whole history leaves as much behind as it makes.
+    if (index.slotCount() - slotsBefore > manyTexts)
+        giveBackUnusedMemory();
 }
 
 /// The only texts that the needle can be in, where that is known without looking into them.
