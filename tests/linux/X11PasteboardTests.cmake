@@ -11,6 +11,7 @@ vellumry_test(
     X11PasteboardWorld.cpp
     X11PasteboardWorld.h
     X11PasteboardWriteTest.cpp
+    X11SnapshotTest.cpp
     XPeer.cpp
     XPeer.h
-  LINKS vellumry_linux PkgConfig::X11_PASTEBOARD_TESTS)
+  LINKS vellumry_linux vellumry_capture PkgConfig::X11_PASTEBOARD_TESTS)

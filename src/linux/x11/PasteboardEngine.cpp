@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/PasteboardEngine.h"
 
+#include "linux/x11/TargetCoding.h"
+
 #include <algorithm>
 #include <utility>
 #include <xcb/xfixes.h>
@@ -158,7 +160,7 @@ void PasteboardEngine::askForTargets(PendingResult<std::shared_ptr<const Selecti
     request.deadline = answerDeadline;
     request.done = [=, this](std::optional<XcbProperty> targets) {
         const Instant answered = std::chrono::steady_clock::now();
-        if (targets)
+        if (targets && !targets->isTooLong)
             result.deliver(
                 SelectionOffer::of(*m_connection, *targets, m_limits.targetCount, {changeCount(), time, deadline}));
         else if (!m_ended && time != XCB_CURRENT_TIME && count == changeCount() && answered < answerDeadline)
@@ -183,12 +185,15 @@ void PasteboardEngine::read(const std::shared_ptr<const SelectionOffer>& offer, 
     request.target = offer->atoms.value(target);
     request.time = offer->moment.time;
     request.maxBytes = maxBytes;
-    request.silence = m_limits.silence;
+    request.silence = targetcoding::isMadeOnDemand(target) ? m_limits.rendering : m_limits.silence;
     request.deadline = offer->moment.deadline;
     request.done = [this, result](std::optional<XcbProperty> property) {
         // Elements of 32 bits are atoms, windows, numbers: never content.
         std::shared_ptr<SelectionBytes> given;
-        if (property && property->format != 32) {
+        if (property && property->isTooLong) {
+            given = std::make_shared<SelectionBytes>();
+            given->wasLarger = true;
+        } else if (property && property->format != 32) {
             given = std::make_shared<SelectionBytes>();
             given->propertyType = m_connection->atomName(property->type);
             given->bytes = std::move(property->bytes);
@@ -225,7 +230,8 @@ void PasteboardEngine::handleEvent(const xcb_generic_event_t& event, Instant now
         break;
     case XCB_SELECTION_REQUEST: {
         const auto& request = as<xcb_selection_request_event_t>(event);
-        if (m_owner.handleRequest(request, now) && request.selection == m_clipboard)
+        // Whoever takes the primary selection takes the same thing, as long as it was offered there too.
+        if (m_owner.handleRequest(request, now) && m_owner.contents(request.selection) == m_owner.contents(m_clipboard))
             m_wasServed.store(true, std::memory_order_release);
         break;
     }

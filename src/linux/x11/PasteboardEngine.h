@@ -22,6 +22,7 @@ namespace vellumry {
 struct SelectionBytes {
     QString propertyType;
     QByteArray bytes;
+    bool wasLarger = false; ///< there was more than was asked for, and nothing is here
 };
 
 /// The pasteboard's side of the conversation with the X server: follows who owns the clipboard, reads it, owns it, and
@@ -61,7 +62,8 @@ public:
     void disown(const std::shared_ptr<const OfferedContents>& contents);
     /// Null when nobody owns the clipboard or the owner does not say in time what it offers.
     void readOffer(PendingResult<std::shared_ptr<const SelectionOffer>> result, Instant now);
-    /// Null when the offer is of the past or the owner did not give the target.
+    /// Null when the offer is of the past or the owner did not give the target. Pictures and documents, which programs
+    /// make only when they are asked for, are given more time than the rest.
     void read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target, qint64 maxBytes,
               PendingResult<std::shared_ptr<const SelectionBytes>> result, Instant now);
 

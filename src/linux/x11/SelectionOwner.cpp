@@ -105,7 +105,7 @@ void SelectionOwner::answerTargets(const Holding& holding, Key destination) {
 SelectionOwner::Answer SelectionOwner::answerMultiple(const Holding& holding, Key destination, Instant now) {
     const std::optional<XcbProperty> asked =
         m_connection.property(destination.first, destination.second, longestPairList, false);
-    if (!asked || asked->format != 32)
+    if (!asked || asked->isTooLong || asked->format != 32)
         return Answer::refused;
     std::vector<quint32> pairs(static_cast<std::size_t>(asked->bytes.size()) / sizeof(quint32) / 2 * 2);
     if (!pairs.empty())

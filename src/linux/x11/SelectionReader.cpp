@@ -15,6 +15,12 @@ constexpr std::chrono::seconds drainLimit{5};
 /// A size that an owner announces is only its word; more than this is not set aside for it.
 constexpr qint64 trustedAnnouncement = 16 * 1024 * 1024;
 
+XcbProperty tooLong() {
+    XcbProperty property;
+    property.isTooLong = true;
+    return property;
+}
+
 } // namespace
 
 void SelectionReader::read(Request request, Instant now) {
@@ -90,9 +96,10 @@ void SelectionReader::handleSelectionNotify(const xcb_selection_notify_event_t& 
         beginIncremental(found, *answer, now);
         return;
     }
-    const bool isAnswer = answer && answer->type != XCB_ATOM_NONE && answer->bytes.size() <= transfer.request.maxBytes;
-    if (!isAnswer)
+    if (answer && answer->type == XCB_ATOM_NONE)
         answer.reset();
+    else if (answer && answer->bytes.size() > transfer.request.maxBytes)
+        answer = tooLong();
     finish(found, std::move(answer));
 }
 
@@ -121,7 +128,7 @@ void SelectionReader::handleNewValue(xcb_atom_t property, Instant now) {
     } else if (found->second.phase == Phase::draining) {
         // Nothing is read but whether this was the end.
         const std::optional<XcbProperty> chunk = m_connection.property(m_connection.window(), property, 0, true);
-        if (chunk && chunk->type != XCB_ATOM_NONE)
+        if (chunk && !chunk->isTooLong && chunk->type != XCB_ATOM_NONE)
             m_transfers.erase(found);
     }
 }
@@ -131,8 +138,8 @@ void SelectionReader::takeChunk(Transfers::iterator found, Instant now) {
     XcbProperty& collected = transfer.collected;
     const qint64 room = transfer.request.maxBytes - collected.bytes.size();
     const std::optional<XcbProperty> chunk = m_connection.property(m_connection.window(), found->first, room, true);
-    if (!chunk) {
-        giveUp(found, now);
+    if (!chunk || chunk->isTooLong) {
+        giveUp(found, now, chunk);
         return;
     }
     // The property may be gone when the owner's own clumsiness deleted it.
@@ -163,7 +170,7 @@ void SelectionReader::finish(Transfers::iterator found, std::optional<XcbPropert
         done(std::move(outcome));
 }
 
-void SelectionReader::giveUp(Transfers::iterator found, Instant now) {
+void SelectionReader::giveUp(Transfers::iterator found, Instant now, std::optional<XcbProperty> outcome) {
     Transfer& transfer = found->second;
     const Done done = std::exchange(transfer.request.done, nullptr);
     transfer.collected = {};
@@ -174,7 +181,7 @@ void SelectionReader::giveUp(Transfers::iterator found, Instant now) {
         transfer.phase = Phase::abandoned;
     }
     if (done)
-        done(std::nullopt);
+        done(std::move(outcome));
 }
 
 void SelectionReader::endAll(xcb_atom_t selection, Instant now) {

@@ -19,7 +19,8 @@ class SelectionReader {
 public:
     using Instant = std::chrono::steady_clock::time_point;
     using Duration = std::chrono::milliseconds;
-    /// Nothing when the owner refused, fell silent, went away or gave more than was allowed.
+    /// Nothing when the owner refused, fell silent or went away; a property that `isTooLong` when it gave more than was
+    /// allowed.
     using Done = std::function<void(std::optional<XcbProperty>)>;
 
     struct Request {
@@ -68,7 +69,7 @@ private:
     void beginIncremental(Transfers::iterator transfer, const XcbProperty& announcement, Instant now);
     void takeChunk(Transfers::iterator transfer, Instant now);
     void finish(Transfers::iterator transfer, std::optional<XcbProperty> outcome);
-    void giveUp(Transfers::iterator transfer, Instant now);
+    void giveUp(Transfers::iterator transfer, Instant now, std::optional<XcbProperty> outcome = std::nullopt);
 
     XcbConnection& m_connection;
     Transfers m_transfers; ///< by the property that the answer goes to

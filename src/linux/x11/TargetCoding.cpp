@@ -68,6 +68,10 @@ std::optional<QByteArray> encode(const QString& uniformType, const QString& targ
     return bytes;
 }
 
+bool isMadeOnDemand(const QString& target) {
+    return target.startsWith(u"image/", Qt::CaseInsensitive) || target == u"application/pdf";
+}
+
 QString propertyTypeOf(const QString& target) {
     return target == u"TEXT" ? QStringLiteral("UTF8_STRING") : target;
 }

@@ -20,6 +20,10 @@ namespace vellumry::targetcoding {
 [[nodiscard]] std::optional<QByteArray> encode(const QString& uniformType, const QString& target,
                                                const QByteArray& bytes);
 
+/// True for pictures and documents: programs compress and render these only when they are asked for them, which takes
+/// seconds for large ones.
+[[nodiscard]] bool isMadeOnDemand(const QString& target);
+
 /// The property type that goes with `encode`: the target itself, but for TEXT, which names the encoding chosen.
 [[nodiscard]] QString propertyTypeOf(const QString& target);
 

@@ -16,6 +16,8 @@ struct ForeignReading::State {
     qint64 maxFileListBytes = 0;
     /// What the owner's list of files held; absent until it was read.
     std::optional<filelist::Entries> entries;
+    /// The representation asked for last was larger than was wanted.
+    bool wasLarger = false;
 
     [[nodiscard]] bool isCurrent() const {
         const std::shared_ptr<PasteboardThread> running = thread.lock();
@@ -56,7 +58,7 @@ QCoro::Task<> readFileList(std::shared_ptr<State> state) {
         if (!state->offer->targets.contains(target))
             continue;
         const std::shared_ptr<const SelectionBytes> list = co_await readTarget(state, target, state->maxFileListBytes);
-        if (list)
+        if (list && !list->wasLarger)
             entries = filelist::parse(list->bytes);
         if (!entries.files.isEmpty() || entries.webAddress)
             break;
@@ -78,14 +80,18 @@ QCoro::Task<std::optional<QByteArray>> readRepresentation(std::shared_ptr<State>
         if (!given)
             continue;
         std::optional<QByteArray> bytes = targetcoding::decode(type, *target, given->propertyType, given->bytes);
-        if (bytes && bytes->size() <= maxBytes)
+        state->wasLarger = given->wasLarger || (bytes && bytes->size() > maxBytes);
+        if (state->wasLarger)
+            break;
+        if (bytes)
             co_return bytes;
     }
     co_return std::nullopt;
 }
 
-std::optional<QByteArray> within(const QByteArray& bytes, qint64 maxBytes) {
-    if (bytes.size() > maxBytes)
+std::optional<QByteArray> within(const QByteArray& bytes, qint64 maxBytes, bool& wasLarger) {
+    wasLarger = bytes.size() > maxBytes;
+    if (wasLarger)
         return std::nullopt;
     return bytes;
 }
@@ -151,6 +157,7 @@ QCoro::Task<std::vector<QStringList>> ForeignReading::itemTypes() {
 
 QCoro::Task<std::optional<QByteArray>> ForeignReading::data(qsizetype item, QString type, qint64 maxBytes) {
     const std::shared_ptr<State> state = m_state;
+    state->wasLarger = false;
     // A hint that the copy is a secret is a secret's neighbour: it is not read either.
     if (!state->isCurrent() || item < 0 || type == uniformtype::concealed)
         co_return std::nullopt;
@@ -162,14 +169,18 @@ QCoro::Task<std::optional<QByteArray>> ForeignReading::data(qsizetype item, QStr
     if (state->entries && type == uniformtype::fileUrl) {
         if (item >= state->entries->files.size())
             co_return std::nullopt;
-        co_return within(state->entries->files.at(item), maxBytes);
+        co_return within(state->entries->files.at(item), maxBytes, state->wasLarger);
     }
     if (item != 0)
         co_return std::nullopt;
     if (state->entries && state->entries->webAddress && type == uniformtype::url)
-        co_return within(*state->entries->webAddress, maxBytes);
+        co_return within(*state->entries->webAddress, maxBytes, state->wasLarger);
     std::optional<QByteArray> bytes = co_await readRepresentation(state, type, maxBytes);
     co_return bytes;
+}
+
+bool ForeignReading::wasLarger() const {
+    return m_state->wasLarger;
 }
 
 bool ForeignReading::isCurrent() const {
@@ -201,6 +212,7 @@ QCoro::Task<std::vector<QStringList>> OwnReading::itemTypes() {
 }
 
 QCoro::Task<std::optional<QByteArray>> OwnReading::data(qsizetype item, QString type, qint64 maxBytes) {
+    m_wasLarger = false;
     const std::vector<PasteboardItem>& items = m_contents->items();
     if (!isCurrent() || item < 0 || item >= static_cast<qsizetype>(items.size()))
         co_return std::nullopt;
@@ -208,7 +220,7 @@ QCoro::Task<std::optional<QByteArray>> OwnReading::data(qsizetype item, QString 
     const auto found = representations.find(type);
     if (found == representations.end())
         co_return std::nullopt;
-    co_return within(found->second, maxBytes);
+    co_return within(found->second, maxBytes, m_wasLarger);
 }
 
 bool OwnReading::isCurrent() const {

@@ -22,6 +22,7 @@ public:
     [[nodiscard]] QStringList types() const override;
     [[nodiscard]] QCoro::Task<std::vector<QStringList>> itemTypes() override;
     [[nodiscard]] QCoro::Task<std::optional<QByteArray>> data(qsizetype item, QString type, qint64 maxBytes) override;
+    [[nodiscard]] bool wasLarger() const override;
     [[nodiscard]] bool isCurrent() const override;
 
     struct State;
@@ -39,12 +40,14 @@ public:
     [[nodiscard]] QStringList types() const override;
     [[nodiscard]] QCoro::Task<std::vector<QStringList>> itemTypes() override;
     [[nodiscard]] QCoro::Task<std::optional<QByteArray>> data(qsizetype item, QString type, qint64 maxBytes) override;
+    [[nodiscard]] bool wasLarger() const override { return m_wasLarger; }
     [[nodiscard]] bool isCurrent() const override;
 
 private:
     const std::weak_ptr<PasteboardThread> m_thread;
     const std::shared_ptr<const OfferedContents> m_contents;
     const qint64 m_changeCount;
+    bool m_wasLarger = false;
 };
 
 } // namespace vellumry

@@ -141,8 +141,12 @@ std::optional<XcbProperty> XcbConnection::property(xcb_window_t window, xcb_atom
     }
     if (remove)
         deleteProperty(window, name);
-    if (!isWhole || result.bytes.size() > maxBytes)
+    if (result.bytes.size() > maxBytes) {
+        result.bytes = {};
+        result.isTooLong = true;
+    } else if (!isWhole) {
         return std::nullopt;
+    }
     return result;
 }
 

@@ -26,6 +26,7 @@ struct XcbProperty {
     xcb_atom_t type = XCB_ATOM_NONE;
     int format = 0;
     QByteArray bytes;
+    bool isTooLong = false; ///< there is more than was asked for; `bytes` are empty then
 };
 
 /// A connection of its own to the X server, with one invisible window and a memory of atom names. One thread.
@@ -56,8 +57,8 @@ public:
     /// As `atomNames`, for one.
     [[nodiscard]] QString atomName(xcb_atom_t atom);
 
-    /// Reads a property of ours or another client's window; nothing when it holds more than `maxBytes`. With `remove`
-    /// it is deleted afterwards, whatever came out.
+    /// Reads a property of ours or another client's window, up to `maxBytes`; nothing when the window or the connection
+    /// is gone. With `remove` it is deleted afterwards, whatever came out.
     [[nodiscard]] std::optional<XcbProperty> property(xcb_window_t window, xcb_atom_t name, qint64 maxBytes,
                                                       bool remove);
     void setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, int format, QByteArrayView bytes);

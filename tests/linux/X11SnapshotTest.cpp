@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "capture/PasteboardSnapshot.h"
+#include "foundation/UniformType.h"
+#include "linux/X11PasteboardWorld.h"
+#include "support/FakeFileBookmarks.h"
+#include "support/FakeImageCodec.h"
+
+#include <QElapsedTimer>
+
+namespace vellumry {
+
+namespace {
+
+using Manner = HostileOwner::Manner;
+
+/// A whole copy, from the owner's offer to the draft.
+class X11Snapshot : public X11PasteboardWorld {
+protected:
+    std::optional<ClipDraft> draft(SnapshotLimits limits = {}) {
+        SnapshotRequest request;
+        request.changeCount = pasteboard->changeCount();
+        request.limits = limits;
+        return resultOf(readDraft(pasteboard.get(), DraftBuilder(bookmarks, images), request), 20'000);
+    }
+
+    FakeFileBookmarks bookmarks;
+    FakeImageCodec images;
+};
+
+TEST_F(X11Snapshot, MoreThanAHundredMebibytesInTwoTypesIsRefusedAsAWhole) {
+    HostileOwner& owner = copied({{"UTF8_STRING", QByteArray(51 << 20, 't'), Manner::increments},
+                                  {"text/html", QByteArray(50 << 20, 'h'), Manner::increments},
+                                  {"image/png", "never asked for"}});
+    owner.chunkBytes = 1 << 20;
+    EXPECT_EQ(draft(), std::nullopt);
+    EXPECT_FALSE(owner.requests.contains("image/png"));
+}
+
+TEST_F(X11Snapshot, TheLimitItselfIsKept) {
+    copied({{"UTF8_STRING", QByteArray(700, 't')}, {"text/html", QByteArray(300, 'h')}});
+    SnapshotLimits limits;
+    limits.maxTotalBytes = 1000;
+    ASSERT_TRUE(draft(limits));
+    limits.maxTotalBytes = 999;
+    EXPECT_EQ(draft(limits), std::nullopt);
+}
+
+TEST_F(X11Snapshot, APrivateTypeOfMoreThanTwoMebibytesIsLeftOutAlone) {
+    copied({{"application/x-private", QByteArray(3 << 20, 'p'), Manner::increments}, {"UTF8_STRING", "text"}});
+    const auto result = draft();
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->payload.items.front().order, QStringList{uniformtype::utf8PlainText});
+}
+
+TEST_F(X11Snapshot, WhatIsExpensiveIsAskedForLastAndLostAlone) {
+    // As an office program offers: renderings first, text behind them.
+    HostileOwner& owner =
+        copied({{"application/x-openoffice-bitmap;windows_formatname=\"Bitmap\"", {}, Manner::silence},
+                {"image/png", "pixels"},
+                {"application/pdf", {}, Manner::silence},
+                {"text/rtf", "{\\rtf1 cell}"},
+                {"text/html", "<b>cell</b>"},
+                {"UTF8_STRING", "cell"}});
+    const auto result = draft();
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->payload.items.front().order,
+              (QStringList{uniformtype::png, uniformtype::rtf, uniformtype::html, uniformtype::utf8PlainText}));
+    const QByteArrayList order{"TARGETS", "text/rtf", "text/html", "UTF8_STRING", "image/png", "application/pdf"};
+    EXPECT_EQ(owner.requests.first(order.size()), order);
+}
+
+TEST_F(X11Snapshot, WhatMeansNothingToOthersIsNeitherAskedForNorKept) {
+    HostileOwner& owner = copied({{"GTK_TEXT_BUFFER_CONTENTS", "\x10\x20\x30"},
+                                  {"HOSTNAME", "host"},
+                                  {"CLIENT_WINDOW", "1"},
+                                  {"LENGTH", "4"},
+                                  {"SAVE_TARGETS", ""},
+                                  {"chromium/x-internal-source-rfh-token", "token"},
+                                  {"application/x-libreoffice-internal-id-4711", "id"},
+                                  {"application/x-openoffice-link;windows_formatname=\"Link\"", "link"},
+                                  {"UTF8_STRING", "text"}});
+    const auto result = draft();
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->payload.items.front().representations,
+              (std::map<QString, QByteArray>{{uniformtype::utf8PlainText, "text"}}));
+    EXPECT_EQ(owner.requests, (QByteArrayList{"TARGETS", "UTF8_STRING"}));
+}
+
+} // namespace
+
+} // namespace vellumry
