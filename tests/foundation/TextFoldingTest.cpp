@@ -68,7 +68,21 @@ INSTANTIATE_TEST_SUITE_P(
         FoldingRow{"Family", u"👨‍👩‍👧", u"👨‍👩‍👧"},
         FoldingRow{"EmojiPresentation", u"❤\uFE0F", u"❤"}, FoldingRow{"Deseret", u"\U00010400", u"\U00010428"},
         FoldingRow{"Quotes", u"“Naïve” – it’s…", u"“naive” – it’s…"}, FoldingRow{"Superscript", u"x²", u"x²"},
-        FoldingRow{"MixedRuns", u"ÄbcДEf東gÜ", u"abcдef東gu"}),
+        FoldingRow{"CombiningCrowd", u"Z\u0351\u036B\u0343a\u0328\u0308", u"za"},
+        FoldingRow{"GreekPolytonic", u"ᾧ Ὀδυσσεύς", u"ω οδυσσευσ"}, FoldingRow{"CyrillicBreve", u"и\u0306 Ў", u"и у"},
+        FoldingRow{"Digraph", u"ǅ Ǆ", u"ǆ ǆ"}, FoldingRow{"ThreeMarksOnOneLetter", u"Ǘ Ấ", u"u a"},
+        FoldingRow{"RomanNumeral", u"Ⅷ", u"ⅷ"}, FoldingRow{"HebrewReadyMade", u"\uFB2C\uFB4B", u"שו"},
+        FoldingRow{"ArabicStretch", u"مـحـمد", u"مـحـمد"}, FoldingRow{"ArabicHamza", u"إبراهيم ؤ", u"ابراهيم و"},
+        FoldingRow{"PersianJoiner", u"گفت\u200Cو\u200Cگو", u"گفت\u200Cو\u200Cگو"},
+        FoldingRow{"DevanagariNukta", u"\u0958", u"क\u093C"},
+        FoldingRow{"ThaiDigits", u"\u0E51\u0E52", u"\u0E51\u0E52"},
+        FoldingRow{"HangulHalfWidth", u"\uFFA1\uFFC2", u"\u3131\u314F"},
+        FoldingRow{"HangulCompatibility", u"\u3131\u314F", u"\u3131\u314F"},
+        FoldingRow{"HiraganaIsNotKatakana", u"あア", u"あア"}, FoldingRow{"SmallKanaStay", u"ッﾂｯ", u"ッツッ"},
+        FoldingRow{"HalfWidthWithFullMark", u"ｶ\u3099ﾊﾟ", u"ガパ"}, FoldingRow{"FullWidthSigns", u"￡￦￥", u"£₩¥"},
+        FoldingRow{"FullWidthCyrillicHasNone", u"Ｄж", u"dж"}, FoldingRow{"CompatibilityIsNotWidth", u"①℃㎏", u"①℃㎏"},
+        FoldingRow{"Keycap", u"1\uFE0F\u20E3", u"1\u20E3"}, FoldingRow{"Profession", u"👩🏽\u200D🚀", u"👩🏽\u200D🚀"},
+        FoldingRow{"Flag", u"🇩🇪A", u"🇩🇪a"}, FoldingRow{"MixedRuns", u"ÄbcДEf東gÜ", u"abcдef東gu"}),
     [](const auto& row) { return row.param.name; });
 
 TEST(TextFolding, TwiceIsOnceForEveryScalar) {
