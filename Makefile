@@ -4,7 +4,7 @@ JOBS ?= $(shell nproc)
 export CCACHE_NOHASHDIR = 1
 export CCACHE_BASEDIR = $(CURDIR)
 
-.PHONY: help run test bench lint build asan clean
+.PHONY: help run test torture bench lint build asan clean
 
 help: ## list the tasks
 	@grep -hE '^[a-z]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:.*## /\t/' | expand -t 12
@@ -17,6 +17,11 @@ run: ## install what is missing, build, start the program (without a display: pl
 test: ## install what is missing, build, run every test
 	@scripts/install-deps --test
 	@scripts/test
+
+torture: ## kill the history 500 times, fail its disk, cut its power; nothing may be lost and nothing may come back
+	@scripts/install-deps --test
+	@$(MAKE) --no-print-directory build
+	@for kind in kill disk power; do build/release/tests/torture/history_torture $$kind 500 || exit 1; done
 
 bench: ## build, run the benchmarks and the side-by-side runs, print figures and ratios
 	@scripts/install-deps --test
