@@ -7,6 +7,7 @@
 #include "panel/KeyTranslation.h"
 
 #include <QLocale>
+#include <utility>
 
 namespace vellumry {
 
@@ -42,7 +43,10 @@ PanelFacade::PanelFacade(PanelModel& model, std::function<QString()> openPanelKe
     : m_model(&model)
     , m_openPanelKeys(std::move(openPanelKeys))
     , m_rows(model, {localised("⌘") + QStringLiteral("%1"), localised("⌃") + localised("⌥") + QStringLiteral("%1")}) {
-    connect(m_model, &PanelModel::queryChanged, this, &PanelFacade::queryChanged);
+    connect(m_model, &PanelModel::queryChanged, this, [this] {
+        m_typed.reset();
+        Q_EMIT queryChanged();
+    });
     connect(m_model, &PanelModel::filterChanged, this, &PanelFacade::filterChanged);
     connect(m_model, &PanelModel::sectionsChanged, this, &PanelFacade::contentChanged);
     connect(m_model, &PanelModel::sectionsChanged, this, &PanelFacade::primaryRowChanged);
@@ -56,8 +60,28 @@ QString PanelFacade::words(const QString& key) const {
     return localised(key.toUtf8().constData());
 }
 
+void PanelFacade::setQuery(const QString& text) {
+    const bool isDue = m_typed.has_value();
+    m_typed = text;
+    if (!isDue)
+        QMetaObject::invokeMethod(this, &PanelFacade::searchTyped, Qt::QueuedConnection);
+}
+
+void PanelFacade::searchTyped() {
+    if (const auto typed = std::exchange(m_typed, std::nullopt))
+        m_model->searchTextEdited(*typed);
+}
+
+void PanelFacade::setFilter(int filter) {
+    searchTyped();
+    m_model->setFilterIndex(filter);
+}
+
 bool PanelFacade::keyPressed(int key, int modifiers, bool hasTextSelection) {
-    const KeyMeaning meaning = meaningOf(key, Qt::KeyboardModifiers(modifiers), m_model->query().isEmpty());
+    const KeyMeaning meaning = meaningOf(key, Qt::KeyboardModifiers(modifiers), query().isEmpty());
+    // A command is meant for what was typed before it; a letter has time.
+    if (meaning.command || meaning.chord)
+        searchTyped();
     if (meaning.command)
         return m_model->handle(*meaning.command);
     if (meaning.chord)

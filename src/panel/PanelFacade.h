@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QVariant>
 #include <functional>
+#include <optional>
 
 namespace vellumry {
 
@@ -46,11 +47,12 @@ public:
     Q_INVOKABLE void dropped();
 
     [[nodiscard]] QAbstractItemModel* rows() { return &m_rows; }
-    [[nodiscard]] QString query() const { return m_model->query(); }
-    void setQuery(const QString& text) { m_model->searchTextEdited(text); }
+    [[nodiscard]] QString query() const { return m_typed.value_or(m_model->query()); }
+    /// The search is made once for all keys that are waiting, so that typing faster than it never queues up searches.
+    void setQuery(const QString& text);
     [[nodiscard]] bool hasQuery() const;
     [[nodiscard]] int filter() const { return m_model->filterIndex(); }
-    void setFilter(int filter) { m_model->setFilterIndex(filter); }
+    void setFilter(int filter);
     [[nodiscard]] QVariantList filters() const;
     [[nodiscard]] bool hasRows() const { return m_rows.rowCount() > 0; }
     [[nodiscard]] QStringList emptyLines() const;
@@ -84,9 +86,12 @@ Q_SIGNALS:
     void presented();
 
 private:
+    void searchTyped();
+
     PanelModel* m_model;
     std::function<QString()> m_openPanelKeys;
     PanelListModel m_rows;
+    std::optional<QString> m_typed; ///< and not yet searched for
     int m_shadowMargin = 0;
     bool m_collapsesOnRelease = false;
 };
