@@ -18,6 +18,7 @@ ListView {
     keyNavigationEnabled: false
     highlightFollowsCurrentItem: false
     onContentYChanged: area.rest()
+    onHoveredRowChanged: panel.rowHovered(hoveredRow)
     Accessible.role: Accessible.List
     Accessible.name: panel.words("Clips")
 
@@ -58,6 +59,13 @@ ListView {
         required property bool isPinned
         required property bool isSelected
         required property bool isSensitive
+
+        // Kept for reuse, it is no row: neither to be seen nor to be read out.
+        property bool isPooled: false
+        ListView.onPooled: isPooled = true
+        ListView.onReused: isPooled = false
+        visible: !isPooled
+        Accessible.ignored: isPooled
 
         width: ListView.view.width
         height: isHeader ? (header === "" ? 6 : Look.headerHeight) : Look.rowHeight

@@ -28,10 +28,10 @@ QRegion roundedMask(const QSize& size) {
 
 } // namespace
 
-PanelController::PanelController(ClipStore& store, PasteEngine& paster, PanelSurface& surface, ViewEngine& views,
-                                 Hooks hooks)
+PanelController::PanelController(ClipStore& store, PasteEngine& paster, Pasteboard& pasteboard, PanelSurface& surface,
+                                 ViewEngine& views, Hooks hooks)
     : m_model(store, paster)
-    , m_facade(m_model, hooks.openPanelKeys)
+    , m_facade(m_model, pasteboard, hooks.openPanelKeys)
     , m_surface(&surface)
     , m_views(&views)
     , m_hooks(std::move(hooks)) {
@@ -82,6 +82,8 @@ void PanelController::applyLook() {
     const QSize size = panelSize + QSize(2 * m_shadowMargin, 2 * m_shadowMargin);
     m_view->resize(size);
     m_view->setMask(m_shadowMargin > 0 ? QRegion() : roundedMask(size));
+    // The shadow is not the panel: a click there is meant for what lies below.
+    m_surface->setInputArea(m_view.get(), QRect(QPoint(m_shadowMargin, m_shadowMargin), panelSize));
 }
 
 QRect PanelController::windowFrame(const QRectF& panel) const {

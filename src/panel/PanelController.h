@@ -42,7 +42,8 @@ public:
     };
 
     /// Everything but the hooks must outlive this.
-    PanelController(ClipStore& store, PasteEngine& paster, PanelSurface& surface, ViewEngine& views, Hooks hooks);
+    PanelController(ClipStore& store, PasteEngine& paster, Pasteboard& pasteboard, PanelSurface& surface,
+                    ViewEngine& views, Hooks hooks);
     ~PanelController() override;
 
     [[nodiscard]] PanelModel& model() { return m_model; }

@@ -7,6 +7,7 @@
 #include "panel/KeyTranslation.h"
 
 #include <QLocale>
+#include <QPointer>
 #include <utility>
 
 namespace vellumry {
@@ -39,8 +40,9 @@ QString titleOf(ClipFilter filter) {
 
 } // namespace
 
-PanelFacade::PanelFacade(PanelModel& model, std::function<QString()> openPanelKeys)
+PanelFacade::PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::function<QString()> openPanelKeys)
     : m_model(&model)
+    , m_pasteboard(pasteboard)
     , m_openPanelKeys(std::move(openPanelKeys))
     , m_rows(model, {localised("⌘") + QStringLiteral("%1"), localised("⌃") + localised("⌥") + QStringLiteral("%1")}) {
     connect(m_model, &PanelModel::queryChanged, this, [this] {
@@ -87,6 +89,39 @@ bool PanelFacade::keyPressed(int key, int modifiers, bool hasTextSelection) {
     if (meaning.chord)
         return m_model->keyEquivalent(meaning.chord->keyCode, meaning.chord->flags, hasTextSelection);
     return false;
+}
+
+void PanelFacade::pasteIntoField() {
+    // One at a time: keys pressed while an owner keeps silent shall not pile up.
+    if (m_fetchedFor != m_showing)
+        fetchPasted(m_showing);
+}
+
+/// The text belongs to the showing in which it was asked for.
+QCoro::Task<void> PanelFacade::fetchPasted(int showing) {
+    const QPointer<PanelFacade> self(this);
+    m_fetchedFor = showing;
+    auto fetching = m_pasteboard.text();
+    const QString text = co_await fetching;
+    if (!self)
+        co_return;
+    if (std::exchange(m_fetchedFor, -1) == showing && showing == m_showing && !text.isEmpty())
+        Q_EMIT pasted(text);
+}
+
+void PanelFacade::copyFromField(const QString& text) {
+    if (!text.isEmpty())
+        m_pasteboard.setText(text);
+}
+
+void PanelFacade::present() {
+    ++m_showing;
+    Q_EMIT presented();
+}
+
+void PanelFacade::rowHovered(int row) {
+    const ClipRef clip = m_rows.clipAt(row);
+    m_model->setHoveredID(clip ? std::optional(clip->id) : std::nullopt);
 }
 
 void PanelFacade::rowPressed(int row, int modifiers) {

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "panel/FieldPasteboard.h"
 #include "panel/PanelListModel.h"
 #include "panel/PanelModel.h"
 
+#include <QCoroTask>
 #include <QObject>
 #include <QStringList>
 #include <QVariant>
@@ -33,11 +35,16 @@ class PanelFacade : public QObject {
 
 public:
     /// `openPanelKeys` answers the words for the shortcut that opens the panel.
-    PanelFacade(PanelModel& model, std::function<QString()> openPanelKeys);
+    PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::function<QString()> openPanelKeys);
 
     Q_INVOKABLE [[nodiscard]] QString words(const QString& key) const;
     /// True when the key was the panel's.
     Q_INVOKABLE bool keyPressed(int key, int modifiers, bool hasTextSelection);
+    /// Asks for what was copied; `pasted` tells it, now or later, or never.
+    Q_INVOKABLE void pasteIntoField();
+    Q_INVOKABLE void copyFromField(const QString& text);
+    /// The pointer lies on that row; -1 on none.
+    Q_INVOKABLE void rowHovered(int row);
     Q_INVOKABLE void rowPressed(int row, int modifiers);
     Q_INVOKABLE void rowReleased(int row);
     Q_INVOKABLE void rowDoubleClicked(int row);
@@ -67,7 +74,7 @@ public:
     void setShadowMargin(int shadowMargin);
 
     /// To be called when the panel comes up.
-    void present() { Q_EMIT presented(); }
+    void present();
 
     /// The pointer took hold of an empty part, moved, let go.
     std::function<void()> onGrabbed = [] {};
@@ -84,16 +91,23 @@ Q_SIGNALS:
     void transformChanged();
     void shadowMarginChanged();
     void presented();
+    /// What is to take the place of the field's selection.
+    void pasted(const QString& text);
 
 private:
     void searchTyped();
 
+    QCoro::Task<void> fetchPasted(int showing);
+
     PanelModel* m_model;
+    FieldPasteboard m_pasteboard;
     std::function<QString()> m_openPanelKeys;
     PanelListModel m_rows;
     std::optional<QString> m_typed; ///< and not yet searched for
     int m_shadowMargin = 0;
     bool m_collapsesOnRelease = false;
+    int m_showing = 0;
+    int m_fetchedFor = -1; ///< the showing that waits for what was copied
 };
 
 } // namespace vellumry

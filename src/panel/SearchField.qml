@@ -8,6 +8,16 @@ Item {
     required property var panel
     property alias input: input
 
+    function replaceSelection(text: string) {
+        input.remove(input.selectionStart, input.selectionEnd);
+        input.insert(input.cursorPosition, text);
+        panel.query = input.text;
+    }
+    function cut() {
+        panel.copyFromField(input.selectedText);
+        replaceSelection("");
+    }
+
     height: 28
 
     TextInput {
@@ -28,8 +38,19 @@ Item {
         Accessible.searchEdit: true
 
         onTextEdited: field.panel.query = text
+        // The clipboard is ours to ask: the field itself would wait for its owner, and the panel with it.
         Keys.onPressed: event => {
-            event.accepted = field.panel.keyPressed(event.key, event.modifiers, input.selectedText.length > 0);
+            event.accepted = true;
+            if (field.panel.keyPressed(event.key, event.modifiers, input.selectedText.length > 0))
+                return;
+            if (event.matches(StandardKey.Paste))
+                field.panel.pasteIntoField();
+            else if (event.matches(StandardKey.Copy))
+                field.panel.copyFromField(input.selectedText);
+            else if (event.matches(StandardKey.Cut))
+                field.cut();
+            else
+                event.accepted = false;
         }
         Keys.onShortcutOverride: event => {
             event.accepted = true;
@@ -41,10 +62,19 @@ Item {
                 if (input.text !== field.panel.query)
                     input.text = field.panel.query;
             }
+            function onPasted(text: string) {
+                field.replaceSelection(text);
+            }
             function onFocusTokenChanged() {
                 input.forceActiveFocus();
             }
         }
+    }
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.MiddleButton
+        cursorShape: Qt.IBeamCursor
+        onClicked: field.panel.pasteIntoField()
     }
     Text {
         anchors.fill: parent

@@ -2,6 +2,7 @@
 target_sources(
   vellumry_panel
   PRIVATE
+    FieldPasteboard.cpp FieldPasteboard.h
     KeyTranslation.cpp KeyTranslation.h
     PanelController.cpp PanelController.h
     PanelFacade.cpp PanelFacade.h

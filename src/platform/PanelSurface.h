@@ -31,6 +31,9 @@ public:
     virtual void dismiss(QWindow* window) = 0;
     /// Maps a window that never takes keyboard or (with `clickThrough`) pointer.
     virtual void presentPassive(QWindow* window, QRect frame, bool clickThrough) = 0;
+    /// The pointer reaches `window` only within `area`, given in the window's own device-independent pixels; around it,
+    /// what lies below gets the clicks. The window must have been adopted.
+    virtual void setInputArea(QWindow* window, const QRect& area) = 0;
     /// True when windows may be translucent.
     [[nodiscard]] virtual bool canBlend() const = 0;
     /// True when the user asked the desktop for less motion.

@@ -96,7 +96,8 @@ AppEnvironment::AppEnvironment(Platform& platform, std::unique_ptr<Preferences> 
     m_screenshots = std::make_unique<ScreenshotImporter>(*m_store, *platform.images, *platform.folders,
                                                          std::move(screenshotHooks));
     m_screenshotSaving = std::make_unique<ScreenshotSaving>(*m_screenshots, *platform.defaults);
-    m_panel = std::make_unique<PanelController>(*m_store, *m_paster, *platform.panelSurface, m_views, panelHooks());
+    m_panel = std::make_unique<PanelController>(*m_store, *m_paster, *platform.pasteboard, *platform.panelSurface,
+                                                m_views, panelHooks());
     wire();
 }
 

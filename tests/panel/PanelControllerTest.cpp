@@ -106,3 +106,13 @@ TEST_F(PanelControllerTest, TheAppearanceIsTheUsersChoice) {
     panel.setAppearance(PanelController::Appearance::light);
     EXPECT_GT(ground().lightness(), 200);
 }
+
+TEST_F(PanelControllerTest, OnlyThePanelTakesThePointerAndNotItsShadow) {
+    open();
+    EXPECT_EQ(surface.inputArea, QRect(QPoint(0, 0), view()->size()));
+    panel.hide();
+    surface.blends = true;
+    open();
+    EXPECT_EQ(surface.inputArea.size(), PanelController::panelSize);
+    EXPECT_EQ(surface.inputArea.center(), QRect(QPoint(0, 0), view()->size()).center());
+}

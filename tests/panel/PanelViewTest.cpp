@@ -2,11 +2,25 @@
 #include "foundation/Localisation.h"
 #include "panel/PanelWindowWorld.h"
 
+#include <QAccessible>
+#include <QClipboard>
+
 using namespace vellumry;
 
 namespace {
 
-class PanelViewTest : public PanelWindowWorld {};
+class PanelViewTest : public PanelWindowWorld {
+protected:
+    /// The rows that a screen reader finds.
+    static QStringList readOut(QAccessibleInterface* node) {
+        QStringList names;
+        if (node->role() == QAccessible::ListItem && !node->state().invisible)
+            names.append(node->text(QAccessible::Name));
+        for (int index = 0; index < node->childCount(); ++index)
+            names += readOut(node->child(index));
+        return names;
+    }
+};
 
 } // namespace
 
@@ -135,4 +149,89 @@ TEST_F(PanelViewTest, EightRowsUnderTheirHeaderShowWhole) {
     const QQuickItem* eighth = itemWithText(QStringLiteral("clip 4"));
     ASSERT_NE(eighth, nullptr);
     EXPECT_LE(eighth->mapToItem(list, QPointF(0, eighth->height())).y(), list->height());
+}
+
+TEST_F(PanelViewTest, WhatWasCopiedGoesIntoTheFieldWithoutAskingQtsClipboard) {
+    QGuiApplication::clipboard()->setText(QStringLiteral("of Qt"));
+    addText("apple pie");
+    pasteboard.copyText(QStringLiteral("\n  apple  \nsecond line"));
+    open();
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(panel.model().query(), QStringLiteral("apple"));
+    press(Qt::Key_Insert, Qt::ShiftModifier);
+    EXPECT_EQ(panel.model().query(), QStringLiteral("appleapple"));
+    QTest::mouseClick(view(), Qt::MiddleButton, {}, middleOf(view()->activeFocusItem()));
+    EXPECT_EQ(panel.model().query(), QStringLiteral("appleappleapple"));
+}
+
+TEST_F(PanelViewTest, ASilentOwnerKeepsNeitherTheFieldNorTheNextShowingWaiting) {
+    addText("apple");
+    pasteboard.copyText(QStringLiteral("late"));
+    pasteboard.hangsBeginReading = true;
+    open();
+    for (int count = 0; count < 20; ++count)
+        press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(pasteboard.beginReadingRequests, 1);
+    press(Qt::Key_A);
+    EXPECT_EQ(panel.model().query(), QStringLiteral("a"));
+    panel.hide();
+    open();
+    pasteboard.answerHanging();
+    EXPECT_EQ(panel.model().query(), QString());
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(panel.model().query(), QStringLiteral("late"));
+}
+
+TEST_F(PanelViewTest, OnlyTheStartOfALongTextIsPasted) {
+    pasteboard.copyText(QStringLiteral("x").repeated(50'000));
+    open();
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(panel.model().query().size(), FieldPasteboard::longest);
+}
+
+TEST_F(PanelViewTest, TheFieldCopiesAndCutsThroughThePasteboard) {
+    QGuiApplication::clipboard()->setText(QStringLiteral("of Qt"));
+    open();
+    press(Qt::Key_O);
+    press(Qt::Key_K);
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(pastedText(), QStringLiteral("ok"));
+    EXPECT_EQ(panel.model().query(), QStringLiteral("ok"));
+    pasteboard.copyText(QStringLiteral("other"));
+    press(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(pastedText(), QStringLiteral("ok"));
+    EXPECT_EQ(panel.model().query(), QString());
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("of Qt"));
+}
+
+TEST_F(PanelViewTest, TheHoveredRowIsTold) {
+    addText("older");
+    addText("newer");
+    open();
+    QTest::mouseMove(view(), QPoint(5, 5));
+    const QPoint place = middleOf(itemWithText(QStringLiteral("older")));
+    QTest::mouseMove(view(), place);
+    QTest::mouseMove(view(), place + QPoint(3, 0));
+    EXPECT_EQ(panel.model().hoveredID(), panel.model().visibleClips().at(1)->id);
+    press(Qt::Key_Down);
+    EXPECT_EQ(panel.model().hoveredID(), std::nullopt);
+}
+
+TEST_F(PanelViewTest, RowsThatAreKeptForReuseAreNotReadOut) {
+    QAccessible::setActive(true);
+    for (const char* text : {"apple", "pear", "plum", "apricot"})
+        addText(text);
+    open();
+    QAccessibleInterface* window = QAccessible::queryAccessibleInterface(view());
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(readOut(window).size(), 4);
+    panel.model().searchTextEdited(QStringLiteral("ap"));
+    (void)view()->grabWindow(); // lays the list out
+    QStringList left = readOut(window);
+    left.sort();
+    EXPECT_EQ(left, (QStringList{QStringLiteral("apple"), QStringLiteral("apricot")}));
+    panel.model().searchTextEdited(QString());
+    (void)view()->grabWindow();
+    EXPECT_EQ(readOut(window).size(), 4);
 }

@@ -63,7 +63,7 @@ protected:
     QMap<QString, placement::Fractions> positions;
     int savings = 0;
     std::vector<ToastMessage> toasts;
-    PanelController panel{store, *engine, surface, views, panelHooks()};
+    PanelController panel{store, *engine, pasteboard, surface, views, panelHooks()};
 
 private:
     static void collect(const QQuickItem* item, QStringList& found) {

@@ -27,6 +27,7 @@ public:
         window->setGeometry(frame);
         window->show();
     }
+    void setInputArea(QWindow*, const QRect& area) override { inputArea = area; }
     [[nodiscard]] bool canBlend() const override { return blends; }
     [[nodiscard]] bool reducesMotion() const override { return stillness; }
     [[nodiscard]] std::optional<ScreenPlace> screenUnderPointer() const override { return under ? under : screen; }
@@ -39,6 +40,7 @@ public:
     std::optional<ScreenPlace> under; ///< the display under the pointer, when it is not `screen`
     QList<QWindow*> adopted;
     QList<QRect> frames;
+    QRect inputArea;
     int dismissals = 0;
     bool lastClickThrough = false;
 };

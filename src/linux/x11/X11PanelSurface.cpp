@@ -33,15 +33,6 @@ void settleQt() {
     std::free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }
 
-bool isOverOwnWindow() {
-    const QPoint pointer = QCursor::pos();
-    const auto windows = QGuiApplication::topLevelWindows();
-    return std::any_of(windows.begin(), windows.end(), [pointer](const QWindow* window) {
-        return window->isVisible() && !window->flags().testFlag(Qt::WindowTransparentForInput) &&
-               window->geometry().contains(pointer);
-    });
-}
-
 } // namespace
 
 X11PanelSurface::X11PanelSurface(std::shared_ptr<XlibConnection> connection, std::shared_ptr<X11Focus> focus)
@@ -124,21 +115,48 @@ void X11PanelSurface::presentPassive(QWindow* window, QRect frame, bool clickThr
     window->setFlag(Qt::WindowDoesNotAcceptFocus);
     window->setGeometry(frame);
     window->create();
-    settleQt();
-    setClickThrough(window->winId(), clickThrough);
+    if (clickThrough)
+        setInputArea(window, QRect());
+    else if (m_inputAreas.remove(window))
+        shapeInput(window, std::nullopt);
     window->show();
     window->raise();
 }
 
-void X11PanelSurface::setClickThrough(XWindow window, bool clickThrough) {
+void X11PanelSurface::setInputArea(QWindow* window, const QRect& area) {
+    if (!m_inputAreas.contains(window))
+        connect(window, &QObject::destroyed, this, [this, window] { m_inputAreas.remove(window); });
+    m_inputAreas.insert(window, area);
+    shapeInput(window, area);
+}
+
+/// Without an area the whole window takes the pointer, whatever its size becomes.
+void X11PanelSurface::shapeInput(const QWindow* window, const std::optional<QRect>& area) {
     if (!m_connection->fixesEvents().has_value())
         return;
+    settleQt();
     Display* display = m_connection->display();
     XErrorTrap trap(display);
-    const XserverRegion nothing = clickThrough ? XFixesCreateRegion(display, nullptr, 0) : 0;
-    XFixesSetWindowShapeRegion(display, window, ShapeInput, 0, 0, nothing);
-    if (nothing != 0)
-        XFixesDestroyRegion(display, nothing);
+    XserverRegion region = 0;
+    if (area) {
+        const qreal scale = window->devicePixelRatio();
+        const QRect pixels = QRectF(area->topLeft() * scale, QSizeF(area->size()) * scale).toAlignedRect();
+        XRectangle rectangle{static_cast<short>(pixels.x()), static_cast<short>(pixels.y()),
+                             static_cast<unsigned short>(pixels.width()), static_cast<unsigned short>(pixels.height())};
+        region = XFixesCreateRegion(display, &rectangle, pixels.isEmpty() ? 0 : 1);
+    }
+    XFixesSetWindowShapeRegion(display, window->winId(), ShapeInput, 0, 0, region);
+    if (region != 0)
+        XFixesDestroyRegion(display, region);
+}
+
+bool X11PanelSurface::isOverOwnWindow() const {
+    const QPoint pointer = QCursor::pos();
+    const auto windows = QGuiApplication::topLevelWindows();
+    return std::any_of(windows.begin(), windows.end(), [this, pointer](const QWindow* window) {
+        const QRect area = m_inputAreas.value(window, QRect(QPoint(), window->size()));
+        return window->isVisible() && area.translated(window->position()).contains(pointer);
+    });
 }
 
 // Raw button presses are told whoever gets the click. Where nobody takes the keyboard on a click (the bare desktop),

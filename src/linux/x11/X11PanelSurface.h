@@ -5,6 +5,7 @@
 #include "linux/x11/X11Screens.h"
 #include "platform/PanelSurface.h"
 
+#include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <QWindow>
@@ -24,13 +25,15 @@ public:
     void present(QWindow* window, std::optional<QRect> frame) override;
     void dismiss(QWindow* window) override;
     void presentPassive(QWindow* window, QRect frame, bool clickThrough) override;
+    void setInputArea(QWindow* window, const QRect& area) override;
     [[nodiscard]] bool canBlend() const override { return m_canBlend; }
     [[nodiscard]] std::optional<ScreenPlace> screenUnderPointer() const override { return m_screens.underPointer(); }
     [[nodiscard]] std::optional<ScreenPlace> screenOf(const QRect& frame) const override { return m_screens.of(frame); }
 
 private:
     void setHints(XWindow window);
-    void setClickThrough(XWindow window, bool clickThrough);
+    void shapeInput(const QWindow* window, const std::optional<QRect>& area);
+    [[nodiscard]] bool isOverOwnWindow() const;
     void followCompositor();
     void listenForClicks(bool isListening);
     void handleEvent(XEvent* event);
@@ -43,6 +46,8 @@ private:
     /// The panel that has or wants the keyboard.
     QPointer<QWindow> m_presented;
     XWindow m_presentedID = 0;
+    /// The parts of windows that take the pointer; all of a window that is not named.
+    QHash<const QWindow*, QRect> m_inputAreas;
     XAtom m_compositor = 0;
     bool m_canBlend = false;
 };
