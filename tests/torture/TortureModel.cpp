@@ -32,13 +32,14 @@ std::vector<TortureState> outcomes(const TortureStep& step, TortureState state) 
     }
     if (!state.isPresent)
         return {state};
+    TortureState rescued = state;
+    rescued.expires.reset();
     state.isPinned = true;
-    std::vector<TortureState> states{state};
-    if (step.written.expires) {
-        // The rescue of a secret is two statements.
-        state.expires.reset();
-        states.push_back(state);
-    }
+    if (!step.written.expires)
+        return {state};
+    // The rescue of a secret is two statements, and the second is tried even if the first failed.
+    std::vector<TortureState> states{state, rescued, rescued};
+    states.back().isPinned = true;
     return states;
 }
 
