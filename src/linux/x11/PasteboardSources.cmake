@@ -16,4 +16,5 @@ target_sources(
     x11/TargetCoding.cpp x11/TargetCoding.h
     x11/X11Pasteboard.cpp x11/X11Pasteboard.h
     x11/X11PasteboardReading.cpp x11/X11PasteboardReading.h
+    x11/XcbBuffers.cpp x11/XcbBuffers.h
     x11/XcbConnection.cpp x11/XcbConnection.h)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/PasteboardThread.h"
 
+#include "linux/x11/XcbBuffers.h"
+
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -17,6 +19,8 @@ namespace {
 /// So many events at a time, then a look at commands and deadlines: a client that never stops must not keep us from
 /// them.
 constexpr int eventsAtATime = 64;
+/// Milliseconds after which a copy or a paste is over.
+constexpr int quietTime = 100;
 
 } // namespace
 
@@ -81,6 +85,7 @@ bool PasteboardThread::runCommands() {
         commands.swap(m_commands);
         isEnding = m_isEnding;
     }
+    m_hasWorked = m_hasWorked || !commands.empty();
     for (const Command& command : commands)
         command(*m_engine, std::chrono::steady_clock::now());
     return !isEnding;
@@ -92,6 +97,7 @@ void PasteboardThread::handleEvents() {
         const XcbPointer<xcb_generic_event_t> event(xcb_poll_for_event(connection));
         if (!event)
             break;
+        m_hasWorked = true;
         m_engine->handleEvent(*event, std::chrono::steady_clock::now());
     }
     if (!m_isBroken && m_engine->connection().isBroken()) {
@@ -105,22 +111,33 @@ void PasteboardThread::sleepUntilNeeded() {
     xcb_flush(connection);
     // Waiting for a reply may have read events that the descriptor will not tell of again.
     if (const XcbPointer<xcb_generic_event_t> event(xcb_poll_for_queued_event(connection)); event) {
+        m_hasWorked = true;
         m_engine->handleEvent(*event, std::chrono::steady_clock::now());
         return;
     }
 
-    int timeout = -1;
-    if (const auto deadline = m_engine->nextDeadline(); deadline && !m_isBroken) {
-        const auto left = std::chrono::ceil<std::chrono::milliseconds>(*deadline - std::chrono::steady_clock::now());
-        timeout = static_cast<int>(std::max<qint64>(0, left.count()));
-    }
     std::array<pollfd, 2> descriptors{pollfd{m_wakeDescriptor, POLLIN, 0},
                                       pollfd{m_engine->connection().fileDescriptor(), POLLIN, 0}};
-    poll(descriptors.data(), m_isBroken ? 1 : 2, timeout);
+    const int ready = poll(descriptors.data(), m_isBroken ? 1 : 2, sleepingTime());
+    if (ready == 0 && m_hasWorked && !m_engine->nextDeadline() && !m_isBroken) {
+        m_hasWorked = false;
+        overwriteBuffers(m_engine->connection());
+    }
     if (descriptors[0].revents != 0) {
         eventfd_t count = 0;
         (void)eventfd_read(m_wakeDescriptor, &count);
     }
+}
+
+/// Milliseconds until something is due; -1 for "until something happens".
+int PasteboardThread::sleepingTime() const {
+    if (m_isBroken)
+        return -1;
+    const auto deadline = m_engine->nextDeadline();
+    if (!deadline)
+        return m_hasWorked ? quietTime : -1;
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(*deadline - std::chrono::steady_clock::now());
+    return static_cast<int>(std::max<qint64>(0, left.count()));
 }
 
 } // namespace vellumry

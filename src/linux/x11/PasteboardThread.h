@@ -11,7 +11,8 @@
 namespace vellumry {
 
 /// Runs a `PasteboardEngine`: waits for the X server, for commands and for the engine's next deadline, and for nothing
-/// else, so an idle pasteboard costs no wake-up. Made and destroyed on the main thread; the destructor ends the thread.
+/// else, so an idle pasteboard costs no wake-up; only, when things have been quiet for a moment, it overwrites what was
+/// last copied in the connection's buffers. Made and destroyed on the main thread; the destructor ends the thread.
 class PasteboardThread {
 public:
     using Command = std::function<void(PasteboardEngine& engine, PasteboardEngine::Instant now)>;
@@ -34,11 +35,13 @@ private:
     /// False when the thread is to end.
     bool runCommands();
     void sleepUntilNeeded();
+    [[nodiscard]] int sleepingTime() const;
     void wake() const;
 
     const std::unique_ptr<PasteboardEngine> m_engine;
     const int m_wakeDescriptor;
-    bool m_isBroken = false; ///< pasteboard thread
+    bool m_isBroken = false;  ///< pasteboard thread
+    bool m_hasWorked = false; ///< since the buffers were overwritten; pasteboard thread
     std::mutex m_mutex;
     std::vector<Command> m_commands; ///< guarded
     bool m_isEnding = false;         ///< guarded

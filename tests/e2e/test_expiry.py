@@ -1,0 +1,142 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""A card number that was copied in an editor is gone at its time: from the panel, the files and the program's own memory."""
+
+import os
+import random
+import signal
+import sqlite3
+import time
+
+from clients import GtkEditor
+from desktop import (DATA, HISTORY, SETTINGS, Failure, Vellumry, accessible, copy_text, fresh, key, main, open_panel, panel_is_open,
+                     same, wait_panel_closed, wait_until)
+from history_probe import HistoryProbe, ids
+from memory_probe import can_look_into, found_in
+
+LIFETIME = 10
+
+
+def card_number():
+    """Sixteen digits that no card has and that pass for one (ISO/IEC 7812)."""
+    digits = [4] + [random.SystemRandom().randrange(10) for _ in range(14)]
+    total = sum(sum(divmod(digit * 2, 10)) if index % 2 == 0 else digit for index, digit in enumerate(digits))
+    digits.append(-total % 10)
+    text = "".join(map(str, digits))
+    return " ".join(text[start:start + 4] for start in range(0, 16, 4))
+
+
+def plain_forms(card):
+    """What of it could lie somewhere; the middle, since the first bytes of a free block are the allocator's."""
+    middle, digits = card[4:], card.replace(" ", "")[4:]
+    return {"text": middle.encode(), "UTF-16": middle.encode("utf-16-le"), "digits": digits.encode(),
+            "digits in UTF-16": digits.encode("utf-16-le")}
+
+
+def sealed_forms(row_id):
+    connection = sqlite3.connect(f"file:{HISTORY}?mode=ro", uri=True, timeout=5)
+    try:
+        fingerprint, meta, payload = connection.execute(
+            "SELECT fingerprint, meta, payload FROM clips WHERE id = ?", (row_id,)).fetchone()
+        return {"identity": row_id.encode(), "fingerprint": fingerprint.encode(), "sealed meta": meta[-24:], "sealed payload": payload[-24:]}
+    finally:
+        connection.close()
+
+
+def found_in_files(needles):
+    found = []
+    for name in os.listdir(DATA):
+        with open(os.path.join(DATA, name), "rb") as file:
+            content = file.read()
+        found += [(what, name) for what, needle in needles.items() if needle in content]
+    return found
+
+
+def shown():
+    if not panel_is_open():
+        open_panel()
+    return accessible("vellumry", "list item")
+
+
+def copied_card(probe, editor, card):
+    """Copies it, sees it arrive, and answers when its time is over and what it looks like in the file."""
+    editor.type_and_copy(card)
+    row = probe.wait_for(card)
+    lifetime = row["expires"] - row["created"]
+    if not LIFETIME - 0.01 < lifetime < LIFETIME + 0.01:
+        raise Failure(f"the card is to live {LIFETIME} s, not {lifetime:g}")
+    sealed = sealed_forms(row["id"])
+    same(len(found_in_files(sealed)) >= len(sealed), True, "it is in the file, sealed")
+    same(found_in_files(plain_forms(card)), [], "it is in no file as it reads")
+    return row["expires"], sealed
+
+
+def nothing_in_memory(program, needles):
+    try:
+        wait_until(lambda: not found_in(program.pid, needles), "nothing of it in memory", 3)
+    except Failure:
+        left = [f"{what} in {place} at {address}" for what, place, address, _ in found_in(program.pid, needles)]
+        raise Failure("still in memory: " + "; ".join(left)) from None
+
+
+def nothing_is_left(program, needles):
+    """The memory of a program that is at rest: the row has gone from the panel and what was shown of it has been drawn over."""
+    wait_until(lambda: not shown(), "the panel without it", 3)
+    same(found_in_files(needles), [], "what the files still have")
+    if not can_look_into(program.pid):
+        raise Failure("this test needs the right to look into the program's memory: root, or a build with VELLUMRY_INSPECTABLE")
+    nothing_in_memory(program, needles)
+
+
+def with_lifetime(test):
+    def whole():
+        os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
+        with open(SETTINGS, "w", encoding="utf-8") as file:
+            file.write(f"[General]\nsensitiveSeconds={LIFETIME}\n")
+        try:
+            test()
+        finally:
+            os.remove(SETTINGS)
+
+    whole.__name__ = test.__name__
+    return fresh(whole)
+
+
+def a_card_is_gone_from_everywhere_at_its_time():
+    card = card_number()
+    with Vellumry() as program, GtkEditor() as editor:
+        probe = HistoryProbe()
+        ends, sealed = copied_card(probe, editor, card)
+        same(bool(found_in(program.pid, plain_forms(card))), True, "the probe finds what is there")
+        wait_until(shown, "the card in the panel")
+        key("Escape")
+        wait_panel_closed()
+        wait_until(lambda: time.time() > ends - 1, "the last second", LIFETIME + 2)
+        same(len(ids()), 1, "it lives to its end")
+        wait_until(lambda: not ids(), "the row to go", 3)
+        if time.time() > ends + 1:
+            raise Failure(f"it went {time.time() - ends:.2f} s late")
+        nothing_is_left(program, {**plain_forms(card), **sealed})
+
+
+def a_card_whose_time_came_while_the_program_stood_still_goes_at_once():
+    card = card_number()
+    with Vellumry() as program, GtkEditor() as editor:
+        probe = HistoryProbe()
+        ends, sealed = copied_card(probe, editor, card)
+        os.kill(program.pid, signal.SIGSTOP)
+        wait_until(lambda: time.time() > ends + 2, "its time to pass", LIFETIME + 4)
+        same(len(ids()), 1, "a stopped program deletes nothing")
+        os.kill(program.pid, signal.SIGCONT)
+        began = time.monotonic()
+        wait_until(lambda: not ids(), "the row to go", 3)
+        if time.monotonic() - began > 1:
+            raise Failure(f"it went {time.monotonic() - began:.2f} s after the program ran again")
+        copy_text("something else")
+        probe.wait_for("something else")
+        same(found_in_files(sealed), [], "what the files still have")
+        nothing_in_memory(program, {**plain_forms(card), **sealed})
+
+
+if __name__ == "__main__":
+    main([with_lifetime(test) for test in (
+        a_card_is_gone_from_everywhere_at_its_time, a_card_whose_time_came_while_the_program_stood_still_goes_at_once)])
