@@ -28,6 +28,11 @@ bench: ## build, run the benchmarks and the side-by-side runs, print figures and
 	@$(MAKE) --no-print-directory build
 	@bench/run
 
+matrix: ## install large applications too, try them all, write what was seen into docs/
+	@scripts/install-deps --matrix
+	@$(MAKE) --no-print-directory build
+	@scripts/matrix
+
 lint: ## formatting, clang-tidy, qmllint
 	@scripts/install-deps --test
 	@scripts/lint
