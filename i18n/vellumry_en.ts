@@ -16,6 +16,10 @@
         <translation>, give Vellumry permission to read that folder</translation>
     </message>
     <message>
+        <source>Paste Stack couldn't start. Turn Vellumry on in Privacy &amp; Security → Accessibility</source>
+        <translation>Paste Stack couldn't start. Another program keeps Ctrl+V to itself</translation>
+    </message>
+    <message>
         <source>This field blocks pasting from apps. Press ⌘V</source>
         <translation>This field blocks pasting from apps. Press Ctrl+V</translation>
     </message>
@@ -68,12 +72,52 @@
         <translation>%1 clips · encrypted on this computer</translation>
     </message>
     <message>
+        <source>↩</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>⌅</source>
+        <translation>Keypad Enter</translation>
+    </message>
+    <message>
+        <source>⇥</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>⌫</source>
+        <translation>Backspace</translation>
+    </message>
+    <message>
+        <source>⌦</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>⎋</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>↖</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>↘</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>⇞</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>⇟</source>
+        <translation>Page Down</translation>
+    </message>
+    <message>
         <source>⇧↩</source>
-        <translation>Shift+↩</translation>
+        <translation>Shift+Enter</translation>
     </message>
     <message>
         <source>⌘⌫</source>
-        <translation>Ctrl+⌫</translation>
+        <translation>Ctrl+Del</translation>
     </message>
     <message>
         <source>⌘T</source>
@@ -125,7 +169,7 @@
     </message>
     <message>
         <source>Delete (⌘⌫)</source>
-        <translation>Delete (Ctrl+⌫)</translation>
+        <translation>Delete (Ctrl+Del)</translation>
     </message>
     <message>
         <source>Paste them one by one: every ⌘V pastes the next (Paste Stack)</source>
@@ -185,7 +229,7 @@
     </message>
     <message>
         <source>⌘P  ⌘⌫  ⌘C</source>
-        <translation>Ctrl+P  Ctrl+⌫  Ctrl+C</translation>
+        <translation>Ctrl+P  Ctrl+Del  Ctrl+C</translation>
     </message>
     <message>
         <source>Vellumry updates itself while you're away from your Mac. Off = it asks first.</source>

@@ -18,19 +18,24 @@ Item {
     Text {
         anchors.left: parent.left
         anchors.leftMargin: 18
+        anchors.right: hints.left
+        anchors.rightMargin: 10
         anchors.verticalCenter: parent.verticalCenter
         text: footer.panel.countText
         color: Look.secondary
-        font.pixelSize: 12
+        font.pixelSize: Look.footerSize
+        elide: Text.ElideRight
+        horizontalAlignment: Text.AlignLeft
         renderType: Text.NativeRendering
         Accessible.role: Accessible.StaticText
         Accessible.name: text
     }
     Row {
+        id: hints
         anchors.right: parent.right
         anchors.rightMargin: 18
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 14
+        spacing: 12
 
         Repeater {
             model: footer.panel.hints
@@ -38,17 +43,18 @@ Item {
             Row {
                 id: hint
                 required property var modelData
-                spacing: 5
+                spacing: 4
 
                 Keycap {
                     anchors.verticalCenter: parent.verticalCenter
                     text: hint.modelData.keys
+                    size: 10
                 }
                 Text {
                     anchors.verticalCenter: parent.verticalCenter
                     text: hint.modelData.text
                     color: Look.secondary
-                    font.pixelSize: 12
+                    font.pixelSize: Look.footerSize
                     renderType: Text.NativeRendering
                 }
             }

@@ -7,6 +7,7 @@ Rectangle {
 
     property string text
     property bool inverted: false
+    property int size: 11
 
     width: Math.max(height, label.implicitWidth + 10)
     height: 18
@@ -20,7 +21,7 @@ Rectangle {
         anchors.centerIn: parent
         text: cap.text
         color: cap.inverted ? Look.accent : Look.secondary
-        font.pixelSize: 11
+        font.pixelSize: cap.size
         font.weight: Font.Medium
         renderType: Text.NativeRendering
     }

@@ -31,5 +31,6 @@ QtObject {
     readonly property int headerHeight: 28
     readonly property int titleSize: 14
     readonly property int smallSize: 12
+    readonly property int footerSize: 11
     readonly property int fieldSize: 19
 }

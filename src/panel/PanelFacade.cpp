@@ -191,10 +191,10 @@ QVariantList PanelFacade::hints() const {
     const bool several = m_model->selectedCount() > 1;
     return {
         hint(QStringLiteral("↑↓"), localised("Choose")),
-        hint(QStringLiteral("↩"), several ? localised("Merge & paste") : localised("Paste")),
-        hint(QStringLiteral("⇧↩"), localised("Plain text")),
+        hint(localised("↩"), several ? localised("Merge & paste") : localised("Paste")),
+        hint(localised("⇧↩"), localised("Plain text")),
         hint(localised("⌘") + QLatin1Char('T'), localised("Transform")),
-        hint(localised("⌘") + QStringLiteral("⌫"), localised("Delete")),
+        hint(localised("⌘⌫"), localised("Delete")),
     };
 }
 

@@ -24,6 +24,7 @@ Item {
         id: input
         anchors.fill: parent
         verticalAlignment: TextInput.AlignVCenter
+        horizontalAlignment: TextInput.AlignLeft
         text: field.panel.query
         color: Look.text
         selectionColor: Look.accent
@@ -78,7 +79,10 @@ Item {
     }
     Text {
         anchors.fill: parent
+        anchors.leftMargin: 2
         verticalAlignment: Text.AlignVCenter
+        horizontalAlignment: Text.AlignLeft
+        elide: Text.ElideRight
         visible: input.text === "" && input.preeditText === ""
         text: field.panel.words("Search clips")
         color: Look.secondary

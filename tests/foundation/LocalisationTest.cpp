@@ -16,7 +16,7 @@ namespace {
 /// Every key that the sources look up: the literal arguments of localised().
 QStringList keysInSources() {
     static const QRegularExpression call(
-        QStringLiteral("\\b(?:localised|text|tr)\\(\\s*((?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+)"));
+        QStringLiteral("\\b(?:localised|text|tr|words)\\(\\s*((?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+)"));
     static const QRegularExpression literal(QStringLiteral("\"((?:[^\"\\\\]|\\\\.)*)\""));
     QStringList keys;
     QDirIterator files(QStringLiteral(VELLUMRY_SOURCE_FOLDER),
