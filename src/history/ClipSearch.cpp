@@ -24,9 +24,14 @@ constexpr std::size_t manyTexts = 1000;
 
 /// Everything of a clip that its reader may remember, in one text.
 QByteArray haystackOf(const Clip& clip) {
-    return text::foldedBytes(clip.title.toUtf8() + '\n' + clip.searchText.utf8() + '\n' +
-                             clip.sourceAppName.value_or(QString()).toUtf8() + '\n' +
-                             clip.imageText.value_or(QString()).toUtf8());
+    const QByteArray title = clip.title.toUtf8();
+    const QByteArray& body = clip.searchText.utf8();
+    const QByteArray application = clip.sourceAppName.value_or(QString()).toUtf8();
+    const QByteArray imageText = clip.imageText.value_or(QString()).toUtf8();
+    QByteArray whole;
+    whole.reserve(title.size() + body.size() + application.size() + imageText.size() + 3);
+    whole.append(title).append('\n').append(body).append('\n').append(application).append('\n').append(imageText);
+    return text::foldedBytes(whole);
 }
 
 /// Those of `clips` that are marked. Each copy counts up in a clip that is far away in memory, so a few are fetched
