@@ -208,9 +208,14 @@ bool standsForItselfAmongWhole(char32_t scalar) {
            (scalar >= 0xAC00 && scalar <= 0xD7A3);
 }
 
-/// Folds a run of bytes that are not ASCII, scalar by scalar; false when a scalar needs the full tables or its
-/// neighbours.
-bool appendByScalars(const char* from, const char* end, QByteArray& out) {
+/// No scalar's folding takes more than this for each byte of the scalar, and the last may be written with the rest of
+/// its table entry.
+constexpr qsizetype mostBytesPerByte = 4;
+constexpr qsizetype entrySize = 8;
+
+/// Folds a run of bytes that are not ASCII, scalar by scalar, and answers where the result ends; null when a scalar
+/// needs the full tables or its neighbours.
+char* foldByScalars(const char* from, const char* end, char* out) {
     const ShortFoldings& table = shortFoldings();
     const auto trail = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; };
     bool mustBeWhole = false;
@@ -219,48 +224,51 @@ bool appendByScalars(const char* from, const char* end, QByteArray& out) {
         const auto lead = static_cast<unsigned char>(*from);
         if (lead >= 0xC2 && lead <= 0xDF && end - from >= 2 && trail(from[1])) {
             const ShortFolding& entry = table[static_cast<std::size_t>((lead & 0x1F) << 6 | (from[1] & 0x3F))];
-            out.append(entry.bytes.data(), entry.length);
+            // All of the entry, because a copy of fixed length needs no call.
+            std::copy(entry.bytes.begin(), entry.bytes.end(), out);
+            out += entry.length;
             hasDropped |= entry.length == 0;
             from += 2;
         } else if (lead >= 0xE2 && lead <= 0xEF && end - from >= 3 && trail(from[1]) && trail(from[2])) {
             const char32_t scalar = (lead & 0x0Fu) << 12 | (from[1] & 0x3Fu) << 6 | (from[2] & 0x3Fu);
+            const bool isWhole = standsForItselfAmongWhole(scalar);
             if (scalar >= 0xFF01 && scalar <= 0xFF5E)
-                out.append(asciiLower(static_cast<char>(scalar - 0xFEE0)));
-            else if (standsForItself(scalar))
-                out.append(from, 3);
-            else if (standsForItselfAmongWhole(scalar)) {
-                out.append(from, 3);
-                mustBeWhole = true;
-            } else
-                return false;
+                *out++ = asciiLower(static_cast<char>(scalar - 0xFEE0));
+            else if (isWhole || standsForItself(scalar))
+                out = std::copy_n(from, 3, out);
+            else
+                return nullptr;
+            mustBeWhole |= isWhole;
             from += 3;
         } else if (lead == 0xF0 && end - from >= 4 && static_cast<unsigned char>(from[1]) == 0x9F && trail(from[2]) &&
                    trail(from[3]) && static_cast<unsigned char>(from[2]) < 0xAC) {
-            out.append(from, 4); // U+1F000…U+1FAFF, the pictographs
+            out = std::copy_n(from, 4, out); // U+1F000…U+1FAFF, the pictographs
             from += 4;
         } else
-            return false;
+            return nullptr;
     }
-    return !(mustBeWhole && hasDropped);
+    return mustBeWhole && hasDropped ? nullptr : out;
 }
 
 QByteArray foldedUtf8(const QByteArray& utf8, LetterI letterI) {
     if (letterI == LetterI::Turkic)
         return foldedByTables(QString::fromUtf8(utf8), letterI).toUtf8();
-    QByteArray result(utf8.size(), Qt::Uninitialized);
+    QByteArray result(utf8.size() + entrySize, Qt::Uninitialized);
     const char* from = utf8.constData();
     const char* const end = from + utf8.size();
     qsizetype length = lowerAsciiRun(from, end, result.data());
     from += length;
     while (from < end) {
         const char* const runEnd = std::find_if(from, end, isAscii);
-        result.truncate(length);
-        if (!appendByScalars(from, runEnd, result)) {
+        result.resize(std::max(result.size(), length + mostBytesPerByte * (runEnd - from) + entrySize));
+        if (const char* const folded = foldByScalars(from, runEnd, result.data() + length)) {
+            length = folded - result.constData();
+        } else {
             result.truncate(length);
             result += foldedByTables(QString::fromUtf8(from, runEnd - from), letterI).toUtf8();
+            length = result.size();
         }
-        length = result.size();
-        result.resize(length + (end - runEnd));
+        result.resize(std::max(result.size(), length + (end - runEnd) + entrySize));
         const qsizetype ascii = lowerAsciiRun(runEnd, end, result.data() + length);
         length += ascii;
         from = runEnd + ascii;
