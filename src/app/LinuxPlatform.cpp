@@ -14,6 +14,7 @@
 #include "linux/x11/X11HotKeys.h"
 #include "linux/x11/X11KeyboardLayout.h"
 #include "linux/x11/X11PanelSurface.h"
+#include "linux/x11/X11PasteKeys.h"
 #include "linux/x11/X11PasteTarget.h"
 #include "linux/x11/X11Pasteboard.h"
 #include "linux/x11/XlibConnection.h"
@@ -38,6 +39,13 @@ bool addDisplay(Platform& platform) {
     options.terminalApps = [defaults = platform.defaults.get()] {
         return defaults->stringArray(QStringLiteral("terminalApps")).value_or(QStringList());
     };
+    const auto injected = std::make_shared<InjectedPresses>();
+    options.willPress = [injected] { injected->announce(std::chrono::steady_clock::now()); };
+    X11PasteKeys::Options pasteKeys;
+    pasteKeys.wasServed = [board = pasteboard.get()] { return board->wasServed(); };
+    pasteKeys.offerAsPrimary = [board = pasteboard.get()] { (void)board->offerAsPrimary(); };
+    pasteKeys.injected = injected;
+    platform.pasteKeys = std::make_unique<X11PasteKeys>(std::move(pasteKeys));
     platform.pasteboard = std::move(pasteboard);
     platform.frontmost = std::make_unique<X11FrontmostApplication>(connection, std::make_shared<DesktopEntries>());
     platform.hotKeys = std::make_unique<X11HotKeys>(connection);

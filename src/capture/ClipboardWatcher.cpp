@@ -123,6 +123,8 @@ void ClipboardWatcher::deliverRead() {
         if (copy->draft)
             deliver(std::move(copy));
     }
+    if (self && m_copies.empty() && onSettled)
+        onSettled();
 }
 
 void ClipboardWatcher::deliver(std::shared_ptr<Copy> copy) {

@@ -62,6 +62,10 @@ public:
     std::function<void(const ClipRef& clip)> onCapture;
     /// A draft survived the checks; called before it goes to the store, for a duplicate of an older clip too.
     std::function<void(const ClipDraft& draft)> onRead;
+    /// A copy was noticed and has neither reached `onRead` nor been dropped.
+    [[nodiscard]] bool isReading() const { return !m_copies.empty(); }
+    /// The last of those did.
+    std::function<void()> onSettled;
     /// `ignoreNextCopy` consumed a copy.
     std::function<void()> onIgnoredCopy;
 

@@ -13,6 +13,7 @@
 #include "shell/HistoryFolder.h"
 #include "shell/StartupAlert.h"
 
+#include <QGuiApplication>
 #include <QLocale>
 #include <QPointer>
 #include <chrono>
@@ -93,11 +94,12 @@ AppEnvironment::AppEnvironment(Platform& platform, std::unique_ptr<Preferences> 
     m_toast = std::make_unique<ToastController>(*platform.panelSurface, m_views);
     ScreenshotImporter::Hooks screenshotHooks;
     screenshotHooks.folders = [] { return ScreenshotFolders::ofUser().list(); };
-    m_screenshots = std::make_unique<ScreenshotImporter>(*m_store, *platform.images, *platform.folders,
-                                                         std::move(screenshotHooks));
+    m_screenshots =
+        std::make_unique<ScreenshotImporter>(*m_store, *platform.images, *platform.folders, std::move(screenshotHooks));
     m_screenshotSaving = std::make_unique<ScreenshotSaving>(*m_screenshots, *platform.defaults);
     m_panel = std::make_unique<PanelController>(*m_store, *m_paster, *platform.pasteboard, *platform.panelSurface,
                                                 m_views, panelHooks());
+    makeStack();
     wire();
 }
 
@@ -133,8 +135,10 @@ PanelController::Hooks AppEnvironment::panelHooks() {
 void AppEnvironment::wire() {
     wireCapture();
     wireScreenshots();
+    wireStack();
     ShortcutRegistrations::Actions actions;
     actions.togglePanel = [this] { togglePanel(); };
+    actions.toggleStack = [this] { toggleStack(stackSeed()); };
     actions.pastePinned = [this](int number) { m_panel->model().pastePinned(number); };
     m_shortcuts = std::make_unique<ShortcutRegistrations>(*m_platform->defaults, *m_hotKeyCenter, *m_platform->keyboard,
                                                           std::move(actions));
@@ -167,10 +171,43 @@ void AppEnvironment::wireCapture() {
 void AppEnvironment::wireScreenshots() {
     m_screenshots->onImported = [this](const ClipRef& clip) { m_textReading->take(clip); };
     m_screenshots->hasRoomForImages = [folder = m_imageVolume] { return hasRoomForImages(folder); };
-    m_screenshots->isAllowed = [this] {
-        return !m_watcher->pausedUntil || *m_watcher->pausedUntil <= currentDate();
-    };
+    m_screenshots->isAllowed = [this] { return !m_watcher->pausedUntil || *m_watcher->pausedUntil <= currentDate(); };
     m_screenshotSaving->onToast = [this](const ToastMessage& message) { showToast(message); };
+}
+
+void AppEnvironment::makeStack() {
+    const SystemHooks system = systemHooks();
+    StackWiring::Hooks hooks;
+    hooks.showToast = [this](const ToastMessage& message) { showToast(message); };
+    hooks.closePanel = [this] { m_panel->hide(); };
+    hooks.checkFileAccess = system.checkFileAccess;
+    hooks.fileStatus = system.fileStatus;
+    const StackWiring::Parts parts{*m_store,
+                                   *m_watcher,
+                                   *m_platform->pasteboard,
+                                   *m_platform->pasteTarget,
+                                   *m_platform->pasteKeys,
+                                   *m_platform->keyboard,
+                                   *m_platform->defaults};
+    m_stack = std::make_unique<StackWiring>(parts, std::move(hooks));
+    m_stackHUD = std::make_unique<StackHUDController>(m_stack->stack(), *m_platform->panelSurface, m_views);
+}
+
+void AppEnvironment::wireStack() {
+    m_stack->listener().isOwnWindowFocused = [] { return QGuiApplication::focusWindow() != nullptr; };
+    m_stack->onStarted = [this] { m_stackHUD->show(); };
+    m_stack->onFinished = [this] { m_stackHUD->showFinished(); };
+    m_stack->onStopped = [this] { m_stackHUD->hide(); };
+    m_stackHUD->onStop = [this] { m_stack->stop(); };
+    m_panel->model().onToggleStack = [this](const std::vector<ClipRef>& clips) { m_stack->toggle(clips); };
+    m_panel->model().onAddToStack = [this](const std::vector<ClipRef>& clips) { m_stack->add(clips); };
+}
+
+/// What the shortcut starts the stack with: several selected clips of the open panel.
+std::vector<ClipRef> AppEnvironment::stackSeed() {
+    if (!m_panel->isVisible() || m_panel->model().selectedIDs().size() < 2)
+        return {};
+    return m_panel->model().selectedClipsInCopyOrder();
 }
 
 /// What was captured outlives the application it was copied in. The marker on our write keeps it from becoming a new
@@ -190,8 +227,8 @@ void AppEnvironment::start() {
     (void)reloadShortcuts();
     startMaintenance();
     m_store->enforceRetention(currentDate());
-    m_textReading->scheduleBacklog();
     m_screenshotSaving->startIfWanted();
+    m_textReading->scheduleBacklog();
     showStartupAlert();
     QTimer::singleShot(warmUpDelay, this, [this] { m_panel->warmUp(); });
 }

@@ -11,6 +11,8 @@
 #include "shell/Platform.h"
 #include "shell/Preferences.h"
 #include "shell/ScreenshotSaving.h"
+#include "shell/StackHUDController.h"
+#include "shell/StackWiring.h"
 #include "shell/TextReading.h"
 #include "shell/ToastController.h"
 
@@ -40,6 +42,8 @@ public:
     void openPanel();
     void togglePanel();
     void showToast(const ToastMessage& message);
+    /// Stops the Paste Stack when it runs, else starts it with `seed`, first pasted first.
+    void toggleStack(const std::vector<ClipRef>& seed) { m_stack->toggle(seed); }
     /// Registers the global shortcuts anew; one sentence for each that another program holds.
     QStringList reloadShortcuts();
     void suspendShortcuts(bool isSuspended);
@@ -53,6 +57,7 @@ public:
     [[nodiscard]] ClipStore& store() { return *m_store; }
     [[nodiscard]] ScreenshotSaving& screenshotSaving() { return *m_screenshotSaving; }
     [[nodiscard]] PanelController& panel() { return *m_panel; }
+    [[nodiscard]] PasteStack& stack() { return m_stack->stack(); }
     [[nodiscard]] TextReadingQueue& textReader() { return m_textReading->queue(); }
 
 private:
@@ -64,6 +69,9 @@ private:
     void wire();
     void wireCapture();
     void wireScreenshots();
+    void makeStack();
+    void wireStack();
+    [[nodiscard]] std::vector<ClipRef> stackSeed();
     void startMaintenance();
     void runMaintenance();
     void showStartupAlert();
@@ -88,6 +96,8 @@ private:
     std::unique_ptr<HotKeyCenter> m_hotKeyCenter;
     std::unique_ptr<ToastController> m_toast;
     std::unique_ptr<PanelController> m_panel;
+    std::unique_ptr<StackWiring> m_stack;
+    std::unique_ptr<StackHUDController> m_stackHUD;
     std::unique_ptr<ShortcutRegistrations> m_shortcuts;
     std::unique_ptr<AlertWindow> m_alert;
     QTimer m_maintenance;

@@ -10,6 +10,7 @@
 #include "platform/KeyStore.h"
 #include "platform/KeyboardLayout.h"
 #include "platform/PanelSurface.h"
+#include "platform/PasteKeys.h"
 #include "platform/PasteTarget.h"
 #include "platform/Pasteboard.h"
 #include "platform/SingleInstance.h"
@@ -32,6 +33,7 @@ struct Platform {
     std::unique_ptr<HotKeyRegistrar> hotKeys;
     std::unique_ptr<KeyboardLayout> keyboard;
     std::unique_ptr<PasteTarget> pasteTarget;
+    std::unique_ptr<PasteKeys> pasteKeys;
     std::unique_ptr<PanelSurface> panelSurface;
     std::unique_ptr<ImageCodec> images;
     std::unique_ptr<TextReader> textReader;

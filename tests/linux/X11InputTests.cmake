@@ -12,6 +12,7 @@ vellumry_test(
     X11InputTestMain.cpp
     X11KeyboardLayoutTest.cpp
     X11PanelSurfaceTest.cpp
+    X11PasteKeysTest.cpp
     X11PasteTargetTest.cpp
     X11ScreensTest.cpp
     XClient.cpp

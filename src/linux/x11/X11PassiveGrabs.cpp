@@ -39,15 +39,19 @@ bool isTestDevice(XlibConnection& connection, int device) {
 } // namespace
 
 int masterKeyboard(XlibConnection& connection) {
+    // A client has a pointer of its own only where it was given one; all others go by the first.
     int pointer = 0;
-    if (!XIGetClientPointer(connection.display(), 0, &pointer))
-        return XIAllMasterDevices;
-    int count = 0;
+    const bool isAssigned = XIGetClientPointer(connection.display(), 0, &pointer) && pointer != 0;
     int keyboard = XIAllMasterDevices;
-    if (XIDeviceInfo* device = XIQueryDevice(connection.display(), pointer, &count)) {
-        keyboard = count > 0 ? device->attachment : keyboard;
-        XIFreeDeviceInfo(device);
+    int count = 0;
+    XIDeviceInfo* devices = XIQueryDevice(connection.display(), XIAllMasterDevices, &count);
+    for (int index = count - 1; devices != nullptr && index >= 0; --index) {
+        const XIDeviceInfo& device = devices[index];
+        if (device.use == XIMasterKeyboard && (!isAssigned || device.attachment == pointer))
+            keyboard = device.deviceid;
     }
+    if (devices != nullptr)
+        XIFreeDeviceInfo(devices);
     return keyboard;
 }
 

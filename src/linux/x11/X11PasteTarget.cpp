@@ -95,6 +95,7 @@ void X11PasteTarget::pressPaste() {
     const bool isTerminal = isTerminalInFront();
     const bool hasPrimary = isTerminal && m_options.offerAsPrimary && m_options.offerAsPrimary();
     releaseHeldKeys();
+    m_options.willPress();
     if (hasPrimary)
         pressChord({shift, keymap.keycodeOf(XK_Insert, placeOf(KEY_INSERT))});
     else if (isTerminal)

@@ -21,6 +21,8 @@ public:
         std::function<QStringList()> terminalApps;
         /// How long the keyboard's return is waited for.
         std::chrono::milliseconds focusDeadline{400};
+        /// Called before the paste chord is pressed.
+        std::function<void()> willPress = [] {};
     };
 
     X11PasteTarget(std::shared_ptr<XlibConnection> connection, std::shared_ptr<X11Focus> focus, Options options);

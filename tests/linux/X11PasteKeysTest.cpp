@@ -1,0 +1,397 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "linux/x11/X11PasteKeys.h"
+
+#include "linux/XClient.h"
+#include "linux/XSession.h"
+#include "linux/x11/X11PasteTarget.h"
+#include "platform/EventFlags.h"
+
+#include <QElapsedTimer>
+#include <atomic>
+#include <gtest/gtest.h>
+#include <linux/input-event-codes.h>
+
+namespace vellumry {
+
+namespace {
+
+using namespace std::chrono_literals;
+using Chords = std::vector<std::pair<unsigned long, unsigned int>>;
+
+constexpr unsigned long symbolV = 0x76;
+constexpr unsigned long symbolX = 0x78;
+constexpr unsigned long symbolInsert = 0xff63;
+constexpr unsigned int shift = 1;
+constexpr unsigned int control = 4;
+constexpr unsigned int alt = 8;
+
+class X11PasteKeysTest : public ::testing::Test {
+protected:
+    struct Press {
+        KeyPress press;
+        std::shared_ptr<HeldKey> key;
+    };
+
+    void SetUp() override {
+        ASSERT_TRUE(XSession::setLayout(QStringLiteral("us -variant basic")));
+        // The first key of another device gives the server's keyboard a new map.
+        client.chord({KEY_LEFTSHIFT});
+        ASSERT_TRUE(editor.open("edit", "Editor"));
+        keys.onPress = [this](const KeyPress& press, std::shared_ptr<HeldKey> key) {
+            presses.push_back({press, std::move(key)});
+        };
+        (void)editor.takeKeys();
+    }
+    void TearDown() override {
+        presses.clear();
+        keys.stop();
+        EXPECT_TRUE(XSession::setLayout(QStringLiteral("us -variant basic")));
+    }
+
+    [[nodiscard]] X11PasteKeys::Options options() {
+        X11PasteKeys::Options result;
+        result.wasServed = [this] { return wasServed.load(); };
+        result.offerAsPrimary = [this] { ++primaryOffers; };
+        result.injected = injected;
+        // Where a test wants a limit to pass it waits for that; all others must not run into it.
+        result.holdLimit = 3000ms;
+        result.servedLimit = 2000ms;
+        return result;
+    }
+    /// What the window got, modifier keys left out.
+    void collect() {
+        for (const XClient::Key& key : editor.takeKeys()) {
+            if (key.isPress && (key.symbol < 0xffe0 || key.symbol > 0xffef))
+                typed.emplace_back(key.symbol, key.state & 0xfdU);
+        }
+    }
+    bool arrives(const Chords& chords) {
+        return waitUntil([&] {
+                   collect();
+                   return typed.size() >= chords.size();
+               }) &&
+               typed == chords;
+    }
+    bool isTold(std::size_t count) {
+        return waitUntil([&] { return presses.size() >= count; }) && presses.size() == count;
+    }
+    void letGo(HeldKey::Contents contents = HeldKey::Contents::fresh) { presses.back().key->letGo(contents); }
+
+    std::atomic<bool> wasServed = true;
+    int primaryOffers = 0;
+    std::shared_ptr<InjectedPresses> injected = std::make_shared<InjectedPresses>();
+    X11PasteKeys keys{options()};
+    XClient client;
+    XClient editor;
+    std::vector<Press> presses;
+    Chords typed;
+};
+
+} // namespace
+
+TEST_F(X11PasteKeysTest, ThePressWaitsUntilItIsLetGoAndIsNotChanged) {
+    ASSERT_TRUE(keys.start());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    client.chord({KEY_X});
+    ASSERT_TRUE(isTold(1));
+    EXPECT_EQ(presses[0].press, (KeyPress{9, eventflag::command, false, QStringLiteral("v"), 0, 0}));
+    EXPECT_TRUE(presses[0].key->isHeld());
+    collect();
+    EXPECT_EQ(typed, Chords{}) << "the key and what is typed behind it";
+    letGo();
+    EXPECT_FALSE(presses[0].key->isHeld());
+    EXPECT_TRUE(arrives({{symbolV, control}, {symbolX, 0}}));
+    EXPECT_EQ(presses.size(), 1U);
+}
+
+TEST_F(X11PasteKeysTest, AllPasteChordsAreToldAndNoOthers) {
+    ASSERT_TRUE(keys.start());
+    keys.onPress = [this](const KeyPress& press, const std::shared_ptr<HeldKey>&) { presses.push_back({press, {}}); };
+    const std::vector<std::vector<unsigned int>> chords = {{KEY_LEFTCTRL, KEY_V},
+                                                           {KEY_LEFTCTRL, KEY_LEFTSHIFT, KEY_V},
+                                                           {KEY_RIGHTCTRL, KEY_LEFTALT, KEY_V},
+                                                           {KEY_LEFTCTRL, KEY_LEFTSHIFT, KEY_LEFTALT, KEY_V},
+                                                           {KEY_LEFTSHIFT, KEY_INSERT}};
+    for (std::size_t index = 0; index < chords.size(); ++index) {
+        client.chord({KEY_LEFTCTRL, KEY_LEFTMETA, KEY_V}); // not a paste
+        client.chord({KEY_V});
+        client.chord({KEY_LEFTCTRL, KEY_INSERT});
+        client.chord(chords[index]);
+        ASSERT_TRUE(isTold(index + 1)) << index;
+    }
+    const std::vector<quint32> flags = {eventflag::command, eventflag::command | eventflag::shift,
+                                        eventflag::command | eventflag::option,
+                                        eventflag::command | eventflag::shift | eventflag::option, eventflag::shift};
+    for (std::size_t index = 0; index < flags.size(); ++index)
+        EXPECT_EQ(presses[index].press.flags, flags[index]);
+    EXPECT_EQ(presses.back().press.keyCode, 114);
+}
+
+TEST_F(X11PasteKeysTest, TheNextPressComesWhenThisOneHasGone) {
+    ASSERT_TRUE(keys.start());
+    for (int count = 0; count < 3; ++count)
+        client.chord({KEY_LEFTCTRL, KEY_V});
+    for (std::size_t count = 1; count <= 3; ++count) {
+        ASSERT_TRUE(isTold(count));
+        letGo();
+    }
+    EXPECT_TRUE(arrives(Chords(3, {symbolV, control})));
+}
+
+TEST_F(X11PasteKeysTest, APressThatNobodyAnswersGoesByItself) {
+    X11PasteKeys::Options limited = options();
+    limited.holdLimit = 100ms;
+    X11PasteKeys short_(limited);
+    std::shared_ptr<HeldKey> kept;
+    short_.onPress = [&](const KeyPress&, std::shared_ptr<HeldKey> key) { kept = std::move(key); };
+    ASSERT_TRUE(short_.start());
+    QElapsedTimer timer;
+    timer.start();
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    EXPECT_TRUE(arrives({{symbolV, control}}));
+    EXPECT_GE(timer.elapsed(), 90);
+    ASSERT_NE(kept, nullptr);
+    EXPECT_FALSE(kept->isHeld());
+    kept->letGo(HeldKey::Contents::fresh); // too late, and harmless
+    client.chord({KEY_X});
+    EXPECT_TRUE(arrives({{symbolV, control}, {symbolX, 0}}));
+}
+
+TEST_F(X11PasteKeysTest, ABusyMainThreadDoesNotHoldTheKeyboard) {
+    X11PasteKeys::Options limited = options();
+    limited.holdLimit = 50ms;
+    X11PasteKeys busy(limited);
+    int told = 0;
+    busy.onPress = [&](const KeyPress&, const std::shared_ptr<HeldKey>&) { ++told; };
+    ASSERT_TRUE(busy.start());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    QElapsedTimer timer;
+    timer.start();
+    while (typed.empty() && timer.elapsed() < 3000) // no event of ours is delivered meanwhile
+        collect();
+    EXPECT_EQ(typed, (Chords{{symbolV, control}}));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(told, 0) << "a key that has gone is not told of";
+}
+
+TEST_F(X11PasteKeysTest, AHeldKeyIsToldOnceAndItsRepeatsPass) {
+    ASSERT_TRUE(keys.start());
+    client.press(KEY_LEFTCTRL);
+    client.press(KEY_V);
+    ASSERT_TRUE(isTold(1));
+    letGo();
+    EXPECT_TRUE(waitUntil([&] {
+        collect();
+        return typed.size() > 5;
+    }));
+    client.release(KEY_V);
+    client.chord({KEY_V});
+    ASSERT_TRUE(isTold(2));
+    letGo();
+    client.release(KEY_LEFTCTRL);
+}
+
+TEST_F(X11PasteKeysTest, WhatWePressOurselvesPasses) {
+    ASSERT_TRUE(keys.start());
+    const auto connection = XlibConnection::create();
+    X11PasteTarget::Options target;
+    target.willPress = [this] { injected->announce(std::chrono::steady_clock::now()); };
+    X11PasteTarget ours(connection, std::make_shared<X11Focus>(connection), target);
+    ours.pressPaste();
+    EXPECT_TRUE(arrives({{symbolV, control}}));
+    EXPECT_TRUE(presses.empty());
+    client.chord({KEY_LEFTCTRL, KEY_V}); // another program's, a remote desktop's for instance
+    EXPECT_TRUE(isTold(1));
+}
+
+TEST_F(X11PasteKeysTest, ThePrimarySelectionIsOfferedForShiftInsertOnly) {
+    ASSERT_TRUE(keys.start());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    ASSERT_TRUE(isTold(1));
+    letGo();
+    client.chord({KEY_LEFTSHIFT, KEY_INSERT});
+    ASSERT_TRUE(isTold(2));
+    EXPECT_EQ(primaryOffers, 0);
+    letGo();
+    EXPECT_EQ(primaryOffers, 1);
+    client.chord({KEY_LEFTSHIFT, KEY_INSERT});
+    ASSERT_TRUE(isTold(3));
+    letGo(HeldKey::Contents::same);
+    EXPECT_EQ(primaryOffers, 1);
+    EXPECT_TRUE(arrives({{symbolV, control}, {symbolInsert, shift}, {symbolInsert, shift}}));
+}
+
+TEST_F(X11PasteKeysTest, ThePasteBeforeItIsFetchedFirst) {
+    ASSERT_TRUE(keys.start());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    ASSERT_TRUE(isTold(1));
+    wasServed = false;
+    letGo();
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    EXPECT_TRUE(arrives({{symbolV, control}}));
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_TRUE(waitUntil([&] { return timer.elapsed() > 100; }));
+    EXPECT_EQ(presses.size(), 1U);
+    wasServed = true;
+    EXPECT_TRUE(isTold(2));
+    letGo(HeldKey::Contents::same);
+    wasServed = false; // nothing was written for that one
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    timer.restart();
+    EXPECT_TRUE(isTold(3));
+    EXPECT_LT(timer.elapsed(), 1000);
+}
+
+TEST_F(X11PasteKeysTest, AProgramThatDoesNotWantThePasteHoldsNothingUpForLong) {
+    X11PasteKeys::Options limited = options();
+    limited.servedLimit = 50ms;
+    X11PasteKeys patient(limited);
+    patient.onPress = [this](const KeyPress& press, std::shared_ptr<HeldKey> key) { presses.push_back({press, key}); };
+    ASSERT_TRUE(patient.start());
+    wasServed = false;
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    ASSERT_TRUE(isTold(1));
+    letGo();
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    EXPECT_TRUE(isTold(2));
+    letGo();
+}
+
+TEST_F(X11PasteKeysTest, LocksDoNotMatter) {
+    ASSERT_TRUE(keys.start());
+    std::size_t count = 0;
+    for (const unsigned int lock : {KEY_CAPSLOCK, KEY_NUMLOCK, KEY_CAPSLOCK, KEY_NUMLOCK}) {
+        client.chord({lock});
+        client.chord({KEY_LEFTCTRL, KEY_V});
+        ASSERT_TRUE(isTold(++count));
+        EXPECT_EQ(presses.back().press.characters, QStringLiteral("v"));
+        letGo();
+    }
+}
+
+TEST_F(X11PasteKeysTest, TheKeyThatTypesVFollowsTheLayout) {
+    ASSERT_TRUE(keys.start());
+    const std::vector<std::pair<QString, unsigned int>> layouts = {{QStringLiteral("us -variant dvorak"), KEY_DOT},
+                                                                   {QStringLiteral("de"), KEY_V},
+                                                                   {QStringLiteral("ru"), KEY_V},
+                                                                   {QStringLiteral("ara"), KEY_V},
+                                                                   {QStringLiteral("gr"), KEY_V}};
+    for (const auto& [layout, code] : layouts) {
+        ASSERT_TRUE(XSession::setLayout(layout));
+        presses.clear();
+        EXPECT_TRUE(waitUntil([&, key = code] {
+            client.chord({KEY_LEFTCTRL, key});
+            QCoreApplication::processEvents();
+            return !presses.empty();
+        })) << qPrintable(layout);
+        ASSERT_FALSE(presses.empty());
+        EXPECT_EQ(presses.back().press.keyCode, 9) << qPrintable(layout);
+        presses.clear();
+    }
+}
+
+TEST_F(X11PasteKeysTest, OfTwoLayoutsTheOneInUseDecides) {
+    ASSERT_TRUE(XSession::setLayout(QStringLiteral("us,us -variant ,dvorak -option grp:menu_toggle")));
+    ASSERT_TRUE(keys.start());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    ASSERT_TRUE(isTold(1));
+    EXPECT_EQ(presses[0].press.keyCode, 9);
+    letGo();
+    client.chord({KEY_COMPOSE});
+    client.chord({KEY_LEFTCTRL, KEY_V}); // types k there
+    ASSERT_TRUE(isTold(2));
+    EXPECT_EQ(presses[1].press.characters, QStringLiteral("k"));
+    EXPECT_NE(presses[1].press.keyCode, 9);
+    letGo();
+    client.chord({KEY_LEFTCTRL, KEY_DOT});
+    ASSERT_TRUE(isTold(3));
+    EXPECT_EQ(presses[2].press.characters, QStringLiteral("v"));
+    EXPECT_EQ(presses[2].press.keyCode, 9);
+    letGo();
+    EXPECT_TRUE(XSession::setLayout(QStringLiteral("us -option")));
+}
+
+TEST_F(X11PasteKeysTest, AnotherHolderOfTheKeyIsFoundAndNothingIsKept) {
+    XClient other;
+    ASSERT_TRUE(other.grabKey(KEY_V, control));
+    EXPECT_FALSE(keys.start());
+    XClient third;
+    EXPECT_TRUE(third.grabKey(KEY_INSERT, shift));
+    EXPECT_TRUE(third.grabKey(KEY_V, control | alt));
+}
+
+TEST_F(X11PasteKeysTest, ASecondListenerFindsTheFirst) {
+    ASSERT_TRUE(keys.start());
+    EXPECT_TRUE(keys.start());
+    X11PasteKeys second(options());
+    EXPECT_FALSE(second.start());
+    keys.stop();
+    EXPECT_TRUE(second.start());
+}
+
+TEST_F(X11PasteKeysTest, WithoutThePrimaryChordsTheRestStillWorks) {
+    XClient other;
+    ASSERT_TRUE(other.grabKey(KEY_INSERT, shift));
+    ASSERT_TRUE(keys.start());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    EXPECT_TRUE(isTold(1));
+}
+
+TEST_F(X11PasteKeysTest, WhoeverHoldsTheKeyboardGetsTheKey) {
+    ASSERT_TRUE(keys.start());
+    XClient locker;
+    ASSERT_TRUE(locker.grabKeyboard());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    locker.ungrabKeyboard();
+    client.chord({KEY_LEFTCTRL, KEY_LEFTSHIFT, KEY_V});
+    ASSERT_TRUE(isTold(1));
+    EXPECT_EQ(presses[0].press.flags, eventflag::command | eventflag::shift);
+}
+
+TEST_F(X11PasteKeysTest, StoppingLetsAKeyThatWaitsGo) {
+    ASSERT_TRUE(keys.start());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    ASSERT_TRUE(isTold(1));
+    keys.stop();
+    EXPECT_FALSE(presses[0].key->isHeld());
+    EXPECT_TRUE(arrives({{symbolV, control}}));
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    EXPECT_TRUE(arrives(Chords(2, {symbolV, control})));
+    EXPECT_EQ(presses.size(), 1U);
+}
+
+TEST_F(X11PasteKeysTest, WhoeverIsToldMayStopIt) {
+    keys.onPress = [this](const KeyPress&, const std::shared_ptr<HeldKey>& key) {
+        key->letGo(HeldKey::Contents::fresh);
+        keys.stop();
+        keys.onPress = nullptr;
+    };
+    ASSERT_TRUE(keys.start());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    EXPECT_TRUE(arrives({{symbolV, control}}));
+}
+
+TEST_F(X11PasteKeysTest, AReplacedWindowManagerChangesNothing) {
+    ASSERT_TRUE(keys.start());
+    client.setRootProperty("_NET_SUPPORTING_WM_CHECK", 1);
+    for (std::size_t count = 1; count <= 20; ++count) {
+        client.chord({KEY_LEFTCTRL, KEY_V});
+        ASSERT_TRUE(isTold(count));
+        letGo();
+    }
+}
+
+TEST(InjectedPresses, AreOursOnceAndForAWhile) {
+    InjectedPresses presses;
+    const auto now = std::chrono::steady_clock::now();
+    EXPECT_FALSE(presses.claim(now));
+    presses.announce(now);
+    EXPECT_TRUE(presses.claim(now + 10ms));
+    EXPECT_FALSE(presses.claim(now + 10ms));
+    presses.announce(now);
+    EXPECT_FALSE(presses.claim(now + InjectedPresses::lifetime + 1ms));
+    EXPECT_FALSE(presses.claim(now));
+}
+
+} // namespace vellumry
