@@ -18,5 +18,6 @@ vellumry_test(
     XClient.cpp
     XClient.h
     XSession.cpp
+    XSettingsTest.cpp
     XSession.h
   LINKS vellumry_linux PkgConfig::X11_INPUT_TESTS)

@@ -44,6 +44,8 @@ target_sources(
     x11/XErrorTrap.h
     x11/XWindowProperties.cpp
     x11/XWindowProperties.h
+    x11/XSettings.cpp
+    x11/XSettings.h
     x11/XlibConnection.cpp
     x11/XlibConnection.h)
 

@@ -2,6 +2,7 @@
 #include "linux/x11/X11PanelSurface.h"
 
 #include "linux/x11/XErrorTrap.h"
+#include "linux/x11/XSettings.h"
 #include "linux/x11/XWindowProperties.h"
 
 #include <QCursor>
@@ -157,6 +158,10 @@ bool X11PanelSurface::isOverOwnWindow() const {
         const QRect area = m_inputAreas.value(window, QRect(QPoint(), window->size()));
         return window->isVisible() && area.translated(window->position()).contains(pointer);
     });
+}
+
+bool X11PanelSurface::reducesMotion() const {
+    return XSettings::integer(*m_connection, "Gtk/EnableAnimations") == 0;
 }
 
 // Raw button presses are told whoever gets the click. Where nobody takes the keyboard on a click (the bare desktop),

@@ -27,6 +27,7 @@ public:
     void presentPassive(QWindow* window, QRect frame, bool clickThrough) override;
     void setInputArea(QWindow* window, const QRect& area) override;
     [[nodiscard]] bool canBlend() const override { return m_canBlend; }
+    [[nodiscard]] bool reducesMotion() const override;
     [[nodiscard]] std::optional<ScreenPlace> screenUnderPointer() const override { return m_screens.underPointer(); }
     [[nodiscard]] std::optional<ScreenPlace> screenOf(const QRect& frame) const override { return m_screens.of(frame); }
 
