@@ -22,6 +22,10 @@ constexpr std::chrono::milliseconds longestBookmarking{2000};
 /// When the making of bookmarks stops by itself, so that those made so far count.
 constexpr qint64 bookmarkingMilliseconds = 1500;
 
+/// Bytes of a payload whose text is looked at on the main thread.
+constexpr qint64 largestTextHere = 128 * 1024;
+constexpr std::chrono::milliseconds longestClassifying{60'000};
+
 using Bookmarks = std::vector<std::optional<QByteArray>>;
 
 std::vector<FileRef> filesOf(const ClipPayload& payload) {
@@ -85,6 +89,28 @@ QString searchTextOf(const std::vector<FileRef>& files) {
     return lines;
 }
 
+std::optional<ClipDraft> classifiedNow(ClipDraft draft) {
+    if (!classifyText(draft))
+        return std::nullopt;
+    return draft;
+}
+
+/// Decoding and looking through a text of many megabytes takes long enough to be felt under the fingers.
+QCoro::Task<std::optional<ClipDraft>> classified(ClipDraft draft) {
+    std::optional<ClipDraft> result;
+    if (draft.payload.byteCount() <= largestTextHere) {
+        result = classifiedNow(std::move(draft));
+        co_return result;
+    }
+    std::function<std::optional<ClipDraft>()> job = [draft = std::move(draft)]() mutable {
+        return classifiedNow(std::move(draft));
+    };
+    DetachedRun<std::optional<ClipDraft>> run(std::move(job), longestClassifying);
+    const std::optional<std::optional<ClipDraft>> outcome = co_await run;
+    result = outcome.value_or(std::nullopt);
+    co_return result;
+}
+
 void describeImage(ClipDraft& draft, const ImageSummary& summary, Date now) {
     draft.kind = ClipKind::image;
     draft.thumbnail = summary.thumbnail;
@@ -133,9 +159,9 @@ QCoro::Task<std::optional<ClipDraft>> DraftBuilder::build(ClipPayload payload, S
         co_return draft;
     }
 
-    if (!classifyText(draft))
-        co_return std::nullopt;
-    co_return draft;
+    auto classifying = classified(std::move(draft));
+    std::optional<ClipDraft> result = co_await classifying;
+    co_return result;
 }
 
 } // namespace vellumry

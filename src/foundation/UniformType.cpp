@@ -27,7 +27,7 @@ std::span<const Target> targets() {
         Target{&utf8PlainText, u"text/plain", offered},
         Target{&utf8PlainText, u"STRING", offered},
         Target{&utf8PlainText, u"TEXT", offered},
-        Target{&utf8PlainText, u"COMPOUND_TEXT", readOnly},
+        Target{&utf8PlainText, u"COMPOUND_TEXT", offered},
         Target{&utf16PlainText, u"text/plain;charset=utf-16", offered},
         Target{&rtf, u"text/rtf", offered},
         Target{&rtf, u"text/richtext", offered},

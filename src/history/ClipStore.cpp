@@ -3,7 +3,7 @@
 
 #include "history/Attempts.h"
 #include "history/ClipDatabase.h"
-#include "history/ClipFingerprint.h"
+#include "history/ClipHasher.h"
 #include "history/ClipList.h"
 #include "history/ClipOfDraft.h"
 #include "history/ClipSearch.h"
@@ -34,6 +34,7 @@ struct ClipStore::Private {
     ClipSearch search;
     Clock clock = currentDate;
     ExpiryTimer expiry;
+    ClipHasher hasher{crypto};
 };
 
 QCoro::Task<std::unique_ptr<ClipStore>> ClipStore::open(std::shared_ptr<ClipDatabase> database, RetentionPolicy policy,
@@ -57,12 +58,16 @@ ClipStore::ClipStore(RetentionPolicy policy)
 ClipStore::~ClipStore() = default;
 
 QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
+    const QPointer<ClipStore> self(this);
     QString fingerprint;
     try {
-        fingerprint = fingerprintOf(draft, d->crypto);
+        auto hashing = d->hasher.fingerprint(draft);
+        fingerprint = co_await hashing;
     } catch (const CryptoError&) {
         co_return ClipRef();
     }
+    if (!self)
+        co_return ClipRef();
     const ClipRef existing = d->list.findFingerprint(fingerprint);
     const ClipRef clip =
         std::make_shared<const Clip>(clipOfDraft(draft, existing, fingerprint, now, d->sensitiveLifetime));
@@ -70,7 +75,6 @@ QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
     // The keys of its image text stay: that text was kept, or there is none.
     d->search.forgetText(clip->id);
 
-    const QPointer<ClipStore> self(this);
     if (const std::shared_ptr<ClipDatabase> database = d->database) {
         changed();
         auto writing = attempted(database->insert(clip, std::move(draft.payload)));

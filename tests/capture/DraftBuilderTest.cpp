@@ -39,6 +39,23 @@ TEST_F(DraftBuilderTest, TextIsBuiltAtOnceWithItsSource) {
     EXPECT_TRUE(images.requests.empty());
 }
 
+TEST_F(DraftBuilderTest, ALongTextIsLookedAtElsewhereWithTheSameResult) {
+    const QByteArray line = "a first line\n";
+    const ClipPayload payload{{{{{uniformtype::utf8PlainText, line.repeated(100'000)}}, {}}}};
+    auto building = builder.build(payload, editor, now);
+    EXPECT_FALSE(building.isReady());
+    const auto draft = settle(std::move(building));
+    ASSERT_TRUE(draft && *draft);
+    EXPECT_EQ((*draft)->kind, ClipKind::text);
+    EXPECT_EQ((*draft)->title, QStringLiteral("a first line"));
+    EXPECT_EQ((*draft)->searchText.size(), 200'000);
+    EXPECT_EQ((*draft)->payload, payload);
+    const ClipPayload blank{{{{{uniformtype::utf8PlainText, QByteArray(1'000'000, ' ')}}, {}}}};
+    const auto nothing = settle(builder.build(blank, editor, now));
+    ASSERT_TRUE(nothing.has_value());
+    EXPECT_FALSE(nothing->has_value());
+}
+
 TEST_F(DraftBuilderTest, NothingComesOfAnEmptyPayload) {
     EXPECT_FALSE(build({}));
 }

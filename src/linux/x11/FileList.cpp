@@ -47,7 +47,7 @@ QByteArray asUriList(const QByteArrayList& urls) {
 }
 
 QByteArray asCopiedFiles(const QByteArrayList& urls, const QByteArray& original) {
-    const bool isCut = original == "cut" || original.startsWith("cut\n");
+    const bool isCut = original == "cut" || original.startsWith("cut\n") || original.startsWith('1');
     return (isCut ? "cut\n" : "copy\n") + urls.join('\n');
 }
 

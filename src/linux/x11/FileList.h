@@ -14,6 +14,8 @@ namespace vellumry::filelist {
 
 inline const QString uriList = QStringLiteral("text/uri-list");
 inline const QString copiedFiles = QStringLiteral("x-special/gnome-copied-files");
+/// KDE's way of telling a cut from a copy: "1" beside the list of files.
+inline const QString cutSelection = QStringLiteral("application/x-kde-cutselection");
 
 /// What one list holds: the URLs of files on this machine, byte for byte, and the first web address.
 struct Entries {
@@ -31,8 +33,8 @@ struct Entries {
 /// `text/uri-list` bytes: each entry ended by CR LF.
 [[nodiscard]] QByteArray asUriList(const QByteArrayList& urls);
 
-/// `x-special/gnome-copied-files` bytes: the operation, then one URL a line. The operation is that of `original` where
-/// it names one, else a copy.
+/// `x-special/gnome-copied-files` bytes: the operation, then one URL a line. The operation is that of `original`, the
+/// bytes of a list or of `cutSelection`, where it names one, else a copy.
 [[nodiscard]] QByteArray asCopiedFiles(const QByteArrayList& urls, const QByteArray& original);
 
 /// The paths of the files, one a line, as text.

@@ -63,7 +63,9 @@ void OfferedContents::offerFiles() {
     }
     if (!urls.isEmpty()) {
         offer(filelist::uriList, filelist::uriList, filelist::asUriList(urls));
-        const QByteArray original = representation(m_items.front(), filelist::copiedFiles);
+        QByteArray original = representation(m_items.front(), filelist::copiedFiles);
+        if (original.isEmpty())
+            original = representation(m_items.front(), filelist::cutSelection);
         offer(filelist::copiedFiles, filelist::copiedFiles, filelist::asCopiedFiles(urls, original));
         const bool hasText = std::ranges::any_of(m_items, [](const PasteboardItem& item) {
             return item.representations.contains(uniformtype::utf8PlainText);
@@ -109,12 +111,14 @@ void OfferedContents::offerRepresentations() {
                 offer(target, type, bytes);
         }
     }
-    // Text that Latin-1 has no letters for is not offered as STRING; long text is not worth looking through for that.
+    // Text that Latin-1 has no letters for is not offered as such; long text is not worth looking through for that.
     constexpr qsizetype longText = 1024 * 1024;
-    const auto string = m_sources.constFind(QStringLiteral("STRING"));
-    if (string != m_sources.constEnd() && (string->bytes.size() > longText || !data(QStringLiteral("STRING")))) {
-        m_sources.remove(QStringLiteral("STRING"));
-        m_targets.removeAll(QStringLiteral("STRING"));
+    for (const QString& latin : {QStringLiteral("STRING"), QStringLiteral("COMPOUND_TEXT")}) {
+        const auto source = m_sources.constFind(latin);
+        if (source != m_sources.constEnd() && (source->bytes.size() > longText || !data(latin))) {
+            m_sources.remove(latin);
+            m_targets.removeAll(latin);
+        }
     }
 }
 

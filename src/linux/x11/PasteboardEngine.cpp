@@ -173,7 +173,8 @@ void PasteboardEngine::askForTargets(PendingResult<std::shared_ptr<const Selecti
     m_reader.read(std::move(request), now);
 }
 
-void PasteboardEngine::read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target, qint64 maxBytes,
+void PasteboardEngine::read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target,
+                            const QString& uniformType, qint64 maxBytes,
                             PendingResult<std::shared_ptr<const SelectionBytes>> result, Instant now) {
     if (m_ended || offer->moment.changeCount != changeCount() || offer->moment.deadline <= now ||
         !offer->atoms.contains(target)) {
@@ -187,18 +188,9 @@ void PasteboardEngine::read(const std::shared_ptr<const SelectionOffer>& offer, 
     request.maxBytes = maxBytes;
     request.silence = targetcoding::isMadeOnDemand(target) ? m_limits.rendering : m_limits.silence;
     request.deadline = offer->moment.deadline;
-    request.done = [this, result](std::optional<XcbProperty> property) {
-        // Elements of 32 bits are atoms, windows, numbers: never content.
-        std::shared_ptr<SelectionBytes> given;
-        if (property && property->isTooLong) {
-            given = std::make_shared<SelectionBytes>();
-            given->wasLarger = true;
-        } else if (property && property->format != 32) {
-            given = std::make_shared<SelectionBytes>();
-            given->propertyType = m_connection->atomName(property->type);
-            given->bytes = std::move(property->bytes);
-        }
-        result.deliver(given);
+    request.done = [this, result, target, uniformType](std::optional<XcbProperty> property) {
+        result.deliver(property ? SelectionBytes::of(*m_connection, std::move(*property), target, uniformType)
+                                : nullptr);
     };
     m_reader.read(std::move(request), now);
 }

@@ -4,6 +4,7 @@
 #include "linux/x11/OfferedContents.h"
 #include "linux/x11/PasteboardLimits.h"
 #include "linux/x11/PendingResult.h"
+#include "linux/x11/SelectionBytes.h"
 #include "linux/x11/SelectionOffer.h"
 #include "linux/x11/SelectionOwner.h"
 #include "linux/x11/SelectionReader.h"
@@ -17,13 +18,6 @@
 struct xcb_xfixes_selection_notify_event_t;
 
 namespace vellumry {
-
-/// The bytes an owner gave, with the name of their type.
-struct SelectionBytes {
-    QString propertyType;
-    QByteArray bytes;
-    bool wasLarger = false; ///< there was more than was asked for, and nothing is here
-};
 
 /// The pasteboard's side of the conversation with the X server: follows who owns the clipboard, reads it, owns it, and
 /// stands in as clipboard manager where the session has none. Pasteboard thread, but for `changeCount` and `wasServed`.
@@ -62,10 +56,11 @@ public:
     void disown(const std::shared_ptr<const OfferedContents>& contents);
     /// Null when nobody owns the clipboard or the owner does not say in time what it offers.
     void readOffer(PendingResult<std::shared_ptr<const SelectionOffer>> result, Instant now);
-    /// Null when the offer is of the past or the owner did not give the target. Pictures and documents, which programs
-    /// make only when they are asked for, are given more time than the rest.
-    void read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target, qint64 maxBytes,
-              PendingResult<std::shared_ptr<const SelectionBytes>> result, Instant now);
+    /// Null when the offer is of the past, the owner did not give the target, or what it gave cannot be understood.
+    /// With a `uniformType` the bytes are what that has for the target's, else as they came. Pictures and documents,
+    /// which programs make only when they are asked for, are given more time than the rest.
+    void read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target, const QString& uniformType,
+              qint64 maxBytes, PendingResult<std::shared_ptr<const SelectionBytes>> result, Instant now);
 
     void handleEvent(const xcb_generic_event_t& event, Instant now);
     void expire(Instant now);

@@ -10,6 +10,7 @@ target_sources(
     x11/PasteboardLimits.h
     x11/PasteboardThread.cpp x11/PasteboardThread.h
     x11/PendingResult.h
+    x11/SelectionBytes.cpp x11/SelectionBytes.h
     x11/SelectionOffer.cpp x11/SelectionOffer.h
     x11/SelectionOwner.cpp x11/SelectionOwner.h
     x11/SelectionReader.cpp x11/SelectionReader.h

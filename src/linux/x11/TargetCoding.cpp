@@ -63,7 +63,8 @@ std::optional<QByteArray> decode(const QString& uniformType, const QString& targ
 }
 
 std::optional<QByteArray> encode(const QString& uniformType, const QString& target, const QByteArray& bytes) {
-    if (uniformType == uniformtype::utf8PlainText && target == u"STRING")
+    // Compound text without escape sequences is Latin-1 too.
+    if (uniformType == uniformtype::utf8PlainText && (target == u"STRING" || target == u"COMPOUND_TEXT"))
         return latin1(bytes);
     return bytes;
 }

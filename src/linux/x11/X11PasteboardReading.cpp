@@ -3,7 +3,6 @@
 
 #include "foundation/UniformType.h"
 #include "linux/x11/FileList.h"
-#include "linux/x11/TargetCoding.h"
 
 #include <chrono>
 
@@ -38,11 +37,11 @@ void appendOnce(QStringList& types, const QString& type) {
 }
 
 QCoro::Task<std::shared_ptr<const SelectionBytes>> readTarget(std::shared_ptr<State> state, QString target,
-                                                              qint64 maxBytes) {
+                                                              QString uniformType, qint64 maxBytes) {
     const PendingResult<std::shared_ptr<const SelectionBytes>> result;
     if (const std::shared_ptr<PasteboardThread> thread = state->thread.lock()) {
-        thread->post([offer = state->offer, target, maxBytes, result](PasteboardEngine& engine, auto now) {
-            engine.read(offer, target, maxBytes, result, now);
+        thread->post([offer = state->offer, target, uniformType, maxBytes, result](PasteboardEngine& engine, auto now) {
+            engine.read(offer, target, uniformType, maxBytes, result, now);
         });
     } else {
         result.deliver(nullptr);
@@ -57,7 +56,8 @@ QCoro::Task<> readFileList(std::shared_ptr<State> state) {
     for (const QString& target : {filelist::uriList, filelist::copiedFiles}) {
         if (!state->offer->targets.contains(target))
             continue;
-        const std::shared_ptr<const SelectionBytes> list = co_await readTarget(state, target, state->maxFileListBytes);
+        const std::shared_ptr<const SelectionBytes> list =
+            co_await readTarget(state, target, QString(), state->maxFileListBytes);
         if (list && !list->wasLarger)
             entries = filelist::parse(list->bytes);
         if (!entries.files.isEmpty() || entries.webAddress)
@@ -76,15 +76,14 @@ QCoro::Task<std::optional<QByteArray>> readRepresentation(std::shared_ptr<State>
         if (!target)
             break;
         candidates.removeAll(*target);
-        const std::shared_ptr<const SelectionBytes> given = co_await readTarget(state, *target, maxBytes);
+        const std::shared_ptr<const SelectionBytes> given = co_await readTarget(state, *target, type, maxBytes);
         if (!given)
             continue;
-        std::optional<QByteArray> bytes = targetcoding::decode(type, *target, given->propertyType, given->bytes);
-        state->wasLarger = given->wasLarger || (bytes && bytes->size() > maxBytes);
+        // Text may grow by its decoding.
+        state->wasLarger = given->wasLarger || given->bytes.size() > maxBytes;
         if (state->wasLarger)
             break;
-        if (bytes)
-            co_return bytes;
+        co_return given->bytes;
     }
     co_return std::nullopt;
 }
@@ -114,6 +113,10 @@ QStringList ForeignReading::State::declaredTypes() const {
 /// Each file is an item; the first carries whatever else was offered.
 std::vector<QStringList> ForeignReading::State::typesByItem() const {
     QStringList first = declaredTypes();
+    // pcmanfm takes files that were cut off the clipboard as soon as somebody has read this list: the user could not
+    // paste them any more. The list of addresses and KDE's hint say the same and can be read.
+    if (offer->targets.contains(filelist::uriList) && offer->targets.contains(filelist::cutSelection))
+        first.removeAll(filelist::copiedFiles);
     const qsizetype place = first.indexOf(uniformtype::fileUrl);
     if (place < 0)
         return {first};
