@@ -33,6 +33,11 @@ bool isRefused(const QStringList& types, const SnapshotRequest& request) {
     return request.source.bundleID && request.ignoredApps.contains(*request.source.bundleID);
 }
 
+/// One more rendering of a picture, in a format that nobody needs who takes the usual ones.
+bool isFurtherRendering(const Wanted& wanted) {
+    return !wanted.isEssential && (wanted.type.startsWith(u"image/") || wanted.type.endsWith(u"/ico"));
+}
+
 /// What is to be read, in the order of reading: by turn, then as the owner offered it.
 std::vector<Wanted> plan(const std::vector<QStringList>& itemTypes) {
     std::vector<Wanted> wanted;
@@ -80,13 +85,19 @@ QCoro::Task<std::optional<ClipPayload>> takeSnapshot(std::shared_ptr<PasteboardR
     const std::vector<QStringList> itemTypes = co_await asking;
     std::vector<PasteboardItem> items(itemTypes.size());
     qint64 total = 0;
+    bool areRenderingsTooLarge = false;
     for (const Wanted& wanted : plan(itemTypes)) {
+        // An image editor makes each rendering when it is asked for it; where one is too large to be kept, so are the
+        // others, and asking for them all would take seconds.
+        if (areRenderingsTooLarge && isFurtherRendering(wanted))
+            continue;
         const qint64 room = limits.maxTotalBytes - total + 1;
         auto fetching = reading->data(qsizetype(wanted.item), wanted.type,
                                       wanted.isEssential ? room : limits.maxRepresentationBytes);
         const std::optional<QByteArray> bytes = co_await fetching;
         if (!bytes && wanted.isEssential && reading->wasLarger())
             co_return std::nullopt; // refused as a whole, never trimmed
+        areRenderingsTooLarge = areRenderingsTooLarge || (reading->wasLarger() && isFurtherRendering(wanted));
         if (!bytes || bytes->isEmpty())
             continue;
         if (!wanted.isEssential && bytes->size() > limits.maxRepresentationBytes)

@@ -6,6 +6,7 @@ vellumry_test(
     HostileOwner.cpp
     HostileOwner.h
     HostileOwnerTest.cpp
+    RecordedOffersTest.cpp
     X11PasteboardCodingTest.cpp
     X11PasteboardReadTest.cpp
     X11PasteboardWorld.cpp
@@ -15,3 +16,5 @@ vellumry_test(
     XPeer.cpp
     XPeer.h
   LINKS vellumry_linux vellumry_capture PkgConfig::X11_PASTEBOARD_TESTS)
+target_compile_definitions(vellumry_x11_tests
+                           PRIVATE VELLUMRY_RECORDED_OFFERS="${PROJECT_SOURCE_DIR}/tests/capture/fixtures")

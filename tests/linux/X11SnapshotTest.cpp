@@ -69,6 +69,37 @@ TEST_F(X11Snapshot, WhatIsExpensiveIsAskedForLastAndLostAlone) {
     EXPECT_EQ(owner.requests.first(order.size()), order);
 }
 
+TEST_F(X11Snapshot, WhereOneRenderingIsTooLargeTheOthersAreNotAskedFor) {
+    const QByteArray large(3 << 20, 'b');
+    HostileOwner& owner = copied({{"image/bmp", large, Manner::increments},
+                                  {"image/x-bmp", large, Manner::increments},
+                                  {"application/ico", large, Manner::increments},
+                                  {"image/png", "pixels"},
+                                  {"application/x-private", "kept"}});
+    const auto result = draft();
+    ASSERT_TRUE(result);
+    EXPECT_EQ(owner.requests, (QByteArrayList{"TARGETS", "image/png", "image/bmp", "application/x-private"}));
+    EXPECT_EQ(result->payload.items.front().order,
+              (QStringList{uniformtype::png, QStringLiteral("application/x-private")}));
+}
+
+TEST_F(X11Snapshot, FilesThatWereCutAreReadWithoutTakingThemOffTheClipboard) {
+    HostileOwner& owner = copied({{"text/uri-list", "file:///tmp/a.txt\r\n"},
+                                  {"x-special/gnome-copied-files", "cut\nfile:///tmp/a.txt"},
+                                  {"application/x-kde-cutselection", "1"}});
+    const auto result = draft();
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->kind, ClipKind::file);
+    EXPECT_FALSE(owner.requests.contains("x-special/gnome-copied-files"));
+    ASSERT_TRUE(pasteboard->write(result->payload.items));
+    HostileOwner& reader = peer();
+    for (const char* target : {"x-special/gnome-copied-files", "application/x-kde-cutselection"})
+        reader.ask("CLIPBOARD", target);
+    ASSERT_TRUE(waitUntil([&reader] { return reader.answers.size() == 2; }));
+    EXPECT_EQ(reader.answers["x-special/gnome-copied-files"].bytes, "cut\nfile:///tmp/a.txt");
+    EXPECT_EQ(reader.answers["application/x-kde-cutselection"].bytes, "1");
+}
+
 TEST_F(X11Snapshot, WhatMeansNothingToOthersIsNeitherAskedForNorKept) {
     HostileOwner& owner = copied({{"GTK_TEXT_BUFFER_CONTENTS", "\x10\x20\x30"},
                                   {"HOSTNAME", "host"},

@@ -8,7 +8,7 @@ namespace vellumry {
 
 namespace {
 
-constexpr qsizetype longestTypeName = 256;
+constexpr qsizetype longestTypeName = 1024;
 constexpr qsizetype rememberedNames = 4096;
 constexpr quint32 pieceBytes = 4 * 1024 * 1024;
 

@@ -52,7 +52,7 @@ public:
     /// The atom of a name, made when it does not exist. Waits for the server once per name.
     [[nodiscard]] xcb_atom_t atom(const QString& name);
     /// The names of many atoms in one exchange with the server; null strings for atoms that do not exist and for names
-    /// beyond 256 bytes, which no type has.
+    /// beyond 1024 bytes, which no type has: those of office programs hold the title of the document.
     [[nodiscard]] QStringList atomNames(std::span<const xcb_atom_t> atoms);
     /// As `atomNames`, for one.
     [[nodiscard]] QString atomName(xcb_atom_t atom);

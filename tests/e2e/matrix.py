@@ -1,0 +1,102 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What becomes of the copies of real clients: each copies, its clip is looked at, it is killed, and what the clipboard then gives
+under each of the names that the client had offered is compared with what the client had given, byte for byte.
+
+test_matrix.py runs the light clients, `make matrix` all. With VELLUMRY_MATRIX=FILE the table is written there as Markdown.
+"""
+
+import os
+import signal
+
+from desktop import Failure, Vellumry, copy_text, same, text_of, unsealed, wait_for_clip, wait_until
+from matrix_clients import CLIENTS
+from record_offer import HOUSEKEEPING, Reader, offer
+
+OURS = "com.vellumry.marker"
+# Names whose bytes mean something to their own process, machine or window alone.
+LOCAL = ("GTK_TEXT_BUFFER_CONTENTS", "chromium/x-internal-", "application/x-libreoffice-internal-id-", "application/x-openoffice-link")
+TEXT_NAMES = {"UTF8_STRING", "STRING", "TEXT", "COMPOUND_TEXT"}
+
+
+def is_content(name):
+    if name in HOUSEKEEPING or name.startswith(LOCAL):
+        return False
+    return name in TEXT_NAMES or "/" in name or "." in name
+
+
+def offered_now(without=()):
+    """What the client offers, but for lists that may not be read."""
+    reader = Reader()
+    ask = reader.ask
+    reader.ask = lambda target, timeout=15.0: None if target in without else ask(target, timeout)
+    return offer(reader)
+
+
+def compare(client, before, after):
+    """Lines of the table; Failure when something comes back otherwise and nobody said why."""
+    lines = []
+    for name in before["targets"]:
+        given = before["given"].get(name)
+        if name in HOUSEKEEPING or given is None:
+            continue
+        back = after["given"].get(name)
+        if not is_content(name):
+            same(back, None, f"{name} of {client.program}, which means nothing to others, comes back")
+            lines.append((name, "left out: it means something to its own program or machine alone"))
+        elif back is not None and back["bytes"] == given["bytes"]:
+            lines.append((name, "the same bytes"))
+        elif name in client.differs:
+            lines.append((name, client.differs[name]))
+        else:
+            raise Failure(f"{name} of {client.program} comes back otherwise:\n  given {given['bytes'][:200]!r}\n"
+                          f"  back  {back and back['bytes'][:200]!r}")
+    return lines
+
+
+def row_of(name):
+    """The whole way of one client's copy."""
+    client = CLIENTS[name]
+    with Vellumry() as program, client.started() as running:
+        client.copy(running)
+        if client.kind is None:
+            running.stop()  # nothing that is copied while it is in front is kept
+            copy_text("after " + name)
+            wait_for_clip(lambda row: text_of(row) == "after " + name, "the copy after it")
+            same([text_of(row) for row in unsealed()], ["after " + name], "the whole history")
+            return [("every name", "refused: nothing of it was asked for")]
+        before = offered_now({"x-special/gnome-copied-files"} if name == "pcmanfm-cut" else ())
+        wanted = client.becomes(before)
+        row = wait_for_clip(lambda row: row["title"] == wanted["title"], f"the clip {wanted['title']!r}", 30)
+        same(row["kind"], wanted["kind"], "its kind")
+        same(bool(offered_now({"x-special/gnome-copied-files"})["targets"]), True, "the copy still on the clipboard")
+        running.stop(signal.SIGKILL)
+        reader = Reader()
+        wait_until(lambda: OURS in reader.targets(), "the clip to be put back", 20)
+        after = offered_now()
+        same(program.alive(), True, "the program runs")
+        return compare(client, before, after)
+
+
+def write_table(name, lines):
+    path = os.environ.get("VELLUMRY_MATRIX")
+    if not path:
+        return
+    client = CLIENTS[name]
+    with open(path, "a", encoding="utf-8") as file:
+        file.write(f"\n### {client.program}: {client.what}\n\n| offered | comes back |\n|---|---|\n")
+        for target, outcome in lines:
+            shown = target if len(target) < 90 else target[:87] + "…"
+            file.write(f"| `{shown}` | {outcome} |\n")
+
+
+def tests(names):
+    """One test function a client."""
+
+    def test_of(name):
+        def test():
+            write_table(name, row_of(name))
+
+        test.__name__ = name.replace("-", "_")
+        return test
+
+    return [test_of(name) for name in names]
