@@ -4,8 +4,8 @@
 #include "foundation/FileUrl.h"
 #include "foundation/UniformType.h"
 
+#include <QHash>
 #include <algorithm>
-#include <chrono>
 #include <future>
 #include <memory>
 #include <system_error>
@@ -22,18 +22,22 @@ std::optional<QString> filePathOf(const PasteboardItem& item) {
     return fileurl::pathOf(url->second);
 }
 
-FileRef referenceTo(const QString& path, const std::vector<FileRef>& files) {
-    const auto known = std::ranges::find(files, path, &FileRef::path);
-    return known != files.end() ? *known : FileRef{path, fileurl::lastPathComponent(path), std::nullopt};
-}
-
 } // namespace
 
 std::vector<FileRef> references(const std::vector<PasteboardItem>& items, const std::vector<FileRef>& files) {
+    // The first of two references to one file counts. Lists of 100,000 files occur.
+    QHash<QString, const FileRef*> known;
+    for (const FileRef& file : files) {
+        if (!known.contains(file.path))
+            known.insert(file.path, &file);
+    }
     std::vector<FileRef> result;
     for (const auto& item : items) {
-        if (const auto path = filePathOf(item))
-            result.push_back(referenceTo(*path, files));
+        const auto path = filePathOf(item);
+        if (!path)
+            continue;
+        const FileRef* const file = known.value(*path);
+        result.push_back(file ? *file : FileRef{*path, fileurl::lastPathComponent(*path), std::nullopt});
     }
     return result;
 }
@@ -44,13 +48,15 @@ std::optional<std::vector<PasteboardItem>> resolved(std::vector<PasteboardItem> 
     bool hasLiveFile = false;
     auto status = statuses.begin();
     for (auto& item : items) {
-        if (filePathOf(item)) {
+        if (const auto recorded = filePathOf(item)) {
             if (status == statuses.end())
                 return std::nullopt;
             const auto present = (status++)->path();
             if (!present)
                 continue;
-            item.representations.insert_or_assign(uniformtype::fileUrl, fileurl::urlOf(*present));
+            // Where it is where it was, its address stays as it came: names that are not UTF-8 have no other.
+            if (*present != *recorded)
+                item.representations.insert_or_assign(uniformtype::fileUrl, fileurl::urlOf(*present));
             hasLiveFile = true;
         }
         result.push_back(std::move(item));
@@ -72,7 +78,7 @@ QStringList paths(const std::vector<PasteboardItem>& items) {
 std::optional<std::vector<PasteboardItem>> resolveNow(std::vector<PasteboardItem> items,
                                                       const std::vector<FileRef>& files,
                                                       const std::function<FileStatus(const FileRef&)>& status,
-                                                      int limitMilliseconds) {
+                                                      std::chrono::milliseconds limit) {
     // The thread owns what it uses: on a disk that hangs it outlives this call.
     auto answer = std::make_shared<std::promise<std::vector<FileStatus>>>();
     auto future = answer->get_future();
@@ -87,7 +93,7 @@ std::optional<std::vector<PasteboardItem>> resolveNow(std::vector<PasteboardItem
     } catch (const std::system_error&) {
         return items;
     }
-    if (future.wait_for(std::chrono::milliseconds(limitMilliseconds)) != std::future_status::ready)
+    if (future.wait_for(limit) != std::future_status::ready)
         return items;
     return resolved(std::move(items), future.get());
 }

@@ -4,6 +4,7 @@
 #include "capture/FileStatus.h"
 #include "history/Clip.h"
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -23,10 +24,10 @@ namespace vellumry::fileresolution {
 /// The paths of the items' files, in their order.
 [[nodiscard]] QStringList paths(const std::vector<PasteboardItem>& items);
 
-/// The whole of it on the calling thread, which waits for the disk, `limitMilliseconds` at most. A disk that does not
+/// The whole of it on the calling thread, which waits for the disk, `limit` at most. A disk that does not
 /// answer by then proves nothing: the items as they are. `status` may run on after that, on another thread.
 [[nodiscard]] std::optional<std::vector<PasteboardItem>>
 resolveNow(std::vector<PasteboardItem> items, const std::vector<FileRef>& files,
-           const std::function<FileStatus(const FileRef&)>& status, int limitMilliseconds);
+           const std::function<FileStatus(const FileRef&)>& status, std::chrono::milliseconds limit);
 
 } // namespace vellumry::fileresolution

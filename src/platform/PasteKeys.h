@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -41,6 +42,8 @@ public:
     /// False once it has gone, let go of or by itself: no key waits longer than 150 ms, whatever happens. What is
     /// written then comes too late for it.
     [[nodiscard]] virtual bool isHeld() const = 0;
+    /// How long it still waits at most; not positive once it has gone.
+    [[nodiscard]] virtual std::chrono::milliseconds timeLeft() const = 0;
     /// A second call does nothing.
     virtual void letGo(Contents contents) = 0;
 };

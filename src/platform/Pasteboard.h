@@ -41,6 +41,8 @@ public:
 
     /// Differs from any earlier value after each change of owner, our own writes included. Costs nothing to ask.
     [[nodiscard]] virtual qint64 changeCount() const = 0;
+    /// Returns once `changeCount` tells of every change that other programs made before the call.
+    [[nodiscard]] virtual QCoro::Task<void> catchUp() { co_return; }
     /// Asks the present owner what it offers. Null when there is no owner or it does not answer in time.
     [[nodiscard]] virtual QCoro::Task<std::shared_ptr<PasteboardReading>> beginReading() = 0;
 

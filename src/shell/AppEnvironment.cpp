@@ -16,6 +16,7 @@
 #include <QGuiApplication>
 #include <QLocale>
 #include <QPointer>
+#include <QWindow>
 #include <chrono>
 
 namespace vellumry {
@@ -194,7 +195,11 @@ void AppEnvironment::makeStack() {
 }
 
 void AppEnvironment::wireStack() {
-    m_stack->listener().isOwnWindowFocused = [] { return QGuiApplication::focusWindow() != nullptr; };
+    m_stack->listener().isOwnWindowFocused = [] {
+        // A window that was just hidden counts as focused until the server's word of it is read.
+        const QWindow* window = QGuiApplication::focusWindow();
+        return window != nullptr && window->isVisible();
+    };
     m_stack->onStarted = [this] { m_stackHUD->show(); };
     m_stack->onFinished = [this] { m_stackHUD->showFinished(); };
     m_stack->onStopped = [this] { m_stackHUD->hide(); };

@@ -11,20 +11,19 @@
 
 #include <QCoreApplication>
 #include <QPointer>
+#include <algorithm>
 #include <utility>
 
 namespace vellumry {
 
 namespace {
 
-/// Of the time that a paste key may wait; a look at a local disk takes a fraction of it.
-constexpr int fileLimitMilliseconds = 25;
+using namespace std::chrono_literals;
 
-PasteStack::ResolvingFiles resolving(std::function<FileStatus(const FileRef&)> status) {
-    return [status = std::move(status)](std::vector<PasteboardItem> items, const std::vector<FileRef>& files) {
-        return fileresolution::resolveNow(std::move(items), files, status, fileLimitMilliseconds);
-    };
-}
+/// What writing the pasteboard and letting the key go may take of the time that the key waits.
+constexpr auto writingTime = 20ms;
+/// A look at a local disk takes a fraction of it.
+constexpr auto longestFileLook = 100ms;
 
 } // namespace
 
@@ -35,11 +34,10 @@ StackWiring::StackWiring(Parts parts, Hooks hooks, QObject* parent)
     , m_stack(
           parts.pasteboard,
           [defaults = &parts.defaults] { return defaults->boolean(QStringLiteral("plainTextByDefault")); },
-          resolving(m_hooks.fileStatus))
+          resolvingFiles())
     , m_listener(parts.keys, parts.layout, QCoreApplication::applicationPid()) {
     m_intake.setSingleShot(true);
     m_intake.setTimerType(Qt::PreciseTimer);
-    m_intake.setInterval(m_hooks.intakeLimit);
     connect(&m_intake, &QTimer::timeout, this, &StackWiring::pasteNow);
     m_listener.onPaste = [this](std::shared_ptr<HeldKey> key) { handlePaste(std::move(key)); };
     m_parts.watcher.onRead = [self = QPointer(this)](const ClipDraft& draft) {
@@ -59,6 +57,12 @@ StackWiring::StackWiring(Parts parts, Hooks hooks, QObject* parent)
 }
 
 StackWiring::~StackWiring() = default;
+
+PasteStack::ResolvingFiles StackWiring::resolvingFiles() {
+    return [this](std::vector<PasteboardItem> items, const std::vector<FileRef>& files) {
+        return fileresolution::resolveNow(std::move(items), files, m_hooks.fileStatus, m_fileLimit);
+    };
+}
 
 void StackWiring::toggle(const std::vector<ClipRef>& seed) {
     if (m_stack.isActive() || m_isStarting) {
@@ -187,10 +191,19 @@ QCoro::Task<void> StackWiring::probe(QStringList paths) {
 
 void StackWiring::handlePaste(std::shared_ptr<HeldKey> key) {
     m_waiting = std::move(key);
-    m_intake.start();
-    // A copy of a moment ago would be overwritten unseen; this way it is captured, and in the stack, first.
+    m_intake.start(std::clamp(m_waiting->timeLeft() - 2 * writingTime, 0ms, m_hooks.intakeLimit));
+    lookForCopies();
+}
+
+/// A copy of a moment ago would be overwritten unseen; this way it is captured, and in the stack, first.
+QCoro::Task<void> StackWiring::lookForCopies() {
+    const QPointer self(this);
+    auto catchingUp = m_parts.pasteboard.catchUp();
+    co_await catchingUp;
+    if (!self || !m_waiting)
+        co_return;
     m_parts.watcher.tick(currentDate());
-    if (!m_parts.watcher.isReading())
+    if (self && !m_parts.watcher.isReading())
         pasteNow();
 }
 
@@ -200,6 +213,7 @@ void StackWiring::pasteNow() {
     // A key that has gone pasted what was there; the next item is the next key's.
     if (!key || !key->isHeld())
         return;
+    m_fileLimit = std::clamp(key->timeLeft() - writingTime, 0ms, std::chrono::milliseconds(longestFileLook));
     const bool isFresh = m_stack.pasteNext();
     key->letGo(isFresh ? HeldKey::Contents::fresh : HeldKey::Contents::same);
 }

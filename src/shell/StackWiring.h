@@ -75,8 +75,10 @@ private:
     QCoro::Task<void> probe(QStringList paths);
     void take(const ClipDraft& draft);
     void handlePaste(std::shared_ptr<HeldKey> key);
+    QCoro::Task<void> lookForCopies();
     void pasteNow();
     void finish();
+    [[nodiscard]] PasteStack::ResolvingFiles resolvingFiles();
 
     Parts m_parts;
     Hooks m_hooks;
@@ -84,6 +86,8 @@ private:
     PasteKeyListener m_listener;
     /// The paste key that waits for copies to arrive.
     std::shared_ptr<HeldKey> m_waiting;
+    /// What a look at the disk may take of the time of the key that is being answered.
+    std::chrono::milliseconds m_fileLimit{0};
     QTimer m_intake;
     /// Told apart by number: a start whose clips are still being opened may be overtaken.
     quint64 m_startNumber = 0;

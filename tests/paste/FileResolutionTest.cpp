@@ -46,7 +46,8 @@ TEST(FileResolution, WaitsForTheDiskWhenAskedToDoItNow) {
     const auto gone = [](const FileRef& file) {
         return file.path == one ? FileStatus::missing() : FileStatus::available(file.path);
     };
-    const auto items = fileresolution::resolveNow(drafts::files({one, two}).payload.items, {}, gone, 10'000);
+    const auto items =
+        fileresolution::resolveNow(drafts::files({one, two}).payload.items, {}, gone, std::chrono::seconds(10));
     ASSERT_TRUE(items);
     EXPECT_EQ(fileresolution::paths(*items), QStringList{two});
 }
@@ -60,7 +61,7 @@ TEST(FileResolution, TakesFilesToBeWhereTheyWereWhenTheDiskHangs) {
         return FileStatus::missing();
     };
     const auto given = drafts::files({one}).payload.items;
-    EXPECT_EQ(fileresolution::resolveNow(given, {}, hanging, 1), given);
+    EXPECT_EQ(fileresolution::resolveNow(given, {}, hanging, std::chrono::milliseconds(1)), given);
     answer->set_value();
     isOver->get_future().wait(); // the thread that was left behind ends within the test
 }

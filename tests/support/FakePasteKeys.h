@@ -49,6 +49,9 @@ private:
             : m_fate(std::move(fate)) {}
         ~Key() override { m_fate->isHeld = false; }
         [[nodiscard]] bool isHeld() const override { return m_fate->isHeld; }
+        [[nodiscard]] std::chrono::milliseconds timeLeft() const override {
+            return std::chrono::milliseconds(m_fate->isHeld ? 150 : 0);
+        }
         void letGo(Contents contents) override {
             if (m_fate->isHeld)
                 m_fate->contents = contents;

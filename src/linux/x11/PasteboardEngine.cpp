@@ -82,6 +82,15 @@ void PasteboardEngine::claim(Claim claim) {
     });
 }
 
+void PasteboardEngine::catchUp(PendingResult<bool> result) {
+    if (m_ended) {
+        result.deliver(false);
+        return;
+    }
+    // The server tells things in their order.
+    askForServerTime([result](std::optional<xcb_timestamp_t> time) { result.deliver(time.has_value()); });
+}
+
 void PasteboardEngine::settleClaim(const Claim& claim, xcb_timestamp_t time) {
     const xcb_atom_t selection = claim.isPrimary ? xcb_atom_t(XCB_ATOM_PRIMARY) : m_clipboard;
     xcb_set_selection_owner(m_connection->handle(), m_connection->window(), selection, time);

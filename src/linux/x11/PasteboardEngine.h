@@ -52,6 +52,8 @@ public:
     /// Begins to follow the selections. Waits for the server a few times; on any one thread, before the engine is used.
     void start();
     void claim(Claim claim);
+    /// Delivers once all that the server has to tell of the time before the call was handled; false without a server.
+    void catchUp(PendingResult<bool> result);
     /// Gives up the clipboard if it is still ours with `contents`.
     void disown(const std::shared_ptr<const OfferedContents>& contents);
     /// Null when nobody owns the clipboard or the owner does not say in time what it offers.

@@ -174,6 +174,7 @@ void X11PasteKeyGrab::handleKey(XEvent* event) {
         replay();
         return;
     }
+    m_held->until = now + m_options.holdLimit;
     m_watchdog.start(m_options.holdLimit);
     tellWhenServed();
 }

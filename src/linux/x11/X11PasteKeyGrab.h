@@ -29,6 +29,7 @@ public:
         KeyPress press;
         bool pastesPrimary = false; ///< programs may take the primary selection for it
         std::shared_ptr<std::atomic<bool>> isHeld;
+        std::chrono::steady_clock::time_point until; ///< when it goes by itself
     };
     struct Options {
         QByteArray displayName;

@@ -27,6 +27,11 @@ public:
     Key& operator=(const Key&) = delete;
 
     [[nodiscard]] bool isHeld() const override { return !m_isLetGo && m_held.isHeld->load(); }
+    [[nodiscard]] std::chrono::milliseconds timeLeft() const override {
+        if (!isHeld())
+            return 0ms;
+        return std::chrono::floor<std::chrono::milliseconds>(m_held.until - std::chrono::steady_clock::now());
+    }
     void letGo(Contents contents) override {
         if (!std::exchange(m_isLetGo, true) && m_link->keys != nullptr)
             m_link->keys->letGo(m_held, contents);

@@ -63,6 +63,12 @@ bool X11Pasteboard::wasServed() const {
     return m_thread->engine().wasServed();
 }
 
+QCoro::Task<void> X11Pasteboard::catchUp() {
+    const PendingResult<bool> result;
+    m_thread->post([result](PasteboardEngine& engine, auto) { engine.catchUp(result); });
+    (void)co_await result;
+}
+
 QCoro::Task<std::shared_ptr<PasteboardReading>> X11Pasteboard::beginReading() {
     const std::weak_ptr<PasteboardThread> thread = m_thread;
     const qint64 maxFileListBytes = m_limits.fileListBytes;

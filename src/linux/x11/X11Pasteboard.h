@@ -29,6 +29,7 @@ public:
     X11Pasteboard& operator=(const X11Pasteboard&) = delete;
 
     [[nodiscard]] qint64 changeCount() const override;
+    [[nodiscard]] QCoro::Task<void> catchUp() override;
     [[nodiscard]] QCoro::Task<std::shared_ptr<PasteboardReading>> beginReading() override;
     /// Waits for the X server's word, a fraction of a millisecond as a rule and 250 ms at most.
     bool write(std::vector<PasteboardItem> items) override;

@@ -1,0 +1,332 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The Paste Stack: several things copied, then each paste key of the user pastes the next, in foreign applications."""
+
+import os
+import signal
+import subprocess
+import tempfile
+
+from clients import FileManager, GtkEditor, QtEditor, XTerminal
+from desktop import (Process, Vellumry, accessible, active_window, clipboard, copy_bytes, copy_text, focus, fresh, key, main, open_panel, panel_is_open,
+                     picture, run, same, text_of, type_text, unsealed, wait_for_clip, wait_panel_closed, wait_until,
+                     windows)
+
+TOGGLE = "super+ctrl+s"
+HUD = "^Paste Stack$"
+
+
+def is_running():
+    return bool(windows(HUD))
+
+
+def start_stack():
+    key(TOGGLE)
+    wait_until(is_running, "the stack's bar")
+
+
+def wait_ended():
+    wait_until(lambda: not is_running(), "the stack's bar to go", 15)
+
+
+def remember(*texts):
+    for text in texts:
+        copy_text(text)
+        wait_for_clip(lambda row: text_of(row) == text, "the copy of " + text)
+
+
+def paste_each(client, combination, expected):
+    """Presses the key once for each expected text; the next when this one stands there."""
+    whole = ""
+    for text in expected:
+        key(combination)
+        whole += text
+        wait_until(lambda: client.content() == whole, f"{whole!r} in the client")
+
+
+def copies_come_back_in_a_gtk_editor():
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("one ", "two ", "three ")
+        picture("stack")
+        paste_each(client, "ctrl+v", ["one ", "two ", "three "])
+        wait_ended()
+        key("ctrl+v")
+        wait_until(lambda: client.content() == "one two three three ", "the last one again")
+
+
+def copies_come_back_in_a_qt_editor():
+    with Vellumry(), QtEditor() as client:
+        start_stack()
+        remember("one ", "two ", "three ")
+        paste_each(client, "ctrl+v", ["one ", "two ", "three "])
+        wait_ended()
+
+
+def what_is_copied_in_the_client_itself_is_taken():
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        for word in ("red", "green", "blue"):
+            client.type_and_copy(word)
+            wait_for_clip(lambda row: text_of(row) == word, "the copy of " + word)
+            client.clear()
+        paste_each(client, "ctrl+v", ["red", "green", "blue"])
+        wait_ended()
+
+
+def a_terminal_pastes_with_its_own_keys():
+    with Vellumry(), XTerminal() as client:
+        start_stack()
+        remember("alpha\n", "beta\n", "gamma\n")
+        paste_each(client, "shift+Insert", ["alpha\n", "beta\n", "gamma\n"])
+        wait_ended()
+
+
+def with_shift_held_it_pastes_too():
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("one ", "two ")
+        key("ctrl+shift+v")
+        wait_until(lambda: clipboard() == b"one ", "the first on the clipboard")
+        key("shift+Insert")
+        wait_until(lambda: (client.content() or "").endswith("two "), "the second in the editor")
+        wait_ended()
+
+
+def other_keys_do_not_advance_it():
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("one ", "two ")
+        key("super+ctrl+v")
+        wait_until(panel_is_open, "the panel")
+        key("ctrl+v")  # into the panel's own search field
+        wait_until(lambda: accessible("vellumry", "text") is not None, "the search field")
+        key("Escape")  # clears the search
+        key("Escape")
+        wait_panel_closed()
+        type_text("v")
+        wait_until(lambda: client.content() == "v", "the letter alone")
+        key("ctrl+v")
+        wait_until(lambda: client.content() == "vone ", "the first of the stack")
+        key(TOGGLE)
+        wait_ended()
+
+
+def holding_the_keys_down_advances_once():
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("a", "b", "c")
+        try:
+            run("xdotool", "keydown", "ctrl", "keydown", "v")
+            wait_until(lambda: len(client.content()) > 4, "repeats", 20)
+        finally:
+            run("xdotool", "keyup", "v", "keyup", "ctrl")
+        same(set(client.content()), {"a"}, "what the repeats pasted")
+        count = len(client.content())
+        key("ctrl+v")
+        wait_until(lambda: client.content() == "a" * count + "b", "the second item once")
+        key(TOGGLE)
+        wait_ended()
+
+
+def an_empty_one_leaves_the_clipboard_alone():
+    with Vellumry(), GtkEditor() as client:
+        remember("mine")
+        start_stack()
+        key("ctrl+v")
+        wait_until(lambda: client.content() == "mine", "the clipboard as it was")
+        same(is_running(), True, "still running")
+        key(TOGGLE)
+        wait_ended()
+
+
+def reversed_the_newest_goes_first():
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("one ", "two ", "three ")
+        key("ctrl+v")
+        wait_until(lambda: client.content() == "one ", "the oldest")
+        button = wait_until(lambda: accessible("vellumry", "push button", "first"), "the button that turns it round")
+        area = button.queryComponent().getExtents(0)
+        run("xdotool", "mousemove", str(area.x + area.width // 2), str(area.y + area.height // 2), "click", "1")
+        wait_until(lambda: accessible("vellumry", "push button", "^Newest first"), "the order turned round")
+        same(active_window(), int(client.window), "the active window")
+        key("ctrl+v")
+        wait_until(lambda: client.content() == "one three ", "the newest")
+        key("ctrl+v")
+        wait_until(lambda: client.content() == "one three two ", "the one before it")
+        wait_ended()
+
+
+def stopped_by_hand_the_last_item_stays():
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("one", "two")
+        key("ctrl+v")
+        wait_until(lambda: client.content() == "one", "the first")
+        key(TOGGLE)
+        wait_ended()
+        same(clipboard(), b"one", "the clipboard")
+        key("ctrl+v")
+        wait_until(lambda: client.content() == "oneone", "the same once more")
+
+
+def a_copy_of_a_moment_ago_comes_first():
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        for number in range(10):
+            # Nothing is waited for between the copy and the key.
+            copy_text(f"copy {number}.")
+            run("xdotool", "key", "ctrl+v")
+            wanted = "".join(f"copy {earlier}." for earlier in range(number + 1))
+            wait_until(lambda: client.content() == wanted, f"copy {number} in the editor")
+            wait_ended()
+            start_stack()
+        same(len(unsealed()), 10, "all of them in the history")
+        key(TOGGLE)
+        wait_ended()
+
+
+def an_owner_that_ends_does_not_take_its_copies_along():
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        owner = QtEditor()
+        owner.type_and_copy("from the other editor")
+        wait_for_clip(lambda row: text_of(row) == "from the other editor", "the copy")
+        owner.stop(signal.SIGKILL)
+        copy_text("second")
+        wait_for_clip(lambda row: text_of(row) == "second", "the second copy")
+        focus(client.window)
+        paste_each(client, "ctrl+v", ["from the other editor", "second"])
+        wait_ended()
+
+
+def an_owner_that_hangs_does_not_hold_the_keyboard():
+    here = os.path.dirname(os.path.abspath(__file__))
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("one ", "two ")
+        with Process("/usr/bin/python3", os.path.join(here, "hostile_owner.py"), "hang", stdout=subprocess.PIPE) as owner:
+            owner.handle.stdout.readline()
+            focus(client.window)
+            paste_each(client, "ctrl+v", ["one "])
+            type_text("x")
+            wait_until(lambda: client.content() == "one x", "typing goes on")
+        key("ctrl+v")
+        wait_until(lambda: client.content() == "one xtwo ", "the second")
+        wait_ended()
+
+
+def deleted_files_are_passed_over():
+    folder = tempfile.mkdtemp(prefix="stack")
+    path = os.path.join(folder, "doomed.txt")
+    with open(path, "w", encoding="utf-8") as file:
+        file.write("content")
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        copy_bytes(("file://" + path + "\r\n").encode(), "text/uri-list")
+        wait_for_clip(lambda row: row["kind"] == 4, "the file")
+        remember("after the file")
+        os.unlink(path)
+        key("ctrl+v")
+        wait_until(lambda: client.content() == "after the file", "the item behind the deleted file")
+        wait_ended()
+
+
+def selected_clips_are_pasted_oldest_first():
+    with Vellumry(), GtkEditor() as client:
+        remember("one ", "two ", "three ")
+        open_panel()
+        key("shift+Down", "shift+Down")
+        wait_until(lambda: accessible("vellumry", "list item", "^one"), "the rows")
+        key(TOGGLE)
+        wait_panel_closed()
+        wait_until(is_running, "the stack's bar")
+        paste_each(client, "ctrl+v", ["one ", "two ", "three "])
+        wait_ended()
+
+
+def a_grabbed_keyboard_is_left_alone():
+    """A screen locker has the keyboard: keys go to it, the stack waits."""
+    from Xlib import X, display
+
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("one ", "two ")
+        locker = display.Display()
+        window = locker.screen().root.create_window(0, 0, 10, 10, 0, X.CopyFromParent, event_mask=X.KeyPressMask)
+        window.map()
+        locker.sync()
+        wait_until(lambda: window.grab_keyboard(False, X.GrabModeAsync, X.GrabModeAsync, X.CurrentTime) == X.GrabSuccess,
+                   "the locker to get the keyboard")
+        run("xdotool", "key", "ctrl+v")
+        wait_until(lambda: any(locker.next_event().type == X.KeyPress for _ in range(locker.pending_events())),
+                   "the locker to see the key")
+        locker.close()
+        focus(client.window)
+        paste_each(client, "ctrl+v", ["one ", "two "])
+        wait_ended()
+
+
+def another_holder_of_the_key_is_told_of():
+    from Xlib import X, display
+
+    with Vellumry():
+        other = display.Display()
+        other.screen().root.grab_key(55, X.ControlMask, True, X.GrabModeAsync, X.GrabModeAsync)
+        other.sync()
+        key(TOGGLE)
+        wait_until(lambda: accessible("vellumry", "notification", "couldn.t start"), "the message")
+        same(is_running(), False, "the stack")
+        other.close()
+        start_stack()
+        key(TOGGLE)
+        wait_ended()
+
+
+def a_new_window_manager_changes_nothing():
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("one ", "two ", "three ")
+        paste_each(client, "ctrl+v", ["one "])
+        before = run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
+        with Process("openbox", "--replace"):
+            wait_until(lambda: run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK") not in (before, b""), "the new window manager")
+            focus(client.window)
+            key("ctrl+v")
+            wait_until(lambda: client.content() == "one two ", "the second")
+            key("ctrl+v")
+            wait_until(lambda: client.content() == "one two three ", "the third")
+            wait_ended()
+
+
+def ten_a_second_lose_and_double_nothing():
+    rounds = int(os.environ.get("VELLUMRY_STACK_PASTES", "60"))
+    for make in (GtkEditor, QtEditor):
+        with Vellumry(), make() as client:
+            start_stack()
+            expected = ""
+            for number in range(rounds):
+                text = f"{number},"
+                copy_text(text)
+                wait_until(lambda: stack_count() == number + 1, f"copy {number} in the stack")
+                expected += text
+            run("xdotool", "key", "--delay", "100", *["ctrl+v"] * rounds, timeout=60 + rounds)
+            wait_until(lambda: client.content() == expected, "all in order", 20)
+            wait_ended()
+
+
+def stack_count():
+    node = accessible("vellumry", "label", r"^\d+ ")
+    return int(node.name.split()[0]) if node else 0
+
+
+main([fresh(test) for test in (copies_come_back_in_a_gtk_editor, copies_come_back_in_a_qt_editor,
+                               what_is_copied_in_the_client_itself_is_taken, a_terminal_pastes_with_its_own_keys,
+                               with_shift_held_it_pastes_too, other_keys_do_not_advance_it,
+                               holding_the_keys_down_advances_once, an_empty_one_leaves_the_clipboard_alone,
+                               reversed_the_newest_goes_first, stopped_by_hand_the_last_item_stays,
+                               a_copy_of_a_moment_ago_comes_first, an_owner_that_ends_does_not_take_its_copies_along,
+                               an_owner_that_hangs_does_not_hold_the_keyboard, deleted_files_are_passed_over,
+                               selected_clips_are_pasted_oldest_first, a_grabbed_keyboard_is_left_alone,
+                               another_holder_of_the_key_is_told_of, ten_a_second_lose_and_double_nothing,
+                               a_new_window_manager_changes_nothing)])  # the last one: it takes the desktop's away
