@@ -1,11 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reader/PictureReader.h"
 
+#include "reader/DarkOnWhite.h"
+#include "reader/ReadLines.h"
+
 #include <QDir>
+#include <QLocale>
+#include <algorithm>
 
 namespace vellumry {
 
 namespace {
+
+/// Text in the right script is read with more confidence than this.
+constexpr double wellRead = 85;
+/// A line read with less confidence is read again in other languages.
+constexpr double doubtful = 92;
+constexpr double clearGain = 3;
+constexpr std::size_t samplesOfScript = 3;
+constexpr std::size_t samplesOfLanguage = 5;
+constexpr std::size_t scriptsTried = 12;
+constexpr qsizetype languagesTried = 4;
+constexpr std::size_t enginesKept = 6;
+constexpr qint64 longestImproving = 40'000;
 
 /// Where the packages of the distributions put the data, the user's choice first.
 QStringList dataFolders() {
@@ -17,31 +34,160 @@ QStringList dataFolders() {
                    << QStringLiteral("/usr/local/share/tessdata");
 }
 
+QStringList languagesIn(const QString& folder) {
+    QStringList names;
+    for (const QFileInfo& file : QDir(folder).entryInfoList({QStringLiteral("*.traineddata")}, QDir::Files))
+        names << file.completeBaseName();
+    return names;
+}
+
+QImage enlarged(const QImage& page, const QSize& size) {
+    return page.size() == size ? page : page.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// Grey, and turned round when most of it is dark: for what stands on no even ground.
+QImage plain(const QImage& picture) {
+    QImage grey = picture.convertToFormat(QImage::Format_Grayscale8);
+    const QImage mean = grey.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (qGray(mean.pixel(0, 0)) < 128)
+        grey.invertPixels();
+    return grey;
+}
+
 } // namespace
 
 std::unique_ptr<PictureReader> PictureReader::create() {
     for (const QString& folder : dataFolders()) {
-        if (QDir(folder).entryList({QStringLiteral("*.traineddata")}, QDir::Files).isEmpty())
+        auto scripts = languages::byScript(languagesIn(folder), QLocale().uiLanguages());
+        if (scripts.empty())
             continue;
         auto library = TesseractLibrary::load();
         if (!library)
             return nullptr;
-        return std::unique_ptr<PictureReader>(new PictureReader(std::move(library), QFile::encodeName(folder)));
+        return std::unique_ptr<PictureReader>(
+            new PictureReader(std::move(library), QFile::encodeName(folder), std::move(scripts)));
     }
     return nullptr;
 }
 
-std::optional<QString> PictureReader::read(const QImage& picture, Mode) {
-    auto engine = TextEngine::create(*m_library, m_data, "eng");
-    if (!engine)
-        return std::nullopt;
-    const auto lines = engine->read(picture.convertToFormat(QImage::Format_Grayscale8), TextEngine::Layout::page);
+std::optional<QString> PictureReader::read(const QImage& picture, Mode mode) {
+    m_elapsed.start();
+    const QImage clean = darkonwhite::cleaned(picture);
+    const QSize size = clean.size() * darkonwhite::enlargement(darkonwhite::letterHeight(clean), clean.size());
+    const QImage page = enlarged(clean, size);
+
+    QByteArray language = m_scripts.front().languages.front();
+    std::optional<Lines> lines = readPage(page, language);
     if (!lines)
         return std::nullopt;
-    QString text;
-    for (const TextLine& line : *lines)
-        text += line.text + u'\n';
-    return text;
+    const languages::Script& script = chooseScript(page, *lines);
+    const QByteArray better = mode == Mode::accurate ? chooseLanguage(page, *lines, script) : script.languages.front();
+    if (better != language) {
+        if (std::optional<Lines> again = readPage(page, better)) {
+            lines = std::move(again);
+            language = better;
+        }
+    }
+    if (mode == Mode::accurate) {
+        readAgainPlain(picture, size, *lines, language);
+        rereadDoubtful(page, *lines, language, script);
+    }
+    return readlines::joined(*lines);
+}
+
+TextEngine* PictureReader::engine(const QByteArray& language) {
+    if (const auto found = m_engines.find(language); found != m_engines.end())
+        return &found->second;
+    std::optional<TextEngine> made = TextEngine::create(*m_library, m_data, language);
+    if (!made)
+        return nullptr;
+    if (m_engines.size() >= enginesKept)
+        m_engines.clear();
+    return &m_engines.emplace(language, std::move(*made)).first->second;
+}
+
+std::optional<PictureReader::Lines> PictureReader::readPage(const QImage& page, const QByteArray& language) {
+    TextEngine* reader = engine(language);
+    return reader ? reader->read(page, TextEngine::Layout::page) : std::nullopt;
+}
+
+TextLine PictureReader::readLine(const QImage& page, const TextLine& line, const QByteArray& language) {
+    TextLine result{{}, line.box, 0};
+    TextEngine* reader = engine(language);
+    const int margin = std::max(4, line.box.height() / 4);
+    const QRect box = line.box.adjusted(-margin, -margin, margin, margin) & page.rect();
+    const auto found = reader ? reader->read(page.copy(box), TextEngine::Layout::line) : std::nullopt;
+    if (!found || found->empty())
+        return result;
+    result.text = readlines::joined(*found).trimmed();
+    result.confidence = readlines::confidence(*found);
+    return result;
+}
+
+double PictureReader::trial(const QImage& page, const Lines& samples, const QByteArray& language) {
+    Lines found;
+    for (const TextLine& sample : samples)
+        found.push_back(readLine(page, sample, language));
+    return readlines::confidence(found);
+}
+
+const languages::Script& PictureReader::chooseScript(const QImage& page, const Lines& lines) {
+    if (lines.empty() || readlines::confidence(lines) >= wellRead)
+        return m_scripts.front();
+    const Lines samples = readlines::samples(lines, samplesOfScript);
+    std::size_t best = 0;
+    double most = 0;
+    for (std::size_t index = 0; index < std::min(m_scripts.size(), scriptsTried); ++index) {
+        const double confidence = trial(page, samples, m_scripts[index].languages.front());
+        if (confidence > most + (index > 0 ? clearGain : 0)) {
+            most = confidence;
+            best = index;
+        }
+    }
+    return m_scripts[best];
+}
+
+QByteArray PictureReader::chooseLanguage(const QImage& page, const Lines& lines, const languages::Script& script) {
+    QByteArray best = script.languages.front();
+    if (script.languages.size() == 1)
+        return best;
+    const Lines samples = readlines::samples(lines, samplesOfLanguage);
+    double most = 0;
+    for (const QByteArray& language : script.languages.first(std::min(script.languages.size(), languagesTried))) {
+        const double confidence = trial(page, samples, language);
+        if (confidence <= most)
+            continue;
+        most = confidence;
+        best = language;
+    }
+    return best;
+}
+
+void PictureReader::rereadDoubtful(const QImage& page, Lines& lines, const QByteArray& language,
+                                   const languages::Script& script) {
+    QByteArrayList others = script.languages.first(std::min(script.languages.size(), languagesTried));
+    others.removeAll(language);
+    // Names and commands in Latin letters stand in texts of every script.
+    if (const QByteArray latin = m_scripts.front().languages.front(); latin != language && !others.contains(latin))
+        others.append(latin);
+    for (TextLine& line : lines) {
+        if (line.confidence >= doubtful)
+            continue;
+        for (const QByteArray& other : others) {
+            if (m_elapsed.elapsed() > longestImproving)
+                return;
+            const TextLine again = readLine(page, line, other);
+            if (again.confidence >= line.confidence + clearGain)
+                line = again;
+        }
+    }
+}
+
+void PictureReader::readAgainPlain(const QImage& picture, const QSize& size, Lines& lines, const QByteArray& language) {
+    if (m_elapsed.elapsed() > longestImproving)
+        return;
+    if (const std::optional<Lines> others = readPage(enlarged(plain(picture), size), language))
+        readlines::improve(lines, *others);
 }
 
 } // namespace vellumry

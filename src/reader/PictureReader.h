@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "reader/Languages.h"
 #include "reader/TextEngine.h"
 
+#include <QElapsedTimer>
 #include <QImage>
+#include <map>
 #include <memory>
 #include <optional>
 
@@ -13,8 +16,8 @@ namespace vellumry {
 class PictureReader {
 public:
     enum class Mode {
-        fast,    ///< one pass: enough to be found by most words
-        accurate ///< several passes, the better reading of each line kept
+        fast,    ///< one pass, in the language that seems to be the picture's: enough to be found by most words
+        accurate ///< several passes, the best reading of each line kept
     };
 
     /// Null when the system has no text recognition or no language for it.
@@ -27,12 +30,31 @@ public:
     [[nodiscard]] std::optional<QString> read(const QImage& picture, Mode mode);
 
 private:
-    PictureReader(std::unique_ptr<const TesseractLibrary> library, QByteArray data)
+    using Lines = std::vector<TextLine>;
+
+    PictureReader(std::unique_ptr<const TesseractLibrary> library, QByteArray data,
+                  std::vector<languages::Script> scripts)
         : m_library(std::move(library))
-        , m_data(std::move(data)) {}
+        , m_data(std::move(data))
+        , m_scripts(std::move(scripts)) {}
+
+    /// Loaded on first use. Null when the data cannot be read.
+    [[nodiscard]] TextEngine* engine(const QByteArray& language);
+    [[nodiscard]] std::optional<Lines> readPage(const QImage& page, const QByteArray& language);
+    [[nodiscard]] TextLine readLine(const QImage& page, const TextLine& line, const QByteArray& language);
+    /// The mean confidence of some lines, read in a language.
+    [[nodiscard]] double trial(const QImage& page, const Lines& samples, const QByteArray& language);
+    [[nodiscard]] const languages::Script& chooseScript(const QImage& page, const Lines& lines);
+    [[nodiscard]] QByteArray chooseLanguage(const QImage& page, const Lines& lines, const languages::Script& script);
+    void rereadDoubtful(const QImage& page, Lines& lines, const QByteArray& language, const languages::Script& script);
+    void readAgainPlain(const QImage& picture, const QSize& size, Lines& lines, const QByteArray& language);
 
     std::unique_ptr<const TesseractLibrary> m_library;
     QByteArray m_data;
+    std::vector<languages::Script> m_scripts;
+    std::map<QByteArray, TextEngine> m_engines;
+    /// Runs since the present picture was begun: what is left to improve is left when it takes too long.
+    QElapsedTimer m_elapsed;
 };
 
 } // namespace vellumry

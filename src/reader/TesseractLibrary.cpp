@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reader/TesseractLibrary.h"
 
-#include <cstdlib>
 #include <dlfcn.h>
 
 namespace vellumry {
@@ -29,8 +28,6 @@ private:
 } // namespace
 
 std::unique_ptr<const TesseractLibrary> TesseractLibrary::load() {
-    // OpenMP reads it once, when it is loaded. More threads cost more than they bring on pictures of this size.
-    setenv("OMP_THREAD_LIMIT", "1", 1);
     void* handle = dlopen("libtesseract.so.5", RTLD_NOW | RTLD_LOCAL);
     if (!handle)
         return nullptr;

@@ -19,9 +19,11 @@ TEST(ReaderProtocol, ARequestComesBackAsItWas) {
 }
 
 TEST(ReaderProtocol, RepliesComeBackAsTheyWere) {
-    const Reply full{7, QSize(3, 100'000), QByteArray("png\0bytes", 9), true};
+    const Reply full{7, QSize(3, 100'000), QByteArray("png\0bytes", 9), true, std::nullopt};
     EXPECT_EQ(decodeReply(withoutLength(*encode(full))), full);
-    const Reply empty{8, std::nullopt, std::nullopt, false};
+    const Reply reading{9, QSize(3, 4), std::nullopt, false, QStringLiteral("ein Wort: Öl")};
+    EXPECT_EQ(decodeReply(withoutLength(*encode(reading))), reading);
+    const Reply empty{8, std::nullopt, std::nullopt, false, std::nullopt};
     EXPECT_EQ(decodeReply(withoutLength(*encode(empty))), empty);
 }
 
@@ -38,7 +40,7 @@ TEST(ReaderProtocol, AThumbnailOfNoOrAbsurdSizeIsRefused) {
 }
 
 TEST(ReaderProtocol, AnEmptySizeIsRefused) {
-    EXPECT_EQ(decodeReply(withoutLength(*encode(Reply{1, QSize(0, 5), std::nullopt, false}))), std::nullopt);
+    EXPECT_EQ(decodeReply(withoutLength(*encode(Reply{1, QSize(0, 5), std::nullopt, false, {}}))), std::nullopt);
 }
 
 TEST(ReaderProtocol, TruncatedAndOverlongMessagesAreRefused) {
@@ -46,14 +48,14 @@ TEST(ReaderProtocol, TruncatedAndOverlongMessagesAreRefused) {
     for (qsizetype length = 0; length < request.size(); ++length)
         EXPECT_EQ(decodeRequest(request.first(length)), std::nullopt) << length;
     EXPECT_EQ(decodeRequest(request + 'x'), std::nullopt);
-    const QByteArray reply = withoutLength(*encode(Reply{1, QSize(2, 2), QByteArray("png"), true}));
+    const QByteArray reply = withoutLength(*encode(Reply{1, QSize(2, 2), QByteArray("png"), true, {}}));
     for (qsizetype length = 0; length < reply.size(); ++length)
         EXPECT_EQ(decodeReply(reply.first(length)), std::nullopt) << length;
     EXPECT_EQ(decodeReply(reply + 'x'), std::nullopt);
 }
 
 TEST(ReaderProtocol, AThumbnailTooLargeToBelieveIsNotSent) {
-    EXPECT_EQ(encode(Reply{1, QSize(2, 2), QByteArray(maxReplyBytes, 'x'), false}), std::nullopt);
+    EXPECT_EQ(encode(Reply{1, QSize(2, 2), QByteArray(maxReplyBytes, 'x'), false, {}}), std::nullopt);
 }
 
 } // namespace

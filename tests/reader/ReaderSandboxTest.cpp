@@ -31,6 +31,20 @@ TEST(ReaderSandbox, NoFileCanBeOpened) {
     EXPECT_TRUE(holdsInside([] { return open("/tmp/written-by-a-reader", O_WRONLY | O_CREAT, 0600) < 0; }));
 }
 
+TEST(ReaderSandbox, OneFolderStaysReadableAndNothingElse) {
+    const pid_t child = fork();
+    if (child == 0) {
+        readersandbox::enter();
+        readersandbox::seal("/usr/share");
+        const bool reads = open("/usr/share", O_RDONLY | O_DIRECTORY) >= 0;
+        const bool refuses = open("/etc/passwd", O_RDONLY) < 0 && open("/usr/share/x", O_WRONLY | O_CREAT, 0600) < 0;
+        _exit(reads && refuses ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+}
+
 TEST(ReaderSandbox, ThereIsNoNetwork) {
     EXPECT_TRUE(holdsInside([] { return socket(AF_INET, SOCK_STREAM, 0) < 0; }));
     EXPECT_TRUE(holdsInside([] { return socket(AF_UNIX, SOCK_STREAM, 0) < 0; }));

@@ -11,6 +11,7 @@
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 namespace vellumry {
 
@@ -36,6 +37,19 @@ Descriptor memoryFileOf(const QByteArray& picture) {
     return file;
 }
 
+/// Our environment, in which the recognition library is told to use one thread: more take several times the processor
+/// for nothing. OpenMP reads it when the program is loaded, so that the reader itself would be too late.
+std::vector<char*> readerEnvironment() {
+    static char oneThread[] = "OMP_THREAD_LIMIT=1";
+    std::vector<char*> variables{oneThread};
+    for (char** variable = environ; *variable; ++variable) {
+        if (!QByteArrayView(*variable).startsWith("OMP_THREAD_LIMIT="))
+            variables.push_back(*variable);
+    }
+    variables.push_back(nullptr);
+    return variables;
+}
+
 /// Starts `path` with `argument` and with `input` as its standard input, with no signal blocked or ignored; 0 on
 /// failure.
 pid_t spawn(const QByteArray& path, const QByteArray& argument, int input) {
@@ -54,8 +68,9 @@ pid_t spawn(const QByteArray& path, const QByteArray& argument, int input) {
     QByteArray name = path;
     QByteArray first = argument;
     char* arguments[] = {name.data(), first.isEmpty() ? nullptr : first.data(), nullptr};
+    std::vector<char*> variables = readerEnvironment();
     pid_t process = 0;
-    if (posix_spawn(&process, path.constData(), &actions, &attributes, arguments, environ) != 0)
+    if (posix_spawn(&process, path.constData(), &actions, &attributes, arguments, variables.data()) != 0)
         process = 0;
     posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&actions);

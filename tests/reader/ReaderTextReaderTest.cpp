@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "linux/desktop/ReaderTextReader.h"
+
+#include "reader/PictureBytes.h"
+#include "support/Awaited.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <gtest/gtest.h>
+
+namespace vellumry {
+namespace {
+
+using namespace std::chrono_literals;
+using Mode = TextReader::Mode;
+using Outcome = TextReader::Outcome;
+
+const QString realReader = QStringLiteral(VELLUMRY_READER);
+const QString fakeReader = QStringLiteral(VELLUMRY_FAKE_READER);
+constexpr int usual = 8192;
+
+/// Letters of a font of our own, seven points high, enlarged: no font need be installed, nor a display be there.
+QByteArray pictureOf(const QByteArray& word, QRgb ground, QRgb ink) {
+    static const std::map<char, std::array<quint8, 7>> font{{'H', {0x11, 0x11, 0x11, 0x1F, 0x11, 0x11, 0x11}},
+                                                            {'E', {0x1F, 0x10, 0x10, 0x1E, 0x10, 0x10, 0x1F}},
+                                                            {'L', {0x10, 0x10, 0x10, 0x10, 0x10, 0x10, 0x1F}},
+                                                            {'O', {0x0E, 0x11, 0x11, 0x11, 0x11, 0x11, 0x0E}},
+                                                            {'T', {0x1F, 0x04, 0x04, 0x04, 0x04, 0x04, 0x04}}};
+    QImage points(static_cast<int>(word.size()) * 6 + 14, 21, QImage::Format_RGB32);
+    points.fill(ground);
+    int x = 7;
+    for (const char letter : word) {
+        for (int row = 0; row < 7; ++row) {
+            for (int column = 0; column < 5; ++column) {
+                if (font.at(letter)[static_cast<std::size_t>(row)] >> (4 - column) & 1)
+                    points.setPixel(x + column, 7 + row, ink);
+            }
+        }
+        x += 6;
+    }
+    return picturebytes::encode(points.scaled(points.size() * 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
+                                "PNG");
+}
+
+TEST(ReaderTextReader, ReadsInTheSealedReaderInBothModes) {
+    ReaderTextReader reader(realReader);
+    for (const Mode mode : {Mode::fast, Mode::accurate}) {
+        const auto reading = awaited(reader.read(pictureOf("HOTEL", 0xFFFFFFFF, 0xFF000000), mode, usual, 60s));
+        EXPECT_EQ(reading.outcome, Outcome::text);
+        EXPECT_EQ(reading.text.trimmed(), QStringLiteral("HOTEL"));
+    }
+}
+
+TEST(ReaderTextReader, ReadsLightOnDark) {
+    ReaderTextReader reader(realReader);
+    const auto reading = awaited(reader.read(pictureOf("HOTEL", 0xFF202030, 0xFFC0D0A0), Mode::fast, usual, 60s));
+    EXPECT_EQ(reading.text.trimmed(), QStringLiteral("HOTEL"));
+}
+
+TEST(ReaderTextReader, APictureWithoutTextIsRead) {
+    ReaderTextReader reader(realReader);
+    const auto file = picturebytes::encode(picturebytes::twoColours(200, 100), "PNG");
+    EXPECT_EQ(awaited(reader.read(file, Mode::fast, usual, 60s)), (TextReader::Reading{Outcome::text, QString()}));
+}
+
+TEST(ReaderTextReader, WhatIsNoPictureIsToldApartFromWhatFailed) {
+    ReaderTextReader reader(realReader);
+    EXPECT_EQ(awaited(reader.read("no picture", Mode::fast, usual, 60s)).outcome, Outcome::undecodable);
+    EXPECT_EQ(awaited(reader.read(QByteArray(), Mode::fast, usual, 60s)).outcome, Outcome::undecodable);
+}
+
+TEST(ReaderTextReader, AHangingReaderIsEndedAtTheLimitAndTheNextPictureIsRead) {
+    ReaderTextReader reader(fakeReader);
+    EXPECT_EQ(awaited(reader.read("hang", Mode::accurate, usual, 50ms)).outcome, Outcome::tooSlow);
+    EXPECT_EQ(awaited(reader.read("words", Mode::accurate, usual, 60s)).text, QStringLiteral("words"));
+}
+
+TEST(ReaderTextReader, ACrashCostsOnePicture) {
+    ReaderTextReader reader(fakeReader);
+    EXPECT_EQ(awaited(reader.read("crash", Mode::accurate, usual, 60s)).outcome, Outcome::failed);
+    EXPECT_EQ(awaited(reader.read("words", Mode::fast, usual, 60s)).text, QStringLiteral("words"));
+}
+
+TEST(ReaderTextReader, WithoutAReaderReadingFails) {
+    ReaderTextReader reader(QStringLiteral("/no/such/reader"));
+    EXPECT_EQ(awaited(reader.read("words", Mode::fast, usual, 60s)).outcome, Outcome::failed);
+}
+
+TEST(ReaderTextReader, GoingAwayEndsAReadingAtOnce) {
+    auto reader = std::make_unique<ReaderTextReader>(fakeReader);
+    auto reading = reader->read("hang", Mode::accurate, usual, std::chrono::hours(1));
+    reader.reset();
+    EXPECT_EQ(awaited(std::move(reading)).outcome, Outcome::failed);
+}
+
+} // namespace
+} // namespace vellumry
