@@ -2,6 +2,7 @@
 #include "app/LinuxPlatform.h"
 #include "app/ReadyNotice.h"
 #include "foundation/Localisation.h"
+#include "linux/desktop/MemoryReturn.h"
 #include "linux/desktop/ProcessHardening.h"
 #include "shell/AppDelegate.h"
 
@@ -18,6 +19,8 @@ namespace {
 void chooseQtDefaults() {
     setenv("QT_QUICK_BACKEND", "software", 0);
     setenv("QT_ENABLE_HIGHDPI_SCALING", "1", 0);
+    // A change is painted with the next turn of the event loop; Qt would wait 5 ms for more.
+    setenv("QT_QPA_UPDATE_IDLE_TIME", "0", 0);
     // The panel's place and focus are handled on X11; under a Wayland session Xwayland serves it.
     if (std::getenv("DISPLAY"))
         setenv("QT_QPA_PLATFORM", "xcb", 0);
@@ -33,6 +36,7 @@ void keepTextFieldsOffTheClipboard() {
 
 int main(int argc, char** argv) {
     hardenProcess();
+    returnLargeBlocks();
     chooseQtDefaults();
 
     QGuiApplication application(argc, argv);
