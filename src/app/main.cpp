@@ -2,7 +2,6 @@
 #include "app/LinuxPlatform.h"
 #include "app/ReadyNotice.h"
 #include "foundation/Localisation.h"
-#include "linux/desktop/MemoryReturn.h"
 #include "linux/desktop/ProcessHardening.h"
 #include "shell/AppDelegate.h"
 
@@ -36,7 +35,6 @@ void keepTextFieldsOffTheClipboard() {
 
 int main(int argc, char** argv) {
     hardenProcess();
-    returnLargeBlocks();
     chooseQtDefaults();
 
     QGuiApplication application(argc, argv);
