@@ -74,9 +74,10 @@ def a_reader_that_dies_costs_one_picture():
     with Vellumry() as program:
         copy_bytes(picture_of(**LONG), "image/png")
         reader = wait_until(lambda: readers(program), "a reader", 20)[0]
+        copy_bytes(picture_of("Afterwards"), "image/png")
+        wait_until(lambda: len(unsealed()) == 2, "the second picture")
         os.kill(reader, signal.SIGKILL)
         wait_until(lambda: reader not in readers(program), "the reader to be gone")
-        copy_bytes(picture_of("Afterwards"), "image/png")
         read_text("afterwards")
         same(program.alive(), True, "the program runs")
 
