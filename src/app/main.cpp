@@ -2,6 +2,7 @@
 #include "app/LinuxPlatform.h"
 #include "app/ReadyNotice.h"
 #include "foundation/Localisation.h"
+#include "linux/desktop/MemoryReturn.h"
 #include "linux/desktop/ProcessHardening.h"
 #include "shell/AppDelegate.h"
 
@@ -35,6 +36,7 @@ void keepTextFieldsOffTheClipboard() {
 
 int main(int argc, char** argv) {
     hardenProcess();
+    returnLargeBlocks();
     chooseQtDefaults();
 
     QGuiApplication application(argc, argv);

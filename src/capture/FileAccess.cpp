@@ -2,6 +2,7 @@
 #include "capture/FileAccess.h"
 
 #include "capture/DetachedRun.h"
+#include "capture/DiskPath.h"
 #include "foundation/FileUrl.h"
 
 #include <QFile>
@@ -72,7 +73,7 @@ FileAccess::Result FileAccess::examine(const QStringList& paths, const FilePlace
 }
 
 bool FileAccess::canRead(const QString& path) {
-    const QByteArray name = QFile::encodeName(path);
+    const QByteArray name = diskPathOf(path);
     struct stat attributes {};
     if (stat(name.constData(), &attributes) != 0)
         return !isPermissionError(errno);

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capture/FileStatus.h"
 
+#include "capture/DiskPath.h"
 #include "foundation/FileUrl.h"
-
-#include <QFileInfo>
 
 namespace vellumry {
 
@@ -43,7 +42,7 @@ FileStatus FileStatus::check(const FileRef& ref, const FileBookmarks& bookmarks,
 }
 
 FileStatus FileStatus::check(const FileRef& ref, const FileBookmarks& bookmarks, const FilePlaces& places) {
-    return check(ref, bookmarks, places, [](const QString& path) { return QFileInfo::exists(path); });
+    return check(ref, bookmarks, places, existsOnDisk);
 }
 
 } // namespace vellumry

@@ -6,6 +6,7 @@ vellumry_test(
   vellumry_desktop_tests
   SOURCES
     DBusSingleInstanceTest.cpp
+    FileStatusOnDiskTest.cpp
     InotifyFolderWatchingTest.cpp
     KeychainKeyStoreTest.cpp
     MountTableTest.cpp
@@ -14,7 +15,7 @@ vellumry_test(
     PrivateBus.h
     ProcessHardeningTest.cpp
     TimerfdDateTimerTest.cpp
-  LINKS vellumry_linux)
+  LINKS vellumry_linux vellumry_capture)
 add_dependencies(vellumry_desktop_tests second_copy)
 target_compile_definitions(vellumry_desktop_tests PRIVATE VELLUMRY_SECOND_COPY="$<TARGET_FILE:second_copy>")
 if(VELLUMRY_INSPECTABLE OR VELLUMRY_SANITIZE)

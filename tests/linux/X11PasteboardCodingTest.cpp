@@ -50,10 +50,35 @@ TEST(FileList, ReadsTheDesktopsOwnList) {
     EXPECT_EQ(filelist::parse(QByteArray(100000, '\n')).files, QByteArrayList());
 }
 
+TEST(FileList, AHundredThousandEntriesAreReadOddOnesLeftOut) {
+    QByteArray list;
+    for (int i = 0; i < 100'000; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        list += "file:///home/someone/" + number + ".txt\r\n";
+        list += i % 3 == 0
+                    ? "file:///home/%" + number + "\r\n"
+                    : (i % 3 == 1 ? "file://server/share/" + number + "\r\n" : "smb://server/" + number + "\r\n");
+    }
+    // "%10" to "%99" of every third number are good escapes.
+    const filelist::Entries entries = filelist::parse(list);
+    EXPECT_GE(entries.files.size(), 100'000);
+    EXPECT_EQ(entries.files.count("file:///home/someone/99999.txt"), 1);
+    for (const QByteArray& file : entries.files)
+        ASSERT_TRUE(file.startsWith("file:///home/"));
+}
+
+TEST(FileList, NamesThatAreNotUtf8KeepTheirBytes) {
+    const filelist::Entries entries = filelist::parse("file:///caf%E9\r\nfile:///raw\xe9\r\n");
+    EXPECT_EQ(entries.files, (QByteArrayList{"file:///caf%E9", "file:///raw\xe9"}));
+    EXPECT_EQ(filelist::asUriList(entries.files), "file:///caf%E9\r\nfile:///raw\xe9\r\n");
+}
+
 TEST(FileList, WritesTheOperationOfTheOriginal) {
     EXPECT_EQ(filelist::asCopiedFiles({"file:///a"}, {}), "copy\nfile:///a");
     EXPECT_EQ(filelist::asCopiedFiles({"file:///a"}, "cut\nfile:///other"), "cut\nfile:///a");
     EXPECT_EQ(filelist::asCopiedFiles({"file:///a"}, "cutter"), "copy\nfile:///a");
+    EXPECT_EQ(filelist::asCopiedFiles({"file:///a"}, QByteArray("1\0", 2)), "cut\nfile:///a");
+    EXPECT_EQ(filelist::asCopiedFiles({"file:///a"}, "0"), "copy\nfile:///a");
 }
 
 TEST(OfferedContents, TextsOfSeveralItemsBecomeLines) {
@@ -62,6 +87,16 @@ TEST(OfferedContents, TextsOfSeveralItemsBecomeLines) {
     const auto contents = OfferedContents::of({one, two});
     EXPECT_EQ(contents->data(QStringLiteral("UTF8_STRING")), "one\ntwo");
     EXPECT_EQ(contents->items().size(), 2U);
+}
+
+TEST(OfferedContents, LatinNamesAreOfferedForTextThatLatinHasLettersFor) {
+    const auto latin =
+        OfferedContents::of({PasteboardItem{{{uniformtype::utf8PlainText, "caf\xc3\xa9"}}, std::nullopt}});
+    EXPECT_EQ(latin->data(QStringLiteral("STRING")), "caf\xe9");
+    EXPECT_EQ(latin->data(QStringLiteral("COMPOUND_TEXT")), "caf\xe9");
+    const auto greek = OfferedContents::of({PasteboardItem{{{uniformtype::utf8PlainText, "\xce\xb1"}}, std::nullopt}});
+    EXPECT_FALSE(greek->targets().contains(QStringLiteral("STRING")));
+    EXPECT_FALSE(greek->targets().contains(QStringLiteral("COMPOUND_TEXT")));
 }
 
 TEST(OfferedContents, AWebAddressIsOfferedAsAListToo) {

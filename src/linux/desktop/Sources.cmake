@@ -16,6 +16,7 @@ target_sources(
     desktop/InotifyThread.cpp desktop/InotifyThread.h
     desktop/InstanceLock.cpp desktop/InstanceLock.h
     desktop/KeychainKeyStore.cpp desktop/KeychainKeyStore.h
+    desktop/MemoryReturn.cpp desktop/MemoryReturn.h
     desktop/MountTable.cpp desktop/MountTable.h
     desktop/PosixFileBookmarks.cpp desktop/PosixFileBookmarks.h
     desktop/PrivateMainContext.h
