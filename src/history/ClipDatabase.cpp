@@ -114,6 +114,10 @@ QCoro::Task<void> ClipDatabase::deleteAll(std::vector<QUuid> ids) {
     return onExecutor<void>([ids = std::move(ids)](SQLiteDatabase& sqlite) { cliprows::removeAll(sqlite, ids); });
 }
 
+QCoro::Task<void> ClipDatabase::deleteAllOf(std::function<std::vector<QUuid>()> ids) {
+    return onExecutor<void>([ids = std::move(ids)](SQLiteDatabase& sqlite) { cliprows::removeAll(sqlite, ids()); });
+}
+
 QCoro::Task<void> ClipDatabase::reclaimSpace() {
     return onExecutor<void>([](SQLiteDatabase& sqlite) {
         overwriteWorkingSpace(sqlite);

@@ -49,6 +49,9 @@ public:
     [[nodiscard]] QCoro::Task<void> updatePinned(QUuid id, qint64 value);
     /// All or, on an error, none.
     [[nodiscard]] QCoro::Task<void> deleteAll(std::vector<QUuid> ids);
+    /// As `deleteAll`, for so many that listing them takes a while: `ids` is asked, and let go, on the history's own
+    /// thread.
+    [[nodiscard]] QCoro::Task<void> deleteAllOf(std::function<std::vector<QUuid>()> ids);
     /// Gives freed pages back and empties the write-ahead log, so that nothing deleted is left in either.
     [[nodiscard]] QCoro::Task<void> reclaimSpace();
 

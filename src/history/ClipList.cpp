@@ -4,6 +4,7 @@
 #include "history/Retention.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 namespace vellumry {
@@ -54,7 +55,7 @@ ClipRef ClipList::findFingerprint(const QString& fingerprint) const {
 }
 
 std::optional<Date> ClipList::nextExpiry() const {
-    return m_expiries.empty() ? std::nullopt : std::optional(*m_expiries.begin());
+    return m_expiries.empty() ? std::nullopt : std::optional(m_expiries.begin()->first);
 }
 
 qint64 ClipList::nextPinOrder(Date date) const {
@@ -67,8 +68,6 @@ qint64 ClipList::nextPinOrder(Date date) const {
 }
 
 bool ClipList::isWithin(const RetentionPolicy& policy, Date now) const {
-    if (!m_expiries.empty() && *m_expiries.begin() <= now)
-        return false;
     if (m_unpinnedCount > policy.maxCount || m_mediaBytes > policy.maxMediaBytes)
         return false;
     if (!policy.maxAge)
@@ -77,6 +76,13 @@ bool ClipList::isWithin(const RetentionPolicy& policy, Date now) const {
     const auto oldest =
         std::ranges::find_if(m_clips.rbegin(), m_clips.rend(), [](const ClipRef& clip) { return !clip->isPinned; });
     return oldest == m_clips.rend() || !(now - (*oldest)->lastUsedAt > *policy.maxAge);
+}
+
+QSet<QUuid> ClipList::expired(Date now) const {
+    QSet<QUuid> ids;
+    for (auto next = m_expiries.begin(); next != m_expiries.end() && next->first <= now; ++next)
+        ids.insert(next->second);
+    return ids;
 }
 
 std::vector<ClipRef> ClipList::recent(qint64 limit, bool includePinned) const {
@@ -183,6 +189,28 @@ std::vector<ClipRef> ClipList::remove(const QSet<QUuid>& ids) {
     return removed;
 }
 
+std::unique_ptr<ClipList> ClipList::takeAll(bool keepPinned) {
+    std::vector<ClipRef> kept;
+    if (keepPinned)
+        std::ranges::copy_if(m_clips, std::back_inserter(kept), [](const ClipRef& clip) { return clip->isPinned; });
+    if (kept.size() == m_clips.size())
+        return nullptr;
+    auto whole = std::make_unique<ClipList>(std::move(*this));
+    *this = ClipList();
+    assign(std::move(kept));
+    return whole;
+}
+
+std::vector<QUuid> ClipList::ids(bool withoutPinned) const {
+    std::vector<QUuid> ids;
+    ids.reserve(m_clips.size());
+    for (const ClipRef& clip : m_clips) {
+        if (!withoutPinned || !clip->isPinned)
+            ids.push_back(clip->id);
+    }
+    return ids;
+}
+
 std::ptrdiff_t ClipList::position(Date date, std::ptrdiff_t first, std::ptrdiff_t last) const {
     const auto begin = m_clips.begin();
     return std::partition_point(begin + first, begin + last,
@@ -201,7 +229,7 @@ void ClipList::enter(const Clip& clip) {
     m_byId.insert(clip);
     m_byFingerprint.insert(clip);
     if (clip.expiresAt)
-        m_expiries.insert(*clip.expiresAt);
+        m_expiries.emplace(*clip.expiresAt, clip.id);
     m_unpinnedCount += clip.isPinned ? 0 : 1;
     m_mediaBytes += retention::mediaBytes(clip);
 }
@@ -210,7 +238,7 @@ void ClipList::leave(const Clip& clip) {
     m_byId.erase(clip);
     m_byFingerprint.erase(clip);
     if (clip.expiresAt)
-        m_expiries.erase(m_expiries.find(*clip.expiresAt));
+        m_expiries.erase({*clip.expiresAt, clip.id});
     m_unpinnedCount -= clip.isPinned ? 0 : 1;
     m_mediaBytes -= retention::mediaBytes(clip);
 }

@@ -26,8 +26,10 @@ public:
     /// The place of a pin made at `date`: pins go by the time they were made, in milliseconds, and two of one
     /// millisecond still differ.
     [[nodiscard]] qint64 nextPinOrder(Date date) const;
-    /// True when no limit of `policy` and no expiry asks for anything to go at `now`; costs no walk.
+    /// True when no limit of `policy` asks for anything to go at `now`; costs no walk. Expiries are not asked.
     [[nodiscard]] bool isWithin(const RetentionPolicy& policy, Date now) const;
+    /// The clips whose expiry is not later than `now`; costs no walk.
+    [[nodiscard]] QSet<QUuid> expired(Date now) const;
 
     /// The first `limit` clips, the pinned ones left out unless asked for; none for a negative limit.
     [[nodiscard]] std::vector<ClipRef> recent(qint64 limit, bool includePinned) const;
@@ -46,6 +48,11 @@ public:
     void change(ClipRef clip);
     /// Takes out the clips of these ids and returns them.
     std::vector<ClipRef> remove(const QSet<QUuid>& ids);
+    /// Takes out everything, or everything that is not pinned, at the cost of what stays, and returns the list as it
+    /// was; null, and nothing changed, when there was nothing to take out.
+    [[nodiscard]] std::unique_ptr<ClipList> takeAll(bool keepPinned);
+    /// The identities of all clips, or of those that are not pinned.
+    [[nodiscard]] std::vector<QUuid> ids(bool withoutPinned) const;
 
 private:
     /// The index of the first clip of [first, last) that was not used later than `date`.
@@ -59,7 +66,7 @@ private:
     /// A file written by nobody but us holds no fingerprint twice. If one does, this has fewer entries than there are
     /// clips.
     ClipIndex m_byFingerprint;
-    std::multiset<Date> m_expiries;
+    std::set<std::pair<Date, QUuid>> m_expiries;
     qint64 m_unpinnedCount = 0;
     qint64 m_mediaBytes = 0;
 };

@@ -2,40 +2,12 @@
 #include "history/ClipStore.h"
 
 #include "history/Attempts.h"
-#include "history/ClipDatabase.h"
-#include "history/ClipHasher.h"
-#include "history/ClipList.h"
 #include "history/ClipOfDraft.h"
-#include "history/ClipSearch.h"
-#include "history/ExpiryTimer.h"
-#include "history/Retention.h"
+#include "history/ClipStorePrivate.h"
 
-#include <QHash>
 #include <QPointer>
 
 namespace vellumry {
-
-struct ClipStore::Private {
-    Private(std::shared_ptr<ClipDatabase> file, ClipCrypto historyCrypto, RetentionPolicy limits, ClipStore* store)
-        : database(std::move(file))
-        , crypto(std::move(historyCrypto))
-        , policy(limits)
-        , expiry(currentDate, [this, store] { store->enforceRetention(clock()); }) {}
-
-    std::shared_ptr<ClipDatabase> database; ///< null in memory-only mode
-    ClipCrypto crypto;
-    RetentionPolicy policy;
-    ClipList list;
-    qint64 revision = 0;
-    bool recoveredFromDamage = false;
-    double sensitiveLifetime = 60;
-    bool autoExpire = false;
-    QHash<QUuid, ClipPayload> memoryPayloads; ///< memory-only mode keeps them here
-    ClipSearch search;
-    Clock clock = currentDate;
-    ExpiryTimer expiry;
-    ClipHasher hasher{crypto};
-};
 
 QCoro::Task<std::unique_ptr<ClipStore>> ClipStore::open(std::shared_ptr<ClipDatabase> database, RetentionPolicy policy,
                                                         bool recoveredFromDamage) {
@@ -73,7 +45,7 @@ QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
         std::make_shared<const Clip>(clipOfDraft(draft, existing, fingerprint, now, d->sensitiveLifetime));
     existing ? d->list.replace(existing, clip) : d->list.insert(clip);
     // The keys of its image text stay: that text was kept, or there is none.
-    d->search.forgetText(clip->id);
+    d->search->forgetText(clip->id);
 
     if (const std::shared_ptr<ClipDatabase> database = d->database) {
         changed();
@@ -92,14 +64,6 @@ QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
     auto retaining = enforceRetention(now);
     co_await retaining;
     co_return self ? d->list.find(clip->id) : ClipRef();
-}
-
-void ClipStore::takeBack(const QUuid& id, const ClipRef& existing) {
-    d->list.remove({id});
-    forget(id);
-    if (existing)
-        d->list.insert(existing);
-    changed();
 }
 
 QCoro::Task<std::optional<ClipPayload>> ClipStore::payload(QUuid id) {
@@ -158,8 +122,8 @@ QCoro::Task<void> ClipStore::setImageText(QUuid id, std::optional<QString> text,
     changedClip->imageTextIsAccurate = isAccurate;
     const ClipRef clip = std::move(changedClip);
     d->list.change(clip);
-    d->search.forgetText(id);
-    d->search.forgetLookAlikes(id);
+    d->search->forgetText(id);
+    d->search->forgetLookAlikes(id);
     changed();
     if (const std::shared_ptr<ClipDatabase> database = d->database) {
         auto writing = attempted(database->updateMeta(clip));
@@ -167,55 +131,11 @@ QCoro::Task<void> ClipStore::setImageText(QUuid id, std::optional<QString> text,
     }
 }
 
-QCoro::Task<void> ClipStore::remove(QSet<QUuid> ids, bool thorough) {
-    if (ids.isEmpty())
-        co_return;
-    const std::vector<ClipRef> removed = d->list.remove(ids);
-    for (const QUuid& id : ids) {
-        d->memoryPayloads.remove(id);
-        forget(id);
-    }
-    if (!removed.empty())
-        changed();
-
-    const std::shared_ptr<ClipDatabase> database = d->database;
-    if (!database)
-        co_return;
-    auto deleting = attempted(database->deleteAll({ids.begin(), ids.end()}));
-    co_await deleting;
-    if (thorough || retention::isWorthReclaiming(removed, ids.size())) {
-        auto reclaiming = attempted(database->reclaimSpace());
-        co_await reclaiming;
-    }
-}
-
-QCoro::Task<void> ClipStore::clearHistory(bool keepPinned) {
-    QSet<QUuid> ids;
-    for (const ClipRef& clip : clips()) {
-        if (!keepPinned || !clip->isPinned)
-            ids.insert(clip->id);
-    }
-    auto removing = remove(std::move(ids), true);
-    co_await removing;
-}
-
-QCoro::Task<void> ClipStore::enforceRetention(Date now) {
-    if (d->list.isWithin(d->policy, now))
-        co_return;
-    auto removing = remove(retention::doomedClips(clips(), d->policy, now), false);
-    co_await removing;
-}
-
 void ClipStore::changed() {
     ++d->revision;
     if (d->autoExpire)
         d->expiry.arm(nextExpiry());
     Q_EMIT clipsChanged();
-}
-
-void ClipStore::forget(const QUuid& id) {
-    d->search.forgetText(id);
-    d->search.forgetLookAlikes(id);
 }
 
 const std::vector<ClipRef>& ClipStore::clips() const {
@@ -301,7 +221,7 @@ std::vector<QUuid> ClipStore::clipsWithRoughText() const {
 }
 
 std::vector<ClipRef> ClipStore::search(const QString& query, ClipFilter filter) const {
-    return d->search.search(clips(), query, filter, d->revision);
+    return d->search->search(clips(), query, filter, d->revision);
 }
 
 } // namespace vellumry

@@ -155,6 +155,57 @@ TEST_F(ClipStorePersistence, RescuedSecretsStayRescued) {
     EXPECT_EQ(m_store->find(clip->id)->pinOrder, 2000);
 }
 
+TEST_F(ClipStorePersistence, ClearingTakesEverythingButThePinsFromMemoryAndFile) {
+    const ClipRef pin = add(drafts::text(u"pinned"_s), 1);
+    awaited(m_store->setPinned(pin->id, true, 2));
+    add(drafts::text(u"one"_s), 3);
+    add(drafts::secret(u"two"_s), 4);
+    m_store->setAutoExpire(true);
+    const Clip before = *m_store->find(pin->id);
+    EXPECT_EQ(m_store->search(u"one"_s, ClipFilter::all).size(), 1U);
+    const qint64 revision = m_store->revision();
+    awaited(m_store->clearHistory(true));
+    EXPECT_EQ(m_store->clips().size(), 1U);
+    EXPECT_EQ(*m_store->find(pin->id), before);
+    EXPECT_GT(m_store->revision(), revision);
+    EXPECT_FALSE(m_store->isExpiryScheduled());
+    EXPECT_TRUE(m_store->search(u"one"_s, ClipFilter::all).empty());
+    EXPECT_EQ(m_store->search(u"pinned"_s, ClipFilter::all).size(), 1U);
+    EXPECT_EQ(rowCount(), 1);
+    EXPECT_EQ(add(drafts::text(u"pinned"_s), 5)->id, pin->id);
+    EXPECT_NE(add(drafts::text(u"one"_s), 6)->createdAt, 3);
+    awaited(m_store->clearHistory(false));
+    EXPECT_TRUE(m_store->clips().empty());
+    EXPECT_EQ(rowCount(), 0);
+    EXPECT_EQ(QFile(m_history.path() + u"-wal"_s).size(), 0);
+    reopen();
+    EXPECT_TRUE(m_store->clips().empty());
+}
+
+TEST_F(ClipStorePersistence, ClearingWhatIsEmptyOrAllPinnedChangesNothing) {
+    awaited(m_store->clearHistory(false));
+    EXPECT_EQ(m_store->revision(), 0);
+    const ClipRef pin = add(drafts::text(u"pinned"_s), 1);
+    awaited(m_store->setPinned(pin->id, true, 2));
+    const qint64 revision = m_store->revision();
+    awaited(m_store->clearHistory(true));
+    EXPECT_EQ(m_store->revision(), revision);
+    EXPECT_EQ(rowCount(), 1);
+}
+
+TEST_F(ClipStorePersistence, ASecretThatCouldNotBeDeletedIsBackAfterTheStartAndGoesThen) {
+    const ClipRef clip = add(drafts::secret(u"one"_s), 1);
+    refuseWrites();
+    awaited(m_store->enforceRetention(100));
+    EXPECT_TRUE(m_store->clips().empty());
+    allowWrites();
+    reopen();
+    ASSERT_TRUE(m_store->find(clip->id));
+    awaited(m_store->enforceRetention(100));
+    EXPECT_EQ(rowCount(), 0);
+    EXPECT_FALSE(allBytes().contains(clip->fingerprint.toLatin1()));
+}
+
 TEST_F(ClipStorePersistence, AnUnreadablePayloadIsNothingAndTheClipStays) {
     const ClipRef clip = add(drafts::text(u"one"_s), 1);
     execute("UPDATE clips SET payload = zeroblob(64);");
