@@ -7,7 +7,7 @@ import time
 
 from clients import GtkEditor, QtEditor
 from desktop import (QUIET, Vellumry, accessible, copy_bytes, copy_text, key, open_panel, picture, run, text_of, type_text,
-                     wait_for_clip, wait_panel_closed, wait_until)
+                     wait_for_clip, wait_panel_closed, wait_until, windows)
 
 COPIES = (
     "Meeting moved to Thursday, 14:30, room Curie",
@@ -17,6 +17,24 @@ COPIES = (
     "Dear neighbours,\nthe roof is going to be repaired next week. Please keep the attic windows shut.",
     "ssh-keygen -t ed25519 -C laptop",
 )
+
+
+def show_what_comes_and_goes():
+    """A message, then the bar of a running stack."""
+    key("super+alt+3")
+    wait_until(lambda: windows("^Vellumry message$"), "the message")
+    time.sleep(0.3)  # it has faded in
+    picture("5-message")
+    wait_until(lambda: not windows("^Vellumry message$"), "the message to go")
+    key("super+ctrl+s")
+    wait_until(lambda: windows("^Paste Stack$"), "the bar of the stack")
+    copy_text("first for the stack")
+    wait_for_clip(lambda row: text_of(row) == "first for the stack", "the first copy")
+    copy_text("second for the stack")
+    wait_for_clip(lambda row: text_of(row) == "second for the stack", "the second copy")
+    time.sleep(0.3)
+    picture("6-stack")
+    key("super+ctrl+s")
 
 
 def main():
@@ -44,6 +62,7 @@ def main():
             wait_panel_closed()
             wait_until(lambda: target.content() != "Pasted here: ", "the paste")
             picture("4-paste")
+            show_what_comes_and_goes()
             print("copied, found by two letters, pasted:", repr(target.content()))
 
 

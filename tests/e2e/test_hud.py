@@ -1,0 +1,73 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What shows while a Paste Stack runs and messages that come and go: neither takes the keyboard nor, but for two buttons, the
+pointer."""
+
+from clients import GtkEditor
+from desktop import (Vellumry, active_window, copy_text, focused_window, fresh, key, main, run, same, text_of, wait_for_clip, wait_until,
+                     windows)
+
+BAR = "^Paste Stack$"
+MESSAGE = "^Vellumry message$"
+
+
+def bar():
+    found = windows(BAR)
+    return found[0] if found else None
+
+
+def geometry(window):
+    """x, y, width, height of a window."""
+    lines = dict(line.split("=") for line in run("xdotool", "getwindowgeometry", "--shell", window).decode().split())
+    return tuple(int(lines[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+
+def press_at(x, y):
+    run("xdotool", "mousemove", str(x), str(y), "click", "1")
+
+
+def the_bar_stops_the_stack_and_the_editor_keeps_the_keyboard():
+    """A click on the cross acts at once while another application is active, and that one stays active."""
+    with Vellumry(), GtkEditor() as editor:
+        before = active_window(), focused_window()
+        key("super+ctrl+s")
+        window = wait_until(bar, "the bar")
+        x, y, width, height = geometry(window)
+        same(abs(2 * x + width - 1920) <= 1, True, "the bar is in the middle")
+        same((active_window(), focused_window()), before, "who has the keyboard")
+        copy_text("one for the stack")
+        wait_for_clip(lambda row: text_of(row) == "one for the stack", "the copy")
+        wait_until(lambda: geometry(window)[2] < width, "the bar to follow its contents")
+        x, y, width, height = geometry(window)
+        press_at(x + width - 8 - 13, y + height // 2)
+        wait_until(lambda: bar() is None, "the bar to go")
+        same((active_window(), focused_window()), before, "who has the keyboard afterwards")
+        same(editor.content(), "", "the editor's text")
+
+
+def a_finished_stack_takes_its_bar_along():
+    """The last paste leaves the bar up for a moment only."""
+    with Vellumry(), GtkEditor() as editor:
+        key("super+ctrl+s")
+        wait_until(bar, "the bar")
+        copy_text("the only one")
+        wait_for_clip(lambda row: text_of(row) == "the only one", "the copy")
+        key("ctrl+v")
+        wait_until(lambda: editor.content() == "the only one", "the paste")
+        wait_until(lambda: bar() is None, "the bar to go", 5)
+
+
+def a_message_lets_clicks_through():
+    """The pointer is over what lies under a message."""
+    with Vellumry(), GtkEditor():
+        key("super+alt+3")
+        window = wait_until(lambda: (windows(MESSAGE) or [None])[0], "the message")
+        x, y, width, height = geometry(window)
+        run("xdotool", "mousemove", str(x + width // 2), str(y + height // 2))
+        below = run("xdotool", "getmouselocation", "--shell").decode()
+        same(f"WINDOW={window}" in below, False, "the message is under the pointer")
+        wait_until(lambda: not windows(MESSAGE), "the message to go", 5)
+
+
+if __name__ == "__main__":
+    main([fresh(test) for test in (the_bar_stops_the_stack_and_the_editor_keeps_the_keyboard, a_finished_stack_takes_its_bar_along,
+                                   a_message_lets_clicks_through)])
