@@ -201,6 +201,16 @@ def focus(window):
     wait_until(lambda: active_window() == int(window), f"window {window} active")
 
 
+def focus_under_new_manager(window):
+    """The same where a window manager has only just begun and may not hear yet."""
+
+    def obeyed():
+        subprocess.run(["xdotool", "windowactivate", window], **QUIET)
+        return active_window() == int(window) and focused_window() > 1
+
+    wait_until(obeyed, f"window {window} active under the new window manager", 20)
+
+
 def active_window():
     done = subprocess.run(["xdotool", "getactivewindow"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
     return int(done.stdout or 0)

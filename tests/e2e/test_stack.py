@@ -2,14 +2,16 @@
 """The Paste Stack: several things copied, then each paste key of the user pastes the next, in foreign applications."""
 
 import os
+import shutil
 import signal
 import subprocess
 import tempfile
 
-from clients import FileManager, GtkEditor, QtEditor, XTerminal
-from desktop import (Process, Vellumry, accessible, active_window, clipboard, copy_bytes, copy_text, focus, fresh, key, main, open_panel, panel_is_open,
-                     picture, run, same, text_of, type_text, unsealed, wait_for_clip, wait_panel_closed, wait_until,
-                     windows)
+from clients import GtkEditor, QtEditor, XTerminal
+from desktop import (DATA, Process, Vellumry, accessible, active_window, clipboard, copy_bytes, copy_text, focus,
+                     focus_under_new_manager, fresh, key, main, open_panel, panel_is_open, picture, run, same, text_of, type_text, unsealed,
+                     wait_for_clip, wait_panel_closed, wait_until, windows)
+from history_probe import ids
 
 TOGGLE = "super+ctrl+s"
 HUD = "^Paste Stack$"
@@ -291,7 +293,7 @@ def a_new_window_manager_changes_nothing():
         before = run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
         with Process("openbox", "--replace"):
             wait_until(lambda: run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK") not in (before, b""), "the new window manager")
-            focus(client.window)
+            focus_under_new_manager(client.window)
             key("ctrl+v")
             wait_until(lambda: client.content() == "one two ", "the second")
             key("ctrl+v")
@@ -302,22 +304,18 @@ def a_new_window_manager_changes_nothing():
 def ten_a_second_lose_and_double_nothing():
     rounds = int(os.environ.get("VELLUMRY_STACK_PASTES", "60"))
     for make in (GtkEditor, QtEditor):
+        shutil.rmtree(DATA, ignore_errors=True)
         with Vellumry(), make() as client:
             start_stack()
             expected = ""
             for number in range(rounds):
                 text = f"{number},"
                 copy_text(text)
-                wait_until(lambda: stack_count() == number + 1, f"copy {number} in the stack")
+                wait_until(lambda: len(ids()) == number + 1, f"copy {number} in the history, so in the stack")
                 expected += text
             run("xdotool", "key", "--delay", "100", *["ctrl+v"] * rounds, timeout=60 + rounds)
             wait_until(lambda: client.content() == expected, "all in order", 20)
             wait_ended()
-
-
-def stack_count():
-    node = accessible("vellumry", "label", r"^\d+ ")
-    return int(node.name.split()[0]) if node else 0
 
 
 main([fresh(test) for test in (copies_come_back_in_a_gtk_editor, copies_come_back_in_a_qt_editor,
