@@ -93,7 +93,7 @@ function draw() { const c = document.createElement('canvas'); c.width = 32; c.he
   const d = c.getContext('2d'); d.fillStyle = '#1565c0'; d.fillRect(4, 4, 24, 16);
   c.toBlob(b => navigator.clipboard.write([new ClipboardItem({'image/png': b})])); }
 addEventListener('keydown', e => { if (e.key === 'F8') { choose(); document.title = 'chosen'; }
-  if (e.key === 'F7') draw();
+  if (e.key === 'F2') { draw(); e.preventDefault(); }
   if (e.key === 'F9') { document.getElementById('area').focus(); document.title = 'area:'; } });
 document.title = 'ready';
 </script>"""

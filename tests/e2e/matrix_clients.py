@@ -105,7 +105,8 @@ class Firefox(Process):
 
 def browser_picture(_client):
     """The page draws a picture and copies it as a page may."""
-    in_time(lambda: key("F7"), "image/png")
+    key("F2")
+    wait_until(lambda: clipboard("image/png"), "the page's picture on the clipboard", 40)
 
 
 def cut(_client):
@@ -174,7 +175,7 @@ CLIENTS = {
         "letter.html", "<html><body><p>A <b>bold</b> letter</p></body></html>"),
         lambda client: in_time(lambda: key("ctrl+a", "ctrl+c"), "UTF8_STRING"), RICH, "A bold letter", heavy=True),
     "calc": Client("LibreOffice Calc", "four cells", lambda: Office("cells.fods", CELLS), lambda client: in_time(
-        lambda: key("ctrl+Home", "ctrl+shift+End", "ctrl+c"), "text/html"), IMAGE, image_title, heavy=True),
+        lambda: key("ctrl+Home", "ctrl+shift+End", "ctrl+c"), "image/png"), IMAGE, image_title, heavy=True),
     "gimp": Client("GIMP", "a picture", ImageEditor, lambda client: in_time(lambda: key("ctrl+a", "ctrl+c"), "image/png"),
                    IMAGE, "Image 32 × 24", heavy=True),
     "firefox": Client("Firefox ESR", "styled words", Firefox, lambda client: client.copy_words(), RICH,

@@ -79,8 +79,8 @@ class Reader:
                 return self.display.get_atom_name(kind.property_type), kind.format, data
             data += piece
 
-    def targets(self):
-        given = self.ask("TARGETS")
+    def targets(self, timeout=15.0):
+        given = self.ask("TARGETS", timeout)
         if given is None:
             return []
         atoms = [int.from_bytes(given[2][at:at + 4], sys.byteorder) for at in range(0, len(given[2]), 4)]
