@@ -12,7 +12,9 @@ vellumry_test(
     X11InputTestMain.cpp
     X11KeyboardLayoutTest.cpp
     X11PanelSurfaceTest.cpp
+    X11PasteKeyGrabTest.cpp
     X11PasteKeysTest.cpp
+    X11PasteKeysWorld.h
     X11PasteTargetTest.cpp
     X11ScreensTest.cpp
     XClient.cpp

@@ -1,93 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/X11PasteKeys.h"
 
-#include "linux/XClient.h"
-#include "linux/XSession.h"
+#include "linux/X11PasteKeysWorld.h"
 #include "linux/x11/X11PasteTarget.h"
 #include "platform/EventFlags.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
-#include <atomic>
-#include <gtest/gtest.h>
-#include <linux/input-event-codes.h>
 
 namespace vellumry {
 
-namespace {
-
 using namespace std::chrono_literals;
-using Chords = std::vector<std::pair<unsigned long, unsigned int>>;
-
-constexpr unsigned long symbolV = 0x76;
-constexpr unsigned long symbolX = 0x78;
-constexpr unsigned long symbolInsert = 0xff63;
-constexpr unsigned int shift = 1;
-constexpr unsigned int control = 4;
-constexpr unsigned int alt = 8;
-
-class X11PasteKeysTest : public ::testing::Test {
-protected:
-    struct Press {
-        KeyPress press;
-        std::shared_ptr<HeldKey> key;
-    };
-
-    void SetUp() override {
-        ASSERT_TRUE(XSession::setLayout(QStringLiteral("us -variant basic")));
-        // The first key of another device gives the server's keyboard a new map.
-        client.chord({KEY_LEFTSHIFT});
-        ASSERT_TRUE(editor.open("edit", "Editor"));
-        keys.onPress = [this](const KeyPress& press, std::shared_ptr<HeldKey> key) {
-            presses.push_back({press, std::move(key)});
-        };
-        (void)editor.takeKeys();
-    }
-    void TearDown() override {
-        presses.clear();
-        keys.stop();
-        EXPECT_TRUE(XSession::setLayout(QStringLiteral("us -variant basic")));
-    }
-
-    [[nodiscard]] X11PasteKeys::Options options() {
-        X11PasteKeys::Options result;
-        result.wasServed = [this] { return wasServed.load(); };
-        result.offerAsPrimary = [this] { ++primaryOffers; };
-        result.injected = injected;
-        // Where a test wants a limit to pass it waits for that; all others must not run into it.
-        result.holdLimit = 3000ms;
-        result.servedLimit = 2000ms;
-        return result;
-    }
-    /// What the window got, modifier keys left out.
-    void collect() {
-        for (const XClient::Key& key : editor.takeKeys()) {
-            if (key.isPress && (key.symbol < 0xffe0 || key.symbol > 0xffef))
-                typed.emplace_back(key.symbol, key.state & 0xfdU);
-        }
-    }
-    bool arrives(const Chords& chords) {
-        return waitUntil([&] {
-                   collect();
-                   return typed.size() >= chords.size();
-               }) &&
-               typed == chords;
-    }
-    bool isTold(std::size_t count) {
-        return waitUntil([&] { return presses.size() >= count; }) && presses.size() == count;
-    }
-    void letGo(HeldKey::Contents contents = HeldKey::Contents::fresh) { presses.back().key->letGo(contents); }
-
-    std::atomic<bool> wasServed = true;
-    int primaryOffers = 0;
-    std::shared_ptr<InjectedPresses> injected = std::make_shared<InjectedPresses>();
-    X11PasteKeys keys{options()};
-    XClient client;
-    XClient editor;
-    std::vector<Press> presses;
-    Chords typed;
-};
-
-} // namespace
 
 TEST_F(X11PasteKeysTest, ThePressWaitsUntilItIsLetGoAndIsNotChanged) {
     ASSERT_TRUE(keys.start());
@@ -256,130 +179,6 @@ TEST_F(X11PasteKeysTest, AProgramThatDoesNotWantThePasteHoldsNothingUpForLong) {
     client.chord({KEY_LEFTCTRL, KEY_V});
     EXPECT_TRUE(isTold(2));
     letGo();
-}
-
-TEST_F(X11PasteKeysTest, LocksDoNotMatter) {
-    ASSERT_TRUE(keys.start());
-    std::size_t count = 0;
-    for (const unsigned int lock : {KEY_CAPSLOCK, KEY_NUMLOCK, KEY_CAPSLOCK, KEY_NUMLOCK}) {
-        client.chord({lock});
-        client.chord({KEY_LEFTCTRL, KEY_V});
-        ASSERT_TRUE(isTold(++count));
-        EXPECT_EQ(presses.back().press.characters, QStringLiteral("v"));
-        letGo();
-    }
-}
-
-TEST_F(X11PasteKeysTest, TheKeyThatTypesVFollowsTheLayout) {
-    ASSERT_TRUE(keys.start());
-    const std::vector<std::pair<QString, unsigned int>> layouts = {{QStringLiteral("us -variant dvorak"), KEY_DOT},
-                                                                   {QStringLiteral("de"), KEY_V},
-                                                                   {QStringLiteral("ru"), KEY_V},
-                                                                   {QStringLiteral("ara"), KEY_V},
-                                                                   {QStringLiteral("gr"), KEY_V}};
-    for (const auto& [layout, code] : layouts) {
-        ASSERT_TRUE(XSession::setLayout(layout));
-        presses.clear();
-        EXPECT_TRUE(waitUntil([&, key = code] {
-            client.chord({KEY_LEFTCTRL, key});
-            QCoreApplication::processEvents();
-            return !presses.empty();
-        })) << qPrintable(layout);
-        ASSERT_FALSE(presses.empty());
-        EXPECT_EQ(presses.back().press.keyCode, 9) << qPrintable(layout);
-        presses.clear();
-    }
-}
-
-TEST_F(X11PasteKeysTest, OfTwoLayoutsTheOneInUseDecides) {
-    ASSERT_TRUE(XSession::setLayout(QStringLiteral("us,us -variant ,dvorak -option grp:menu_toggle")));
-    ASSERT_TRUE(keys.start());
-    client.chord({KEY_LEFTCTRL, KEY_V});
-    ASSERT_TRUE(isTold(1));
-    EXPECT_EQ(presses[0].press.keyCode, 9);
-    letGo();
-    client.chord({KEY_COMPOSE});
-    client.chord({KEY_LEFTCTRL, KEY_V}); // types k there
-    ASSERT_TRUE(isTold(2));
-    EXPECT_EQ(presses[1].press.characters, QStringLiteral("k"));
-    EXPECT_NE(presses[1].press.keyCode, 9);
-    letGo();
-    client.chord({KEY_LEFTCTRL, KEY_DOT});
-    ASSERT_TRUE(isTold(3));
-    EXPECT_EQ(presses[2].press.characters, QStringLiteral("v"));
-    EXPECT_EQ(presses[2].press.keyCode, 9);
-    letGo();
-    EXPECT_TRUE(XSession::setLayout(QStringLiteral("us -option")));
-}
-
-TEST_F(X11PasteKeysTest, AnotherHolderOfTheKeyIsFoundAndNothingIsKept) {
-    XClient other;
-    ASSERT_TRUE(other.grabKey(KEY_V, control));
-    EXPECT_FALSE(keys.start());
-    XClient third;
-    EXPECT_TRUE(third.grabKey(KEY_INSERT, shift));
-    EXPECT_TRUE(third.grabKey(KEY_V, control | alt));
-}
-
-TEST_F(X11PasteKeysTest, ASecondListenerFindsTheFirst) {
-    ASSERT_TRUE(keys.start());
-    EXPECT_TRUE(keys.start());
-    X11PasteKeys second(options());
-    EXPECT_FALSE(second.start());
-    keys.stop();
-    EXPECT_TRUE(second.start());
-}
-
-TEST_F(X11PasteKeysTest, WithoutThePrimaryChordsTheRestStillWorks) {
-    XClient other;
-    ASSERT_TRUE(other.grabKey(KEY_INSERT, shift));
-    ASSERT_TRUE(keys.start());
-    client.chord({KEY_LEFTCTRL, KEY_V});
-    EXPECT_TRUE(isTold(1));
-}
-
-TEST_F(X11PasteKeysTest, WhoeverHoldsTheKeyboardGetsTheKey) {
-    ASSERT_TRUE(keys.start());
-    XClient locker;
-    ASSERT_TRUE(locker.grabKeyboard());
-    client.chord({KEY_LEFTCTRL, KEY_V});
-    locker.ungrabKeyboard();
-    client.chord({KEY_LEFTCTRL, KEY_LEFTSHIFT, KEY_V});
-    ASSERT_TRUE(isTold(1));
-    EXPECT_EQ(presses[0].press.flags, eventflag::command | eventflag::shift);
-}
-
-TEST_F(X11PasteKeysTest, StoppingLetsAKeyThatWaitsGo) {
-    ASSERT_TRUE(keys.start());
-    client.chord({KEY_LEFTCTRL, KEY_V});
-    ASSERT_TRUE(isTold(1));
-    keys.stop();
-    EXPECT_FALSE(presses[0].key->isHeld());
-    EXPECT_TRUE(arrives({{symbolV, control}}));
-    client.chord({KEY_LEFTCTRL, KEY_V});
-    EXPECT_TRUE(arrives(Chords(2, {symbolV, control})));
-    EXPECT_EQ(presses.size(), 1U);
-}
-
-TEST_F(X11PasteKeysTest, WhoeverIsToldMayStopIt) {
-    keys.onPress = [this](const KeyPress&, const std::shared_ptr<HeldKey>& key) {
-        key->letGo(HeldKey::Contents::fresh);
-        keys.stop();
-        keys.onPress = nullptr;
-    };
-    ASSERT_TRUE(keys.start());
-    client.chord({KEY_LEFTCTRL, KEY_V});
-    EXPECT_TRUE(arrives({{symbolV, control}}));
-}
-
-TEST_F(X11PasteKeysTest, AReplacedWindowManagerChangesNothing) {
-    ASSERT_TRUE(keys.start());
-    client.setRootProperty("_NET_SUPPORTING_WM_CHECK", 1);
-    for (std::size_t count = 1; count <= 20; ++count) {
-        client.chord({KEY_LEFTCTRL, KEY_V});
-        ASSERT_TRUE(isTold(count));
-        letGo();
-    }
 }
 
 TEST(InjectedPresses, AreOursOnceAndForAWhile) {
