@@ -51,7 +51,8 @@ public:
         : m_picture(picture)
         , m_nearest(picture.width(), picture.height(), QRgb())
         , m_distance(picture.width(), picture.height(), nowhere) {
-        grow(seeds());
+        markSeeds();
+        grow(edgeOfSeeds());
         spread();
     }
 
@@ -64,6 +65,7 @@ public:
 
 private:
     static constexpr quint16 nowhere = 0xFFFF;
+    static constexpr std::array<QPoint, 4> steps{QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)};
 
     [[nodiscard]] QRgb pixel(int x, int y) const {
         return reinterpret_cast<const QRgb*>(m_picture.constScanLine(y))[x];
@@ -74,8 +76,7 @@ private:
     }
 
     /// The lower right corners of smooth squares, and the ends of smooth lines.
-    std::vector<QPoint> seeds() {
-        std::vector<QPoint> found;
+    void markSeeds() {
         Grid<quint8> squares(m_picture.width(), 2, 0);
         Grid<quint8> columns(m_picture.width(), 1, 0);
         for (int y = 1; y < m_picture.height(); ++y) {
@@ -89,29 +90,45 @@ private:
                 const int side = row > 0 && column > 0 ? std::min(before + 1, groundSide) : 0;
                 squares.at(x, y % 2) = static_cast<quint8>(side);
                 if (side == groundSide || row == lineLength || column == lineLength)
-                    take(found, x, y);
+                    mark(x, y);
             }
         }
-        return found;
     }
 
-    void take(std::vector<QPoint>& list, int x, int y) {
+    void mark(int x, int y) {
         m_distance.at(x, y) = 0;
         m_nearest.at(x, y) = pixel(x, y);
-        list.emplace_back(x, y);
+    }
+
+    [[nodiscard]] bool isGround(const QPoint& point) { return m_distance.at(point.x(), point.y()) == 0; }
+
+    /// The marked pixels beside others: few, where all of them would take more memory than the picture.
+    std::vector<QPoint> edgeOfSeeds() {
+        std::vector<QPoint> edge;
+        for (int y = 0; y < m_picture.height(); ++y) {
+            for (int x = 0; x < m_picture.width(); ++x) {
+                const QPoint point(x, y);
+                const auto isOther = [this, point](const QPoint& step) {
+                    return m_picture.valid(point + step) && !isGround(point + step);
+                };
+                if (isGround(point) && std::ranges::any_of(steps, isOther))
+                    edge.push_back(point);
+            }
+        }
+        return edge;
     }
 
     /// From the squares to all that hangs together with them.
     void grow(std::vector<QPoint> edge) {
-        constexpr std::array<QPoint, 4> steps{QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)};
         while (!edge.empty()) {
             const QPoint from = edge.back();
             edge.pop_back();
             for (const QPoint& step : steps) {
                 const QPoint to = from + step;
-                if (m_picture.valid(to) && m_distance.at(to.x(), to.y()) != 0 &&
-                    isLike(from.x(), from.y(), to.x(), to.y()))
-                    take(edge, to.x(), to.y());
+                if (!m_picture.valid(to) || isGround(to) || !isLike(from.x(), from.y(), to.x(), to.y()))
+                    continue;
+                mark(to.x(), to.y());
+                edge.push_back(to);
             }
         }
     }

@@ -1,84 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "capture/TextReadingQueue.h"
-
-#include "capture/ResumeOnce.h"
-#include "support/Awaited.h"
-#include "support/Drafts.h"
-
-#include <QFile>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
+#include "capture/TextReadingWorld.h"
 
 namespace vellumry {
 namespace {
 
-using Reader = TextReadingQueue::Reader;
-using Answer = std::optional<QString>;
-
-/// A reader that answers what `answers` says, else "fast" or "accurate" and the picture, at once, or at the next
-/// `letGo` while `isHeld`.
-struct FakeReading {
-    struct Read {
-        QByteArray picture;
-        Reader reader;
-        bool operator==(const Read&) const = default;
-    };
-    std::vector<Read> reads;
-    std::map<QByteArray, Answer> answers;
-    bool isHeld = false;
-    ResumeOnce<bool> gate;
-
-    QCoro::Task<Answer> read(QByteArray picture, Reader reader) {
-        reads.push_back({picture, reader});
-        if (isHeld) {
-            gate = ResumeOnce<bool>();
-            ResumeOnce<bool> mine = gate;
-            (void)co_await mine;
-        }
-        const auto found = answers.find(picture);
-        if (found != answers.end())
-            co_return found->second;
-        co_return QString::fromUtf8((reader == Reader::fast ? "fast " : "accurate ") + picture);
-    }
-    void letGo() {
-        const ResumeOnce<bool> mine = gate;
-        mine.resume(true);
-    }
-};
-
-class TextReadingQueueTest : public testing::Test {
-protected:
-    QUuid add(const ClipDraft& draft) { return awaited(store.add(draft, now += 1))->id; }
-    QUuid addImage(const QByteArray& bytes) { return add(drafts::image(bytes)); }
-    QString writeFile(const QString& name, const QByteArray& bytes) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return file.fileName();
-    }
-    void finish() {
-        runUntil([this] { return !queue->current() && (queue->waitingAccurate().empty() || !isAccurateUsable); });
-    }
-    [[nodiscard]] Answer textOf(const QUuid& id) const { return store.find(id)->imageText; }
-    [[nodiscard]] bool isAccurate(const QUuid& id) const { return store.find(id)->imageTextIsAccurate; }
-
-    TextReadingQueue::Seams seams() {
-        return {[this](QByteArray picture, Reader reader) { return reading.read(std::move(picture), reader); },
-                [this] { return isAccurateUsable; },
-                [](const FileRef& file) {
-                    return QFile::exists(file.path) ? FileStatus::available(file.path) : FileStatus::missing();
-                },
-                [this](const QString&) { return isEverywhereQuiet.load(); }};
-    }
-
-    QTemporaryDir folder;
-    ClipStore store{RetentionPolicy{}};
-    FakeReading reading;
-    bool isAccurateUsable = true;
-    std::atomic<bool> isEverywhereQuiet{true};
-    Date now = 1'000'000;
-    std::unique_ptr<TextReadingQueue> queue = std::make_unique<TextReadingQueue>(store, seams());
-};
+using TextReadingQueueTest = TextReadingWorld;
 
 TEST_F(TextReadingQueueTest, ReadsAPictureQuicklyAndThenWell) {
     const QUuid id = addImage("png");
@@ -238,61 +164,6 @@ TEST_F(TextReadingQueueTest, ThePreferredTypeIsRead) {
     draft.payload.items.front().representations[uniformtype::jpeg] = "jpeg";
     queue->enqueue({add(draft)});
     EXPECT_EQ(reading.reads.front().picture, "png");
-}
-
-TEST_F(TextReadingQueueTest, TheTextsOfSeveralFilesAreJoinedWithABlankLine) {
-    QStringList paths;
-    for (int number = 1; number <= 6; ++number)
-        paths += writeFile(QStringLiteral("%1.png").arg(number), QByteArray::number(number));
-    reading.answers["2"] = QStringLiteral("");
-    const QUuid id = add(drafts::files(paths));
-    queue->enqueue({id});
-    finish();
-    EXPECT_EQ(textOf(id), QStringLiteral("accurate 1\n\naccurate 3\n\naccurate 4\n\naccurate 5"));
-}
-
-TEST_F(TextReadingQueueTest, OneFileThatFailsDoesNotCostTheTextOfTheOthers) {
-    reading.answers["1"] = std::nullopt;
-    const QUuid id =
-        add(drafts::files({writeFile(QStringLiteral("1.png"), "1"), writeFile(QStringLiteral("2.png"), "2")}));
-    queue->enqueue({id});
-    finish();
-    EXPECT_EQ(textOf(id), QStringLiteral("accurate 2"));
-}
-
-TEST_F(TextReadingQueueTest, AFileInAProtectedFolderIsReadOnTheUsersWordOnly) {
-    isEverywhereQuiet = false;
-    const QUuid id = add(drafts::files({writeFile(QStringLiteral("a.png"), "a")}));
-    queue->enqueue({id});
-    finish();
-    EXPECT_TRUE(reading.reads.empty());
-    EXPECT_EQ(textOf(id), std::nullopt);
-    EXPECT_FALSE(queue->isReading(id));
-    queue->readFile(id);
-    finish();
-    EXPECT_EQ(reading.reads.front(), (FakeReading::Read{"a", Reader::fast}));
-    EXPECT_EQ(textOf(id), QStringLiteral("fast a"));
-}
-
-TEST_F(TextReadingQueueTest, TheUsersWordReadsAFileAgain) {
-    const QUuid id = add(drafts::files({writeFile(QStringLiteral("a.png"), "a")}));
-    awaited(store.setImageText(id, QStringLiteral("old"), true));
-    queue->readFile(id);
-    finish();
-    EXPECT_EQ(reading.reads.front(), (FakeReading::Read{"a", Reader::fast}));
-}
-
-TEST_F(TextReadingQueueTest, AFileThatCannotBeReadIsToldToWhoAskedForIt) {
-    std::vector<QUuid> unreadable;
-    queue->onFileUnreadable = [&unreadable](const QUuid& id) { unreadable.push_back(id); };
-    const QUuid id = add(drafts::files({folder.filePath(QStringLiteral("gone.png"))}));
-    queue->enqueue({id});
-    finish();
-    EXPECT_TRUE(unreadable.empty());
-    queue->readFile(id);
-    finish();
-    EXPECT_EQ(unreadable, std::vector<QUuid>{id});
-    EXPECT_EQ(textOf(id), std::nullopt);
 }
 
 TEST_F(TextReadingQueueTest, ViewsAreToldWhenAClipBeginsAndEndsBeingRead) {
