@@ -13,6 +13,7 @@ class Target(Process):
 
     title = ""
     toolkit = ""
+    paste_key = "ctrl+v"
 
     def settle(self):
         """Does what the application needs before its content can be read."""
@@ -31,6 +32,7 @@ class Terminal(Target):
     """A terminal in which `cat` writes down what is typed."""
 
     toolkit = "terminal"
+    paste_key = "ctrl+shift+v"
     window_class = ""
     before = ()
 
@@ -51,10 +53,12 @@ class Terminal(Target):
 
 
 class XTerm(Terminal):
+    paste_key = "shift+Insert"
     title, window_class, before = "xterm", "XTerm", ("xterm",)
 
 
 class Rxvt(Terminal):
+    paste_key = "shift+Insert"
     title, window_class, before = "rxvt-unicode", "URxvt", ("urxvt",)
 
 
@@ -158,7 +162,7 @@ class Writer(Editor):
 
 
 class Chromium(Browser):
-    title, toolkit = "Chromium", "a text field of a page"
+    title, toolkit, paste_key = "Chromium", "a text field of a page", Target.paste_key
 
     def __init__(self):
         super().__init__()

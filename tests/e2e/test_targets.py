@@ -8,11 +8,12 @@ import os
 import sys
 
 from desktop import (Failure, Vellumry, copy_text, fresh, key, main, open_panel, text_of, type_text, wait_for_clip, wait_panel_closed,
-                     wait_until)
+                     wait_until, windows)
 from targets import HEAVY, LIGHT
 
 PINNED = "pinned Größe 5 €"
 CHOSEN = "chosen words 漢字"
+STACKED = ("first öne, ", "second twö")
 
 
 def remember(text):
@@ -25,7 +26,7 @@ def shows(target, text):
     for _ in range(6):
         target.settle()
         try:
-            return wait_until(lambda: text in target.content(), text, 2)
+            return wait_until(lambda: text in target.content().replace("\n", ""), text, 2)
         except Failure:
             continue
     raise Failure(f"waited in vain for {text!r} in {target.title}; it holds {target.content()!r:.200}")
@@ -44,7 +45,22 @@ def by_pin_key(target):
     shows(target, PINNED)
 
 
-WAYS = {"Return in the panel": by_return, "key of a pin": by_pin_key}
+def by_stack(target):
+    key("super+ctrl+s")
+    wait_until(stack_is_shown, "the display of the stack")
+    for text in STACKED:
+        remember(text)
+    for text in STACKED:
+        key(target.paste_key)
+        shows(target, text)
+    wait_until(lambda: not stack_is_shown(), "the stack to end")
+
+
+def stack_is_shown():
+    return windows("^Paste Stack$")
+
+
+WAYS = (by_return, by_pin_key, by_stack)
 
 
 def tell(target, results):
@@ -65,7 +81,7 @@ def pastes_into(kind):
             wait_panel_closed()
             with kind() as target:
                 results = []
-                for way in WAYS.values():
+                for way in WAYS:
                     try:
                         way(target)
                         results.append("✓")
