@@ -177,7 +177,7 @@ class Firefox(Target):
     PAGE = """<!doctype html><meta charset=utf-8><title>starting</title><textarea id=area></textarea><script>
 const area = document.getElementById('area');
 area.addEventListener('input', () => document.title = 'area:' + area.value);
-addEventListener('focus', () => area.focus()); area.addEventListener('focus', () => document.title = 'area:'); area.focus();
+addEventListener('focus', () => area.focus()); area.addEventListener('focus', () => document.title = 'area:' + area.value); area.focus();
 </script>"""
 
     def __init__(self):

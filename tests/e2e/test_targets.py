@@ -13,7 +13,7 @@ from targets import HEAVY, LIGHT
 
 PINNED = "pinned Größe 5 €"
 CHOSEN = "chosen words 漢字"
-STACKED = ("first öne, ", "second twö")
+STACKED = ("first öne;", "second twö")
 
 
 def remember(text):
