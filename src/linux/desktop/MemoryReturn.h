@@ -3,9 +3,9 @@
 
 namespace vellumry {
 
-/// Has every block of more than half a megabyte go back to the system when it is freed, whatever was freed before it. Left
-/// to itself the C library keeps blocks of up to 32 MB for later, in each thread's heap, once one of that size was freed:
-/// a large picture copied in the morning would be paid for all day. Once, before there are threads.
+/// Has every block of more than half a megabyte go back to the system when it is freed, whatever was freed before it.
+/// Left to itself the C library keeps blocks of up to 32 MB for later, in each thread's heap, once one of that size was
+/// freed: a large picture copied in the morning would be paid for all day. Once, before there are threads.
 void returnLargeBlocks();
 
 } // namespace vellumry
