@@ -17,7 +17,7 @@ from measures import character_errors, words
 from reader import ACCURATE, FAST, Reader
 
 LANGUAGES = {"German": "deu", "French": "fra", "Greek": "ell", "Japanese": "jpn"}
-METHODS = ("fast", "accurate", "tesseract")
+METHODS = ("fast", "accurate", "command")
 
 
 def by_command(path, language):
@@ -43,7 +43,7 @@ def readings(reader, path, kind):
         picture = file.read()
     return {"fast": timed(reader.processor_seconds, reader.read, picture, FAST),
             "accurate": timed(reader.processor_seconds, reader.read, picture, ACCURATE),
-            "tesseract": timed(commands_seconds, by_command, path, LANGUAGES.get(kind, "eng"))}
+            "command": timed(commands_seconds, by_command, path, LANGUAGES.get(kind, "eng"))}
 
 
 def found(build, cases):
@@ -68,9 +68,9 @@ class Sums:
         self.seconds += other.seconds
 
     def line(self, name):
-        rates = [f"{100 * self.errors[method] / self.characters:8.2f}" for method in METHODS]
-        parts = [f"{100 * self.found[method] / self.words:8.1f}" if self.words else "       -" for method in METHODS]
-        times = [f"{self.seconds[method]:8.2f}" for method in METHODS]
+        rates = [f"{100 * self.errors[method] / self.characters:9.2f}" for method in METHODS]
+        parts = [f"{100 * self.found[method] / self.words:9.1f}" if self.words else "        -" for method in METHODS]
+        times = [f"{self.seconds[method]:9.2f}" for method in METHODS]
         return f"{name:20}" + "".join(rates) + "  " + "".join(parts) + "  " + "".join(times)
 
 
@@ -100,8 +100,8 @@ def main():
     build = sys.argv[1]
     folder = sys.argv[2] if len(sys.argv) > 2 else tempfile.mkdtemp(prefix="vellumry-ocr")
     sums = measure(build, folder, sys.argv[3] if len(sys.argv) > 3 else "")
-    print(f"{'':20}{'characters wrong, %':^24}  {'words found, %':^24}  {'processor seconds':^24}")
-    print(f"{'':20}" + ("".join(f"{method[:8]:>8}" for method in METHODS) + "  ") * 3)
+    print(f"{'':20}{'characters wrong, %':^27}  {'words found, %':^27}  {'processor seconds':^27}")
+    print(f"{'':20}" + ("".join(f"{method:>9.9}" for method in METHODS) + "  ") * 3)
     whole = Sums()
     for kind, one in sums.items():
         print(one.line(kind))
