@@ -61,9 +61,8 @@ def shown():
     return accessible("vellumry", "list item")
 
 
-def copied_card(probe, editor, card):
-    """Copies it, sees it arrive, and answers when its time is over and what it looks like in the file."""
-    editor.type_and_copy(card)
+def stored_card(probe, card):
+    """Sees the copied card arrive, and answers when its time is over and what it looks like in the file."""
     row = probe.wait_for(card)
     lifetime = row["expires"] - row["created"]
     if not LIFETIME - 0.01 < lifetime < LIFETIME + 0.01:
@@ -109,7 +108,8 @@ def a_card_is_gone_from_everywhere_at_its_time():
     card = card_number()
     with Vellumry() as program, GtkEditor() as editor:
         probe = HistoryProbe()
-        ends, sealed = copied_card(probe, editor, card)
+        editor.type_and_copy(card)
+        ends, sealed = stored_card(probe, card)
         same(bool(found_in(program.pid, plain_forms(card))), True, "the probe finds what is there")
         wait_until(shown, "the card in the panel")
         key("Escape")
@@ -124,9 +124,10 @@ def a_card_is_gone_from_everywhere_at_its_time():
 
 def a_card_whose_time_came_while_the_program_stood_still_goes_at_once():
     card = card_number()
-    with Vellumry() as program, GtkEditor() as editor:
+    with Vellumry() as program:
         probe = HistoryProbe()
-        ends, sealed = copied_card(probe, editor, card)
+        copy_text(card)
+        ends, sealed = stored_card(probe, card)
         os.kill(program.pid, signal.SIGSTOP)
         wait_until(lambda: time.time() > ends + 2, "its time to pass", LIFETIME + 4)
         same(len(ids()), 1, "a stopped program deletes nothing")
