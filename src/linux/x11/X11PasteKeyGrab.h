@@ -41,7 +41,7 @@ public:
         /// No press waits longer, whatever happens.
         std::chrono::milliseconds holdLimit{150};
         /// How long, of that, for the paste before it to be fetched.
-        std::chrono::milliseconds servedLimit{90};
+        std::chrono::milliseconds servedLimit{115};
     };
 
     explicit X11PasteKeyGrab(Options options);
