@@ -27,7 +27,8 @@ protected:
         m_store = m_history.openStore();
     }
     [[nodiscard]] Clip clip(int number) const {
-        const ClipRef found = m_store->find(QUuid(u"00000000-0000-4000-8000-%1"_s.arg(number, 12, 16, QLatin1Char('0'))));
+        const ClipRef found =
+            m_store->find(QUuid(u"00000000-0000-4000-8000-%1"_s.arg(number, 12, 16, QLatin1Char('0'))));
         return found ? *found : Clip();
     }
     [[nodiscard]] ClipPayload payload(int number) const {
