@@ -76,8 +76,10 @@ class Sums:
 
 def measure(build, folder, prefix):
     sums = {}
+    # Drawn before the reader is started: it goes away when it is asked nothing for a while.
+    entries = corpus.make(folder)
     with Reader(os.path.join(build, "vellumry-reader")) as reader:
-        for entry in corpus.make(folder):
+        for entry in entries:
             if not entry["name"].startswith(prefix):
                 continue
             one = Sums()

@@ -9,7 +9,8 @@ namespace vellumry::imagemarks {
 
 /// True when the file says of itself that it is a screenshot: the user comment (EXIF 2.32, 0x9286, or XMP
 /// `exif:UserComment`) is "Screenshot" without regard to case and to white space around it; or a PNG text `Software`
-/// names a screenshot tool. Knows PNG, JPEG, TIFF and WebP.
+/// names a screenshot tool. Knows PNG, JPEG, TIFF and WebP, and an
+/// EXIF block alone.
 [[nodiscard]] bool isScreenshot(QByteArrayView file);
 
 } // namespace vellumry::imagemarks

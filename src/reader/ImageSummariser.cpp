@@ -36,7 +36,8 @@ readerprotocol::Reply ImageSummariser::summarise(QByteArrayView file, int thumbn
         return reply;
     reply.pixelSize = header.size;
     // Marks alone make no picture.
-    reply.isScreenshot = reply.pixelSize && imagemarks::isScreenshot(file);
+    reply.isScreenshot = reply.pixelSize && (imagemarks::isScreenshot(file) ||
+                                             imagemarks::isScreenshot(picturedecoder::separateExif(file)));
     reply.thumbnail = encodePng(picturedecoder::decode(file, thumbnailPixels, maxArea));
     return reply;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reader/PictureDecoder.h"
 
+#include "reader/HeifPicture.h"
+
 #include <QBuffer>
 #include <QImageReader>
 #include <algorithm>
@@ -44,6 +46,12 @@ QSize bounded(const QSize& picture, int longerSide) {
     return picture.scaled(longerSide, longerSide, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
 }
 
+QImage shrunk(const QImage& image, int longerSide) {
+    const QSize size = bounded(image.size(), longerSide);
+    return image.isNull() || size == image.size() ? image
+                                                  : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 /// A reader over bytes that stay where they are.
 class BytesReader {
 public:
@@ -67,9 +75,40 @@ private:
     bool m_canRead = false;
 };
 
+/// Nothing for other files, and on a system that cannot open these.
+std::optional<HeifPicture> heifPicture(QByteArrayView file) {
+    if (!HeifPicture::isOne(file))
+        return std::nullopt;
+    const std::optional<HeifLibrary> library = HeifLibrary::open();
+    return library ? HeifPicture::open(*library, file) : std::nullopt;
+}
+
+/// The decoder knows no scale of its own.
+QImage decodeHeif(const HeifPicture& picture, int longerSide, qint64 maxArea) {
+    const QSize size = picture.size();
+    if (static_cast<qint64>(size.width()) * size.height() > std::min(maxArea, maxAreaOfHeif))
+        return {};
+    return shrunk(picture.decode(), longerSide);
+}
+
+QImage decodeByQt(QByteArrayView file, int longerSide, qint64 maxArea) {
+    BytesReader reader(file);
+    if (!reader.canRead())
+        return {};
+    const QSize size = reader->size();
+    if (static_cast<qint64>(size.width()) * size.height() > maxArea)
+        return {};
+    reader->setAutoTransform(true);
+    if (size.width() > 0 && size.height() > 0)
+        reader->setScaledSize(bounded(size, longerSide));
+    // A format that does not tell its size beforehand is made smaller behind that.
+    return shrunk(reader->read(), longerSide);
+}
+
 } // namespace
 
 void loadDecoders() {
+    (void)HeifLibrary::open();
     QImageReader::setAllocationLimit(allocationLimitMegabytes);
     for (const Format& format : acceptedFormats) {
         QBuffer nothing;
@@ -82,6 +121,8 @@ void loadDecoders() {
 
 Header headerOf(QByteArrayView file) {
     Header header;
+    if (const auto picture = heifPicture(file))
+        return {true, picture->size()};
     BytesReader reader(file);
     header.canDecode = reader.canRead();
     if (!header.canDecode)
@@ -94,23 +135,17 @@ Header headerOf(QByteArrayView file) {
 
 QImage decode(QByteArrayView file, int longerSide, qint64 maxArea) {
     try {
-        BytesReader reader(file);
-        if (!reader.canRead())
-            return {};
-        const QSize size = reader->size();
-        if (static_cast<qint64>(size.width()) * size.height() > maxArea)
-            return {};
-        reader->setAutoTransform(true);
-        if (size.width() > 0 && size.height() > 0)
-            reader->setScaledSize(bounded(size, longerSide));
-        QImage image = reader->read();
-        // A format that does not tell its size beforehand.
-        if (!image.isNull() && (image.width() > longerSide || image.height() > longerSide))
-            image = image.scaled(bounded(image.size(), longerSide), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        return image;
+        if (const auto picture = heifPicture(file))
+            return decodeHeif(*picture, longerSide, maxArea);
+        return decodeByQt(file, longerSide, maxArea);
     } catch (const std::bad_alloc&) {
         return {};
     }
+}
+
+QByteArray separateExif(QByteArrayView file) {
+    const auto picture = heifPicture(file);
+    return picture ? picture->exif() : QByteArray();
 }
 
 int longerSideForReading(const QSize& size, int maxPixelSize) {

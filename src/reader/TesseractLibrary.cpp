@@ -1,38 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reader/TesseractLibrary.h"
 
-#include <dlfcn.h>
+#include "reader/LibrarySymbols.h"
 
 namespace vellumry {
-
-namespace {
-
-/// Looks functions up by name and remembers whether one was missing.
-class Symbols {
-public:
-    explicit Symbols(void* handle)
-        : m_handle(handle) {}
-
-    template <typename Function>
-    void find(Function& function, const char* name) {
-        function = reinterpret_cast<Function>(dlsym(m_handle, name));
-        m_isComplete = m_isComplete && function;
-    }
-    [[nodiscard]] bool isComplete() const { return m_isComplete; }
-
-private:
-    void* m_handle;
-    bool m_isComplete = true;
-};
-
-} // namespace
 
 std::unique_ptr<const TesseractLibrary> TesseractLibrary::load() {
     void* handle = dlopen("libtesseract.so.5", RTLD_NOW | RTLD_LOCAL);
     if (!handle)
         return nullptr;
     auto library = std::make_unique<TesseractLibrary>();
-    Symbols symbols(handle);
+    LibrarySymbols symbols(handle);
     symbols.find(library->create, "TessBaseAPICreate");
     symbols.find(library->destroy, "TessBaseAPIDelete");
     symbols.find(library->init, "TessBaseAPIInit2");

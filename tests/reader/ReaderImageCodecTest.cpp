@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/desktop/ReaderImageCodec.h"
 
+#include "reader/HeifBytes.h"
 #include "reader/PictureBytes.h"
 #include "support/Awaited.h"
 
@@ -45,6 +46,9 @@ TEST(ReaderImageCodec, EveryDecoderWorksInTheSealedReader) {
         EXPECT_EQ(summary.pixelSize, QSize(640, 320)) << format;
         EXPECT_TRUE(summary.thumbnail.has_value()) << format;
     }
+    const ImageSummary summary = awaited(codec.summarise(heifbytes::encode(twoColours(640, 320)), 160));
+    EXPECT_EQ(summary.pixelSize, QSize(640, 320)) << "HEIC";
+    EXPECT_TRUE(summary.thumbnail.has_value()) << "HEIC";
 }
 
 TEST(ReaderImageCodec, APictureLargerThanASocketHoldsArrivesWhole) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/desktop/ReaderTextReader.h"
 
+#include "reader/HeifBytes.h"
 #include "reader/PictureBytes.h"
 #include "support/Awaited.h"
 
@@ -20,7 +21,7 @@ const QString fakeReader = QStringLiteral(VELLUMRY_FAKE_READER);
 constexpr int usual = 8192;
 
 /// Letters of a font of our own, seven points high, enlarged: no font need be installed, nor a display be there.
-QByteArray pictureOf(const QByteArray& word, QRgb ground, QRgb ink) {
+QImage drawn(const QByteArray& word, QRgb ground, QRgb ink) {
     static const std::map<char, std::array<quint8, 7>> font{{'H', {0x11, 0x11, 0x11, 0x1F, 0x11, 0x11, 0x11}},
                                                             {'E', {0x1F, 0x10, 0x10, 0x1E, 0x10, 0x10, 0x1F}},
                                                             {'L', {0x10, 0x10, 0x10, 0x10, 0x10, 0x10, 0x1F}},
@@ -38,8 +39,11 @@ QByteArray pictureOf(const QByteArray& word, QRgb ground, QRgb ink) {
         }
         x += 6;
     }
-    return picturebytes::encode(points.scaled(points.size() * 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
-                                "PNG");
+    return points.scaled(points.size() * 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+QByteArray pictureOf(const QByteArray& word, QRgb ground, QRgb ink) {
+    return picturebytes::encode(drawn(word, ground, ink), "PNG");
 }
 
 TEST(ReaderTextReader, ReadsInTheSealedReaderInBothModes) {
@@ -49,6 +53,14 @@ TEST(ReaderTextReader, ReadsInTheSealedReaderInBothModes) {
         EXPECT_EQ(reading.outcome, Outcome::text);
         EXPECT_EQ(reading.text.trimmed(), QStringLiteral("HOTEL"));
     }
+}
+
+TEST(ReaderTextReader, ReadsAHeicPicture) {
+    ReaderTextReader reader(realReader);
+    const QByteArray file = heifbytes::encode(drawn("HOTEL", 0xFFFFFFFF, 0xFF000000));
+    const auto reading = awaited(reader.read(file, Mode::fast, usual, 60s));
+    EXPECT_EQ(reading.outcome, Outcome::text);
+    EXPECT_EQ(reading.text.trimmed(), QStringLiteral("HOTEL"));
 }
 
 TEST(ReaderTextReader, ReadsLightOnDark) {
