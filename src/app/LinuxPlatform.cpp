@@ -8,6 +8,7 @@
 #include "linux/desktop/PosixFileBookmarks.h"
 #include "linux/desktop/ReaderImageCodec.h"
 #include "linux/desktop/ReaderTextReader.h"
+#include "linux/desktop/ThemeSounds.h"
 #include "linux/desktop/TimerfdDateTimer.h"
 #include "linux/x11/X11Focus.h"
 #include "linux/x11/X11FrontmostApplication.h"
@@ -66,6 +67,7 @@ std::optional<Platform> makeLinuxPlatform() {
     if (!addDisplay(platform))
         return std::nullopt;
     platform.singleInstance = std::make_unique<DBusSingleInstance>();
+    platform.sounds = std::make_unique<ThemeSounds>();
     platform.keyStore = std::make_unique<KeychainKeyStore>();
     const QString reader = QCoreApplication::applicationDirPath() + QStringLiteral("/vellumry-reader");
     platform.images = std::make_unique<ReaderImageCodec>(reader);

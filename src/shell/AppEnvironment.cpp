@@ -11,6 +11,7 @@
 #include "paste/PasteboardWriter.h"
 #include "shell/AlertWindow.h"
 #include "shell/HistoryFolder.h"
+#include "shell/PasteSound.h"
 #include "shell/StartupAlert.h"
 
 #include <QLocale>
@@ -135,6 +136,7 @@ void AppEnvironment::wire() {
     wireCapture();
     wireScreenshots();
     wireStack();
+    m_paster->onPasted = pasteSound(*m_platform->defaults, *m_platform->sounds);
     ShortcutRegistrations::Actions actions;
     actions.togglePanel = [this] { togglePanel(); };
     actions.toggleStack = [this] { toggleStack(stackSeed()); };

@@ -14,6 +14,7 @@
 #include "platform/PasteTarget.h"
 #include "platform/Pasteboard.h"
 #include "platform/SingleInstance.h"
+#include "platform/SoundPlayer.h"
 #include "platform/SourceApp.h"
 #include "platform/TextReader.h"
 
@@ -34,6 +35,7 @@ struct Platform {
     std::unique_ptr<KeyboardLayout> keyboard;
     std::unique_ptr<PasteTarget> pasteTarget;
     std::unique_ptr<PasteKeys> pasteKeys;
+    std::unique_ptr<SoundPlayer> sounds;
     std::unique_ptr<PanelSurface> panelSurface;
     std::unique_ptr<ImageCodec> images;
     std::unique_ptr<TextReader> textReader;

@@ -26,6 +26,7 @@ target_sources(
     desktop/ReaderTextReader.cpp desktop/ReaderTextReader.h
     desktop/ReaderWorker.cpp desktop/ReaderWorker.h
     desktop/SecretServiceSession.cpp desktop/SecretServiceSession.h
+    desktop/ThemeSounds.cpp desktop/ThemeSounds.h
     desktop/TimerfdDateTimer.cpp desktop/TimerfdDateTimer.h
     desktop/TrashFolders.cpp desktop/TrashFolders.h)
 target_link_libraries(
