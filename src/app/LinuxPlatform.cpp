@@ -5,6 +5,7 @@
 #include "linux/desktop/DesktopEntries.h"
 #include "linux/desktop/InotifyFolderWatching.h"
 #include "linux/desktop/KeychainKeyStore.h"
+#include "linux/desktop/PasswordFocus.h"
 #include "linux/desktop/PosixFileBookmarks.h"
 #include "linux/desktop/ReaderImageCodec.h"
 #include "linux/desktop/ReaderTextReader.h"
@@ -39,6 +40,9 @@ bool addDisplay(Platform& platform) {
     options.offerAsPrimary = [board = pasteboard.get()] { return board->offerAsPrimary(); };
     options.terminalApps = [defaults = platform.defaults.get()] {
         return defaults->stringArray(QStringLiteral("terminalApps")).value_or(QStringList());
+    };
+    options.isPasswordField = [focus = std::make_shared<PasswordFocus>()](qint64 process) {
+        return focus->isIn(process);
     };
     const auto injected = std::make_shared<InjectedPresses>();
     options.willPress = [injected] { injected->announce(std::chrono::steady_clock::now()); };

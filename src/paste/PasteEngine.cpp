@@ -92,10 +92,13 @@ QCoro::Task<PasteOutcome> PasteEngine::deliver() {
         co_return PasteOutcome::copiedOnly(PasteReason::directPasteOff);
     if (!m_system.isTrusted())
         co_return PasteOutcome::copiedOnly(PasteReason::notTrusted);
-    if (m_system.isSecureInput())
+    const std::weak_ptr<bool> life = m_life;
+    const bool isSecureInput = co_await m_system.isSecureInput();
+    if (life.expired())
+        co_return PasteOutcome::failed();
+    if (isSecureInput)
         co_return PasteOutcome::copiedOnly(PasteReason::secureInput);
 
-    const std::weak_ptr<bool> life = m_life;
     co_await m_system.sleep(m_system.settleDelay);
     if (life.expired())
         co_return PasteOutcome::failed();

@@ -22,8 +22,10 @@ struct SystemHooks {
     using FileJob = std::function<std::vector<FileStatus>()>;
 
     Pasteboard* pasteboard = nullptr;
-    std::function<bool()> isTrusted;     ///< may we press keys in this session
-    std::function<bool()> isSecureInput; ///< a password field has the focus, or another program holds the keyboard
+    std::function<bool()> isTrusted; ///< may we press keys in this session
+    /// A password field has the focus, or another program holds the keyboard. The field's application is asked, so it
+    /// is awaited.
+    std::function<QCoro::Task<bool>()> isSecureInput;
     std::function<QCoro::Task<bool>()> regainFocus;
     std::function<void()> pressPaste;
     /// How long the panel's going is given before keys are pressed.

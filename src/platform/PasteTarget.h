@@ -13,8 +13,8 @@ public:
     [[nodiscard]] virtual bool isTrusted() const = 0;
     /// Asks the user for the permission where the platform has one; does nothing elsewhere.
     virtual void requestTrust() = 0;
-    /// True while another program holds the keyboard or a password field has the focus.
-    [[nodiscard]] virtual bool isSecureInput() const = 0;
+    /// True while another program holds the keyboard or a password field has the focus. Answers within a moment.
+    [[nodiscard]] virtual QCoro::Task<bool> isSecureInput() = 0;
     /// Waits, at most a moment, until the window that was in front has its focus back. False when it did not get it,
     /// has gone, or another window has the focus: then nothing may be typed.
     [[nodiscard]] virtual QCoro::Task<bool> regainFocus() = 0;

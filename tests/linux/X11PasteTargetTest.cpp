@@ -4,6 +4,7 @@
 #include "linux/XClient.h"
 #include "linux/XSession.h"
 #include "linux/x11/X11PanelSurface.h"
+#include "support/Awaited.h"
 
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -19,6 +20,10 @@ constexpr unsigned long symbolInsert = 0xff63;
 constexpr unsigned int shift = 1;
 constexpr unsigned int control = 4;
 constexpr unsigned int modifiers = 0xff & ~2U;
+
+QCoro::Task<bool> answering(bool answer) {
+    co_return answer;
+}
 
 class X11PasteTargetTest : public ::testing::Test {
 protected:
@@ -126,12 +131,31 @@ TEST_F(X11PasteTargetTest, TheChordIsOnTheKeyThatTypesV) {
 }
 
 TEST_F(X11PasteTargetTest, AForeignKeyboardGrabIsSecureInput) {
-    EXPECT_FALSE(target.isSecureInput());
+    EXPECT_FALSE(awaited(target.isSecureInput()));
     ASSERT_TRUE(client.grabKeyboard());
-    EXPECT_TRUE(target.isSecureInput());
+    EXPECT_TRUE(awaited(target.isSecureInput()));
     client.ungrabKeyboard();
-    EXPECT_FALSE(target.isSecureInput());
+    EXPECT_FALSE(awaited(target.isSecureInput()));
     EXPECT_TRUE(client.grabKeyboard());
+}
+
+TEST_F(X11PasteTargetTest, APasswordFieldOfTheProgramInFrontIsSecureInput) {
+    XClient editor;
+    ASSERT_TRUE(editor.open("edit", "Editor", 4711));
+    std::vector<qint64> asked;
+    X11PasteTarget::Options options;
+    options.isPasswordField = [&asked](qint64 process) {
+        asked.push_back(process);
+        return answering(asked.size() == 1);
+    };
+    X11PasteTarget careful{connection, focus, std::move(options)};
+    EXPECT_TRUE(awaited(careful.isSecureInput()));
+    EXPECT_FALSE(awaited(careful.isSecureInput()));
+    EXPECT_EQ(asked, (std::vector<qint64>{4711, 4711}));
+    ASSERT_TRUE(client.grabKeyboard());
+    EXPECT_TRUE(awaited(careful.isSecureInput()));
+    EXPECT_EQ(asked.size(), 2U);
+    client.ungrabKeyboard();
 }
 
 TEST_F(X11PasteTargetTest, AfterThePanelTheTargetHasTheKeyboardAtOnce) {

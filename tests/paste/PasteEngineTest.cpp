@@ -200,6 +200,18 @@ TEST(PasteEngine, PressesNothingWhenItWentWhileWaiting) {
     EXPECT_EQ(world.target.focusRequests, 0);
 }
 
+TEST(PasteEngine, TouchesNothingWhenItWentWhileAFieldWasAskedForSecrets) {
+    PasteWorld world;
+    const auto clip = world.addText("hello");
+    world.target.holdsAnswer = true;
+    const auto pasting = world.engine->paste(clip, {}, {});
+    ASSERT_FALSE(pasting.isReady());
+    world.engine.reset();
+    world.target.answer();
+    ASSERT_TRUE(pasting.isReady());
+    EXPECT_TRUE(world.log.isEmpty());
+}
+
 TEST(PasteEngine, TwoPastesAtOnceLeaveTheLastOnThePasteboard) {
     PasteWorld world;
     world.holdsSleep = true;

@@ -3,7 +3,9 @@
 
 #include "platform/PasteTarget.h"
 
+#include <coroutine>
 #include <functional>
+#include <utility>
 
 namespace vellumry {
 
@@ -12,6 +14,7 @@ class FakePasteTarget : public PasteTarget {
 public:
     bool trusted = true;
     bool secureInput = false;
+    bool holdsAnswer = false; ///< `isSecureInput` answers with `answer` only
     bool focusComesBack = true;
     int trustRequests = 0;
     int focusRequests = 0;
@@ -20,7 +23,11 @@ public:
 
     [[nodiscard]] bool isTrusted() const override { return trusted; }
     void requestTrust() override { ++trustRequests; }
-    [[nodiscard]] bool isSecureInput() const override { return secureInput; }
+    [[nodiscard]] QCoro::Task<bool> isSecureInput() override {
+        Wait wait{this};
+        co_await wait;
+        co_return secureInput;
+    }
     [[nodiscard]] QCoro::Task<bool> regainFocus() override {
         ++focusRequests;
         co_return focusComesBack;
@@ -29,6 +36,17 @@ public:
         ++presses;
         onPress();
     }
+    void answer() { std::exchange(m_asking, nullptr).resume(); }
+
+private:
+    struct Wait {
+        FakePasteTarget* target;
+        bool await_ready() const noexcept { return !target->holdsAnswer; }
+        void await_suspend(std::coroutine_handle<> handle) { target->m_asking = handle; }
+        void await_resume() const noexcept {}
+    };
+
+    std::coroutine_handle<> m_asking;
 };
 
 } // namespace vellumry

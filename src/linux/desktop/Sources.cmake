@@ -6,6 +6,7 @@ option(VELLUMRY_INSPECTABLE "Leave the process open to debuggers of the same use
 target_sources(
   vellumry_linux
   PRIVATE
+    desktop/AccessibilityBus.cpp desktop/AccessibilityBus.h
     desktop/ApplicationInterface.cpp desktop/ApplicationInterface.h
     desktop/CallDeadline.cpp desktop/CallDeadline.h
     desktop/DBusSingleInstance.cpp desktop/DBusSingleInstance.h
@@ -18,6 +19,7 @@ target_sources(
     desktop/KeychainKeyStore.cpp desktop/KeychainKeyStore.h
     desktop/MemoryReturn.cpp desktop/MemoryReturn.h
     desktop/MountTable.cpp desktop/MountTable.h
+    desktop/PasswordFocus.cpp desktop/PasswordFocus.h
     desktop/PosixFileBookmarks.cpp desktop/PosixFileBookmarks.h
     desktop/PrivateMainContext.h
     desktop/ProcessHardening.cpp desktop/ProcessHardening.h

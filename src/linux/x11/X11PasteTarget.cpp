@@ -56,9 +56,18 @@ X11PasteTarget::X11PasteTarget(std::shared_ptr<XlibConnection> connection, std::
     , m_focus(std::move(focus))
     , m_options(std::move(options)) {}
 
+QCoro::Task<bool> X11PasteTarget::isSecureInput() {
+    if (isKeyboardTaken())
+        co_return true;
+    if (!m_options.isPasswordField)
+        co_return false;
+    auto asking = m_options.isPasswordField(XWindowProperties::processOf(*m_connection, windowInFront()));
+    co_return co_await asking;
+}
+
 // Screen lockers and password prompts keep the keyboard to themselves, and only a try tells. Taking it succeeds where a
 // hot key of our own holds it.
-bool X11PasteTarget::isSecureInput() const {
+bool X11PasteTarget::isKeyboardTaken() const {
     Display* display = m_connection->display();
     const int result = XGrabKeyboard(display, m_connection->root(), False, GrabModeAsync, GrabModeAsync, CurrentTime);
     if (result == GrabSuccess)
@@ -106,11 +115,13 @@ void X11PasteTarget::pressPaste() {
     XSync(m_connection->display(), False);
 }
 
+XWindow X11PasteTarget::windowInFront() const {
+    const XWindow client = XWindowProperties::clientOf(*m_connection, XWindowProperties::focusWindow(*m_connection));
+    return client != 0 ? client : XWindowProperties::activeWindow(*m_connection);
+}
+
 bool X11PasteTarget::isTerminalInFront() const {
-    XWindow window = XWindowProperties::clientOf(*m_connection, XWindowProperties::focusWindow(*m_connection));
-    if (window == 0)
-        window = XWindowProperties::activeWindow(*m_connection);
-    const auto windowClass = XWindowProperties::windowClass(*m_connection, window);
+    const auto windowClass = XWindowProperties::windowClass(*m_connection, windowInFront());
     const QStringList userNames = m_options.terminalApps ? m_options.terminalApps() : QStringList();
     return TerminalApps::contains({windowClass.name, windowClass.instance}, userNames);
 }

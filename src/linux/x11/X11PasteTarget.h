@@ -23,6 +23,8 @@ public:
         std::chrono::milliseconds focusDeadline{400};
         /// Called before the paste chord is pressed.
         std::function<void()> willPress = [] {};
+        /// Tells whether a password field of the process has the focus; unset where nobody can tell.
+        std::function<QCoro::Task<bool>(qint64 process)> isPasswordField = nullptr;
     };
 
     X11PasteTarget(std::shared_ptr<XlibConnection> connection, std::shared_ptr<X11Focus> focus, Options options);
@@ -30,11 +32,13 @@ public:
     [[nodiscard]] bool isTrusted() const override { return m_connection->hasTestExtension(); }
     /// There is nobody to ask on X11.
     void requestTrust() override {}
-    [[nodiscard]] bool isSecureInput() const override;
+    [[nodiscard]] QCoro::Task<bool> isSecureInput() override;
     [[nodiscard]] QCoro::Task<bool> regainFocus() override;
     void pressPaste() override;
 
 private:
+    [[nodiscard]] bool isKeyboardTaken() const;
+    [[nodiscard]] XWindow windowInFront() const;
     [[nodiscard]] bool isTerminalInFront() const;
     void releaseHeldKeys();
     void pressChord(const std::vector<quint32>& keycodes);
