@@ -7,13 +7,14 @@ import os
 import shutil
 import signal
 import subprocess
+import tempfile
 import urllib.parse
 
 from Xlib import X, display
 
-from clients import GtkEditor
+from clients import GtkEditor, fresh_home
 from desktop import (HERE, QUIET, SETTINGS, Process, Vellumry, accessible, active_window, clipboard, copy_bytes, copy_text, focus,
-                     fresh, key, main, open_panel, representation, same, text_of, type_text, unsealed, wait_for_clip,
+                     fresh, key, main, open_panel, representation, run, same, text_of, type_text, unsealed, wait_for_clip,
                      wait_panel_closed, wait_until, window_title, windows)
 from owner import LoggingOwner
 
@@ -39,6 +40,18 @@ class FieldWindow(Process):
 
     def content(self):
         return window_title(self.window).split(":", 1)[1]
+
+
+class LockedVault(Process):
+    """KeePassXC, a Qt program, where it asks for the password of a vault."""
+
+    def __init__(self):
+        vault = os.path.join(tempfile.mkdtemp(prefix="keepass"), "vault.kdbx")
+        run("keepassxc-cli", "db-create", "--set-password", vault, data=b"open\nopen\n", timeout=60)
+        super().__init__("keepassxc", vault, env=fresh_home())
+        self.window = wait_until(lambda: (windows("KeePassXC") or [None])[0], "the password manager", 40)
+        focus(self.window)
+        wait_until(lambda: accessible("keepassxc", "password text"), "the field for the password", 20)
 
 
 def settings(line):
@@ -160,6 +173,15 @@ def a_password_field_gets_nothing():
         same((clipboard(), field.content()), (b"not a password", ""), "clipboard and field")
         key("ctrl+v")
         wait_until(lambda: field.content() == "not a password", "the paste by hand")
+
+
+def a_password_field_of_a_qt_program_gets_nothing():
+    with Vellumry():
+        remember("not a password")
+        with LockedVault():
+            choose()
+            told(SECURE)
+            same(clipboard(), b"not a password", "the clipboard")
 
 
 def a_common_field_beside_a_password_field_gets_its_paste():
@@ -293,6 +315,7 @@ if __name__ == "__main__":
     main([fresh(test) for test in (
         pasting_presses_the_key_and_says_nothing, without_direct_paste_it_copies_and_says_so,
         a_keyboard_that_another_program_holds_gets_nothing, a_password_field_gets_nothing,
+        a_password_field_of_a_qt_program_gets_nothing,
         a_common_field_beside_a_password_field_gets_its_paste, plain_text_goes_without_its_style, a_transform_changes_the_words,
         a_moved_file_pastes_from_its_new_place, a_file_in_the_trash_still_pastes,
         a_deleted_file_is_told_and_leaves_the_clipboard_alone, a_file_that_may_not_be_read_is_told_by_its_folder,

@@ -10,6 +10,7 @@ vellumry_test(
     InotifyFolderWatchingTest.cpp
     KeychainKeyStoreTest.cpp
     MountTableTest.cpp
+    PasswordFocusTest.cpp
     PosixFileBookmarksTest.cpp
     PrivateBus.cpp
     PrivateBus.h

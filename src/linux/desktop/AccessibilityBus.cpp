@@ -107,12 +107,12 @@ quint64 AccessibilityBus::states(const Node& node) const {
     return low | high << 32;
 }
 
-quint32 AccessibilityBus::roleOf(const Node& node) const {
+AccessibilityBus::Role AccessibilityBus::roleOf(const Node& node) const {
     const auto answer = call(m_bus.get(), node, accessibleInterface, "GetRole", nullptr, "(u)");
     guint32 role = 0;
     if (answer != nullptr)
         g_variant_get(answer.get(), "(u)", &role);
-    return role;
+    return Role{role};
 }
 
 std::optional<bool> AccessibilityBus::contains(const Node& node, Role role, State state) const {
@@ -120,7 +120,7 @@ std::optional<bool> AccessibilityBus::contains(const Node& node, Role role, Stat
     constexpr gint32 all = 1;
     constexpr gint32 any = 2;
     GVariant* rule = g_variant_new("(@aiia{ss}i@aiiasib)", setOf<2>(static_cast<quint32>(state)), all, nullptr, all,
-                                   setOf<4>(role), any, nullptr, all, FALSE);
+                                   setOf<4>(static_cast<quint32>(role)), any, nullptr, all, FALSE);
     constexpr guint32 inTreeOrder = 1; // AtspiCollectionSortOrder
     constexpr gint32 one = 1;
     GVariant* arguments = g_variant_new("(@(aiia{ss}iaiiasib)uib)", rule, inTreeOrder, one, TRUE);

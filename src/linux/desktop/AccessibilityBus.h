@@ -32,7 +32,7 @@ public:
     /// Bits of `states` (AtspiStateType).
     enum State : int { active = 1, focused = 12, showing = 25 };
     /// Answers of `roleOf` (AtspiRole).
-    enum Role : quint32 { passwordText = 40 };
+    enum class Role : quint32 { passwordText = 40 };
 
     /// Connects where such a bus runs. `cancellable` must outlive this.
     explicit AccessibilityBus(GCancellable* cancellable);
@@ -43,7 +43,7 @@ public:
     [[nodiscard]] std::vector<Node> applicationsOf(qint64 process) const;
     [[nodiscard]] std::vector<Node> children(const Node& node) const;
     [[nodiscard]] quint64 states(const Node& node) const;
-    [[nodiscard]] quint32 roleOf(const Node& node) const;
+    [[nodiscard]] Role roleOf(const Node& node) const;
     /// Whether an object below `node` has the role and the state; nothing when the application cannot be asked that.
     [[nodiscard]] std::optional<bool> contains(const Node& node, Role role, State state) const;
 

@@ -5,12 +5,14 @@
 #include "linux/desktop/CallDeadline.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace vellumry {
 
 namespace {
 
 using Node = AccessibilityBus::Node;
+using Role = AccessibilityBus::Role;
 
 /// Looks at what shows below the window, object by object, as toolkits without the Collection interface want it.
 bool walkFindsPasswordFocus(const AccessibilityBus& bus, const Node& window, const CallDeadline& deadline) {
@@ -19,8 +21,7 @@ bool walkFindsPasswordFocus(const AccessibilityBus& bus, const Node& window, con
         const Node node = std::move(waiting.back());
         waiting.pop_back();
         const quint64 states = bus.states(node);
-        if (AccessibilityBus::has(states, AccessibilityBus::focused) &&
-            bus.roleOf(node) == AccessibilityBus::passwordText)
+        if (AccessibilityBus::has(states, AccessibilityBus::focused) && bus.roleOf(node) == Role::passwordText)
             return true;
         if (!AccessibilityBus::has(states, AccessibilityBus::showing))
             continue;
@@ -44,7 +45,7 @@ bool hasPasswordFocus(qint64 process, std::chrono::milliseconds limit) {
     const AccessibilityBus bus(deadline.cancellable());
     for (const Node& application : bus.applicationsOf(process)) {
         for (const Node& window : typedIn(bus, application)) {
-            const auto answer = bus.contains(window, AccessibilityBus::passwordText, AccessibilityBus::focused);
+            const auto answer = bus.contains(window, Role::passwordText, AccessibilityBus::focused);
             if (answer.has_value() ? *answer : walkFindsPasswordFocus(bus, window, deadline))
                 return true;
         }
