@@ -7,16 +7,16 @@ import os
 import shutil
 import signal
 import subprocess
-import tempfile
 import urllib.parse
 
 from Xlib import X, display
 
-from clients import GtkEditor, fresh_home
-from desktop import (HERE, QUIET, SETTINGS, Process, Vellumry, accessible, active_window, clipboard, copy_bytes, copy_text, focus,
-                     fresh, key, main, open_panel, representation, run, same, text_of, type_text, unsealed, wait_for_clip,
-                     wait_panel_closed, wait_until, window_title, windows)
+from clients import GtkEditor
+from desktop import (QUIET, SETTINGS, Vellumry, accessible, active_window, clipboard, copy_bytes, copy_text, focus,
+                     fresh, key, main, open_panel, representation, same, text_of, unsealed, wait_for_clip,
+                     wait_panel_closed, wait_until, windows)
 from owner import LoggingOwner
+from password_fields import FieldWindow, LockedVault
 
 COPIED = "Copied. Press Ctrl+V to paste"
 SECURE = "This field blocks pasting from apps. Press Ctrl+V"
@@ -26,32 +26,6 @@ BLOCKED = "To paste files from Documents, give Vellumry permission to read that 
 DROP_CAPABILITY = 24
 CAPABILITIES_TO_READ_ANYTHING = (1, 2)
 MESSAGE = "^Vellumry message$"
-
-
-class FieldWindow(Process):
-    """A window with a field for a password and one for a name; one of them has the focus."""
-
-    def __init__(self, focused):
-        super().__init__("/usr/bin/python3", os.path.join(HERE, "password_window.py"), focused)
-        self.window = wait_until(lambda: (windows(f"^{focused}:") or [None])[0], "the window with fields", 30)
-        focus(self.window)
-        role = "password text" if focused == "password" else "text"
-        wait_until(lambda: accessible("password_window", role), "the field on the accessibility bus", 20)
-
-    def content(self):
-        return window_title(self.window).split(":", 1)[1]
-
-
-class LockedVault(Process):
-    """KeePassXC, a Qt program, where it asks for the password of a vault."""
-
-    def __init__(self):
-        vault = os.path.join(tempfile.mkdtemp(prefix="keepass"), "vault.kdbx")
-        run("keepassxc-cli", "db-create", "--set-password", vault, data=b"open\nopen\n", timeout=60)
-        super().__init__("keepassxc", vault, env=fresh_home())
-        self.window = wait_until(lambda: (windows("KeePassXC") or [None])[0], "the password manager", 40)
-        focus(self.window)
-        wait_until(lambda: accessible("keepassxc", "password text"), "the field for the password", 20)
 
 
 def settings(line):
