@@ -2,6 +2,7 @@
 #include "reader/PictureReader.h"
 
 #include "reader/DarkOnWhite.h"
+#include "reader/PageBands.h"
 #include "reader/ReadLines.h"
 
 #include <QDir>
@@ -18,13 +19,22 @@ constexpr double wellRead = 85;
 constexpr double doubtful = 92;
 constexpr double clearGain = 3;
 /// Finding the lines takes as long as there are pixels.
-constexpr double quickEnlargement = 1.6;
+constexpr double quickEnlargement = 1.4;
 constexpr std::size_t samplesOfScript = 3;
 constexpr std::size_t samplesOfLanguage = 5;
 constexpr std::size_t scriptsTried = 12;
 constexpr qsizetype languagesTried = 4;
 constexpr std::size_t enginesKept = 6;
 constexpr qint64 longestImproving = 40'000;
+
+/// Until when, from the beginning of a picture, its text is read. Whoever asks waits 30 s for a fast reading and 150 s
+/// for an accurate one, and gets nothing after that; part of a picture full of small text is better.
+struct Limits {
+    std::chrono::milliseconds firstReading;
+    std::chrono::milliseconds secondReading; ///< in a language that fits better
+};
+constexpr Limits fastLimits{std::chrono::seconds(18), std::chrono::seconds(24)};
+constexpr Limits accurateLimits{std::chrono::seconds(90), std::chrono::seconds(130)};
 
 /// Where the packages of the distributions put the data, the user's choice first.
 QStringList dataFolders() {
@@ -80,13 +90,17 @@ std::optional<QString> PictureReader::read(const QImage& picture, Mode mode) {
     const QImage page = enlarged(clean, size);
 
     QByteArray language = m_scripts.front().languages.front();
-    std::optional<Lines> lines = readPage(page, language);
+    const Limits& limits = mode == Mode::fast ? fastLimits : accurateLimits;
+    std::optional<Lines> lines = readPage(page, language, limits.firstReading);
     if (!lines)
         return std::nullopt;
     const languages::Script& script = chooseScript(page, *lines);
     const QByteArray better = mode == Mode::accurate ? chooseLanguage(page, *lines, script) : script.languages.front();
     if (better != language) {
-        if (std::optional<Lines> again = readPage(page, better)) {
+        std::optional<Lines> again = readPage(page, better, limits.secondReading);
+        // Half a text in the likelier language is worth less than the whole in a related one.
+        const bool isWhole = m_elapsed.elapsed() < limits.secondReading.count();
+        if (again && (isWhole || (!again->empty() && &script != &m_scripts.front()))) {
             lines = std::move(again);
             language = better;
         }
@@ -109,9 +123,28 @@ TextEngine* PictureReader::engine(const QByteArray& language) {
     return &m_engines.emplace(language, std::move(*made)).first->second;
 }
 
-std::optional<PictureReader::Lines> PictureReader::readPage(const QImage& page, const QByteArray& language) {
+std::optional<PictureReader::Lines> PictureReader::readPage(const QImage& page, const QByteArray& language,
+                                                            std::chrono::milliseconds end) {
     TextEngine* reader = engine(language);
-    return reader ? reader->read(page, TextEngine::Layout::page) : std::nullopt;
+    std::optional<Lines> lines;
+    for (const QRect& band : pagebands::of(page)) {
+        const std::chrono::milliseconds left = end - std::chrono::milliseconds(m_elapsed.elapsed());
+        if (!reader || left.count() <= 0)
+            break;
+        // Its pixels stay the page's.
+        const QImage part(page.constScanLine(band.top()), band.width(), band.height(), page.bytesPerLine(),
+                          QImage::Format_Grayscale8);
+        const std::optional<Lines> found = reader->read(part, TextEngine::Layout::page, left);
+        if (!found)
+            return std::nullopt;
+        if (!lines)
+            lines.emplace();
+        for (TextLine line : *found) {
+            line.box.translate(0, band.top());
+            lines->push_back(std::move(line));
+        }
+    }
+    return lines;
 }
 
 TextLine PictureReader::readLine(const QImage& page, const TextLine& line, const QByteArray& language) {
@@ -189,7 +222,8 @@ void PictureReader::rereadDoubtful(const QImage& page, Lines& lines, const QByte
 void PictureReader::readAgainPlain(const QImage& picture, const QSize& size, Lines& lines, const QByteArray& language) {
     if (m_elapsed.elapsed() > longestImproving)
         return;
-    if (const std::optional<Lines> others = readPage(enlarged(plain(picture), size), language))
+    if (const std::optional<Lines> others =
+            readPage(enlarged(plain(picture), size), language, accurateLimits.secondReading))
         readlines::improve(lines, *others);
 }
 

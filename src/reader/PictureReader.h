@@ -6,6 +6,7 @@
 
 #include <QElapsedTimer>
 #include <QImage>
+#include <chrono>
 #include <map>
 #include <memory>
 #include <optional>
@@ -16,8 +17,9 @@ namespace vellumry {
 class PictureReader {
 public:
     enum class Mode {
-        fast,    ///< one pass, in the language that seems to be the picture's: enough to be found by most words
-        accurate ///< several passes, the best reading of each line kept
+        fast, ///< one pass, in the language that seems to be the picture's: enough to be found by most words. At most
+              ///< 24 s and what it takes to find the lines
+        accurate ///< several passes, the best reading of each line kept. At most 130 s, likewise
     };
 
     /// Null when the system has no text recognition or no language for it.
@@ -26,7 +28,8 @@ public:
     /// The folder with the languages' data; it must stay readable.
     [[nodiscard]] const QByteArray& dataFolder() const { return m_data; }
 
-    /// The text, a line feed behind each line; empty when there is none. Nothing when reading failed.
+    /// The text, a line feed behind each line; empty when there is none. Nothing when reading failed. Of a picture with
+    /// so much text that the time does not suffice, what was read until then.
     [[nodiscard]] std::optional<QString> read(const QImage& picture, Mode mode);
 
 private:
@@ -40,7 +43,9 @@ private:
 
     /// Loaded on first use. Null when the data cannot be read.
     [[nodiscard]] TextEngine* engine(const QByteArray& language);
-    [[nodiscard]] std::optional<Lines> readPage(const QImage& page, const QByteArray& language);
+    /// What could be read until `end`, counted from the beginning of the picture; nothing when it is past.
+    [[nodiscard]] std::optional<Lines> readPage(const QImage& page, const QByteArray& language,
+                                                std::chrono::milliseconds end);
     [[nodiscard]] TextLine readLine(const QImage& page, const TextLine& line, const QByteArray& language);
     /// The mean confidence of some lines, read in a language.
     [[nodiscard]] double trial(const QImage& page, const Lines& samples, const QByteArray& language);

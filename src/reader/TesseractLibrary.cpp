@@ -19,6 +19,9 @@ std::unique_ptr<const TesseractLibrary> TesseractLibrary::load() {
     symbols.find(library->setImage, "TessBaseAPISetImage");
     symbols.find(library->setSourceResolution, "TessBaseAPISetSourceResolution");
     symbols.find(library->recognize, "TessBaseAPIRecognize");
+    symbols.find(library->createMonitor, "TessMonitorCreate");
+    symbols.find(library->deleteMonitor, "TessMonitorDelete");
+    symbols.find(library->setDeadline, "TessMonitorSetDeadlineMSecs");
     symbols.find(library->resultIterator, "TessBaseAPIGetIterator");
     symbols.find(library->clear, "TessBaseAPIClear");
     symbols.find(library->deleteResultIterator, "TessResultIteratorDelete");

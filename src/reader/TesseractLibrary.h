@@ -17,6 +17,9 @@ struct TesseractLibrary {
     decltype(&TessBaseAPISetImage) setImage = nullptr;
     decltype(&TessBaseAPISetSourceResolution) setSourceResolution = nullptr;
     decltype(&TessBaseAPIRecognize) recognize = nullptr;
+    decltype(&TessMonitorCreate) createMonitor = nullptr;
+    decltype(&TessMonitorDelete) deleteMonitor = nullptr;
+    decltype(&TessMonitorSetDeadlineMSecs) setDeadline = nullptr;
     decltype(&TessBaseAPIGetIterator) resultIterator = nullptr;
     decltype(&TessBaseAPIClear) clear = nullptr;
     decltype(&TessResultIteratorDelete) deleteResultIterator = nullptr;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reader/TextEngine.h"
 
+#include <QElapsedTimer>
+#include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace vellumry {
@@ -34,17 +37,30 @@ std::optional<TextEngine> TextEngine::create(const TesseractLibrary& library, co
     return TextEngine(library, std::move(handle));
 }
 
-std::optional<std::vector<TextLine>> TextEngine::read(const QImage& picture, Layout layout) {
+std::optional<std::vector<TextLine>> TextEngine::read(const QImage& picture, Layout layout,
+                                                      std::optional<std::chrono::milliseconds> limit) {
     TessBaseAPI* handle = m_handle.get();
     m_library->setPageSegMode(handle, modeOf(layout));
     m_library->setImage(handle, picture.constBits(), picture.width(), picture.height(), 1,
                         static_cast<int>(picture.bytesPerLine()));
     m_library->setSourceResolution(handle, dotsPerInch);
     std::optional<std::vector<TextLine>> found;
-    if (m_library->recognize(handle, nullptr) == 0)
+    if (recognise(limit))
         found = lines();
     m_library->clear(handle);
     return found;
+}
+
+bool TextEngine::recognise(std::optional<std::chrono::milliseconds> limit) {
+    if (!limit)
+        return m_library->recognize(m_handle.get(), nullptr) == 0;
+    QElapsedTimer elapsed;
+    elapsed.start();
+    const std::unique_ptr<ETEXT_DESC, decltype(m_library->deleteMonitor)> monitor(m_library->createMonitor(),
+                                                                                  m_library->deleteMonitor);
+    m_library->setDeadline(monitor.get(), static_cast<int>(std::max<qint64>(1, limit->count())));
+    // The library calls it a failure when it stops; the lines that it did not come to are empty then.
+    return m_library->recognize(m_handle.get(), monitor.get()) == 0 || elapsed.elapsed() >= limit->count();
 }
 
 std::vector<TextLine> TextEngine::lines() const {

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QRect>
 #include <QString>
+#include <chrono>
 #include <optional>
 #include <vector>
 
@@ -31,8 +32,11 @@ public:
     [[nodiscard]] static std::optional<TextEngine> create(const TesseractLibrary& library, const QByteArray& data,
                                                           const QByteArray& languages);
 
-    /// `picture` has the format Grayscale8. Nothing when reading failed; no lines when there is no text.
-    [[nodiscard]] std::optional<std::vector<TextLine>> read(const QImage& picture, Layout layout);
+    /// `picture` has the format Grayscale8. Nothing when reading failed; no lines when there is no text. After `limit`
+    /// no further line is begun, and what has been read is the result; finding the lines, which comes first, cannot be
+    /// cut short.
+    [[nodiscard]] std::optional<std::vector<TextLine>> read(const QImage& picture, Layout layout,
+                                                            std::optional<std::chrono::milliseconds> limit = {});
 
 private:
     struct Deleter {
@@ -44,6 +48,8 @@ private:
     TextEngine(const TesseractLibrary& library, Handle handle)
         : m_library(&library)
         , m_handle(std::move(handle)) {}
+    /// False when reading failed.
+    [[nodiscard]] bool recognise(std::optional<std::chrono::milliseconds> limit);
     [[nodiscard]] std::vector<TextLine> lines() const;
 
     const TesseractLibrary* m_library;
