@@ -91,6 +91,28 @@ TEST(ImageSummariser, APictureBeyondTheAreaIsMeasuredNotDecoded) {
     EXPECT_EQ(reply.thumbnail, std::nullopt);
 }
 
+TEST(ImageSummariser, ARealPictureBeyondTheAreaIsRefusedAndOneWithinIsDecoded) {
+    for (const int side : {15'000, 20'000}) {
+        QImage plain(side, side, QImage::Format_Mono);
+        plain.fill(1);
+        const auto reply = summarise(encode(plain, "PNG"));
+        EXPECT_EQ(reply.pixelSize, QSize(side, side));
+        EXPECT_EQ(reply.thumbnail.has_value(), side == 15'000) << side;
+    }
+}
+
+TEST(ImageSummariser, BytesOfOneFormatUnderTheBeginningOfAnotherGiveNoThumbnail) {
+    const QByteArray jpeg = encode(twoColours(64, 64), "JPEG");
+    EXPECT_EQ(summarise(QByteArray("\x89PNG\r\n\x1a\n", 8) + jpeg).thumbnail, std::nullopt);
+    EXPECT_EQ(summarise("RIFF" + jpeg).thumbnail, std::nullopt);
+    EXPECT_EQ(summarise(QByteArray("\0\0\0\x18"
+                                   "ftypheic\0\0\0\0mif1heic",
+                                   24) +
+                        jpeg)
+                  .thumbnail,
+              std::nullopt);
+}
+
 TEST(ImageSummariser, APromiseWithoutPixelsGivesNoThumbnail) {
     const auto reply = summarise(pngHeader(15'000, 15'000));
     EXPECT_EQ(reply.pixelSize, QSize(15'000, 15'000));
