@@ -49,13 +49,16 @@ bool addDisplay(Platform& platform) {
     X11PasteKeys::Options pasteKeys;
     pasteKeys.wasServed = [board = pasteboard.get()] { return board->wasServed(); };
     pasteKeys.offerAsPrimary = [board = pasteboard.get()] { (void)board->offerAsPrimary(); };
+    pasteKeys.wasListed = [board = pasteboard.get()] { return board->wasListed(); };
     pasteKeys.injected = injected;
-    platform.pasteKeys = std::make_unique<X11PasteKeys>(std::move(pasteKeys));
     platform.pasteboard = std::move(pasteboard);
     platform.frontmost = std::make_unique<X11FrontmostApplication>(connection, std::make_shared<DesktopEntries>());
     platform.hotKeys = std::make_unique<X11HotKeys>(connection);
     platform.keyboard = std::make_unique<X11KeyboardLayout>(connection);
-    platform.pasteTarget = std::make_unique<X11PasteTarget>(connection, focus, std::move(options));
+    auto target = std::make_unique<X11PasteTarget>(connection, focus, std::move(options));
+    pasteKeys.looksFirst = [front = target.get()] { return front->looksFirst(); };
+    platform.pasteTarget = std::move(target);
+    platform.pasteKeys = std::make_unique<X11PasteKeys>(std::move(pasteKeys));
     platform.panelSurface = std::make_unique<X11PanelSurface>(connection, focus);
     return true;
 }

@@ -81,7 +81,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(UniformType, TextIsOfferedBestFirst) {
     EXPECT_EQ(uniformtype::targetsFor(uniformtype::utf8PlainText),
               (QStringList{text(u"UTF8_STRING"), text(u"text/plain;charset=utf-8"), text(u"text/plain"),
-                           text(u"STRING"), text(u"TEXT")}));
+                           text(u"STRING"), text(u"TEXT"), text(u"COMPOUND_TEXT")}));
 }
 
 TEST(UniformType, UnknownTypesAreOfferedUnderTheirOwnName) {

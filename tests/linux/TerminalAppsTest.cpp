@@ -23,4 +23,9 @@ TEST(TerminalApps, TheUserAddsAndTakesAway) {
     EXPECT_FALSE(TerminalApps::contains({QStringLiteral("Editor")}, {QString(), QStringLiteral("!")}));
 }
 
+TEST(TerminalApps, SomeLookBeforeTheyPaste) {
+    EXPECT_TRUE(TerminalApps::looksFirst({QStringLiteral("Gnome-terminal"), QStringLiteral("gnome-terminal-server")}));
+    EXPECT_FALSE(TerminalApps::looksFirst({QStringLiteral("XTerm"), QStringLiteral("xterm")}));
+}
+
 } // namespace vellumry

@@ -181,6 +181,27 @@ TEST_F(X11PasteKeysTest, AProgramThatDoesNotWantThePasteHoldsNothingUpForLong) {
     letGo();
 }
 
+TEST_F(X11PasteKeysTest, AProgramThatLooksFirstGetsItsKeyAfterItsLook) {
+    std::atomic<bool> wasListed = false;
+    X11PasteKeys::Options looking = options();
+    looking.wasListed = [&wasListed] { return wasListed.load(); };
+    looking.looksFirst = [] { return true; };
+    looking.holdLimit = 10s;
+    X11PasteKeys polite(looking);
+    polite.onPress = [this](const KeyPress& press, std::shared_ptr<HeldKey> key) { presses.push_back({press, key}); };
+    ASSERT_TRUE(polite.start());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    ASSERT_TRUE(isTold(1));
+    letGo();
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_TRUE(waitUntil([&] { return timer.elapsed() > 60; }));
+    collect();
+    EXPECT_TRUE(typed.empty());
+    wasListed = true;
+    EXPECT_TRUE(arrives({{symbolV, control}}));
+}
+
 TEST(InjectedPresses, AreOursOnceAndForAWhile) {
     InjectedPresses presses;
     const auto now = std::chrono::steady_clock::now();

@@ -105,6 +105,7 @@ void PasteboardEngine::settleClaim(const Claim& claim, xcb_timestamp_t time) {
     }
     // The change count of this ownership is known when the server's notice of it is read.
     m_wasServed.store(false, std::memory_order_release);
+    m_wasListed.store(false, std::memory_order_release);
     finishClaim(std::nullopt);
     m_unconfirmed = claim;
     m_unconfirmedTime = time;
@@ -234,6 +235,8 @@ void PasteboardEngine::handleEvent(const xcb_generic_event_t& event, Instant now
         // Whoever takes the primary selection takes the same thing, as long as it was offered there too.
         if (m_owner.handleRequest(request, now) && m_owner.contents(request.selection) == m_owner.contents(m_clipboard))
             m_wasServed.store(true, std::memory_order_release);
+        if (request.selection == m_clipboard && m_owner.contents(m_clipboard) != nullptr)
+            m_wasListed.store(true, std::memory_order_release);
         break;
     }
     case XCB_SELECTION_CLEAR: {

@@ -48,6 +48,8 @@ public:
     [[nodiscard]] qint64 changeCount() const { return m_changeCount.load(std::memory_order_acquire); }
     /// True once somebody took content of what we hold on the clipboard. Any thread.
     [[nodiscard]] bool wasServed() const { return m_wasServed.load(std::memory_order_acquire); }
+    /// True once somebody asked for anything of it, be it the list of its types. Any thread.
+    [[nodiscard]] bool wasListed() const { return m_wasListed.load(std::memory_order_acquire); }
 
     /// Begins to follow the selections. Waits for the server a few times; on any one thread, before the engine is used.
     void start();
@@ -91,6 +93,7 @@ private:
     SelectionOwner m_owner;
     std::atomic<qint64> m_changeCount{1};
     std::atomic<bool> m_wasServed{false};
+    std::atomic<bool> m_wasListed{false};
     bool m_ended = false;
 
     xcb_atom_t m_clipboard = XCB_ATOM_NONE;

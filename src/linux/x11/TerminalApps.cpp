@@ -2,6 +2,7 @@
 #include "linux/x11/TerminalApps.h"
 
 #include <QSet>
+#include <algorithm>
 
 namespace vellumry::TerminalApps {
 
@@ -93,6 +94,13 @@ bool contains(const QStringList& names, const QStringList& userNames) {
         }
     }
     return isTerminal;
+}
+
+bool looksFirst(const QStringList& names) {
+    return std::any_of(names.begin(), names.end(), [](const QString& name) {
+        const QString lower = name.toLower();
+        return lower == u"gnome-terminal" || lower == u"gnome-terminal-server";
+    });
 }
 
 } // namespace vellumry::TerminalApps

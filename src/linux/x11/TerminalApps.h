@@ -13,4 +13,8 @@ namespace vellumry::TerminalApps {
 /// nor does what stands before the last dot of a name.
 [[nodiscard]] bool contains(const QStringList& names, const QStringList& userNames);
 
+/// True for those that take no notice of a paste key while they do not know yet whether what is new on the clipboard is
+/// text.
+[[nodiscard]] bool looksFirst(const QStringList& names);
+
 } // namespace vellumry::TerminalApps

@@ -39,7 +39,8 @@ X11PasteKeyGrab::X11PasteKeyGrab(Options options)
     : m_options(std::move(options))
     , m_grabAgain(this)
     , m_watchdog(this)
-    , m_servedLook(this) {
+    , m_servedLook(this)
+    , m_listedLook(this) {
     m_grabAgain.setSingleShot(true);
     m_grabAgain.setInterval(grabAgainDelay);
     connect(&m_grabAgain, &QTimer::timeout, this, &X11PasteKeyGrab::grabAgain);
@@ -49,6 +50,9 @@ X11PasteKeyGrab::X11PasteKeyGrab(Options options)
     m_servedLook.setTimerType(Qt::PreciseTimer);
     m_servedLook.setInterval(servedLookInterval);
     connect(&m_servedLook, &QTimer::timeout, this, &X11PasteKeyGrab::tellWhenServed);
+    m_listedLook.setTimerType(Qt::PreciseTimer);
+    m_listedLook.setInterval(servedLookInterval);
+    connect(&m_listedLook, &QTimer::timeout, this, &X11PasteKeyGrab::replayWhenListed);
 }
 
 X11PasteKeyGrab::~X11PasteKeyGrab() {
@@ -221,18 +225,29 @@ void X11PasteKeyGrab::tellWhenServed() {
     m_options.onHeld(*m_held);
 }
 
-void X11PasteKeyGrab::letGo(quint64 serial, HeldKey::Contents contents) {
+void X11PasteKeyGrab::letGo(quint64 serial, HeldKey::Contents contents, bool looksFirst) {
     if (!m_held || m_held->serial != serial)
         return;
     m_lastPaste.reset();
     if (contents == HeldKey::Contents::fresh)
         m_lastPaste = std::chrono::steady_clock::now();
-    replay();
+    if (looksFirst && m_options.wasListed)
+        replayWhenListed();
+    else
+        replay();
+}
+
+void X11PasteKeyGrab::replayWhenListed() {
+    if (m_options.wasListed())
+        replay();
+    else
+        m_listedLook.start();
 }
 
 void X11PasteKeyGrab::replay() {
     m_watchdog.stop();
     m_servedLook.stop();
+    m_listedLook.stop();
     if (!m_held)
         return;
     m_held->isHeld->store(false);

@@ -35,6 +35,8 @@ public:
         QByteArray displayName;
         /// The program in front has fetched what was last written. Any thread.
         std::function<bool()> wasServed;
+        /// Some program has asked for the types of what was last written. Any thread.
+        std::function<bool()> wasListed;
         std::shared_ptr<InjectedPresses> injected;
         /// A press waits. This thread.
         std::function<void(const Held&)> onHeld;
@@ -51,7 +53,8 @@ public:
     /// False when there is no such display, it lacks the extension, or another program has Ctrl+V.
     [[nodiscard]] bool start();
     /// Nothing for a press that has gone.
-    void letGo(quint64 serial, HeldKey::Contents contents);
+    /// With `looksFirst` it goes once the types of what was written have been asked for, or with the limit.
+    void letGo(quint64 serial, HeldKey::Contents contents, bool looksFirst);
 
 private:
     using Instant = std::chrono::steady_clock::time_point;
@@ -70,6 +73,7 @@ private:
     [[nodiscard]] bool isOwn(int device) const;
     [[nodiscard]] Held heldFor(quint32 keycode, unsigned int modifiers, unsigned int group) const;
     void tellWhenServed();
+    void replayWhenListed();
     void replay();
 
     Options m_options;
@@ -87,6 +91,7 @@ private:
     quint64 m_lastSerial = 0;
     QTimer m_watchdog;
     QTimer m_servedLook;
+    QTimer m_listedLook;
     std::optional<Instant> m_lastPaste;
 };
 

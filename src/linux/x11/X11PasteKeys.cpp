@@ -56,6 +56,7 @@ X11PasteKeyGrab::Options X11PasteKeys::grabOptions() const {
     X11PasteKeyGrab::Options options;
     options.displayName = m_options.displayName;
     options.wasServed = m_options.wasServed;
+    options.wasListed = m_options.wasListed;
     options.injected = m_options.injected;
     options.holdLimit = m_options.holdLimit;
     options.servedLimit = m_options.servedLimit;
@@ -113,8 +114,10 @@ void X11PasteKeys::letGo(const X11PasteKeyGrab::Held& held, HeldKey::Contents co
         return;
     if (contents == HeldKey::Contents::fresh && held.pastesPrimary && m_options.offerAsPrimary)
         m_options.offerAsPrimary();
+    const bool looksFirst = contents == HeldKey::Contents::fresh && m_options.looksFirst && m_options.looksFirst();
     QMetaObject::invokeMethod(
-        m_grab, [grab = m_grab, serial = held.serial, contents] { grab->letGo(serial, contents); },
+        m_grab,
+        [grab = m_grab, serial = held.serial, contents, looksFirst] { grab->letGo(serial, contents, looksFirst); },
         Qt::QueuedConnection);
 }
 

@@ -21,6 +21,10 @@ public:
         QByteArray displayName;
         /// The program in front has fetched what was last written. Any thread.
         std::function<bool()> wasServed;
+        /// Some program has asked for the types of what was last written. Any thread.
+        std::function<bool()> wasListed;
+        /// The program in front knows no paste before it has read the types of what is new. Main thread.
+        std::function<bool()> looksFirst;
         /// Offers what was last written as the primary selection too, which terminals paste on Shift+Insert.
         std::function<void()> offerAsPrimary;
         /// Where those who press paste keys for the program announce it.

@@ -120,10 +120,18 @@ XWindow X11PasteTarget::windowInFront() const {
     return client != 0 ? client : XWindowProperties::activeWindow(*m_connection);
 }
 
-bool X11PasteTarget::isTerminalInFront() const {
+QStringList X11PasteTarget::namesInFront() const {
     const auto windowClass = XWindowProperties::windowClass(*m_connection, windowInFront());
+    return {windowClass.name, windowClass.instance};
+}
+
+bool X11PasteTarget::isTerminalInFront() const {
     const QStringList userNames = m_options.terminalApps ? m_options.terminalApps() : QStringList();
-    return TerminalApps::contains({windowClass.name, windowClass.instance}, userNames);
+    return TerminalApps::contains(namesInFront(), userNames);
+}
+
+bool X11PasteTarget::looksFirst() const {
+    return TerminalApps::looksFirst(namesInFront());
 }
 
 // Every key, not only the modifiers: a key that is down cannot be pressed once more. The user's own release later goes

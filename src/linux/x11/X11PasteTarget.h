@@ -35,11 +35,14 @@ public:
     [[nodiscard]] QCoro::Task<bool> isSecureInput() override;
     [[nodiscard]] QCoro::Task<bool> regainFocus() override;
     void pressPaste() override;
+    /// The program in front takes no notice of a paste key before it has looked at what is new on the clipboard.
+    [[nodiscard]] bool looksFirst() const;
 
 private:
     [[nodiscard]] bool isKeyboardTaken() const;
     [[nodiscard]] XWindow windowInFront() const;
     [[nodiscard]] bool isTerminalInFront() const;
+    [[nodiscard]] QStringList namesInFront() const;
     void releaseHeldKeys();
     void pressChord(const std::vector<quint32>& keycodes);
 

@@ -63,6 +63,10 @@ bool X11Pasteboard::wasServed() const {
     return m_thread->engine().wasServed();
 }
 
+bool X11Pasteboard::wasListed() const {
+    return m_thread->engine().wasListed();
+}
+
 QCoro::Task<void> X11Pasteboard::catchUp() {
     const PendingResult<bool> result;
     m_thread->post([result](PasteboardEngine& engine, auto) { engine.catchUp(result); });

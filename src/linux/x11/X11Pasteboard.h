@@ -41,6 +41,8 @@ public:
     bool offerAsPrimary();
     /// True once another program took content, not just the list of types, of what was last written. Any thread.
     [[nodiscard]] bool wasServed() const;
+    /// True once another program asked for anything of it, be it the list of types. Any thread.
+    [[nodiscard]] bool wasListed() const;
 
 private:
     struct Link;
