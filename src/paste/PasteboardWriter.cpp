@@ -36,6 +36,14 @@ void addMarker(PasteboardItem& item) {
     item.order->append(uniformtype::ownMarker);
 }
 
+std::vector<PasteboardItem> makePasteboardItems(const std::vector<PasteboardItem>& items) {
+    std::vector<PasteboardItem> made;
+    made.reserve(items.size());
+    for (const auto& item : items)
+        made.push_back(PasteboardWriter::makePasteboardItem(item, qsizetype(made.size())));
+    return made;
+}
+
 } // namespace
 
 PasteboardItem PasteboardWriter::makePasteboardItem(const PasteboardItem& item, qsizetype index) {
@@ -63,11 +71,11 @@ bool PasteboardWriter::write(const std::vector<PasteboardItem>& items, bool asPl
         const auto text = plainText(items);
         return text && writeText(*text, pasteboard);
     }
-    std::vector<PasteboardItem> written;
-    written.reserve(items.size());
-    for (const auto& item : items)
-        written.push_back(makePasteboardItem(item, qsizetype(written.size())));
-    return pasteboard.write(std::move(written));
+    return pasteboard.write(makePasteboardItems(items));
+}
+
+bool PasteboardWriter::takeOver(const std::vector<PasteboardItem>& items, Pasteboard& pasteboard) {
+    return pasteboard.takeOver(makePasteboardItems(items));
 }
 
 bool PasteboardWriter::writeText(const QString& text, Pasteboard& pasteboard) {

@@ -19,6 +19,9 @@ public:
     /// for the items; without any, false, and the pasteboard keeps what it held.
     [[nodiscard]] static bool write(const std::vector<PasteboardItem>& items, bool asPlainText, Pasteboard& pasteboard);
 
+    /// As `write`, but false where another program has copied since the last owner of the pasteboard went.
+    [[nodiscard]] static bool takeOver(const std::vector<PasteboardItem>& items, Pasteboard& pasteboard);
+
     [[nodiscard]] static bool writeText(const QString& text, Pasteboard& pasteboard);
 
     /// The item as it goes out from position `index` of its clip: a file URL first, the marker on position 0 only.

@@ -49,6 +49,9 @@ public:
     /// Replaces the contents with `items`. True when the pasteboard is ours with them; false when it refused, and then
     /// the contents are empty or another owner's.
     virtual bool write(std::vector<PasteboardItem> items) = 0;
+    /// As `write`, but only as long as nobody has owned the pasteboard since its owner went: a copy that another
+    /// program makes meanwhile stands, and this is false.
+    virtual bool takeOver(std::vector<PasteboardItem> items) = 0;
 
     /// Called after the change count moved, on the main thread; several changes may come as one call.
     std::function<void()> onChanged;

@@ -184,7 +184,7 @@ QCoro::Task<void> AppEnvironment::takeOver(QUuid clip) {
     auto loading = m_store->payload(clip);
     const std::optional<ClipPayload> payload = co_await loading;
     if (self && payload && m_platform->pasteboard->changeCount() == changeCount)
-        (void)PasteboardWriter::write(payload->items, false, *m_platform->pasteboard);
+        (void)PasteboardWriter::takeOver(payload->items, *m_platform->pasteboard);
 }
 
 void AppEnvironment::start() {

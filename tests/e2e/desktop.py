@@ -158,10 +158,25 @@ def text_of(row):
 # --- the X clipboard, through a foreign tool
 
 
+def owner_of(selection):
+    """The window that owns a selection, 0 when none does; asks the X server only."""
+    from Xlib import display
+
+    server = display.Display()
+    try:
+        owner = server.get_selection_owner(server.intern_atom(selection.upper()))
+        return getattr(owner, "id", 0)
+    finally:
+        server.close()
+
+
 def copy_text(text, selection="clipboard"):
+    """xclip goes into the background before the server has heard of it."""
+    before = owner_of(selection)
     tool = subprocess.Popen(["xclip", "-selection", selection, "-in"], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
                             stderr=subprocess.DEVNULL)
     tool.communicate(text.encode("utf-8"), timeout=10)
+    wait_until(lambda: owner_of(selection) not in (0, before), "xclip to own the selection")
 
 
 def copy_bytes(data, target):

@@ -131,18 +131,18 @@ TEST_F(X11PanelSurfaceTest, AClickBesideThePanelIsToldAndOneOnItIsNot) {
 TEST_F(X11PanelSurfaceTest, AClickInTheMarginReachesWhatLiesBelow) {
     surface.setInputArea(&panel, QRect(40, 40, 320, 120));
     show();
-    client.movePointer(frame.left() + 20, frame.center().y());
-    EXPECT_TRUE(waitUntil([&] { return client.windowUnderPointer() != panel.winId(); }));
-    client.click(1);
-    EXPECT_TRUE(waitUntil([&] { return !lost.empty(); }));
-    EXPECT_EQ(panel.clicks, 0);
-
-    lost.clear();
     client.movePointer(frame.left() + 60, frame.center().y());
     EXPECT_TRUE(waitUntil([&] { return client.windowUnderPointer() == panel.winId(); }));
     client.click(1);
     EXPECT_TRUE(waitUntil([&] { return panel.clicks == 1; }));
     EXPECT_TRUE(lost.empty());
+
+    // The window below may come to the top by this.
+    client.movePointer(frame.left() + 20, frame.center().y());
+    EXPECT_TRUE(waitUntil([&] { return client.windowUnderPointer() != panel.winId(); }));
+    client.click(1);
+    EXPECT_TRUE(waitUntil([&] { return !lost.empty(); }));
+    EXPECT_EQ(panel.clicks, 1);
 }
 
 TEST_F(X11PanelSurfaceTest, ATargetThatIsGoneIsSurvived) {

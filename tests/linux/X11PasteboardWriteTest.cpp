@@ -257,11 +257,32 @@ TEST_F(X11PasteboardWrite, APresentClipboardManagerIsLeftInPlace) {
 }
 
 TEST_F(X11PasteboardWrite, ThePlaceOfAnOwnerThatEndedCanBeTaken) {
-    pasteboard->onOwnerGone = [this](qint64) { EXPECT_TRUE(write({{uniformtype::utf8PlainText, "kept"}})); };
+    pasteboard->onOwnerGone = [this](qint64) {
+        EXPECT_TRUE(pasteboard->takeOver({PasteboardItem{{{uniformtype::utf8PlainText, "kept"}}, {}}}));
+    };
     copied({{"UTF8_STRING", "kept"}}).leave();
     HostileOwner& requestor = peer();
     ASSERT_TRUE(waitUntil([&] { return requestor.hasOwner("CLIPBOARD"); }));
     EXPECT_EQ(ask(requestor, "UTF8_STRING").bytes, "kept");
+}
+
+TEST_F(X11PasteboardWrite, ACopyMadeMeanwhileIsNotTakenOver) {
+    HostileOwner& faster = peer();
+    std::optional<bool> tookOver;
+    pasteboard->onOwnerGone = [&](qint64) {
+        EXPECT_TRUE(faster.own("CLIPBOARD", {{"UTF8_STRING", "new"}}));
+        tookOver = pasteboard->takeOver({PasteboardItem{{{uniformtype::utf8PlainText, "old"}}, {}}});
+    };
+    copied({{"UTF8_STRING", "old"}}).leave();
+    ASSERT_TRUE(waitUntil([&] { return tookOver.has_value(); }));
+    EXPECT_FALSE(*tookOver);
+    EXPECT_TRUE(faster.owns("CLIPBOARD"));
+}
+
+TEST_F(X11PasteboardWrite, NothingIsTakenOverWhileSomebodyOwnsIt) {
+    HostileOwner& owner = copied({{"UTF8_STRING", "theirs"}});
+    EXPECT_FALSE(pasteboard->takeOver({PasteboardItem{{{uniformtype::utf8PlainText, "ours"}}, {}}}));
+    EXPECT_TRUE(owner.owns("CLIPBOARD"));
 }
 
 TEST(X11Pasteboard, ThereIsNoneWithoutADisplay) {

@@ -86,6 +86,7 @@ public:
         replace(refusesWrites ? std::vector<PasteboardItem>{} : std::move(items), {}, !refusesWrites);
         return !refusesWrites;
     }
+    bool takeOver(std::vector<PasteboardItem> items) override { return m_items.empty() && write(std::move(items)); }
     [[nodiscard]] bool notifiesChanges() const override { return notifies; }
 
 private:

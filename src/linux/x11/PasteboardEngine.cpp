@@ -74,6 +74,15 @@ void PasteboardEngine::claim(Claim claim) {
         claim.result.deliver(std::nullopt);
         return;
     }
+    if (claim.isTakeover) {
+        // At the time when it was left: the server then refuses if another program was faster, whether or not we have
+        // heard of that yet.
+        if (m_goneSince && !claim.isWithdrawn->load() && m_connection->selectionOwner(m_clipboard) == XCB_NONE)
+            settleClaim(claim, *m_goneSince);
+        else
+            claim.result.deliver(std::nullopt);
+        return;
+    }
     askForServerTime([this, claim = std::move(claim)](std::optional<xcb_timestamp_t> time) {
         if (time && !claim.isWithdrawn->load())
             settleClaim(claim, *time);
@@ -274,6 +283,7 @@ void PasteboardEngine::handleClipboardChange(const xcb_xfixes_selection_notify_e
     const qint64 held = changeCount();
     m_currentOwner = event.owner;
     m_ownedSince = event.selection_timestamp;
+    m_goneSince.reset();
     m_changeCount.store(held + 1, std::memory_order_release);
     m_reader.endAll(m_clipboard, now);
 
@@ -282,8 +292,10 @@ void PasteboardEngine::handleClipboardChange(const xcb_xfixes_selection_notify_e
     m_notices.changed();
     // An owner that cleared the clipboard on purpose, as password managers do, has not gone: subtype 0.
     const bool hasGone = event.owner == XCB_NONE && event.subtype != XCB_XFIXES_SELECTION_EVENT_SET_SELECTION_OWNER;
-    if (hasGone && !wasOurs)
+    if (hasGone && !wasOurs) {
+        m_goneSince = event.timestamp;
         m_notices.ownerGone(held, held + 1);
+    }
 }
 
 void PasteboardEngine::expire(Instant now) {

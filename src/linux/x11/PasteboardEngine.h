@@ -35,7 +35,8 @@ public:
     /// A wish to own selections. `isWithdrawn` may be set from any thread as long as the result is out.
     struct Claim {
         std::shared_ptr<const OfferedContents> contents;
-        bool isPrimary = false; ///< the primary selection instead of the clipboard
+        bool isPrimary = false;  ///< the primary selection instead of the clipboard
+        bool isTakeover = false; ///< only if nobody has owned the clipboard since its owner went
         std::shared_ptr<std::atomic<bool>> isWithdrawn = std::make_shared<std::atomic<bool>>(false);
         /// The change count of our ownership; nothing when it did not become ours.
         PendingResult<std::optional<qint64>> result;
@@ -101,6 +102,8 @@ private:
     xcb_atom_t m_timeProperty = XCB_ATOM_NONE;
     xcb_window_t m_currentOwner = XCB_NONE;
     xcb_timestamp_t m_ownedSince = XCB_CURRENT_TIME;
+    /// When the last owner went, while nobody has come after it.
+    std::optional<xcb_timestamp_t> m_goneSince;
     std::deque<TimeWaiter> m_timeWaiters;
     std::optional<Claim> m_unconfirmed; ///< set, the server's notice outstanding
     xcb_timestamp_t m_unconfirmedTime = XCB_CURRENT_TIME;

@@ -93,6 +93,17 @@ QCoro::Task<std::shared_ptr<PasteboardReading>> X11Pasteboard::beginReading() {
 bool X11Pasteboard::write(std::vector<PasteboardItem> items) {
     PasteboardEngine::Claim claim;
     claim.contents = OfferedContents::of(std::move(items));
+    return own(std::move(claim));
+}
+
+bool X11Pasteboard::takeOver(std::vector<PasteboardItem> items) {
+    PasteboardEngine::Claim claim;
+    claim.contents = OfferedContents::of(std::move(items));
+    claim.isTakeover = true;
+    return own(std::move(claim));
+}
+
+bool X11Pasteboard::own(PasteboardEngine::Claim claim) {
     m_ownContents.reset();
     m_thread->post([claim](PasteboardEngine& engine, auto) { engine.claim(claim); });
     const std::optional<std::optional<qint64>> count = claim.result.waitFor(m_limits.ownership);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "linux/x11/PasteboardEngine.h"
 #include "linux/x11/PasteboardLimits.h"
 #include "platform/Pasteboard.h"
 
@@ -33,6 +34,7 @@ public:
     [[nodiscard]] QCoro::Task<std::shared_ptr<PasteboardReading>> beginReading() override;
     /// Waits for the X server's word, a fraction of a millisecond as a rule and 250 ms at most.
     bool write(std::vector<PasteboardItem> items) override;
+    bool takeOver(std::vector<PasteboardItem> items) override;
     [[nodiscard]] bool notifiesChanges() const override { return true; }
 
     /// Offers what was last written on the primary selection too, for programs that paste from there. False when
@@ -48,6 +50,8 @@ private:
     struct Link;
 
     explicit X11Pasteboard(const PasteboardLimits& limits);
+
+    [[nodiscard]] bool own(PasteboardEngine::Claim claim);
     void announceChange();
     void announceOwnerGone(qint64 held, qint64 since);
 
