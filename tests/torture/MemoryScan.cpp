@@ -16,19 +16,22 @@ namespace vellumry {
 namespace {
 
 constexpr std::size_t windowSize = std::size_t{1} << 20;
+constexpr std::size_t guardSize = std::size_t{1} << 16;
 
-/// A page-wise window onto memory that is not part of what is searched, and is empty afterwards.
+/// A page-wise window onto memory that is not part of what is searched, and is empty afterwards. It lies between pages
+/// that nobody may touch: the kernel would join it with its neighbours, and they would go unsearched with it.
 class Window {
 public:
     Window()
-        : m_bytes(static_cast<unsigned char*>(
-              mmap(nullptr, windowSize, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0)))
+        : m_reserved(static_cast<unsigned char*>(
+              mmap(nullptr, windowSize + 2 * guardSize, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0)))
+        , m_bytes(m_reserved + guardSize)
         , m_memory(open("/proc/self/mem", O_RDONLY | O_CLOEXEC)) {
-        if (m_bytes == MAP_FAILED || m_memory < 0)
+        if (m_reserved == MAP_FAILED || mprotect(m_bytes, windowSize, PROT_READ | PROT_WRITE) != 0 || m_memory < 0)
             throw std::runtime_error("This process cannot look at its own memory.");
     }
     ~Window() {
-        munmap(m_bytes, windowSize);
+        munmap(m_reserved, windowSize + 2 * guardSize);
         close(m_memory);
     }
     Window(const Window&) = delete;
@@ -45,6 +48,7 @@ public:
     }
 
 private:
+    unsigned char* m_reserved;
     unsigned char* m_bytes;
     int m_memory;
 };
