@@ -20,7 +20,7 @@ from Xlib import X, Xatom, display  # noqa: E402
 from Xlib.ext import xtest  # noqa: E402
 from Xlib.protocol import event  # noqa: E402
 
-from desktop import HISTORY, QUIET, Process, Vellumry, focused_window, key, wait_until, window_of_class, windows  # noqa: E402
+from desktop import HISTORY, QUIET, SETTINGS, Process, Vellumry, focused_window, key, wait_until, window_of_class, windows  # noqa: E402
 
 CLIPS = int(os.environ.get("VELLUMRY_BENCH_CLIPS", "5000"))
 COPIES = int(os.environ.get("VELLUMRY_BENCH_COPIES", "500"))
@@ -152,6 +152,9 @@ class Ours:
     name = "Vellumry"
 
     def start(self):
+        os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
+        with open(SETTINGS, "w", encoding="utf-8") as file:
+            file.write("[General]\nkeepAtMost=10000\n")
         self.process = Vellumry(ready=False)
         return self.process
 
