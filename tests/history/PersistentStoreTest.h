@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "history/DatabaseTest.h"
 #include "support/Drafts.h"
-#include "support/TemporaryHistory.h"
-
-#include <QFile>
-#include <gtest/gtest.h>
 
 namespace vellumry {
 
 /// A store over a history file.
-class PersistentStoreTest : public testing::Test {
+class PersistentStoreTest : public DatabaseTest {
 protected:
     void SetUp() override { m_store = m_history.openStore(); }
     void reopen() {
@@ -18,7 +15,6 @@ protected:
         m_store = m_history.openStore();
     }
     ClipRef add(const ClipDraft& draft, Date now) { return awaited(m_store->add(draft, now)); }
-    void execute(const char* sql) const { m_history.connect().execute(sql); }
     void refuseWrites() const {
         execute("CREATE TRIGGER no_insert BEFORE INSERT ON clips BEGIN SELECT RAISE(ABORT, 'no'); END;"
                 "CREATE TRIGGER no_update BEFORE UPDATE ON clips BEGIN SELECT RAISE(ABORT, 'no'); END;"
@@ -31,16 +27,6 @@ protected:
         row.step();
         return row.integer(0);
     }
-    [[nodiscard]] QByteArray allBytes() const {
-        QByteArray bytes;
-        for (const char* suffix : historyfile::companionSuffixes) {
-            QFile file(m_history.path() + QLatin1StringView(suffix));
-            if (file.open(QIODevice::ReadOnly))
-                bytes += file.readAll();
-        }
-        return bytes;
-    }
-    TemporaryHistory m_history;
     std::unique_ptr<ClipStore> m_store;
 };
 

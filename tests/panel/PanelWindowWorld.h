@@ -4,6 +4,7 @@
 #include "panel/PanelController.h"
 #include "support/FakePanelSurface.h"
 #include "support/PasteWorld.h"
+#include "support/ShownTexts.h"
 
 #include <QMap>
 #include <QQuickItem>
@@ -48,11 +49,7 @@ protected:
     }
 
     /// The texts that can be seen, top to bottom as the items stand in the tree.
-    [[nodiscard]] QStringList texts() const {
-        QStringList found;
-        collect(view()->rootObject(), found);
-        return found;
-    }
+    [[nodiscard]] QStringList texts() const { return shownTexts(view()->rootObject()); }
     [[nodiscard]] QQuickItem* itemWithText(const QString& text) const { return find(view()->rootObject(), text); }
     [[nodiscard]] static QPoint middleOf(const QQuickItem* item) {
         return item->mapToScene(QPointF(20, item->height() / 2)).toPoint();
@@ -66,15 +63,6 @@ protected:
     PanelController panel{store, *engine, pasteboard, surface, views, panelHooks()};
 
 private:
-    static void collect(const QQuickItem* item, QStringList& found) {
-        if (!item->isVisible())
-            return;
-        const QString text = item->property("text").toString();
-        if (item->inherits("QQuickText") && !text.isEmpty())
-            found.append(text);
-        for (const QQuickItem* child : item->childItems())
-            collect(child, found);
-    }
     static QQuickItem* find(QQuickItem* item, const QString& text) {
         if (!item->isVisible())
             return nullptr;

@@ -4,6 +4,7 @@
 #include "panel/ViewEngine.h"
 #include "support/FakeAlarm.h"
 #include "support/FakePanelSurface.h"
+#include "support/ShownTexts.h"
 
 #include <QPropertyAnimation>
 #include <QQuickItem>
@@ -30,26 +31,11 @@ protected:
             fade->setCurrentTime(fade->currentTime() + static_cast<int>(time.count()));
     }
 
-    [[nodiscard]] QStringList texts() const {
-        QStringList found;
-        collect(window()->rootObject(), found);
-        return found;
-    }
+    [[nodiscard]] QStringList texts() const { return shownTexts(window()->rootObject()); }
 
     FakePanelSurface surface;
     ViewEngine views;
     FakeAlarm* alarm = new FakeAlarm; // the controller under test owns it
-
-private:
-    static void collect(const QQuickItem* item, QStringList& found) {
-        if (!item->isVisible())
-            return;
-        const QString text = item->property("text").toString();
-        if (item->inherits("QQuickText") && !text.isEmpty())
-            found.append(text);
-        for (const QQuickItem* child : item->childItems())
-            collect(child, found);
-    }
 };
 
 } // namespace vellumry
