@@ -1,22 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QCoreApplication>
+#include "support/Eventually.h"
+
 #include <QCoroTask>
-#include <QDeadlineTimer>
-#include <functional>
 #include <memory>
 #include <optional>
 
 namespace vellumry {
-
-/// Handles events until `isDone`, for at most ten seconds; answers whether it was done.
-inline bool eventually(const std::function<bool()>& isDone) {
-    const QDeadlineTimer deadline(10'000);
-    while (!isDone() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 50);
-    return isDone();
-}
 
 namespace detail {
 

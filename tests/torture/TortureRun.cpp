@@ -128,6 +128,7 @@ void TortureRun::runWorker() {
             ++count;
         }
     }
+    // Not a wait for anything: the moment of the kill is what is drawn by lot.
     usleep(m_random() % 4000);
     ::kill(worker, SIGKILL);
     waitpid(worker, nullptr, 0);
