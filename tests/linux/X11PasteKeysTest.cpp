@@ -127,6 +127,13 @@ TEST_F(X11PasteKeysTest, WhatWePressOurselvesPasses) {
     EXPECT_TRUE(isTold(1));
 }
 
+TEST_F(X11PasteKeysTest, WhatWePressedBeforeItBeganStandsForNoKeyOfTheUser) {
+    injected->announce(std::chrono::steady_clock::now());
+    ASSERT_TRUE(keys.start());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    EXPECT_TRUE(isTold(1));
+}
+
 TEST_F(X11PasteKeysTest, ThePrimarySelectionIsOfferedForShiftInsertOnly) {
     ASSERT_TRUE(keys.start());
     client.chord({KEY_LEFTCTRL, KEY_V});
@@ -200,6 +207,14 @@ TEST_F(X11PasteKeysTest, AProgramThatLooksFirstGetsItsKeyAfterItsLook) {
     EXPECT_TRUE(typed.empty());
     wasListed = true;
     EXPECT_TRUE(arrives({{symbolV, control}}));
+}
+
+TEST(InjectedPresses, AreForgottenWhenNobodyListened) {
+    InjectedPresses presses;
+    const auto now = std::chrono::steady_clock::now();
+    presses.announce(now);
+    presses.forget();
+    EXPECT_FALSE(presses.claim(now));
 }
 
 TEST(InjectedPresses, AreOursOnceAndForAWhile) {

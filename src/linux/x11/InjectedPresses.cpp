@@ -18,4 +18,9 @@ bool InjectedPresses::claim(Instant now) {
     return true;
 }
 
+void InjectedPresses::forget() {
+    const std::scoped_lock lock(m_mutex);
+    m_announced.clear();
+}
+
 } // namespace vellumry

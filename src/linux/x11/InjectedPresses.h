@@ -20,6 +20,8 @@ public:
     void announce(Instant now);
     /// A key came that a program pressed. True when it was us; true once for each that was announced.
     [[nodiscard]] bool claim(Instant now);
+    /// Nothing that was announced so far will come: nobody listened when it was pressed.
+    void forget();
 
 private:
     std::mutex m_mutex;

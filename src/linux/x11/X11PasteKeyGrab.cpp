@@ -72,6 +72,9 @@ bool X11PasteKeyGrab::start() {
     listenForChanges();
     readKeyboard();
     connect(m_connection.get(), &XlibConnection::eventArrived, this, &X11PasteKeyGrab::handleEvent);
+    // What we pressed before is not held up here; left announced it would stand for a key of the user.
+    if (m_options.injected)
+        m_options.injected->forget();
     const bool isHolding = grabAll(true);
     m_connection->flush();
     return isHolding;
