@@ -93,13 +93,15 @@ QCoro::Task<PasteOutcome> PasteEngine::deliver() {
     if (!m_system.isTrusted())
         co_return PasteOutcome::copiedOnly(PasteReason::notTrusted);
     const std::weak_ptr<bool> life = m_life;
+    // The field's application is asked while the panel goes; where it answers late, nobody waits for both.
+    const auto settling = m_system.sleep(m_system.settleDelay);
     const bool isSecureInput = co_await m_system.isSecureInput();
     if (life.expired())
         co_return PasteOutcome::failed();
     if (isSecureInput)
         co_return PasteOutcome::copiedOnly(PasteReason::secureInput);
 
-    co_await m_system.sleep(m_system.settleDelay);
+    co_await settling;
     if (life.expired())
         co_return PasteOutcome::failed();
     // Keys that reach another window than the user typed in would do there whatever they mean there.

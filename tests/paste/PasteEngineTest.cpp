@@ -209,7 +209,43 @@ TEST(PasteEngine, TouchesNothingWhenItWentWhileAFieldWasAskedForSecrets) {
     world.engine.reset();
     world.target.answer();
     ASSERT_TRUE(pasting.isReady());
-    EXPECT_TRUE(world.log.isEmpty());
+    EXPECT_EQ(world.log, QStringList{QStringLiteral("sleep 70")});
+    EXPECT_EQ(world.pastedCount, 0);
+}
+
+TEST(PasteEngine, AsksForPasswordFieldsWhileThePanelGoes) {
+    PasteWorld world;
+    world.holdsSleep = true;
+    world.target.holdsAnswer = true;
+    const auto pasting = world.engine->paste(world.addText("hello"), {}, {});
+    EXPECT_EQ(world.log, QStringList{QStringLiteral("sleep 70")});
+    // Whichever of the two comes first waits for the other.
+    world.wakeSleepers();
+    EXPECT_EQ(world.target.presses, 0);
+    world.target.answer();
+    ASSERT_TRUE(pasting.isReady());
+    EXPECT_EQ(world.target.presses, 1);
+}
+
+TEST(PasteEngine, WaitsForThePanelToGoWhenTheAnswerCameFirst) {
+    PasteWorld world;
+    world.holdsSleep = true;
+    const auto pasting = world.engine->paste(world.addText("hello"), {}, {});
+    ASSERT_FALSE(pasting.isReady());
+    EXPECT_EQ(world.target.presses, 0);
+    world.wakeSleepers();
+    ASSERT_TRUE(pasting.isReady());
+    EXPECT_EQ(world.target.presses, 1);
+}
+
+TEST(PasteEngine, TellsOfAPasswordFieldAtOnceAndPressesNothingLater) {
+    PasteWorld world;
+    world.holdsSleep = true;
+    world.target.secureInput = true;
+    EXPECT_EQ(paste(world, world.addText("hello")), Paste::copiedOnly(PasteReason::secureInput));
+    world.wakeSleepers();
+    EXPECT_EQ(world.target.presses, 0);
+    EXPECT_EQ(world.log, QStringList{QStringLiteral("sleep 70")});
 }
 
 TEST(PasteEngine, TwoPastesAtOnceLeaveTheLastOnThePasteboard) {
