@@ -22,6 +22,9 @@ constexpr std::array skippedOutputTypes{QLatin1StringView("org.nspasteboard.Conc
                                         QLatin1StringView("com.typeit4me.clipping"),
                                         QLatin1StringView("net.antelle.keeweb")};
 
+// Decoding leaves it out.
+constexpr QByteArrayView byteOrderMark{"\xEF\xBB\xBF"};
+
 bool staysBehind(const QString& type) {
     return type.startsWith(u"dyn.") || type.startsWith(u"CorePasteboardFlavorType") || type.startsWith(u"NeXT ") ||
            (type.startsWith(u"Apple ") && type.endsWith(u"pasteboard type")) ||
@@ -34,6 +37,27 @@ void addMarker(PasteboardItem& item) {
     item.representations.insert_or_assign(uniformtype::ownMarker, QByteArray(""));
     item.order->removeAll(uniformtype::ownMarker);
     item.order->append(uniformtype::ownMarker);
+}
+
+/// What `plainText` gives, as UTF-8. A text that is that already is not decoded: a key of the user may be waiting, and
+/// texts may be very long.
+std::optional<QByteArray> plainBytes(const std::vector<PasteboardItem>& items) {
+    const bool hasFiles = std::ranges::any_of(
+        items, [](const PasteboardItem& item) { return item.representations.contains(uniformtype::fileUrl); });
+    if (!items.empty() && !hasFiles) {
+        const auto found = items.front().representations.find(uniformtype::utf8PlainText);
+        if (found != items.front().representations.end() && !found->second.startsWith(byteOrderMark) &&
+            found->second.isValidUtf8())
+            return found->second;
+    }
+    const auto text = plainText(items);
+    return text ? std::optional(text->toUtf8()) : std::nullopt;
+}
+
+bool writeBytes(const QByteArray& utf8, Pasteboard& pasteboard) {
+    PasteboardItem item{{{uniformtype::utf8PlainText, utf8}}, QStringList{uniformtype::utf8PlainText}};
+    addMarker(item);
+    return pasteboard.write({item});
 }
 
 std::vector<PasteboardItem> makePasteboardItems(const std::vector<PasteboardItem>& items) {
@@ -68,8 +92,8 @@ PasteboardItem PasteboardWriter::makePasteboardItem(const PasteboardItem& item, 
 
 bool PasteboardWriter::write(const std::vector<PasteboardItem>& items, bool asPlainText, Pasteboard& pasteboard) {
     if (asPlainText) {
-        const auto text = plainText(items);
-        return text && writeText(*text, pasteboard);
+        const auto bytes = plainBytes(items);
+        return bytes && writeBytes(*bytes, pasteboard);
     }
     return pasteboard.write(makePasteboardItems(items));
 }
@@ -79,9 +103,7 @@ bool PasteboardWriter::takeOver(const std::vector<PasteboardItem>& items, Pasteb
 }
 
 bool PasteboardWriter::writeText(const QString& text, Pasteboard& pasteboard) {
-    PasteboardItem item{{{uniformtype::utf8PlainText, text.toUtf8()}}, QStringList{uniformtype::utf8PlainText}};
-    addMarker(item);
-    return pasteboard.write({item});
+    return writeBytes(text.toUtf8(), pasteboard);
 }
 
 } // namespace vellumry

@@ -107,6 +107,31 @@ TEST(PasteboardWriter, WritesPlainTextWithTheMarkerAndNothingElse) {
               (std::map<QString, QByteArray>{{uniformtype::utf8PlainText, "Grüße"}, {marker, {}}}));
 }
 
+TEST(PasteboardWriter, HandsALongTextOnAsItIs) {
+    FakePasteboard board;
+    auto copied = item({uniformtype::html});
+    const QByteArray text = QByteArray("long ").repeated(1000);
+    copied.representations[uniformtype::utf8PlainText] = text;
+    EXPECT_TRUE(PasteboardWriter::write({copied}, true, board));
+    const QByteArray& written = board.items().front().representations.at(uniformtype::utf8PlainText);
+    EXPECT_EQ(written.constData(), text.constData()) << "no copy, no decoding: a key may be waiting";
+}
+
+TEST(PasteboardWriter, PlainTextHasNoByteOrderMark) {
+    FakePasteboard board;
+    const PasteboardItem copied{{{uniformtype::utf8PlainText, "\xEF\xBB\xBFmarked"}}, std::nullopt};
+    EXPECT_TRUE(PasteboardWriter::write({copied}, true, board));
+    EXPECT_EQ(board.items().front().representations.at(uniformtype::utf8PlainText), "marked");
+}
+
+TEST(PasteboardWriter, TakesThePlainTextFromTheRichOneWhenItsBytesAreNoText) {
+    FakePasteboard board;
+    const PasteboardItem copied{{{uniformtype::utf8PlainText, "\xff\xfe"}, {uniformtype::rtf, R"({\rtf1 styled})"}},
+                                std::nullopt};
+    EXPECT_TRUE(PasteboardWriter::write({copied}, true, board));
+    EXPECT_EQ(board.items().front().representations.at(uniformtype::utf8PlainText), "styled");
+}
+
 TEST(PasteboardWriter, WritesTheNamesOfFilesAsPlainText) {
     FakePasteboard board;
     EXPECT_TRUE(PasteboardWriter::write(
