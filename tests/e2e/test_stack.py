@@ -3,46 +3,12 @@
 
 import os
 import shutil
-import signal
-import subprocess
-import tempfile
 
 from clients import GtkEditor, QtEditor, XTerminal
-from desktop import (DATA, Process, Vellumry, accessible, active_window, clipboard, copy_bytes, copy_text, focus,
-                     focus_under_new_manager, fresh, key, main, open_panel, panel_is_open, picture, run, same, text_of, type_text, unsealed,
-                     wait_for_clip, wait_panel_closed, wait_until, windows)
+from desktop import (DATA, Vellumry, accessible, active_window, clipboard, copy_text, fresh, key, main, open_panel, panel_is_open,
+                     picture, run, same, type_text, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until)
 from history_probe import ids
-
-TOGGLE = "super+ctrl+s"
-HUD = "^Paste Stack$"
-
-
-def is_running():
-    return bool(windows(HUD))
-
-
-def start_stack():
-    key(TOGGLE)
-    wait_until(is_running, "the stack's bar")
-
-
-def wait_ended():
-    wait_until(lambda: not is_running(), "the stack's bar to go", 15)
-
-
-def remember(*texts):
-    for text in texts:
-        copy_text(text)
-        wait_for_clip(lambda row: text_of(row) == text, "the copy of " + text)
-
-
-def paste_each(client, combination, expected):
-    """Presses the key once for each expected text; the next when this one stands there."""
-    whole = ""
-    for text in expected:
-        key(combination)
-        whole += text
-        wait_until(lambda: client.content() == whole, f"{whole!r} in the client")
+from stack import TOGGLE, is_running, paste_each, remember, start_stack, wait_ended
 
 
 def copies_come_back_in_a_gtk_editor():
@@ -188,52 +154,6 @@ def a_copy_of_a_moment_ago_comes_first():
         wait_ended()
 
 
-def an_owner_that_ends_does_not_take_its_copies_along():
-    with Vellumry(), GtkEditor() as client:
-        start_stack()
-        owner = QtEditor()
-        owner.type_and_copy("from the other editor")
-        wait_for_clip(lambda row: text_of(row) == "from the other editor", "the copy")
-        owner.stop(signal.SIGKILL)
-        copy_text("second")
-        wait_for_clip(lambda row: text_of(row) == "second", "the second copy")
-        focus(client.window)
-        paste_each(client, "ctrl+v", ["from the other editor", "second"])
-        wait_ended()
-
-
-def an_owner_that_hangs_does_not_hold_the_keyboard():
-    here = os.path.dirname(os.path.abspath(__file__))
-    with Vellumry(), GtkEditor() as client:
-        start_stack()
-        remember("one ", "two ")
-        with Process("/usr/bin/python3", os.path.join(here, "hostile_owner.py"), "hang", stdout=subprocess.PIPE) as owner:
-            owner.handle.stdout.readline()
-            focus(client.window)
-            paste_each(client, "ctrl+v", ["one "])
-            type_text("x")
-            wait_until(lambda: client.content() == "one x", "typing goes on")
-        key("ctrl+v")
-        wait_until(lambda: client.content() == "one xtwo ", "the second")
-        wait_ended()
-
-
-def deleted_files_are_passed_over():
-    folder = tempfile.mkdtemp(prefix="stack")
-    path = os.path.join(folder, "doomed.txt")
-    with open(path, "w", encoding="utf-8") as file:
-        file.write("content")
-    with Vellumry(), GtkEditor() as client:
-        start_stack()
-        copy_bytes(("file://" + path + "\r\n").encode(), "text/uri-list")
-        wait_for_clip(lambda row: row["kind"] == 4, "the file")
-        remember("after the file")
-        os.unlink(path)
-        key("ctrl+v")
-        wait_until(lambda: client.content() == "after the file", "the item behind the deleted file")
-        wait_ended()
-
-
 def selected_clips_are_pasted_oldest_first():
     with Vellumry(), GtkEditor() as client:
         remember("one ", "two ", "three ")
@@ -245,60 +165,6 @@ def selected_clips_are_pasted_oldest_first():
         wait_until(is_running, "the stack's bar")
         paste_each(client, "ctrl+v", ["one ", "two ", "three "])
         wait_ended()
-
-
-def a_grabbed_keyboard_is_left_alone():
-    """A screen locker has the keyboard: keys go to it, the stack waits."""
-    from Xlib import X, display
-
-    with Vellumry(), GtkEditor() as client:
-        start_stack()
-        remember("one ", "two ")
-        locker = display.Display()
-        window = locker.screen().root.create_window(0, 0, 10, 10, 0, X.CopyFromParent, event_mask=X.KeyPressMask)
-        window.map()
-        locker.sync()
-        wait_until(lambda: window.grab_keyboard(False, X.GrabModeAsync, X.GrabModeAsync, X.CurrentTime) == X.GrabSuccess,
-                   "the locker to get the keyboard")
-        run("xdotool", "key", "ctrl+v")
-        wait_until(lambda: any(locker.next_event().type == X.KeyPress for _ in range(locker.pending_events())),
-                   "the locker to see the key")
-        locker.close()
-        focus(client.window)
-        paste_each(client, "ctrl+v", ["one ", "two "])
-        wait_ended()
-
-
-def another_holder_of_the_key_is_told_of():
-    from Xlib import X, display
-
-    with Vellumry():
-        other = display.Display()
-        other.screen().root.grab_key(55, X.ControlMask, True, X.GrabModeAsync, X.GrabModeAsync)
-        other.sync()
-        key(TOGGLE)
-        wait_until(lambda: accessible("vellumry", "notification", "couldn.t start"), "the message")
-        same(is_running(), False, "the stack")
-        other.close()
-        start_stack()
-        key(TOGGLE)
-        wait_ended()
-
-
-def a_new_window_manager_changes_nothing():
-    with Vellumry(), GtkEditor() as client:
-        start_stack()
-        remember("one ", "two ", "three ")
-        paste_each(client, "ctrl+v", ["one "])
-        before = run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
-        with Process("openbox", "--replace"):
-            wait_until(lambda: run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK") not in (before, b""), "the new window manager")
-            focus_under_new_manager(client.window)
-            key("ctrl+v")
-            wait_until(lambda: client.content() == "one two ", "the second")
-            key("ctrl+v")
-            wait_until(lambda: client.content() == "one two three ", "the third")
-            wait_ended()
 
 
 def ten_a_second_lose_and_double_nothing():
@@ -323,8 +189,5 @@ main([fresh(test) for test in (copies_come_back_in_a_gtk_editor, copies_come_bac
                                with_shift_held_it_pastes_too, other_keys_do_not_advance_it,
                                holding_the_keys_down_advances_once, an_empty_one_leaves_the_clipboard_alone,
                                reversed_the_newest_goes_first, stopped_by_hand_the_last_item_stays,
-                               a_copy_of_a_moment_ago_comes_first, an_owner_that_ends_does_not_take_its_copies_along,
-                               an_owner_that_hangs_does_not_hold_the_keyboard, deleted_files_are_passed_over,
-                               selected_clips_are_pasted_oldest_first, a_grabbed_keyboard_is_left_alone,
-                               another_holder_of_the_key_is_told_of, ten_a_second_lose_and_double_nothing,
-                               a_new_window_manager_changes_nothing)])  # the last one: it takes the desktop's away
+                               a_copy_of_a_moment_ago_comes_first, selected_clips_are_pasted_oldest_first,
+                               ten_a_second_lose_and_double_nothing)])

@@ -1,0 +1,35 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Starting, filling and emptying a Paste Stack as a user does."""
+
+from desktop import copy_text, key, text_of, wait_for_clip, wait_until, windows
+
+TOGGLE = "super+ctrl+s"
+HUD = "^Paste Stack$"
+
+
+def is_running():
+    return bool(windows(HUD))
+
+
+def start_stack():
+    key(TOGGLE)
+    wait_until(is_running, "the stack's bar")
+
+
+def wait_ended():
+    wait_until(lambda: not is_running(), "the stack's bar to go", 15)
+
+
+def remember(*texts):
+    for text in texts:
+        copy_text(text)
+        wait_for_clip(lambda row: text_of(row) == text, "the copy of " + text)
+
+
+def paste_each(client, combination, expected):
+    """Presses the key once for each expected text; the next when this one stands there."""
+    whole = ""
+    for text in expected:
+        key(combination)
+        whole += text
+        wait_until(lambda: client.content() == whole, f"{whole!r} in the client")

@@ -1,0 +1,161 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The Paste Stack among programs that end, hang, stop or take the keyboard, with files that go and with texts that are very large."""
+
+import os
+import shutil
+import signal
+import subprocess
+import tempfile
+
+from Xlib import X, display
+
+from clients import GtkEditor, QtEditor, XTerminal
+from desktop import (DATA, SETTINGS, Process, Vellumry, accessible, copy_bytes, copy_text, focus, focus_under_new_manager, fresh, key,
+                     main, run, same, text_of, type_text, wait_for_clip, wait_until)
+from history_probe import ids
+from key_window import KeyWindow
+from stack import TOGGLE, is_running, paste_each, remember, start_stack, wait_ended
+
+LARGE = 100_000_000
+
+
+def an_owner_that_ends_does_not_take_its_copies_along():
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        owner = QtEditor()
+        owner.type_and_copy("from the other editor")
+        wait_for_clip(lambda row: text_of(row) == "from the other editor", "the copy")
+        owner.stop(signal.SIGKILL)
+        copy_text("second")
+        wait_for_clip(lambda row: text_of(row) == "second", "the second copy")
+        focus(client.window)
+        paste_each(client, "ctrl+v", ["from the other editor", "second"])
+        wait_ended()
+
+
+def an_owner_that_hangs_does_not_hold_the_keyboard():
+    here = os.path.dirname(os.path.abspath(__file__))
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("one ", "two ")
+        with Process("/usr/bin/python3", os.path.join(here, "hostile_owner.py"), "hang", stdout=subprocess.PIPE) as owner:
+            owner.handle.stdout.readline()
+            focus(client.window)
+            paste_each(client, "ctrl+v", ["one "])
+            type_text("x")
+            wait_until(lambda: client.content() == "one x", "typing goes on")
+        key("ctrl+v")
+        wait_until(lambda: client.content() == "one xtwo ", "the second")
+        wait_ended()
+
+
+def a_stopped_program_in_front_does_not_hold_the_keyboard():
+    with Vellumry(), XTerminal() as client, GtkEditor() as stopped:
+        start_stack()
+        remember("one\n", "two\n", "three\n")
+        focus(stopped.window)
+        os.killpg(stopped.pid, signal.SIGSTOP)
+        run("xdotool", "key", "ctrl+v")  # takes the first along
+        focus(client.window)
+        paste_each(client, "shift+Insert", ["two\n", "three\n"])
+        type_text("typing goes on\n")
+        wait_until(lambda: client.content() == "two\nthree\ntyping goes on\n", "what was typed")
+        wait_ended()
+
+
+def deleted_files_are_passed_over():
+    folder = tempfile.mkdtemp(prefix="stack")
+    path = os.path.join(folder, "doomed.txt")
+    with open(path, "w", encoding="utf-8") as file:
+        file.write("content")
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        copy_bytes(("file://" + path + "\r\n").encode(), "text/uri-list")
+        wait_for_clip(lambda row: row["kind"] == 4, "the file")
+        remember("after the file")
+        os.unlink(path)
+        key("ctrl+v")
+        wait_until(lambda: client.content() == "after the file", "the item behind the deleted file")
+        wait_ended()
+
+
+def a_grabbed_keyboard_is_left_alone():
+    """A screen locker has the keyboard: keys go to it, the stack waits."""
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("one ", "two ")
+        locker = display.Display()
+        window = locker.screen().root.create_window(0, 0, 10, 10, 0, X.CopyFromParent, event_mask=X.KeyPressMask)
+        window.map()
+        locker.sync()
+        wait_until(lambda: window.grab_keyboard(False, X.GrabModeAsync, X.GrabModeAsync, X.CurrentTime) == X.GrabSuccess,
+                   "the locker to get the keyboard")
+        run("xdotool", "key", "ctrl+v")
+        wait_until(lambda: any(locker.next_event().type == X.KeyPress for _ in range(locker.pending_events())),
+                   "the locker to see the key")
+        locker.close()
+        focus(client.window)
+        paste_each(client, "ctrl+v", ["one ", "two "])
+        wait_ended()
+
+
+def another_holder_of_the_key_is_told_of():
+    with Vellumry():
+        other = display.Display()
+        other.screen().root.grab_key(55, X.ControlMask, True, X.GrabModeAsync, X.GrabModeAsync)
+        other.sync()
+        key(TOGGLE)
+        wait_until(lambda: accessible("vellumry", "notification", "couldn.t start"), "the message")
+        same(is_running(), False, "the stack")
+        other.close()
+        start_stack()
+        key(TOGGLE)
+        wait_ended()
+
+
+def a_new_window_manager_changes_nothing():
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("one ", "two ", "three ")
+        paste_each(client, "ctrl+v", ["one "])
+        before = run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
+        with Process("openbox", "--replace"):
+            wait_until(lambda: run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK") not in (before, b""), "the new window manager")
+            focus_under_new_manager(client.window)
+            key("ctrl+v")
+            wait_until(lambda: client.content() == "one two ", "the second")
+            key("ctrl+v")
+            wait_until(lambda: client.content() == "one two three ", "the third")
+            wait_ended()
+
+
+def large_texts_hold_no_key_and_arrive_whole():
+    """The text stands on the clipboard when its key arrives: it did not go by itself because making the text took too long."""
+    texts = [b"a" * 99 + b"\n", "é漢".encode() * 20]
+    contents = [texts[0] * (LARGE // len(texts[0])), b"in between", texts[1] * (LARGE // len(texts[1])), b"last"]
+    for plain in ("false", "true"):
+        os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
+        with open(SETTINGS, "w", encoding="utf-8") as file:
+            file.write(f"[General]\nplainTextByDefault={plain}\n")
+        shutil.rmtree(DATA, ignore_errors=True)
+        try:
+            with Vellumry():
+                start_stack()
+                for count, content in enumerate(contents, 1):
+                    copy_bytes(content, "UTF8_STRING")
+                    wait_until(lambda: len(ids()) == count, f"copy {count} in the history", 30)
+                with KeyWindow() as window:
+                    for content in contents:
+                        window.press()
+                        same(window.paste() == content, True, f"{len(content)} bytes arrived, plain: {plain}")
+                wait_ended()
+        finally:
+            os.remove(SETTINGS)
+
+
+main([fresh(test) for test in (an_owner_that_ends_does_not_take_its_copies_along,
+                               an_owner_that_hangs_does_not_hold_the_keyboard,
+                               a_stopped_program_in_front_does_not_hold_the_keyboard, deleted_files_are_passed_over,
+                               a_grabbed_keyboard_is_left_alone, another_holder_of_the_key_is_told_of,
+                               large_texts_hold_no_key_and_arrive_whole,
+                               a_new_window_manager_changes_nothing)])  # the last one: it takes the desktop's away
