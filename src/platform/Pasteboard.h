@@ -52,6 +52,9 @@ public:
     /// As `write`, but only as long as nobody has owned the pasteboard since its owner went: a copy that another
     /// program makes meanwhile stands, and this is false.
     virtual bool takeOver(std::vector<PasteboardItem> items) = 0;
+    /// Empties the pasteboard and lets go of the bytes if we wrote what it held at `changeCount` and nothing has come
+    /// since; otherwise what is there stands. Returns at once, the pasteboard follows.
+    virtual void giveUp(qint64 changeCount) = 0;
 
     /// Called after the change count moved, on the main thread; several changes may come as one call.
     std::function<void()> onChanged;

@@ -8,14 +8,12 @@
 #include "foundation/Localisation.h"
 #include "foundation/SerialExecutor.h"
 #include "history/ClipDatabase.h"
-#include "paste/PasteboardWriter.h"
 #include "shell/AlertWindow.h"
 #include "shell/HistoryFolder.h"
 #include "shell/PasteSound.h"
 #include "shell/StartupAlert.h"
 
 #include <QLocale>
-#include <QPointer>
 #include <chrono>
 
 namespace vellumry {
@@ -88,6 +86,7 @@ AppEnvironment::AppEnvironment(Platform& platform, std::unique_ptr<Preferences> 
     m_watcher =
         std::make_unique<ClipboardWatcher>(*platform.pasteboard, *m_store, *platform.defaults, *platform.bookmarks,
                                            *platform.images, [frontmost] { return frontmost->current(); });
+    m_survivingCopy = std::make_unique<SurvivingCopy>(*m_store, *platform.pasteboard);
     m_textReading = std::make_unique<TextReading>(platform, *m_store);
     m_paster = std::make_unique<PasteEngine>(*m_store, *platform.defaults, systemHooks());
     m_hotKeyCenter = std::make_unique<HotKeyCenter>(*platform.hotKeys);
@@ -103,9 +102,7 @@ AppEnvironment::AppEnvironment(Platform& platform, std::unique_ptr<Preferences> 
     wire();
 }
 
-AppEnvironment::~AppEnvironment() {
-    m_platform->pasteboard->onOwnerGone = nullptr;
-}
+AppEnvironment::~AppEnvironment() = default;
 
 SystemHooks AppEnvironment::systemHooks() {
     PasteTarget* target = m_platform->pasteTarget.get();
@@ -161,11 +158,7 @@ void AppEnvironment::wireCapture() {
     m_watcher->onCapture = [this](const ClipRef& clip) { m_textReading->take(clip); };
     m_textReading->onToast = [this](const ToastMessage& message) { showToast(message); };
     m_watcher->onStored = [this](const ClipRef& clip, qint64 changeCount) {
-        m_captured = Captured{changeCount, clip->id};
-    };
-    m_platform->pasteboard->onOwnerGone = [this](qint64 changeCount) {
-        if (m_captured && m_captured->changeCount == changeCount)
-            takeOver(m_captured->clip);
+        m_survivingCopy->noteStored(clip, changeCount);
     };
 }
 
@@ -174,17 +167,6 @@ void AppEnvironment::wireScreenshots() {
     m_screenshots->hasRoomForImages = [folder = m_imageVolume] { return hasRoomForImages(folder); };
     m_screenshots->isAllowed = [this] { return !m_watcher->pausedUntil || *m_watcher->pausedUntil <= currentDate(); };
     m_screenshotSaving->onToast = [this](const ToastMessage& message) { showToast(message); };
-}
-
-/// What was captured outlives the application it was copied in. The marker on our write keeps it from becoming a new
-/// clip.
-QCoro::Task<void> AppEnvironment::takeOver(QUuid clip) {
-    const QPointer<AppEnvironment> self(this);
-    const qint64 changeCount = m_platform->pasteboard->changeCount();
-    auto loading = m_store->payload(clip);
-    const std::optional<ClipPayload> payload = co_await loading;
-    if (self && payload && m_platform->pasteboard->changeCount() == changeCount)
-        (void)PasteboardWriter::takeOver(payload->items, *m_platform->pasteboard);
 }
 
 void AppEnvironment::start() {

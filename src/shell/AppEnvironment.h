@@ -13,6 +13,7 @@
 #include "shell/ScreenshotSaving.h"
 #include "shell/StackHUDController.h"
 #include "shell/StackWiring.h"
+#include "shell/SurvivingCopy.h"
 #include "shell/TextReading.h"
 #include "shell/ToastController.h"
 
@@ -76,19 +77,13 @@ private:
     void runMaintenance();
     void showStartupAlert();
     void showLowDiskToast();
-    QCoro::Task<void> takeOver(QUuid clip);
-
-    /// The copy that the pasteboard's present owner made and the history took.
-    struct Captured {
-        qint64 changeCount = 0;
-        QUuid clip;
-    };
 
     Platform* m_platform;
     std::unique_ptr<Preferences> m_preferences;
     std::unique_ptr<ClipStore> m_store;
     ViewEngine m_views;
     std::unique_ptr<ClipboardWatcher> m_watcher;
+    std::unique_ptr<SurvivingCopy> m_survivingCopy;
     std::unique_ptr<TextReading> m_textReading;
     std::unique_ptr<PasteEngine> m_paster;
     std::unique_ptr<ScreenshotImporter> m_screenshots;
@@ -102,7 +97,6 @@ private:
     std::unique_ptr<AlertWindow> m_alert;
     QTimer m_maintenance;
     QString m_imageVolume;
-    std::optional<Captured> m_captured;
     std::optional<Date> m_lastLowDiskWarning;
     bool m_isMemoryOnly;
     bool m_isQuitting = false;

@@ -9,8 +9,8 @@ import time
 
 import desktop
 from clients import GtkEditor
-from desktop import (DATA, HISTORY, SETTINGS, Failure, Vellumry, accessible, copy_text, fresh, key, main, open_panel, panel_is_open,
-                     same, wait_panel_closed, wait_until)
+from desktop import (DATA, HISTORY, SETTINGS, Failure, Vellumry, accessible, clipboard, copy_text, fresh, key, main, open_panel,
+                     owner_of, panel_is_open, same, wait_panel_closed, wait_until)
 from history_probe import HistoryProbe, ids
 from memory_probe import can_look_into, found_in
 
@@ -142,6 +142,40 @@ def a_card_whose_time_came_while_the_program_stood_still_goes_at_once():
         nothing_in_memory(program, {**plain_forms(card), **sealed})
 
 
+def offered_by_us(probe, card):
+    """Copies the card in an editor that is killed, so that the program offers it in its place; answers as `stored_card`."""
+    with GtkEditor() as editor:
+        editor.type_and_copy(card)
+        stored = stored_card(probe, card)
+        editor.stop(signal.SIGKILL)
+    wait_until(lambda: clipboard() == card.encode(), "the program to offer what the dead editor had copied")
+    return stored
+
+
+def a_card_of_a_dead_editor_goes_from_the_clipboard_at_its_time():
+    card = card_number()
+    with Vellumry() as program:
+        ends, sealed = offered_by_us(HistoryProbe(), card)
+        wait_until(lambda: time.time() > ends - 1, "the last second", LIFETIME + 2)
+        same(clipboard(), card.encode(), "the clipboard as long as the card lives")
+        wait_until(lambda: not ids(), "the row to go", 3)
+        wait_until(lambda: not owner_of("CLIPBOARD"), "the clipboard to be nobody's", 1)
+        nothing_is_left(program, {**plain_forms(card), **sealed})
+
+
+def a_card_that_was_pasted_stays_on_the_clipboard():
+    card = card_number()
+    with Vellumry():
+        offered_by_us(HistoryProbe(), card)
+        with GtkEditor() as editor:
+            open_panel()
+            key("Return")
+            wait_until(lambda: editor.content() == card, "the card in the editor")
+            wait_until(lambda: not ids(), "the row to go", LIFETIME + 2)
+            same(clipboard(), card.encode(), "the clipboard, which the user filled by pasting")
+
+
 if __name__ == "__main__":
     main([with_lifetime(test) for test in (
-        a_card_is_gone_from_everywhere_at_its_time, a_card_whose_time_came_while_the_program_stood_still_goes_at_once)])
+        a_card_is_gone_from_everywhere_at_its_time, a_card_whose_time_came_while_the_program_stood_still_goes_at_once,
+        a_card_of_a_dead_editor_goes_from_the_clipboard_at_its_time, a_card_that_was_pasted_stays_on_the_clipboard)])

@@ -285,6 +285,35 @@ TEST_F(X11PasteboardWrite, NothingIsTakenOverWhileSomebodyOwnsIt) {
     EXPECT_TRUE(owner.owns("CLIPBOARD"));
 }
 
+TEST_F(X11PasteboardWrite, WhatIsGivenUpIsServedToNobodyAnyMore) {
+    ASSERT_TRUE(write({{uniformtype::utf8PlainText, "secret"}}));
+    const qint64 changeCount = pasteboard->changeCount();
+    HostileOwner& requestor = peer();
+    EXPECT_EQ(ask(requestor, "UTF8_STRING").bytes, "secret");
+    pasteboard->giveUp(changeCount);
+    EXPECT_TRUE(waitUntil([&] { return !requestor.hasOwner("CLIPBOARD"); }));
+    EXPECT_TRUE(waitUntil([&] { return pasteboard->changeCount() == changeCount + 1; }));
+    EXPECT_EQ(reading(), nullptr);
+}
+
+TEST_F(X11PasteboardWrite, WhatWasWrittenSinceThenIsNotGivenUp) {
+    ASSERT_TRUE(write({{uniformtype::utf8PlainText, "old"}}));
+    const qint64 changeCount = pasteboard->changeCount();
+    ASSERT_TRUE(write({{uniformtype::utf8PlainText, "new"}}));
+    pasteboard->giveUp(changeCount);
+    EXPECT_EQ(ask(peer(), "UTF8_STRING").bytes, "new");
+}
+
+TEST_F(X11PasteboardWrite, ACopyThatIsNotKnownOfYetIsNotGivenUp) {
+    HostileOwner& faster = peer();
+    ASSERT_TRUE(write({{uniformtype::utf8PlainText, "secret"}}));
+    const qint64 changeCount = pasteboard->changeCount();
+    ASSERT_TRUE(faster.own("CLIPBOARD", {{"UTF8_STRING", "new"}}));
+    pasteboard->giveUp(changeCount);
+    EXPECT_TRUE(waitForChange(changeCount));
+    EXPECT_TRUE(faster.owns("CLIPBOARD"));
+}
+
 TEST(X11Pasteboard, ThereIsNoneWithoutADisplay) {
     EXPECT_EQ(X11Pasteboard::create(":59999"), nullptr);
 }

@@ -87,6 +87,10 @@ public:
         return !refusesWrites;
     }
     bool takeOver(std::vector<PasteboardItem> items) override { return m_items.empty() && write(std::move(items)); }
+    void giveUp(qint64 changeCount) override {
+        if (m_isOurs && m_changeCount == changeCount)
+            replace({}, {}, false);
+    }
     [[nodiscard]] bool notifiesChanges() const override { return notifies; }
 
 private:

@@ -129,9 +129,11 @@ void PasteboardEngine::finishClaim(std::optional<qint64> count) {
 void PasteboardEngine::disown(const std::shared_ptr<const OfferedContents>& contents) {
     if (m_ended || m_owner.contents(m_clipboard) != contents)
         return;
+    const xcb_timestamp_t since = m_owner.since(m_clipboard);
     m_owner.release(m_clipboard);
+    // At the time of our ownership: the server then lets an owner stand that comes between question and request.
     if (m_connection->selectionOwner(m_clipboard) == m_connection->window())
-        xcb_set_selection_owner(m_connection->handle(), XCB_NONE, m_clipboard, XCB_CURRENT_TIME);
+        xcb_set_selection_owner(m_connection->handle(), XCB_NONE, m_clipboard, since);
 }
 
 void PasteboardEngine::becomeClipboardManager() {

@@ -57,7 +57,7 @@ public:
     void claim(Claim claim);
     /// Delivers once all that the server has to tell of the time before the call was handled; false without a server.
     void catchUp(PendingResult<bool> result);
-    /// Gives up the clipboard if it is still ours with `contents`.
+    /// Gives up the clipboard if it is still ours with `contents`. A program that takes it meanwhile keeps it.
     void disown(const std::shared_ptr<const OfferedContents>& contents);
     /// Null when nobody owns the clipboard or the owner does not say in time what it offers.
     void readOffer(PendingResult<std::shared_ptr<const SelectionOffer>> result, Instant now);

@@ -37,6 +37,11 @@ std::shared_ptr<const OfferedContents> SelectionOwner::contents(xcb_atom_t selec
     return found == m_holdings.end() ? nullptr : found->second.contents;
 }
 
+xcb_timestamp_t SelectionOwner::since(xcb_atom_t selection) const {
+    const auto found = m_holdings.find(selection);
+    return found == m_holdings.end() ? xcb_timestamp_t(XCB_CURRENT_TIME) : found->second.since;
+}
+
 bool SelectionOwner::handleRequest(const xcb_selection_request_event_t& event, Instant now) {
     // Requests older than the ownership are answered too: a paste key that was held back while the contents were
     // swapped carries the time of its press.

@@ -28,6 +28,8 @@ public:
     void release(xcb_atom_t selection);
     /// What is served for `selection`; null when nothing is.
     [[nodiscard]] std::shared_ptr<const OfferedContents> contents(xcb_atom_t selection) const;
+    /// The server's time of our ownership, XCB_CURRENT_TIME when nothing is served.
+    [[nodiscard]] xcb_timestamp_t since(xcb_atom_t selection) const;
 
     /// True when content bytes went out, not merely a list of names or a time.
     bool handleRequest(const xcb_selection_request_event_t& event, Instant now);

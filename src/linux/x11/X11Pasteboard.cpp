@@ -103,6 +103,13 @@ bool X11Pasteboard::takeOver(std::vector<PasteboardItem> items) {
     return own(std::move(claim));
 }
 
+void X11Pasteboard::giveUp(qint64 changeCount) {
+    if (!m_ownContents || m_ownChangeCount != changeCount)
+        return;
+    const std::shared_ptr<const OfferedContents> contents = std::move(m_ownContents);
+    m_thread->post([contents](PasteboardEngine& engine, auto) { engine.disown(contents); });
+}
+
 bool X11Pasteboard::own(PasteboardEngine::Claim claim) {
     m_ownContents.reset();
     m_thread->post([claim](PasteboardEngine& engine, auto) { engine.claim(claim); });

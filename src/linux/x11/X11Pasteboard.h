@@ -35,6 +35,7 @@ public:
     /// Waits for the X server's word, a fraction of a millisecond as a rule and 250 ms at most.
     bool write(std::vector<PasteboardItem> items) override;
     bool takeOver(std::vector<PasteboardItem> items) override;
+    void giveUp(qint64 changeCount) override;
     [[nodiscard]] bool notifiesChanges() const override { return true; }
 
     /// Offers what was last written on the primary selection too, for programs that paste from there. False when
