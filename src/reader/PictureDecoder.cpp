@@ -2,6 +2,7 @@
 #include "reader/PictureDecoder.h"
 
 #include "reader/HeifPicture.h"
+#include "reader/PngThumbnail.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -98,6 +99,8 @@ QImage decodeByQt(QByteArrayView file, int longerSide, qint64 maxArea) {
     const QSize size = reader->size();
     if (static_cast<qint64>(size.width()) * size.height() > maxArea)
         return {};
+    if (const QSize smaller = bounded(size, longerSide); pngthumbnail::isFor(file, smaller))
+        return pngthumbnail::shrunk(file, smaller);
     reader->setAutoTransform(true);
     if (size.width() > 0 && size.height() > 0)
         reader->setScaledSize(bounded(size, longerSide));

@@ -49,6 +49,11 @@ QByteArray headerChunk(quint32 width, quint32 height) {
     return pngChunk("IHDR", bytesOf(width, true) + bytesOf(height, true) + QByteArray("\x08\x02\0\0\0", 5));
 }
 
+QByteArray riffChunk(const QByteArray& name, const QByteArray& content) {
+    const QByteArray padding(content.size() % 2, '\0');
+    return name + bytesOf(static_cast<quint32>(content.size()), false) + content + padding;
+}
+
 } // namespace
 
 QByteArray encode(const QImage& image, const char* format) {
@@ -86,6 +91,59 @@ QByteArray pngHeader(quint32 width, quint32 height) {
 QByteArray jpegWith(const QByteArray& jpeg, quint8 marker, const QByteArray& content) {
     return jpeg.first(2) + '\xFF' + static_cast<char>(marker) +
            bytesOf(static_cast<quint16>(content.size() + 2), true) + content + jpeg.sliced(2);
+}
+
+QByteArray jpegForPrint() {
+    // Made by ImageMagick: two squares side by side, -colorspace CMYK -sampling-factor 1x1 -quality 60 -strip.
+    return QByteArray::fromHex(
+        "ffd8ffee000e41646f626500640000000002ffdb0043000d090a0b0a080d0b0a0b0e0e0d0f13201513121213271c1e17202e"
+        "2931302e292d2c333a4a3e333646372c2d405741464c4e525352323e5a615a50604a51524fffdb0043010e0e0e1311132615"
+        "15264f352d354f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f4f"
+        "4f4f4f4f4f4fffc00014080008001004011100021101031101041100ffc40016000101010000000000000000000000000005"
+        "0007ffc40014100100000000000000000000000000000000ffc4001501010100000000000000000000000000000705ffc400"
+        "14110100000000000000000000000000000000ffda000e040100021103110400003f007d646cd38e874aa9ffd9");
+}
+
+QByteArray animatedPng(const QList<QImage>& frames) {
+    quint32 number = 0;
+    QByteArray pictures;
+    QByteArray header;
+    for (const QImage& frame : frames) {
+        const QByteArray still = encode(frame.convertToFormat(QImage::Format_RGB32), "PNG");
+        const qsizetype start = still.indexOf("IDAT");
+        const QByteArray data = still.sliced(start + 4, qFromBigEndian<quint32>(still.constData() + start - 4));
+        // Behind place and size: how long it is shown (1/10 s), and what becomes of it.
+        pictures += pngChunk("fcTL", bytesOf(number, true) + bytesOf(static_cast<quint32>(frame.width()), true) +
+                                         bytesOf(static_cast<quint32>(frame.height()), true) + QByteArray(8, '\0') +
+                                         bytesOf<quint16>(1, true) + bytesOf<quint16>(10, true) + QByteArray(2, '\0'));
+        ++number;
+        if (header.isEmpty()) {
+            header = headerChunk(static_cast<quint32>(frame.width()), static_cast<quint32>(frame.height()));
+            pictures += pngChunk("IDAT", data);
+        } else {
+            pictures += pngChunk("fdAT", bytesOf(number, true) + data);
+            ++number;
+        }
+    }
+    const auto count = static_cast<quint32>(frames.size());
+    return pngSignature + header + pngChunk("acTL", bytesOf(count, true) + bytesOf<quint32>(0, true)) + pictures +
+           pngChunk("IEND", QByteArray());
+}
+
+QByteArray animatedWebp(const QList<QImage>& frames) {
+    const auto threeBytes = [](int number) { return bytesOf(static_cast<quint32>(number), false).first(3); };
+    const QSize size = frames.first().size();
+    constexpr char isAnimation = 2;
+    QByteArray chunks = riffChunk("VP8X", isAnimation + QByteArray(3, '\0') + threeBytes(size.width() - 1) +
+                                              threeBytes(size.height() - 1));
+    chunks += riffChunk("ANIM", QByteArray(6, '\0'));
+    for (const QImage& frame : frames) {
+        constexpr qsizetype beforeChunks = 12;
+        const QByteArray still = encode(frame, "WEBP").sliced(beforeChunks);
+        chunks += riffChunk("ANMF", QByteArray(6, '\0') + threeBytes(size.width() - 1) + threeBytes(size.height() - 1) +
+                                        threeBytes(100) + '\0' + still);
+    }
+    return riffChunk("RIFF", "WEBP" + chunks);
 }
 
 QByteArray exif(const QByteArray& comment, bool isBigEndian) {

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QList>
 
 /// Picture files for tests, made by Qt or by hand.
 namespace vellumry::picturebytes {
@@ -19,6 +20,13 @@ namespace vellumry::picturebytes {
 [[nodiscard]] QByteArray pngHeader(quint32 width, quint32 height);
 /// `jpeg` with a segment behind its start.
 [[nodiscard]] QByteArray jpegWith(const QByteArray& jpeg, quint8 marker, const QByteArray& content);
+
+/// A JPEG of 16 x 8 pixels in the four inks of print, its left half red, its right half blue.
+[[nodiscard]] QByteArray jpegForPrint();
+
+/// Animations of these frames, which are all of one size.
+[[nodiscard]] QByteArray animatedPng(const QList<QImage>& frames);
+[[nodiscard]] QByteArray animatedWebp(const QList<QImage>& frames);
 
 /// A TIFF-like EXIF block with this user comment, its coding in front.
 [[nodiscard]] QByteArray exif(const QByteArray& comment, bool isBigEndian);
