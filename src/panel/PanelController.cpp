@@ -68,6 +68,7 @@ void PanelController::makeView() {
     applyLook();
     m_view->setInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&m_facade)}});
     m_view->setSource(QUrl(QStringLiteral("qrc:/vellumry/Vellumry/Panel/PanelView.qml")));
+    m_facade.setDormant(true);
 }
 
 void PanelController::warmUp() {
@@ -104,6 +105,7 @@ void PanelController::show() {
     m_model.prepareForShow();
     warmUp();
     applyLook();
+    m_facade.setDormant(false);
     m_facade.present();
     std::optional<QRect> frame;
     if (const std::optional<ScreenPlace> screen = m_surface->screenUnderPointer()) {
@@ -120,6 +122,7 @@ void PanelController::hide() {
         return;
     m_model.setPresented(false);
     m_surface->dismiss(m_view.get());
+    m_facade.setDormant(true);
 }
 
 void PanelController::toggle() {

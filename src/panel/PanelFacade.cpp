@@ -14,6 +14,11 @@ namespace vellumry {
 
 namespace {
 
+using namespace std::chrono_literals;
+
+/// As long as the rows of a hidden panel may show what was deleted.
+constexpr auto catchUpDelay = 500ms;
+
 QVariantMap hint(const QString& keys, const QString& text) {
     return {{QStringLiteral("keys"), keys}, {QStringLiteral("text"), text}};
 }
@@ -50,10 +55,12 @@ PanelFacade::PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::functio
         Q_EMIT queryChanged();
     });
     connect(m_model, &PanelModel::filterChanged, this, &PanelFacade::filterChanged);
-    connect(m_model, &PanelModel::sectionsChanged, this, &PanelFacade::contentChanged);
-    connect(m_model, &PanelModel::sectionsChanged, this, &PanelFacade::primaryRowChanged);
-    connect(m_model, &PanelModel::selectionChanged, this, &PanelFacade::primaryRowChanged);
-    connect(m_model, &PanelModel::selectionChanged, this, &PanelFacade::hintsChanged);
+    connect(m_model, &PanelModel::sectionsChanged, this, &PanelFacade::tellContent);
+    connect(m_model, &PanelModel::selectionChanged, this, &PanelFacade::tellSelection);
+    m_catchUp.setSingleShot(true);
+    m_catchUp.setInterval(catchUpDelay);
+    connect(&m_catchUp, &QTimer::timeout, this, &PanelFacade::catchUp);
+    connect(&m_rows, &PanelListModel::fellBehind, &m_catchUp, qOverload<>(&QTimer::start));
     connect(m_model, &PanelModel::focusTokenChanged, this, &PanelFacade::focusTokenChanged);
     connect(m_model, &PanelModel::transformChanged, this, &PanelFacade::transformChanged);
 }
@@ -117,6 +124,36 @@ void PanelFacade::copyFromField(const QString& text) {
 void PanelFacade::present() {
     ++m_showing;
     Q_EMIT presented();
+}
+
+void PanelFacade::setDormant(bool isDormant) {
+    if (isDormant == m_rows.isDormant())
+        return;
+    m_rows.setDormant(isDormant);
+    if (!isDormant)
+        catchUp();
+}
+
+void PanelFacade::catchUp() {
+    m_catchUp.stop();
+    m_rows.catchUp();
+    Q_EMIT contentChanged();
+    Q_EMIT primaryRowChanged();
+    Q_EMIT hintsChanged();
+}
+
+void PanelFacade::tellContent() {
+    if (m_rows.isDormant())
+        return;
+    Q_EMIT contentChanged();
+    Q_EMIT primaryRowChanged();
+}
+
+void PanelFacade::tellSelection() {
+    if (m_rows.isDormant())
+        return;
+    Q_EMIT primaryRowChanged();
+    Q_EMIT hintsChanged();
 }
 
 void PanelFacade::rowHovered(int row) {

@@ -8,6 +8,7 @@
 #include <QCoroTask>
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <QVariant>
 #include <functional>
 #include <optional>
@@ -75,6 +76,9 @@ public:
 
     /// To be called when the panel comes up.
     void present();
+    /// While the panel is hidden its rows are drawn for nobody: they follow a burst of changes together, shortly after.
+    /// Waking up is at once up to date.
+    void setDormant(bool isDormant);
 
     /// The pointer took hold of an empty part, moved, let go.
     std::function<void()> onGrabbed = [] {};
@@ -96,6 +100,9 @@ Q_SIGNALS:
 
 private:
     void searchTyped();
+    void catchUp();
+    void tellContent();
+    void tellSelection();
 
     QCoro::Task<void> fetchPasted(int showing);
 
@@ -103,6 +110,7 @@ private:
     FieldPasteboard m_pasteboard;
     std::function<QString()> m_openPanelKeys;
     PanelListModel m_rows;
+    QTimer m_catchUp;
     std::optional<QString> m_typed; ///< and not yet searched for
     int m_shadowMargin = 0;
     bool m_collapsesOnRelease = false;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace vellumry {
 
@@ -14,11 +15,29 @@ PanelListModel::PanelListModel(PanelModel& model, KeyWords words, QObject* paren
     : QAbstractListModel(parent)
     , m_model(&model)
     , m_words(std::move(words)) {
-    connect(m_model, &PanelModel::sectionsChanged, this, &PanelListModel::rebuild);
-    connect(m_model, &PanelModel::fileStatusesChanged, this, &PanelListModel::rebuild);
-    connect(m_model, &PanelModel::availablePinnedNumbersChanged, this, &PanelListModel::rebuild);
+    connect(m_model, &PanelModel::sectionsChanged, this, &PanelListModel::follow);
+    connect(m_model, &PanelModel::fileStatusesChanged, this, &PanelListModel::follow);
+    connect(m_model, &PanelModel::availablePinnedNumbersChanged, this, &PanelListModel::follow);
     connect(m_model, &PanelModel::selectionChanged, this, &PanelListModel::repaintSelection);
     rebuild();
+}
+
+void PanelListModel::setDormant(bool isDormant) {
+    m_isDormant = isDormant;
+    if (!isDormant)
+        catchUp();
+}
+
+void PanelListModel::catchUp() {
+    if (std::exchange(m_isBehind, false))
+        rebuild();
+}
+
+void PanelListModel::follow() {
+    if (!m_isDormant)
+        rebuild();
+    else if (!std::exchange(m_isBehind, true))
+        Q_EMIT fellBehind();
 }
 
 void PanelListModel::rebuild() {
@@ -65,7 +84,9 @@ void PanelListModel::replaceRows(std::vector<Row> rows) {
 }
 
 void PanelListModel::repaintSelection() {
-    if (!m_rows.empty())
+    if (m_isDormant)
+        follow();
+    else if (!m_rows.empty())
         Q_EMIT dataChanged(index(0), index(static_cast<int>(m_rows.size()) - 1), {IsSelectedRole});
 }
 

@@ -10,7 +10,8 @@
 namespace vellumry {
 
 /// The panel model's sections as the rows of a list: a header, then its clips. A change rebinds the rows that stay and
-/// adds or removes at the end, so that a keystroke makes no delegate anew. Main thread.
+/// adds or removes at the end, so that a keystroke makes no delegate anew. While nobody sees the list it may lie
+/// dormant: it then falls behind the model until told to catch up. Main thread.
 class PanelListModel : public QAbstractListModel {
     Q_OBJECT
 
@@ -51,12 +52,23 @@ public:
     /// -1 without one.
     [[nodiscard]] int primaryRow() const;
 
+    /// Waking up catches up.
+    void setDormant(bool isDormant);
+    [[nodiscard]] bool isDormant() const { return m_isDormant; }
+    /// Follows once what has changed since it lay dormant; deleted clips are held until then.
+    void catchUp();
+
+Q_SIGNALS:
+    /// The first change since it was last up to date came while dormant.
+    void fellBehind();
+
 private:
     struct Row {
         QString header; ///< of a header; may be empty
         ClipRef clip;   ///< null for a header
     };
 
+    void follow();
     void rebuild();
     void replaceRows(std::vector<Row> rows);
     void repaintSelection();
@@ -71,6 +83,8 @@ private:
     std::vector<int> m_headers; ///< the rows that are headers, ascending
     QHash<QUuid, int> m_rowNumbers;
     QHash<QUuid, int> m_pinNumbers;
+    bool m_isDormant = false;
+    bool m_isBehind = false;
 };
 
 } // namespace vellumry

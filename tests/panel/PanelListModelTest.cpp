@@ -107,3 +107,33 @@ TEST_F(PanelListModelTest, APictureIsNamedByItsClip) {
     EXPECT_EQ(rows.data(rows.index(1), PanelListModel::ThumbnailRole).toString(),
               QStringLiteral("image://thumbnail/") + clip->id.toString(QUuid::WithoutBraces));
 }
+
+TEST_F(PanelListModelTest, WhileDormantItFallsBehindOnceAndCatchesUpWhenWoken) {
+    add(drafts::text(QStringLiteral("first")), today);
+    rows.setDormant(true);
+    QSignalSpy changes(&rows, &QAbstractItemModel::dataChanged);
+    QSignalSpy behind(&rows, &PanelListModel::fellBehind);
+    add(drafts::text(QStringLiteral("second")), today + 1);
+    add(drafts::text(QStringLiteral("third")), today + 2);
+    model.prepareForShow();
+    EXPECT_EQ(rows.rowCount(), 2);
+    EXPECT_EQ(changes.count(), 0);
+    EXPECT_EQ(behind.count(), 1);
+    rows.setDormant(false);
+    EXPECT_EQ(changes.count(), 1);
+    EXPECT_EQ(column(PanelListModel::TitleRole),
+              (QStringList{QString(), QStringLiteral("third"), QStringLiteral("second"), QStringLiteral("first")}));
+    EXPECT_TRUE(rows.data(rows.index(1), PanelListModel::IsSelectedRole).toBool());
+}
+
+TEST_F(PanelListModelTest, CatchingUpWhileDormantLetsGoOfWhatWasDeleted) {
+    std::weak_ptr<const Clip> clip = add(drafts::text(QStringLiteral("gone")), today);
+    rows.setDormant(true);
+    awaited(store.remove({clip.lock()->id}, false));
+    EXPECT_FALSE(clip.expired());
+    rows.catchUp();
+    EXPECT_EQ(rows.rowCount(), 0);
+    QSignalSpy behind(&rows, &PanelListModel::fellBehind);
+    add(drafts::text(QStringLiteral("next")), today);
+    EXPECT_EQ(behind.count(), 1) << "it is told again after it caught up";
+}
