@@ -26,6 +26,9 @@ public:
     /// made by then stays out). A thumbnail or bookmark that cannot be made is left out. `now` names screenshots.
     [[nodiscard]] QCoro::Task<std::optional<ClipDraft>> build(ClipPayload payload, SourceApp source, Date now) const;
 
+    /// A picture is among what will be built from: its decoder starts while the bytes still arrive.
+    void expectPicture() const { m_images->prepare(); }
+
 private:
     const FileBookmarks* m_bookmarks;
     ImageCodec* m_images;

@@ -58,6 +58,13 @@ std::vector<Wanted> plan(const std::vector<QStringList>& itemTypes) {
     return wanted;
 }
 
+bool holdsPicture(const std::vector<QStringList>& itemTypes) {
+    return std::ranges::any_of(itemTypes, [](const QStringList& types) {
+        return std::ranges::any_of(pasteboardtype::imageTypes(),
+                                   [&types](const QString& type) { return types.contains(type); });
+    });
+}
+
 /// The items that have anything, each with its types in the owner's order.
 ClipPayload payloadOf(std::vector<PasteboardItem> items, const std::vector<QStringList>& itemTypes) {
     ClipPayload payload;
@@ -79,10 +86,12 @@ ClipPayload payloadOf(std::vector<PasteboardItem> items, const std::vector<QStri
 }
 
 /// The bytes of every item; nothing when there are none, or more than the total limit.
-QCoro::Task<std::optional<ClipPayload>> takeSnapshot(std::shared_ptr<PasteboardReading> reading,
+QCoro::Task<std::optional<ClipPayload>> takeSnapshot(std::shared_ptr<PasteboardReading> reading, DraftBuilder builder,
                                                      SnapshotLimits limits) {
     auto asking = reading->itemTypes();
     const std::vector<QStringList> itemTypes = co_await asking;
+    if (holdsPicture(itemTypes))
+        builder.expectPicture();
     std::vector<PasteboardItem> items(itemTypes.size());
     qint64 total = 0;
     bool areRenderingsTooLarge = false;
@@ -124,7 +133,7 @@ QCoro::Task<std::optional<ClipDraft>> readDraft(Pasteboard* pasteboard, DraftBui
     if (isRefused(reading->types(), request))
         co_return std::nullopt;
 
-    auto snapshot = takeSnapshot(reading, request.limits);
+    auto snapshot = takeSnapshot(reading, builder, request.limits);
     std::optional<ClipPayload> payload = co_await snapshot;
     // A copy that was replaced while it was read may lack anything; one that ran out of time lacks what hangs.
     const bool wasReplaced = !reading->isCurrent() && pasteboard->changeCount() != request.changeCount;

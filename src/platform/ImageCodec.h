@@ -25,6 +25,9 @@ struct ImageSummary {
 class ImageCodec {
 public:
     virtual ~ImageCodec() = default;
+    /// A picture is on its way: whatever must be started to open it starts now, while its bytes still arrive. Returns
+    /// at once, and is worth calling only when one really comes.
+    virtual void prepare() {}
     /// An empty summary for bytes that are no picture, and when the decoder died or took too long.
     [[nodiscard]] virtual QCoro::Task<ImageSummary> summarise(QByteArray image, int thumbnailPixels) = 0;
 };

@@ -115,8 +115,9 @@ void giveUpCalls() {
 
 } // namespace
 
-void enter() {
-    (void)setpriority(PRIO_PROCESS, 0, lowestPriority);
+void enter(Urgency urgency) {
+    if (urgency == Urgency::background)
+        (void)setpriority(PRIO_PROCESS, 0, lowestPriority);
     close_range(STDERR_FILENO + 1, ~0U, 0);
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_NOFILE, descriptors);

@@ -5,9 +5,12 @@
 
 namespace vellumry::readersandbox {
 
-/// Gives up what the reader process does not need, for good: priority, memory beyond 2 GiB, descriptors besides the
-/// standard ones, new privileges, core dumps. Before anything else in `main`.
-void enter();
+/// Whether somebody waits for what the reader does.
+enum class Urgency { awaited, background };
+
+/// Gives up what the reader process does not need, for good: in the background all priority, memory beyond 2 GiB,
+/// descriptors besides the standard ones, new privileges, core dumps. Before anything else in `main`.
+void enter(Urgency urgency);
 
 /// Gives up the rest once all decoders are loaded: the file system (Landlock, Linux 5.13), the network, other processes
 /// and new programs (seccomp). What lies in `readableFolder` can still be read; empty: nothing can. What the kernel

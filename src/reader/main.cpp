@@ -20,14 +20,17 @@ void silenceErrors() {
 
 } // namespace
 
-/// `vellumry-reader`: opens pictures. `vellumry-reader text`: reads the text in them too.
+/// `vellumry-reader`: opens pictures; a copy is not kept before its thumbnail is made, so it is as urgent as any
+/// program. `vellumry-reader text`: reads the text in them too, behind everything else.
 int main(int argc, char** argv) {
-    readersandbox::enter();
+    using readersandbox::Urgency;
+    const bool readsText = argc > 1 && std::string_view(argv[1]) == "text";
+    readersandbox::enter(readsText ? Urgency::background : Urgency::awaited);
     // Tells Qt where its decoders are; there is no event loop.
     const QCoreApplication application(argc, argv);
     std::unique_ptr<PictureReader> pictureReader;
     std::string languages;
-    if (argc > 1 && std::string_view(argv[1]) == "text") {
+    if (readsText) {
         silenceErrors();
         pictureReader = PictureReader::create();
         languages = pictureReader ? pictureReader->dataFolder().toStdString() : std::string();

@@ -263,5 +263,17 @@ TEST_F(PasteboardSnapshotTest, AHundredThousandFilesAreRead) {
     EXPECT_EQ(draft->files.back().path, QStringLiteral("/tmp/99999"));
 }
 
+TEST_F(PasteboardSnapshotTest, ADecoderIsStartedForPicturesThatAreTaken) {
+    pasteboard.copy({item({{text, "hi"}, {uniformtype::png, "picture"}})});
+    ASSERT_TRUE(read());
+    EXPECT_EQ(images.preparations, 1);
+    pasteboard.copy({item({{text, "hi"}, {privateType, "picture"}})});
+    ASSERT_TRUE(read());
+    EXPECT_EQ(images.preparations, 1) << "text alone";
+    pasteboard.copy({item({{uniformtype::concealed, ""}, {uniformtype::png, "picture"}})});
+    ASSERT_FALSE(read());
+    EXPECT_EQ(images.preparations, 1) << "a copy that is refused";
+}
+
 } // namespace
 } // namespace vellumry

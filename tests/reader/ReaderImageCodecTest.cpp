@@ -81,6 +81,17 @@ TEST(ReaderImageCodec, NothingIsStartedForNothing) {
     EXPECT_TRUE(children().isEmpty());
 }
 
+TEST(ReaderImageCodec, AReaderStartedAheadServesThePictureThatComes) {
+    ReaderImageCodec codec(realReader);
+    codec.prepare();
+    runUntil([] { return !children().isEmpty(); });
+    const QList<QByteArray> first = children();
+    ASSERT_EQ(first.size(), 1);
+    codec.prepare();
+    EXPECT_EQ(awaited(codec.summarise(encode(twoColours(10, 20), "PNG"), 160)).pixelSize, QSize(10, 20));
+    EXPECT_EQ(children(), first);
+}
+
 TEST(ReaderImageCodec, RequestsMadeTogetherAreAnsweredEachForItself) {
     ReaderImageCodec codec(realReader);
     auto first = codec.summarise(encode(twoColours(10, 20), "PNG"), 160);

@@ -18,7 +18,7 @@ template <typename Check>
 bool holdsInside(Check check) {
     const pid_t child = fork();
     if (child == 0) {
-        readersandbox::enter();
+        readersandbox::enter(readersandbox::Urgency::background);
         readersandbox::seal();
         _exit(check() ? 0 : 1);
     }
@@ -34,7 +34,7 @@ TEST(ReaderSandbox, NoFileCanBeOpened) {
 TEST(ReaderSandbox, OneFolderStaysReadableAndNothingElse) {
     const pid_t child = fork();
     if (child == 0) {
-        readersandbox::enter();
+        readersandbox::enter(readersandbox::Urgency::background);
         readersandbox::seal("/usr/share");
         const bool reads = open("/usr/share", O_RDONLY | O_DIRECTORY) >= 0;
         const bool refuses = open("/etc/passwd", O_RDONLY) < 0 && open("/usr/share/x", O_WRONLY | O_CREAT, 0600) < 0;
@@ -76,10 +76,22 @@ TEST(ReaderSandbox, ItIsTheLastInLineAndLeavesNoCore) {
     }));
 }
 
+TEST(ReaderSandbox, WhereSomebodyWaitsItKeepsItsPlace) {
+    const int before = getpriority(PRIO_PROCESS, 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        readersandbox::enter(readersandbox::Urgency::awaited);
+        _exit(getpriority(PRIO_PROCESS, 0) == before ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+}
+
 TEST(ReaderSandbox, ADecoderThatNeverEndsIsEnded) {
     const pid_t child = fork();
     if (child == 0) {
-        readersandbox::enter();
+        readersandbox::enter(readersandbox::Urgency::background);
         readersandbox::allowProcessorSeconds(0);
         for (;;)
             (void)getppid();

@@ -20,6 +20,9 @@ public:
     ImageSummary summary;          ///< the answer; empty at first, as for bytes that are no picture
     std::vector<Request> requests; ///< in the order in which they came
 
+    int preparations = 0; ///< how often it was told that a picture comes
+
+    void prepare() override { ++preparations; }
     [[nodiscard]] QCoro::Task<ImageSummary> summarise(QByteArray image, int thumbnailPixels) override {
         requests.push_back({std::move(image), thumbnailPixels});
         co_return summary;

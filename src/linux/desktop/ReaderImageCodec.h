@@ -10,11 +10,13 @@ namespace vellumry {
 /// gives an empty summary; the next one meets a fresh reader. Main thread.
 class ReaderImageCodec : public ImageCodec {
 public:
-    /// `readerPath` is the program. Nothing is started before the first picture.
+    /// `readerPath` is the program. Nothing is started before the first
+    /// picture, or the word that one comes.
     explicit ReaderImageCodec(QString readerPath, std::chrono::milliseconds deadline = std::chrono::seconds(10))
-        : m_worker(std::move(readerPath))
+        : m_worker(std::move(readerPath), {}, ReaderWorker::Urgency::awaited)
         , m_deadline(deadline) {}
 
+    void prepare() override { m_worker.prepare(); }
     [[nodiscard]] QCoro::Task<ImageSummary> summarise(QByteArray image, int thumbnailPixels) override;
 
 private:

@@ -87,6 +87,11 @@ ReaderProcess::~ReaderProcess() {
     finish();
 }
 
+void ReaderProcess::prepare() {
+    if (!m_isInterrupted && !isRunning())
+        (void)start();
+}
+
 ReaderProcess::Answer ReaderProcess::ask(const QByteArray& picture, readerprotocol::Operation operation, int pixels,
                                          std::chrono::milliseconds deadline) {
     const Descriptor file = memoryFileOf(picture);

@@ -27,6 +27,9 @@ public:
     /// receiver owns it and calls `reap` then, so that a process that went away idle does not stay a zombie.
     std::function<void(readersocket::Descriptor)> onStarted;
 
+    /// Starts the process unless it runs.
+    void prepare();
+
     struct Answer {
         std::optional<readerprotocol::Reply> reply; ///< nothing when the process could not be started, died or was late
         bool wasLate = false;

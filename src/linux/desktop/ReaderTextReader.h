@@ -13,7 +13,7 @@ class ReaderTextReader : public TextReader {
 public:
     /// `readerPath` is the program. Nothing is started before the first picture.
     explicit ReaderTextReader(QString readerPath)
-        : m_worker(std::move(readerPath), QByteArrayLiteral("text")) {}
+        : m_worker(std::move(readerPath), QByteArrayLiteral("text"), ReaderWorker::Urgency::background) {}
 
     [[nodiscard]] QCoro::Task<Reading> read(QByteArray image, Mode mode, int maxPixelSize,
                                             std::chrono::milliseconds timeLimit) override;

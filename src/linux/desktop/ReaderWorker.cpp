@@ -6,8 +6,9 @@
 
 namespace vellumry {
 
-ReaderWorker::ReaderWorker(QString readerPath, QByteArray argument)
-    : m_process(std::make_unique<ReaderProcess>(std::move(readerPath), std::move(argument))) {
+ReaderWorker::ReaderWorker(QString readerPath, QByteArray argument, Urgency urgency)
+    : m_process(std::make_unique<ReaderProcess>(std::move(readerPath), std::move(argument)))
+    , m_executor("reader", urgency == Urgency::background) {
     m_process->onStarted = [this, life = std::weak_ptr(m_life)](readersocket::Descriptor end) {
         postToMain([this, life, handle = std::make_shared<readersocket::Descriptor>(std::move(end))] {
             if (!life.expired())
@@ -18,6 +19,10 @@ ReaderWorker::ReaderWorker(QString readerPath, QByteArray argument)
 
 ReaderWorker::~ReaderWorker() {
     m_process->interrupt();
+}
+
+void ReaderWorker::prepare() {
+    m_executor.post([process = m_process.get()] { process->prepare(); });
 }
 
 QCoro::Task<ReaderProcess::Answer> ReaderWorker::ask(QByteArray picture, readerprotocol::Operation operation,

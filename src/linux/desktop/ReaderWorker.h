@@ -16,13 +16,20 @@ namespace vellumry {
 /// Without requests there is no reader and no timer. Main thread.
 class ReaderWorker {
 public:
+    enum class Urgency {
+        awaited,   ///< the user's copy is not kept before the answer is there
+        background ///< the thread, and with it the reader, comes behind everything that the user waits for
+    };
+
     /// `readerPath` is the program, started with `argument` unless that is empty, and not before the first picture.
-    explicit ReaderWorker(QString readerPath, QByteArray argument = {});
+    ReaderWorker(QString readerPath, QByteArray argument, Urgency urgency);
     /// Ends the reader; pictures not yet answered get no answer.
     ~ReaderWorker();
     ReaderWorker(const ReaderWorker&) = delete;
     ReaderWorker& operator=(const ReaderWorker&) = delete;
 
+    /// Starts the reader unless it runs, so that it is ready when a picture comes. Returns at once.
+    void prepare();
     /// As ReaderProcess::ask; the deadline counts from the moment that the picture's turn comes. The worker may be gone
     /// when the task ends.
     [[nodiscard]] QCoro::Task<ReaderProcess::Answer> ask(QByteArray picture, readerprotocol::Operation operation,
@@ -36,7 +43,7 @@ private:
     std::unique_ptr<QSocketNotifier> m_endNotifier;
     std::shared_ptr<bool> m_life = std::make_shared<bool>(true);
     /// Last, so that it is joined before anything that its jobs use goes.
-    SerialExecutor m_executor{"reader", true};
+    SerialExecutor m_executor;
 };
 
 } // namespace vellumry

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/TargetCoding.h"
 
-#include "foundation/Text.h"
 #include "foundation/UniformType.h"
 
 #include <QStringDecoder>
@@ -33,7 +32,7 @@ std::optional<QByteArray> decodeText(const QString& target, const QString& prope
         return QString::fromLatin1(bytes).toUtf8();
     }
     // text/plain does not name its encoding: UTF-8 where it can be that.
-    if (text::fromUtf8(bytes))
+    if (bytes.isValidUtf8())
         return bytes;
     return QString::fromLatin1(bytes).toUtf8();
 }
