@@ -105,6 +105,10 @@ std::vector<ClipRef> ClipSearch::search(const std::vector<ClipRef>& clips, const
     return gathered(clips, isMatch);
 }
 
+void ClipSearch::forgetQuery() {
+    d->found.reset();
+}
+
 void ClipSearch::forgetText(const QUuid& id) {
     const auto known = d->slotOf.constFind(id);
     if (known == d->slotOf.constEnd())

@@ -29,6 +29,8 @@ public:
     [[nodiscard]] std::vector<ClipRef> search(const std::vector<ClipRef>& clips, const QString& query,
                                               ClipFilter filter, std::optional<qint64> revision = std::nullopt);
 
+    /// Wipes the last query. What was folded stays.
+    void forgetQuery();
     /// Wipes what was folded of the clip. Call it when anything of its text changed, and when the clip went.
     void forgetText(const QUuid& id);
     /// Wipes the keys of the clip's image text. Call it when that text changed, and when the clip went.

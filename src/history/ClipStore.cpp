@@ -224,4 +224,8 @@ std::vector<ClipRef> ClipStore::search(const QString& query, ClipFilter filter) 
     return d->search->search(clips(), query, filter, d->revision);
 }
 
+void ClipStore::forgetSearch() {
+    d->search->forgetQuery();
+}
+
 } // namespace vellumry

@@ -43,6 +43,9 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, Pasteboa
     m_settle.setSingleShot(true);
     m_settle.setInterval(m_hooks.settleDelay);
     connect(&m_settle, &QTimer::timeout, this, &PanelController::settlePosition);
+    m_forget.setSingleShot(true);
+    m_forget.setInterval(m_hooks.forgetDelay);
+    connect(&m_forget, &QTimer::timeout, this, &PanelController::forgetTyped);
     m_surface->onFocusLost = [this](QWindow* window) {
         if (m_view && window == m_view.get())
             hide();
@@ -102,6 +105,7 @@ bool PanelController::isVisible() const {
 void PanelController::show() {
     if (isVisible())
         return;
+    m_forget.stop();
     m_model.prepareForShow();
     warmUp();
     applyLook();
@@ -122,7 +126,16 @@ void PanelController::hide() {
         return;
     m_model.setPresented(false);
     m_surface->dismiss(m_view.get());
+    m_forget.start();
     m_facade.setDormant(true);
+}
+
+/// Who looks for a secret types or pastes it into the field, where it would stay until the panel is opened again; and
+/// in the strings that QML made of it until chance calls for memory.
+void PanelController::forgetTyped() {
+    m_model.setQuery({});
+    m_model.store().forgetSearch();
+    m_views->engine().collectGarbage();
 }
 
 void PanelController::toggle() {

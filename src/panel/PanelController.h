@@ -39,6 +39,8 @@ public:
         std::function<void(const ToastMessage&)> showToast;
         /// How long after the pointer let go the place is remembered.
         std::chrono::milliseconds settleDelay{120};
+        /// How long after closing the panel lets go of what was typed into it.
+        std::chrono::milliseconds forgetDelay{500};
     };
 
     /// Everything but the hooks must outlive this.
@@ -70,6 +72,7 @@ private:
     void drag();
     void drop();
     void settlePosition();
+    void forgetTyped();
 
     PanelModel m_model;
     PanelFacade m_facade;
@@ -81,6 +84,8 @@ private:
     /// Saves the place a moment after the pointer let go.
     QTimer m_settle;
     QPoint m_grabOffset;
+    /// Lets go of what was typed a moment after the panel closed, out of the way of a paste.
+    QTimer m_forget;
 };
 
 } // namespace vellumry

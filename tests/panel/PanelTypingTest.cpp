@@ -3,6 +3,7 @@
 #include "panel/PanelWindowWorld.h"
 
 #include <QKeyEvent>
+#include <QPointer>
 #include <QSignalSpy>
 
 using namespace vellumry;
@@ -72,4 +73,31 @@ TEST_F(PanelTypingTest, AFilterChosenWhileTypingKeepsWhatWasTyped) {
     turn();
     EXPECT_EQ(panel.model().query(), QStringLiteral("ab"));
     EXPECT_EQ(panel.model().filter(), ClipFilter::images);
+}
+
+TEST_F(PanelTypingTest, WhatWasTypedIsForgottenWhenThePanelHasClosed) {
+    typeWaitingKeys({Qt::Key_A, Qt::Key_B});
+    turn();
+    const QPointer<QQuickItem> field = view()->activeFocusItem();
+    ASSERT_EQ(field->property("text").toString(), QStringLiteral("ab"));
+    panel.hide();
+    // The field goes with what it would undo.
+    runUntil([&] { return !field && panel.model().query().isEmpty(); });
+    open();
+    ASSERT_TRUE(view()->activeFocusItem());
+    EXPECT_EQ(view()->activeFocusItem()->property("text").toString(), QString());
+    typeWaitingKeys({Qt::Key_C});
+    turn();
+    EXPECT_EQ(panel.model().query(), QStringLiteral("c"));
+}
+
+TEST_F(PanelTypingTest, WhatIsTypedIntoAPanelThatWasOpenedAgainAtOnceStays) {
+    panel.hide();
+    open();
+    typeWaitingKeys({Qt::Key_A, Qt::Key_B});
+    turn();
+    const QPointer<QQuickItem> field = view()->activeFocusItem();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(field);
+    EXPECT_EQ(panel.model().query(), QStringLiteral("ab"));
 }

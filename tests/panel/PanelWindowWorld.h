@@ -34,6 +34,7 @@ protected:
         hooks.openPanelKeys = [] { return QStringLiteral("Super+V"); };
         hooks.showToast = [this](const ToastMessage& toast) { toasts.push_back(toast); };
         hooks.settleDelay = std::chrono::milliseconds(0);
+        hooks.forgetDelay = std::chrono::milliseconds(0);
         return hooks;
     }
 
