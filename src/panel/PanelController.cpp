@@ -17,6 +17,7 @@ namespace {
 
 constexpr int shadowRoom = 40;
 constexpr int cornerRadius = 14;
+constexpr int fadeIn = 120; // milliseconds
 const QString thumbnails = QStringLiteral("thumbnail");
 
 /// Round corners for windows that cannot blend.
@@ -40,6 +41,10 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, Pasteboa
     m_facade.onGrabbed = [this] { grab(); };
     m_facade.onDragged = [this] { drag(); };
     m_facade.onDropped = [this] { drop(); };
+    m_fade.setPropertyName("opacity");
+    m_fade.setStartValue(0.0);
+    m_fade.setEndValue(1.0);
+    m_fade.setDuration(fadeIn);
     m_settle.setSingleShot(true);
     m_settle.setInterval(m_hooks.settleDelay);
     connect(&m_settle, &QTimer::timeout, this, &PanelController::settlePosition);
@@ -68,6 +73,7 @@ void PanelController::makeView() {
                                            return clip ? clip->thumbnail : std::nullopt;
                                        }));
     m_surface->adopt(m_view.get());
+    m_fade.setTargetObject(m_view.get());
     applyLook();
     m_view->setInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&m_facade)}});
     m_view->setSource(QUrl(QStringLiteral("qrc:/vellumry/Vellumry/Panel/PanelView.qml")));
@@ -86,6 +92,10 @@ void PanelController::applyLook() {
     const QSize size = panelSize + QSize(2 * m_shadowMargin, 2 * m_shadowMargin);
     m_view->resize(size);
     m_view->setMask(m_shadowMargin > 0 ? QRegion() : roundedMask(size));
+    // The edge of a mask is not smooth: what shows there of the window's own ground would be black.
+    const QQuickItem* root = m_view->rootObject();
+    const bool isBare = m_shadowMargin > 0 || root == nullptr;
+    m_view->setColor(isBare ? QColor(Qt::transparent) : root->property("cornerColour").value<QColor>());
     // The shadow is not the panel: a click there is meant for what lies below.
     m_surface->setInputArea(m_view.get(), QRect(QPoint(m_shadowMargin, m_shadowMargin), panelSize));
 }
@@ -96,6 +106,10 @@ QRect PanelController::windowFrame(const QRectF& panel) const {
 
 QRectF PanelController::panelFrame() const {
     return QRectF(m_view->geometry()).adjusted(m_shadowMargin, m_shadowMargin, -m_shadowMargin, -m_shadowMargin);
+}
+
+bool PanelController::fades() const {
+    return m_surface->canBlend() && !m_surface->reducesMotion();
 }
 
 bool PanelController::isVisible() const {
@@ -116,18 +130,24 @@ void PanelController::show() {
         const auto saved = m_hooks.position(screen->key);
         frame = windowFrame(placement::placement(saved, panelSize, screen->visible));
     }
+    if (fades())
+        m_view->setOpacity(0);
     m_surface->present(m_view.get(), frame);
     m_model.setPresented(true);
     onShow();
+    if (fades())
+        m_fade.start();
 }
 
 void PanelController::hide() {
+    m_facade.setDormant(true);
     if (!isVisible())
         return;
     m_model.setPresented(false);
+    m_fade.stop();
     m_surface->dismiss(m_view.get());
+    m_view->setOpacity(1);
     m_forget.start();
-    m_facade.setDormant(true);
 }
 
 /// Who looks for a secret types or pastes it into the field, where it would stay until the panel is opened again; and

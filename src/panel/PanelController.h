@@ -8,6 +8,7 @@
 #include "platform/PanelSurface.h"
 
 #include <QObject>
+#include <QPropertyAnimation>
 #include <QTimer>
 #include <chrono>
 #include <functional>
@@ -50,7 +51,8 @@ public:
 
     [[nodiscard]] PanelModel& model() { return m_model; }
 
-    /// Does nothing when the panel is visible already.
+    /// Does nothing when the panel is visible already. It fades in where windows can be translucent and the user wants
+    /// motion; it takes keys from the start.
     void show();
     /// Does nothing when it is not.
     void hide();
@@ -59,6 +61,8 @@ public:
     /// Makes the window without showing it, so that the first showing is as quick as the others.
     void warmUp();
     void setAppearance(Appearance appearance) { m_views->setAppearance(appearance); }
+    /// The stack that the panel's button starts and stops.
+    void setStack(PasteStack& stack) { m_facade.setStack(stack); }
 
     /// Called after the panel came up.
     std::function<void()> onShow = [] {};
@@ -66,6 +70,7 @@ public:
 private:
     void makeView();
     void applyLook();
+    [[nodiscard]] bool fades() const;
     [[nodiscard]] QRect windowFrame(const QRectF& panel) const;
     [[nodiscard]] QRectF panelFrame() const;
     void grab();
@@ -80,6 +85,7 @@ private:
     ViewEngine* m_views;
     Hooks m_hooks;
     std::unique_ptr<QQuickView> m_view;
+    QPropertyAnimation m_fade; ///< of the view's opacity, which the compositor applies: nothing is drawn anew for it
     int m_shadowMargin = 0;
     /// Saves the place a moment after the pointer let go.
     QTimer m_settle;

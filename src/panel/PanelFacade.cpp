@@ -5,9 +5,9 @@
 #include "foundation/Text.h"
 #include "history/ClipStore.h"
 #include "panel/KeyTranslation.h"
+#include "paste/PasteStack.h"
 
 #include <QLocale>
-#include <QPointer>
 #include <utility>
 
 namespace vellumry {
@@ -119,6 +119,20 @@ QCoro::Task<void> PanelFacade::fetchPasted(int showing) {
 void PanelFacade::copyFromField(const QString& text) {
     if (!text.isEmpty())
         m_pasteboard.setText(text);
+}
+
+bool PanelFacade::isStackActive() const {
+    return m_stack && m_stack->isActive();
+}
+
+void PanelFacade::setStack(PasteStack& stack) {
+    m_stack = &stack;
+    connect(&stack, &PasteStack::changed, this, &PanelFacade::stackChanged);
+    Q_EMIT stackChanged();
+}
+
+void PanelFacade::toggleStack() {
+    m_model->onToggleStack(m_model->stackSeed());
 }
 
 void PanelFacade::present() {

@@ -7,6 +7,7 @@
 
 #include <QCoroTask>
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 #include <QTimer>
 #include <QVariant>
@@ -14,6 +15,8 @@
 #include <optional>
 
 namespace vellumry {
+
+class PasteStack;
 
 /// What the panel's QML sees: the model in words and rows, and the raw input handed back to it. Main thread.
 class PanelFacade : public QObject {
@@ -32,6 +35,7 @@ class PanelFacade : public QObject {
     Q_PROPERTY(bool isTransformListOpen READ isTransformListOpen NOTIFY transformChanged)
     Q_PROPERTY(int transformIndex READ transformIndex NOTIFY transformChanged)
     Q_PROPERTY(QStringList transforms READ transforms CONSTANT)
+    Q_PROPERTY(bool isStackActive READ isStackActive NOTIFY stackChanged)
     Q_PROPERTY(int shadowMargin READ shadowMargin NOTIFY shadowMarginChanged)
 
 public:
@@ -50,6 +54,8 @@ public:
     Q_INVOKABLE void rowReleased(int row);
     Q_INVOKABLE void rowDoubleClicked(int row);
     Q_INVOKABLE void transformChosen(int index);
+    /// Starts the Paste Stack, or stops it when it runs.
+    Q_INVOKABLE void toggleStack();
     Q_INVOKABLE void grabbed();
     Q_INVOKABLE void dragged();
     Q_INVOKABLE void dropped();
@@ -71,6 +77,9 @@ public:
     [[nodiscard]] bool isTransformListOpen() const { return m_model->isTransformListOpen(); }
     [[nodiscard]] int transformIndex() const { return m_model->transformIndex(); }
     [[nodiscard]] QStringList transforms() const;
+    [[nodiscard]] bool isStackActive() const;
+    /// The stack that the panel's button stands for; it need not outlive this.
+    void setStack(PasteStack& stack);
     [[nodiscard]] int shadowMargin() const { return m_shadowMargin; }
     void setShadowMargin(int shadowMargin);
 
@@ -93,6 +102,7 @@ Q_SIGNALS:
     void primaryRowChanged();
     void focusTokenChanged();
     void transformChanged();
+    void stackChanged();
     void shadowMarginChanged();
     void presented();
     /// What is to take the place of the field's selection.
@@ -111,6 +121,7 @@ private:
     std::function<QString()> m_openPanelKeys;
     PanelListModel m_rows;
     QTimer m_catchUp;
+    QPointer<PasteStack> m_stack;
     std::optional<QString> m_typed; ///< and not yet searched for
     int m_shadowMargin = 0;
     bool m_collapsesOnRelease = false;

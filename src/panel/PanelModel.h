@@ -152,6 +152,8 @@ public:
     Q_INVOKABLE void addSelectedToStack();
     /// The selected clips by their last use, oldest first.
     [[nodiscard]] std::vector<ClipRef> selectedClipsInCopyOrder() const;
+    /// What a Paste Stack begins with that nobody named clips for: several selected clips, or nothing.
+    [[nodiscard]] std::vector<ClipRef> stackSeed() const;
 
     // Observed fields.
 

@@ -198,6 +198,11 @@ void PanelModel::pasteSelectedOneByOne() {
     onToggleStack(selectedClipsInCopyOrder());
 }
 
+std::vector<ClipRef> PanelModel::stackSeed() const {
+    // One clip is always selected: it says nothing of what the user wants.
+    return selectedIDs().size() < 2 ? std::vector<ClipRef>() : selectedClipsInCopyOrder();
+}
+
 void PanelModel::addSelectedToStack() {
     onAddToStack(selectedClipsInCopyOrder());
 }

@@ -7,6 +7,7 @@ Item {
 
     required property var panel
     readonly property int shadowMargin: panel.shadowMargin
+    readonly property color cornerColour: Look.edge
 
     LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
@@ -53,10 +54,19 @@ Item {
             panel: root.panel
             anchors.left: lens.right
             anchors.leftMargin: 12
-            anchors.right: parent.right
-            anchors.rightMargin: 18
+            anchors.right: stackButton.left
+            anchors.rightMargin: 12
             anchors.top: parent.top
             anchors.topMargin: 15
+        }
+        StackButton {
+            id: stackButton
+            objectName: "stackButton"
+            anchors.right: parent.right
+            anchors.rightMargin: 18
+            anchors.verticalCenter: field.verticalCenter
+            isOn: root.panel.isStackActive
+            onAction: root.panel.toggleStack()
         }
         Rectangle {
             id: line
@@ -101,6 +111,13 @@ Item {
             anchors.bottom: footer.top
             anchors.bottomMargin: 8
             visible: root.panel.isTransformListOpen
+        }
+        HelpBubble {
+            anchors.right: stackButton.right
+            anchors.top: stackButton.bottom
+            anchors.topMargin: 6
+            text: stackButton.help
+            visible: stackButton.isAsking
         }
         FooterBar {
             id: footer

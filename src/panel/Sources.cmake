@@ -28,12 +28,15 @@ qt_add_qml_module(
     EmptyState.qml
     FilterChips.qml
     FooterBar.qml
+    HelpBubble.qml
+    HoverRest.qml
     Keycap.qml
     Look.qml
     PanelView.qml
     Pill.qml
     RowIcon.qml
     SearchField.qml
+    StackButton.qml
     Symbol.qml
     TransformList.qml)
 

@@ -34,15 +34,14 @@ void AppEnvironment::wireStack() {
     m_stack->onFinished = [this] { m_stackHUD->showFinished(); };
     m_stack->onStopped = [this] { m_stackHUD->hide(); };
     m_stackHUD->onStop = [this] { m_stack->stop(); };
+    m_panel->setStack(m_stack->stack());
     m_panel->model().onToggleStack = [this](const std::vector<ClipRef>& clips) { m_stack->toggle(clips); };
     m_panel->model().onAddToStack = [this](const std::vector<ClipRef>& clips) { m_stack->add(clips); };
 }
 
 /// What the shortcut starts the stack with: several selected clips of the open panel.
 std::vector<ClipRef> AppEnvironment::stackSeed() {
-    if (!m_panel->isVisible() || m_panel->model().selectedIDs().size() < 2)
-        return {};
-    return m_panel->model().selectedClipsInCopyOrder();
+    return m_panel->isVisible() ? m_panel->model().stackSeed() : std::vector<ClipRef>();
 }
 
 } // namespace vellumry

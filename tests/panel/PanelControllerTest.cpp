@@ -116,3 +116,31 @@ TEST_F(PanelControllerTest, OnlyThePanelTakesThePointerAndNotItsShadow) {
     EXPECT_EQ(surface.inputArea.size(), PanelController::panelSize);
     EXPECT_EQ(surface.inputArea.center(), QRect(QPoint(0, 0), view()->size()).center());
 }
+
+TEST_F(PanelControllerTest, ItFadesInWhereWindowsBlend) {
+    surface.blends = true;
+    panel.show();
+    EXPECT_LT(view()->opacity(), 1.0);
+    EXPECT_TRUE(panel.model().isPresented()) << "keys count from the start";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return view()->opacity() == 1.0; }));
+}
+
+TEST_F(PanelControllerTest, ItIsThereAtOnceForThoseWhoWantNoMotionAndWhereWindowsDoNotBlend) {
+    open();
+    EXPECT_EQ(view()->opacity(), 1.0);
+    panel.hide();
+    surface.blends = true;
+    surface.stillness = true;
+    open();
+    EXPECT_EQ(view()->opacity(), 1.0);
+}
+
+TEST_F(PanelControllerTest, HiddenWhileItFadesItIsWholeTheNextTime) {
+    surface.blends = true;
+    panel.show();
+    panel.hide();
+    EXPECT_EQ(view()->opacity(), 1.0);
+    surface.blends = false;
+    open();
+    EXPECT_EQ(view()->opacity(), 1.0);
+}
