@@ -9,7 +9,8 @@ Rectangle {
     required property string symbol
     property bool isOn: false
     property string help
-    readonly property bool isHovered: area.containsMouse
+    readonly property alias isAsking: rest.isAsking
+    property alias askingTime: rest.interval
     signal action
 
     width: 26
@@ -28,10 +29,17 @@ Rectangle {
         tint: button.isOn ? Look.accent : Look.secondary
         size: 15
     }
+    HoverRest {
+        id: rest
+        isHovered: area.containsMouse
+    }
     MouseArea {
         id: area
         anchors.fill: parent
         hoverEnabled: true
-        onClicked: button.action()
+        onClicked: {
+            rest.isAsking = false;
+            button.action();
+        }
     }
 }

@@ -3,6 +3,7 @@
 
 #include "panel/ViewEngine.h"
 
+#include <QColor>
 #include <QPainterPath>
 #include <QPropertyAnimation>
 #include <QQuickItem>
@@ -12,12 +13,6 @@
 #include <cmath>
 
 namespace vellumry {
-
-namespace {
-
-constexpr double cornerRadius = 14;
-
-} // namespace
 
 PassiveWindow::PassiveWindow(PanelSurface& surface, ViewEngine& views, Description description)
     : m_surface(&surface)
@@ -64,11 +59,15 @@ QSize PassiveWindow::wantedSize() {
 
 void PassiveWindow::cutCorners(const QSize& size) {
     QRegion shape;
+    QColor corners = Qt::transparent;
     if (!m_surface->canBlend()) {
+        // The edge of a mask is not smooth: what shows there of the window's own ground would be black.
+        corners = root().property("cornerColour").value<QColor>();
         QPainterPath outline;
-        outline.addRoundedRect(QRectF(QPointF(), QSizeF(size)), cornerRadius, cornerRadius);
+        outline.addRoundedRect(QRectF(QPointF(), QSizeF(size)), m_description.cornerRadius, m_description.cornerRadius);
         shape = QRegion(outline.toFillPolygon().toPolygon());
     }
+    m_view->setColor(corners);
     m_view->setMask(shape);
 }
 

@@ -27,9 +27,10 @@ class PassiveWindow : public QObject {
 public:
     struct Description {
         QString title;            ///< what screen readers say
-        QString view;             ///< the resource that holds the view
+        QString view;             ///< the resource that holds the view, whose root has a `cornerColour`
         QVariantMap properties;   ///< of the view, from its start
         bool clickThrough = true; ///< the pointer reaches what is below
+        double cornerRadius = 14; ///< as the view draws it; cut where windows cannot be translucent
     };
 
     /// `surface` and `views` must outlive the window.

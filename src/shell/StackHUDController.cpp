@@ -18,6 +18,8 @@ using namespace std::chrono_literals;
 constexpr auto fade = 200ms;
 constexpr auto finishedStays = 1400ms;
 constexpr int belowTop = 6;
+constexpr auto helpFade = 100ms;
+constexpr int belowBar = 6;
 
 } // namespace
 
@@ -33,6 +35,8 @@ StackHUDController::StackHUDController(PasteStack& stack, PanelSurface& surface,
                 QStringLiteral("qrc:/vellumry/shell/StackHUDView.qml"),
                 {{QStringLiteral("stack"), QVariant::fromValue<QObject*>(&stack)}},
                 false})
+    , m_help(surface, views,
+             {QStringLiteral("Vellumry help"), QStringLiteral("qrc:/vellumry/shell/HelpView.qml"), {}, true, 8})
     , m_hide(std::move(alarm)) {
     connect(&m_window, &PassiveWindow::wantedSizeChanged, this, &StackHUDController::place);
 }
@@ -43,6 +47,7 @@ void StackHUDController::show() {
     if (!m_isConnected) {
         connect(&root, SIGNAL(reversed()), this, SLOT(turnAround()));
         connect(&root, SIGNAL(stopped()), this, SLOT(stopPressed()));
+        connect(&root, SIGNAL(helpChanged()), this, SLOT(helpChanged()));
         m_isConnected = true;
     }
     if (m_window.isVisible()) {
@@ -60,6 +65,7 @@ void StackHUDController::showFinished() {
 
 void StackHUDController::hide() {
     m_hide->cancel();
+    m_help.hide();
     m_window.disappear(fade);
 }
 
@@ -69,6 +75,20 @@ void StackHUDController::turnAround() {
 
 void StackHUDController::stopPressed() {
     onStop();
+}
+
+void StackHUDController::helpChanged() {
+    const QString text = m_window.root().property("help").toString();
+    if (text.isEmpty() || !m_window.isVisible()) {
+        m_help.hide();
+        return;
+    }
+    m_help.root().setProperty("text", text);
+    QRect frame(QPoint(), m_help.wantedSize());
+    const QRect bar = m_window.frame();
+    const double centre = bar.left() + m_window.root().property("helpCentre").toDouble();
+    frame.moveTopLeft({static_cast<int>(std::lround(centre - frame.width() / 2.0)), bar.bottom() + 1 + belowBar});
+    m_help.appear(frame, helpFade);
 }
 
 /// Follows what the view needs: the hint is wider than the count.

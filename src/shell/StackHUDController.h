@@ -13,7 +13,8 @@ namespace vellumry {
 class PasteStack;
 
 /// A small bar at the top of a display that says how much of a Paste Stack waits, with a button that turns the order
-/// around and one that stops. Clicks on it work while another application stays active. The window is made at the first
+/// around and one that stops. Clicks on it work while another application stays active; where the pointer rests on a
+/// button, what it does is told below. The window is made at the first
 /// showing and kept. Main thread.
 class StackHUDController : public QObject {
     Q_OBJECT
@@ -37,6 +38,7 @@ public:
 private Q_SLOTS:
     void turnAround();
     void stopPressed();
+    void helpChanged();
 
 private:
     void place();
@@ -45,6 +47,7 @@ private:
     PasteStack* m_stack;
     PanelSurface* m_surface;
     PassiveWindow m_window;
+    PassiveWindow m_help;
     std::unique_ptr<Alarm> m_hide;
     bool m_isConnected = false;
 };

@@ -7,10 +7,15 @@ Rectangle {
     id: bar
 
     required property var stack
+    readonly property color cornerColour: Look.edge
     readonly property bool isOver: !stack.isActive && stack.pastedCount > 0
     readonly property bool countsDown: !isOver && stack.count > 0
     // 13.5 pixels: only points may be fractions.
     readonly property real textSize: 13.5 * 72 / (Screen.logicalPixelDensity * 25.4)
+    // What the button under the resting pointer does; the window has no room for it.
+    readonly property string help: order.isAsking ? order.help : end.isAsking ? end.help : ""
+    readonly property real helpCentre: (order.isAsking ? order.x : end.x) + end.width / 2
+    property int askingTime: 600
     signal reversed
     signal stopped
 
@@ -59,6 +64,7 @@ Rectangle {
         symbol: "arrow.up.arrow.down"
         isOn: bar.stack.isReversed
         help: bar.stack.isReversed ? views.words("Newest first. Click for oldest first") : views.words("Oldest first. Click for newest first")
+        askingTime: bar.askingTime
         onAction: bar.reversed()
     }
     HUDButton {
@@ -68,6 +74,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         symbol: "xmark"
         help: views.words("Stop Paste Stack (⌃⌘S)")
+        askingTime: bar.askingTime
         onAction: bar.stopped()
     }
 }

@@ -6,6 +6,7 @@ import Vellumry.Panel
 Rectangle {
     id: toast
 
+    readonly property color cornerColour: Look.edge
     property string symbol
     property string message
     property string tone: "info"

@@ -178,3 +178,32 @@ TEST_F(StackHUDControllerTest, ItsButtonsSayWhatTheyDo) {
     EXPECT_EQ(help("arrow.up.arrow.down"), localised("Newest first. Click for oldest first"));
     EXPECT_EQ(help("xmark"), localised("Stop Paste Stack (⌃⌘S)"));
 }
+
+TEST_F(StackHUDControllerTest, WhereThePointerRestsOnAButtonWhatItDoesIsToldBelow) {
+    stack.start({item("one")});
+    hud.show();
+    window()->rootObject()->setProperty("askingTime", 0);
+    const auto help = [this] { return surface.adopted.size() < 2 ? nullptr : surface.adopted.at(1); };
+    QTest::mouseMove(window(), QPoint(3, 3));
+    EXPECT_EQ(help(), nullptr);
+    QTest::mouseMove(window(), button(QStringLiteral("xmark"))->mapToScene(QPointF(13, 13)).toPoint());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return help() != nullptr && help()->isVisible(); }));
+    EXPECT_EQ(shownTexts(qobject_cast<QQuickView*>(help())->rootObject()),
+              QStringList{localised("Stop Paste Stack (⌃⌘S)")});
+    EXPECT_TRUE(surface.lastClickThrough);
+    EXPECT_GT(help()->geometry().top(), window()->geometry().bottom());
+    QTest::mouseMove(window(), QPoint(3, 3));
+    EXPECT_FALSE(help()->isVisible());
+}
+
+TEST_F(StackHUDControllerTest, AClickTakesTheHelpAway) {
+    stack.start({item("one")});
+    hud.show();
+    window()->rootObject()->setProperty("askingTime", 0);
+    QTest::mouseMove(window(), QPoint(3, 3));
+    QTest::mouseMove(window(), button(QStringLiteral("arrow.up.arrow.down"))->mapToScene(QPointF(13, 13)).toPoint());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return surface.adopted.size() == 2 && surface.adopted.at(1)->isVisible(); }));
+    press(QStringLiteral("arrow.up.arrow.down"));
+    EXPECT_FALSE(surface.adopted.at(1)->isVisible());
+    EXPECT_TRUE(stack.isReversed());
+}
