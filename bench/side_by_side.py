@@ -290,11 +290,12 @@ def measure(tool):
     figures["key to painted panel, median ms"] = statistics.median(shown[1:]) * 1000
 
     pids = process_tree(tool.process.pid)
-    figures["PSS, MB"] = pss_megabytes(pids)
+    figures["PSS just after use, MB"] = pss_megabytes(pids)
     owner.serve(2.0)
     before = switches(pids)
     owner.serve(20.0)
     after = switches(process_tree(tool.process.pid))
+    figures["PSS 20 s later, MB"] = pss_megabytes(process_tree(tool.process.pid))
     figures["wake-ups in 20 s idle"] = sum(count - before.get(task, 0) for task, count in after.items())
     tool.stop()
 

@@ -5,6 +5,7 @@
 #include "linux/desktop/DesktopEntries.h"
 #include "linux/desktop/InotifyFolderWatching.h"
 #include "linux/desktop/KeychainKeyStore.h"
+#include "linux/desktop/MemoryReturn.h"
 #include "linux/desktop/PasswordFocus.h"
 #include "linux/desktop/PosixFileBookmarks.h"
 #include "linux/desktop/ReaderImageCodec.h"
@@ -82,6 +83,7 @@ std::optional<Platform> makeLinuxPlatform() {
     platform.expiryTimer = TimerfdDateTimer::create();
     platform.bookmarks = std::make_unique<PosixFileBookmarks>();
     platform.folders = std::make_unique<InotifyFolderWatching>();
+    platform.returnMemory = &returnCode;
     return platform;
 }
 

@@ -98,6 +98,7 @@ AppEnvironment::AppEnvironment(Platform& platform, std::unique_ptr<Preferences> 
     m_screenshotSaving = std::make_unique<ScreenshotSaving>(*m_screenshots, *platform.defaults);
     m_panel = std::make_unique<PanelController>(*m_store, *m_paster, *platform.pasteboard, *platform.panelSurface,
                                                 m_views, panelHooks());
+    m_panel->onShow = [this] { m_hasWorked = true; };
     makeStack();
     wire();
 }
@@ -222,6 +223,8 @@ void AppEnvironment::startMaintenance() {
 void AppEnvironment::runMaintenance() {
     m_store->setPolicy(m_preferences->retentionPolicy());
     m_store->enforceRetention(currentDate());
+    if (!m_panel->isVisible() && std::exchange(m_hasWorked, false))
+        m_platform->returnMemory();
 }
 
 void AppEnvironment::showStartupAlert() {

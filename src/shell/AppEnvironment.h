@@ -100,6 +100,7 @@ private:
     std::optional<Date> m_lastLowDiskWarning;
     bool m_isMemoryOnly;
     bool m_isQuitting = false;
+    bool m_hasWorked = true; ///< started, or shown its panel, since memory was last given back
 };
 
 } // namespace vellumry

@@ -19,6 +19,7 @@
 #include "platform/TextReader.h"
 
 #include <QString>
+#include <functional>
 #include <memory>
 
 namespace vellumry {
@@ -43,6 +44,8 @@ struct Platform {
     std::unique_ptr<FolderWatching> folders;
     /// What punctual expiry waits with; null where the system has nothing better than an interval.
     std::unique_ptr<DateTimer> expiryTimer;
+    /// Gives memory back that a while of rest does not need.
+    std::function<void()> returnMemory = [] {};
     /// The folder that holds the application's own folder: $XDG_DATA_HOME.
     QString dataHome;
     /// The user's home folder.

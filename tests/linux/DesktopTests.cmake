@@ -9,6 +9,7 @@ vellumry_test(
     FileStatusOnDiskTest.cpp
     InotifyFolderWatchingTest.cpp
     KeychainKeyStoreTest.cpp
+    MemoryReturnTest.cpp
     MountTableTest.cpp
     PasswordFocusTest.cpp
     PosixFileBookmarksTest.cpp
