@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Looks for bytes in the memory of a running process, for which it takes the right to trace it (root, or an inspectable build)."""
 
+import re
+
 
 def regions(pid):
     with open(f"/proc/{pid}/maps", encoding="utf-8") as maps:
@@ -29,6 +31,19 @@ def found_in(pid, needles):
                     around = content[max(0, at - longest):at + len(needle) + longest]
                     found.append((what, name or "anonymous", hex(first + at), around))
                     at = content.find(needle, at + 1)
+    return found
+
+
+def spread_in(pid, text, distance=16):
+    """Where the characters of a text (UTF-16) lie that far from each other: so does what a text field could undo keep them."""
+    apart = b".{%d}" % (distance - 2)
+    pattern = re.compile(apart.join(re.escape(character.encode("utf-16-le")) for character in text), re.DOTALL)
+    found = []
+    with open(f"/proc/{pid}/mem", "rb", buffering=0) as memory:
+        for first, last, name in regions(pid):
+            if name in ("", "[heap]"):
+                memory.seek(first)
+                found += [hex(first + match.start()) for match in pattern.finditer(memory.read(last - first))]
     return found
 
 

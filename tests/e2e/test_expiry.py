@@ -12,7 +12,7 @@ from clients import GtkEditor
 from desktop import (DATA, HISTORY, SETTINGS, Failure, Vellumry, accessible, clipboard, copy_text, fresh, key, main, open_panel,
                      owner_of, panel_is_open, same, wait_panel_closed, wait_until)
 from history_probe import HistoryProbe, ids
-from memory_probe import can_look_into, found_in
+from memory_probe import can_look_into, found_in, spread_in
 
 LIFETIME = 10
 # The program itself lets nobody look into its memory; beside it stands one that does and is the same otherwise.
@@ -119,7 +119,24 @@ def a_card_is_gone_from_everywhere_at_its_time():
         wait_until(lambda: not ids(), "the row to go", 3)
         if time.time() > ends + 1:
             raise Failure(f"it went {time.time() - ends:.2f} s late")
+        nothing_in_memory(program, {**plain_forms(card), **sealed})
         nothing_is_left(program, {**plain_forms(card), **sealed})
+
+
+def a_card_that_was_searched_for_is_forgotten_with_the_closed_panel():
+    card = card_number()
+    with Vellumry() as program:
+        copy_text(card)
+        _, sealed = stored_card(HistoryProbe(), card)
+        open_panel()
+        key("ctrl+v")
+        wait_until(lambda: spread_in(program.pid, card[4:]), "the card in what the search field could undo")
+        same(bool(found_in(program.pid, plain_forms(card))), True, "the probe finds what is there")
+        key("Escape", "Escape")
+        wait_panel_closed()
+        wait_until(lambda: not ids(), "the row to go", LIFETIME + 2)
+        nothing_in_memory(program, {**plain_forms(card), **sealed})
+        same(spread_in(program.pid, card[4:]), [], "what the search field could undo")
 
 
 def a_card_whose_time_came_while_the_program_stood_still_goes_at_once():
@@ -177,5 +194,6 @@ def a_card_that_was_pasted_stays_on_the_clipboard():
 
 if __name__ == "__main__":
     main([with_lifetime(test) for test in (
-        a_card_is_gone_from_everywhere_at_its_time, a_card_whose_time_came_while_the_program_stood_still_goes_at_once,
+        a_card_is_gone_from_everywhere_at_its_time, a_card_that_was_searched_for_is_forgotten_with_the_closed_panel,
+        a_card_whose_time_came_while_the_program_stood_still_goes_at_once,
         a_card_of_a_dead_editor_goes_from_the_clipboard_at_its_time, a_card_that_was_pasted_stays_on_the_clipboard)])
