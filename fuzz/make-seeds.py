@@ -38,10 +38,11 @@ def rich_texts():
         write("FuzzRichText", name + ".rtf", document)
 
 
-def image_marks():
-    def chunk(name, content):
-        return struct.pack(">I", len(content)) + name + content + struct.pack(">I", zlib.crc32(name + content))
+def chunk(name, content):
+    return struct.pack(">I", len(content)) + name + content + struct.pack(">I", zlib.crc32(name + content))
 
+
+def image_marks():
     def exif(order):
         start = (b"II*\0" if order == "<" else b"MM\0*") + struct.pack(order + "I", 8)
         folder = struct.pack(order + "HHHIII", 1, 0x8769, 4, 1, 26, 0)
@@ -63,6 +64,83 @@ def image_marks():
     }
     for name, data in files.items():
         write("FuzzImageMarks", name, data)
+
+
+def heic_files():
+    def box(name, *content):
+        joined = b"".join(content)
+        return struct.pack(">I", len(joined) + 8) + name + joined
+
+    def full(name, *content):
+        return box(name, bytes(4), *content)
+
+    def item(number, kind):
+        return box(b"infe", bytes((2, 0, 0, 0)), struct.pack(">HH", number, 0), kind, b"\0")
+
+    start = box(b"ftyp", b"heic", bytes(4), b"mif1heic")
+    exif = struct.pack(">I", 0) + b"II*\0" + struct.pack("<IHHHIII", 8, 1, 0x0112, 3, 1, 6, 0)
+    properties = box(b"iprp", box(b"ipco", full(b"ispe", struct.pack(">II", 640, 320)), box(b"irot", b"\1"),
+                                  box(b"hvcC", b"\1\3\x70" + bytes(12) + b"\xf0\0\xfc\xfd\xf8\xf8\0\0\x0b\0")),
+                     full(b"ipma", struct.pack(">IHBBBB", 1, 1, 3, 1, 2, 0x83)))
+
+    def meta(data_at):
+        places = b"".join(struct.pack(">HHHII", number, 0, 1, data_at, len(exif)) for number in (1, 2))
+        return full(b"meta", full(b"hdlr", bytes(4), b"pict", bytes(13)), full(b"pitm", struct.pack(">H", 1)),
+                    full(b"iinf", struct.pack(">H", 2), item(1, b"hvc1"), item(2, b"Exif")),
+                    full(b"iref", box(b"cdsc", struct.pack(">HHH", 2, 1, 1))), properties,
+                    full(b"iloc", b"\x44\0", struct.pack(">H", 2), places))
+
+    data_at = len(start) + len(meta(0)) + 8
+    long_box = struct.pack(">I", 1) + b"mdat" + struct.pack(">Q", 20) + bytes(4)
+    open_box = struct.pack(">I", 0) + b"mdat" + bytes(9)
+    files = {
+        "whole.heic": start + meta(data_at) + box(b"mdat", exif),
+        "long.heic": start + meta(0) + long_box,
+        "open.heic": start + meta(0) + open_box,
+        "brands.heic": box(b"ftyp", b"mif1", bytes(4), b"mif1miafheix") + box(b"idat", b"x"),
+    }
+    for name, data in files.items():
+        write("FuzzHeif", name, data)
+        write("FuzzImageCompleteness", name, data)
+
+
+def complete_images():
+    def tiff(order, tags):
+        folder = struct.pack(order + "H", len(tags)) + b"".join(struct.pack(order + "HHII", *tag) for tag in tags)
+        start = (b"II*\0" if order == "<" else b"MM\0*") + struct.pack(order + "I", 8)
+        return start + folder + bytes(4) + bytes(range(32))
+
+    files = {
+        "end.png": b"\x89PNG\r\n\x1a\n" + struct.pack(">I", 0) + b"IEND" + struct.pack(">I", zlib.crc32(b"IEND")),
+        "end.jpeg": b"\xff\xd8\xff\xe0\0\2\xff\xd9",
+        "strip.tiff": tiff("<", [(273, 4, 1, 38), (279, 4, 1, 32)]),
+        "strips.tiff": tiff(">", [(273, 3, 4, 38), (279, 3, 4, 46)]),
+        "tiles.tiff": tiff("<", [(324, 4, 2, 38), (325, 3, 2, 0x00010001)]),
+        "marked.txt": "ScreenShot".encode("utf-16-be") + b"screenshot",
+    }
+    for name, data in files.items():
+        write("FuzzImageCompleteness", name, data)
+
+
+def png_pictures():
+    def picture(width, height, depth, colour, bits, further=b"", interlaced=0):
+        length = (width * bits + 7) // 8
+        rows = b"".join(bytes([row % 5]) + bytes((row * 7 + at) % 256 for at in range(length)) for row in range(height))
+        header = struct.pack(">IIBBBBB", width, height, depth, colour, 0, 0, interlaced)
+        return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + further + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b"")
+
+    colours = chunk(b"PLTE", bytes(range(48)))
+    files = {
+        "gray1.png": picture(33, 20, 1, 0, 1),
+        "gray16.png": picture(30, 20, 16, 0, 16, chunk(b"tRNS", b"\0\7")),
+        "colours.png": picture(32, 16, 8, 2, 24),
+        "indexed.png": picture(32, 16, 4, 3, 4, colours + chunk(b"tRNS", b"\0\x80\xff")),
+        "opacity.png": picture(29, 13, 8, 6, 32, chunk(b"gAMA", struct.pack(">I", 45455))),
+        "opacity16.png": picture(29, 13, 16, 4, 32),
+        "interlaced.png": picture(32, 16, 8, 2, 24, b"", 1),
+    }
+    for name, data in files.items():
+        write("FuzzPngThumbnail", name, data)
 
 
 def detections():
@@ -92,5 +170,8 @@ property_lists()
 rich_texts()
 file_urls()
 image_marks()
+heic_files()
+complete_images()
+png_pictures()
 detections()
 texts()

@@ -5,7 +5,8 @@ set -eu
 
 seconds=${1:?usage: fuzz/run.sh SECONDS [TARGET...]}
 shift
-[ $# -gt 0 ] || set -- FuzzDetection FuzzFileUrl FuzzImageMarks FuzzPropertyList FuzzRichText FuzzText
+[ $# -gt 0 ] || set -- FuzzDetection FuzzFileUrl FuzzHeif FuzzImageCompleteness FuzzImageMarks FuzzPngThumbnail FuzzPropertyList \
+    FuzzRichText FuzzText
 source_folder=$(cd "$(dirname "$0")/.." && pwd)
 build_folder=${VELLUMRY_FUZZ_BUILD:-$source_folder/build/fuzz}
 work=$(mktemp -d)

@@ -10,7 +10,8 @@
 namespace vellumry::pngthumbnail {
 
 /// True for a picture that `shrunk` takes: stored from the top to the bottom (not interlaced), and on either side at
-/// least four times as large as `size`, so that the mean of whole pixels shows no steps.
+/// least four times as large as `size`, so that the mean of whole pixels shows no steps; twice as large where it has
+/// more than 100,000,000 pixels, since it could hardly be opened as a whole.
 [[nodiscard]] bool isFor(QByteArrayView file, QSize size);
 
 /// The picture at `size`, each pixel the mean of those it stands for, weighed by their opacity; without opacity when

@@ -4,6 +4,7 @@
 #include <QBuffer>
 #include <QtEndian>
 #include <array>
+#include <map>
 
 namespace vellumry::picturebytes {
 
@@ -70,6 +71,27 @@ QImage twoColours(int width, int height, QImage::Format format) {
             image.setPixelColor(x, y, x < width / 2 ? Qt::red : Qt::blue);
     }
     return image.convertToFormat(format);
+}
+
+QImage drawnWord(const QByteArray& word, QRgb ground, QRgb ink) {
+    static const std::map<char, std::array<quint8, 7>> font{{'H', {0x11, 0x11, 0x11, 0x1F, 0x11, 0x11, 0x11}},
+                                                            {'E', {0x1F, 0x10, 0x10, 0x1E, 0x10, 0x10, 0x1F}},
+                                                            {'L', {0x10, 0x10, 0x10, 0x10, 0x10, 0x10, 0x1F}},
+                                                            {'O', {0x0E, 0x11, 0x11, 0x11, 0x11, 0x11, 0x0E}},
+                                                            {'T', {0x1F, 0x04, 0x04, 0x04, 0x04, 0x04, 0x04}}};
+    QImage points(static_cast<int>(word.size()) * 6 + 14, 21, QImage::Format_RGB32);
+    points.fill(ground);
+    int x = 7;
+    for (const char letter : word) {
+        for (int row = 0; row < 7; ++row) {
+            for (int column = 0; column < 5; ++column) {
+                if (font.at(letter)[static_cast<std::size_t>(row)] >> (4 - column) & 1)
+                    points.setPixel(x + column, 7 + row, ink);
+            }
+        }
+        x += 6;
+    }
+    return points.scaled(points.size() * 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 QByteArray pngChunk(const QByteArray& name, const QByteArray& content) {

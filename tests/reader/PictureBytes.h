@@ -12,6 +12,10 @@ namespace vellumry::picturebytes {
 /// Left half red, right half blue.
 [[nodiscard]] QImage twoColours(int width, int height, QImage::Format format = QImage::Format_RGB32);
 
+/// `word`, of the letters E, H, L, O and T, in a font of our own, 28 pixels high: no font need be installed, nor a
+/// display be there.
+[[nodiscard]] QImage drawnWord(const QByteArray& word, QRgb ground, QRgb ink);
+
 /// A PNG chunk with its length and checksum.
 [[nodiscard]] QByteArray pngChunk(const QByteArray& name, const QByteArray& content);
 /// A PNG of 1 x 1 pixels with `chunks` behind its header.

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/desktop/ReaderImageCodec.h"
 
+#include "reader/ChildProcesses.h"
 #include "reader/HeifBytes.h"
 #include "reader/PictureBytes.h"
 #include "support/Awaited.h"
 
-#include <QDir>
-#include <QFile>
+#include <QTimer>
 #include <csignal>
 #include <gtest/gtest.h>
 
@@ -14,22 +14,11 @@ namespace vellumry {
 namespace {
 
 using namespace picturebytes;
+using childprocesses::children;
 
 const QString realReader = QStringLiteral(VELLUMRY_READER);
 const QString fakeReader = QStringLiteral(VELLUMRY_FAKE_READER);
 constexpr auto shortDeadline = std::chrono::milliseconds(300);
-
-/// The processes that this one has started and not collected, by number.
-QList<QByteArray> children() {
-    QList<QByteArray> numbers;
-    for (const QString& task : QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        QFile list(QStringLiteral("/proc/self/task/%1/children").arg(task));
-        if (list.open(QIODevice::ReadOnly))
-            numbers += list.readAll().simplified().split(' ');
-    }
-    numbers.removeAll(QByteArray());
-    return numbers;
-}
 
 TEST(ReaderImageCodec, SummarisesAPicture) {
     ReaderImageCodec codec(realReader);
@@ -122,6 +111,9 @@ TEST(ReaderImageCodec, AReaderThatLeftIsReplacedUnnoticed) {
     ASSERT_EQ(children().size(), 1);
     const pid_t reader = children().first().toInt();
     kill(reader, SIGKILL);
+    // It is collected on another thread, which tells nobody.
+    QTimer looks;
+    looks.start(std::chrono::milliseconds(1));
     runUntil([] { return children().isEmpty(); });
     EXPECT_EQ(awaited(codec.summarise("good", 160)).pixelSize, QSize(7, 9));
 }

@@ -20,30 +20,8 @@ const QString realReader = QStringLiteral(VELLUMRY_READER);
 const QString fakeReader = QStringLiteral(VELLUMRY_FAKE_READER);
 constexpr int usual = 8192;
 
-/// Letters of a font of our own, seven points high, enlarged: no font need be installed, nor a display be there.
-QImage drawn(const QByteArray& word, QRgb ground, QRgb ink) {
-    static const std::map<char, std::array<quint8, 7>> font{{'H', {0x11, 0x11, 0x11, 0x1F, 0x11, 0x11, 0x11}},
-                                                            {'E', {0x1F, 0x10, 0x10, 0x1E, 0x10, 0x10, 0x1F}},
-                                                            {'L', {0x10, 0x10, 0x10, 0x10, 0x10, 0x10, 0x1F}},
-                                                            {'O', {0x0E, 0x11, 0x11, 0x11, 0x11, 0x11, 0x0E}},
-                                                            {'T', {0x1F, 0x04, 0x04, 0x04, 0x04, 0x04, 0x04}}};
-    QImage points(static_cast<int>(word.size()) * 6 + 14, 21, QImage::Format_RGB32);
-    points.fill(ground);
-    int x = 7;
-    for (const char letter : word) {
-        for (int row = 0; row < 7; ++row) {
-            for (int column = 0; column < 5; ++column) {
-                if (font.at(letter)[static_cast<std::size_t>(row)] >> (4 - column) & 1)
-                    points.setPixel(x + column, 7 + row, ink);
-            }
-        }
-        x += 6;
-    }
-    return points.scaled(points.size() * 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
 QByteArray pictureOf(const QByteArray& word, QRgb ground, QRgb ink) {
-    return picturebytes::encode(drawn(word, ground, ink), "PNG");
+    return picturebytes::encode(picturebytes::drawnWord(word, ground, ink), "PNG");
 }
 
 TEST(ReaderTextReader, ReadsInTheSealedReaderInBothModes) {
@@ -57,7 +35,7 @@ TEST(ReaderTextReader, ReadsInTheSealedReaderInBothModes) {
 
 TEST(ReaderTextReader, ReadsAHeicPicture) {
     ReaderTextReader reader(realReader);
-    const QByteArray file = heifbytes::encode(drawn("HOTEL", 0xFFFFFFFF, 0xFF000000));
+    const QByteArray file = heifbytes::encode(picturebytes::drawnWord("HOTEL", 0xFFFFFFFF, 0xFF000000));
     const auto reading = awaited(reader.read(file, Mode::fast, usual, 60s));
     EXPECT_EQ(reading.outcome, Outcome::text);
     EXPECT_EQ(reading.text.trimmed(), QStringLiteral("HOTEL"));
