@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A window with one text field, as Java programs have them. Writes what it holds into the file named by its argument.
-import java.awt.event.WindowAdapter;
-import java.awt.event.WindowEvent;
+import java.awt.event.FocusAdapter;
+import java.awt.event.FocusEvent;
 import java.io.IOException;
 import java.nio.file.Files;
 import java.nio.file.Path;
@@ -30,9 +30,8 @@ public class SwingWindow {
             JFrame frame = new JFrame("Swing");
             frame.setDefaultCloseOperation(JFrame.EXIT_ON_CLOSE);
             frame.add(area);
-            frame.addWindowListener(new WindowAdapter() {
-                public void windowOpened(WindowEvent event) {
-                    area.requestFocusInWindow();
+            area.addFocusListener(new FocusAdapter() {
+                public void focusGained(FocusEvent event) {
                     write(file, area.getText());
                 }
             });

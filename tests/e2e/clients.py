@@ -6,7 +6,7 @@ import subprocess
 import tempfile
 import urllib.parse
 
-from desktop import (Process, accessible, clipboard, focus, key, run, text_shown, type_text, wait_until, window_of_class,
+from desktop import (Failure, Process, accessible, clipboard, focus, key, run, text_shown, type_text, wait_until, window_of_class,
                      window_title, windows)
 
 
@@ -110,15 +110,25 @@ document.title = 'ready';
         self.window = wait_until(lambda: (windows("^ready") or [None])[0], "the browser's page", 60)
         focus(self.window)
 
+    def press_until(self, name, title):
+        """Keys that come before the page was painted are dropped."""
+
+        def pressed():
+            key(name)
+            try:
+                return wait_until(lambda: window_title(self.window).startswith(title), title, 1)
+            except Failure:
+                return False
+
+        wait_until(pressed, f"the page to hear of {name}", 30)
+
     def copy_words(self):
-        key("F8")
-        wait_until(lambda: window_title(self.window).startswith("chosen"), "the words to be chosen")
+        self.press_until("F8", "chosen")
         key("ctrl+c")
         return "Styled words of a page"
 
     def enter_area(self):
-        key("F9")
-        wait_until(lambda: window_title(self.window).startswith("area:"), "the page's text field")
+        self.press_until("F9", "area:")
 
     def content(self):
         title = window_title(self.window)

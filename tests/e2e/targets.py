@@ -18,6 +18,23 @@ class Target(Process):
     def settle(self):
         """Does what the application needs before its content can be read."""
 
+    def wait_for_keys(self, prepare=lambda: None):
+        """A window is there long before what is typed reaches its text, and some move the focus once more at their start."""
+
+        def takes_keys():
+            prepare()
+            type_text("1,")
+            try:
+                return wait_until(self.holds_typed, "what was typed", 2)
+            except Failure:
+                return False
+
+        wait_until(takes_keys, "typing to arrive in " + self.title, 60)
+
+    def holds_typed(self):
+        self.settle()
+        return "1," in (self.content() or "")
+
     def content(self):
         with open(self.path, encoding="utf-8") as file:
             return file.read()
@@ -153,31 +170,15 @@ class Writer(Editor):
             file.write(self.SETTINGS)
         self.command = (*self.command, "-env:UserInstallation=file://" + profile, "--writer")
         super().__init__()
-
-        def takes_keys():
-            """Its window is there long before the document is."""
-            type_text("1 ")
-            try:
-                return wait_until(self.saved, "what was typed", 2)
-            except Failure:
-                return False
-
-        wait_until(takes_keys, "LibreOffice's document", 60)
-
-    def saved(self):
-        self.settle()
-        return "1 " in self.content()
+        self.wait_for_keys()
 
 
-class Chromium(Browser):
-    title, toolkit, paste_key = "Chromium", "a text field of a page", Target.paste_key
+class Chromium(Browser, Target):
+    title, toolkit = "Chromium", "a text field of a page"
 
     def __init__(self):
         super().__init__()
-        self.enter_area()
-
-    def settle(self):
-        """The page tells at once."""
+        self.wait_for_keys(self.enter_area)
 
 
 class Firefox(Target):
@@ -218,6 +219,7 @@ class Java(Target):
         self.window = wait_until(lambda: (windows("^Swing$") or [None])[0], "the Java window", 60)
         focus(self.window)
         wait_until(lambda: os.path.exists(self.path), "the text field in the Java window", 60)
+        self.wait_for_keys()
 
 
 LIGHT = (XTerm, Rxvt, LxTerminal, Mousepad, GnomeTextEditor, FeatherPad, Chromium)

@@ -3,11 +3,12 @@
 pointer."""
 
 from clients import GtkEditor
-from desktop import (Vellumry, active_window, copy_text, focused_window, fresh, key, main, run, same, text_of, wait_for_clip, wait_until,
-                     windows)
+from desktop import (Vellumry, accessible, active_window, copy_text, focused_window, fresh, key, main, open_panel, run, same, text_of,
+                     wait_for_clip, wait_panel_closed, wait_until, windows)
 
 BAR = "^Paste Stack$"
 MESSAGE = "^Vellumry message$"
+HELP = "^Vellumry help$"
 
 
 def bar():
@@ -56,6 +57,38 @@ def a_finished_stack_takes_its_bar_along():
         wait_until(lambda: bar() is None, "the bar to go", 5)
 
 
+def the_panels_button_starts_a_stack():
+    """The panel makes room for what is to be copied, and the editor has the keyboard."""
+    with Vellumry(), GtkEditor() as editor:
+        open_panel()
+        button = wait_until(lambda: accessible("vellumry", "push button", "^Stack$"), "the button")
+        area = button.queryComponent().getExtents(0)
+        press_at(area.x + area.width // 2, area.y + area.height // 2)
+        wait_until(bar, "the bar")
+        wait_panel_closed()
+        copy_text("by the button")
+        wait_for_clip(lambda row: text_of(row) == "by the button", "the copy")
+        key("ctrl+v")
+        wait_until(lambda: editor.content() == "by the button", "the paste")
+        wait_until(lambda: bar() is None, "the bar to go", 5)
+
+
+def the_bar_tells_what_its_buttons_do():
+    """Below the bar, as long as the pointer rests on a button; the editor keeps the keyboard."""
+    with Vellumry(), GtkEditor():
+        before = active_window(), focused_window()
+        key("super+ctrl+s")
+        x, y, width, height = geometry(wait_until(bar, "the bar"))
+        run("xdotool", "mousemove", str(x + width - 8 - 13), str(y + height // 2))
+        text = wait_until(lambda: windows(HELP) and accessible("vellumry", "tool tip"), "the help")
+        same(text.name, "Stop Paste Stack (Super+Ctrl+S)", "what it says")
+        same((active_window(), focused_window()), before, "who has the keyboard")
+        run("xdotool", "mousemove", "10", "900")
+        wait_until(lambda: not windows(HELP), "the help to go")
+        key("super+ctrl+s")
+        wait_until(lambda: bar() is None, "the bar to go", 5)
+
+
 def a_message_lets_clicks_through():
     """The pointer is over what lies under a message."""
     with Vellumry(), GtkEditor():
@@ -70,4 +103,5 @@ def a_message_lets_clicks_through():
 
 if __name__ == "__main__":
     main([fresh(test) for test in (the_bar_stops_the_stack_and_the_editor_keeps_the_keyboard, a_finished_stack_takes_its_bar_along,
+                                   the_panels_button_starts_a_stack, the_bar_tells_what_its_buttons_do,
                                    a_message_lets_clicks_through)])
