@@ -25,8 +25,8 @@ public:
     /// Queues `job`, which must not throw: nobody waits for it.
     void post(std::function<void()> job);
 
-    /// Runs `job` on the executor. Awaiting it on the main thread suspends and resumes there with the job's result, or
-    /// with the exception it threw. The result must be awaited.
+    /// Runs `job` on the executor, which destroys it too. Awaiting it on the main thread suspends and resumes there
+    /// with the job's result, or with the exception it threw. The result must be awaited.
     template <typename Job>
     [[nodiscard]] auto run(Job job);
 
@@ -43,9 +43,30 @@ void postToMain(std::function<void()> function);
 
 namespace detail {
 
-template <typename Result>
-struct ExecutorOutcome {
+/// A job and what became of it.
+template <typename Job>
+struct ExecutorCall {
+    using Result = std::invoke_result_t<Job>;
     using Stored = std::conditional_t<std::is_void_v<Result>, bool, Result>;
+
+    explicit ExecutorCall(Job wanted)
+        : job(std::move(wanted)) {}
+    void run() {
+        try {
+            if constexpr (std::is_void_v<Result>) {
+                (*job)();
+                value = true;
+            } else {
+                value.emplace((*job)());
+            }
+        } catch (...) {
+            error = std::current_exception();
+        }
+        // Here, not where the result is awaited: freeing what a job holds may take as long as the job.
+        job.reset();
+    }
+
+    std::optional<Job> job;
     std::optional<Stored> value;
     std::exception_ptr error;
 };
@@ -57,35 +78,25 @@ public:
 
     ExecutorAwaiter(SerialExecutor& executor, Job job)
         : m_executor(&executor)
-        , m_job(std::move(job)) {}
+        , m_call(std::make_shared<ExecutorCall<Job>>(std::move(job))) {}
 
     bool await_ready() const noexcept { return false; }
     void await_suspend(std::coroutine_handle<> waiting) {
-        m_executor->post([outcome = m_outcome, job = std::move(m_job), waiting]() mutable {
-            try {
-                if constexpr (std::is_void_v<Result>) {
-                    job();
-                    outcome->value = true;
-                } else {
-                    outcome->value.emplace(job());
-                }
-            } catch (...) {
-                outcome->error = std::current_exception();
-            }
+        m_executor->post([call = m_call, waiting] {
+            call->run();
             postToMain([waiting] { waiting.resume(); });
         });
     }
     Result await_resume() {
-        if (m_outcome->error)
-            std::rethrow_exception(m_outcome->error);
+        if (m_call->error)
+            std::rethrow_exception(m_call->error);
         if constexpr (!std::is_void_v<Result>)
-            return std::move(*m_outcome->value);
+            return std::move(*m_call->value);
     }
 
 private:
     SerialExecutor* m_executor;
-    Job m_job;
-    std::shared_ptr<ExecutorOutcome<Result>> m_outcome = std::make_shared<ExecutorOutcome<Result>>();
+    std::shared_ptr<ExecutorCall<Job>> m_call;
 };
 
 } // namespace detail

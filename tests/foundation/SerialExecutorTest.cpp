@@ -35,6 +35,12 @@ QCoro::Task<> awaitVoidJob(SerialExecutor* executor, std::function<void()> job, 
     outcome->resumedOn = std::this_thread::get_id();
 }
 
+/// The same, with the job at hand until its end.
+QCoro::Task<> awaitNamedJob(SerialExecutor* executor, std::function<void()> job) {
+    auto running = executor->run(std::move(job));
+    co_await running;
+}
+
 /// Ends the executor, so that all its jobs are done, and delivers what they posted to the main thread.
 void finish(std::optional<SerialExecutor>& executor) {
     executor.reset();
@@ -70,6 +76,21 @@ TEST(SerialExecutor, RunsWhatAJobPostsWhileItEnds) {
         executor.post([&executor, &ran] { executor.post([&ran] { ran = true; }); });
     }
     EXPECT_TRUE(ran);
+}
+
+TEST(SerialExecutor, WhatAJobHoldsGoesOnItsThread) {
+    std::optional<SerialExecutor> executor(std::in_place, "test");
+    std::thread::id freedOn;
+    const auto free = [&freedOn](const int* memory) {
+        freedOn = std::this_thread::get_id();
+        delete memory;
+    };
+    std::shared_ptr<int> held(new int(1), free);
+    std::function<void()> job = [large = std::move(held)] {};
+    awaitNamedJob(&*executor, std::move(job));
+    finish(executor);
+    EXPECT_NE(freedOn, std::thread::id());
+    EXPECT_NE(freedOn, std::this_thread::get_id());
 }
 
 TEST(SerialExecutor, KnowsItsOwnThread) {
