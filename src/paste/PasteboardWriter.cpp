@@ -24,6 +24,8 @@ constexpr std::array skippedOutputTypes{QLatin1StringView("org.nspasteboard.Conc
 
 // Decoding leaves it out.
 constexpr QByteArrayView byteOrderMark{"\xEF\xBB\xBF"};
+// Whether a longer one is UTF-8 takes more time to find out than a key can wait on a busy machine.
+constexpr qsizetype longestCheckedText = 16 * 1024 * 1024;
 
 bool staysBehind(const QString& type) {
     return type.startsWith(u"dyn.") || type.startsWith(u"CorePasteboardFlavorType") || type.startsWith(u"NeXT ") ||
@@ -47,7 +49,7 @@ std::optional<QByteArray> plainBytes(const std::vector<PasteboardItem>& items) {
     if (!items.empty() && !hasFiles) {
         const auto found = items.front().representations.find(uniformtype::utf8PlainText);
         if (found != items.front().representations.end() && !found->second.startsWith(byteOrderMark) &&
-            found->second.isValidUtf8())
+            (found->second.size() > longestCheckedText || found->second.isValidUtf8()))
             return found->second;
     }
     const auto text = plainText(items);

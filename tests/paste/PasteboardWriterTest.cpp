@@ -117,6 +117,16 @@ TEST(PasteboardWriter, HandsALongTextOnAsItIs) {
     EXPECT_EQ(written.constData(), text.constData()) << "no copy, no decoding: a key may be waiting";
 }
 
+TEST(PasteboardWriter, AVeryLongTextIsNotEvenLookedThrough) {
+    FakePasteboard board;
+    const QByteArray text = QByteArray("long ").repeated(4 * 1024 * 1024) + '\xff';
+    const PasteboardItem copied{{{uniformtype::utf8PlainText, text}, {uniformtype::rtf, R"({\rtf1 styled})"}},
+                                std::nullopt};
+    EXPECT_TRUE(PasteboardWriter::write({copied}, true, board));
+    const QByteArray& written = board.items().front().representations.at(uniformtype::utf8PlainText);
+    EXPECT_EQ(written.constData(), text.constData());
+}
+
 TEST(PasteboardWriter, PlainTextHasNoByteOrderMark) {
     FakePasteboard board;
     const PasteboardItem copied{{{uniformtype::utf8PlainText, "\xEF\xBB\xBFmarked"}}, std::nullopt};
