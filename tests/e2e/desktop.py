@@ -262,6 +262,7 @@ def picture(name):
     """Leaves a picture of the display where pictures were asked for."""
     if PICTURES:
         os.makedirs(PICTURES, exist_ok=True)
+        time.sleep(0.3)  # the picture is for people: what fades in has come
         run("import", "-window", "root", os.path.join(PICTURES, name + ".png"))
 
 

@@ -4,6 +4,7 @@
 import contextlib
 import ctypes
 import os
+import re
 import shutil
 import signal
 import subprocess
@@ -13,7 +14,7 @@ from Xlib import X, display
 
 from clients import GtkEditor
 from desktop import (QUIET, SETTINGS, Vellumry, accessible, active_window, clipboard, copy_bytes, copy_text, focus,
-                     fresh, key, main, open_panel, representation, same, text_of, unsealed, wait_for_clip,
+                     fresh, key, main, open_panel, picture, representation, same, text_of, unsealed, wait_for_clip,
                      wait_panel_closed, wait_until, windows)
 from owner import LoggingOwner
 from password_fields import FieldWindow, LockedVault
@@ -44,6 +45,7 @@ def message():
 
 def told(expected):
     same(wait_until(message, "a message"), expected, "what the user is told")
+    picture("message-" + "-".join(re.findall("[a-z]+", expected.lower())[:4]))
 
 
 def told_nothing():

@@ -3,7 +3,6 @@
 
 import subprocess
 
-import time
 
 from clients import GtkEditor, QtEditor
 from desktop import (QUIET, Vellumry, accessible, copy_bytes, copy_text, key, open_panel, picture, run, text_of, type_text,
@@ -23,7 +22,6 @@ def show_what_comes_and_goes():
     """A message, then the bar of a running stack."""
     key("super+alt+3")
     wait_until(lambda: windows("^Vellumry message$"), "the message")
-    time.sleep(0.3)  # it has faded in
     picture("5-message")
     wait_until(lambda: not windows("^Vellumry message$"), "the message to go")
     key("super+ctrl+s")
@@ -32,7 +30,6 @@ def show_what_comes_and_goes():
     wait_for_clip(lambda row: text_of(row) == "first for the stack", "the first copy")
     copy_text("second for the stack")
     wait_for_clip(lambda row: text_of(row) == "second for the stack", "the second copy")
-    time.sleep(0.3)
     picture("6-stack")
     key("super+ctrl+s")
 
@@ -56,7 +53,6 @@ def main():
             picture("2-panel")
             type_text("ro")
             wait_until(lambda: accessible("vellumry", "list item", "^Dear"), "the row that matches inside")
-            time.sleep(0.3)  # the picture is for people: the list has settled
             picture("3-search")
             key("Return")
             wait_panel_closed()

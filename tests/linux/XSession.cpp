@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QTimer>
 #include <csignal>
 #include <sys/prctl.h>
 
@@ -18,6 +19,7 @@ namespace {
 constexpr int startMilliseconds = 10000;
 constexpr int waitMilliseconds = 3000;
 constexpr int probeMilliseconds = 100;
+constexpr int lookMilliseconds = 2;
 
 void startChild(QProcess& process, const QString& program, const QStringList& arguments) {
     // A test that dies takes them along.
@@ -87,10 +89,14 @@ bool XSession::setLayout(const QString& layout) {
 bool waitUntil(const std::function<bool()>& condition) {
     QElapsedTimer timer;
     timer.start();
+    // What is waited for may happen at the server only. A loop that never waits would also leave events in Xlib's
+    // queue.
+    QTimer look;
+    look.start(lookMilliseconds);
     while (timer.elapsed() < waitMilliseconds) {
         if (condition())
             return true;
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     return condition();
 }
