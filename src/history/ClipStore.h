@@ -20,8 +20,8 @@ class ClipDatabase;
 /// through it. With a database, payloads lie sealed in the history file; without one, everything is in memory and gone
 /// at the end.
 ///
-/// Main thread only. Operations that persist have changed the memory state before their first suspension; errors never
-/// leave them.
+/// Main thread only. Operations that persist have changed the memory state before their first suspension (`add` only
+/// when the payload is not so large that it is hashed elsewhere first); errors never leave them.
 class ClipStore : public QObject {
     Q_OBJECT
 

@@ -103,6 +103,24 @@ TEST(ClipList, AssigningSortsStablyAndKeepsTheFirstOfAnId) {
     EXPECT_EQ(list.clips(), (std::vector<ClipRef>{later, one, two}));
 }
 
+TEST(ClipList, PinsOfOnePlaceStandInTheOrderOfCopying) {
+    const auto pinned = [](Date created, qint64 order) {
+        auto clip = std::make_shared<Clip>(*clipAt(100 - created));
+        clip->createdAt = created;
+        clip->isPinned = true;
+        clip->pinOrder = order;
+        return clip;
+    };
+    const ClipRef third = pinned(1, 2);
+    const ClipRef second = pinned(3, 1);
+    const ClipRef first = pinned(2, 1);
+    ClipList list;
+    list.assign({clipAt(50), third, second, first});
+    EXPECT_EQ(list.pinned(), (std::vector<ClipRef>{first, second, third}));
+    list.assign({first, third, second});
+    EXPECT_EQ(list.pinned(), (std::vector<ClipRef>{first, second, third}));
+}
+
 TEST(ClipList, KnowsTheNextExpiry) {
     ClipList list;
     EXPECT_EQ(list.nextExpiry(), std::nullopt);

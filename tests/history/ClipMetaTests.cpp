@@ -88,6 +88,11 @@ TEST(ClipMeta, ARecordOfBeforeTheLastTwoFieldsStillDecodes) {
     EXPECT_EQ(meta->imageTextIsAccurate, std::nullopt);
     EXPECT_EQ(meta->isScreenshot, std::nullopt);
     EXPECT_EQ(meta->thumbnail, std::nullopt);
+    Clip clip;
+    clip.imageTextIsAccurate = clip.isScreenshot = true;
+    ClipMeta(*meta).applyTo(clip);
+    EXPECT_FALSE(clip.imageTextIsAccurate);
+    EXPECT_FALSE(clip.isScreenshot);
 }
 
 TEST(ClipMeta, ARequiredFieldThatIsMissingSpoilsTheRecord) {
