@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace vellumry {
 
@@ -39,15 +40,30 @@ QVariantMap registeredDefaults() {
     };
 }
 
+bool isNumber(const QVariant& value) {
+    return value.typeId() == QMetaType::Double || value.typeId() == QMetaType::LongLong;
+}
+
+bool isListOfNumbers(const QVariant& value) {
+    const QVariantList items = value.toList();
+    const bool isList = value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList;
+    return isList && std::ranges::all_of(items, isNumber);
+}
+
+/// The remembered places of all displays; none when anything but lists of numbers stands there.
+QVariantMap storedPositions(const UserDefaults& defaults) {
+    const QVariantMap positions = defaults.object(panelPositionsKey).toMap();
+    return std::ranges::all_of(positions, isListOfNumbers) ? positions : QVariantMap();
+}
+
 std::optional<Preferences::PanelPosition> positionFrom(const QVariant& entry) {
     const QVariantList numbers = entry.toList();
     if (numbers.size() != 2)
         return std::nullopt;
     double values[2];
     for (int index = 0; index < 2; ++index) {
-        bool isNumber = false;
-        values[index] = numbers[index].toDouble(&isNumber);
-        if (!isNumber || !std::isfinite(values[index]) || values[index] < 0.0 || values[index] > 1.0)
+        values[index] = numbers[index].toDouble();
+        if (!std::isfinite(values[index]) || values[index] < 0.0 || values[index] > 1.0)
             return std::nullopt;
     }
     return Preferences::PanelPosition{values[0], values[1]};
@@ -66,7 +82,11 @@ RetentionPolicy Preferences::retentionPolicy() const {
     if (days >= 1)
         policy.maxAge = static_cast<double>(days) * 86'400.0;
     policy.maxCount = std::max<qint64>(1, m_defaults->integer(QStringLiteral("keepAtMost")));
-    policy.maxMediaBytes = std::max<qint64>(1, m_defaults->integer(QStringLiteral("mediaLimitMB"))) * 1'048'576;
+    const qint64 megabytes = std::max<qint64>(1, m_defaults->integer(QStringLiteral("mediaLimitMB")));
+    // A limit that went round to below zero would cost the user every picture.
+    if (megabytes > std::numeric_limits<qint64>::max() >> 20)
+        qFatal("mediaLimitMB is out of range");
+    policy.maxMediaBytes = megabytes << 20;
     return policy;
 }
 
@@ -95,11 +115,11 @@ void Preferences::setShortcut(const Shortcut& shortcut, const Shortcut& fallback
 }
 
 std::optional<Preferences::PanelPosition> Preferences::panelPosition(const QString& key) const {
-    return positionFrom(m_defaults->object(panelPositionsKey).toMap().value(key));
+    return positionFrom(storedPositions(*m_defaults).value(key));
 }
 
 void Preferences::setPanelPosition(std::optional<PanelPosition> position, const QString& key) {
-    QVariantMap positions = m_defaults->object(panelPositionsKey).toMap();
+    QVariantMap positions = storedPositions(*m_defaults);
     if (position)
         positions.insert(key, QVariantList{position->first, position->second});
     else

@@ -41,6 +41,13 @@ TEST_F(PreferencesTest, CountAndMediaHaveAFloor) {
     EXPECT_EQ(preferences.retentionPolicy().maxMediaBytes, 1'048'576);
 }
 
+TEST_F(PreferencesTest, AMediaLimitBeyondAllDisksStopsTheProgramBeforeAnythingIsLost) {
+    defaults.setObject(QStringLiteral("mediaLimitMB"), qint64{8'796'093'022'207});
+    EXPECT_EQ(preferences.retentionPolicy().maxMediaBytes, 9'223'372'036'853'727'232);
+    defaults.setObject(QStringLiteral("mediaLimitMB"), qint64{8'796'093'022'208});
+    EXPECT_DEATH((void)preferences.retentionPolicy(), "mediaLimitMB is out of range");
+}
+
 TEST_F(PreferencesTest, AnUnknownAppearanceIsTheSystems) {
     defaults.setObject(QStringLiteral("appearance"), QStringLiteral("blue"));
     EXPECT_EQ(preferences.appearance(), Preferences::Appearance::system);
@@ -55,6 +62,16 @@ TEST_F(PreferencesTest, AMalformedPanelPositionIsNone) {
         defaults.setObject(QStringLiteral("panelPositions"), QVariantMap{{QStringLiteral("screen"), entry}});
         EXPECT_EQ(preferences.panelPosition(QStringLiteral("screen")), std::nullopt);
     }
+}
+
+TEST_F(PreferencesTest, PositionsThatAreNotAllListsOfNumbersCountAsNone) {
+    const QVariantMap positions{{QStringLiteral("one"), QVariantList{0.25, 0.5}},
+                                {QStringLiteral("two"), QStringLiteral("left")}};
+    defaults.setObject(QStringLiteral("panelPositions"), positions);
+    EXPECT_EQ(preferences.panelPosition(QStringLiteral("one")), std::nullopt);
+    preferences.setPanelPosition(Preferences::PanelPosition{1.0, 0.0}, QStringLiteral("three"));
+    EXPECT_EQ(preferences.panelPosition(QStringLiteral("three")), (Preferences::PanelPosition{1.0, 0.0}));
+    EXPECT_EQ(defaults.object(QStringLiteral("panelPositions")).toMap().size(), 1);
 }
 
 TEST_F(PreferencesTest, EachDisplayKeepsItsPosition) {
