@@ -16,6 +16,10 @@ namespace vellumry {
 /// The rule alone: `available` bytes, negative when unknown.
 [[nodiscard]] bool isRoomForImages(qint64 available);
 
+/// A size as file managers show it, in powers of a thousand: whole kilobytes, one digit behind the point for megabytes,
+/// two from there on; zeros at the end are left out.
+[[nodiscard]] QString fileSizeText(qint64 bytes);
+
 /// Bytes of the history file and its write-ahead log. A file that cannot be examined counts nothing.
 [[nodiscard]] qint64 historyBytes(const QString& folder);
 

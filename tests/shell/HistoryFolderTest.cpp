@@ -3,9 +3,11 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <stdexcept>
+#include <utility>
 
 using namespace vellumry;
 
@@ -37,6 +39,26 @@ TEST(HistoryFolder, ExactlyOneGibibyteIsRoom) {
     EXPECT_TRUE(isRoomForImages(1'073'741'824));
     EXPECT_FALSE(isRoomForImages(1'073'741'823));
     EXPECT_TRUE(isRoomForImages(-1));
+}
+
+TEST(HistoryFolder, SizesReadAsInAFileManager) {
+    QLocale::setDefault(QLocale::c());
+    const std::pair<qint64, const char*> sizes[] = {{0, "Zero KB"},
+                                                    {1, "1 byte"},
+                                                    {999, "999 bytes"},
+                                                    {1'000, "1 KB"},
+                                                    {1'499, "1 KB"},
+                                                    {999'499, "999 KB"},
+                                                    {999'500, "1 MB"},
+                                                    {1'250'000, "1.3 MB"},
+                                                    {12'000'000, "12 MB"},
+                                                    {999'949'999, "999.9 MB"},
+                                                    {999'950'000, "1 GB"},
+                                                    {1'234'000'000, "1.23 GB"},
+                                                    {2'500'000'000, "2.5 GB"},
+                                                    {1'073'741'824'000'000, "1073.74 TB"}};
+    for (const auto& [bytes, text] : sizes)
+        EXPECT_EQ(fileSizeText(bytes), QString::fromUtf8(text)) << bytes;
 }
 
 TEST(HistoryFolder, CountsTheFileAndItsLog) {
