@@ -38,8 +38,12 @@ void AppDelegate::reopen() {
 }
 
 void AppDelegate::perform(const QString& action) {
-    if (m_environment && action == QLatin1String("open-panel"))
+    if (!m_environment)
+        return;
+    if (action == QLatin1String("open-panel"))
         m_environment->togglePanel();
+    else if (action == QLatin1String("toggle-stack"))
+        m_environment->toggleStack();
 }
 
 } // namespace vellumry

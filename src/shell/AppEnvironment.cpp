@@ -13,7 +13,6 @@
 #include "shell/PasteSound.h"
 #include "shell/StartupAlert.h"
 
-#include <QLocale>
 #include <chrono>
 
 namespace vellumry {
@@ -137,10 +136,11 @@ void AppEnvironment::wire() {
     m_paster->onPasted = pasteSound(*m_platform->defaults, *m_platform->sounds);
     ShortcutRegistrations::Actions actions;
     actions.togglePanel = [this] { togglePanel(); };
-    actions.toggleStack = [this] { toggleStack(stackSeed()); };
+    actions.toggleStack = [this] { toggleStack(); };
     actions.pastePinned = [this](int number) { m_panel->model().pastePinned(number); };
     m_shortcuts = std::make_unique<ShortcutRegistrations>(*m_platform->defaults, *m_hotKeyCenter, *m_platform->keyboard,
                                                           std::move(actions));
+    m_store->setClock(m_platform->clock);
     if (m_platform->expiryTimer)
         m_store->setExpiryTimer(std::move(m_platform->expiryTimer));
     m_store->setAutoExpire(true);
@@ -150,7 +150,7 @@ void AppEnvironment::wire() {
 }
 
 void AppEnvironment::wireCapture() {
-    m_watcher->hasRoomForImages = [folder = m_imageVolume] { return hasRoomForImages(folder); };
+    m_watcher->hasRoomForImages = [this] { return m_platform->hasRoomForImages(m_imageVolume); };
     m_watcher->onLowDisk = [this] { showLowDiskToast(); };
     m_watcher->onIgnoredCopy = [this] {
         showToast({QStringLiteral("eye.slash.fill"), localised("Skipped. That copy wasn't saved"),
@@ -165,8 +165,10 @@ void AppEnvironment::wireCapture() {
 
 void AppEnvironment::wireScreenshots() {
     m_screenshots->onImported = [this](const ClipRef& clip) { m_textReading->take(clip); };
-    m_screenshots->hasRoomForImages = [folder = m_imageVolume] { return hasRoomForImages(folder); };
-    m_screenshots->isAllowed = [this] { return !m_watcher->pausedUntil || *m_watcher->pausedUntil <= currentDate(); };
+    m_screenshots->hasRoomForImages = [this] { return m_platform->hasRoomForImages(m_imageVolume); };
+    m_screenshots->isAllowed = [this] {
+        return !m_watcher->pausedUntil || *m_watcher->pausedUntil <= m_platform->clock();
+    };
     m_screenshotSaving->onToast = [this](const ToastMessage& message) { showToast(message); };
 }
 
@@ -175,7 +177,7 @@ void AppEnvironment::start() {
     m_watcher->start();
     (void)reloadShortcuts();
     startMaintenance();
-    m_store->enforceRetention(currentDate());
+    m_store->enforceRetention(m_platform->clock());
     m_screenshotSaving->startIfWanted();
     m_textReading->scheduleBacklog();
     showStartupAlert();
@@ -209,8 +211,7 @@ void AppEnvironment::suspendShortcuts(bool isSuspended) {
 
 QString AppEnvironment::historySize() const {
     try {
-        return QLocale().formattedDataSize(historyBytes(historyFolder(m_platform->dataHome)), 1,
-                                           QLocale::DataSizeSIFormat);
+        return fileSizeText(historyBytes(historyFolder(m_platform->dataHome)));
     } catch (const std::exception&) {
         return QString();
     }
@@ -222,7 +223,7 @@ void AppEnvironment::startMaintenance() {
 
 void AppEnvironment::runMaintenance() {
     m_store->setPolicy(m_preferences->retentionPolicy());
-    m_store->enforceRetention(currentDate());
+    m_store->enforceRetention(m_platform->clock());
     if (!m_panel->isVisible() && std::exchange(m_hasWorked, false))
         m_platform->returnMemory();
 }
@@ -239,7 +240,7 @@ void AppEnvironment::showStartupAlert() {
 }
 
 void AppEnvironment::showLowDiskToast() {
-    const Date now = currentDate();
+    const Date now = m_platform->clock();
     if (m_lastLowDiskWarning && now - *m_lastLowDiskWarning < lowDiskSilence)
         return;
     m_lastLowDiskWarning = now;

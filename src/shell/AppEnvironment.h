@@ -43,8 +43,9 @@ public:
     void openPanel();
     void togglePanel();
     void showToast(const ToastMessage& message);
-    /// Stops the Paste Stack when it runs, else starts it with `seed`, first pasted first.
-    void toggleStack(const std::vector<ClipRef>& seed) { m_stack->toggle(seed); }
+    /// Stops the Paste Stack when it runs, else starts it, with the clips that are selected in the open panel when they
+    /// are several.
+    void toggleStack();
     /// Registers the global shortcuts anew; one sentence for each that another program holds.
     QStringList reloadShortcuts();
     void suspendShortcuts(bool isSuspended);
@@ -56,6 +57,7 @@ public:
     void setQuitting() { m_isQuitting = true; }
 
     [[nodiscard]] ClipStore& store() { return *m_store; }
+    [[nodiscard]] ClipboardWatcher& watcher() { return *m_watcher; }
     [[nodiscard]] ScreenshotSaving& screenshotSaving() { return *m_screenshotSaving; }
     [[nodiscard]] PanelController& panel() { return *m_panel; }
     [[nodiscard]] PasteStack& stack() { return m_stack->stack(); }
@@ -95,7 +97,7 @@ private:
     std::unique_ptr<StackHUDController> m_stackHUD;
     std::unique_ptr<ShortcutRegistrations> m_shortcuts;
     std::unique_ptr<AlertWindow> m_alert;
-    QTimer m_maintenance;
+    QTimer m_maintenance{this};
     QString m_imageVolume;
     std::optional<Date> m_lastLowDiskWarning;
     bool m_isMemoryOnly;

@@ -39,6 +39,10 @@ void AppEnvironment::wireStack() {
     m_panel->model().onAddToStack = [this](const std::vector<ClipRef>& clips) { m_stack->add(clips); };
 }
 
+void AppEnvironment::toggleStack() {
+    m_stack->toggle(stackSeed());
+}
+
 /// What the shortcut starts the stack with: several selected clips of the open panel.
 std::vector<ClipRef> AppEnvironment::stackSeed() {
     return m_panel->isVisible() ? m_panel->model().stackSeed() : std::vector<ClipRef>();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/Date.h"
 #include "foundation/UserDefaults.h"
 #include "platform/DateTimer.h"
 #include "platform/FileBookmarks.h"
@@ -17,6 +18,7 @@
 #include "platform/SoundPlayer.h"
 #include "platform/SourceApp.h"
 #include "platform/TextReader.h"
+#include "shell/HistoryFolder.h"
 
 #include <QString>
 #include <functional>
@@ -44,6 +46,10 @@ struct Platform {
     std::unique_ptr<FolderWatching> folders;
     /// What punctual expiry waits with; null where the system has nothing better than an interval.
     std::unique_ptr<DateTimer> expiryTimer;
+    /// What time it is.
+    Clock clock = currentDate;
+    /// Whether there is room for pictures where this folder lies.
+    std::function<bool(const QString& folder)> hasRoomForImages = &vellumry::hasRoomForImages;
     /// Gives memory back that a while of rest does not need.
     std::function<void()> returnMemory = [] {};
     /// The folder that holds the application's own folder: $XDG_DATA_HOME.

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/AppDelegate.h"
+
+#include "shell/AppWorld.h"
+
+#include <QFile>
+
+namespace vellumry {
+namespace {
+
+class AppDelegateTest : public AppWorld {
+protected:
+    AppDelegateTest()
+        : delegate(makePlatform()) {
+        delegate.onStarted = [this] { ++starts; };
+    }
+    /// The program is up.
+    void run() {
+        ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+        runUntil([this] { return starts > 0; });
+    }
+
+    AppDelegate delegate;
+    int starts = 0;
+};
+
+TEST_F(AppDelegateTest, ASecondCopyBuildsNothing) {
+    instance->hasOther = true;
+    EXPECT_FALSE(delegate.applicationDidFinishLaunching());
+    EXPECT_EQ(delegate.environment(), nullptr);
+    EXPECT_FALSE(QFile::exists(historyFile()));
+    EXPECT_FALSE(keyring.keys.load());
+    EXPECT_EQ(starts, 0);
+}
+
+TEST_F(AppDelegateTest, TheEnvironmentComesUpStartedAndIsAnnouncedOnce) {
+    run();
+    ASSERT_NE(delegate.environment(), nullptr);
+    EXPECT_EQ(starts, 1);
+    EXPECT_FALSE(hotKeys->grabbed.empty());
+    EXPECT_TRUE(QFile::exists(historyFile()));
+}
+
+TEST_F(AppDelegateTest, StartingItAgainBringsThePanel) {
+    run();
+    instance->onReopen();
+    EXPECT_TRUE(delegate.environment()->panel().isVisible());
+}
+
+TEST_F(AppDelegateTest, TheDesktopsKeyBindingsDoWhatTheShortcutsDo) {
+    run();
+    const AppEnvironment& environment = *delegate.environment();
+    for (const bool isUp : {true, false}) {
+        instance->onAction(QStringLiteral("open-panel"));
+        EXPECT_EQ(delegate.environment()->panel().isVisible(), isUp);
+    }
+    for (const bool isOn : {true, false}) {
+        instance->onAction(QStringLiteral("toggle-stack"));
+        EXPECT_EQ(delegate.environment()->stack().isActive(), isOn);
+    }
+    instance->onAction(QStringLiteral("fly"));
+    EXPECT_FALSE(environment.isQuitting());
+}
+
+TEST_F(AppDelegateTest, WhatIsAskedBeforeTheEnvironmentIsUpIsDropped) {
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    ASSERT_EQ(delegate.environment(), nullptr);
+    instance->onReopen();
+    instance->onAction(QStringLiteral("open-panel"));
+    delegate.applicationShouldTerminate();
+    runUntil([this] { return starts > 0; });
+    EXPECT_FALSE(delegate.environment()->panel().isVisible());
+    EXPECT_FALSE(delegate.environment()->isQuitting());
+}
+
+TEST_F(AppDelegateTest, TheEnvironmentKnowsThatTheProgramEnds) {
+    run();
+    EXPECT_FALSE(delegate.environment()->isQuitting());
+    delegate.applicationShouldTerminate();
+    EXPECT_TRUE(delegate.environment()->isQuitting());
+}
+
+} // namespace
+} // namespace vellumry

@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/AppEnvironment.h"
+
+#include "paste/Shortcut.h"
+#include "shell/AppWorld.h"
+
+#include <QFile>
+#include <QTimer>
+
+namespace vellumry {
+namespace {
+
+class AppEnvironmentTest : public AppWorld {
+protected:
+    /// Ends the run that may be under way and begins the next.
+    void launch() {
+        environment.reset();
+        platform = makePlatform();
+        environment = awaited(AppEnvironment::launch(platform));
+    }
+    void start() {
+        launch();
+        environment->start();
+    }
+    [[nodiscard]] ClipStore& store() const { return environment->store(); }
+    /// Another program copies; the watcher looks.
+    void copy(const QString& type, const QByteArray& bytes) {
+        pasteboard->copy(type, bytes);
+        environment->watcher().tick(time.clock()());
+    }
+    void copyText(const char* text) { copy(uniformtype::utf8PlainText, text); }
+    /// As `copyText`, until it is on the disk.
+    void keep(const char* text) {
+        copyText(text);
+        awaited(store().markUsed(store().clips().front()->id, time.clock()()));
+    }
+    void keepPinned(const char* text) {
+        keep(text);
+        awaited(store().setPinned(store().clips().front()->id, true, time.clock()()));
+    }
+    bool press(const Shortcut& shortcut) { return hotKeys->press({shortcut.keyCode, shortcut.modifiers}); }
+    [[nodiscard]] QTimer* maintenance() const { return environment->findChild<QTimer*>(); }
+    /// The maintenance timer's interval has passed.
+    void maintain() const { QMetaObject::invokeMethod(maintenance(), "timeout"); }
+
+    Platform platform;
+    std::unique_ptr<AppEnvironment> environment;
+};
+
+TEST_F(AppEnvironmentTest, AKeyringThatRefusesLeavesMemoryOnlyAndTheUserIsTold) {
+    keyring.refuses = true;
+    start();
+    EXPECT_TRUE(environment->isMemoryOnly());
+    EXPECT_TRUE(sees("Vellumry can't reach your Keychain"));
+    copyText("held in memory");
+    ASSERT_EQ(store().clips().size(), 1U);
+    EXPECT_EQ(store().clips().front()->title, QStringLiteral("held in memory"));
+    EXPECT_FALSE(QFile::exists(historyFile()));
+}
+
+TEST_F(AppEnvironmentTest, TheOldHistoryIsBackWithTheKeyring) {
+    start();
+    EXPECT_FALSE(environment->isMemoryOnly());
+    keep("kept");
+    keyring.refuses = true;
+    start();
+    EXPECT_TRUE(store().clips().empty());
+    keyring.refuses = false;
+    start();
+    EXPECT_FALSE(environment->isMemoryOnly());
+    ASSERT_EQ(store().clips().size(), 1U);
+    EXPECT_EQ(store().clips().front()->title, QStringLiteral("kept"));
+    EXPECT_EQ(seenTexts(), QStringList());
+}
+
+TEST_F(AppEnvironmentTest, AFolderThatCannotBeMadeLeavesMemoryOnly) {
+    QFile inTheWay(disk.filePath(QStringLiteral("data")));
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    launch();
+    EXPECT_TRUE(environment->isMemoryOnly());
+    hasRoom = false;
+    copy(uniformtype::png, "png");
+    EXPECT_EQ(askedFolder, disk.path()) << "the home folder stands in for the one that is not there";
+    EXPECT_EQ(environment->historySize(), QString());
+}
+
+TEST_F(AppEnvironmentTest, AHistoryThatWasPutAsideIsToldOnce) {
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(historyFile()).path()));
+    QFile file(historyFile());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(10'000, 'x'));
+    file.close();
+    keyring.keys.save(SymmetricKey::random());
+    launch();
+    EXPECT_FALSE(environment->isMemoryOnly());
+    EXPECT_TRUE(store().recoveredFromDamage());
+    environment->start();
+    EXPECT_TRUE(sees("Vellumry started a fresh history"));
+    EXPECT_FALSE(store().recoveredFromDamage());
+    start();
+    EXPECT_EQ(seenTexts(), QStringList());
+}
+
+TEST_F(AppEnvironmentTest, WhatIsOnThePasteboardAtLaunchIsNoClip) {
+    platform = makePlatform();
+    pasteboard->copyText(QStringLiteral("from before"));
+    environment = awaited(AppEnvironment::launch(platform));
+    environment->start();
+    environment->watcher().tick(time.clock()());
+    EXPECT_TRUE(store().clips().empty());
+    copyText("from now");
+    EXPECT_EQ(store().clips().size(), 1U);
+}
+
+TEST_F(AppEnvironmentTest, TheLimitsAtLaunchAreThoseOfThePreferences) {
+    start();
+    defaults->setObject(QStringLiteral("keepForDays"), 3);
+    start();
+    EXPECT_EQ(store().policy().maxAge, 3 * 86'400.0);
+}
+
+TEST_F(AppEnvironmentTest, ALimitChangedBehindItsBackCountsAtTheNextTick) {
+    start();
+    ASSERT_TRUE(maintenance());
+    EXPECT_TRUE(maintenance()->isActive());
+    EXPECT_EQ(maintenance()->interval(), 15'000);
+    for (const char* text : {"one", "two", "three"})
+        keep(text);
+    defaults->setObject(QStringLiteral("keepAtMost"), 1);
+    EXPECT_EQ(store().clips().size(), 3U);
+    maintain();
+    ASSERT_EQ(store().clips().size(), 1U);
+    EXPECT_EQ(store().clips().front()->title, QStringLiteral("three"));
+}
+
+TEST_F(AppEnvironmentTest, ClipsThatGrewTooOldBetweenTwoRunsGoAtTheStart) {
+    start();
+    defaults->setObject(QStringLiteral("keepForDays"), 1);
+    keep("old");
+    time.pass(2 * 86'400);
+    launch();
+    EXPECT_EQ(store().clips().size(), 1U);
+    environment->start();
+    EXPECT_TRUE(store().clips().empty());
+}
+
+TEST_F(AppEnvironmentTest, ASecretGoesAtItsTime) {
+    start();
+    copyText("4111 1111 1111 1111");
+    ASSERT_EQ(store().clips().size(), 1U);
+    ASSERT_TRUE(store().nextExpiry());
+    EXPECT_NEAR(*time.waitsFor(), time.clock()() + 60.05, 0.001);
+    time.pass(60.1);
+    EXPECT_TRUE(store().clips().empty());
+}
+
+TEST_F(AppEnvironmentTest, MemoryIsGivenBackOnceAfterEachTimeOfWork) {
+    start();
+    maintain();
+    EXPECT_EQ(memoryReturns, 1);
+    maintain();
+    EXPECT_EQ(memoryReturns, 1);
+    environment->openPanel();
+    maintain();
+    EXPECT_EQ(memoryReturns, 1) << "not while the panel is open";
+    environment->togglePanel();
+    maintain();
+    maintain();
+    EXPECT_EQ(memoryReturns, 2);
+}
+
+TEST_F(AppEnvironmentTest, AFullDiskIsToldOnceAnHour) {
+    const char* const warning = "Your Mac is almost full. Vellumry saves text only for now";
+    const ToastMessage other{QStringLiteral("pin.fill"), QStringLiteral("Pinned"), ToastMessage::Tone::success};
+    start();
+    hasRoom = false;
+    copy(uniformtype::png, "one");
+    EXPECT_TRUE(sees(warning));
+    EXPECT_EQ(askedFolder, QFileInfo(historyFile()).path());
+    EXPECT_TRUE(store().clips().empty());
+    environment->showToast(other);
+    time.pass(3599);
+    copy(uniformtype::png, "two");
+    EXPECT_FALSE(sees(warning));
+    time.pass(2);
+    copy(uniformtype::png, "three");
+    EXPECT_TRUE(sees(warning));
+    hasRoom = true;
+    copy(uniformtype::png, "four");
+    EXPECT_EQ(store().clips().size(), 1U);
+}
+
+TEST_F(AppEnvironmentTest, ACopyThatWasToBeIgnoredIsTold) {
+    start();
+    environment->watcher().ignoreNextCopy = true;
+    copyText("not for the history");
+    EXPECT_TRUE(sees("Skipped. That copy wasn't saved"));
+    EXPECT_TRUE(store().clips().empty());
+}
+
+TEST_F(AppEnvironmentTest, TheTextOfACopiedPictureIsRead) {
+    start();
+    textReader->readings = {{TextReader::Outcome::text, QStringLiteral("boarding pass")},
+                            {TextReader::Outcome::text, QStringLiteral("boarding pass")}};
+    copy(uniformtype::png, "png");
+    runUntil([&] { return store().search(QStringLiteral("boarding"), ClipFilter::images).size() == 1; });
+    EXPECT_EQ(textReader->requests.front().image, "png");
+}
+
+TEST_F(AppEnvironmentTest, ACopySurvivesItsProgram) {
+    start();
+    keep("words of a program that ends");
+    pasteboard->ownerGoes();
+    runUntil([&] { return pasteboard->isOurs(); });
+    EXPECT_EQ(plainText(pasteboard->items()), QStringLiteral("words of a program that ends"));
+}
+
+TEST_F(AppEnvironmentTest, TheShortcutOpensAndClosesThePanel) {
+    start();
+    EXPECT_TRUE(press(Shortcut::openPanelDefault()));
+    EXPECT_TRUE(environment->panel().isVisible());
+    EXPECT_TRUE(press(Shortcut::openPanelDefault()));
+    EXPECT_FALSE(environment->panel().isVisible());
+    environment->suspendShortcuts(true);
+    EXPECT_FALSE(press(Shortcut::openPanelDefault()));
+    environment->suspendShortcuts(false);
+    EXPECT_TRUE(press(Shortcut::openPanelDefault()));
+}
+
+TEST_F(AppEnvironmentTest, AShortcutThatAnotherProgramHoldsIsReported) {
+    start();
+    EXPECT_EQ(environment->reloadShortcuts(), QStringList());
+    const Shortcut stack = Shortcut::pasteStackDefault();
+    environment->suspendShortcuts(true);
+    hotKeys->taken.insert({stack.keyCode, stack.modifiers});
+    EXPECT_EQ(environment->reloadShortcuts().size(), 1);
+}
+
+TEST_F(AppEnvironmentTest, AShortcutPastesAPinnedClipWithASoundForWhoWantsIt) {
+    start();
+    keepPinned("pinned words");
+    EXPECT_TRUE(press(Shortcut::pinned(1)));
+    runUntil([&] { return target->presses == 1; });
+    EXPECT_EQ(plainText(pasteboard->items()), QStringLiteral("pinned words"));
+    EXPECT_TRUE(sounds->played.empty());
+    defaults->setObject(QStringLiteral("soundWhenPasting"), true);
+    EXPECT_TRUE(press(Shortcut::pinned(1)));
+    runUntil([&] { return target->presses == 2; });
+    EXPECT_EQ(sounds->played.size(), 1U);
+}
+
+TEST_F(AppEnvironmentTest, TheShortcutOfTheStackStartsItAndStopsIt) {
+    start();
+    EXPECT_TRUE(press(Shortcut::pasteStackDefault()));
+    EXPECT_TRUE(environment->stack().isActive());
+    EXPECT_TRUE(pasteKeys->isStarted);
+    copyText("first");
+    EXPECT_EQ(environment->stack().count(), 1);
+    EXPECT_TRUE(press(Shortcut::pasteStackDefault()));
+    EXPECT_FALSE(environment->stack().isActive());
+    EXPECT_FALSE(pasteKeys->isStarted);
+}
+
+} // namespace
+} // namespace vellumry
