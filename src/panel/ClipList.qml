@@ -7,6 +7,8 @@ ListView {
 
     required property var panel // PanelController's view of the model
     property int hoveredRow: -1
+    readonly property string help: panel.helpOf(hoveredRow)
+    property alias askingTime: rest.interval
 
     objectName: "clips"
     model: panel.rows
@@ -18,7 +20,12 @@ ListView {
     keyNavigationEnabled: false
     highlightFollowsCurrentItem: false
     onContentYChanged: area.rest()
-    onHoveredRowChanged: panel.rowHovered(hoveredRow)
+    onHoveredRowChanged: {
+        rest.isAsking = false;
+        if (rest.isHovered)
+            rest.restart();
+        panel.rowHovered(hoveredRow);
+    }
     Accessible.role: Accessible.List
     Accessible.name: panel.words("Clips")
 
@@ -56,6 +63,7 @@ ListView {
         required property string pill
         required property string numberKeys
         required property string pinKeys
+        required property string pinHint
         required property bool isPinned
         required property bool isSelected
         required property bool isSensitive
@@ -71,7 +79,7 @@ ListView {
         height: isHeader ? (header === "" ? 6 : Look.headerHeight) : Look.rowHeight
         Accessible.role: isHeader ? Accessible.Heading : Accessible.ListItem
         Accessible.name: isHeader ? header : title
-        Accessible.description: isHeader ? "" : sourceName
+        Accessible.description: isHeader ? "" : pinHint === "" ? sourceName : sourceName + ", " + pinHint
         Accessible.selected: isSelected
         Accessible.selectable: !isHeader
 
@@ -131,6 +139,23 @@ ListView {
         }
         onReleased: list.panel.rowReleased(pressedRow)
         onDoubleClicked: mouse => list.panel.rowDoubleClicked(rowAt(mouse))
+    }
+
+    HoverRest {
+        id: rest
+        isHovered: list.help !== ""
+    }
+    HelpBubble {
+        readonly property Item row: rest.isAsking ? list.itemAtIndex(list.hoveredRow) : null
+        readonly property real rowTop: row === null ? 0 : row.y - list.contentY
+        readonly property real below: rowTop + Look.rowHeight
+
+        z: 1
+        anchors.right: parent.right
+        anchors.rightMargin: 18
+        y: below + height > list.height ? rowTop - height : below
+        text: list.help
+        visible: row !== null
     }
 
     Rectangle {

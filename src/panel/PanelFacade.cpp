@@ -175,6 +175,10 @@ void PanelFacade::rowHovered(int row) {
     m_model->setHoveredID(clip ? std::optional(clip->id) : std::nullopt);
 }
 
+QString PanelFacade::helpOf(int row) const {
+    return m_rows.clipAt(row) ? m_rows.data(m_rows.index(row), PanelListModel::PinHintRole).toString() : QString();
+}
+
 void PanelFacade::rowPressed(int row, int modifiers) {
     if (const ClipRef clip = m_rows.clipAt(row))
         m_collapsesOnRelease = m_model->click(clip->id, eventFlags(Qt::KeyboardModifiers(modifiers)));
@@ -226,8 +230,6 @@ QVariantList PanelFacade::filters() const {
 QStringList PanelFacade::emptyLines() const {
     if (hasQuery())
         return {localised("No clips match “") + m_model->query() + QStringLiteral("”")};
-    if (m_model->filter() != ClipFilter::all)
-        return {localised("Nothing here yet")};
     // The sentence names the default keys; who chose others reads those.
     QString invitation = localised("Press ⌃⌘V anytime to open Vellumry.");
     invitation.replace(localised("⌃") + localised("⌘") + QLatin1Char('V'), m_openPanelKeys());

@@ -50,6 +50,8 @@ public:
     Q_INVOKABLE void copyFromField(const QString& text);
     /// The pointer lies on that row; -1 on none.
     Q_INVOKABLE void rowHovered(int row);
+    /// What is told of that row where the pointer rests on it; may be empty.
+    Q_INVOKABLE [[nodiscard]] QString helpOf(int row) const;
     Q_INVOKABLE void rowPressed(int row, int modifiers);
     Q_INVOKABLE void rowReleased(int row);
     Q_INVOKABLE void rowDoubleClicked(int row);

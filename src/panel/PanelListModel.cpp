@@ -162,6 +162,10 @@ QVariant PanelListModel::clipData(const Clip& clip, int role) const {
         return keysOf(m_rowNumbers, clip, m_words.number);
     case PinKeysRole:
         return keysOf(m_pinNumbers, clip, m_words.pin);
+    case PinHintRole: {
+        const QString keys = keysOf(m_pinNumbers, clip, m_words.pin);
+        return keys.isEmpty() ? keys : keys + localised(" anywhere to paste this");
+    }
     case IsPinnedRole:
         return clip.isPinned;
     case IsSelectedRole:
@@ -200,11 +204,14 @@ QString PanelListModel::keysOf(const QHash<QUuid, int>& numbers, const Clip& cli
 
 QHash<int, QByteArray> PanelListModel::roleNames() const {
     return {
-        {HeaderRole, "header"},     {IsHeaderRole, "isHeader"},     {IsFirstRole, "isFirst"},
-        {TitleRole, "title"},       {SourceNameRole, "sourceName"}, {ImageMatchRole, "imageMatch"},
-        {SymbolRole, "symbol"},     {ThumbnailRole, "thumbnail"},   {SwatchRole, "swatch"},
-        {PillRole, "pill"},         {NumberKeysRole, "numberKeys"}, {PinKeysRole, "pinKeys"},
-        {IsPinnedRole, "isPinned"}, {IsSelectedRole, "isSelected"}, {IsSensitiveRole, "isSensitive"},
+        {HeaderRole, "header"},         {IsHeaderRole, "isHeader"},
+        {IsFirstRole, "isFirst"},       {TitleRole, "title"},
+        {SourceNameRole, "sourceName"}, {ImageMatchRole, "imageMatch"},
+        {SymbolRole, "symbol"},         {ThumbnailRole, "thumbnail"},
+        {SwatchRole, "swatch"},         {PillRole, "pill"},
+        {NumberKeysRole, "numberKeys"}, {PinKeysRole, "pinKeys"},
+        {PinHintRole, "pinHint"},       {IsPinnedRole, "isPinned"},
+        {IsSelectedRole, "isSelected"}, {IsSensitiveRole, "isSensitive"},
     };
 }
 

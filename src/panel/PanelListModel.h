@@ -29,6 +29,7 @@ public:
         PillRole,
         NumberKeysRole,
         PinKeysRole,
+        PinHintRole,
         IsPinnedRole,
         IsSelectedRole,
         IsSensitiveRole,

@@ -49,6 +49,33 @@ TEST_F(PanelListModelTest, NumbersCarryTheirKeys) {
               (QStringList{QString(), QStringLiteral("Ctrl+1"), QString(), QStringLiteral("Ctrl+2")}));
 }
 
+TEST_F(PanelListModelTest, APinSaysWhichKeysPasteItAnywhere) {
+    const auto clip = add(drafts::text(QStringLiteral("first")), today);
+    add(drafts::text(QStringLiteral("second")), today + 1);
+    awaited(store.setPinned(clip->id, true, today + 2));
+    const int row = int(column(PanelListModel::TitleRole).indexOf(QStringLiteral("first")));
+    EXPECT_EQ(column(PanelListModel::PinHintRole)[row], QStringLiteral("Super+Alt+1 anywhere to paste this"));
+    EXPECT_EQ(column(PanelListModel::PinHintRole).count(QString()), rows.rowCount() - 1);
+    model.setAvailablePinnedNumbers({2});
+    EXPECT_EQ(column(PanelListModel::PinHintRole)[row], QString());
+}
+
+TEST_F(PanelListModelTest, SaysWhatBecameOfAClipsFiles) {
+    const QString here = QStringLiteral("/home/u/here.txt");
+    const QString other = QStringLiteral("/home/u/other.txt");
+    add(drafts::files({here, other}), today);
+    const auto pill = [&](const FileStatus& status) {
+        fileStatuses[other] = status;
+        model.prepareForShow();
+        return rows.data(rows.index(1), PanelListModel::PillRole).toString();
+    };
+    EXPECT_EQ(pill(FileStatus::missing()), QStringLiteral("Deleted"));
+    EXPECT_EQ(pill(FileStatus::inTrash(QStringLiteral("/trash/other.txt"))), QStringLiteral("In Trash"));
+    EXPECT_EQ(pill(FileStatus::volumeUnavailable(QStringLiteral("Disk"))), QStringLiteral("Offline"));
+    EXPECT_EQ(pill(FileStatus::moved(QStringLiteral("/home/u/elsewhere.txt"))), QString());
+    EXPECT_EQ(pill(FileStatus::available(other)), QString());
+}
+
 TEST_F(PanelListModelTest, NoRoleOfASensitiveClipHoldsItsText) {
     add(drafts::secret(QStringLiteral("hidden words")), today);
     for (int role = PanelListModel::HeaderRole; role <= PanelListModel::IsSensitiveRole; ++role)

@@ -51,6 +51,14 @@ TEST_F(PanelViewTest, AnEmptyHistorySaysHowToBegin) {
     EXPECT_TRUE(shown.contains(localised("Copy something. It shows up here.")));
 }
 
+TEST_F(PanelViewTest, AFilterWithoutClipsSaysHowToBeginToo) {
+    addText("apple");
+    open();
+    panel.model().setFilter(ClipFilter::pinned);
+    EXPECT_TRUE(texts().contains(localised("Nothing here yet")));
+    EXPECT_TRUE(texts().contains(localised("Copy something. It shows up here.")));
+}
+
 TEST_F(PanelViewTest, ASearchInVainQuotesTheQuery) {
     addText("apple");
     open();
