@@ -3,13 +3,15 @@
 
 #include "paste/Shortcut.h"
 
+#include <limits>
+
 namespace vellumry {
 
 namespace {
 
 using Command = PanelModel::Command;
 
-/// The key codes of the chords, by what the key types: the letter counts, wherever the layout has it.
+/// The key codes of the chords by what the key types: the letter counts, wherever the layout has it.
 std::optional<quint16> chordKeyCode(int key) {
     if (key >= Qt::Key_1 && key <= Qt::Key_9)
         return keyCodeOfDigit(key - Qt::Key_0);
@@ -33,6 +35,19 @@ std::optional<quint16> chordKeyCode(int key) {
     default:
         return std::nullopt;
     }
+}
+
+/// French keyboards type digits with Shift only, and Russian ones no Latin letters: there the key's place counts.
+std::optional<quint16> placedKeyCode(int key, const std::function<std::optional<quint32>()>& place) {
+    constexpr int lastOfLatin1 = 0xFF;
+    if (!place || key >= Qt::Key_Escape) // from there on keys type nothing
+        return std::nullopt;
+    const std::optional<quint32> keyCode = place();
+    if (!keyCode || *keyCode > std::numeric_limits<quint16>::max())
+        return std::nullopt;
+    if (key <= lastOfLatin1 && !digitOfKeyCode(quint16(*keyCode)))
+        return std::nullopt;
+    return quint16(*keyCode);
 }
 
 std::optional<Command> plainCommand(int key, bool isFieldEmpty) {
@@ -110,7 +125,8 @@ quint32 eventFlags(Qt::KeyboardModifiers modifiers) {
     return flags;
 }
 
-KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty) {
+KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty,
+                     const std::function<std::optional<quint32>()>& place) {
     quint32 flags = eventFlags(modifiers);
     // Quick fingers choose while the keys of the shortcut that opened the panel are still down.
     if ((flags & eventflag::control) != 0)
@@ -123,7 +139,10 @@ KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty
     else if (flags == eventflag::command)
         meaning.command = controlledCommand(key);
     if (!meaning.command && (flags & eventflag::command) != 0) {
-        if (const std::optional<quint16> keyCode = chordKeyCode(key))
+        std::optional<quint16> keyCode = chordKeyCode(key);
+        if (!keyCode)
+            keyCode = placedKeyCode(key, place);
+        if (keyCode)
             meaning.chord = KeyMeaning::Chord{*keyCode, flags};
     }
     return meaning;

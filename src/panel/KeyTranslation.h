@@ -4,6 +4,7 @@
 #include "panel/PanelModel.h"
 
 #include <Qt>
+#include <functional>
 #include <optional>
 
 namespace vellumry {
@@ -23,8 +24,10 @@ struct KeyMeaning {
 };
 
 /// With Super held, Super and Ctrl count as left over from the shortcut that opened the panel. `isFieldEmpty`: nothing
-/// is typed, so the arrows to the sides choose filters instead of moving the caret. Pure.
-[[nodiscard]] KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty);
+/// is typed, so the arrows to the sides choose filters instead of moving the caret. `place` answers the virtual key
+/// code of the key; it is asked for keys only whose letter no chord has.
+[[nodiscard]] KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty,
+                                   const std::function<std::optional<quint32>()>& place = nullptr);
 
 /// Qt's modifiers as bits of `eventflag`: Ctrl is command, Super control, Alt option.
 [[nodiscard]] quint32 eventFlags(Qt::KeyboardModifiers modifiers);

@@ -38,6 +38,7 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, Pasteboa
     , m_hooks(std::move(hooks)) {
     m_model.onClose = [this] { hide(); };
     m_model.onToast = m_hooks.showToast;
+    m_facade.keyCodeOf = m_hooks.keyCodeOf;
     m_facade.onGrabbed = [this] { grab(); };
     m_facade.onDragged = [this] { drag(); };
     m_facade.onDropped = [this] { drop(); };

@@ -36,6 +36,8 @@ public:
         std::function<void(std::optional<placement::Fractions>, const QString& display)> setPosition;
         /// The words for the shortcut that opens the panel.
         std::function<QString()> openPanelKeys;
+        /// The virtual key code of the key with that native scan code.
+        std::function<std::optional<quint32>(quint32 scanCode)> keyCodeOf;
         /// Shows a message on the display under the pointer.
         std::function<void(const ToastMessage&)> showToast;
         /// How long after the pointer let go the place is remembered.

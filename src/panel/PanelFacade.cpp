@@ -86,8 +86,9 @@ void PanelFacade::setFilter(int filter) {
     m_model->setFilterIndex(filter);
 }
 
-bool PanelFacade::keyPressed(int key, int modifiers, bool hasTextSelection) {
-    const KeyMeaning meaning = meaningOf(key, Qt::KeyboardModifiers(modifiers), query().isEmpty());
+bool PanelFacade::keyPressed(int key, int modifiers, quint32 scanCode, bool hasTextSelection) {
+    const auto place = [this, scanCode] { return keyCodeOf ? keyCodeOf(scanCode) : std::nullopt; };
+    const KeyMeaning meaning = meaningOf(key, Qt::KeyboardModifiers(modifiers), query().isEmpty(), place);
     // A command is meant for what was typed before it; a letter has time.
     if (meaning.command || meaning.chord)
         searchTyped();

@@ -43,8 +43,8 @@ public:
     PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::function<QString()> openPanelKeys);
 
     Q_INVOKABLE [[nodiscard]] QString words(const QString& key) const;
-    /// True when the key was the panel's.
-    Q_INVOKABLE bool keyPressed(int key, int modifiers, bool hasTextSelection);
+    /// True when the key was the panel's. `scanCode`: the native one.
+    Q_INVOKABLE bool keyPressed(int key, int modifiers, quint32 scanCode, bool hasTextSelection);
     /// Asks for what was copied; `pasted` tells it, now or later, or never.
     Q_INVOKABLE void pasteIntoField();
     Q_INVOKABLE void copyFromField(const QString& text);
@@ -91,6 +91,8 @@ public:
     /// Waking up is at once up to date.
     void setDormant(bool isDormant);
 
+    /// The virtual key code of the key with that native scan code.
+    std::function<std::optional<quint32>(quint32 scanCode)> keyCodeOf;
     /// The pointer took hold of an empty part, moved, let go.
     std::function<void()> onGrabbed = [] {};
     std::function<void()> onDragged = [] {};

@@ -64,7 +64,7 @@ Item {
             // The clipboard is ours to ask: the field itself would wait for its owner, and the panel with it.
             Keys.onPressed: event => {
                 event.accepted = true;
-                if (field.panel.keyPressed(event.key, event.modifiers, input.selectedText.length > 0))
+                if (field.panel.keyPressed(event.key, event.modifiers, event.nativeScanCode, input.selectedText.length > 0))
                     return;
                 if (event.matches(StandardKey.Paste))
                     field.panel.pasteIntoField();

@@ -15,6 +15,8 @@ public:
     [[nodiscard]] virtual std::optional<quint32> keyCodeFor(QChar character) const = 0;
     /// What the key types without modifiers; nothing when the layout does not say.
     [[nodiscard]] virtual std::optional<QString> charactersFor(quint32 keyCode) const = 0;
+    /// The virtual key code of the key that Qt reports with this native scan code; nothing for a key without one.
+    [[nodiscard]] virtual std::optional<quint32> keyCodeOfScanCode(quint32 nativeScanCode) const = 0;
 };
 
 } // namespace vellumry

@@ -125,6 +125,7 @@ PanelController::Hooks AppEnvironment::panelHooks() {
             .value_or(Shortcut::openPanelDefault())
             .display(*m_platform->keyboard);
     };
+    hooks.keyCodeOf = [this](quint32 scanCode) { return m_platform->keyboard->keyCodeOfScanCode(scanCode); };
     hooks.showToast = [this](const ToastMessage& message) { showToast(message); };
     return hooks;
 }

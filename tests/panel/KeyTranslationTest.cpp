@@ -66,5 +66,31 @@ TEST_P(KeyTranslation, GivesItsMeaning) {
     EXPECT_TRUE(meaningOf(row.key, row.modifiers, row.isFieldEmpty) == row.meaning);
 }
 
+TEST(KeyTranslationByPlace, DigitsThatNeedShiftCountByTheirPlace) {
+    const auto second = [] { return std::optional(19U); };
+    EXPECT_TRUE(meaningOf(Qt::Key_Eacute, Qt::ControlModifier, false, second) == chord(19));
+    EXPECT_TRUE(meaningOf(Qt::Key_Eacute, Qt::NoModifier, false, second) == KeyMeaning());
+}
+
+TEST(KeyTranslationByPlace, LettersOfOtherScriptsCountByTheirPlace) {
+    constexpr int cyrillicZe = 0x0417;
+    EXPECT_TRUE(meaningOf(cyrillicZe, Qt::ControlModifier, false, [] { return std::optional(35U); }) == chord(35));
+}
+
+TEST(KeyTranslationByPlace, ALatinLetterCountsWhereverItIs) {
+    const auto placeOfP = [] { return std::optional(35U); };
+    EXPECT_TRUE(meaningOf(Qt::Key_L, Qt::ControlModifier, false, placeOfP) == KeyMeaning());
+    EXPECT_TRUE(meaningOf(Qt::Key_C, Qt::ControlModifier, false, placeOfP) == chord(8));
+}
+
+TEST(KeyTranslationByPlace, KeysThatTypeNothingAreNotAskedForTheirPlace) {
+    const auto place = []() -> std::optional<quint32> {
+        ADD_FAILURE();
+        return 18;
+    };
+    EXPECT_TRUE(meaningOf(Qt::Key_Control, Qt::ControlModifier, false, place) == KeyMeaning());
+    EXPECT_TRUE(meaningOf(Qt::Key_3, Qt::ControlModifier, false, place) == chord(20));
+}
+
 INSTANTIATE_TEST_SUITE_P(Keys, KeyTranslation, ::testing::ValuesIn(rows),
                          [](const ::testing::TestParamInfo<Row>& row) { return std::string(row.param.name); });

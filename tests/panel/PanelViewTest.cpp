@@ -101,6 +101,34 @@ TEST_F(PanelViewTest, KeysReachTheModelBeforeTheText) {
     EXPECT_FALSE(panel.isVisible());
 }
 
+TEST_F(PanelViewTest, DigitsPasteByTheirPlaceWhereTheLayoutTypesSomethingElse) {
+    addText("older");
+    addText("newer");
+    open();
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Eacute, Qt::ControlModifier, placeOfTwo, 0, 0, QStringLiteral("é"));
+    QCoreApplication::sendEvent(view(), &press);
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_EQ(pastedText(), QStringLiteral("older"));
+}
+
+TEST_F(PanelViewTest, ARestingPointerIsToldWhatPastesAPinAnywhere) {
+    const ClipRef pinned = addText("pinned");
+    awaited(store.setPinned(pinned->id, true, now));
+    addText("other");
+    open();
+    QQuickItem* list = view()->rootObject()->findChild<QQuickItem*>(QStringLiteral("clips"));
+    ASSERT_NE(list, nullptr);
+    list->setProperty("askingTime", 0);
+    const QString help = localised("⌃") + localised("⌥") + QLatin1Char('1') + localised(" anywhere to paste this");
+    QTest::mouseMove(view(), QPoint(5, 5));
+    const QPoint place = middleOf(itemWithText(QStringLiteral("pinned")));
+    QTest::mouseMove(view(), place);
+    QTest::mouseMove(view(), place + QPoint(3, 0));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return texts().contains(help); }));
+    QTest::mouseMove(view(), middleOf(itemWithText(QStringLiteral("other"))));
+    EXPECT_FALSE(texts().contains(help));
+}
+
 TEST_F(PanelViewTest, ADoubleClickPastesTheRow) {
     addText("older");
     addText("newer");

@@ -17,6 +17,9 @@ namespace vellumry {
 /// The panel over a world in memory, on a display that is not there.
 class PanelWindowWorld : public ::testing::Test, public PasteWorld {
 protected:
+    /// The native scan code of the second digit.
+    static constexpr quint32 placeOfTwo = 11;
+
     PanelWindowWorld() { now = currentDate() - 60; }
 
     PanelController::Hooks panelHooks() {
@@ -31,6 +34,7 @@ protected:
             if (position)
                 positions.insert(display, *position);
         };
+        hooks.keyCodeOf = [](quint32 scanCode) { return scanCode == placeOfTwo ? std::optional(19U) : std::nullopt; };
         hooks.openPanelKeys = [] { return QStringLiteral("Super+V"); };
         hooks.showToast = [this](const ToastMessage& toast) { toasts.push_back(toast); };
         hooks.settleDelay = std::chrono::milliseconds(0);

@@ -12,6 +12,7 @@ class FakeKeyboardLayout : public KeyboardLayout {
 public:
     std::map<quint32, QString> characters{
         {0, QStringLiteral("a")}, {1, QStringLiteral("s")}, {9, QStringLiteral("v")}, {20, QStringLiteral("3")}};
+    std::map<quint32, quint32> scanCodes; ///< native scan code to key code
 
     [[nodiscard]] std::optional<quint32> keyCodeFor(QChar character) const override {
         for (const auto& [keyCode, text] : characters) {
@@ -23,6 +24,10 @@ public:
     [[nodiscard]] std::optional<QString> charactersFor(quint32 keyCode) const override {
         const auto found = characters.find(keyCode);
         return found == characters.end() ? std::nullopt : std::optional(found->second);
+    }
+    [[nodiscard]] std::optional<quint32> keyCodeOfScanCode(quint32 nativeScanCode) const override {
+        const auto found = scanCodes.find(nativeScanCode);
+        return found == scanCodes.end() ? std::nullopt : std::optional(found->second);
     }
 };
 

@@ -14,9 +14,7 @@ public:
 
     [[nodiscard]] std::optional<quint32> keyCodeFor(QChar character) const override;
     [[nodiscard]] std::optional<QString> charactersFor(quint32 keyCode) const override;
-
-    /// The virtual key code of the key that Qt reports with this native scan code.
-    [[nodiscard]] std::optional<quint32> keyCodeOfScanCode(quint32 nativeScanCode) const;
+    [[nodiscard]] std::optional<quint32> keyCodeOfScanCode(quint32 nativeScanCode) const override;
 
 private:
     std::shared_ptr<XlibConnection> m_connection;
