@@ -102,7 +102,8 @@ void PanelController::applyLook() {
 }
 
 QRect PanelController::windowFrame(const QRectF& panel) const {
-    return panel.toAlignedRect().adjusted(-m_shadowMargin, -m_shadowMargin, m_shadowMargin, m_shadowMargin);
+    return QRect(panel.topLeft().toPoint(), panelSize)
+        .adjusted(-m_shadowMargin, -m_shadowMargin, m_shadowMargin, m_shadowMargin);
 }
 
 QRectF PanelController::panelFrame() const {
@@ -168,18 +169,23 @@ void PanelController::toggle() {
 
 void PanelController::grab() {
     m_settle.stop();
-    m_grabOffset = QCursor::pos() - m_view->position();
+    m_grabbedAt = m_view->position();
+    m_grabOffset = QCursor::pos() - m_grabbedAt;
 }
 
 void PanelController::drag() {
     m_view->setPosition(QCursor::pos() - m_grabOffset);
 }
 
+/// A mere click on an empty part chooses no place.
 void PanelController::drop() {
-    m_settle.start();
+    m_hasMoved = m_hasMoved || m_view->position() != m_grabbedAt;
+    if (m_hasMoved)
+        m_settle.start();
 }
 
 void PanelController::settlePosition() {
+    m_hasMoved = false;
     if (!isVisible())
         return;
     const QRectF frame = panelFrame();

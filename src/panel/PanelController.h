@@ -91,7 +91,9 @@ private:
     int m_shadowMargin = 0;
     /// Saves the place a moment after the pointer let go.
     QTimer m_settle;
+    QPoint m_grabbedAt;
     QPoint m_grabOffset;
+    bool m_hasMoved = false; ///< dragged, and the place not yet remembered
     /// Lets go of what was typed a moment after the panel closed, out of the way of a paste.
     QTimer m_forget;
 };

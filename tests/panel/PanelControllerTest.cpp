@@ -10,11 +10,20 @@ protected:
     [[nodiscard]] QRect home() const {
         return placement::defaultFrame(PanelController::panelSize, surface.screen->visible).toAlignedRect();
     }
-    /// The user holds an empty part, takes the panel along and lets go.
-    void dragTo(const QPoint& place) {
-        view()->setPosition(place);
-        QTest::mouseClick(view(), Qt::LeftButton, {}, QPoint(5, 5));
+    /// The user holds an empty part and takes the panel along.
+    void takeTo(const QPoint& place) {
+        QCursor::setPos(view()->mapToGlobal(emptyPart));
+        QTest::mousePress(view(), Qt::LeftButton, {}, emptyPart);
+        QCursor::setPos(place + emptyPart);
+        QTest::mouseMove(view(), emptyPart + QPoint(1, 0));
     }
+    void letGo() { QTest::mouseRelease(view(), Qt::LeftButton, {}, emptyPart); }
+    void dragTo(const QPoint& place) {
+        takeTo(place);
+        letGo();
+    }
+
+    const QPoint emptyPart{5, 5};
 };
 
 } // namespace
@@ -63,6 +72,24 @@ TEST_F(PanelControllerTest, ARememberedPlaceCounts) {
     EXPECT_EQ(surface.frames.first().center(), QRect(QPoint(410, 250), PanelController::panelSize).center());
 }
 
+TEST_F(PanelControllerTest, ItKeepsItsSizeWhereverItsCentreLies) {
+    positions.insert(QStringLiteral("one"), placement::Fractions{0.33333, 0.44444});
+    open();
+    EXPECT_EQ(surface.frames.first().size(), PanelController::panelSize);
+}
+
+TEST_F(PanelControllerTest, EachDisplayHasAPlaceOfItsOwn) {
+    positions.insert(QStringLiteral("one"), placement::Fractions{0.5, 0.5});
+    positions.insert(QStringLiteral("two"), placement::Fractions{0.25, 0.5});
+    open();
+    panel.hide();
+    surface.under = ScreenPlace{QStringLiteral("two"), QRect(1600, 0, 3200, 1000), QRect(1600, 0, 3200, 1000)};
+    panel.show();
+    ASSERT_EQ(surface.frames.size(), 2);
+    EXPECT_EQ(surface.frames[0].topLeft(), QPoint(410, 250));
+    EXPECT_EQ(surface.frames[1].topLeft(), QPoint(2010, 250));
+}
+
 TEST_F(PanelControllerTest, TheShadowLiesAroundThePanelWhereWindowsBlend) {
     surface.blends = true;
     open();
@@ -93,6 +120,23 @@ TEST_F(PanelControllerTest, NearHomeItSlidesBackAndIsForgotten) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return savings == 1; }));
     EXPECT_TRUE(positions.isEmpty());
     EXPECT_EQ(view()->position(), home().topLeft());
+}
+
+TEST_F(PanelControllerTest, WhileItIsHeldNoPlaceIsRemembered) {
+    open();
+    takeTo(QPoint(100, 400));
+    EXPECT_EQ(view()->position(), QPoint(100, 400));
+    QTest::qWait(0);
+    EXPECT_EQ(savings, 0);
+    letGo();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return savings == 1; }));
+}
+
+TEST_F(PanelControllerTest, AClickOnAnEmptyPartChoosesNoPlace) {
+    open();
+    QTest::mouseClick(view(), Qt::LeftButton, {}, emptyPart);
+    QTest::qWait(0);
+    EXPECT_EQ(savings, 0);
 }
 
 TEST_F(PanelControllerTest, TheAppearanceIsTheUsersChoice) {
