@@ -16,6 +16,7 @@ namespace {
 
 constexpr unsigned long symbolV = 0x76;
 constexpr unsigned long symbolK = 0x6b;
+constexpr unsigned long symbolEm = 0x6cd; // of Cyrillic
 constexpr unsigned long symbolInsert = 0xff63;
 constexpr unsigned int shift = 1;
 constexpr unsigned int control = 4;
@@ -128,6 +129,14 @@ TEST_F(X11PasteTargetTest, TheChordIsOnTheKeyThatTypesV) {
     ASSERT_TRUE(XSession::setLayout(QStringLiteral("us -variant dvorak")));
     target.pressPaste();
     EXPECT_EQ(pasted(editor), (Chords{{symbolV, control}}));
+}
+
+TEST_F(X11PasteTargetTest, WithoutAVTheChordIsOnItsPlace) {
+    XClient editor;
+    ASSERT_TRUE(editor.open("edit", "Editor"));
+    ASSERT_TRUE(XSession::setLayout(QStringLiteral("ru")));
+    target.pressPaste();
+    EXPECT_EQ(pasted(editor), (Chords{{symbolEm, control}}));
 }
 
 TEST_F(X11PasteTargetTest, AForeignKeyboardGrabIsSecureInput) {
