@@ -50,9 +50,9 @@ StackWiring::StackWiring(Parts parts, Hooks hooks, QObject* parent)
     };
     // This runs inside the press that took the last item, whose key is still to go on its way.
     m_stack.onFinish = [this] { QMetaObject::invokeMethod(this, &StackWiring::finish, Qt::QueuedConnection); };
+    // So does this, and the message needs a window.
     m_stack.onSkip = [this](const PasteStack::Item&) {
-        m_hooks.showToast(
-            {QStringLiteral("trash.fill"), localised("Skipped a deleted file"), ToastMessage::Tone::warning});
+        QMetaObject::invokeMethod(this, &StackWiring::tellOfSkipped, Qt::QueuedConnection);
     };
 }
 
@@ -62,6 +62,10 @@ PasteStack::ResolvingFiles StackWiring::resolvingFiles() {
     return [this](std::vector<PasteboardItem> items, const std::vector<FileRef>& files) {
         return fileresolution::resolveNow(std::move(items), files, m_hooks.fileStatus, m_fileLimit);
     };
+}
+
+void StackWiring::tellOfSkipped() {
+    m_hooks.showToast({QStringLiteral("trash.fill"), localised("Skipped a deleted file"), ToastMessage::Tone::warning});
 }
 
 void StackWiring::toggle(const std::vector<ClipRef>& seed) {
@@ -90,12 +94,14 @@ void StackWiring::toggle(const std::vector<ClipRef>& seed) {
 QCoro::Task<void> StackWiring::start(std::vector<ClipRef> seed) {
     const QPointer self(this);
     m_isStarting = true;
+    m_seed = seed;
     const quint64 number = ++m_startNumber;
     auto making = stackItems(std::move(seed));
     std::vector<PasteStack::Item> items = co_await making;
     if (!self || number != m_startNumber)
         co_return;
     m_isStarting = false;
+    m_seed.clear();
     m_stack.start(std::move(items));
     onStarted();
 }
@@ -103,6 +109,7 @@ QCoro::Task<void> StackWiring::start(std::vector<ClipRef> seed) {
 void StackWiring::stop() {
     ++m_startNumber;
     m_isStarting = false;
+    m_seed.clear();
     m_stack.stop();
     m_listener.stop();
     onStopped();
@@ -117,6 +124,13 @@ void StackWiring::finish() {
 }
 
 void StackWiring::add(const std::vector<ClipRef>& clips) {
+    if (m_isStarting) {
+        m_hooks.closePanel();
+        std::vector<ClipRef> all = m_seed;
+        all.insert(all.end(), clips.begin(), clips.end());
+        start(std::move(all));
+        return;
+    }
     if (!m_stack.isActive()) {
         toggle(clips);
         return;

@@ -78,6 +78,7 @@ private:
     QCoro::Task<void> lookForCopies();
     void pasteNow();
     void finish();
+    void tellOfSkipped();
     [[nodiscard]] PasteStack::ResolvingFiles resolvingFiles();
 
     Parts m_parts;
@@ -92,6 +93,7 @@ private:
     /// Told apart by number: a start whose clips are still being opened may be overtaken.
     quint64 m_startNumber = 0;
     bool m_isStarting = false;
+    std::vector<ClipRef> m_seed; ///< of the start under way
 };
 
 } // namespace vellumry

@@ -178,8 +178,11 @@ TEST(StackWiring, ACopiedFileIsTriedAtOnce) {
 TEST(StackWiring, DeletedFilesArePassedOverWithAWord) {
     StackWorld world;
     world.wiring->toggle({world.add(drafts::files({gone})), world.addText("text")});
-    EXPECT_TRUE(world.press());
+    const auto fate = world.keys.press();
+    EXPECT_EQ(fate->contents, HeldKey::Contents::fresh);
     EXPECT_EQ(world.onBoard(), QStringLiteral("text"));
+    EXPECT_TRUE(world.toasts.empty()); // the key goes first
+    runUntil([&] { return !world.toasts.empty(); });
     EXPECT_EQ(world.toasts,
               (std::vector<ToastMessage>{{QStringLiteral("trash.fill"), QStringLiteral("Skipped a deleted file"),
                                           ToastMessage::Tone::warning}}));
@@ -195,6 +198,34 @@ TEST(StackWiring, AddingGoesBehindOrStarts) {
     EXPECT_EQ(world.stack().count(), 3);
     EXPECT_EQ(world.stack().items()[1].clipID, two->id);
     EXPECT_EQ(world.panelCloses, 2);
+}
+
+TEST(StackWiring, AddingToOneThatIsStillStartingGoesBehindItsFirst) {
+    StackWorld world;
+    const auto file = world.add(drafts::files({there}));
+    const auto two = world.addText("two");
+    world.holdsChecks = true;
+    world.wiring->toggle({file});
+    world.wiring->add({two});
+    EXPECT_FALSE(world.stack().isActive());
+    world.holdsChecks = false;
+    world.wakeChecks();
+    ASSERT_EQ(world.stack().count(), 2);
+    EXPECT_EQ(world.stack().items()[0].clipID, file->id);
+    EXPECT_EQ(world.stack().items()[1].clipID, two->id);
+    EXPECT_EQ(world.log, QStringList{QStringLiteral("started")});
+}
+
+TEST(StackWiring, OneStoppedWhileItStartsStaysStopped) {
+    StackWorld world;
+    const auto file = world.add(drafts::files({there}));
+    world.holdsChecks = true;
+    world.wiring->toggle({file});
+    world.wiring->toggle({});
+    world.wakeChecks();
+    EXPECT_FALSE(world.stack().isActive());
+    EXPECT_FALSE(world.keys.isStarted);
+    EXPECT_EQ(world.log, QStringList{QStringLiteral("stopped")});
 }
 
 TEST(StackWiring, WithoutTrustItAsksAndStaysIdle) {

@@ -14,7 +14,9 @@
 #include "support/FakePasteTarget.h"
 #include "support/FakePasteboard.h"
 
+#include <coroutine>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace vellumry {
@@ -44,7 +46,13 @@ struct StackWorld {
 
     QCoro::Task<FileAccess::Result> checkAccess(QStringList paths) {
         accessChecks.push_back(std::move(paths));
+        Wait wait{this};
+        co_await wait;
         co_return FileAccess::Result{blockedFolder};
+    }
+    void wakeChecks() {
+        for (const auto handle : std::exchange(waitingChecks, {}))
+            handle.resume();
     }
     ClipRef add(ClipDraft draft) { return awaited(store.add(std::move(draft), ++now)); }
     ClipRef addText(const char* text) { return add(drafts::text(QString::fromUtf8(text))); }
@@ -74,7 +82,17 @@ struct StackWorld {
     std::vector<ToastMessage> toasts;
     QStringList log;
     int panelCloses = 0;
+    bool holdsChecks = false; ///< looks at files last until `wakeChecks`
+    std::vector<std::coroutine_handle<>> waitingChecks;
     std::unique_ptr<StackWiring> wiring;
+
+private:
+    struct Wait {
+        StackWorld* world;
+        bool await_ready() const noexcept { return !world->holdsChecks; }
+        void await_suspend(std::coroutine_handle<> handle) { world->waitingChecks.push_back(handle); }
+        void await_resume() const noexcept {}
+    };
 };
 
 } // namespace vellumry
