@@ -41,6 +41,18 @@ ClipDraft draftOf(ScreenshotFile file, const QString& path, const ImageSummary& 
     return draft;
 }
 
+/// Some tools write under a hidden name and rename the file at the end.
+QStringList visiblePaths(const QStringList& folders, const std::vector<std::optional<QStringList>>& listed) {
+    QStringList paths;
+    for (std::size_t i = 0; i < listed.size(); ++i) {
+        for (const QString& name : listed[i].value_or(QStringList())) {
+            if (!name.startsWith(u'.'))
+                paths.append(folders[static_cast<qsizetype>(i)] + u'/' + name);
+        }
+    }
+    return paths;
+}
+
 } // namespace
 
 ScreenshotImporter::ScreenshotImporter(ClipStore& store, ImageCodec& images, FolderWatching& watching, Hooks hooks)
@@ -139,20 +151,19 @@ QCoro::Task<void> ScreenshotImporter::scan(bool isRetry) {
     const std::optional<Listings> listed = co_await listing;
     if (!self)
         co_return;
-    for (std::size_t i = 0; listed && i < listed->size(); ++i) {
-        const QStringList names = (*listed)[i].value_or(QStringList());
-        for (const QString& name : names) {
-            const QString path = folders[static_cast<qsizetype>(i)] + u'/' + name;
-            // Some tools write under a hidden name and rename the file at the end.
-            if (session != m_session || name.startsWith(u'.') || m_known.contains(path))
-                continue;
-            m_known.insert(path);
-            auto importing = importFile(path, isRetry, session);
-            co_await importing;
-            if (!self)
-                co_return;
-        }
+    QSet<QString> looked;
+    for (const QString& path : listed ? visiblePaths(folders, *listed) : QStringList()) {
+        if (session != m_session || m_known.contains(path))
+            continue;
+        m_known.insert(path);
+        looked.insert(path);
+        auto importing = importFile(path, isRetry, session);
+        co_await importing;
+        if (!self)
+            co_return;
     }
+    // What has gone is not waited for.
+    m_retries.removeIf([&looked](const auto& attempts) { return !looked.contains(attempts.key()); });
     m_isScanning = false;
     if (!m_retries.isEmpty())
         retryLater();

@@ -85,6 +85,21 @@ TEST_F(ScreenshotScanTest, AFileThatVanishesBeforeItIsReadCostsNothing) {
     passSecond();
     EXPECT_TRUE(imported.isEmpty());
     EXPECT_TRUE(importer->isWatching());
+    EXPECT_TRUE(later.empty()) << "what has gone is waited for";
+}
+
+TEST_F(ScreenshotScanTest, WithTheFolderGoneNothingIsWaitedFor) {
+    makeFolder();
+    ASSERT_TRUE(start());
+    write(shot, pngBeginning());
+    change();
+    ASSERT_TRUE(QDir(shots()).removeRecursively());
+    passSecond();
+    EXPECT_TRUE(later.empty());
+    makeFolder();
+    write(shot, png());
+    change();
+    EXPECT_EQ(imported, QStringList{shot});
 }
 
 TEST_F(ScreenshotScanTest, ChangesDuringAScanLeadToOneMore) {
