@@ -1,14 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reader/ReaderSandbox.h"
 
+#include <QTemporaryDir>
 #include <csignal>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <string>
+#include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <utime.h>
 
 namespace vellumry {
 namespace {
@@ -45,6 +51,46 @@ TEST(ReaderSandbox, OneFolderStaysReadableAndNothingElse) {
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
 }
 
+TEST(ReaderSandbox, NoFileCanBeChangedOrRemovedByItsName) {
+    const QTemporaryDir folder;
+    const std::string file = folder.filePath(QStringLiteral("file")).toStdString();
+    const std::string other = file + "-other";
+    const int written = open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    ASSERT_GE(written, 0);
+    ASSERT_EQ(write(written, "kept", 4), 4);
+    close(written);
+    const char* const name = file.c_str();
+    const char* const another = other.c_str();
+    EXPECT_TRUE(holdsInside([name] { return truncate(name, 0) < 0; }));
+    EXPECT_TRUE(holdsInside([name] { return chmod(name, 0666) < 0 && fchmodat(AT_FDCWD, name, 0666, 0) < 0; }));
+    EXPECT_TRUE(holdsInside([name] { return chown(name, getuid(), getgid()) < 0; }));
+    EXPECT_TRUE(holdsInside([name] { return utime(name, nullptr) < 0; }));
+    EXPECT_TRUE(holdsInside([name] { return unlink(name) < 0; }));
+    EXPECT_TRUE(holdsInside([name, another] { return rename(name, another) < 0 && link(name, another) < 0; }));
+    EXPECT_TRUE(holdsInside([name, another] { return symlink(name, another) < 0 && mkdir(another, 0700) < 0; }));
+    struct stat status {};
+    ASSERT_EQ(stat(name, &status), 0);
+    EXPECT_EQ(status.st_size, 4);
+    EXPECT_EQ(status.st_mode & 07777, 0600u);
+}
+
+TEST(ReaderSandbox, WhatWasOpenBeforeIsClosed) {
+    const int before = open("/etc/passwd", O_RDONLY);
+    ASSERT_GE(before, 0);
+    EXPECT_TRUE(holdsInside([before] { return fcntl(before, F_GETFD) < 0; }));
+    close(before);
+}
+
+#ifndef __SANITIZE_ADDRESS__ // which maps terabytes
+TEST(ReaderSandbox, MemoryIsBounded) {
+    EXPECT_TRUE(holdsInside([] {
+        constexpr std::size_t tooMuch = std::size_t{3} << 30;
+        constexpr int flags = MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE;
+        return mmap(nullptr, tooMuch, PROT_READ | PROT_WRITE, flags, -1, 0) == MAP_FAILED;
+    }));
+}
+#endif
+
 TEST(ReaderSandbox, ThereIsNoNetwork) {
     EXPECT_TRUE(holdsInside([] { return socket(AF_INET, SOCK_STREAM, 0) < 0; }));
     EXPECT_TRUE(holdsInside([] { return socket(AF_UNIX, SOCK_STREAM, 0) < 0; }));
@@ -58,6 +104,17 @@ TEST(ReaderSandbox, NoProcessCanBeStartedOrSignalled) {
         char* arguments[] = {name, nullptr};
         return execv(name, arguments) < 0;
     }));
+}
+
+TEST(ReaderSandbox, OtherProcessesAreOutOfReachByTheirThreadsAndLimitsToo) {
+    EXPECT_TRUE(holdsInside([] { return syscall(SYS_tgkill, getppid(), getppid(), 0) < 0; }));
+    EXPECT_TRUE(holdsInside([] { return syscall(SYS_tkill, getppid(), 0) < 0; }));
+    EXPECT_TRUE(holdsInside([] { return setpriority(PRIO_PROCESS, static_cast<id_t>(getppid()), 19) < 0; }));
+    EXPECT_TRUE(holdsInside([] {
+        rlimit limits{};
+        return prlimit(getppid(), RLIMIT_CPU, nullptr, &limits) < 0 && prlimit(0, RLIMIT_CPU, nullptr, &limits) == 0;
+    }));
+    EXPECT_TRUE(holdsInside([] { return raise(0) == 0; })) << "its own threads are not";
 }
 
 TEST(ReaderSandbox, ThreadsStayAllowed) {
