@@ -102,6 +102,22 @@ TEST_F(PosixFileBookmarksTest, ATrashedFileIsFoundInTheTrash) {
     EXPECT_EQ(bookmarks().resolve(bookmark), path("data/Trash/files/a.2.txt"));
 }
 
+TEST_F(PosixFileBookmarksTest, AFileIsFoundInAFolderThatWasTrashed) {
+    ASSERT_TRUE(QDir(root.path()).mkpath(QStringLiteral("elsewhere/project/notes")));
+    const QByteArray bookmark = remember("elsewhere/project/notes/a.txt");
+    ASSERT_TRUE(QDir().rename(path("elsewhere/project"), path("data/Trash/files/project.2")));
+    write(path("data/Trash/info/project.2.trashinfo"),
+          "[Trash Info]\nPath=" + path("elsewhere/project").toUtf8() + "\n");
+    write(path("data/Trash/info/project.trashinfo"), "[Trash Info]\nPath=" + path("elsewhere/other").toUtf8() + "\n");
+    write(path("data/Trash/info/project.3.trashinfo"), "[Trash Info]\n");
+    const auto found = bookmarks().resolve(bookmark);
+    EXPECT_EQ(found, path("data/Trash/files/project.2/notes/a.txt"));
+    EXPECT_TRUE(bookmarks().isInTrash(*found));
+    ASSERT_TRUE(QFile::remove(*found));
+    write(*found, "content");
+    EXPECT_EQ(bookmarks().resolve(bookmark), std::nullopt) << "another file at the same place";
+}
+
 TEST_F(PosixFileBookmarksTest, AFileThatWasCopiedIntoTheTrashIsFoundByItsNote) {
     // As from another file system: the Trash holds a new file, and only the note says where it came from.
     const QByteArray bookmark = remember("home/\xC3\xA4 b.txt");

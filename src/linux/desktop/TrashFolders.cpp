@@ -3,7 +3,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QUrl>
+#include <algorithm>
 #include <sys/stat.h>
 
 namespace vellumry {
@@ -29,6 +31,22 @@ QByteArray originOf(const QString& note, const QByteArray& top) {
         return path.startsWith('/') ? path : top + '/' + path;
     }
     return {};
+}
+
+/// The notes that may be those of `path` or of a folder above it: the Trash adds numbers to a name, but leaves its
+/// beginning. The latest deletion comes first.
+QFileInfoList notesOf(const QString& folder, const QByteArray& path) {
+    QStringList stems;
+    for (const QString& name : QFile::decodeName(path).split(u'/', Qt::SkipEmptyParts))
+        stems.append(name.section(u'.', 0, 0, QString::SectionSkipEmpty));
+    const QDir all(folder, QStringLiteral("*.trashinfo"), QDir::Unsorted, QDir::Files | QDir::Hidden);
+    QFileInfoList notes;
+    for (const QString& name : all.entryList()) {
+        if (std::ranges::any_of(stems, [&name](const QString& stem) { return name.contains(stem); }))
+            notes.append(QFileInfo(all.filePath(name)));
+    }
+    std::ranges::stable_sort(notes, std::ranges::greater(), [](const QFileInfo& note) { return note.lastModified(); });
+    return notes;
 }
 
 } // namespace
@@ -81,24 +99,23 @@ std::optional<QByteArray> TrashFolders::find(const FileBookmark& bookmark, const
 std::optional<QByteArray> TrashFolders::findByNote(const QByteArray& trash, const FileBookmark& bookmark,
                                                    FileSearch& search) const {
     const auto home = FileIdentity::of(trash + "/files");
-    // A file that was renamed into the Trash kept its identity and would have been found.
-    if (!home || home->isOnSameFileSystem(bookmark.identity))
+    if (!home)
         return std::nullopt;
-    const QString name = QFile::decodeName(bookmark.path.sliced(bookmark.path.lastIndexOf('/') + 1));
-    const QString stem = name.section(u'.', 0, 0, QString::SectionSkipEmpty);
-    const QDir notes(QFile::decodeName(trash + "/info"), QString(), QDir::Time, QDir::Files | QDir::Hidden);
+    // A file that was renamed into the Trash keeps its identity, and lies there itself or in a folder that did.
+    const bool keepsIdentity = home->isOnSameFileSystem(bookmark.identity);
     const QByteArray top = trash.first(trash.lastIndexOf('/'));
-    // The Trash adds numbers to a name, but leaves its beginning; the latest deletion comes first.
-    for (const QString& note : notes.entryList()) {
+    for (const QFileInfo& note : notesOf(QFile::decodeName(trash + "/info"), bookmark.path)) {
         if (search.isExhausted())
             return std::nullopt;
-        if (!note.contains(stem) || !note.endsWith(QStringLiteral(".trashinfo")))
+        const QByteArray origin = originOf(note.filePath(), top);
+        if (origin.isEmpty() || (origin != bookmark.path && !bookmark.path.startsWith(origin + '/')))
             continue;
-        if (originOf(notes.filePath(note), top) != bookmark.path)
-            continue;
-        const QByteArray path = trash + "/files/" + QFile::encodeName(note.chopped(10));
+        const QByteArray path =
+            trash + "/files/" + QFile::encodeName(note.completeBaseName()) + bookmark.path.sliced(origin.size());
         const auto identity = FileIdentity::of(path);
-        if (identity && identity->size == bookmark.identity.size)
+        if (!identity)
+            continue;
+        if (keepsIdentity ? identity->isSameFile(bookmark.identity) : identity->size == bookmark.identity.size)
             return path;
     }
     return std::nullopt;

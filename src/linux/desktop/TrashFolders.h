@@ -13,8 +13,9 @@ public:
 
     /// True when `path` lies among the files of a Trash.
     [[nodiscard]] bool contains(const QByteArray& path) const;
-    /// Where the file is in the Trash that it would go to from `bookmark.path`: by its identity, and where a Trash on
-    /// another file system made it a new file, by the note of where it came from. `search` bounds the look.
+    /// Where the file is in the Trash that it would go to from `bookmark.path`: by its identity, and where it went with
+    /// a folder above it, or a Trash on another file system made it a new file, by the note of where that came from.
+    /// `search` bounds the look.
     [[nodiscard]] std::optional<QByteArray> find(const FileBookmark& bookmark, const MountTable& mounts,
                                                  FileSearch& search) const;
 
