@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capture/PictureFiles.h"
 
+#include "capture/DiskPath.h"
 #include "capture/FileAccess.h"
 #include "foundation/FileUrl.h"
 #include "foundation/UniformType.h"
@@ -22,7 +23,7 @@ bool isPicture(const QString& path) {
 /// The bytes of a regular file; nothing for a pipe or device, which is opened without waiting for its other side.
 std::optional<QByteArray> bytesOf(const QString& path) {
     QFile file;
-    const int descriptor = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    const int descriptor = open(diskPathOf(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
         return std::nullopt;
     struct stat attributes {};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capture/ScreenshotFile.h"
 
+#include "capture/DiskPath.h"
 #include "capture/ImageCompleteness.h"
 #include "capture/ScreenshotNames.h"
 #include "foundation/FileUrl.h"
@@ -81,7 +82,7 @@ ScreenshotFile ScreenshotFile::load(const QString& path) {
         return file;
     file.type = *type;
 
-    const QByteArray name = QFile::encodeName(path);
+    const QByteArray name = diskPathOf(path);
     // A pipe must not hold us, and a link leads elsewhere.
     const int descriptor = open(name.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
     if (descriptor < 0) {

@@ -3,8 +3,10 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace vellumry {
 namespace {
@@ -93,6 +95,21 @@ TEST_F(PictureFilesTest, PipesAndFoldersAreNotRead) {
     ASSERT_TRUE(QDir().mkdir(directory));
     files = {{pipe, QStringLiteral("pipe.png"), std::nullopt}, {directory, QStringLiteral("folder.png"), std::nullopt}};
     EXPECT_TRUE(collect().pictures.empty());
+}
+
+TEST_F(PictureFilesTest, ANameInAnotherEncodingIsRead) {
+    const QByteArray name = QFile::encodeName(folder.path()) + "/caf\xe9.png";
+    const int file = open(name.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    ASSERT_GE(file, 0);
+    ASSERT_EQ(::write(file, "latin", 5), 5);
+    close(file);
+    const QString path = QString::fromUtf8(name);
+    files = {{path, QStringLiteral("caf\uFFFD.png"), std::nullopt}};
+    const auto found = PictureFiles::collect(
+        files, false, [](const FileRef& ref) { return FileStatus::available(ref.path); },
+        [](const QString&) { return true; });
+    EXPECT_EQ(found.pictures, Bytes{"latin"});
+    EXPECT_EQ(unlink(name.constData()), 0); // Qt cannot remove what it cannot name
 }
 
 TEST_F(PictureFilesTest, ALinkIsReadForWhatItLeadsTo) {
