@@ -41,9 +41,10 @@ protected:
                 (void)co_await mine;
             }
             const auto found = answers.find(picture);
-            if (found != answers.end())
-                co_return found->second;
-            co_return QString::fromUtf8((reader == Reader::fast ? "fast " : "accurate ") + picture);
+            const QString usual = QString::fromUtf8((reader == Reader::fast ? "fast " : "accurate ") + picture);
+            const Answer answer =
+                found == answers.end() ? Answer(usual) : found->second; // what is returned is moved from
+            co_return answer;
         }
         void letGo() {
             const ResumeOnce<bool> mine = gate;

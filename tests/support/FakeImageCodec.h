@@ -25,7 +25,8 @@ public:
     void prepare() override { ++preparations; }
     [[nodiscard]] QCoro::Task<ImageSummary> summarise(QByteArray image, int thumbnailPixels) override {
         requests.push_back({std::move(image), thumbnailPixels});
-        co_return summary;
+        const ImageSummary answer = summary; // what is returned is moved from
+        co_return answer;
     }
 };
 
