@@ -11,12 +11,15 @@
 #include "foundation/UniformType.h"
 
 #include <QElapsedTimer>
+#include <algorithm>
 
 namespace vellumry {
 
 namespace {
 
 constexpr int thumbnailPixels = 160;
+/// The longer side of a picture that is made a PNG.
+constexpr int largestConverted = 8192;
 constexpr qsizetype longestSearchText = 200'000;
 constexpr std::chrono::milliseconds longestBookmarking{2000};
 /// When the making of bookmarks stops by itself, so that those made so far count.
@@ -126,6 +129,34 @@ void describeImage(ClipDraft& draft, const ImageSummary& summary, Date now) {
     draft.sourceAppName = localised("Screenshot");
 }
 
+/// A picture in a format that few programs take: a PNG of it, for those, is put beside it. Nothing when it cannot be
+/// opened.
+QCoro::Task<std::optional<ClipDraft>> convertedImage(ImageCodec* images, ClipDraft draft, Date now) {
+    const QStringList& types = pasteboardtype::otherImageTypes();
+    const std::optional<QByteArray> image = firstImage(draft.payload, types);
+    std::optional<ClipDraft> result;
+    if (!image)
+        co_return result;
+    auto converting = images->summarise(*image, largestConverted);
+    ImageSummary summary = co_await converting;
+    if (!summary.thumbnail)
+        co_return result;
+    const QByteArray whole = *summary.thumbnail;
+    auto shrinking = images->summarise(whole, thumbnailPixels);
+    const ImageSummary small = co_await shrinking;
+    summary.thumbnail = small.thumbnail;
+    const auto item = std::ranges::find_if(draft.payload.items, [&types](const PasteboardItem& candidate) {
+        return std::ranges::any_of(
+            types, [&candidate](const QString& type) { return candidate.representations.contains(type); });
+    });
+    item->representations.emplace(uniformtype::png, whole);
+    if (item->order)
+        item->order->prepend(uniformtype::png);
+    describeImage(draft, summary, now);
+    result = std::move(draft);
+    co_return result;
+}
+
 } // namespace
 
 QCoro::Task<std::optional<ClipDraft>> DraftBuilder::build(ClipPayload payload, SourceApp source, Date now) const {
@@ -159,8 +190,13 @@ QCoro::Task<std::optional<ClipDraft>> DraftBuilder::build(ClipPayload payload, S
         co_return draft;
     }
 
+    ClipDraft rest = draft; // its bytes are shared
     auto classifying = classified(std::move(draft));
     std::optional<ClipDraft> result = co_await classifying;
+    if (!result) {
+        auto converting = convertedImage(images, std::move(rest), now);
+        result = co_await converting;
+    }
     co_return result;
 }
 

@@ -13,7 +13,8 @@
 namespace vellumry {
 
 /// Makes a draft of what a pasteboard held: decides what kind of thing it is, names it, and says whether it is a
-/// secret. Files outrank pictures, pictures outrank text, text outranks a colour. Main thread; holds no state. The
+/// secret. Files outrank pictures, pictures outrank text, text outranks a colour, and a picture in an uncommon format
+/// counts where there is nothing else. Main thread; holds no state. The
 /// seams must outlive it and every task it started.
 class DraftBuilder {
 public:

@@ -38,16 +38,37 @@ bool isFurtherRendering(const Wanted& wanted) {
     return !wanted.isEssential && (wanted.type.startsWith(u"image/") || wanted.type.endsWith(u"/ico"));
 }
 
+/// The picture that is the whole copy, in a format that is no copy's otherwise: the preferred one of the first item
+/// that has any. Nothing where something else makes a clip.
+std::optional<Wanted> lonePicture(const std::vector<QStringList>& itemTypes) {
+    for (const QStringList& types : itemTypes) {
+        if (std::ranges::any_of(types, pasteboardtype::makesClip))
+            return std::nullopt;
+    }
+    for (std::size_t item = 0; item < itemTypes.size(); ++item) {
+        for (const QString& type : pasteboardtype::otherImageTypes()) {
+            if (itemTypes[item].contains(type))
+                return Wanted{item, type, ReadingTurn::picture, true};
+        }
+    }
+    return std::nullopt;
+}
+
 /// What is to be read, in the order of reading: by turn, then as the owner offered it.
 std::vector<Wanted> plan(const std::vector<QStringList>& itemTypes) {
     std::vector<Wanted> wanted;
     qsizetype privateCount = 0;
+    const std::optional<Wanted> lone = lonePicture(itemTypes);
     for (std::size_t item = 0; item < itemTypes.size(); ++item) {
         QSet<QString> seen;
         for (const QString& type : itemTypes[item]) {
             if (pasteboardtype::isLegacyAlias(type) || pasteboardtype::isRefused(type) || seen.contains(type))
                 continue;
             seen.insert(type);
+            if (lone && lone->item == item && lone->type == type) {
+                wanted.push_back(*lone);
+                continue;
+            }
             const bool isEssential = pasteboardtype::isEssential(type);
             if (!isEssential && ++privateCount > mostPrivateRepresentations)
                 continue;
@@ -59,10 +80,10 @@ std::vector<Wanted> plan(const std::vector<QStringList>& itemTypes) {
 }
 
 bool holdsPicture(const std::vector<QStringList>& itemTypes) {
-    return std::ranges::any_of(itemTypes, [](const QStringList& types) {
-        return std::ranges::any_of(pasteboardtype::imageTypes(),
-                                   [&types](const QString& type) { return types.contains(type); });
-    });
+    return lonePicture(itemTypes) || std::ranges::any_of(itemTypes, [](const QStringList& types) {
+               return std::ranges::any_of(pasteboardtype::imageTypes(),
+                                          [&types](const QString& type) { return types.contains(type); });
+           });
 }
 
 /// The items that have anything, each with its types in the owner's order.

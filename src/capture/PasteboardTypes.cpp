@@ -40,6 +40,18 @@ const QStringList& imageTypes() {
     return types;
 }
 
+const QStringList& otherImageTypes() {
+    static const QStringList types{QStringLiteral("image/webp"), QStringLiteral("image/bmp"),
+                                   QStringLiteral("image/x-bmp"), QStringLiteral("image/x-MS-bmp"),
+                                   QStringLiteral("image/gif")};
+    return types;
+}
+
+bool makesClip(const QString& type) {
+    static const QSet<QString> others{utf8PlainText, rtf, url, fileUrl, color};
+    return others.contains(type) || imageTypes().contains(type);
+}
+
 ReadingTurn readingTurn(const QString& type) {
     static const QSet<QString> texts{utf8PlainText, rtf, html, url, urlName, fileUrl, color, utf16PlainText, sourceUrl};
     if (texts.contains(type))

@@ -21,6 +21,13 @@ namespace vellumry::pasteboardtype {
 /// The types of pictures, the preferred one first.
 [[nodiscard]] const QStringList& imageTypes();
 
+/// Types of pictures that few programs take, and some offer alone: virtual machines, Windows programs on this desktop.
+/// The preferred one first.
+[[nodiscard]] const QStringList& otherImageTypes();
+
+/// True for a type that can make a clip whatever else is offered; `otherImageTypes` make one where none of these is.
+[[nodiscard]] bool makesClip(const QString& type);
+
 /// When a representation is read: text must not wait for a picture, nor anything for a private type that may hang.
 enum class ReadingTurn : quint8 { text, picture, unknown };
 [[nodiscard]] ReadingTurn readingTurn(const QString& type);

@@ -136,6 +136,35 @@ TEST_F(DraftBuilderTest, APictureThatCannotBeOpenedIsKeptWithoutItsSize) {
     EXPECT_FALSE(draft->thumbnail);
 }
 
+TEST_F(DraftBuilderTest, APictureInAnUncommonFormatAloneIsKeptWithAPngOfIt) {
+    const QString bmp = QStringLiteral("image/bmp");
+    images.summary = {QSize(640, 480), QByteArray("png"), false};
+    const auto draft = build({{{{uniformtype::html, "<img>"}, {bmp, "bmp"}}, QStringList{uniformtype::html, bmp}}});
+    ASSERT_TRUE(draft);
+    EXPECT_EQ(draft->kind, ClipKind::image);
+    EXPECT_EQ(draft->title, QStringLiteral("Image 640 × 480"));
+    EXPECT_EQ(draft->thumbnail, QByteArray("png"));
+    EXPECT_EQ(images.requests, (std::vector<FakeImageCodec::Request>{{"bmp", 8192}, {"png", 160}}));
+    const PasteboardItem& item = draft->payload.items.front();
+    EXPECT_EQ(item.order, (QStringList{uniformtype::png, uniformtype::html, bmp}));
+    EXPECT_EQ(item.representations.at(uniformtype::png), "png");
+    EXPECT_EQ(item.representations.at(bmp), "bmp");
+}
+
+TEST_F(DraftBuilderTest, APictureInAnUncommonFormatYieldsToEverythingElse) {
+    const QString webp = QStringLiteral("image/webp");
+    images.summary = {QSize(640, 480), QByteArray("png"), false};
+    EXPECT_EQ(build({{{{uniformtype::utf8PlainText, "text"}, {webp, "webp"}}, {}}})->kind, ClipKind::text);
+    EXPECT_TRUE(images.requests.empty());
+    const auto common = build({{{{uniformtype::jpeg, "jpeg"}, {webp, "webp"}}, {}}});
+    EXPECT_EQ(common->kind, ClipKind::image);
+    EXPECT_FALSE(common->payload.items.front().representations.contains(uniformtype::png));
+}
+
+TEST_F(DraftBuilderTest, NothingComesOfAnUncommonPictureThatCannotBeOpened) {
+    EXPECT_FALSE(build({{{{QStringLiteral("image/bmp"), "junk"}}, {}}}));
+}
+
 TEST_F(DraftBuilderTest, AMarkedPictureIsAScreenshot) {
     images.summary = {QSize(2, 1), {}, true};
     const auto draft = build({{{{uniformtype::png, "png"}}, {}}});

@@ -161,6 +161,23 @@ TEST_F(PasteboardSnapshotTest, APrivateTypeOfExactlyTheLimitIsKept) {
     EXPECT_EQ(draft->payload.items[0].order, QStringList({text, privateType}));
 }
 
+TEST_F(PasteboardSnapshotTest, AnUncommonPictureIsReadWhateverItsSizeWhenItIsTheWholeCopy) {
+    const QString bmp = QStringLiteral("image/bmp");
+    const QByteArray large(3 * mebibyte, 'b');
+    images.summary = {QSize(1024, 1024), QByteArray("png"), false};
+    pasteboard.copy({item({{QStringLiteral("image/x-bmp"), large}, {bmp, large}})});
+    const auto alone = readLarge();
+    ASSERT_TRUE(alone);
+    EXPECT_EQ(alone->kind, ClipKind::image);
+    EXPECT_EQ(alone->payload.items[0].order, QStringList({uniformtype::png, bmp}));
+    EXPECT_EQ(images.preparations, 1);
+    pasteboard.copy({item({{bmp, large}, {text, "hi"}})});
+    const auto besideText = read();
+    ASSERT_TRUE(besideText);
+    EXPECT_EQ(besideText->kind, ClipKind::text);
+    EXPECT_EQ(besideText->payload.items[0].order, QStringList(text));
+}
+
 TEST_F(PasteboardSnapshotTest, TheTotalLimitRefusesTheWholeCopy) {
     const QByteArray half(50 * mebibyte, 'x');
     pasteboard.copy({item({{text, half}, {uniformtype::rtf, half}})});

@@ -50,6 +50,17 @@ TEST(PasteboardTypes, FourPicturesInOrderOfPreference) {
     EXPECT_EQ(imageTypes(), QStringList({uniformtype::png, uniformtype::tiff, uniformtype::jpeg, uniformtype::heic}));
 }
 
+TEST(PasteboardTypes, WhatMakesAClipOutranksUncommonPictures) {
+    for (const QString& type : imageTypes())
+        EXPECT_TRUE(makesClip(type));
+    EXPECT_TRUE(makesClip(uniformtype::utf8PlainText));
+    EXPECT_TRUE(makesClip(uniformtype::fileUrl));
+    EXPECT_FALSE(makesClip(uniformtype::html));
+    EXPECT_FALSE(makesClip(uniformtype::pdf));
+    for (const QString& type : otherImageTypes())
+        EXPECT_FALSE(makesClip(type)) << type.toStdString();
+}
+
 TEST(PasteboardTypes, ScreenshotToolsAreKnown) {
     EXPECT_TRUE(isScreenshotSource(QStringLiteral("com.apple.screencaptureui")));
     EXPECT_TRUE(isScreenshotSource(QStringLiteral("com.apple.Screenshot")));

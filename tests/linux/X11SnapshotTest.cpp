@@ -83,6 +83,26 @@ TEST_F(X11Snapshot, WhereOneRenderingIsTooLargeTheOthersAreNotAskedFor) {
               (QStringList{uniformtype::png, QStringLiteral("application/x-private")}));
 }
 
+TEST_F(X11Snapshot, AScreenThatAVirtualMachineOffersAsABitmapAloneIsKept) {
+    // 1920 x 1080 pixels of four bytes, under three names and no other.
+    const QByteArray bitmap(1920 * 1080 * 4 + 54, 'b');
+    images.summary = {QSize(1920, 1080), QByteArray("png"), false};
+    copied({{"image/bmp", bitmap, Manner::increments},
+            {"image/x-bmp", bitmap, Manner::increments},
+            {"image/x-MS-bmp", bitmap, Manner::increments}});
+    const auto result = draft();
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->kind, ClipKind::image);
+    EXPECT_EQ(result->title, QStringLiteral("Image 1920 × 1080"));
+    ASSERT_TRUE(pasteboard->write(result->payload.items));
+    HostileOwner& reader = peer();
+    for (const char* target : {"image/png", "image/bmp"})
+        reader.ask("CLIPBOARD", target);
+    ASSERT_TRUE(waitUntil([&reader] { return reader.answers.size() == 2; }));
+    EXPECT_EQ(reader.answers["image/png"].bytes, "png");
+    EXPECT_EQ(reader.answers["image/bmp"].bytes, bitmap);
+}
+
 TEST_F(X11Snapshot, FilesThatWereCutAreReadWithoutTakingThemOffTheClipboard) {
     HostileOwner& owner = copied({{"text/uri-list", "file:///tmp/a.txt\r\n"},
                                   {"x-special/gnome-copied-files", "cut\nfile:///tmp/a.txt"},

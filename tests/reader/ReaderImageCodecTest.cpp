@@ -55,6 +55,19 @@ TEST(ReaderImageCodec, APictureLargerThanASocketHoldsArrivesWhole) {
               noise);
 }
 
+TEST(ReaderImageCodec, APictureIsMadeAPngOfTheSamePixels) {
+    const QImage picture = twoColours(1920, 1080);
+    ReaderImageCodec codec(realReader);
+    for (const char* format : {"BMP", "WEBP"}) {
+        const ImageSummary summary = awaited(codec.summarise(encode(picture, format), 8192));
+        ASSERT_TRUE(summary.thumbnail) << format;
+        const QImage png = QImage::fromData(*summary.thumbnail, "PNG").convertToFormat(QImage::Format_RGB32);
+        EXPECT_EQ(png.size(), picture.size()) << format;
+        const bool isLossless = qstrcmp(format, "BMP") == 0;
+        EXPECT_TRUE(!isLossless || png == picture);
+    }
+}
+
 TEST(ReaderImageCodec, OneReaderServesMany) {
     ReaderImageCodec codec(realReader);
     (void)awaited(codec.summarise(encode(twoColours(8, 8), "PNG"), 160));
