@@ -4,6 +4,7 @@
 #include "foundation/UniformType.h"
 #include "linux/x11/FileList.h"
 
+#include <algorithm>
 #include <chrono>
 
 namespace vellumry {
@@ -23,6 +24,7 @@ struct ForeignReading::State {
         return running && running->engine().changeCount() == offer->moment.changeCount &&
                std::chrono::steady_clock::now() < offer->moment.deadline;
     }
+    [[nodiscard]] bool hasFileList() const;
     [[nodiscard]] QStringList declaredTypes() const;
     [[nodiscard]] std::vector<QStringList> typesByItem() const;
 };
@@ -97,6 +99,10 @@ std::optional<QByteArray> within(const QByteArray& bytes, qint64 maxBytes, bool&
 
 } // namespace
 
+bool ForeignReading::State::hasFileList() const {
+    return std::ranges::any_of(offer->targets, filelist::isFileList);
+}
+
 QStringList ForeignReading::State::declaredTypes() const {
     QStringList types;
     for (const QString& target : offer->targets) {
@@ -149,8 +155,7 @@ QStringList ForeignReading::types() const {
 
 QCoro::Task<std::vector<QStringList>> ForeignReading::itemTypes() {
     const std::shared_ptr<State> state = m_state;
-    const bool hasList = state->declaredTypes().contains(uniformtype::fileUrl);
-    if (hasList && !state->entries && state->isCurrent())
+    if (!state->entries && state->isCurrent() && state->hasFileList())
         co_await readFileList(state);
     std::vector<QStringList> items;
     if (state->isCurrent())
@@ -164,8 +169,7 @@ QCoro::Task<std::optional<QByteArray>> ForeignReading::data(qsizetype item, QStr
     // A hint that the copy is a secret is a secret's neighbour: it is not read either.
     if (!state->isCurrent() || item < 0 || type == uniformtype::concealed)
         co_return std::nullopt;
-    const bool hasList = state->declaredTypes().contains(uniformtype::fileUrl);
-    if (hasList && !state->entries)
+    if (!state->entries && state->hasFileList())
         co_await readFileList(state);
     if (!state->isCurrent())
         co_return std::nullopt;
