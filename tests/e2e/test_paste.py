@@ -88,6 +88,20 @@ def a_number_pastes_its_row():
         wait_until(lambda: client.content() == "lazy dog", "the second row in the editor")
 
 
+def a_number_pastes_its_row_on_a_french_keyboard():
+    """Its digits need Shift: the second key of their row types é."""
+    with Vellumry(), GtkEditor() as client:
+        remember(*WORDS)
+        run("setxkbmap", "fr")
+        try:
+            open_panel()
+            key("ctrl+eacute")
+            wait_panel_closed()
+            wait_until(lambda: client.content() == "lazy dog", "the second row in the editor")
+        finally:
+            run("setxkbmap", "us")
+
+
 def arrows_choose_and_return_pastes():
     with Vellumry(), GtkEditor() as client:
         remember(*WORDS)
@@ -152,5 +166,6 @@ def a_large_paste_is_served_whole():
 if __name__ == "__main__":
     main([fresh(test) for test in (
         into_a_gtk_editor, into_a_qt_editor, into_a_browser, into_a_terminal, while_the_shortcut_is_still_held,
-        a_number_pastes_its_row, arrows_choose_and_return_pastes, escape_gives_the_keyboard_back,
+        a_number_pastes_its_row, a_number_pastes_its_row_on_a_french_keyboard,
+        arrows_choose_and_return_pastes, escape_gives_the_keyboard_back,
         a_click_elsewhere_closes_the_panel, the_panel_is_no_window_of_the_task_bar, a_large_paste_is_served_whole)])
