@@ -198,13 +198,22 @@ TEST_F(AppEnvironmentTest, ACopyThatWasToBeIgnoredIsTold) {
     EXPECT_TRUE(store().clips().empty());
 }
 
-TEST_F(AppEnvironmentTest, TheTextOfACopiedPictureIsRead) {
+TEST_F(AppEnvironmentTest, ACopyIsNoticed) {
     start();
-    textReader->readings = {{TextReader::Outcome::text, QStringLiteral("boarding pass")},
-                            {TextReader::Outcome::text, QStringLiteral("boarding pass")}};
+    pasteboard->copyText(QStringLiteral("nobody ticks"));
+    runUntil([&] { return store().clips().size() == 1; });
+}
+
+TEST_F(AppEnvironmentTest, TheTextOfACopiedPictureIsRead) {
+    // In memory, a copy is stored within the tick: nothing else can have asked for the reading.
+    keyring.refuses = true;
+    start();
     copy(uniformtype::png, "png");
-    runUntil([&] { return store().search(QStringLiteral("boarding"), ClipFilter::images).size() == 1; });
+    ASSERT_TRUE(environment->textReader().isReading(store().clips().front()->id));
+    textReader->readings = {{TextReader::Outcome::text, QStringLiteral("b0ard1ng pa55")}};
+    textReader->answer({TextReader::Outcome::text, QStringLiteral("boarding pass")});
     EXPECT_EQ(textReader->requests.front().image, "png");
+    EXPECT_EQ(store().clips().front()->imageText, QStringLiteral("boarding pass"));
 }
 
 TEST_F(AppEnvironmentTest, ACopySurvivesItsProgram) {
