@@ -122,10 +122,10 @@ QVariant PanelListModel::data(const QModelIndex& index, int role) const {
         return !row.clip;
     if (role == IsFirstRole)
         return index.row() == 0;
-    return row.clip ? clipData(*row.clip, role) : headerData(row, role);
+    return row.clip ? clipValue(*row.clip, role) : headerValue(row, role);
 }
 
-QVariant PanelListModel::headerData(const Row& row, int role) const {
+QVariant PanelListModel::headerValue(const Row& row, int role) const {
     switch (role) {
     case Qt::DisplayRole:
     case HeaderRole:
@@ -139,7 +139,7 @@ QVariant PanelListModel::headerData(const Row& row, int role) const {
     }
 }
 
-QVariant PanelListModel::clipData(const Clip& clip, int role) const {
+QVariant PanelListModel::clipValue(const Clip& clip, int role) const {
     switch (role) {
     case Qt::DisplayRole:
     case TitleRole:

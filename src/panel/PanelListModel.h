@@ -73,8 +73,8 @@ private:
     void rebuild();
     void replaceRows(std::vector<Row> rows);
     void repaintSelection();
-    [[nodiscard]] QVariant headerData(const Row& row, int role) const;
-    [[nodiscard]] QVariant clipData(const Clip& clip, int role) const;
+    [[nodiscard]] QVariant headerValue(const Row& row, int role) const;
+    [[nodiscard]] QVariant clipValue(const Clip& clip, int role) const;
     [[nodiscard]] QString pillOf(const Clip& clip) const;
     [[nodiscard]] QString keysOf(const QHash<QUuid, int>& numbers, const Clip& clip, const QString& words) const;
 
