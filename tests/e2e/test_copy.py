@@ -65,6 +65,18 @@ def a_picture_is_kept_with_its_size():
             raise Failure("the picture has no thumbnail")
 
 
+def a_bitmap_alone_is_kept_for_all():
+    """As virtual machines and Windows programs offer a picture: uncompressed, of several megabytes, and in no other format."""
+    with Vellumry():
+        bitmap = run("convert", "-size", "1600x900", "plasma:red-blue", "-type", "TrueColor", "bmp3:-")
+        copy_bytes(bitmap, "image/bmp")
+        row = wait_for_clip(lambda row: row["kind"] == 3, "the bitmap")
+        same((row["title"], bool(row["thumbnail"])), ("Image 1600 × 900", True), "its title and thumbnail")
+        same(representation(row, "image/bmp") == bitmap, True, "the bitmap, byte for byte")
+        pixels = run("convert", "png:-", "rgb:-", data=representation(row, "public.png"))
+        same(pixels == run("convert", "bmp:-", "rgb:-", data=bitmap), True, "the same pixels as PNG")
+
+
 def a_password_is_never_kept():
     with Vellumry(), PasswordManager() as client:
         client.copy_password()
@@ -124,5 +136,5 @@ def nothing_readable_lies_in_the_file():
 if __name__ == "__main__":
     main([fresh(test) for test in (
         a_terminal_copies, a_gtk_editor_copies, a_qt_editor_copies, a_browser_copies_styled_text, a_file_manager_copies_files,
-        a_picture_is_kept_with_its_size, a_password_is_never_kept, what_is_refused_is_never_asked_for,
+        a_picture_is_kept_with_its_size, a_bitmap_alone_is_kept_for_all, a_password_is_never_kept, what_is_refused_is_never_asked_for,
         what_was_copied_outlives_the_application, a_burst_of_copies_is_kept_whole, nothing_readable_lies_in_the_file)])
