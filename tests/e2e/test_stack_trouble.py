@@ -11,7 +11,7 @@ from Xlib import X, display
 
 from clients import GtkEditor, QtEditor, XTerminal
 from desktop import (DATA, SETTINGS, Process, Vellumry, accessible, copy_bytes, copy_text, focus, focus_under_new_manager, fresh, key,
-                     main, run, same, text_of, type_text, wait_for_clip, wait_until)
+                     main, run, same, text_of, type_text, unsealed, wait_for_clip, wait_until)
 from history_probe import ids
 from key_window import KeyWindow
 from stack import TOGGLE, is_running, paste_each, remember, start_stack, wait_ended
@@ -46,6 +46,34 @@ def an_owner_that_hangs_does_not_hold_the_keyboard():
             wait_until(lambda: client.content() == "one x", "typing goes on")
         key("ctrl+v")
         wait_until(lambda: client.content() == "one xtwo ", "the second")
+        wait_ended()
+
+
+def a_program_that_keeps_copying_meanwhile_mixes_nothing_up():
+    """Its copies fall before, between and behind the stack's own writing; those that were noticed wait their turn all the same."""
+    presses = 6
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("one ", "two ", "three ", "four ", "five ", "six ", "seven ")
+        copies = [f"copy {number} " for number in range(30)]
+        script = 'for text do printf %s "$text" | xclip -selection clipboard -in >/dev/null 2>&1; sleep 0.05; done'
+        with Process("/bin/sh", "-c", script, "sh", *copies) as other:
+            run("xdotool", "key", "--delay", "120", *["ctrl+v"] * presses)
+            same(other.handle.wait(timeout=30), 0, "the end of the copying")
+        wait_for_clip(lambda row: text_of(row) == copies[-1], "the last copy")
+        noticed = [text_of(row) for row in reversed(unsealed())]
+        type_text("x")
+        wait_until(lambda: client.content().endswith("x"), "typing goes on")
+        client.clear()
+        wait_until(lambda: client.content() == "", "an empty editor")
+        key("ctrl+v")
+        whole = wait_until(client.content, "the next item")
+        # A key may have gone by itself on a busy machine; its item is then the next one's.
+        same(whole in noticed[:presses + 1], True, f"{whole!r} is next")
+        for text in noticed[noticed.index(whole) + 1:]:
+            key("ctrl+v")
+            whole += text
+            wait_until(lambda: client.content() == whole, f"{text!r} behind the others")
         wait_ended()
 
 
@@ -159,6 +187,7 @@ def large_texts_hold_no_key_and_arrive_whole():
 
 main([fresh(test) for test in (an_owner_that_ends_does_not_take_its_copies_along,
                                an_owner_that_hangs_does_not_hold_the_keyboard,
+                               a_program_that_keeps_copying_meanwhile_mixes_nothing_up,
                                a_stopped_program_in_front_does_not_hold_the_keyboard, deleted_files_are_passed_over,
                                a_grabbed_keyboard_is_left_alone, another_holder_of_the_key_is_told_of,
                                large_texts_hold_no_key_and_arrive_whole,
