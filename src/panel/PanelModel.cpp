@@ -104,10 +104,6 @@ void PanelModel::setHoveredID(std::optional<QUuid> id) {
         Q_EMIT hoveredIDChanged();
 }
 
-void PanelModel::setHoveredUuid(const QUuid& id) {
-    setHoveredID(id.isNull() ? std::nullopt : std::optional(id));
-}
-
 void PanelModel::setPresented(bool value) {
     if (std::exchange(d->isPresented, value) != value)
         Q_EMIT isPresentedChanged();

@@ -33,17 +33,6 @@ struct PasteOutcome;
 /// closed, and end quietly when the model goes. Closures must not delete the model.
 class PanelModel : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
-    Q_PROPERTY(int filter READ filterIndex WRITE setFilterIndex NOTIFY filterChanged)
-    Q_PROPERTY(QUuid selectedID READ selectedUuid NOTIFY selectionChanged)
-    Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectionChanged)
-    Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectionChanged)
-    Q_PROPERTY(QUuid hoveredID READ hoveredUuid WRITE setHoveredUuid NOTIFY hoveredIDChanged)
-    Q_PROPERTY(int focusToken READ focusToken NOTIFY focusTokenChanged)
-    Q_PROPERTY(bool isPresented READ isPresented WRITE setPresented NOTIFY isPresentedChanged)
-    Q_PROPERTY(bool hasAccessibility READ hasAccessibility NOTIFY hasAccessibilityChanged)
-    Q_PROPERTY(bool isTransformListOpen READ isTransformListOpen NOTIFY transformChanged)
-    Q_PROPERTY(int transformIndex READ transformIndex NOTIFY transformChanged)
 
 public:
     struct Section {
@@ -95,7 +84,6 @@ public:
     /// Clip id to the digit of its pinned hot key.
     [[nodiscard]] QHash<QUuid, int> pinNumbers() const;
     [[nodiscard]] qsizetype count(ClipFilter filter) const;
-    Q_INVOKABLE [[nodiscard]] int countOf(int filter) const;
     /// An excerpt of an image's text around the hit, where the query was found there and not in the title.
     [[nodiscard]] std::optional<QString> imageMatch(const Clip& clip) const;
 
@@ -116,10 +104,10 @@ public:
     /// Called before each show: everything back to its start, the newest unpinned clip selected.
     void prepareForShow();
     /// The user typed: takes `text` over and selects the first match. Does nothing for the text it has already.
-    Q_INVOKABLE void searchTextEdited(const QString& text);
+    void searchTextEdited(const QString& text);
     void resetSelection();
     /// A press on a row. True when a selection of several is to collapse to `id` once the button is released.
-    Q_INVOKABLE bool click(const QUuid& id, quint32 flags);
+    bool click(const QUuid& id, quint32 flags);
     void move(int offset);
     void extend(int delta);
     void toggleSelection(const QUuid& id);
@@ -137,19 +125,19 @@ public:
     /// Closes the panel, then pastes. `isPlain` false means the user's default.
     void pasteClip(const ClipRef& clip, bool isPlain, std::optional<TextTransform> transform = std::nullopt);
     /// For the row under a double click; an unknown id does nothing.
-    Q_INVOKABLE void pasteRow(const QUuid& id);
+    void pasteRow(const QUuid& id);
     void pastePinned(int number);
     void copyClip(const ClipRef& clip);
     /// Pins the selected clips, or unpins them when all are pinned.
-    Q_INVOKABLE void togglePin();
-    Q_INVOKABLE void deleteSelected();
+    void togglePin();
+    void deleteSelected();
     void merge(MergeAction action);
-    Q_INVOKABLE void toggleTransforms();
+    void toggleTransforms();
     /// Pastes the names of a clip's files, one a line.
     void pasteFileNames(const ClipRef& clip);
     /// Hands the selected clips, oldest copy first, to the Paste Stack.
-    Q_INVOKABLE void pasteSelectedOneByOne();
-    Q_INVOKABLE void addSelectedToStack();
+    void pasteSelectedOneByOne();
+    void addSelectedToStack();
     /// The selected clips by their last use, oldest first.
     [[nodiscard]] std::vector<ClipRef> selectedClipsInCopyOrder() const;
     /// What a Paste Stack begins with that nobody named clips for: several selected clips, or nothing.
@@ -177,12 +165,9 @@ public:
     [[nodiscard]] const QSet<int>& availablePinnedNumbers() const;
     void setAvailablePinnedNumbers(const QSet<int>& numbers);
 
-    // The same for QML, where nothing is the null id.
+    /// The filter's place in `allClipFilters`. Setting one that is none does nothing.
     [[nodiscard]] int filterIndex() const { return int(filter()); }
     void setFilterIndex(int index);
-    [[nodiscard]] QUuid selectedUuid() const { return selectedID().value_or(QUuid()); }
-    [[nodiscard]] QUuid hoveredUuid() const { return hoveredID().value_or(QUuid()); }
-    void setHoveredUuid(const QUuid& id);
 
     std::function<void()> onClose = [] {};
     std::function<void(const ToastMessage&)> onToast = [](const ToastMessage&) {};

@@ -158,12 +158,6 @@ qsizetype PanelModel::count(ClipFilter filter) const {
     return d->countCache->counts[std::size_t(filter)];
 }
 
-int PanelModel::countOf(int filter) const {
-    if (filter < 0 || filter >= int(allClipFilters.size()))
-        return 0;
-    return int(count(allClipFilters[std::size_t(filter)]));
-}
-
 std::optional<QString> PanelModel::imageMatch(const Clip& clip) const {
     if (!clip.imageText)
         return std::nullopt;
