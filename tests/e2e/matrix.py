@@ -71,6 +71,8 @@ def compare(client, before, again, kept, after):
             lines.append((name, "left out: it means something to its own program or machine alone"))
         elif back is not None and back["bytes"] == given["bytes"]:
             lines.append((name, "the same bytes"))
+        elif back is None and not given["bytes"]:
+            lines.append((name, "left out: there is nothing in it"))
         elif name in RTF_NAMES and back is not None and back["bytes"] == before["given"].get("text/rtf", given)["bytes"]:
             lines.append((name, "the bytes of text/rtf, of which it is another name"))
         elif back is not None and name in RTF_NAMES | {"text/rtf"} and timeless(back["bytes"]) == timeless(given["bytes"]):

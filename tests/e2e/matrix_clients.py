@@ -1,12 +1,13 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The clients of the fidelity matrix: what each copies, and what the clip of it is to be."""
 
+import base64
 import os
 import re
 import tempfile
 
 from clients import Browser, FileManager, GtkEditor, PasswordManager, QtEditor, XTerminal, fresh_home
-from desktop import Process, clipboard, focus, key, run, type_text, wait_until, window_title, windows
+from desktop import Failure, Process, clipboard, focus, key, run, type_text, wait_until, window_title, windows
 
 TEXT, RICH, LINK, IMAGE, FILE, COLOR = range(6)
 
@@ -86,13 +87,13 @@ class ImageEditor(Process):
 
 
 class Firefox(Process):
-    """firefox-esr with the page of the other browser."""
+    """firefox-esr with a page of ours, that of the other browser when none is given."""
 
-    def __init__(self):
+    def __init__(self, page_source=Browser.PAGE):
         self.folder = tempfile.mkdtemp(prefix="firefox")
         page = os.path.join(self.folder, "page.html")
         with open(page, "w", encoding="utf-8") as file:
-            file.write(Browser.PAGE)
+            file.write(page_source)
         super().__init__("firefox-esr", "--no-remote", "--profile", self.folder, "file://" + page, env=fresh_home())
         self.window = wait_until(lambda: (windows("^ready") or [None])[0], "the browser's page", 120)
         focus(self.window)
@@ -101,6 +102,74 @@ class Firefox(Process):
         key("F8")
         wait_until(lambda: window_title(self.window).startswith("chosen"), "the words to be chosen", 30)
         in_time(lambda: key("ctrl+c"), "text/html")
+
+
+ADDRESS = "https://example.org/a/page?x=1"
+
+
+def page_with_link_and_picture():
+    """The page, with a link that F4 chooses, and a picture in its lower right corner."""
+    png = base64.b64encode(run("convert", "-size", "40x30", "gradient:red-blue", "png:-")).decode()
+    return Browser.PAGE.replace("<p id=words>", f"""<a id=link href="{ADDRESS}">A fine page</a>
+<img style="position:fixed;right:0;bottom:0;width:200px;height:150px" src="data:image/png;base64,{png}"><p id=words>""").replace(
+        "  if (e.key === 'F2')", "  if (e.key === 'F4') { document.getElementById('link').focus(); document.title = 'link'; }\n"
+        "  if (e.key === 'F2')")
+
+
+class LinkingBrowser(Browser):
+    """chromium with that page."""
+
+    def __init__(self):
+        self.PAGE = page_with_link_and_picture()
+        super().__init__()
+
+
+def shown_windows():
+    """Those that tell their class and are shown, and all that stand on the screen itself: a menu may be made anew and without one."""
+    on_screen = re.findall(rb"^ +(0x[0-9a-f]+)", run("xwininfo", "-root", "-children"), re.MULTILINE)
+    return {int(number) for number in run("xdotool", "search", "--onlyvisible", "--class", ".").split()} | {
+        int(number, 16) for number in on_screen}
+
+
+def soon(condition):
+    """Whether it comes true within three seconds."""
+    try:
+        return wait_until(condition, "it", 3)
+    except Failure:
+        return False
+
+
+def by_menu(open_menu, letter, target):
+    """Copies by an entry of the menu that belongs to a place of the page; once more when the menu of before was still closing."""
+
+    def copied():
+        key("Escape")
+        before = shown_windows()
+        open_menu()
+        if not soon(lambda: shown_windows() - before):
+            return False
+        key(letter)
+        return soon(lambda: clipboard(target) is not None)
+
+    wait_until(copied, f"{target} on the clipboard", 60)
+
+
+def link_address(letter):
+    def copy(client):
+        wait_until(lambda: key("F4") or window_title(client.window).startswith("link"), "the link to be chosen", 40)
+        by_menu(lambda: key("shift+F10"), letter, "UTF8_STRING")
+
+    return copy
+
+
+def picture_by_menu(client):
+    def point():
+        place = dict(line.split("=") for line in run("xdotool", "getwindowgeometry", "--shell", client.window).decode().split())
+        corner = [str(int(place[start]) + int(place[size]) - 50) for start, size in (("X", "WIDTH"), ("Y", "HEIGHT"))]
+        run("xdotool", "mousemove", *corner, "click", "3")
+
+    wait_until(lambda: key("F4") or window_title(client.window).startswith("link"), "the page to be painted", 40)
+    by_menu(point, "y", "image/png")
 
 
 def browser_picture(_client):
@@ -164,6 +233,8 @@ CLIENTS = {
     "featherpad": Client("featherpad (Qt 5)", "a line", QtEditor, typed("words of qt five"), TEXT, "words of qt five"),
     "chromium-text": Client("chromium", "styled words", Browser, lambda client: client.copy_words(), RICH, "Styled words of a page"),
     "chromium-image": Client("chromium", "a picture", Browser, browser_picture, IMAGE, "Image 32 × 24"),
+    "chromium-link": Client("chromium", "the address of a link", LinkingBrowser, link_address("e"), LINK, ADDRESS),
+    "chromium-menu": Client("chromium", "a picture of a page", LinkingBrowser, picture_by_menu, IMAGE, "Image 40 × 30"),
     "pcmanfm-file": Client("pcmanfm", "a file", lambda: FileManager("one.txt"), lambda client: client.copy_all(), FILE, "one.txt", FILES),
     "pcmanfm-files": Client("pcmanfm", "three files", lambda: FileManager("a ü.txt", "b.txt", "c.txt"),
                             lambda client: client.copy_all(), FILE, "a ü.txt and 2 more", FILES),
@@ -180,4 +251,8 @@ CLIENTS = {
                    IMAGE, "Image 32 × 24", heavy=True),
     "firefox": Client("Firefox ESR", "styled words", Firefox, lambda client: client.copy_words(), RICH,
                       "Styled words of a page", {"text/x-moz-url-priv": UNDER_ONE_NAME}, heavy=True),
+    "firefox-link": Client("Firefox ESR", "the address of a link", lambda: Firefox(page_with_link_and_picture()), link_address("l"),
+                           LINK, ADDRESS, heavy=True),
+    "firefox-menu": Client("Firefox ESR", "a picture of a page", lambda: Firefox(page_with_link_and_picture()), picture_by_menu,
+                           IMAGE, "Image 40 × 30", heavy=True),
 }
