@@ -8,7 +8,7 @@ ListView {
     required property var panel // PanelController's view of the model
     property int hoveredRow: -1
     readonly property string help: panel.helpOf(hoveredRow)
-    property alias askingTime: rest.interval
+    property alias askingTime: question.interval
 
     objectName: "clips"
     model: panel.rows
@@ -21,9 +21,9 @@ ListView {
     highlightFollowsCurrentItem: false
     onContentYChanged: area.rest()
     onHoveredRowChanged: {
-        rest.isAsking = false;
-        if (rest.isHovered)
-            rest.restart();
+        question.isAsking = false;
+        if (question.isHovered)
+            question.restart();
         panel.rowHovered(hoveredRow);
     }
     Accessible.role: Accessible.List
@@ -142,11 +142,11 @@ ListView {
     }
 
     HoverRest {
-        id: rest
+        id: question
         isHovered: list.help !== ""
     }
     HelpBubble {
-        readonly property Item row: rest.isAsking ? list.itemAtIndex(list.hoveredRow) : null
+        readonly property Item row: question.isAsking ? list.itemAtIndex(list.hoveredRow) : null
         readonly property real rowTop: row === null ? 0 : row.y - list.contentY
         readonly property real below: rowTop + Look.rowHeight
 

@@ -127,6 +127,11 @@ TEST_F(PanelViewTest, ARestingPointerIsToldWhatPastesAPinAnywhere) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return texts().contains(help); }));
     QTest::mouseMove(view(), middleOf(itemWithText(QStringLiteral("other"))));
     EXPECT_FALSE(texts().contains(help));
+    QTest::mouseMove(view(), place);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return texts().contains(help); }));
+    QTest::mouseMove(view(), QPoint(5, 5));
+    EXPECT_FALSE(texts().contains(help));
+    EXPECT_EQ(list->property("hoveredRow").toInt(), -1);
 }
 
 TEST_F(PanelViewTest, ADoubleClickPastesTheRow) {
