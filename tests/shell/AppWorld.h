@@ -80,14 +80,17 @@ protected:
         put(platform.sounds, sounds, std::make_unique<FakeSoundPlayer>());
         put(platform.panelSurface, surface, std::make_unique<FakePanelSurface>());
         put(platform.textReader, textReader, std::make_unique<FakeTextReader>());
+        put(platform.images, images, std::make_unique<FakeImageCodec>());
+        put(platform.folders, folders, std::make_unique<FakeFolderWatching>());
         platform.keyStore = std::make_unique<KeyringKeyStore>(keyring);
         platform.frontmost = std::make_unique<NobodyInFront>();
         platform.keyboard = std::make_unique<FakeKeyboardLayout>();
-        platform.images = std::make_unique<FakeImageCodec>();
         platform.bookmarks = std::make_unique<FakeFileBookmarks>();
-        platform.folders = std::make_unique<FakeFolderWatching>();
         platform.expiryTimer = std::make_unique<FakeTime::Timer>(time);
-        platform.clock = time.clock();
+        platform.clock = [this] {
+            ++clockReadings;
+            return time.clock()();
+        };
         platform.hasRoomForImages = [this](const QString& folder) {
             askedFolder = folder;
             return hasRoom;
@@ -117,6 +120,7 @@ protected:
     bool hasRoom = true;
     QString askedFolder; ///< whose volume was asked for room last
     int memoryReturns = 0;
+    int clockReadings = 0; ///< how often the program asked for the time
 
     FakeSingleInstance* instance = nullptr;
     UserDefaults* defaults = nullptr;
@@ -127,6 +131,8 @@ protected:
     FakeSoundPlayer* sounds = nullptr;
     FakePanelSurface* surface = nullptr;
     FakeTextReader* textReader = nullptr;
+    FakeImageCodec* images = nullptr;
+    FakeFolderWatching* folders = nullptr;
 };
 
 } // namespace vellumry

@@ -35,6 +35,8 @@ public:
         co_return reading;
     }
 
+    /// True when somebody waits for an answer.
+    [[nodiscard]] bool isSilent() const { return m_silent != nullptr; }
     /// Breaks the silence.
     void answer(Reading reading) {
         readings.push_back(std::move(reading));

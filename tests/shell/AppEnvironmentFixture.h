@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "paste/Shortcut.h"
+#include "shell/AppWorld.h"
+
+#include <QTimer>
+
+namespace vellumry {
+
+/// One run of the environment after the other, on one computer.
+class AppEnvironmentTest : public AppWorld {
+protected:
+    /// A task that waits for good would outlive the test.
+    void TearDown() override {
+        if (!textReader || !textReader->isSilent())
+            return;
+        textReader->readings.assign(2, TextReader::Reading());
+        textReader->answer(TextReader::Reading());
+    }
+    /// Ends the run that may be under way and begins the next.
+    void launch() {
+        environment.reset();
+        platform = makePlatform();
+        environment = awaited(AppEnvironment::launch(platform));
+    }
+    void start() {
+        launch();
+        environment->start();
+    }
+    [[nodiscard]] ClipStore& store() const { return environment->store(); }
+    /// Another program copies; the watcher looks.
+    void copy(const QString& type, const QByteArray& bytes) {
+        pasteboard->copy(type, bytes);
+        environment->watcher().tick(time.clock()());
+    }
+    void copyText(const char* text) { copy(uniformtype::utf8PlainText, text); }
+    /// As `copyText`, until it is on the disk.
+    void keep(const char* text) {
+        copyText(text);
+        awaited(store().markUsed(store().clips().front()->id, time.clock()()));
+    }
+    void keepPinned(const char* text) {
+        keep(text);
+        awaited(store().setPinned(store().clips().front()->id, true, time.clock()()));
+    }
+    bool press(const Shortcut& shortcut) { return hotKeys->press({shortcut.keyCode, shortcut.modifiers}); }
+    [[nodiscard]] QTimer* maintenance() const { return environment->findChild<QTimer*>(); }
+    /// The maintenance timer's interval has passed.
+    void maintain() const { QMetaObject::invokeMethod(maintenance(), "timeout"); }
+
+    Platform platform;
+    std::unique_ptr<AppEnvironment> environment;
+};
+
+} // namespace vellumry
