@@ -74,6 +74,37 @@ class Office(Process):
         focus(self.window)
 
 
+class MailProgram(Process):
+    """claws-mail with a letter that is being written, by an account that leads nowhere."""
+
+    FOLDERS = {"inbox": "inbox", "outbox": "sent", "draft": "draft", "queue": "queue", "trash": "trash"}
+
+    def __init__(self):
+        self.folder = tempfile.mkdtemp(prefix="mail")
+        for name in self.FOLDERS.values():
+            os.makedirs(os.path.join(self.folder, "Mail", name))
+        items = "".join(f'<folderitem type="{kind}" name="{name}" path="{name}"/>' for kind, name in self.FOLDERS.items())
+        self.write("accountrc", "[Account: 1]\naccount_name=me\nis_default=1\nname=Me\naddress=me@example.org\nprotocol=5\n")
+        self.write("clawsrc", "[Common]\nenable_aspell=0\n")
+        self.write("folderlist.xml", f"""<?xml version="1.0" encoding="UTF-8"?>
+<folderlist><folder type="mh" name="Mail" path="{self.folder}/Mail"><folderitem type="normal" name="" path="">{items}</folderitem>
+</folder></folderlist>
+""")
+        super().__init__("dbus-run-session", "claws-mail", "--alternate-config-dir", self.folder, "--compose",
+                         "mailto:you@example.org?subject=news&body=A%20line%20of%20a%20letter", env=fresh_home())
+        self.window = wait_until(lambda: (windows("Compose message") or [None])[0], "the letter", 60)
+        focus(self.window)
+
+    def copy_letter(self):
+        """The keyboard is with the addresses at first."""
+        run("xdotool", "mousemove", "--window", self.window, "200", "450", "click", "1")
+        key("ctrl+a", "ctrl+c")
+
+    def write(self, name, text):
+        with open(os.path.join(self.folder, name), "w", encoding="utf-8") as file:
+            file.write(text)
+
+
 class ImageEditor(Process):
     """GIMP with one small picture."""
 
@@ -222,6 +253,7 @@ CELLS = """<?xml version="1.0" encoding="UTF-8"?>
 
 NO_NUL = "the NUL at the end of a C string is no part of the text"
 LIST_WITHOUT_NUL = "each address ends its line and the list has no NUL at its end"
+WITHOUT_CR = "lines end as in UTF8_STRING, by LF alone: GTK writes CR LF under this name"
 UNDER_ONE_NAME = "the address of the page comes back under the one name that is read and written for it, chromium/x-source-url"
 FILES = {"text/uri-list": LIST_WITHOUT_NUL, "x-special/gnome-copied-files": LIST_WITHOUT_NUL}
 
@@ -247,6 +279,9 @@ CLIENTS = {
         lambda client: in_time(lambda: key("ctrl+a", "ctrl+c"), "UTF8_STRING"), RICH, "A bold letter", heavy=True),
     "calc": Client("LibreOffice Calc", "four cells", lambda: Office("cells.fods", CELLS), lambda client: in_time(
         lambda: key("ctrl+Home", "ctrl+shift+End", "ctrl+c"), "image/png"), IMAGE, image_title, heavy=True),
+    "claws-mail": Client("Claws Mail", "a line of a letter", MailProgram, lambda client: in_time(
+        client.copy_letter, "UTF8_STRING"), TEXT, "A line of a letter", {
+            name: WITHOUT_CR for name in ("text/plain", "text/plain;charset=utf-8")}, heavy=True),
     "gimp": Client("GIMP", "a picture", ImageEditor, lambda client: in_time(lambda: key("ctrl+a", "ctrl+c"), "image/png"),
                    IMAGE, "Image 32 × 24", heavy=True),
     "firefox": Client("Firefox ESR", "styled words", Firefox, lambda client: client.copy_words(), RICH,
