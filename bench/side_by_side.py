@@ -72,41 +72,46 @@ class Owner:
         self.display.flush()
 
 
+def read_or_nothing(path):
+    """Processes and threads may end while they are looked at."""
+    try:
+        with open(path, encoding="ascii") as file:
+            return file.read()
+    except (FileNotFoundError, ProcessLookupError):
+        return ""
+
+
+def tasks(pids):
+    """The folders of all threads."""
+    for pid in pids:
+        try:
+            yield from (f"/proc/{pid}/task/{task}" for task in os.listdir(f"/proc/{pid}/task"))
+        except FileNotFoundError:
+            continue
+
+
 def process_tree(pid):
     found = [pid]
     for process in found:
-        for task in os.listdir(f"/proc/{process}/task"):
-            with open(f"/proc/{process}/task/{task}/children", encoding="ascii") as file:
-                found += [int(child) for child in file.read().split()]
+        for task in tasks([process]):
+            found += [int(child) for child in read_or_nothing(f"{task}/children").split()]
     return found
 
 
 def schedstat_seconds(pids):
     """Time on the processor of all threads, in the scheduler's nanoseconds."""
-    total = 0
-    for pid in pids:
-        for task in os.listdir(f"/proc/{pid}/task"):
-            with open(f"/proc/{pid}/task/{task}/schedstat", encoding="ascii") as file:
-                total += int(file.read().split()[0])
-    return total / 1e9
+    return sum(int(line.split()[0]) for task in tasks(pids) if (line := read_or_nothing(f"{task}/schedstat"))) / 1e9
 
 
 def pss_megabytes(pids):
-    total = 0
-    for pid in pids:
-        with open(f"/proc/{pid}/smaps_rollup", encoding="ascii") as file:
-            total += next(int(line.split()[1]) for line in file if line.startswith("Pss:"))
-    return total / 1024
+    lines = [line for pid in pids for line in read_or_nothing(f"/proc/{pid}/smaps_rollup").splitlines()]
+    return sum(int(line.split()[1]) for line in lines if line.startswith("Pss:")) / 1024
 
 
 def switches(pids):
     """How often each thread has given up the processor by itself."""
-    counts = {}
-    for pid in pids:
-        for task in os.listdir(f"/proc/{pid}/task"):
-            with open(f"/proc/{pid}/task/{task}/status", encoding="ascii") as file:
-                counts[task] = next(int(line.split()[1]) for line in file if line.startswith("voluntary_ctxt_switches"))
-    return counts
+    return {task: int(line.split()[1]) for task in tasks(pids) for line in read_or_nothing(f"{task}/status").splitlines()
+            if line.startswith("voluntary_ctxt_switches")}
 
 
 def texts(count, seed=5):
@@ -171,6 +176,9 @@ class Ours:
         before = self.count()
         return lambda: self.count() > before
 
+    def stop_watching(self):
+        pass
+
     def fill(self, owner, count):
         """Through the clipboard, the way a user does, as fast as it is taken."""
         for text in texts(count):
@@ -215,12 +223,18 @@ class CopyQ:
             self.ask("add", "--", *made[first:first + 20])
 
     def watch_for(self, text):
-        script = f"print('ready\\n'); while (str(read(0)) != '{text}') sleep(1); print('more\\n');"
-        waiting = subprocess.Popen(["copyq", "eval", script], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
-                                   stdin=subprocess.DEVNULL)
-        waiting.stdout.readline()
-        os.set_blocking(waiting.stdout.fileno(), False)
-        return lambda: b"more" in (waiting.stdout.read() or b"")
+        # Backslashes of an argument are its own.
+        script = (f"var end = String.fromCharCode(10); print('ready' + end); while (str(read(0)) != '{text}') sleep(1); "
+                  "print('more' + end);")
+        self.waiting = subprocess.Popen(["copyq", "eval", script], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                                        stdin=subprocess.DEVNULL)
+        self.waiting.stdout.readline()
+        os.set_blocking(self.waiting.stdout.fileno(), False)
+        return lambda: b"more" in (self.waiting.stdout.read() or b"")
+
+    def stop_watching(self):
+        self.waiting.kill()
+        self.waiting.wait()
 
     def hide(self):
         self.ask("hide")
@@ -264,6 +278,7 @@ def measure(tool):
         owner.copy(text)
         if owner.serve(3.0, until=kept):
             delays.append(time.monotonic() - began)
+        tool.stop_watching()
     figures["copy to history, median ms"] = statistics.median(delays) * 1000 if delays else float("nan")
 
     pids = process_tree(tool.process.pid)
