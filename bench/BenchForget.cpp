@@ -11,6 +11,7 @@
 #include "history/ClipStore.h"
 #include "history/HistoryFile.h"
 #include "history/MemoryKeyStore.h"
+#include "support/Awaited.h"
 
 #include <QCoreApplication>
 #include <QCoroTask>
@@ -56,6 +57,9 @@ double worked() {
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
 }
 
+/// Milliseconds that no work takes.
+constexpr int longest = 120'000;
+
 /// Runs the event loop until the task is done, and notes how long it was away.
 Measured measured(const std::function<QCoro::Task<void>()>& work) {
     Measured result;
@@ -73,8 +77,7 @@ Measured measured(const std::function<QCoro::Task<void>()>& work) {
     const auto start = SteadyClock::now();
     auto task = work();
     turn();
-    while (!task.isReady())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    runUntil([&task] { return task.isReady(); }, longest);
     turn();
     result.whole = since(start);
     return result;

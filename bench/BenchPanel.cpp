@@ -14,6 +14,7 @@
 #include "history/MemoryKeyStore.h"
 #include "panel/PanelController.h"
 #include "paste/PasteEngine.h"
+#include "support/Awaited.h"
 #include "support/FakePanelSurface.h"
 #include "support/FakePasteTarget.h"
 #include "support/FakePasteboard.h"
@@ -74,8 +75,7 @@ private:
     }
 
     void untilPainted() {
-        while (!m_isPainted)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        runUntil([this] { return m_isPainted; });
     }
     void show() {
         m_isPainted = false;

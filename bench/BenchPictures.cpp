@@ -9,6 +9,7 @@
 #include "VipsLibrary.h"
 #include "linux/desktop/ReaderImageCodec.h"
 #include "reader/ImageSummariser.h"
+#include "support/Awaited.h"
 
 #include <QBuffer>
 #include <QGuiApplication>
@@ -130,11 +131,7 @@ void compare(const Sample& sample, const ImageSummariser& ours, const std::optio
 }
 
 double answerTime(ReaderImageCodec& codec, const QByteArray& file) {
-    return milliseconds([&] {
-        auto task = codec.summarise(file, thumbnailPixels);
-        while (!task.isReady())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    });
+    return milliseconds([&] { (void)awaited(codec.summarise(file, thumbnailPixels)); });
 }
 
 void throughReader(const Sample& sample) {

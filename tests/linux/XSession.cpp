@@ -3,10 +3,9 @@
 
 #include "linux/x11/XWindowProperties.h"
 #include "linux/x11/XlibConnection.h"
+#include "support/Eventually.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QTimer>
 #include <csignal>
 #include <sys/prctl.h>
 
@@ -19,7 +18,6 @@ namespace {
 constexpr int startMilliseconds = 10000;
 constexpr int waitMilliseconds = 3000;
 constexpr int probeMilliseconds = 100;
-constexpr int lookMilliseconds = 2;
 
 void startChild(QProcess& process, const QString& program, const QStringList& arguments) {
     // A test that dies takes them along.
@@ -87,18 +85,7 @@ bool XSession::setLayout(const QString& layout) {
 }
 
 bool waitUntil(const std::function<bool()>& condition) {
-    QElapsedTimer timer;
-    timer.start();
-    // What is waited for may happen at the server only. A loop that never waits would also leave events in Xlib's
-    // queue.
-    QTimer look;
-    look.start(lookMilliseconds);
-    while (timer.elapsed() < waitMilliseconds) {
-        if (condition())
-            return true;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    return condition();
+    return eventually(condition, waitMilliseconds);
 }
 
 } // namespace vellumry

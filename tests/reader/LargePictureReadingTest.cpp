@@ -67,9 +67,8 @@ TEST(LargePictureReading, TheQueueGoesOnBehindAPictureThatTakesTooLong) {
     const QUuid small = awaited(store.add(drafts::image(smallFile), 2))->id;
 
     queue.enqueue({large, small});
-    // It ends by itself: no picture is given more than half a minute.
-    while (queue.current())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    // No picture is given more than half a minute.
+    runUntil([&queue] { return !queue.current(); }, 60'000);
 
     EXPECT_EQ(store.find(large)->imageText, std::nullopt);
     EXPECT_EQ(store.find(small)->imageText, QStringLiteral("HELLO"));

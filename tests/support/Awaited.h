@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QCoreApplication>
+#include "support/Eventually.h"
+
 #include <QCoroTask>
-#include <QTimer>
 #include <exception>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -37,19 +38,11 @@ QCoro::Task<void> watchTask(QCoro::Task<Result> task, std::shared_ptr<AwaitedOut
 
 } // namespace detail
 
-/// Delivers the main thread's events until `isDone` holds. Throws when it does not within ten seconds: a test that
+/// Delivers the main thread's events until `isDone` holds. Throws when it does not within `milliseconds`: a test that
 /// hangs fails.
-template <typename Condition>
-void runUntil(Condition isDone) {
-    bool isLate = false;
-    QTimer deadline;
-    deadline.setSingleShot(true);
-    QObject::connect(&deadline, &QTimer::timeout, &deadline, [&] { isLate = true; });
-    deadline.start(10'000);
-    while (!isDone() && !isLate)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    if (!isDone())
-        throw std::runtime_error("Nothing happened for ten seconds.");
+inline void runUntil(const std::function<bool()>& isDone, int milliseconds = 10'000) {
+    if (!eventually(isDone, milliseconds))
+        throw std::runtime_error("What is waited for has not come.");
 }
 
 /// The task's result, or the exception that it ended with. The main thread's events are delivered meanwhile.

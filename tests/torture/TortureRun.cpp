@@ -11,6 +11,7 @@
 #include <QDir>
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <csignal>
 #include <fcntl.h>
 #include <limits>
@@ -20,6 +21,8 @@
 #include <unistd.h>
 
 namespace vellumry {
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -35,10 +38,12 @@ class Lines {
 public:
     explicit Lines(int input)
         : m_input(input) {}
-    /// Nothing at the end, or when `milliseconds` have passed.
-    [[nodiscard]] bool fill(int milliseconds) {
+    /// Nothing at the end, or when the time has passed.
+    [[nodiscard]] bool fill(std::chrono::nanoseconds time) {
         pollfd descriptor{m_input, POLLIN, 0};
-        if (poll(&descriptor, 1, std::max(milliseconds, 0)) <= 0)
+        const auto seconds = std::chrono::floor<std::chrono::seconds>(time);
+        const timespec limit{seconds.count(), (time - seconds).count()};
+        if (ppoll(&descriptor, 1, &limit, nullptr) <= 0)
             return false;
         std::array<char, 4096> bytes{};
         const ssize_t got = read(m_input, bytes.data(), bytes.size());
@@ -122,20 +127,23 @@ void TortureRun::runWorker() {
     std::optional<TortureStep> open;
     Lines lines(ends[0]);
     int count = 0;
-    while (count < most && lines.fill(20'000)) {
+    const auto takeAll = [&] {
         while (const auto line = lines.next()) {
             take(*line, open);
             ++count;
         }
-    }
-    // Not a wait for anything: the moment of the kill is what is drawn by lot.
-    usleep(m_random() % 4000);
+    };
+    while (count < most && lines.fill(20s))
+        takeAll();
+    const auto end = std::chrono::steady_clock::now() + std::chrono::microseconds(m_random() % 4000);
+    const auto left = [end] { return end - std::chrono::steady_clock::now(); };
+    while (left() > 0s && lines.fill(left()))
+        takeAll();
     ::kill(worker, SIGKILL);
     waitpid(worker, nullptr, 0);
-    while (lines.fill(0)) {
+    while (lines.fill(0s)) {
     }
-    while (const auto line = lines.next())
-        take(*line, open);
+    takeAll();
     close(ends[0]);
     if (open)
         m_model.maybeDone(*open);
