@@ -49,6 +49,15 @@ protected:
     }
     using Chords = std::vector<std::pair<unsigned long, unsigned int>>;
 
+    /// What an editor gets under that layout.
+    Chords pastedUnder(const QString& layout) {
+        XClient editor;
+        EXPECT_TRUE(editor.open("edit", "Editor"));
+        EXPECT_TRUE(XSession::setLayout(layout));
+        target.pressPaste();
+        return pasted(editor);
+    }
+
     std::optional<bool> regained() {
         std::optional<bool> result;
         auto task = target.regainFocus();
@@ -124,19 +133,11 @@ TEST_F(X11PasteTargetTest, KeysThatAreStillHeldDoNotSpoilTheChord) {
 }
 
 TEST_F(X11PasteTargetTest, TheChordIsOnTheKeyThatTypesV) {
-    XClient editor;
-    ASSERT_TRUE(editor.open("edit", "Editor"));
-    ASSERT_TRUE(XSession::setLayout(QStringLiteral("us -variant dvorak")));
-    target.pressPaste();
-    EXPECT_EQ(pasted(editor), (Chords{{symbolV, control}}));
+    EXPECT_EQ(pastedUnder(QStringLiteral("us -variant dvorak")), (Chords{{symbolV, control}}));
 }
 
 TEST_F(X11PasteTargetTest, WithoutAVTheChordIsOnItsPlace) {
-    XClient editor;
-    ASSERT_TRUE(editor.open("edit", "Editor"));
-    ASSERT_TRUE(XSession::setLayout(QStringLiteral("ru")));
-    target.pressPaste();
-    EXPECT_EQ(pasted(editor), (Chords{{symbolEm, control}}));
+    EXPECT_EQ(pastedUnder(QStringLiteral("ru")), (Chords{{symbolEm, control}}));
 }
 
 TEST_F(X11PasteTargetTest, AForeignKeyboardGrabIsSecureInput) {

@@ -23,6 +23,19 @@ protected:
         return resultOf(readDraft(pasteboard.get(), DraftBuilder(bookmarks, images), request), 20'000);
     }
 
+    /// What somebody else reads under these names once the copy is pasted.
+    std::vector<QByteArray> readAgain(const ClipDraft& copy, const QByteArrayList& targets) {
+        EXPECT_TRUE(pasteboard->write(copy.payload.items));
+        HostileOwner& reader = peer();
+        for (const QByteArray& target : targets)
+            reader.ask("CLIPBOARD", target);
+        EXPECT_TRUE(waitUntil([&] { return reader.answers.size() == std::size_t(targets.size()); }));
+        std::vector<QByteArray> answers;
+        for (const QByteArray& target : targets)
+            answers.push_back(reader.answers[target].bytes);
+        return answers;
+    }
+
     FakeFileBookmarks bookmarks;
     FakeImageCodec images;
 };
@@ -94,13 +107,7 @@ TEST_F(X11Snapshot, AScreenThatAVirtualMachineOffersAsABitmapAloneIsKept) {
     ASSERT_TRUE(result);
     EXPECT_EQ(result->kind, ClipKind::image);
     EXPECT_EQ(result->title, QStringLiteral("Image 1920 × 1080"));
-    ASSERT_TRUE(pasteboard->write(result->payload.items));
-    HostileOwner& reader = peer();
-    for (const char* target : {"image/png", "image/bmp"})
-        reader.ask("CLIPBOARD", target);
-    ASSERT_TRUE(waitUntil([&reader] { return reader.answers.size() == 2; }));
-    EXPECT_EQ(reader.answers["image/png"].bytes, "png");
-    EXPECT_EQ(reader.answers["image/bmp"].bytes, bitmap);
+    EXPECT_EQ(readAgain(*result, {"image/png", "image/bmp"}), (std::vector<QByteArray>{"png", bitmap}));
 }
 
 TEST_F(X11Snapshot, FilesThatWereCutAreReadWithoutTakingThemOffTheClipboard) {
@@ -111,13 +118,8 @@ TEST_F(X11Snapshot, FilesThatWereCutAreReadWithoutTakingThemOffTheClipboard) {
     ASSERT_TRUE(result);
     EXPECT_EQ(result->kind, ClipKind::file);
     EXPECT_FALSE(owner.requests.contains("x-special/gnome-copied-files"));
-    ASSERT_TRUE(pasteboard->write(result->payload.items));
-    HostileOwner& reader = peer();
-    for (const char* target : {"x-special/gnome-copied-files", "application/x-kde-cutselection"})
-        reader.ask("CLIPBOARD", target);
-    ASSERT_TRUE(waitUntil([&reader] { return reader.answers.size() == 2; }));
-    EXPECT_EQ(reader.answers["x-special/gnome-copied-files"].bytes, "cut\nfile:///tmp/a.txt");
-    EXPECT_EQ(reader.answers["application/x-kde-cutselection"].bytes, "1");
+    EXPECT_EQ(readAgain(*result, {"x-special/gnome-copied-files", "application/x-kde-cutselection"}),
+              (std::vector<QByteArray>{"cut\nfile:///tmp/a.txt", "1"}));
 }
 
 TEST_F(X11Snapshot, WhatMeansNothingToOthersIsNeitherAskedForNorKept) {

@@ -132,6 +132,15 @@ TEST_F(PanelViewTest, ARestingPointerIsToldWhatPastesAPinAnywhere) {
     QTest::mouseMove(view(), QPoint(5, 5));
     EXPECT_FALSE(texts().contains(help));
     EXPECT_EQ(list->property("hoveredRow").toInt(), -1);
+    QTest::mouseMove(view(), place);
+    QTest::mouseMove(view(), place + QPoint(3, 0));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return texts().contains(help); }));
+    awaited(store.setPinned(pinned->id, false, now));
+    QTest::qWait(0);
+    EXPECT_FALSE(texts().contains(help)) << "it is no pin any more";
+    awaited(store.remove({pinned->id}, false));
+    QTest::qWait(0);
+    EXPECT_EQ(list->property("help").toString(), QString());
 }
 
 TEST_F(PanelViewTest, ADoubleClickPastesTheRow) {
