@@ -69,28 +69,22 @@ bool SerialExecutor::isCurrent() const {
     return std::this_thread::get_id() == d->thread.get_id();
 }
 
-#ifdef __SANITIZE_THREAD__
-// The checker cannot see into the event queue of an uninstrumented Qt: a lock shows it that posting comes before
-// running.
 void postToMain(std::function<void()> function) {
-    static std::mutex order;
     QCoreApplication* application = QCoreApplication::instance();
     if (!application)
         return;
-    const std::lock_guard lock(order);
-    const auto run = [function = std::move(function)] {
+#ifdef __SANITIZE_THREAD__
+    // The checker cannot see into the event queue of an uninstrumented Qt: a lock shows it that posting comes before
+    // running.
+    static std::mutex order;
+    const std::lock_guard posting(order);
+    function = [function = std::move(function)] {
         order.lock();
         order.unlock();
         function();
     };
-    QMetaObject::invokeMethod(application, run, Qt::QueuedConnection);
-}
-#else
-void postToMain(std::function<void()> function) {
-    QCoreApplication* application = QCoreApplication::instance();
-    if (application)
-        QMetaObject::invokeMethod(application, std::move(function), Qt::QueuedConnection);
-}
 #endif
+    QMetaObject::invokeMethod(application, std::move(function), Qt::QueuedConnection);
+}
 
 } // namespace vellumry
