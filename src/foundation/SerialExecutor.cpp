@@ -75,16 +75,18 @@ void postToMain(std::function<void()> function) {
         return;
 #ifdef __SANITIZE_THREAD__
     // The checker cannot see into the event queue of an uninstrumented Qt: a lock shows it that posting comes before
-    // running.
+    // running. The lock is taken before anything that was posted is looked at, the function object included.
     static std::mutex order;
     const std::lock_guard posting(order);
-    function = [function = std::move(function)] {
+    auto run = [function = std::move(function)] {
         order.lock();
         order.unlock();
         function();
     };
+#else
+    auto run = std::move(function);
 #endif
-    QMetaObject::invokeMethod(application, std::move(function), Qt::QueuedConnection);
+    QMetaObject::invokeMethod(application, std::move(run), Qt::QueuedConnection);
 }
 
 } // namespace vellumry
