@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 #include <atomic>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace vellumry {
 
@@ -29,8 +30,8 @@ protected:
     void makeImporter(QStringList folders) {
         ScreenshotImporter::Hooks hooks;
         hooks.folders = [folders] { return folders; };
-        hooks.list = [this](const QString& folder) {
-            ++listings;
+        hooks.list = [count = listings](const QString& folder) {
+            ++*count;
             return ScreenshotFile::namesIn(folder);
         };
         hooks.after = [this](std::chrono::milliseconds delay, std::function<void()> function) {
@@ -78,7 +79,8 @@ protected:
     ClipStore store{RetentionPolicy()};
     FakeImageCodec images;
     FakeFolderWatching watching;
-    std::atomic<int> listings = 0;
+    /// How often a folder was listed. Held by all that may still list one, on threads that outlive a test.
+    std::shared_ptr<std::atomic<int>> listings = std::make_shared<std::atomic<int>>(0);
     std::vector<std::function<void()>> later;
     std::vector<std::chrono::milliseconds> delays;
     QStringList imported; ///< file names, as the clips' search text has them
