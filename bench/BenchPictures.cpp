@@ -7,7 +7,7 @@
 
 #include "Measure.h"
 #include "VipsLibrary.h"
-#include "linux/desktop/ReaderImageCodec.h"
+#include "linux/reader/ReaderImageCodec.h"
 #include "reader/ImageSummariser.h"
 #include "support/Awaited.h"
 

@@ -5,11 +5,11 @@
 
 #include "Corpus.h"
 #include "Measure.h"
-#include "history/ClipDatabase.h"
-#include "history/ClipRows.h"
-#include "history/ClipStore.h"
-#include "history/HistoryFile.h"
-#include "history/MemoryKeyStore.h"
+#include "history/clips/ClipStore.h"
+#include "history/file/ClipDatabase.h"
+#include "history/file/ClipRows.h"
+#include "history/file/HistoryFile.h"
+#include "history/file/MemoryKeyStore.h"
 
 #include <QCoreApplication>
 #include <QCoroTask>

@@ -5,9 +5,9 @@
 #include "Corpus.h"
 #include "Measure.h"
 #include "foundation/Text.h"
-#include "history/ByteSearch.h"
-#include "history/ClipSearch.h"
-#include "history/LookAlike.h"
+#include "history/search/ByteSearch.h"
+#include "history/search/ClipSearch.h"
+#include "history/search/LookAlike.h"
 
 #include <cstdint>
 #include <cstdio>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reads lines of JSON, each with the text of a picture and words, and writes for each line how many of the words the
 // history's search finds that picture by.
-#include "history/ClipStore.h"
+#include "history/clips/ClipStore.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>

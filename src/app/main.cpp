@@ -2,8 +2,8 @@
 #include "app/LinuxPlatform.h"
 #include "app/ReadyNotice.h"
 #include "foundation/Localisation.h"
-#include "linux/desktop/MemoryReturn.h"
-#include "linux/desktop/ProcessHardening.h"
+#include "linux/process/MemoryReturn.h"
+#include "linux/process/ProcessHardening.h"
 #include "shell/AppDelegate.h"
 
 #include <QClipboard>

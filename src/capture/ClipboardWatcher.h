@@ -6,9 +6,9 @@
 #include "capture/TickSchedule.h"
 #include "foundation/Date.h"
 #include "foundation/UserDefaults.h"
-#include "history/ClipStore.h"
-#include "platform/Pasteboard.h"
-#include "platform/SourceApp.h"
+#include "history/clips/ClipStore.h"
+#include "platform/display/Pasteboard.h"
+#include "platform/display/SourceApp.h"
 
 #include <QCoroTask>
 #include <QElapsedTimer>

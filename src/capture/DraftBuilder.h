@@ -2,10 +2,10 @@
 #pragma once
 
 #include "foundation/Date.h"
-#include "history/Clip.h"
-#include "platform/FileBookmarks.h"
-#include "platform/ImageCodec.h"
-#include "platform/SourceApp.h"
+#include "history/clips/Clip.h"
+#include "platform/display/SourceApp.h"
+#include "platform/files/FileBookmarks.h"
+#include "platform/files/ImageCodec.h"
 
 #include <QCoroTask>
 #include <optional>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "foundation/Date.h"
-#include "history/Clip.h"
+#include "history/clips/Clip.h"
 
 #include <QLocale>
 #include <QSize>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "capture/FilePlaces.h"
-#include "history/Clip.h"
-#include "platform/FileBookmarks.h"
+#include "history/clips/Clip.h"
+#include "platform/files/FileBookmarks.h"
 
 #include <functional>
 

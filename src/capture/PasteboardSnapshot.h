@@ -2,9 +2,9 @@
 #pragma once
 
 #include "capture/DraftBuilder.h"
-#include "history/Clip.h"
-#include "platform/Pasteboard.h"
-#include "platform/SourceApp.h"
+#include "history/clips/Clip.h"
+#include "platform/display/Pasteboard.h"
+#include "platform/display/SourceApp.h"
 
 #include <QCoroTask>
 #include <QSet>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/PasteboardItem.h"
+#include "platform/display/PasteboardItem.h"
 
 #include <QUrl>
 #include <optional>

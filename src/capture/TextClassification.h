@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "history/Clip.h"
+#include "history/clips/Clip.h"
 
 namespace vellumry {
 

@@ -2,7 +2,7 @@
 #include "panel/FieldPasteboard.h"
 
 #include "foundation/UniformType.h"
-#include "platform/Pasteboard.h"
+#include "platform/display/Pasteboard.h"
 
 namespace vellumry {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/PanelController.h"
 
-#include "history/ClipStore.h"
+#include "history/clips/ClipStore.h"
 #include "panel/ThumbnailProvider.h"
 
 #include <QCursor>

@@ -5,7 +5,7 @@
 #include "panel/PanelModel.h"
 #include "panel/PanelPlacement.h"
 #include "panel/ViewEngine.h"
-#include "platform/PanelSurface.h"
+#include "platform/display/PanelSurface.h"
 
 #include <QObject>
 #include <QPropertyAnimation>

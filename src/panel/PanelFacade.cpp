@@ -3,7 +3,7 @@
 
 #include "foundation/Localisation.h"
 #include "foundation/Text.h"
-#include "history/ClipStore.h"
+#include "history/clips/ClipStore.h"
 #include "panel/KeyTranslation.h"
 #include "paste/PasteStack.h"
 

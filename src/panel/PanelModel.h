@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "history/Clip.h"
-#include "history/ClipFilter.h"
-#include "history/TextTransform.h"
+#include "history/clips/Clip.h"
+#include "history/clips/ClipFilter.h"
+#include "history/clips/TextTransform.h"
 #include "panel/PanelModelCalendar.h"
 #include "paste/ToastMessage.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "foundation/Localisation.h"
-#include "history/ClipMerger.h"
+#include "history/clips/ClipMerger.h"
 #include "panel/PanelModelPrivate.h"
 
 #include <algorithm>

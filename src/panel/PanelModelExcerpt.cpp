@@ -2,7 +2,7 @@
 #include "panel/PanelModelExcerpt.h"
 
 #include "foundation/Text.h"
-#include "history/LookAlike.h"
+#include "history/search/LookAlike.h"
 
 #include <algorithm>
 #include <vector>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "capture/FileStatus.h"
-#include "history/ClipStore.h"
+#include "history/clips/ClipStore.h"
 #include "panel/PanelModel.h"
 #include "panel/PanelModelDayFormat.h"
 #include "paste/PasteEngine.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "capture/FileStatus.h"
-#include "history/Clip.h"
+#include "history/clips/Clip.h"
 
 #include <chrono>
 #include <functional>

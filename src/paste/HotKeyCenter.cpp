@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "paste/HotKeyCenter.h"
 
-#include "platform/HotKeyRegistrar.h"
+#include "platform/display/HotKeyRegistrar.h"
 
 namespace vellumry {
 

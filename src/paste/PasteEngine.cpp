@@ -2,7 +2,7 @@
 #include "paste/PasteEngine.h"
 
 #include "foundation/UserDefaults.h"
-#include "history/ClipStore.h"
+#include "history/clips/ClipStore.h"
 #include "paste/FileResolution.h"
 #include "paste/PasteboardWriter.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "history/Clip.h"
-#include "history/TextTransform.h"
+#include "history/clips/Clip.h"
+#include "history/clips/TextTransform.h"
 #include "paste/PasteOutcome.h"
 #include "paste/SystemHooks.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "paste/PasteKeyListener.h"
 
-#include "platform/EventFlags.h"
-#include "platform/KeyboardLayout.h"
+#include "platform/display/EventFlags.h"
+#include "platform/display/KeyboardLayout.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/PasteKeys.h"
+#include "platform/display/PasteKeys.h"
 
 #include <functional>
 #include <memory>

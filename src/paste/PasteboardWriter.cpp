@@ -2,8 +2,8 @@
 #include "paste/PasteboardWriter.h"
 
 #include "foundation/UniformType.h"
-#include "history/Clip.h"
-#include "platform/Pasteboard.h"
+#include "history/clips/Clip.h"
+#include "platform/display/Pasteboard.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 #include "paste/Shortcut.h"
 
 #include "foundation/Localisation.h"
-#include "platform/KeyboardLayout.h"
+#include "platform/display/KeyboardLayout.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

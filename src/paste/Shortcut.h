@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/EventFlags.h"
+#include "platform/display/EventFlags.h"
 
 #include <QByteArray>
 #include <QHashFunctions>

@@ -2,7 +2,7 @@
 #include "paste/SystemHooks.h"
 
 #include "capture/DetachedRun.h"
-#include "platform/PasteTarget.h"
+#include "platform/display/PasteTarget.h"
 
 #include <QCoroTimer>
 #include <QTimer>

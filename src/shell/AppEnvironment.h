@@ -2,18 +2,18 @@
 #pragma once
 
 #include "capture/ClipboardWatcher.h"
-#include "history/ClipStore.h"
+#include "history/clips/ClipStore.h"
 #include "panel/PanelController.h"
 #include "panel/ViewEngine.h"
 #include "paste/HotKeyCenter.h"
 #include "paste/PasteEngine.h"
 #include "paste/ShortcutRegistrations.h"
+#include "paste/StackWiring.h"
+#include "paste/SurvivingCopy.h"
 #include "shell/Platform.h"
 #include "shell/Preferences.h"
 #include "shell/ScreenshotSaving.h"
 #include "shell/StackHUDController.h"
-#include "shell/StackWiring.h"
-#include "shell/SurvivingCopy.h"
 #include "shell/TextReading.h"
 #include "shell/ToastController.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/PanelSurface.h"
+#include "platform/display/PanelSurface.h"
 
 #include <QObject>
 #include <QRect>

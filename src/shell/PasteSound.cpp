@@ -2,7 +2,7 @@
 #include "shell/PasteSound.h"
 
 #include "foundation/UserDefaults.h"
-#include "platform/SoundPlayer.h"
+#include "platform/desktop/SoundPlayer.h"
 
 namespace vellumry {
 

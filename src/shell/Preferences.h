@@ -2,7 +2,7 @@
 #pragma once
 
 #include "foundation/UserDefaults.h"
-#include "history/RetentionPolicy.h"
+#include "history/clips/RetentionPolicy.h"
 #include "paste/Shortcut.h"
 
 #include <optional>

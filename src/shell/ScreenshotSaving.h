@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "capture/ScreenshotImporter.h"
+#include "capture/screenshots/ScreenshotImporter.h"
 #include "foundation/UserDefaults.h"
 #include "paste/ToastMessage.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "capture/TextReadingQueue.h"
+#include "capture/text/TextReadingQueue.h"
 #include "paste/ToastMessage.h"
 #include "shell/Platform.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "capture/TextReadingQueue.h"
-#include "capture/TextRecognizer.h"
-#include "linux/desktop/ReaderTextReader.h"
+#include "capture/text/TextReadingQueue.h"
+#include "capture/text/TextRecognizer.h"
+#include "linux/reader/ReaderTextReader.h"
 #include "reader/ChildProcesses.h"
 #include "reader/PictureBytes.h"
 #include "reader/PictureDecoder.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "linux/desktop/ReaderImageCodec.h"
+#include "linux/reader/ReaderImageCodec.h"
 
 #include "reader/ChildProcesses.h"
 #include "reader/HeifBytes.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "linux/desktop/ReaderTextReader.h"
+#include "linux/reader/ReaderTextReader.h"
 
 #include "reader/HeifBytes.h"
 #include "reader/PictureBytes.h"

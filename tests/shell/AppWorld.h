@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "history/MemoryKeyStore.h"
+#include "history/file/MemoryKeyStore.h"
 #include "shell/AppEnvironment.h"
 #include "support/Awaited.h"
 #include "support/Drafts.h"

@@ -3,7 +3,7 @@
 
 #include "foundation/FileUrl.h"
 #include "foundation/UniformType.h"
-#include "history/Clip.h"
+#include "history/clips/Clip.h"
 
 /// Drafts as capture makes them, for tests that need something to keep.
 namespace vellumry::drafts {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/FileBookmarks.h"
+#include "platform/files/FileBookmarks.h"
 
 #include <QSet>
 #include <map>

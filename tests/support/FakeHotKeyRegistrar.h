@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/HotKeyRegistrar.h"
+#include "platform/display/HotKeyRegistrar.h"
 
 #include <QtGlobal>
 #include <algorithm>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/ImageCodec.h"
+#include "platform/files/ImageCodec.h"
 
 #include <utility>
 #include <vector>

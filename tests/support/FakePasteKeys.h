@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/EventFlags.h"
-#include "platform/PasteKeys.h"
+#include "platform/display/EventFlags.h"
+#include "platform/display/PasteKeys.h"
 
 #include <memory>
 #include <optional>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/PasteTarget.h"
+#include "platform/display/PasteTarget.h"
 
 #include <coroutine>
 #include <functional>

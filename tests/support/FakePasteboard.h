@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Pasteboard.h"
+#include "platform/display/Pasteboard.h"
 
 #include <QSet>
 #include <coroutine>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/TextReader.h"
+#include "platform/files/TextReader.h"
 
 #include <coroutine>
 #include <deque>

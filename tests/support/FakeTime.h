@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/DateTimer.h"
+#include "platform/desktop/DateTimer.h"
 
 #include <memory>
 #include <optional>

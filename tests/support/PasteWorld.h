@@ -2,7 +2,7 @@
 #pragma once
 
 #include "foundation/UserDefaults.h"
-#include "history/ClipStore.h"
+#include "history/clips/ClipStore.h"
 #include "paste/PasteEngine.h"
 #include "support/Awaited.h"
 #include "support/Drafts.h"

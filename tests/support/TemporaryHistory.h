@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "history/ClipDatabase.h"
-#include "history/ClipStore.h"
-#include "history/HistoryFile.h"
-#include "history/MemoryKeyStore.h"
+#include "history/clips/ClipStore.h"
+#include "history/file/ClipDatabase.h"
+#include "history/file/HistoryFile.h"
+#include "history/file/MemoryKeyStore.h"
 #include "support/Awaited.h"
 
 #include <QDir>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "torture/TortureRun.h"
 
-#include "history/ClipDatabase.h"
-#include "history/ClipStore.h"
-#include "history/HistoryFile.h"
+#include "history/clips/ClipStore.h"
+#include "history/file/ClipDatabase.h"
+#include "history/file/HistoryFile.h"
 #include "support/Awaited.h"
 #include "torture/PowerlessDisk.h"
 #include "torture/TortureWork.h"

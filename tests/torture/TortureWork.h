@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "history/ClipStore.h"
+#include "history/clips/ClipStore.h"
 #include "torture/FailingDisk.h"
 #include "torture/TortureModel.h"
 

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "capture/text/TextRecognizer.h"
+
+#include "capture/ResumeOnce.h"
+#include "foundation/Text.h"
+
+#include <QStringList>
+#include <QTimer>
+
+namespace vellumry {
+
+namespace {
+
+using Race = ResumeOnce<TextReader::Reading>;
+
+constexpr double fastLimit = 30.0;
+constexpr double accurateLimit = 150.0;
+
+QCoro::Task<void> run(TextReader* reader, QByteArray data, TextReader::Mode mode, std::chrono::milliseconds limit,
+                      Race race) {
+    TextReader::Reading reading;
+    try {
+        auto task = reader->read(std::move(data), mode, TextRecognizer::maxPixelSize, limit);
+        reading = co_await task;
+    } catch (const std::exception&) {
+        reading.outcome = TextReader::Outcome::failed;
+    }
+    race.resume(std::move(reading));
+}
+
+/// Ends the race as `tooSlow`; the owner deletes it when the race is over.
+struct LaterDeleter {
+    void operator()(QTimer* timer) const { timer->deleteLater(); }
+};
+std::unique_ptr<QTimer, LaterDeleter> startLimit(std::chrono::milliseconds limit, const Race& race) {
+    std::unique_ptr<QTimer, LaterDeleter> timer(new QTimer);
+    timer->setSingleShot(true);
+    QObject::connect(timer.get(), &QTimer::timeout, timer.get(), [race] {
+        race.resume({TextReader::Outcome::tooSlow, {}});
+    });
+    timer->start(limit);
+    return timer;
+}
+
+} // namespace
+
+QCoro::Task<std::optional<QString>> TextRecognizer::read(QByteArray data, Reader reader,
+                                                         std::optional<double> timeLimit) {
+    using Outcome = TextReader::Outcome;
+    const double seconds = timeLimit.value_or(reader == Reader::fast ? fastLimit : accurateLimit);
+    const auto limit = std::chrono::milliseconds(static_cast<qint64>(seconds * 1000));
+    const std::shared_ptr<int> failures = m_accurateFailures;
+
+    Race race;
+    const auto timer = startLimit(limit, race);
+    run(m_reader, std::move(data), reader, limit, race);
+    // Behind this the recognizer may be gone.
+    const TextReader::Reading reading = co_await race;
+    timer->stop();
+
+    if (reader == Reader::accurate && reading.outcome != Outcome::undecodable)
+        *failures = reading.outcome == Outcome::text ? 0 : *failures + 1;
+    if (reading.outcome != Outcome::text)
+        co_return std::nullopt;
+    co_return cleaned(reading.text);
+}
+
+QString TextRecognizer::cleaned(const QString& reading) {
+    QStringList lines;
+    for (const QString& line : reading.split(u'\n')) {
+        const QString trimmed = text::trimmedOfWhitespace(line);
+        if (!trimmed.isEmpty())
+            lines.append(trimmed);
+    }
+    // Not null: a picture without text has been read.
+    return lines.isEmpty() ? QStringLiteral("") : lines.join(u'\n');
+}
+
+} // namespace vellumry

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/clips/ClipHasher.h"
+
+#include "history/clips/ClipFingerprint.h"
+
+namespace vellumry {
+
+namespace {
+
+/// Hashing more than this on the main thread would be felt under the fingers.
+constexpr qint64 mostBytesHere = 256 * 1024;
+
+} // namespace
+
+QCoro::Task<QString> ClipHasher::fingerprint(ClipDraft draft) {
+    if (draft.payload.byteCount() <= mostBytesHere)
+        co_return fingerprintOf(draft, *m_crypto);
+    if (!m_executor)
+        m_executor = std::make_unique<SerialExecutor>("hashing");
+    auto job = [crypto = m_crypto, draft = std::move(draft)] { return fingerprintOf(draft, *crypto); };
+    auto running = m_executor->run(std::move(job));
+    QString fingerprint = co_await running;
+    co_return fingerprint;
+}
+
+} // namespace vellumry

@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/clips/ClipStore.h"
+
+#include "history/clips/ClipOfDraft.h"
+#include "history/clips/ClipStorePrivate.h"
+#include "history/file/Attempts.h"
+
+#include <QPointer>
+
+namespace vellumry {
+
+QCoro::Task<std::unique_ptr<ClipStore>> ClipStore::open(std::shared_ptr<ClipDatabase> database, RetentionPolicy policy,
+                                                        bool recoveredFromDamage) {
+    auto loading = database->loadAll();
+    std::vector<ClipRef> clips = co_await loading;
+    co_return std::unique_ptr<ClipStore>(
+        new ClipStore(std::move(database), policy, recoveredFromDamage, std::move(clips)));
+}
+
+ClipStore::ClipStore(std::shared_ptr<ClipDatabase> database, RetentionPolicy policy, bool recoveredFromDamage,
+                     std::vector<ClipRef> clips)
+    : d(std::make_unique<Private>(database, database->crypto(), policy, this)) {
+    d->recoveredFromDamage = recoveredFromDamage;
+    d->list.assign(std::move(clips));
+}
+
+ClipStore::ClipStore(RetentionPolicy policy)
+    : d(std::make_unique<Private>(nullptr, ClipCrypto::withRandomKey(), policy, this)) {}
+
+ClipStore::~ClipStore() = default;
+
+QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
+    const QPointer<ClipStore> self(this);
+    QString fingerprint;
+    try {
+        auto hashing = d->hasher.fingerprint(draft);
+        fingerprint = co_await hashing;
+    } catch (const CryptoError&) {
+        co_return ClipRef();
+    }
+    if (!self)
+        co_return ClipRef();
+    const ClipRef existing = d->list.findFingerprint(fingerprint);
+    const ClipRef clip =
+        std::make_shared<const Clip>(clipOfDraft(draft, existing, fingerprint, now, d->sensitiveLifetime));
+    existing ? d->list.replace(existing, clip) : d->list.insert(clip);
+    // The keys of its image text stay: that text was kept, or there is none.
+    d->search->forgetText(clip->id);
+
+    if (const std::shared_ptr<ClipDatabase> database = d->database) {
+        changed();
+        auto writing = attempted(database->insert(clip, std::move(draft.payload)));
+        const bool isWritten = co_await writing;
+        if (!self)
+            co_return ClipRef();
+        if (!isWritten) {
+            takeBack(clip->id, existing);
+            co_return ClipRef();
+        }
+    } else {
+        d->memoryPayloads.insert(clip->id, std::move(draft.payload));
+        changed();
+    }
+    auto retaining = enforceRetention(now);
+    co_await retaining;
+    co_return self ? d->list.find(clip->id) : ClipRef();
+}
+
+QCoro::Task<std::optional<ClipPayload>> ClipStore::payload(QUuid id) {
+    if (d->database) {
+        auto loading = attemptedPayload(d->database, id);
+        co_return co_await loading;
+    }
+    const auto found = d->memoryPayloads.constFind(id);
+    co_return found == d->memoryPayloads.constEnd() ? std::nullopt : std::optional(*found);
+}
+
+QCoro::Task<void> ClipStore::markUsed(QUuid id, Date date) {
+    const ClipRef old = d->list.find(id);
+    if (!old)
+        co_return;
+    auto clip = std::make_shared<Clip>(*old);
+    clip->lastUsedAt = date;
+    d->list.replace(old, std::move(clip));
+    changed();
+    if (const std::shared_ptr<ClipDatabase> database = d->database) {
+        auto writing = attempted(database->updateUsed(id, date));
+        co_await writing;
+    }
+}
+
+QCoro::Task<void> ClipStore::setPinned(QUuid id, bool isPinned, Date date) {
+    const ClipRef old = d->list.find(id);
+    if (!old || old->isPinned == isPinned)
+        co_return;
+    auto clip = std::make_shared<Clip>(*old);
+    clip->isPinned = isPinned;
+    const qint64 pinOrder = isPinned ? d->list.nextPinOrder(date) : 0;
+    clip->pinOrder = pinOrder;
+    // Pinning rescues a sensitive clip; unpinning does not bring its end back.
+    const bool isRescued = isPinned && clip->expiresAt.has_value();
+    if (isRescued)
+        clip->expiresAt.reset();
+    d->list.change(std::move(clip));
+    changed();
+    if (const std::shared_ptr<ClipDatabase> database = d->database) {
+        auto pinning = attempted(database->updatePinned(id, pinOrder));
+        co_await pinning;
+        if (isRescued) {
+            auto rescuing = attempted(database->updateExpiry(id, std::nullopt));
+            co_await rescuing;
+        }
+    }
+}
+
+QCoro::Task<void> ClipStore::setImageText(QUuid id, std::optional<QString> text, bool isAccurate) {
+    const ClipRef old = d->list.find(id);
+    if (!old)
+        co_return;
+    auto changedClip = std::make_shared<Clip>(*old);
+    changedClip->imageText = std::move(text);
+    changedClip->imageTextIsAccurate = isAccurate;
+    const ClipRef clip = std::move(changedClip);
+    d->list.change(clip);
+    d->search->forgetText(id);
+    d->search->forgetLookAlikes(id);
+    changed();
+    if (const std::shared_ptr<ClipDatabase> database = d->database) {
+        auto writing = attempted(database->updateMeta(clip));
+        co_await writing;
+    }
+}
+
+void ClipStore::changed() {
+    ++d->revision;
+    if (d->autoExpire)
+        d->expiry.arm(nextExpiry());
+    Q_EMIT clipsChanged();
+}
+
+const std::vector<ClipRef>& ClipStore::clips() const {
+    return d->list.clips();
+}
+
+ClipRef ClipStore::find(const QUuid& id) const {
+    return d->list.find(id);
+}
+
+qint64 ClipStore::revision() const {
+    return d->revision;
+}
+
+bool ClipStore::isMemoryOnly() const {
+    return !d->database;
+}
+
+bool ClipStore::recoveredFromDamage() const {
+    return d->recoveredFromDamage;
+}
+
+void ClipStore::setRecoveredFromDamage(bool value) {
+    d->recoveredFromDamage = value;
+}
+
+const RetentionPolicy& ClipStore::policy() const {
+    return d->policy;
+}
+
+void ClipStore::setPolicy(RetentionPolicy policy) {
+    d->policy = policy;
+}
+
+double ClipStore::sensitiveLifetime() const {
+    return d->sensitiveLifetime;
+}
+
+void ClipStore::setSensitiveLifetime(double seconds) {
+    d->sensitiveLifetime = seconds;
+}
+
+bool ClipStore::autoExpire() const {
+    return d->autoExpire;
+}
+
+void ClipStore::setAutoExpire(bool value) {
+    d->autoExpire = value;
+    d->expiry.arm(value ? nextExpiry() : std::nullopt);
+}
+
+std::optional<Date> ClipStore::nextExpiry() const {
+    return d->list.nextExpiry();
+}
+
+bool ClipStore::isExpiryScheduled() const {
+    return d->expiry.isArmed();
+}
+
+void ClipStore::setClock(Clock clock) {
+    d->clock = clock;
+    d->expiry.setClock(std::move(clock));
+}
+
+void ClipStore::setExpiryTimer(std::unique_ptr<DateTimer> timer) {
+    d->expiry.setTimer(std::move(timer));
+}
+
+std::vector<ClipRef> ClipStore::recentClips(qint64 limit, bool includePinned) const {
+    return d->list.recent(limit, includePinned);
+}
+
+std::vector<ClipRef> ClipStore::pinnedClips() const {
+    return d->list.pinned();
+}
+
+std::vector<QUuid> ClipStore::clipsWithoutText() const {
+    return d->list.pictures([](const Clip& clip) { return !clip.imageText; });
+}
+
+std::vector<QUuid> ClipStore::clipsWithRoughText() const {
+    return d->list.pictures([](const Clip& clip) { return clip.imageText && !clip.imageTextIsAccurate; });
+}
+
+std::vector<ClipRef> ClipStore::search(const QString& query, ClipFilter filter) const {
+    return d->search->search(clips(), query, filter, d->revision);
+}
+
+void ClipStore::forgetSearch() {
+    d->search->forgetQuery();
+}
+
+} // namespace vellumry

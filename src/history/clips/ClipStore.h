@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "foundation/Date.h"
+#include "history/clips/Clip.h"
+#include "history/clips/ClipFilter.h"
+#include "history/clips/RetentionPolicy.h"
+#include "platform/desktop/DateTimer.h"
+
+#include <QCoroTask>
+#include <QObject>
+#include <QSet>
+#include <memory>
+
+namespace vellumry {
+
+class ClipDatabase;
+
+/// The one place that knows the history: every clip in memory, ordered by last use, newest first; every change goes
+/// through it. With a database, payloads lie sealed in the history file; without one, everything is in memory and gone
+/// at the end.
+///
+/// Main thread only. Operations that persist have changed the memory state before their first suspension (`add` only
+/// when the payload is not so large that it is hashed elsewhere first); errors never leave them.
+class ClipStore : public QObject {
+    Q_OBJECT
+
+public:
+    /// Loads the history. Throws what loading threw.
+    [[nodiscard]] static QCoro::Task<std::unique_ptr<ClipStore>> open(std::shared_ptr<ClipDatabase> database,
+                                                                      RetentionPolicy policy, bool recoveredFromDamage);
+    /// Memory-only: a fresh random key, no clips. Cannot fail.
+    explicit ClipStore(RetentionPolicy policy);
+    ~ClipStore() override;
+
+    [[nodiscard]] const std::vector<ClipRef>& clips() const;
+    /// Null when there is none.
+    [[nodiscard]] ClipRef find(const QUuid& id) const;
+    /// Grows with every change of `clips`.
+    [[nodiscard]] qint64 revision() const;
+    [[nodiscard]] bool isMemoryOnly() const;
+    [[nodiscard]] bool recoveredFromDamage() const;
+    void setRecoveredFromDamage(bool value);
+    [[nodiscard]] const RetentionPolicy& policy() const;
+    /// Does not run retention; the caller does.
+    void setPolicy(RetentionPolicy policy);
+    /// Seconds that a sensitive clip lives; 60 at first.
+    [[nodiscard]] double sensitiveLifetime() const;
+    void setSensitiveLifetime(double seconds);
+    /// Whether a timer removes sensitive clips on time. It governs the timer alone: an expired clip goes at the latest
+    /// with the next retention. False at first.
+    [[nodiscard]] bool autoExpire() const;
+    void setAutoExpire(bool value);
+    /// The earliest expiry of all clips.
+    [[nodiscard]] std::optional<Date> nextExpiry() const;
+    /// True while the timer waits for an expiry.
+    [[nodiscard]] bool isExpiryScheduled() const;
+    /// What the timer goes by; the wall clock at first.
+    void setClock(Clock clock);
+    /// How the timer waits; by intervals at first.
+    void setExpiryTimer(std::unique_ptr<DateTimer> timer);
+
+    /// The stored clip; null if it could not be written (then the clip it would have replaced stands unchanged) or if
+    /// retention removed it at once. When the task is done, the clip is durable.
+    QCoro::Task<ClipRef> add(ClipDraft draft, Date now);
+    /// Nothing for an unknown clip and for one that cannot be read.
+    [[nodiscard]] QCoro::Task<std::optional<ClipPayload>> payload(QUuid id);
+    QCoro::Task<void> markUsed(QUuid id, Date date);
+    QCoro::Task<void> setPinned(QUuid id, bool isPinned, Date date);
+    QCoro::Task<void> setImageText(QUuid id, std::optional<QString> text, bool isAccurate);
+    /// `thorough` gives the space back even for little.
+    QCoro::Task<void> remove(QSet<QUuid> ids, bool thorough);
+    QCoro::Task<void> clearHistory(bool keepPinned);
+    QCoro::Task<void> enforceRetention(Date now);
+
+    [[nodiscard]] std::vector<ClipRef> recentClips(qint64 limit, bool includePinned) const;
+    /// In pin order.
+    [[nodiscard]] std::vector<ClipRef> pinnedClips() const;
+    [[nodiscard]] std::vector<QUuid> clipsWithoutText() const;
+    [[nodiscard]] std::vector<QUuid> clipsWithRoughText() const;
+    /// The clips that match, in history order. Synchronous, no limit on the number of results.
+    [[nodiscard]] std::vector<ClipRef> search(const QString& query, ClipFilter filter) const;
+    /// Wipes the last query, by which `search` goes on faster when more of it is typed.
+    void forgetSearch();
+
+Q_SIGNALS:
+    /// Something of `clips` changed.
+    void clipsChanged();
+
+private:
+    ClipStore(std::shared_ptr<ClipDatabase> database, RetentionPolicy policy, bool recoveredFromDamage,
+              std::vector<ClipRef> clips);
+    /// Tells everybody who looks at `clips`, the timer first.
+    void changed();
+    void forget(const QUuid& id);
+    /// Undoes an addition that could not be written.
+    void takeBack(const QUuid& id, const ClipRef& existing);
+
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace vellumry

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// How clips leave the store.
+
+#include "history/clips/ClipStorePrivate.h"
+#include "history/clips/Retention.h"
+#include "history/file/Attempts.h"
+
+#include <utility>
+
+namespace vellumry {
+
+QCoro::Task<void> ClipStore::remove(QSet<QUuid> ids, bool thorough) {
+    if (ids.isEmpty())
+        co_return;
+    const std::vector<ClipRef> removed = d->list.remove(ids);
+    for (const QUuid& id : ids) {
+        d->memoryPayloads.remove(id);
+        forget(id);
+    }
+    if (!removed.empty())
+        changed();
+
+    const std::shared_ptr<ClipDatabase> database = d->database;
+    if (!database)
+        co_return;
+    auto deleting = attempted(database->deleteAll({ids.begin(), ids.end()}));
+    co_await deleting;
+    if (thorough || retention::isWorthReclaiming(removed, ids.size())) {
+        auto reclaiming = attempted(database->reclaimSpace());
+        co_await reclaiming;
+    }
+}
+
+QCoro::Task<void> ClipStore::clearHistory(bool keepPinned) {
+    // A hundred thousand clips, one after the other, would hold the main thread for many frames: the whole list goes to
+    // the database's thread instead, which asks it for the ids and throws it away.
+    std::shared_ptr<ClipList> gone = d->list.takeAll(keepPinned);
+    if (!gone)
+        co_return;
+    std::shared_ptr<ClipSearch> texts = std::exchange(d->search, std::make_unique<ClipSearch>());
+    d->memoryPayloads.removeIf([this](const auto& entry) { return !d->list.find(entry.key()); });
+    changed();
+
+    const std::shared_ptr<ClipDatabase> database = d->database;
+    if (!database)
+        co_return;
+    auto ids = [gone = std::move(gone), texts = std::move(texts), keepPinned] { return gone->ids(keepPinned); };
+    auto deleting = attempted(database->deleteAllOf(std::move(ids)));
+    co_await deleting;
+    auto reclaiming = attempted(database->reclaimSpace());
+    co_await reclaiming;
+}
+
+QCoro::Task<void> ClipStore::enforceRetention(Date now) {
+    // Mostly there is no more to do than this, and the walk over a long history would be felt.
+    QSet<QUuid> doomed =
+        d->list.isWithin(d->policy, now) ? d->list.expired(now) : retention::doomedClips(clips(), d->policy, now);
+    auto removing = remove(std::move(doomed), false);
+    co_await removing;
+}
+
+void ClipStore::takeBack(const QUuid& id, const ClipRef& existing) {
+    d->list.remove({id});
+    forget(id);
+    if (existing)
+        d->list.insert(existing);
+    changed();
+}
+
+void ClipStore::forget(const QUuid& id) {
+    d->search->forgetText(id);
+    d->search->forgetLookAlikes(id);
+}
+
+} // namespace vellumry

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "foundation/SerialExecutor.h"
+#include "history/clips/Clip.h"
+#include "history/file/ClipCrypto.h"
+#include "history/file/SQLiteDatabase.h"
+#include "platform/desktop/KeyStore.h"
+
+#include <QCoroTask>
+#include <functional>
+#include <memory>
+
+namespace vellumry {
+
+struct OpenedHistory;
+
+/// The history file: clips as rows, everything that could show content sealed. Owns the connection and the one thread
+/// that uses it; operations queue there in the order of their calls and resume the caller on the main thread. When one
+/// that writes is done without an error, the change survives a power cut.
+///
+/// Operations are called on the main thread. They throw `SQLiteError`, `CryptoError`, `UnsealError`, all
+/// std::runtime_error. The destructor waits for what is queued.
+class ClipDatabase {
+public:
+    /// Opens "History.sqlite" in `folder`, which must exist, making the key and the file where there are none. A file
+    /// that this key does not open, or that is damaged, is put aside as a backup and a new one begun. Throws what the
+    /// key store throws (the file is then untouched), SQLiteError, CryptoError, std::filesystem::filesystem_error. Any
+    /// thread; reads the whole file once, so better not the main one.
+    [[nodiscard]] static OpenedHistory openHistory(const QString& folder, KeyStore& keyStore);
+
+    /// The file at `path` with a key that is known to fit. Blocking; any thread.
+    ClipDatabase(const QString& path, ClipCrypto crypto);
+    ClipDatabase(const ClipDatabase&) = delete;
+    ClipDatabase& operator=(const ClipDatabase&) = delete;
+
+    [[nodiscard]] const ClipCrypto& crypto() const { return m_crypto; }
+
+    /// Every readable clip, latest first.
+    [[nodiscard]] QCoro::Task<std::vector<ClipRef>> loadAll();
+    /// Nothing when there is no such row; throws for one that cannot be unsealed or decoded.
+    [[nodiscard]] QCoro::Task<std::optional<ClipPayload>> payload(QUuid id);
+    /// Writes the clip's row, over the one with the same id.
+    [[nodiscard]] QCoro::Task<void> insert(ClipRef clip, ClipPayload payload);
+    [[nodiscard]] QCoro::Task<void> updateMeta(ClipRef clip);
+    [[nodiscard]] QCoro::Task<void> updateExpiry(QUuid id, std::optional<Date> date);
+    [[nodiscard]] QCoro::Task<void> updateUsed(QUuid id, Date date);
+    /// Stores `value` as it is: 0 is unpinned.
+    [[nodiscard]] QCoro::Task<void> updatePinned(QUuid id, qint64 value);
+    /// All or, on an error, none.
+    [[nodiscard]] QCoro::Task<void> deleteAll(std::vector<QUuid> ids);
+    /// As `deleteAll`, for so many that listing them takes a while: `ids` is asked, and let go, on the history's own
+    /// thread.
+    [[nodiscard]] QCoro::Task<void> deleteAllOf(std::function<std::vector<QUuid>()> ids);
+    /// Gives freed pages back and empties the write-ahead log, so that nothing deleted is left in either.
+    [[nodiscard]] QCoro::Task<void> reclaimSpace();
+
+private:
+    template <typename Result>
+    QCoro::Task<Result> onExecutor(std::function<Result(SQLiteDatabase&)> job);
+
+    SQLiteDatabase m_sqlite;
+    const ClipCrypto m_crypto;
+    SerialExecutor m_executor; // last, so that its thread has ended before the connection closes
+};
+
+struct OpenedHistory {
+    std::shared_ptr<ClipDatabase> database;
+    bool recoveredFromDamage = false; ///< an earlier history could not be read and was put aside
+};
+
+} // namespace vellumry

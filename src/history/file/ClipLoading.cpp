@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/file/ClipLoading.h"
+
+#include "foundation/SerialExecutor.h"
+#include "foundation/UnusedMemory.h"
+#include "history/clips/StringPool.h"
+#include "history/file/ClipMeta.h"
+#include "history/file/ClipRows.h"
+#include "history/file/Unsealer.h"
+
+#include <algorithm>
+#include <atomic>
+#include <iterator>
+
+namespace vellumry {
+
+namespace {
+
+constexpr std::size_t rowsPerBatch = 256;
+/// So much sealed content is read ahead at the most; a start should not need twice the memory.
+constexpr int batchesAhead = 8;
+
+/// A row's plain columns in the clip that it will be, and where its sealed meta lies.
+struct Row {
+    std::shared_ptr<Clip> clip;
+    qsizetype offset;
+    qsizetype size;
+};
+
+struct Batch {
+    std::vector<Row> rows;
+    QByteArray sealed;
+    std::vector<ClipRef> clips;
+    std::exception_ptr error;
+    std::atomic_flag isClaimed;
+};
+
+/// What one thread needs to decode.
+class Decoder {
+public:
+    explicit Decoder(const SymmetricKey& key)
+        : m_unsealer(key) {}
+
+    void decode(Batch& batch) {
+        batch.clips.reserve(batch.rows.size());
+        for (Row& row : batch.rows) {
+            const auto plain = m_unsealer.open(QByteArrayView(batch.sealed).sliced(row.offset, row.size));
+            auto meta = plain ? ClipMeta::decode(*plain, &m_pool) : std::nullopt;
+            if (!meta)
+                continue;
+            std::move(*meta).applyTo(*row.clip);
+            batch.clips.push_back(std::move(row.clip));
+        }
+        batch.rows = {};
+        batch.sealed = {};
+    }
+
+private:
+    Unsealer m_unsealer;
+    StringPool m_pool;
+};
+
+/// The clip without its sealed part; null for a row that is none.
+std::shared_ptr<Clip> clipOf(const SQLiteDatabase::Statement& row) {
+    const auto id = cliprows::uuidOf(row.text(0));
+    const qint64 kind = row.integer(1);
+    if (!id || kind < 0 || kind > static_cast<qint64>(ClipKind::color))
+        return nullptr;
+    auto clip = std::make_shared<Clip>();
+    clip->id = *id;
+    clip->kind = static_cast<ClipKind>(kind);
+    clip->createdAt = row.real(2);
+    clip->lastUsedAt = row.real(3);
+    clip->pinOrder = row.integer(4);
+    clip->isPinned = clip->pinOrder != 0;
+    if (!row.isNull(5))
+        clip->expiresAt = row.real(5);
+    clip->fingerprint = QString::fromUtf8(row.text(6));
+    clip->byteSize = row.integer(7);
+    return clip;
+}
+
+} // namespace
+
+struct ClipLoading::Private {
+    explicit Private(const SymmetricKey& historyKey)
+        : key(historyKey)
+        , decoder(key) {}
+
+    /// Whoever comes first decodes the batch.
+    void decode(Batch& batch, Decoder& with) {
+        if (batch.isClaimed.test_and_set())
+            return;
+        try {
+            with.decode(batch);
+        } catch (...) {
+            batch.error = std::current_exception();
+        }
+        --waiting;
+    }
+
+    void close() {
+        Batch& batch = *batches.back();
+        ++waiting;
+        if (!helper) {
+            helperDecoder = std::make_unique<Decoder>(key);
+            helper = std::make_unique<SerialExecutor>("History rows");
+        }
+        helper->post([this, &batch] { decode(batch, *helperDecoder); });
+        if (waiting > batchesAhead)
+            decode(batch, decoder);
+        batches.push_back(std::make_unique<Batch>());
+    }
+
+    const SymmetricKey& key;
+    Decoder decoder;
+    std::vector<std::unique_ptr<Batch>> batches;
+    std::atomic<int> waiting = 0;
+    std::unique_ptr<Decoder> helperDecoder;
+    std::unique_ptr<SerialExecutor> helper; // last, so that its thread has ended before what it works on goes
+};
+
+ClipLoading::ClipLoading(const ClipCrypto& crypto)
+    : d(std::make_unique<Private>(crypto.key())) {
+    d->batches.push_back(std::make_unique<Batch>());
+}
+
+ClipLoading::~ClipLoading() = default;
+
+void ClipLoading::take(const SQLiteDatabase::Statement& row) {
+    auto clip = clipOf(row);
+    if (!clip)
+        return;
+    Batch& batch = *d->batches.back();
+    const QByteArrayView sealed = row.blob(8);
+    batch.rows.push_back({std::move(clip), batch.sealed.size(), sealed.size()});
+    batch.sealed.append(sealed);
+    if (batch.rows.size() == rowsPerBatch)
+        d->close();
+}
+
+std::vector<ClipRef> ClipLoading::finish() {
+    ++d->waiting;
+    for (auto batch = d->batches.rbegin(); batch != d->batches.rend(); ++batch)
+        d->decode(**batch, d->decoder);
+    d->helper.reset();
+    std::vector<ClipRef> clips;
+    clips.reserve(d->batches.size() * rowsPerBatch);
+    for (const auto& batch : d->batches) {
+        if (batch->error)
+            std::rethrow_exception(batch->error);
+        std::ranges::move(batch->clips, std::back_inserter(clips));
+    }
+    // What was sealed is as much again as what was in it.
+    d->batches.clear();
+    giveBackUnusedMemory();
+    return clips;
+}
+
+} // namespace vellumry

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "history/file/ClipMeta.h"
+
+namespace vellumry {
+
+/// Reads a clip's meta straight out of the bytes of a binary property list, without building the list: a start with a
+/// hundred thousand clips does nothing else. It answers only for lists of the shape that `ClipMeta::encoded` writes.
+/// Nothing means "not such a list", which says nothing about whether the list is sound; the general reader decides
+/// that.
+[[nodiscard]] std::optional<ClipMeta> readPlainMeta(QByteArrayView bytes, StringPool* pool);
+
+} // namespace vellumry

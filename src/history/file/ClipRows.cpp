@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/file/ClipRows.h"
+
+#include "history/file/ClipLoading.h"
+#include "history/file/ClipMeta.h"
+#include "history/file/PayloadCoding.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vellumry::cliprows {
+
+namespace {
+
+/// What sealing puts around the bytes.
+constexpr BinaryListWriter::Margins margins{ClipCrypto::nonceSize, ClipCrypto::tagSize};
+
+/// The plain bytes become the sealed ones where they lie, so none are left behind.
+QByteArray sealed(const ClipCrypto& crypto, QByteArray bytesWithMargins) {
+    crypto.sealInPlace(bytesWithMargins);
+    return bytesWithMargins;
+}
+
+QByteArray sealedMeta(const ClipCrypto& crypto, const Clip& clip) {
+    return sealed(crypto, ClipMeta::of(clip).encoded(margins));
+}
+
+void run(SQLiteDatabase& database, const char* sql, std::span<const SQLValue> values) {
+    auto statement = database.prepare(sql);
+    statement.bind(values);
+    statement.step();
+}
+
+SQLValue sqlDate(std::optional<Date> date) {
+    return date ? SQLValue(*date) : SQLValue(std::monostate());
+}
+
+/// The value of each hexadecimal digit, -1 for every other byte.
+constexpr std::array<qint8, 256> hexValues = [] {
+    std::array<qint8, 256> values{};
+    values.fill(-1);
+    for (int i = 0; i < 16; ++i) {
+        values[static_cast<quint8>("0123456789abcdef"[i])] = static_cast<qint8>(i);
+        values[static_cast<quint8>("0123456789ABCDEF"[i])] = static_cast<qint8>(i);
+    }
+    return values;
+}();
+
+} // namespace
+
+void createTable(SQLiteDatabase& database) {
+    database.execute("CREATE TABLE IF NOT EXISTS clips (\n"
+                     "  id TEXT PRIMARY KEY NOT NULL,\n"
+                     "  kind INTEGER NOT NULL,\n"
+                     "  created REAL NOT NULL,\n"
+                     "  used REAL NOT NULL,\n"
+                     "  pinned INTEGER NOT NULL DEFAULT 0,\n"
+                     "  expires REAL,\n"
+                     "  fingerprint TEXT NOT NULL,\n"
+                     "  size INTEGER NOT NULL,\n"
+                     "  meta BLOB NOT NULL,\n"
+                     "  payload BLOB NOT NULL\n"
+                     ");\n"
+                     "CREATE INDEX IF NOT EXISTS clips_used ON clips(used);");
+}
+
+std::vector<ClipRef> readAll(SQLiteDatabase& database, const ClipCrypto& crypto) {
+    auto rows = database.prepare(
+        "SELECT id, kind, created, used, pinned, expires, fingerprint, size, meta FROM clips ORDER BY used DESC;");
+    ClipLoading loading(crypto);
+    while (rows.step())
+        loading.take(rows);
+    return loading.finish();
+}
+
+std::optional<ClipPayload> readPayload(SQLiteDatabase& database, const ClipCrypto& crypto, const QUuid& id) {
+    auto row = database.prepare("SELECT payload FROM clips WHERE id = ?;");
+    row.bind(std::array<SQLValue, 1>{uuidString(id)});
+    if (!row.step())
+        return std::nullopt;
+    QByteArray plain = crypto.unseal(row.blob(0));
+    auto payload = decodePayload(plain);
+    wipe(plain.data(), static_cast<std::size_t>(plain.size()));
+    if (!payload)
+        throw std::runtime_error("The stored clip could not be decoded.");
+    return payload;
+}
+
+void write(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip, const ClipPayload& payload) {
+    QByteArray meta = sealedMeta(crypto, clip);
+    QByteArray sealedPayload = sealed(crypto, encodePayload(payload, margins));
+    // A pinned row must never read back as unpinned.
+    const qint64 pinned = clip.isPinned ? std::max<qint64>(clip.pinOrder, 1) : 0;
+    const std::array<SQLValue, 10> values{uuidString(clip.id),
+                                          static_cast<qint64>(clip.kind),
+                                          clip.createdAt,
+                                          clip.lastUsedAt,
+                                          pinned,
+                                          sqlDate(clip.expiresAt),
+                                          clip.fingerprint,
+                                          clip.byteSize,
+                                          std::move(meta),
+                                          std::move(sealedPayload)};
+    run(database,
+        "INSERT OR REPLACE INTO clips (id, kind, created, used, pinned, expires, fingerprint, size, meta, payload)\n"
+        "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?);",
+        values);
+}
+
+void writeMeta(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip) {
+    const std::array<SQLValue, 2> values{sealedMeta(crypto, clip), uuidString(clip.id)};
+    run(database, "UPDATE clips SET meta = ? WHERE id = ?;", values);
+}
+
+void writeExpiry(SQLiteDatabase& database, const QUuid& id, std::optional<Date> date) {
+    const std::array<SQLValue, 2> values{sqlDate(date), uuidString(id)};
+    run(database, "UPDATE clips SET expires = ? WHERE id = ?;", values);
+}
+
+void writeUsed(SQLiteDatabase& database, const QUuid& id, Date date) {
+    const std::array<SQLValue, 2> values{date, uuidString(id)};
+    run(database, "UPDATE clips SET used = ? WHERE id = ?;", values);
+}
+
+void writePinned(SQLiteDatabase& database, const QUuid& id, qint64 value) {
+    const std::array<SQLValue, 2> values{value, uuidString(id)};
+    run(database, "UPDATE clips SET pinned = ? WHERE id = ?;", values);
+}
+
+void removeAll(SQLiteDatabase& database, const std::vector<QUuid>& ids) {
+    if (ids.empty())
+        return;
+    try {
+        database.execute("BEGIN;");
+        for (const QUuid& id : ids) {
+            const std::array<SQLValue, 1> values{uuidString(id)};
+            run(database, "DELETE FROM clips WHERE id = ?;", values);
+        }
+        database.execute("COMMIT;");
+    } catch (...) {
+        const std::exception_ptr first = std::current_exception();
+        try {
+            database.execute("ROLLBACK;");
+        } catch (const SQLiteError&) {
+            // There may be no transaction any more; what went wrong first is what the caller must know.
+        }
+        std::rethrow_exception(first);
+    }
+}
+
+QString uuidString(const QUuid& id) {
+    return id.toString(QUuid::WithoutBraces).toUpper();
+}
+
+std::optional<QUuid> uuidOf(QByteArrayView text) {
+    if (text.size() != 36)
+        return std::nullopt;
+    std::array<char, 16> bytes{};
+    std::size_t digits = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (i == 8 || i == 13 || i == 18 || i == 23) {
+            if (text[i] != '-')
+                return std::nullopt;
+            continue;
+        }
+        const int value = hexValues[static_cast<quint8>(text[i])];
+        if (value < 0)
+            return std::nullopt;
+        bytes[digits / 2] = static_cast<char>(bytes[digits / 2] << 4 | value);
+        ++digits;
+    }
+    return QUuid::fromRfc4122(QByteArrayView(bytes.data(), bytes.size()));
+}
+
+} // namespace vellumry::cliprows

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "history/clips/Clip.h"
+#include "history/file/ClipCrypto.h"
+#include "history/file/SQLiteDatabase.h"
+
+/// Clips as rows of the table `clips`. Each function runs its statement on the caller's thread and throws what the
+/// layers below throw: `SQLiteError`, `CryptoError`, `UnsealError`.
+namespace vellumry::cliprows {
+
+/// Makes the table and its index when they are missing.
+void createTable(SQLiteDatabase& database);
+
+/// Every clip that can be read, latest first. A row with a strange id or kind, one that this key does not open and one
+/// whose meta is not a meta are passed over: they are neither reported nor removed.
+[[nodiscard]] std::vector<ClipRef> readAll(SQLiteDatabase& database, const ClipCrypto& crypto);
+
+/// Nothing when there is no such row. Throws std::runtime_error for a payload that opens but cannot be decoded.
+[[nodiscard]] std::optional<ClipPayload> readPayload(SQLiteDatabase& database, const ClipCrypto& crypto,
+                                                     const QUuid& id);
+
+/// Writes the whole row, over one with the same id.
+void write(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip, const ClipPayload& payload);
+void writeMeta(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip);
+void writeExpiry(SQLiteDatabase& database, const QUuid& id, std::optional<Date> date);
+void writeUsed(SQLiteDatabase& database, const QUuid& id, Date date);
+void writePinned(SQLiteDatabase& database, const QUuid& id, qint64 value);
+
+/// All of them or, when one cannot be removed, none.
+void removeAll(SQLiteDatabase& database, const std::vector<QUuid>& ids);
+
+/// The text form in which the file knows an identity: canonical, upper case, no braces.
+[[nodiscard]] QString uuidString(const QUuid& id);
+/// The identity that 36 characters of that form, in any case, stand for.
+[[nodiscard]] std::optional<QUuid> uuidOf(QByteArrayView text);
+
+} // namespace vellumry::cliprows

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/file/SQLiteDatabase.h"
+
+#include <QFile>
+#include <sqlite3.h>
+#include <utility>
+
+namespace vellumry {
+
+SQLiteDatabase::SQLiteDatabase(const QString& path, Access access) {
+    const int flags = access == Access::readOnly ? SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX
+                                                 : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
+    const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle, flags, nullptr);
+    if (result != SQLITE_OK || !m_handle) {
+        const SQLiteError failure = m_handle ? error(SQLiteError::Case::open)
+                                             : SQLiteError(SQLiteError::Case::open, "code " + std::to_string(result));
+        close();
+        throw failure;
+    }
+    if (access == Access::readOnly)
+        return;
+    // SQLite opens what it may not write for reading, without a word; every change would then be lost.
+    if (sqlite3_db_readonly(m_handle, "main") == 1) {
+        close();
+        throw SQLiteError(SQLiteError::Case::open, "attempt to write a readonly database");
+    }
+    try {
+        execute("PRAGMA journal_mode=WAL;");
+        execute("PRAGMA secure_delete = ON;");
+    } catch (...) {
+        close();
+        throw;
+    }
+}
+
+SQLiteDatabase::~SQLiteDatabase() {
+    close();
+}
+
+void SQLiteDatabase::close() {
+    sqlite3_close(m_handle);
+    m_handle = nullptr;
+}
+
+void SQLiteDatabase::execute(const char* sql) {
+    char* message = nullptr;
+    if (sqlite3_exec(m_handle, sql, nullptr, nullptr, &message) == SQLITE_OK)
+        return;
+    const SQLiteError failure =
+        message ? SQLiteError(SQLiteError::Case::step, message) : error(SQLiteError::Case::step);
+    sqlite3_free(message);
+    throw failure;
+}
+
+SQLiteDatabase::Statement SQLiteDatabase::prepare(const char* sql) {
+    sqlite3_stmt* pointer = nullptr;
+    if (sqlite3_prepare_v2(m_handle, sql, -1, &pointer, nullptr) != SQLITE_OK || !pointer)
+        throw error(SQLiteError::Case::prepare);
+    return {*this, pointer};
+}
+
+SQLiteError SQLiteDatabase::error(SQLiteError::Case kind) const {
+    return {kind, m_handle ? sqlite3_errmsg(m_handle) : "closed"};
+}
+
+SQLiteDatabase::Statement::Statement(Statement&& other) noexcept
+    : m_database(other.m_database)
+    , m_pointer(std::exchange(other.m_pointer, nullptr)) {}
+
+SQLiteDatabase::Statement::~Statement() {
+    sqlite3_finalize(m_pointer);
+}
+
+namespace {
+
+int bindValue(sqlite3_stmt* statement, int index, const SQLValue& value) {
+    if (const auto* integer = std::get_if<qint64>(&value))
+        return sqlite3_bind_int64(statement, index, *integer);
+    if (const auto* real = std::get_if<double>(&value))
+        return sqlite3_bind_double(statement, index, *real);
+    if (const auto* text = std::get_if<QString>(&value))
+        return sqlite3_bind_text(statement, index, text->toUtf8().constData(), -1, SQLITE_TRANSIENT);
+    // A QByteArray never answers with a null pointer, so empty bytes become an empty blob and not NULL.
+    if (const auto* blob = std::get_if<QByteArray>(&value))
+        return sqlite3_bind_blob64(statement, index, blob->constData(), static_cast<sqlite3_uint64>(blob->size()),
+                                   SQLITE_TRANSIENT);
+    return sqlite3_bind_null(statement, index);
+}
+
+} // namespace
+
+void SQLiteDatabase::Statement::bind(std::span<const SQLValue> values) {
+    int index = 0;
+    for (const SQLValue& value : values) {
+        if (bindValue(m_pointer, ++index, value) != SQLITE_OK)
+            throw m_database->error(SQLiteError::Case::step);
+    }
+}
+
+bool SQLiteDatabase::Statement::step() {
+    const int result = sqlite3_step(m_pointer);
+    if (result == SQLITE_ROW)
+        return true;
+    if (result == SQLITE_DONE)
+        return false;
+    throw m_database->error(SQLiteError::Case::step);
+}
+
+bool SQLiteDatabase::Statement::isNull(int column) const {
+    return sqlite3_column_type(m_pointer, column) == SQLITE_NULL;
+}
+
+qint64 SQLiteDatabase::Statement::integer(int column) const {
+    return sqlite3_column_int64(m_pointer, column);
+}
+
+double SQLiteDatabase::Statement::real(int column) const {
+    return sqlite3_column_double(m_pointer, column);
+}
+
+QByteArrayView SQLiteDatabase::Statement::text(int column) const {
+    const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(m_pointer, column));
+    return {bytes, bytes ? sqlite3_column_bytes(m_pointer, column) : 0};
+}
+
+QByteArrayView SQLiteDatabase::Statement::blob(int column) const {
+    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(m_pointer, column));
+    return {bytes, bytes ? sqlite3_column_bytes(m_pointer, column) : 0};
+}
+
+} // namespace vellumry

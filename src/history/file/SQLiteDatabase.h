@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "history/file/SQLValue.h"
+#include "history/file/SQLiteError.h"
+
+#include <QByteArray>
+#include <QString>
+#include <span>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace vellumry {
+
+/// One connection to an SQLite file. Opened without SQLite's own mutex: one thread at a time may use a connection and
+/// its statements, which the owner guarantees. Every operation throws `SQLiteError`.
+class SQLiteDatabase {
+public:
+    enum class Access { readOnly, readWrite };
+
+    /// A prepared statement, used once. Must go before its connection.
+    class Statement {
+    public:
+        Statement(Statement&& other) noexcept;
+        Statement& operator=(Statement&&) = delete;
+        ~Statement();
+
+        /// Binds to the parameters 1, 2, 3, …
+        void bind(std::span<const SQLValue> values);
+        /// True: there is a row. False: done.
+        bool step();
+
+        [[nodiscard]] bool isNull(int column) const;
+        [[nodiscard]] qint64 integer(int column) const;
+        [[nodiscard]] double real(int column) const;
+        /// The column's bytes as they lie in SQLite, valid until the next `step`. NULL reads as empty, of a null
+        /// pointer.
+        [[nodiscard]] QByteArrayView text(int column) const;
+        /// As `text`, unconverted.
+        [[nodiscard]] QByteArrayView blob(int column) const;
+
+    private:
+        friend class SQLiteDatabase;
+        Statement(const SQLiteDatabase& database, sqlite3_stmt* pointer)
+            : m_database(&database)
+            , m_pointer(pointer) {}
+        const SQLiteDatabase* m_database;
+        sqlite3_stmt* m_pointer;
+    };
+
+    /// A read-only connection changes nothing in the file. A writable one makes the file when it is missing, and writes
+    /// ahead (WAL) and overwrites deleted content with zeros (`secure_delete`).
+    SQLiteDatabase(const QString& path, Access access);
+    ~SQLiteDatabase();
+    SQLiteDatabase(const SQLiteDatabase&) = delete;
+    SQLiteDatabase& operator=(const SQLiteDatabase&) = delete;
+
+    /// Runs one or more statements, rows ignored.
+    void execute(const char* sql);
+    [[nodiscard]] Statement prepare(const char* sql);
+
+private:
+    [[nodiscard]] SQLiteError error(SQLiteError::Case kind) const;
+    void close();
+    sqlite3* m_handle = nullptr;
+};
+
+} // namespace vellumry

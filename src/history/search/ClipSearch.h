@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "history/clips/Clip.h"
+#include "history/clips/ClipFilter.h"
+
+#include <QString>
+#include <QUuid>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace vellumry {
+
+/// Finds clips by what a reader remembers of them: folded text first, and for text read out of images a comparison that
+/// forgives the reader's typical mistakes. Keeps what it folded, so that a keystroke costs one pass over bytes.
+///
+/// Main thread only. Its owner tells it when the text of a clip changed or a clip went; it never holds a clip alive.
+class ClipSearch {
+public:
+    ClipSearch();
+    ~ClipSearch();
+    ClipSearch(const ClipSearch&) = delete;
+    ClipSearch& operator=(const ClipSearch&) = delete;
+
+    /// Those of `clips` that pass `filter` and match `query`, in the order of `clips`. A blank query matches
+    /// everything. A sensitive clip is found by the name of its application only; none of its text is kept here.
+    /// Whoever numbers the states of `clips`, so that equal numbers mean equal clips, spares the search a look at each.
+    [[nodiscard]] std::vector<ClipRef> search(const std::vector<ClipRef>& clips, const QString& query,
+                                              ClipFilter filter, std::optional<qint64> revision = std::nullopt);
+
+    /// Wipes the last query. What was folded stays.
+    void forgetQuery();
+    /// Wipes what was folded of the clip. Call it when anything of its text changed, and when the clip went.
+    void forgetText(const QUuid& id);
+    /// Wipes the keys of the clip's image text. Call it when that text changed, and when the clip went.
+    void forgetLookAlikes(const QUuid& id);
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace vellumry

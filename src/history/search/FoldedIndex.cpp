@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/search/FoldedIndex.h"
+
+#include "foundation/SecureBytes.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace vellumry {
+
+namespace {
+
+/// Never part of UTF-8.
+constexpr char separator = '\xFF';
+constexpr std::size_t chunkSize = std::size_t{1} << 20;
+
+struct Entry {
+    std::uint32_t offset;
+    FoldedIndex::Slot slot;
+};
+
+} // namespace
+
+/// Texts one after the other, each followed by a separator.
+struct FoldedIndex::Chunk {
+    explicit Chunk(std::size_t size)
+        : bytes(new char[size])
+        , capacity(size) {}
+    ~Chunk() { wipe(bytes.get(), used); }
+    Chunk(const Chunk&) = delete;
+    Chunk& operator=(const Chunk&) = delete;
+
+    std::unique_ptr<char[]> bytes;
+    std::size_t capacity;
+    std::size_t used = 0;
+    std::size_t wasted = 0;     ///< of `used`
+    std::vector<Entry> entries; ///< by offset, removed texts included
+};
+
+FoldedIndex::FoldedIndex() = default;
+FoldedIndex::~FoldedIndex() = default;
+
+FoldedIndex::Slot FoldedIndex::append(const QByteArray& text) {
+    Slot slot = static_cast<Slot>(m_places.size());
+    if (m_free.empty()) {
+        m_places.emplace_back();
+    } else {
+        slot = m_free.back();
+        m_free.pop_back();
+    }
+    m_places[slot] = store({text.constData(), static_cast<std::size_t>(text.size())}, slot);
+    m_byteCount += m_places[slot].length;
+    return slot;
+}
+
+FoldedIndex::Place FoldedIndex::store(std::span<const char> text, Slot slot) {
+    const std::size_t needed = text.size() + 1;
+    const std::uint32_t number = chunkWithRoomFor(needed);
+    Chunk& chunk = *m_chunks[number];
+    const auto offset = static_cast<std::uint32_t>(chunk.used);
+    std::copy(text.begin(), text.end(), chunk.bytes.get() + offset);
+    chunk.bytes[offset + text.size()] = separator;
+    chunk.used += needed;
+    chunk.entries.push_back({offset, slot});
+    return {number, offset, static_cast<std::uint32_t>(text.size()), true};
+}
+
+std::uint32_t FoldedIndex::chunkWithRoomFor(std::size_t needed) {
+    if (m_current < m_chunks.size() && m_chunks[m_current] != nullptr &&
+        m_chunks[m_current]->capacity - m_chunks[m_current]->used >= needed)
+        return m_current;
+    const auto hole = std::find(m_chunks.begin(), m_chunks.end(), nullptr);
+    const auto number = static_cast<std::uint32_t>(hole - m_chunks.begin());
+    if (hole == m_chunks.end())
+        m_chunks.emplace_back();
+    m_chunks[number] = std::make_unique<Chunk>(std::max(chunkSize, needed));
+    // A long text has a chunk to itself, and the shorter ones go on filling theirs.
+    if (needed <= chunkSize / 4 || m_current >= m_chunks.size() || m_chunks[m_current] == nullptr)
+        m_current = number;
+    return number;
+}
+
+bool FoldedIndex::contains(Slot slot) const {
+    return slot < m_places.size() && m_places[slot].isAlive;
+}
+
+void FoldedIndex::remove(Slot slot) {
+    Place& place = m_places[slot];
+    Chunk& chunk = *m_chunks[place.chunk];
+    wipe(chunk.bytes.get() + place.offset, place.length);
+    // Zeros could be searched for; separators cannot.
+    std::memset(chunk.bytes.get() + place.offset, separator, place.length);
+    chunk.wasted += place.length + 1;
+    m_byteCount -= place.length;
+    place.isAlive = false;
+    m_removed.push_back(slot);
+}
+
+void FoldedIndex::recycle() {
+    if (m_removed.empty())
+        return;
+    std::vector<std::uint32_t> touched;
+    for (const Slot slot : m_removed)
+        touched.push_back(m_places[slot].chunk);
+    std::sort(touched.begin(), touched.end());
+    touched.erase(std::unique(touched.begin(), touched.end()), touched.end());
+    for (const std::uint32_t number : touched)
+        if (m_chunks[number]->wasted > m_chunks[number]->used / 2)
+            empty(number);
+    m_free.insert(m_free.end(), m_removed.begin(), m_removed.end());
+    m_removed.clear();
+}
+
+void FoldedIndex::empty(std::uint32_t chunkNumber) {
+    const std::unique_ptr<Chunk> old = std::move(m_chunks[chunkNumber]);
+    for (const Entry& entry : old->entries) {
+        const Place place = m_places[entry.slot];
+        if (place.isAlive && place.chunk == chunkNumber && place.offset == entry.offset)
+            m_places[entry.slot] = store({old->bytes.get() + place.offset, place.length}, entry.slot);
+    }
+}
+
+std::size_t FoldedIndex::capacity() const {
+    std::size_t bytes = 0;
+    for (const auto& chunk : m_chunks)
+        bytes += chunk == nullptr ? 0 : chunk->capacity;
+    return bytes;
+}
+
+bool FoldedIndex::matches(const ByteSearch& search, Slot slot) const {
+    const Place& place = m_places[slot];
+    const char* const begin = m_chunks[place.chunk]->bytes.get() + place.offset;
+    return search.find(begin, begin + place.length) != nullptr;
+}
+
+void FoldedIndex::scan(const ByteSearch& search, const std::function<void(Slot)>& onHit) const {
+    for (const auto& chunk : m_chunks)
+        if (chunk != nullptr)
+            scanChunk(*chunk, search, onHit);
+}
+
+void FoldedIndex::scanChunk(const Chunk& chunk, const ByteSearch& search,
+                            const std::function<void(Slot)>& onHit) const {
+    const char* const begin = chunk.bytes.get();
+    const char* const end = begin + chunk.used;
+    auto entry = chunk.entries.begin();
+    const char* at = begin;
+    while ((at = search.find(at, end)) != nullptr) {
+        // Hits come in order, so the text is near the one before; the step doubles until it has gone past.
+        const auto offset = static_cast<std::uint32_t>(at - begin);
+        std::ptrdiff_t step = 1;
+        auto beyond = entry;
+        while (beyond != chunk.entries.end() && beyond->offset <= offset) {
+            entry = beyond;
+            beyond += std::min(step, chunk.entries.end() - beyond);
+            step *= 2;
+        }
+        entry = std::prev(std::upper_bound(entry, beyond, offset, [](std::uint32_t sought, const Entry& candidate) {
+            return sought < candidate.offset;
+        }));
+        onHit(entry->slot);
+        if (++entry == chunk.entries.end())
+            return;
+        at = begin + entry->offset;
+    }
+}
+
+} // namespace vellumry

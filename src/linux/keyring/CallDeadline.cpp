@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "linux/keyring/CallDeadline.h"
+
+namespace vellumry {
+
+CallDeadline::CallDeadline(std::chrono::milliseconds limit) {
+    m_watch = std::thread([this, limit] {
+        std::unique_lock lock(m_mutex);
+        if (!m_changed.wait_for(lock, limit, [this] { return m_isOver; }))
+            g_cancellable_cancel(m_cancellable.get());
+    });
+}
+
+CallDeadline::~CallDeadline() {
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isOver = true;
+    }
+    m_changed.notify_one();
+    m_watch.join();
+}
+
+} // namespace vellumry

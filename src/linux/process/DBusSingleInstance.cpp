@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "linux/process/DBusSingleInstance.h"
+
+#include "linux/process/ApplicationInterface.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusReply>
+
+namespace vellumry {
+
+namespace {
+
+const auto busName = QStringLiteral("com.vellumry.Vellumry");
+const auto objectPath = QStringLiteral("/com/vellumry/Vellumry");
+
+/// What lets the running copy take the focus that the user gave to this start.
+QVariantMap platformData() {
+    QVariantMap data;
+    const auto add = [&data](const QString& key, const char* variable) {
+        const QString value = qEnvironmentVariable(variable);
+        if (!value.isEmpty())
+            data.insert(key, value);
+    };
+    add(QStringLiteral("desktop-startup-id"), "DESKTOP_STARTUP_ID");
+    add(QStringLiteral("activation-token"), "XDG_ACTIVATION_TOKEN");
+    return data;
+}
+
+} // namespace
+
+DBusSingleInstance::DBusSingleInstance(QDBusConnection bus, const QString& lockPath)
+    : m_bus(std::move(bus))
+    , m_lock(lockPath) {
+    auto* interface = new ApplicationInterface(&m_object);
+    interface->onActivate = [this] {
+        if (onReopen)
+            onReopen();
+    };
+    interface->onAction = [this](const QString& name) {
+        if (onAction)
+            onAction(name);
+    };
+}
+
+DBusSingleInstance::~DBusSingleInstance() {
+    if (!m_ownsName)
+        return;
+    m_bus.unregisterObject(objectPath);
+    m_bus.unregisterService(busName);
+}
+
+bool DBusSingleInstance::isAnotherCopyRunning() {
+    const bool isLocked = m_lock.acquire();
+    if (!m_bus.isConnected())
+        return !isLocked;
+    if (isLocked && claimName())
+        return false;
+    activateOther();
+    return true;
+}
+
+bool DBusSingleInstance::claimName() {
+    // The object first: who sees the name may call at once.
+    m_bus.registerObject(objectPath, &m_object, QDBusConnection::ExportAdaptors);
+    const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply = m_bus.interface()->registerService(
+        busName, QDBusConnectionInterface::DontQueueService, QDBusConnectionInterface::DontAllowReplacement);
+    // A bus that refuses us the name (a sandbox without the permission) has no other copy to show; the lock decided.
+    m_ownsName = !reply.isValid() || reply.value() == QDBusConnectionInterface::ServiceRegistered;
+    if (!m_ownsName)
+        m_bus.unregisterObject(objectPath);
+    return m_ownsName;
+}
+
+void DBusSingleInstance::activateOther() {
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        busName, objectPath, QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
+    // A bus that knows how to start the program must not do so now.
+    call.setAutoStartService(false);
+    call << platformData();
+    // This process ends next, so waiting is what makes sure that the message has left.
+    m_bus.call(call, QDBus::Block, activationTimeoutMilliseconds);
+}
+
+} // namespace vellumry

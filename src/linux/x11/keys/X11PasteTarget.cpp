@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "linux/x11/keys/X11PasteTarget.h"
+
+#include "linux/x11/keys/TerminalApps.h"
+#include "linux/x11/keys/X11Keymap.h"
+#include "linux/x11/windows/XErrorTrap.h"
+#include "linux/x11/windows/XWindowProperties.h"
+
+#include <QPointer>
+#include <QTimer>
+#include <coroutine>
+#include <linux/input-event-codes.h>
+
+#include <X11/Xlib.h>
+#include <X11/extensions/XTest.h>
+#include <X11/keysym.h>
+
+namespace vellumry {
+
+namespace {
+
+constexpr quint32 placeOf(quint32 evdevCode) {
+    return evdevCode + KeyCodes::xOffset;
+}
+
+/// Waits until the keyboard may have moved, or the time is up. `focus` outlives the wait. Not the awaiter of a library:
+/// a signal that is emitted twice in one turn of the event loop must resume once.
+struct NextMove {
+    X11Focus* focus;
+    std::chrono::milliseconds limit;
+
+    [[nodiscard]] bool await_ready() const noexcept { return false; }
+    void await_suspend(std::coroutine_handle<> waiting) const {
+        auto* timer = new QTimer;
+        timer->setSingleShot(true);
+        QObject::connect(timer, &QTimer::timeout, timer, [timer, waiting] {
+            timer->disconnect();
+            timer->deleteLater();
+            waiting.resume();
+        });
+        // The first move ends the wait in the next turn of the event loop.
+        QObject::connect(focus, &X11Focus::moved, timer, [timer, source = focus] {
+            QObject::disconnect(source, nullptr, timer, nullptr);
+            timer->start(0);
+        });
+        timer->start(limit);
+    }
+    void await_resume() const noexcept {}
+};
+
+} // namespace
+
+X11PasteTarget::X11PasteTarget(std::shared_ptr<XlibConnection> connection, std::shared_ptr<X11Focus> focus,
+                               Options options)
+    : m_connection(std::move(connection))
+    , m_focus(std::move(focus))
+    , m_options(std::move(options)) {}
+
+QCoro::Task<bool> X11PasteTarget::isSecureInput() {
+    if (isKeyboardTaken())
+        co_return true;
+    if (!m_options.isPasswordField)
+        co_return false;
+    auto asking = m_options.isPasswordField(XWindowProperties::processOf(*m_connection, windowInFront()));
+    co_return co_await asking;
+}
+
+// Screen lockers and password prompts keep the keyboard to themselves, and only a try tells. Taking it succeeds where a
+// hot key of our own holds it.
+bool X11PasteTarget::isKeyboardTaken() const {
+    Display* display = m_connection->display();
+    const int result = XGrabKeyboard(display, m_connection->root(), False, GrabModeAsync, GrabModeAsync, CurrentTime);
+    if (result == GrabSuccess)
+        XUngrabKeyboard(display, CurrentTime);
+    XSync(display, False);
+    return result == AlreadyGrabbed || result == GrabFrozen;
+}
+
+QCoro::Task<bool> X11PasteTarget::regainFocus() {
+    const QPointer<X11PasteTarget> guard(this);
+    const std::shared_ptr<X11Focus> focus = m_focus;
+    const auto deadline = std::chrono::steady_clock::now() + m_options.focusDeadline;
+    while (guard != nullptr) {
+        const X11Focus::Standing standing = focus->standing();
+        if (standing != X11Focus::Standing::away)
+            co_return standing == X11Focus::Standing::returned;
+        const auto left =
+            std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (left.count() <= 0)
+            co_return false;
+        NextMove move{focus.get(), left};
+        co_await move;
+    }
+    co_return false;
+}
+
+void X11PasteTarget::pressPaste() {
+    if (!isTrusted())
+        return;
+    const X11Keymap keymap = X11Keymap::read(*m_connection);
+    const quint32 control = keymap.keycodeOf(XK_Control_L, placeOf(KEY_LEFTCTRL));
+    const quint32 shift = keymap.keycodeOf(XK_Shift_L, placeOf(KEY_LEFTSHIFT));
+    const quint32 letter = keymap.keycodeTyping(u'v', placeOf(KEY_V));
+    const bool isTerminal = isTerminalInFront();
+    const bool hasPrimary = isTerminal && m_options.offerAsPrimary && m_options.offerAsPrimary();
+    releaseHeldKeys();
+    m_options.willPress();
+    if (hasPrimary)
+        pressChord({shift, keymap.keycodeOf(XK_Insert, placeOf(KEY_INSERT))});
+    else if (isTerminal)
+        // Most terminals paste the clipboard on this one; Shift+Insert would paste what the primary selection holds.
+        pressChord({control, shift, letter});
+    else
+        pressChord({control, letter});
+    XSync(m_connection->display(), False);
+}
+
+XWindow X11PasteTarget::windowInFront() const {
+    const XWindow client = XWindowProperties::clientOf(*m_connection, XWindowProperties::focusWindow(*m_connection));
+    return client != 0 ? client : XWindowProperties::activeWindow(*m_connection);
+}
+
+QStringList X11PasteTarget::namesInFront() const {
+    const auto windowClass = XWindowProperties::windowClass(*m_connection, windowInFront());
+    return {windowClass.name, windowClass.instance};
+}
+
+bool X11PasteTarget::isTerminalInFront() const {
+    const QStringList userNames = m_options.terminalApps ? m_options.terminalApps() : QStringList();
+    return TerminalApps::contains(namesInFront(), userNames);
+}
+
+bool X11PasteTarget::looksFirst() const {
+    return TerminalApps::looksFirst(namesInFront());
+}
+
+// Every key, not only the modifiers: a key that is down cannot be pressed once more. The user's own release later goes
+// unnoticed. They are not pressed again: a modifier pressed by us would stay down when the user lets go of the real
+// one.
+void X11PasteTarget::releaseHeldKeys() {
+    char down[X11Keymap::keyCount / 8];
+    XQueryKeymap(m_connection->display(), down);
+    for (quint32 key = KeyCodes::xOffset; key < X11Keymap::keyCount; ++key) {
+        if ((down[key / 8] & (1 << (key % 8))) != 0)
+            XTestFakeKeyEvent(m_connection->display(), key, False, CurrentTime);
+    }
+}
+
+void X11PasteTarget::pressChord(const std::vector<quint32>& keycodes) {
+    Display* display = m_connection->display();
+    for (const quint32 key : keycodes)
+        XTestFakeKeyEvent(display, key, True, CurrentTime);
+    for (auto key = keycodes.rbegin(); key != keycodes.rend(); ++key)
+        XTestFakeKeyEvent(display, *key, False, CurrentTime);
+}
+
+} // namespace vellumry

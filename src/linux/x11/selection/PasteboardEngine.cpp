@@ -1,0 +1,316 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "linux/x11/selection/PasteboardEngine.h"
+
+#include "linux/x11/selection/TargetCoding.h"
+
+#include <algorithm>
+#include <utility>
+#include <xcb/xfixes.h>
+
+namespace vellumry {
+
+namespace {
+
+constexpr qint64 longestTargetList = 1024 * 1024;
+
+/// xcb hands out events of every kind as the generic one.
+template <typename Event>
+const Event& as(const xcb_generic_event_t& event) {
+    return reinterpret_cast<const Event&>(event);
+}
+
+} // namespace
+
+PasteboardEngine::PasteboardEngine(std::unique_ptr<XcbConnection> connection, PasteboardLimits limits, Notices notices)
+    : m_connection(std::move(connection))
+    , m_limits(limits)
+    , m_notices(std::move(notices))
+    , m_reader(*m_connection)
+    , m_owner(*m_connection, limits.stalledRequestor) {}
+
+void PasteboardEngine::start() {
+    m_clipboard = m_connection->atom(QStringLiteral("CLIPBOARD"));
+    m_clipboardManager = m_connection->atom(QStringLiteral("CLIPBOARD_MANAGER"));
+    m_timeProperty = m_connection->atom(QStringLiteral("VELLUMRY_TIME"));
+    constexpr quint32 events = XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
+                               XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
+                               XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE;
+    for (const xcb_atom_t selection : {m_clipboard, m_clipboardManager})
+        xcb_xfixes_select_selection_input(m_connection->handle(), m_connection->window(), selection, events);
+    m_currentOwner = m_connection->selectionOwner(m_clipboard);
+    if (m_connection->selectionOwner(m_clipboardManager) == XCB_NONE)
+        becomeClipboardManager();
+}
+
+void PasteboardEngine::end() {
+    m_ended = true;
+    for (const TimeWaiter& waiter : std::exchange(m_timeWaiters, {}))
+        waiter(std::nullopt);
+    finishClaim(std::nullopt);
+    m_reader.endAll(m_clipboard, Instant());
+}
+
+// The server's time
+
+/// A property that is set to what it is already makes the server tell its time (ICCCM 2.1).
+void PasteboardEngine::askForServerTime(TimeWaiter waiter) {
+    m_timeWaiters.push_back(std::move(waiter));
+    xcb_change_property(m_connection->handle(), XCB_PROP_MODE_APPEND, m_connection->window(), m_timeProperty,
+                        XCB_ATOM_INTEGER, 8, 0, nullptr);
+}
+
+void PasteboardEngine::handleServerTime(xcb_timestamp_t time) {
+    if (m_timeWaiters.empty())
+        return;
+    const TimeWaiter waiter = std::move(m_timeWaiters.front());
+    m_timeWaiters.pop_front();
+    waiter(time);
+}
+
+// Owning
+
+void PasteboardEngine::claim(Claim claim) {
+    if (m_ended) {
+        claim.result.deliver(std::nullopt);
+        return;
+    }
+    if (claim.isTakeover) {
+        // At the time when it was left: the server then refuses if another program was faster, whether or not we have
+        // heard of that yet.
+        if (m_goneSince && !claim.isWithdrawn->load() && m_connection->selectionOwner(m_clipboard) == XCB_NONE)
+            settleClaim(claim, *m_goneSince);
+        else
+            claim.result.deliver(std::nullopt);
+        return;
+    }
+    askForServerTime([this, claim = std::move(claim)](std::optional<xcb_timestamp_t> time) {
+        if (time && !claim.isWithdrawn->load())
+            settleClaim(claim, *time);
+        else
+            claim.result.deliver(std::nullopt);
+    });
+}
+
+void PasteboardEngine::catchUp(PendingResult<bool> result) {
+    if (m_ended) {
+        result.deliver(false);
+        return;
+    }
+    // The server tells things in their order.
+    askForServerTime([result](std::optional<xcb_timestamp_t> time) { result.deliver(time.has_value()); });
+}
+
+void PasteboardEngine::settleClaim(const Claim& claim, xcb_timestamp_t time) {
+    const xcb_atom_t selection = claim.isPrimary ? xcb_atom_t(XCB_ATOM_PRIMARY) : m_clipboard;
+    xcb_set_selection_owner(m_connection->handle(), m_connection->window(), selection, time);
+    if (m_connection->selectionOwner(selection) != m_connection->window()) {
+        claim.result.deliver(std::nullopt);
+        return;
+    }
+    m_owner.hold(selection, claim.contents, time);
+    if (claim.isPrimary) {
+        claim.result.deliver(changeCount());
+        return;
+    }
+    // The change count of this ownership is known when the server's notice of it is read.
+    m_wasServed.store(false, std::memory_order_release);
+    m_wasListed.store(false, std::memory_order_release);
+    finishClaim(std::nullopt);
+    m_unconfirmed = claim;
+    m_unconfirmedTime = time;
+}
+
+void PasteboardEngine::finishClaim(std::optional<qint64> count) {
+    if (m_unconfirmed)
+        m_unconfirmed->result.deliver(count);
+    m_unconfirmed.reset();
+}
+
+void PasteboardEngine::disown(const std::shared_ptr<const OfferedContents>& contents) {
+    if (m_ended || m_owner.contents(m_clipboard) != contents)
+        return;
+    const xcb_timestamp_t since = m_owner.since(m_clipboard);
+    m_owner.release(m_clipboard);
+    // At the time of our ownership: the server then lets an owner stand that comes between question and request.
+    if (m_connection->selectionOwner(m_clipboard) == m_connection->window())
+        xcb_set_selection_owner(m_connection->handle(), XCB_NONE, m_clipboard, since);
+}
+
+void PasteboardEngine::becomeClipboardManager() {
+    askForServerTime([this](std::optional<xcb_timestamp_t> time) {
+        if (!time || m_connection->selectionOwner(m_clipboardManager) != XCB_NONE)
+            return;
+        xcb_set_selection_owner(m_connection->handle(), m_connection->window(), m_clipboardManager, *time);
+        if (m_connection->selectionOwner(m_clipboardManager) != m_connection->window())
+            return;
+        m_owner.hold(m_clipboardManager, nullptr, *time);
+        // Clients that start later look for the owner; those that wait are told (ICCCM 2.8).
+        xcb_client_message_event_t notice{};
+        notice.response_type = XCB_CLIENT_MESSAGE;
+        notice.format = 32;
+        notice.window = m_connection->root();
+        notice.type = m_connection->atom(QStringLiteral("MANAGER"));
+        notice.data.data32[0] = *time;
+        notice.data.data32[1] = m_clipboardManager;
+        notice.data.data32[2] = m_connection->window();
+        xcb_send_event(m_connection->handle(), 0, m_connection->root(), XCB_EVENT_MASK_STRUCTURE_NOTIFY,
+                       reinterpret_cast<const char*>(&notice));
+    });
+}
+
+// Reading
+
+void PasteboardEngine::readOffer(PendingResult<std::shared_ptr<const SelectionOffer>> result, Instant now) {
+    if (m_ended || m_currentOwner == XCB_NONE) {
+        result.deliver(nullptr);
+        return;
+    }
+    askForTargets(std::move(result), m_ownedSince, now + m_limits.copy, now);
+}
+
+void PasteboardEngine::askForTargets(PendingResult<std::shared_ptr<const SelectionOffer>> result, xcb_timestamp_t time,
+                                     Instant deadline, Instant now) {
+    const qint64 count = changeCount();
+    const Instant answerDeadline = now + m_limits.targetList;
+    SelectionReader::Request request;
+    request.selection = m_clipboard;
+    request.target = m_connection->atom(QStringLiteral("TARGETS"));
+    request.time = time;
+    request.maxBytes = longestTargetList;
+    request.silence = m_limits.targetList;
+    request.deadline = answerDeadline;
+    request.done = [=, this](std::optional<XcbProperty> targets) {
+        const Instant answered = std::chrono::steady_clock::now();
+        if (targets && !targets->isTooLong)
+            result.deliver(
+                SelectionOffer::of(*m_connection, *targets, m_limits.targetCount, {changeCount(), time, deadline}));
+        else if (!m_ended && time != XCB_CURRENT_TIME && count == changeCount() && answered < answerDeadline)
+            // Refused. Owners that note a later time than they gave the server take our request for one to their
+            // predecessor.
+            askForTargets(result, XCB_CURRENT_TIME, deadline, answered);
+        else
+            result.deliver(nullptr);
+    };
+    m_reader.read(std::move(request), now);
+}
+
+void PasteboardEngine::read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target,
+                            const QString& uniformType, qint64 maxBytes,
+                            PendingResult<std::shared_ptr<const SelectionBytes>> result, Instant now) {
+    if (m_ended || offer->moment.changeCount != changeCount() || offer->moment.deadline <= now ||
+        !offer->atoms.contains(target)) {
+        result.deliver(nullptr);
+        return;
+    }
+    SelectionReader::Request request;
+    request.selection = m_clipboard;
+    request.target = offer->atoms.value(target);
+    request.time = offer->moment.time;
+    request.maxBytes = maxBytes;
+    request.silence = targetcoding::isMadeOnDemand(target) ? m_limits.rendering : m_limits.silence;
+    request.deadline = offer->moment.deadline;
+    request.done = [this, result, target, uniformType](std::optional<XcbProperty> property) {
+        result.deliver(property ? SelectionBytes::of(*m_connection, std::move(*property), target, uniformType)
+                                : nullptr);
+    };
+    m_reader.read(std::move(request), now);
+}
+
+// Events
+
+void PasteboardEngine::handleEvent(const xcb_generic_event_t& event, Instant now) {
+    const int type = event.response_type & 0x7f;
+    if (type == m_connection->xfixesFirstEvent() + XCB_XFIXES_SELECTION_NOTIFY) {
+        handleSelectionChange(as<xcb_xfixes_selection_notify_event_t>(event), now);
+        return;
+    }
+    switch (type) {
+    case 0:
+        handleError(event);
+        break;
+    case XCB_PROPERTY_NOTIFY: {
+        const auto& change = as<xcb_property_notify_event_t>(event);
+        if (change.state == XCB_PROPERTY_DELETE)
+            m_owner.handlePropertyDeleted(change.window, change.atom, now);
+        else if (change.window == m_connection->window() && change.atom == m_timeProperty)
+            handleServerTime(change.time);
+        else if (change.window == m_connection->window())
+            m_reader.handleNewValue(change.atom, now);
+        break;
+    }
+    case XCB_SELECTION_NOTIFY:
+        m_reader.handleSelectionNotify(as<xcb_selection_notify_event_t>(event), now);
+        break;
+    case XCB_SELECTION_REQUEST: {
+        const auto& request = as<xcb_selection_request_event_t>(event);
+        // Whoever takes the primary selection takes the same thing, as long as it was offered there too.
+        if (m_owner.handleRequest(request, now) && m_owner.contents(request.selection) == m_owner.contents(m_clipboard))
+            m_wasServed.store(true, std::memory_order_release);
+        if (request.selection == m_clipboard && m_owner.contents(m_clipboard) != nullptr)
+            m_wasListed.store(true, std::memory_order_release);
+        break;
+    }
+    case XCB_SELECTION_CLEAR: {
+        // Old news when the selection was taken back meanwhile.
+        const xcb_atom_t selection = as<xcb_selection_clear_event_t>(event).selection;
+        if (m_connection->selectionOwner(selection) != m_connection->window())
+            m_owner.release(selection);
+        break;
+    }
+    case XCB_DESTROY_NOTIFY:
+        m_owner.handleWindowGone(as<xcb_destroy_notify_event_t>(event).window);
+        break;
+    default:
+        break;
+    }
+}
+
+void PasteboardEngine::handleError(const xcb_generic_event_t& event) {
+    const auto& error = as<xcb_value_error_t>(event);
+    // Requestors come and go; what was meant for a window that has gone needs no further thought.
+    if (error.error_code == XCB_WINDOW)
+        m_owner.handleWindowGone(error.bad_value);
+}
+
+void PasteboardEngine::handleSelectionChange(const xcb_xfixes_selection_notify_event_t& event, Instant now) {
+    if (event.selection == m_clipboard)
+        handleClipboardChange(event, now);
+    else if (event.selection == m_clipboardManager && event.owner == XCB_NONE)
+        becomeClipboardManager();
+}
+
+void PasteboardEngine::handleClipboardChange(const xcb_xfixes_selection_notify_event_t& event, Instant now) {
+    const xcb_window_t ourselves = m_connection->window();
+    const bool wasOurs = m_currentOwner == ourselves;
+    const qint64 held = changeCount();
+    m_currentOwner = event.owner;
+    m_ownedSince = event.selection_timestamp;
+    m_goneSince.reset();
+    m_changeCount.store(held + 1, std::memory_order_release);
+    m_reader.endAll(m_clipboard, now);
+
+    if (event.owner == ourselves && m_unconfirmed && event.selection_timestamp == m_unconfirmedTime)
+        finishClaim(held + 1);
+    m_notices.changed();
+    // An owner that cleared the clipboard on purpose, as password managers do, has not gone: subtype 0.
+    const bool hasGone = event.owner == XCB_NONE && event.subtype != XCB_XFIXES_SELECTION_EVENT_SET_SELECTION_OWNER;
+    if (hasGone && !wasOurs) {
+        m_goneSince = event.timestamp;
+        m_notices.ownerGone(held, held + 1);
+    }
+}
+
+void PasteboardEngine::expire(Instant now) {
+    m_reader.expire(now);
+    m_owner.expire(now);
+}
+
+std::optional<PasteboardEngine::Instant> PasteboardEngine::nextDeadline() const {
+    const std::optional<Instant> reading = m_reader.nextDeadline();
+    const std::optional<Instant> serving = m_owner.nextDeadline();
+    if (reading && serving)
+        return std::min(*reading, *serving);
+    return reading ? reading : serving;
+}
+
+} // namespace vellumry

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "linux/x11/selection/OfferedContents.h"
+#include "linux/x11/selection/PasteboardLimits.h"
+#include "linux/x11/selection/PendingResult.h"
+#include "linux/x11/selection/SelectionBytes.h"
+#include "linux/x11/selection/SelectionOffer.h"
+#include "linux/x11/selection/SelectionOwner.h"
+#include "linux/x11/selection/SelectionReader.h"
+#include "linux/x11/selection/XcbConnection.h"
+
+#include <atomic>
+#include <deque>
+#include <functional>
+#include <vector>
+
+struct xcb_xfixes_selection_notify_event_t;
+
+namespace vellumry {
+
+/// The pasteboard's side of the conversation with the X server: follows who owns the clipboard, reads it, owns it, and
+/// stands in as clipboard manager where the session has none. Pasteboard thread, but for `changeCount` and `wasServed`.
+class PasteboardEngine {
+public:
+    using Instant = SelectionReader::Instant;
+
+    /// What is told to the owner of the engine, on the pasteboard thread.
+    struct Notices {
+        std::function<void()> changed;
+        /// The owner left without a successor; the count of what it held, and the count since.
+        std::function<void(qint64 held, qint64 since)> ownerGone;
+    };
+
+    /// A wish to own selections. `isWithdrawn` may be set from any thread as long as the result is out.
+    struct Claim {
+        std::shared_ptr<const OfferedContents> contents;
+        bool isPrimary = false;  ///< the primary selection instead of the clipboard
+        bool isTakeover = false; ///< only if nobody has owned the clipboard since its owner went
+        std::shared_ptr<std::atomic<bool>> isWithdrawn = std::make_shared<std::atomic<bool>>(false);
+        /// The change count of our ownership; nothing when it did not become ours.
+        PendingResult<std::optional<qint64>> result;
+    };
+
+    PasteboardEngine(std::unique_ptr<XcbConnection> connection, PasteboardLimits limits, Notices notices);
+
+    [[nodiscard]] XcbConnection& connection() { return *m_connection; }
+    /// Any thread.
+    [[nodiscard]] qint64 changeCount() const { return m_changeCount.load(std::memory_order_acquire); }
+    /// True once somebody took content of what we hold on the clipboard. Any thread.
+    [[nodiscard]] bool wasServed() const { return m_wasServed.load(std::memory_order_acquire); }
+    /// True once somebody asked for anything of it, be it the list of its types. Any thread.
+    [[nodiscard]] bool wasListed() const { return m_wasListed.load(std::memory_order_acquire); }
+
+    /// Begins to follow the selections. Waits for the server a few times; on any one thread, before the engine is used.
+    void start();
+    void claim(Claim claim);
+    /// Delivers once all that the server has to tell of the time before the call was handled; false without a server.
+    void catchUp(PendingResult<bool> result);
+    /// Gives up the clipboard if it is still ours with `contents`. A program that takes it meanwhile keeps it.
+    void disown(const std::shared_ptr<const OfferedContents>& contents);
+    /// Null when nobody owns the clipboard or the owner does not say in time what it offers.
+    void readOffer(PendingResult<std::shared_ptr<const SelectionOffer>> result, Instant now);
+    /// Null when the offer is of the past, the owner did not give the target, or what it gave cannot be understood.
+    /// With a `uniformType` the bytes are what that has for the target's, else as they came. Pictures and documents,
+    /// which programs make only when they are asked for, are given more time than the rest.
+    void read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target, const QString& uniformType,
+              qint64 maxBytes, PendingResult<std::shared_ptr<const SelectionBytes>> result, Instant now);
+
+    void handleEvent(const xcb_generic_event_t& event, Instant now);
+    void expire(Instant now);
+    [[nodiscard]] std::optional<Instant> nextDeadline() const;
+    /// Answers everything that is still open with nothing; from then on every question is answered so.
+    void end();
+
+private:
+    using TimeWaiter = std::function<void(std::optional<xcb_timestamp_t>)>;
+
+    void askForServerTime(TimeWaiter waiter);
+    void handleServerTime(xcb_timestamp_t time);
+    void handleSelectionChange(const xcb_xfixes_selection_notify_event_t& event, Instant now);
+    void handleClipboardChange(const xcb_xfixes_selection_notify_event_t& event, Instant now);
+    void handleError(const xcb_generic_event_t& event);
+    void settleClaim(const Claim& claim, xcb_timestamp_t time);
+    void finishClaim(std::optional<qint64> count);
+    void becomeClipboardManager();
+    void askForTargets(PendingResult<std::shared_ptr<const SelectionOffer>> result, xcb_timestamp_t time,
+                       Instant deadline, Instant now);
+
+    const std::unique_ptr<XcbConnection> m_connection;
+    const PasteboardLimits m_limits;
+    const Notices m_notices;
+    SelectionReader m_reader;
+    SelectionOwner m_owner;
+    std::atomic<qint64> m_changeCount{1};
+    std::atomic<bool> m_wasServed{false};
+    std::atomic<bool> m_wasListed{false};
+    bool m_ended = false;
+
+    xcb_atom_t m_clipboard = XCB_ATOM_NONE;
+    xcb_atom_t m_clipboardManager = XCB_ATOM_NONE;
+    xcb_atom_t m_timeProperty = XCB_ATOM_NONE;
+    xcb_window_t m_currentOwner = XCB_NONE;
+    xcb_timestamp_t m_ownedSince = XCB_CURRENT_TIME;
+    /// When the last owner went, while nobody has come after it.
+    std::optional<xcb_timestamp_t> m_goneSince;
+    std::deque<TimeWaiter> m_timeWaiters;
+    std::optional<Claim> m_unconfirmed; ///< set, the server's notice outstanding
+    xcb_timestamp_t m_unconfirmedTime = XCB_CURRENT_TIME;
+};
+
+} // namespace vellumry

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "linux/x11/windows/XSettings.h"
+
+#include "linux/x11/windows/XErrorTrap.h"
+
+#include <QtEndian>
+
+#include <X11/Xlib.h>
+
+namespace vellumry::XSettings {
+
+namespace {
+
+constexpr long mostWords = 64 * 1024;
+
+/// Walks over the bytes and stays within them; once it has run out, everything reads as nothing.
+class Cursor {
+public:
+    explicit Cursor(QByteArrayView bytes)
+        : m_left(bytes) {}
+
+    QByteArrayView take(qsizetype count) {
+        if (count < 0 || count > m_left.size()) {
+            m_left = {};
+            m_isSound = false;
+            return {};
+        }
+        const QByteArrayView taken = m_left.first(count);
+        m_left = m_left.sliced(count);
+        return taken;
+    }
+    template <typename Number>
+    Number number() {
+        const QByteArrayView bytes = take(sizeof(Number));
+        if (bytes.isEmpty())
+            return 0;
+        return m_isBig ? qFromBigEndian<Number>(bytes.data()) : qFromLittleEndian<Number>(bytes.data());
+    }
+    /// Texts fill up to the next multiple of four.
+    QByteArrayView padded(qsizetype count) {
+        const QByteArrayView taken = take(count);
+        (void)take(-count & 3);
+        return taken;
+    }
+    void setBig(bool isBig) { m_isBig = isBig; }
+    [[nodiscard]] bool isSound() const { return m_isSound; }
+
+private:
+    QByteArrayView m_left;
+    bool m_isBig = false;
+    bool m_isSound = true;
+};
+
+enum Kind : quint8 { integerKind = 0, stringKind = 1, colorKind = 2 };
+
+} // namespace
+
+std::optional<qint32> integerIn(QByteArrayView property, QByteArrayView name) {
+    Cursor cursor(property);
+    const QByteArrayView order = cursor.take(4);
+    if (order.isEmpty())
+        return std::nullopt;
+    cursor.setBig(order.front() == MSBFirst);
+    (void)cursor.number<quint32>(); // how often it was changed
+    const auto count = cursor.number<quint32>();
+    for (quint32 index = 0; index < count && cursor.isSound(); ++index) {
+        const auto kind = cursor.number<quint8>();
+        (void)cursor.take(1);
+        const bool isNamed = cursor.padded(cursor.number<quint16>()) == name;
+        (void)cursor.number<quint32>(); // when this one was changed
+        if (kind == integerKind) {
+            const auto value = cursor.number<qint32>();
+            if (isNamed && cursor.isSound())
+                return value;
+        } else if (kind == stringKind) {
+            (void)cursor.padded(cursor.number<quint32>());
+        } else if (kind == colorKind) {
+            (void)cursor.take(8);
+        } else {
+            return std::nullopt;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<qint32> integer(XlibConnection& connection, QByteArrayView name) {
+    Display* display = connection.display();
+    const QByteArray selection = "_XSETTINGS_S" + QByteArray::number(connection.screen());
+    const XWindow manager = XGetSelectionOwner(display, connection.atom(selection.constData()));
+    if (manager == 0)
+        return std::nullopt;
+    const XAtom property = connection.atom("_XSETTINGS_SETTINGS");
+    XAtom type = 0;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long left = 0;
+    unsigned char* bytes = nullptr;
+    XErrorTrap trap(display);
+    XGetWindowProperty(display, manager, property, 0, mostWords, 0, property, &type, &format, &count, &left, &bytes);
+    std::optional<qint32> value;
+    if (bytes != nullptr && format == 8)
+        value = integerIn(QByteArrayView(bytes, qsizetype(count)), name);
+    if (bytes != nullptr)
+        XFree(bytes);
+    return value;
+}
+
+} // namespace vellumry::XSettings

@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "linux/x11/windows/X11PanelSurface.h"
+
+#include "linux/x11/input/XClient.h"
+#include "linux/x11/input/XSession.h"
+#include "linux/x11/keys/X11HotKeys.h"
+#include "linux/x11/windows/XWindowProperties.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <gtest/gtest.h>
+#include <linux/input-event-codes.h>
+
+namespace vellumry {
+
+namespace {
+
+class TypedWindow : public QWindow {
+public:
+    QString typed;
+    int clicks = 0;
+
+protected:
+    void mousePressEvent(QMouseEvent*) override { ++clicks; }
+    void keyPressEvent(QKeyEvent* event) override { typed += event->text(); }
+};
+
+class X11PanelSurfaceTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_NE(connection, nullptr);
+        client.movePointer(1000, 700);
+        surface.adopt(&panel);
+        surface.onFocusLost = [this](QWindow* window) { lost.push_back(window); };
+        ASSERT_TRUE(target.open("target", "Target"));
+    }
+    void TearDown() override { surface.dismiss(&panel); }
+
+    void show() {
+        surface.present(&panel, frame);
+        ASSERT_EQ(XWindowProperties::focusWindow(*connection), panel.winId());
+    }
+
+    /// How many presses and releases have reached the target when it is `expected` or the wait is over.
+    std::size_t keysOfTarget(std::size_t expected) {
+        std::size_t got = 0;
+        EXPECT_TRUE(waitUntil([&] {
+            got += target.takeKeys().size();
+            return got >= expected;
+        }));
+        return got;
+    }
+
+    const QRect frame{300, 200, 400, 200};
+    std::shared_ptr<XlibConnection> connection = XlibConnection::create();
+    std::shared_ptr<X11Focus> focus = std::make_shared<X11Focus>(connection);
+    X11PanelSurface surface{connection, focus};
+    TypedWindow panel;
+    XClient target;
+    XClient client;
+    std::vector<QWindow*> lost;
+};
+
+} // namespace
+
+TEST_F(X11PanelSurfaceTest, ThePanelTakesTypingAtOnce) {
+    show();
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_EQ(panel.geometry(), frame);
+    client.chord({KEY_A});
+    EXPECT_TRUE(waitUntil([&] { return panel.typed == u"a"; }));
+    EXPECT_TRUE(target.takeKeys().empty());
+    EXPECT_TRUE(lost.empty());
+}
+
+TEST_F(X11PanelSurfaceTest, TheKeyboardGoesBackToTheExactWindow) {
+    for (int round = 0; round < 3; ++round) {
+        show();
+        surface.dismiss(&panel);
+        EXPECT_FALSE(panel.isVisible());
+        EXPECT_TRUE(target.hasFocus());
+        EXPECT_EQ(focus->standing(), X11Focus::Standing::returned);
+    }
+    client.chord({KEY_B});
+    EXPECT_EQ(keysOfTarget(2), 2U);
+    EXPECT_TRUE(panel.typed.isEmpty());
+    EXPECT_TRUE(lost.empty());
+}
+
+TEST_F(X11PanelSurfaceTest, WhoTakesTheKeyboardKeepsIt) {
+    XClient other;
+    ASSERT_TRUE(other.open("other", "Other"));
+    target.focus();
+    ASSERT_TRUE(waitUntil([&] { return target.hasFocus(); }));
+    show();
+    other.focus();
+    EXPECT_TRUE(waitUntil([&] { return !lost.empty(); }));
+    EXPECT_EQ(lost.front(), &panel);
+    surface.dismiss(&panel);
+    EXPECT_TRUE(other.hasFocus());
+    EXPECT_EQ(focus->standing(), X11Focus::Standing::away);
+}
+
+TEST_F(X11PanelSurfaceTest, AHotKeyUnderThePanelDoesNotCloseIt) {
+    X11HotKeys keys(connection);
+    std::vector<quint32> pressed;
+    keys.onPressed = [&](quint32 id) { pressed.push_back(id); };
+    ASSERT_TRUE(keys.grab(1, 9, 0x1100));
+    show();
+    client.chord({KEY_LEFTCTRL, KEY_LEFTMETA, KEY_V});
+    EXPECT_TRUE(waitUntil([&] { return pressed.size() == 1; }));
+    client.chord({KEY_A});
+    EXPECT_TRUE(waitUntil([&] { return panel.typed.endsWith(u'a'); }));
+    EXPECT_TRUE(lost.empty());
+}
+
+TEST_F(X11PanelSurfaceTest, AForeignKeyboardGrabDoesNotCloseIt) {
+    show();
+    ASSERT_TRUE(client.grabKeyboard());
+    client.ungrabKeyboard();
+    client.chord({KEY_A});
+    EXPECT_TRUE(waitUntil([&] { return panel.typed == u"a"; }));
+    EXPECT_TRUE(lost.empty());
+}
+
+TEST_F(X11PanelSurfaceTest, AClickBesideThePanelIsToldAndOneOnItIsNot) {
+    show();
+    client.movePointer(frame.center().x(), frame.center().y());
+    client.click(1);
+    EXPECT_TRUE(waitUntil([&] { return panel.clicks == 1; }));
+    client.movePointer(50, 50);
+    client.click(5);
+    client.chord({KEY_A});
+    EXPECT_TRUE(waitUntil([&] { return panel.typed == u"a"; }));
+    EXPECT_TRUE(lost.empty());
+    client.movePointer(1000, 700);
+    client.click(1);
+    EXPECT_TRUE(waitUntil([&] { return !lost.empty(); }));
+}
+
+TEST_F(X11PanelSurfaceTest, AClickInTheMarginReachesWhatLiesBelow) {
+    surface.setInputArea(&panel, QRect(40, 40, 320, 120));
+    show();
+    client.movePointer(frame.left() + 60, frame.center().y());
+    EXPECT_TRUE(waitUntil([&] { return client.windowUnderPointer() == panel.winId(); }));
+    client.click(1);
+    EXPECT_TRUE(waitUntil([&] { return panel.clicks == 1; }));
+    EXPECT_TRUE(lost.empty());
+
+    // The window below may come to the top by this.
+    client.movePointer(frame.left() + 20, frame.center().y());
+    EXPECT_TRUE(waitUntil([&] { return client.windowUnderPointer() != panel.winId(); }));
+    client.click(1);
+    EXPECT_TRUE(waitUntil([&] { return !lost.empty(); }));
+    EXPECT_EQ(panel.clicks, 1);
+}
+
+TEST_F(X11PanelSurfaceTest, ATargetThatIsGoneIsSurvived) {
+    XClient other;
+    ASSERT_TRUE(other.open("other", "Other"));
+    show();
+    other.close();
+    surface.dismiss(&panel);
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_EQ(focus->standing(), X11Focus::Standing::gone);
+}
+
+TEST_F(X11PanelSurfaceTest, AToastTakesNeitherKeysNorClicks) {
+    TypedWindow toast;
+    surface.adopt(&toast);
+    surface.presentPassive(&toast, QRect(600, 500, 200, 100), true);
+    client.movePointer(650, 550);
+    client.chord({KEY_C});
+    EXPECT_EQ(keysOfTarget(2), 2U);
+    EXPECT_TRUE(toast.isVisible());
+    EXPECT_TRUE(target.hasFocus());
+    EXPECT_NE(client.windowUnderPointer(), toast.winId());
+
+    surface.presentPassive(&toast, QRect(600, 500, 200, 100), false);
+    EXPECT_TRUE(waitUntil([&] { return client.windowUnderPointer() == toast.winId(); }));
+    EXPECT_TRUE(target.hasFocus());
+}
+
+TEST_F(X11PanelSurfaceTest, TranslucencyFollowsTheCompositor) {
+    EXPECT_FALSE(surface.canBlend());
+    client.own("_NET_WM_CM_S0");
+    EXPECT_TRUE(waitUntil([&] { return surface.canBlend(); }));
+    EXPECT_TRUE(X11PanelSurface(connection, focus).canBlend());
+    client.disown("_NET_WM_CM_S0");
+    EXPECT_TRUE(waitUntil([&] { return !surface.canBlend(); }));
+}
+
+TEST_F(X11PanelSurfaceTest, ThePanelIsInNoTaskBar) {
+    const auto states = XWindowProperties::numbers(*connection, panel.winId(), "_NET_WM_STATE");
+    EXPECT_NE(std::find(states.begin(), states.end(), connection->atom("_NET_WM_STATE_SKIP_TASKBAR")), states.end());
+    show();
+    const auto managed = XWindowProperties::numbers(*connection, connection->root(), "_NET_CLIENT_LIST");
+    EXPECT_EQ(std::find(managed.begin(), managed.end(), panel.winId()), managed.end());
+}
+
+} // namespace vellumry

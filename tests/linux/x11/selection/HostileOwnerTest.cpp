@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "foundation/UniformType.h"
+#include "linux/x11/selection/X11PasteboardWorld.h"
+
+#include <QElapsedTimer>
+
+namespace vellumry {
+
+namespace {
+
+using Manner = HostileOwner::Manner;
+
+/// What an owner that misbehaves may cost: its representation, or its copy; never the next one.
+class HostileOwnerReading : public X11PasteboardWorld {
+protected:
+    std::optional<QByteArray> read(PasteboardReading& reading, const QString& type, qint64 maxBytes = 1 << 30) {
+        return resultOf(reading.data(0, type, maxBytes));
+    }
+    void expectNextCopyIsRead() {
+        copied({{"UTF8_STRING", "next"}});
+        const auto next = reading();
+        ASSERT_NE(next, nullptr);
+        EXPECT_EQ(read(*next, uniformtype::utf8PlainText), "next");
+    }
+    QElapsedTimer timer;
+};
+
+TEST_F(HostileOwnerReading, ThatNeverSaysWhatItOffersCostsHalfASecond) {
+    HostileOwner& owner = copied({{"UTF8_STRING", "t"}});
+    owner.targetsManner = Manner::silence;
+    timer.start();
+    EXPECT_EQ(reading(), nullptr);
+    EXPECT_LT(timer.elapsed(), 1500);
+    expectNextCopyIsRead();
+}
+
+TEST_F(HostileOwnerReading, ThatRefusesToSayWhatItOffersIsLeftAlone) {
+    HostileOwner& owner = copied({{"UTF8_STRING", "t"}});
+    owner.targetsManner = Manner::refusal;
+    EXPECT_EQ(reading(), nullptr);
+    expectNextCopyIsRead();
+}
+
+TEST_F(HostileOwnerReading, ThatHangsOnOneTargetLeavesTheOthersReadable) {
+    copied({{"text/rtf", {}, Manner::silence}, {"text/html", "<b>"}, {"application/x-no", {}, Manner::refusal}});
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    timer.start();
+    EXPECT_EQ(read(*look, uniformtype::rtf), std::nullopt);
+    EXPECT_GE(timer.elapsed(), 900);
+    EXPECT_LT(timer.elapsed(), 2500);
+    EXPECT_FALSE(look->wasLarger());
+    EXPECT_EQ(read(*look, uniformtype::html), "<b>");
+    EXPECT_EQ(read(*look, QStringLiteral("application/x-no")), std::nullopt);
+    EXPECT_TRUE(look->isCurrent());
+}
+
+TEST_F(HostileOwnerReading, ThatAnswersWithAtomsGivesNoContent) {
+    copied({{"image/png", QByteArray(8, 'x'), Manner::whole, "ATOM", 32}, {"UTF8_STRING", "t"}});
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    EXPECT_EQ(read(*look, uniformtype::png), std::nullopt);
+    EXPECT_EQ(read(*look, uniformtype::utf8PlainText), "t");
+}
+
+TEST_F(HostileOwnerReading, ThatDiesHalfWayEndsTheReadingAtOnce) {
+    copied({{"image/png", patternOf(4 << 20), Manner::deathHalfWay}});
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    timer.start();
+    EXPECT_EQ(read(*look, uniformtype::png), std::nullopt);
+    EXPECT_LT(timer.elapsed(), 900);
+    EXPECT_FALSE(look->isCurrent());
+    expectNextCopyIsRead();
+}
+
+TEST_F(HostileOwnerReading, ThatFallsSilentHalfWayCostsASecond) {
+    copied({{"text/html", patternOf(4 << 20), Manner::silenceHalfWay}, {"UTF8_STRING", "t"}});
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    timer.start();
+    EXPECT_EQ(read(*look, uniformtype::html), std::nullopt);
+    EXPECT_LT(timer.elapsed(), 2500);
+    EXPECT_EQ(read(*look, uniformtype::utf8PlainText), "t");
+}
+
+TEST_F(HostileOwnerReading, ThatNeverEndsIsCutOffAtTheLimit) {
+    HostileOwner& owner = copied({{"image/png", {}, Manner::endless}, {"UTF8_STRING", "t"}});
+    owner.chunkBytes = 16 * 1024;
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    timer.start();
+    EXPECT_EQ(read(*look, uniformtype::png, 1 << 20), std::nullopt);
+    EXPECT_LT(timer.elapsed(), 2500);
+    EXPECT_EQ(read(*look, uniformtype::utf8PlainText), "t");
+    // The owner is kept going for a while, not for ever.
+    int sent = -1;
+    EXPECT_TRUE(waitUntil([&] { return std::exchange(sent, owner.chunksSent) == owner.chunksSent; }, 12000));
+}
+
+TEST_F(HostileOwnerReading, ThatLiesAboutTheSizeIsTakenByWhatItGives) {
+    const QByteArray bytes = patternOf(500000);
+    copied({{"image/png", bytes, Manner::increments, {}, 8, 1},
+            {"image/jpeg", bytes, Manner::increments, {}, 8, 0xffffffff}});
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    EXPECT_EQ(read(*look, uniformtype::png), bytes);
+    EXPECT_EQ(read(*look, uniformtype::jpeg), bytes);
+}
+
+TEST_F(HostileOwnerReading, ThatIsReplacedInTheMiddleEndsTheReading) {
+    copied({{"image/png", {}, Manner::silence}, {"UTF8_STRING", "old"}});
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    auto pending = look->data(0, uniformtype::png, 1 << 20);
+    timer.start();
+    copied({{"UTF8_STRING", "new"}});
+    EXPECT_EQ(resultOf(std::move(pending)), std::nullopt);
+    EXPECT_LT(timer.elapsed(), 900);
+    EXPECT_FALSE(look->isCurrent());
+    EXPECT_EQ(read(*look, uniformtype::utf8PlainText), std::nullopt);
+    EXPECT_TRUE(resultOf(look->itemTypes()).empty());
+    EXPECT_EQ(read(*reading(), uniformtype::utf8PlainText), "new");
+}
+
+TEST_F(HostileOwnerReading, ThatOffersTenThousandTargetsIsLookedAtInPart) {
+    HostileOwner& owner = copied({{"UTF8_STRING", "t"}});
+    std::vector<quint32> atoms{owner.atom("UTF8_STRING")};
+    for (int i = 0; i < 10000; ++i)
+        atoms.push_back(i % 3 == 0 ? 0x7fffff00 + quint32(i) : owner.atom("x/t" + QByteArray::number(i)));
+    owner.targetAtoms = atoms;
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    EXPECT_GT(look->types().size(), 100);
+    EXPECT_LE(look->types().size(), 1000);
+    EXPECT_EQ(read(*look, uniformtype::utf8PlainText), "t");
+}
+
+TEST_F(HostileOwnerReading, ThatUsesHugeNamesHasThemLeftOut) {
+    copied({{"x/" + QByteArray(60000, 'n'), "huge"}, {"UTF8_STRING", "t"}});
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    EXPECT_EQ(look->types(), QStringList{uniformtype::utf8PlainText});
+}
+
+TEST_F(HostileOwnerReading, ThatHangsOnEverythingEndsWithTheDeadlineOfTheCopy) {
+    std::vector<HostileOwner::Offer> offers;
+    for (int i = 0; i < 10; ++i)
+        offers.push_back({"x/t" + QByteArray::number(i), {}, Manner::silence});
+    copied(std::move(offers));
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    timer.start();
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(read(*look, QStringLiteral("x/t%1").arg(i)), std::nullopt);
+    EXPECT_LT(timer.elapsed(), 9500);
+    EXPECT_FALSE(look->isCurrent());
+    expectNextCopyIsRead();
+}
+
+TEST_F(HostileOwnerReading, ThatMakesAPictureForSecondsIsWaitedForButNotForEver) {
+    copied({{"image/png", {}, Manner::silence}, {"UTF8_STRING", "t"}});
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    timer.start();
+    EXPECT_EQ(read(*look, uniformtype::png), std::nullopt);
+    EXPECT_GE(timer.elapsed(), 4500);
+    EXPECT_LT(timer.elapsed(), 7000);
+    EXPECT_EQ(read(*look, uniformtype::utf8PlainText), "t");
+}
+
+TEST_F(HostileOwnerReading, ThatGivesMoreThanIsWantedIsSaidToHave) {
+    const QByteArray bytes = patternOf(300'000);
+    copied({{"image/png", bytes, Manner::increments},
+            {"text/html", bytes.first(1000)},
+            {"UTF8_STRING", "t"},
+            {"text/rtf", {}, Manner::refusal}});
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    EXPECT_EQ(read(*look, uniformtype::png, bytes.size() - 1), std::nullopt);
+    EXPECT_TRUE(look->wasLarger());
+    EXPECT_EQ(read(*look, uniformtype::utf8PlainText), "t");
+    EXPECT_FALSE(look->wasLarger());
+    EXPECT_EQ(read(*look, uniformtype::html, 999), std::nullopt);
+    EXPECT_TRUE(look->wasLarger());
+    EXPECT_EQ(read(*look, uniformtype::rtf), std::nullopt);
+    EXPECT_FALSE(look->wasLarger());
+    EXPECT_EQ(read(*look, uniformtype::html, 1000), bytes.first(1000));
+}
+
+TEST_F(HostileOwnerReading, ThatGoesIsReportedWithWhatItHeld) {
+    std::vector<qint64> gone;
+    pasteboard->onOwnerGone = [&gone](qint64 count) { gone.push_back(count); };
+    HostileOwner& owner = copied({{"UTF8_STRING", "t"}});
+    const qint64 held = pasteboard->changeCount();
+    owner.leave();
+    EXPECT_TRUE(waitUntil([&gone] { return !gone.empty(); }));
+    EXPECT_EQ(gone, std::vector<qint64>{held});
+    EXPECT_NE(pasteboard->changeCount(), held);
+}
+
+TEST_F(HostileOwnerReading, ThatClearsThePasteboardOnPurposeHasNotGone) {
+    std::vector<qint64> gone;
+    pasteboard->onOwnerGone = [&gone](qint64 count) { gone.push_back(count); };
+    HostileOwner& owner = copied({{"UTF8_STRING", "password"}});
+    const qint64 held = pasteboard->changeCount();
+    owner.clear("CLIPBOARD");
+    EXPECT_TRUE(waitForChange(held));
+    EXPECT_EQ(reading(), nullptr);
+    EXPECT_TRUE(gone.empty());
+}
+
+} // namespace
+
+} // namespace vellumry
