@@ -1,0 +1,1 @@
+// Carries the precompiled headers; has no code of its own.
