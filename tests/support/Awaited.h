@@ -40,7 +40,7 @@ QCoro::Task<void> watchTask(QCoro::Task<Result> task, std::shared_ptr<AwaitedOut
 
 /// Delivers the main thread's events until `isDone` holds. Throws when it does not within `milliseconds`: a test that
 /// hangs fails.
-inline void runUntil(const std::function<bool()>& isDone, int milliseconds = 10'000) {
+inline void runUntil(const std::function<bool()>& isDone, int milliseconds = 60'000) {
     if (!eventually(isDone, milliseconds))
         throw std::runtime_error("What is waited for has not come.");
 }

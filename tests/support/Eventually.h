@@ -11,7 +11,7 @@ namespace vellumry {
 /// Delivers the main thread's events until `isDone` holds, for at most `milliseconds`; answers whether it does. The
 /// condition is asked again after each event and every other millisecond, since other processes send none. Between
 /// these the thread lies in poll(2): an event that another thread or process causes ends the wait at once.
-inline bool eventually(const std::function<bool()>& isDone, int milliseconds = 10'000) {
+inline bool eventually(const std::function<bool()>& isDone, int milliseconds = 60'000) {
     const QDeadlineTimer deadline(milliseconds);
     QTimer turn;
     turn.start(2);

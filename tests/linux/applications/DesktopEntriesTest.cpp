@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/applications/DesktopEntries.h"
-#include "linux/x11/input/XSession.h"
+#include "support/Eventually.h"
 
 #include <QDir>
 #include <QFile>
@@ -112,7 +112,7 @@ TEST(DesktopEntries, ANewApplicationIsFoundAfterARefresh) {
     entries.refresh();
     EXPECT_TRUE(entries.index()->entries().empty());
     put(folder.path(), QStringLiteral("later.desktop"), "Name=Later\n");
-    EXPECT_TRUE(waitUntil([&] {
+    EXPECT_TRUE(eventually([&] {
         entries.refresh();
         return entries.index()->byID(QStringLiteral("later")).has_value();
     }));
