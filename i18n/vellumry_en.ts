@@ -3,6 +3,13 @@
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name>Vellumry</name>
+    <message numerus="yes">
+        <source>%n characters</source>
+        <translation>
+            <numerusform>%n character</numerusform>
+            <numerusform>%n characters</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Your Mac is almost full. Vellumry saves text only for now</source>
         <translation>Your computer is almost full. Vellumry saves text only for now</translation>

@@ -12,6 +12,10 @@ QString localised(const char* key) {
     return QCoreApplication::translate("Vellumry", key);
 }
 
+QString localised(const char* key, int count) {
+    return QCoreApplication::translate("Vellumry", key, nullptr, count);
+}
+
 void installCatalogue() {
     QCoreApplication* application = QCoreApplication::instance();
     if (!application)

@@ -9,6 +9,10 @@ namespace vellumry {
 /// Placeholders %1, %2, … are left for `QString::arg`. Any thread.
 [[nodiscard]] QString localised(const char* key);
 
+/// The same for a text that counts: %n becomes `count`, in the plural form that the language has for it. Without a
+/// catalogue there is one form, the key itself.
+[[nodiscard]] QString localised(const char* key, int count);
+
 /// Loads the catalogue that fits the user's languages, the Linux wording of English as the last resort. Main thread,
 /// once.
 void installCatalogue();

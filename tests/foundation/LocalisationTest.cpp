@@ -63,6 +63,17 @@ TEST(Localisation, TheCatalogueOfEnglishGivesTheLinuxWording) {
     EXPECT_EQ(localised("⌃"), QStringLiteral("⌃"));
 }
 
+TEST(Localisation, ATextThatCountsHasTheFormOfItsNumber) {
+    EXPECT_EQ(localised("%n characters", 1), QStringLiteral("1 characters"));
+    QTranslator catalogue;
+    ASSERT_TRUE(catalogue.load(QStringLiteral(":/i18n/vellumry_en.qm")));
+    QCoreApplication::installTranslator(&catalogue);
+    EXPECT_EQ(localised("%n characters", 1), QStringLiteral("1 character"));
+    EXPECT_EQ(localised("%n characters", 2), QStringLiteral("2 characters"));
+    EXPECT_EQ(localised("%n characters", 0), QStringLiteral("0 characters"));
+    QCoreApplication::removeTranslator(&catalogue);
+}
+
 TEST(Localisation, NoWordingShownSpeaksOfAnotherSystem) {
     QTranslator catalogue;
     ASSERT_TRUE(catalogue.load(QStringLiteral(":/i18n/vellumry_en.qm")));
