@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "foundation/PropertyList.h"
 
-#include "foundation/BinaryPropertyListReader.h"
-#include "foundation/BinaryPropertyListWriter.h"
+#include "foundation/BinaryListTree.h"
 #include "foundation/XmlPropertyListReader.h"
 
 namespace vellumry {
@@ -64,13 +63,9 @@ const PropertyList* PropertyList::find(const QString& key) const {
     return entry == entries->end() ? nullptr : &entry->second;
 }
 
-QByteArray PropertyList::toBinary() const {
-    return BinaryPropertyListWriter().write(*this);
-}
-
 std::optional<PropertyList> PropertyList::fromBytes(const QByteArray& bytes) {
-    if (BinaryPropertyListReader::recognises(bytes))
-        return BinaryPropertyListReader(bytes).read();
+    if (BinaryList::recognises(bytes))
+        return BinaryListTree(bytes).read();
     return XmlPropertyListReader(bytes).read();
 }
 

@@ -3,6 +3,7 @@
 
 #include "foundation/PropertyList.h"
 #include "foundation/UniformType.h"
+#include "support/ListBytes.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +19,7 @@ QByteArray webArchive(const PropertyList& url) {
     resource.emplace(QStringLiteral("WebResourceURL"), url);
     PropertyList::Dictionary root;
     root.emplace(QStringLiteral("WebMainResource"), PropertyList(resource));
-    return PropertyList(root).toBinary();
+    return written(root);
 }
 
 std::string pageOf(const PasteboardItem& item) {
@@ -47,7 +48,7 @@ TEST(SourceURL, ReadsUtf16WhereItIsNoUtf8) {
 }
 
 TEST(SourceURL, ReadsAPropertyListWithAString) {
-    const QByteArray list = PropertyList(QStringLiteral("https://example.com/list")).toBinary();
+    const QByteArray list = written(QStringLiteral("https://example.com/list"));
     EXPECT_EQ(pageOf(withSource(list)), "https://example.com/list");
 }
 
@@ -79,9 +80,8 @@ TEST(SourceURL, PrefersTheSourceUrlAndFallsBackToTheArchive) {
 }
 
 TEST(SourceURL, SurvivesOddArchives) {
-    for (const QByteArray& archive :
-         {QByteArray("junk"), webArchive(qint64{5}), PropertyList(QStringLiteral("text")).toBinary(),
-          PropertyList(PropertyList::Dictionary()).toBinary(), QByteArray(8'000'000, '<')}) {
+    for (const QByteArray& archive : {QByteArray("junk"), webArchive(true), written(QStringLiteral("text")),
+                                      written(PropertyList::Dictionary()), QByteArray(8'000'000, '<')}) {
         const PasteboardItem item{{{uniformtype::webArchive, archive}}, {}};
         EXPECT_EQ(pageOf(item), "none");
     }

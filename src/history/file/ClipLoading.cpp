@@ -4,7 +4,7 @@
 #include "foundation/SerialExecutor.h"
 #include "foundation/UnusedMemory.h"
 #include "history/clips/StringPool.h"
-#include "history/file/ClipMeta.h"
+#include "history/file/ClipMetaReader.h"
 #include "history/file/ClipRows.h"
 #include "history/file/Unsealer.h"
 
@@ -45,7 +45,7 @@ public:
         batch.clips.reserve(batch.rows.size());
         for (Row& row : batch.rows) {
             const auto plain = m_unsealer.open(QByteArrayView(batch.sealed).sliced(row.offset, row.size));
-            auto meta = plain ? ClipMeta::decode(*plain, &m_pool) : std::nullopt;
+            auto meta = plain ? decodeMeta(*plain, &m_pool) : std::nullopt;
             if (!meta)
                 continue;
             std::move(*meta).applyTo(*row.clip);

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/BinaryListWriter.h"
 #include "history/clips/Clip.h"
-#include "history/file/BinaryListWriter.h"
 
 #include <QByteArray>
-#include <QByteArrayView>
 #include <optional>
 
 namespace vellumry {
-
-class StringPool;
 
 /// The sealed part of a history row: what must not lie in the file for all to read.
 struct ClipMeta {
@@ -21,8 +18,7 @@ struct ClipMeta {
     std::vector<FileRef> files;
     std::optional<QByteArray> thumbnail;
     std::optional<QString> imageText;
-    std::optional<bool>
-        imageTextIsAccurate; ///< rows of before this field existed lack it and the next; both read as false
+    std::optional<bool> imageTextIsAccurate; ///< absent, as is the next, in rows written before the field existed
     std::optional<bool> isScreenshot;
 
     [[nodiscard]] static ClipMeta of(const Clip& clip);
@@ -31,10 +27,6 @@ struct ClipMeta {
 
     /// A binary property list: one dictionary under the names of the fields, absent optionals left out.
     [[nodiscard]] QByteArray encoded(BinaryListWriter::Margins margins = {}) const;
-    /// Nothing for bytes that are no property list, and for one that lacks title, searchText or files or holds another
-    /// type than a field's own. Keys that it does not know are passed over. Source names are taken from `pool` when
-    /// there is one.
-    [[nodiscard]] static std::optional<ClipMeta> decode(QByteArrayView bytes, StringPool* pool = nullptr);
 
     bool operator==(const ClipMeta&) const = default;
 };

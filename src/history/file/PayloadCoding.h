@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/BinaryListWriter.h"
 #include "history/clips/Clip.h"
-#include "history/file/BinaryListWriter.h"
 
 namespace vellumry {
 

@@ -4,6 +4,7 @@
 #include "foundation/PropertyList.h"
 #include "history/clips/StringPool.h"
 #include "history/file/ClipMetaReader.h"
+#include "support/ListBytes.h"
 
 #include <QRandomGenerator>
 #include <gtest/gtest.h>
@@ -17,8 +18,8 @@ PropertyList::Dictionary minimalRecord() {
     return {{u"title"_s, u"t"_s}, {u"searchText"_s, u"s"_s}, {u"files"_s, PropertyList::Array()}};
 }
 
-std::optional<ClipMeta> decodeRecord(PropertyList::Dictionary record) {
-    return ClipMeta::decode(PropertyList(std::move(record)).toBinary());
+std::optional<ClipMeta> decodeRecord(const PropertyList& record) {
+    return decodeMeta(written(record));
 }
 
 QString randomText(QRandomGenerator& random, int longest) {
@@ -77,7 +78,7 @@ TEST(ClipMeta, ReadsBackWhatWasWritten) {
     for (int i = 0; i < 500; ++i) {
         const ClipMeta meta = randomMeta(random);
         const QByteArray bytes = meta.encoded();
-        ASSERT_EQ(ClipMeta::decode(bytes), meta);
+        ASSERT_EQ(decodeMeta(bytes), meta);
         ASSERT_EQ(readPlainMeta(bytes, nullptr), meta) << "what we write must take the short way";
     }
 }
@@ -107,7 +108,7 @@ TEST(ClipMeta, AFieldOfAnotherTypeSpoilsTheRecord) {
     for (const QString& key : {u"title"_s, u"searchText"_s, u"files"_s, u"sourceBundleID"_s, u"sourceAppName"_s,
                                u"thumbnail"_s, u"imageText"_s, u"imageTextIsAccurate"_s, u"isScreenshot"_s}) {
         auto record = minimalRecord();
-        record[key] = qint64{1};
+        record[key] = PropertyList::Dictionary();
         EXPECT_EQ(decodeRecord(record), std::nullopt) << key.toStdString();
     }
     auto record = minimalRecord();
@@ -119,16 +120,16 @@ TEST(ClipMeta, AFieldOfAnotherTypeSpoilsTheRecord) {
 
 TEST(ClipMeta, KeysOfALaterVersionArePassedOver) {
     auto record = minimalRecord();
-    record[u"later"_s] = PropertyList::Array{1.5, qint64{2}};
+    record[u"later"_s] = PropertyList::Array{true, QByteArray("x")};
     record[u"später"_s] = u"x"_s;
     EXPECT_TRUE(decodeRecord(record).has_value());
 }
 
 TEST(ClipMeta, OtherListsAndOtherBytesAreNoRecord) {
-    EXPECT_EQ(ClipMeta::decode(PropertyList(PropertyList::Array()).toBinary()), std::nullopt);
-    EXPECT_EQ(ClipMeta::decode(QByteArrayView()), std::nullopt);
-    EXPECT_EQ(ClipMeta::decode("{\"title\":\"t\"}"), std::nullopt);
-    EXPECT_EQ(ClipMeta::decode(QByteArray("bplist00") + QByteArray(32, '\xff')), std::nullopt);
+    EXPECT_EQ(decodeMeta(written(PropertyList::Array())), std::nullopt);
+    EXPECT_EQ(decodeMeta(QByteArrayView()), std::nullopt);
+    EXPECT_EQ(decodeMeta("{\"title\":\"t\"}"), std::nullopt);
+    EXPECT_EQ(decodeMeta(QByteArray("bplist00") + QByteArray(32, '\xff')), std::nullopt);
 }
 
 TEST(ClipMeta, SourceNamesOfManyClipsShareTheirCharacters) {
@@ -137,8 +138,8 @@ TEST(ClipMeta, SourceNamesOfManyClipsShareTheirCharacters) {
         ClipMeta meta;
         meta.sourceAppName = name;
         const QByteArray bytes = meta.encoded();
-        const auto one = ClipMeta::decode(bytes, &pool);
-        const auto two = ClipMeta::decode(bytes, &pool);
+        const auto one = decodeMeta(bytes, &pool);
+        const auto two = decodeMeta(bytes, &pool);
         EXPECT_EQ(one->sourceAppName, name);
         EXPECT_EQ(one->sourceAppName->constData(), two->sourceAppName->constData());
     }
@@ -171,7 +172,7 @@ TEST(ClipMeta, TextWithASurrogateAloneReadsTheSameBothWays) {
     meta.title = QString(QChar(0xD83D)) + u"x"_s;
     auto record = minimalRecord();
     record[u"searchText"_s] = meta.title;
-    const QByteArray bytes = PropertyList(record).toBinary();
+    const QByteArray bytes = written(record);
     EXPECT_EQ(readPlainMeta(bytes, nullptr)->searchText, StoredText(meta.title));
 }
 

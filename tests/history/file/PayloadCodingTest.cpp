@@ -2,6 +2,7 @@
 #include "history/file/PayloadCoding.h"
 
 #include "foundation/PropertyList.h"
+#include "support/ListBytes.h"
 
 #include <gtest/gtest.h>
 
@@ -30,8 +31,8 @@ TEST(PayloadCoding, ReadsBackWhatWasWritten) {
 }
 
 TEST(PayloadCoding, RefusesWhatHasAnotherShape) {
-    const auto refused = [](PropertyList::Dictionary record) {
-        return !decodePayload(PropertyList(std::move(record)).toBinary()).has_value();
+    const auto refused = [](const PropertyList::Dictionary& record) {
+        return !decodePayload(written(record)).has_value();
     };
     const auto refusedItem = [&](PropertyList::Dictionary item) {
         return refused({{u"items"_s, PropertyList::Array{std::move(item)}}});
@@ -43,8 +44,8 @@ TEST(PayloadCoding, RefusesWhatHasAnotherShape) {
     EXPECT_TRUE(refusedItem({}));
     EXPECT_TRUE(refusedItem({{u"representations"_s, PropertyList::Dictionary{{u"a"_s, u"text"_s}}}}));
     EXPECT_TRUE(refusedItem({{u"representations"_s, PropertyList::Dictionary()}, {u"order"_s, u"x"_s}}));
-    EXPECT_TRUE(refusedItem(
-        {{u"representations"_s, PropertyList::Dictionary()}, {u"order"_s, PropertyList::Array{qint64{1}}}}));
+    EXPECT_TRUE(
+        refusedItem({{u"representations"_s, PropertyList::Dictionary()}, {u"order"_s, PropertyList::Array{true}}}));
 }
 
 } // namespace

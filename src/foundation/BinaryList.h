@@ -6,23 +6,29 @@
 
 namespace vellumry {
 
-/// The objects of a binary property list (`bplist00`: header, objects, offset table, trailer of 32 bytes) where they
-/// lie, for a reader that knows what it looks for. Every position is checked against the bytes, which must outlive it.
+/// The objects of a binary property list (`bplist00`: header, objects, offset table, trailer of 32 bytes; all numbers
+/// big-endian), read in place. Every position is checked against the bytes, which must outlive it. One thread at a
+/// time.
 class BinaryList {
 public:
+    /// An object's first byte, without the lower half where that is part of a size.
     enum class Marker : quint8 {
         falseValue = 0x08,
         trueValue = 0x09,
-        integer = 0x1,
-        data = 0x4,
-        ascii = 0x5,
-        utf16 = 0x6,
-        array = 0xA,
-        dictionary = 0xD
+        integer = 0x10,
+        real = 0x20,
+        date = 0x30,
+        data = 0x40,
+        ascii = 0x50,
+        utf16 = 0x60,
+        uid = 0x80,
+        array = 0xA0,
+        dictionary = 0xD0
     };
-    /// One object of a list: its kind and where its content lies. `count` is bytes, UTF-16 units, elements or pairs.
+    /// One object of a list: its kind and where its content lies. `count` is the bytes of a number or of data, the
+    /// UTF-16 units of a string, the elements of an array, the pairs of a dictionary.
     struct Object {
-        quint8 kind = 0; ///< the marker's upper half, or the whole marker of a boolean
+        quint8 kind = 0; ///< a `Marker`
         quint64 count = 0;
         quint64 content = 0;
 
@@ -31,6 +37,9 @@ public:
 
     explicit BinaryList(QByteArrayView bytes)
         : m_bytes(bytes) {}
+
+    /// Whether the bytes begin as such a list does.
+    [[nodiscard]] static bool recognises(QByteArrayView bytes) { return bytes.startsWith("bplist00"); }
 
     /// Reads the trailer; false for bytes that are no such list. Comes before everything else.
     [[nodiscard]] bool open();
@@ -53,13 +62,18 @@ public:
     /// True once `bytesOf` has refused; what was read is then not to be trusted.
     [[nodiscard]] bool isOverdrawn() const { return m_budget < 0; }
 
+    /// The content of an integer, real, date or UID as an unsigned number: its last eight bytes, when it has more.
+    [[nodiscard]] quint64 lowBitsOf(const Object& numeric) const;
+    /// The bits above those, 0 for a content of at most eight bytes.
+    [[nodiscard]] quint64 highBitsOf(const Object& numeric) const;
+
 private:
-    [[nodiscard]] quint64 number(quint64 position, unsigned size) const;
+    [[nodiscard]] quint64 number(quint64 position, quint64 size) const;
 
     /// A count of 15 and more stands behind the marker, as an integer object.
     [[nodiscard]] bool readCount(Object& found) const;
 
-    /// Whether all of a string's, data's or container's content lies before the offset table.
+    /// Whether all of the content lies before the offset table.
     [[nodiscard]] bool fits(const Object& found) const;
 
     QByteArrayView m_bytes;
@@ -67,8 +81,7 @@ private:
     quint8 m_referenceSize = 0;
     quint64 m_objectCount = 0;
     quint64 m_top = 0;
-    quint64 m_offsetTable = 0;
-    quint64 m_end = 0; ///< where objects must have ended
+    quint64 m_offsetTable = 0; ///< where objects must have ended
     qint64 m_budget = 0;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "history/file/BinaryListWriter.h"
+#include "foundation/BinaryListWriter.h"
 
 #include "foundation/SecureBytes.h"
 #include "foundation/Text.h"
@@ -15,7 +15,7 @@ namespace {
 
 using Marker = BinaryList::Marker;
 
-constexpr char magic[] = "bplist00"; // NOLINT(*-avoid-c-arrays): a literal's own type
+constexpr char magic[] = "bplist00";
 constexpr qsizetype magicSize = sizeof magic - 1;
 constexpr qsizetype trailerSize = 32;
 /// Counts from here on stand behind the marker.
@@ -145,7 +145,7 @@ qsizetype BinaryListWriter::sizeOf(const Object& object, unsigned referenceSize)
 char* BinaryListWriter::writeObject(char* out, const Object& object, unsigned referenceSize) const {
     if (object.kind == static_cast<quint8>(Marker::falseValue) || object.kind == static_cast<quint8>(Marker::trueValue))
         return writeUnsigned(out, object.kind, 1);
-    out = writeUnsigned(out, static_cast<quint64>(object.kind) << 4 | std::min(object.count, firstLongCount), 1);
+    out = writeUnsigned(out, object.kind | std::min(object.count, firstLongCount), 1);
     if (object.count >= firstLongCount) {
         const unsigned countSize = bytesFor(object.count);
         out = writeUnsigned(out, 0x10U | static_cast<unsigned>(std::countr_zero(countSize)), 1);

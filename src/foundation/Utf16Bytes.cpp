@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "history/file/Utf16Bytes.h"
+#include "foundation/Utf16Bytes.h"
 
 #include <QtEndian>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "history/file/BinaryListWriter.h"
+#include "foundation/BinaryListWriter.h"
 
 #include "foundation/PropertyList.h"
 

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "history/file/BinaryList.h"
+#include "foundation/BinaryList.h"
+
+#include <algorithm>
 
 namespace vellumry {
 
 bool BinaryList::open() {
     constexpr qsizetype trailerSize = 32;
-    if (m_bytes.size() < trailerSize + 8 || !m_bytes.startsWith("bplist00"))
+    if (m_bytes.size() < trailerSize + 8 || !recognises(m_bytes))
         return false;
     const auto trailer = static_cast<quint64>(m_bytes.size() - trailerSize);
     m_offsetSize = static_cast<quint8>(m_bytes[static_cast<qsizetype>(trailer) + 6]);
@@ -13,7 +15,6 @@ bool BinaryList::open() {
     m_objectCount = number(trailer + 8, 8);
     m_top = number(trailer + 16, 8);
     m_offsetTable = number(trailer + 24, 8);
-    m_end = m_offsetTable;
     m_budget = 8 * m_bytes.size();
     return m_offsetSize >= 1 && m_offsetSize <= 8 && m_referenceSize >= 1 && m_referenceSize <= 8 &&
            m_offsetTable >= 8 && m_offsetTable <= trailer && m_objectCount <= (trailer - m_offsetTable) / m_offsetSize;
@@ -28,13 +29,8 @@ std::optional<BinaryList::Object> BinaryList::object(quint64 reference) const {
     const auto marker = static_cast<quint8>(m_bytes[static_cast<qsizetype>(offset)]);
     if (marker == static_cast<quint8>(Marker::falseValue) || marker == static_cast<quint8>(Marker::trueValue))
         return Object{marker, 0, offset + 1};
-    // What else begins with 0 must not pass for the kind that its lower half is the number of.
-    if (marker < 0x10)
-        return std::nullopt;
-    Object found{static_cast<quint8>(marker >> 4), static_cast<quint8>(marker & 0xF), offset + 1};
-    if (found.count == 0xF && !found.is(Marker::integer) && !readCount(found))
-        return std::nullopt;
-    return fits(found) ? std::optional(found) : std::nullopt;
+    Object found{static_cast<quint8>(marker & 0xF0), static_cast<quint8>(marker & 0xF), offset + 1};
+    return readCount(found) && fits(found) ? std::optional(found) : std::nullopt;
 }
 
 QByteArrayView BinaryList::bytesOf(const Object& object) {
@@ -45,19 +41,42 @@ QByteArrayView BinaryList::bytesOf(const Object& object) {
     return m_bytes.sliced(static_cast<qsizetype>(object.content), static_cast<qsizetype>(size));
 }
 
-quint64 BinaryList::number(quint64 position, unsigned size) const {
+quint64 BinaryList::lowBitsOf(const Object& numeric) const {
+    const quint64 size = std::min<quint64>(numeric.count, 8);
+    return number(numeric.content + numeric.count - size, size);
+}
+
+quint64 BinaryList::highBitsOf(const Object& numeric) const {
+    return numeric.count > 8 ? number(numeric.content, numeric.count - 8) : 0;
+}
+
+quint64 BinaryList::number(quint64 position, quint64 size) const {
     quint64 value = 0;
-    for (unsigned i = 0; i < size; ++i)
+    for (quint64 i = 0; i < size; ++i)
         value = value << 8 | static_cast<quint8>(m_bytes[static_cast<qsizetype>(position + i)]);
     return value;
 }
 
 bool BinaryList::readCount(Object& found) const {
-    if (found.content >= m_end)
+    switch (static_cast<Marker>(found.kind)) {
+    case Marker::integer:
+    case Marker::real:
+    case Marker::date:
+        found.count = 1ULL << found.count;
+        return true;
+    case Marker::uid:
+        ++found.count;
+        return true;
+    default:
+        break;
+    }
+    if (found.count < 0xF)
+        return true;
+    if (found.content >= m_offsetTable)
         return false;
     const auto marker = static_cast<quint8>(m_bytes[static_cast<qsizetype>(found.content)]);
-    const unsigned size = 1U << (marker & 0xF);
-    if (marker >> 4 != static_cast<quint8>(Marker::integer) || size > 8 || m_end - found.content < 1 + size)
+    const quint64 size = 1ULL << (marker & 0xF);
+    if ((marker & 0xF0) != static_cast<quint8>(Marker::integer) || size > 8 || m_offsetTable - found.content < 1 + size)
         return false;
     found.count = number(found.content + 1, size);
     found.content += 1 + size;
@@ -65,8 +84,16 @@ bool BinaryList::readCount(Object& found) const {
 }
 
 bool BinaryList::fits(const Object& found) const {
-    const quint64 room = m_end - found.content;
+    const quint64 room = m_offsetTable - found.content;
     switch (static_cast<Marker>(found.kind)) {
+    case Marker::integer:
+        return found.count <= std::min<quint64>(room, 16);
+    case Marker::real:
+        return (found.count == 4 || found.count == 8) && found.count <= room;
+    case Marker::date:
+        return found.count == 8 && found.count <= room;
+    case Marker::uid:
+        return found.count <= std::min<quint64>(room, 8);
     case Marker::data:
     case Marker::ascii:
         return found.count <= room;

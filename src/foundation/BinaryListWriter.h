@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/BinaryList.h"
 #include "foundation/StoredText.h"
-#include "history/file/BinaryList.h"
 
 #include <QByteArray>
 #include <QHash>
