@@ -6,9 +6,9 @@
 #include "Measure.h"
 #include "history/clips/ClipStore.h"
 #include "history/file/ClipDatabase.h"
-#include "history/file/ClipRows.h"
 #include "history/file/HistoryFile.h"
 #include "history/file/MemoryKeyStore.h"
+#include "history/file/RowIdentity.h"
 
 #include <QCoreApplication>
 #include <QCoroTask>
@@ -45,7 +45,7 @@ public:
     [[nodiscard]] Row rowOf(qsizetype textLength) {
         const qsizetype metaSize =
             std::min(textLength, longestSearchText) + std::min<qsizetype>(textLength, longestTitle) + 250;
-        return {cliprows::uuidString(QUuid::createUuid()),
+        return {rowidentity::textOf(QUuid::createUuid()),
                 qint64{0},
                 1.8e9,
                 1.8e9,

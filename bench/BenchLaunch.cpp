@@ -10,6 +10,7 @@
 #include "history/file/ClipRows.h"
 #include "history/file/HistoryFile.h"
 #include "history/file/MemoryKeyStore.h"
+#include "history/file/SealedBlob.h"
 
 #include <QCoreApplication>
 #include <QCoroTask>
@@ -44,14 +45,14 @@ public:
     }
     bool open(QByteArrayView sealed) {
         const auto* const nonce = reinterpret_cast<const unsigned char*>(sealed.data());
-        const auto length = static_cast<int>(sealed.size() - ClipCrypto::overhead);
+        const auto length = static_cast<int>(sealed.size() - sealedblob::overhead);
         m_plain.resize(length + 16);
         int written = 0;
-        QByteArray tag = sealed.last(ClipCrypto::tagSize).toByteArray();
+        QByteArray tag = sealed.last(sealedblob::tagSize).toByteArray();
         EVP_DecryptInit_ex(m_context.get(), nullptr, nullptr, nullptr, nonce);
         EVP_DecryptUpdate(m_context.get(), reinterpret_cast<unsigned char*>(m_plain.data()), &written,
-                          nonce + ClipCrypto::nonceSize, length);
-        EVP_CIPHER_CTX_ctrl(m_context.get(), EVP_CTRL_AEAD_SET_TAG, ClipCrypto::tagSize, tag.data());
+                          nonce + sealedblob::nonceSize, length);
+        EVP_CIPHER_CTX_ctrl(m_context.get(), EVP_CTRL_AEAD_SET_TAG, sealedblob::tagSize, tag.data());
         return EVP_DecryptFinal_ex(m_context.get(), reinterpret_cast<unsigned char*>(m_plain.data()) + written,
                                    &written) == 1;
     }

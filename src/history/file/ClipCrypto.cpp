@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/file/ClipCrypto.h"
 
+#include "foundation/CryptoError.h"
+#include "history/file/SealedBlob.h"
 #include "history/file/Unsealer.h"
-#include "platform/desktop/KeyStore.h"
 
 #include <array>
 #include <limits>
@@ -38,10 +39,10 @@ void require(bool succeeded) {
 
 /// Of `blob`, the bytes between the room for the nonce and that for the tag; the cipher reads and writes them in place.
 void sealWithNonce(const SymmetricKey& key, QByteArrayView nonce, QByteArray& blob) {
-    const qsizetype size = blob.size() - ClipCrypto::overhead;
+    const qsizetype size = blob.size() - sealedblob::overhead;
     require(size >= 0 && blob.size() <= std::numeric_limits<int>::max());
     std::copy(nonce.begin(), nonce.end(), blob.data());
-    auto* const bytes = reinterpret_cast<unsigned char*>(blob.data()) + ClipCrypto::nonceSize;
+    auto* const bytes = reinterpret_cast<unsigned char*>(blob.data()) + sealedblob::nonceSize;
 
     const CipherContext context(EVP_CIPHER_CTX_new());
     require(context != nullptr);
@@ -52,12 +53,12 @@ void sealWithNonce(const SymmetricKey& key, QByteArrayView nonce, QByteArray& bl
     int rest = 0;
     require(EVP_EncryptFinal_ex(context.get(), bytes + written, &rest) == 1);
     require(written + rest == size);
-    require(EVP_CIPHER_CTX_ctrl(context.get(), EVP_CTRL_GCM_GET_TAG, ClipCrypto::tagSize, bytes + size) == 1);
+    require(EVP_CIPHER_CTX_ctrl(context.get(), EVP_CTRL_GCM_GET_TAG, sealedblob::tagSize, bytes + size) == 1);
 }
 
 QByteArray withRoom(QByteArrayView bytes) {
-    QByteArray blob(bytes.size() + ClipCrypto::overhead, Qt::Uninitialized);
-    std::copy(bytes.begin(), bytes.end(), blob.data() + ClipCrypto::nonceSize);
+    QByteArray blob(bytes.size() + sealedblob::overhead, Qt::Uninitialized);
+    std::copy(bytes.begin(), bytes.end(), blob.data() + sealedblob::nonceSize);
     return blob;
 }
 
@@ -70,10 +71,10 @@ QByteArray ClipCrypto::seal(QByteArrayView bytes) const {
 }
 
 void ClipCrypto::sealInPlace(QByteArray& blob) const {
-    std::array<char, nonceSize> nonce{};
+    std::array<char, sealedblob::nonceSize> nonce{};
     try {
-        require(RAND_bytes(reinterpret_cast<unsigned char*>(nonce.data()), nonceSize) == 1);
-        sealWithNonce(m_key, QByteArrayView(nonce.data(), nonceSize), blob);
+        require(RAND_bytes(reinterpret_cast<unsigned char*>(nonce.data()), sealedblob::nonceSize) == 1);
+        sealWithNonce(m_key, QByteArrayView(nonce.data(), sealedblob::nonceSize), blob);
     } catch (...) {
         wipe(blob.data(), static_cast<std::size_t>(blob.size()));
         throw;
@@ -81,7 +82,7 @@ void ClipCrypto::sealInPlace(QByteArray& blob) const {
 }
 
 QByteArray ClipCrypto::unseal(QByteArrayView blob) const {
-    if (blob.size() < overhead)
+    if (blob.size() < sealedblob::overhead)
         throw UnsealError(UnsealError::Case::incorrectSize);
     Unsealer unsealer(m_key);
     const auto plain = unsealer.open(blob);
@@ -125,7 +126,7 @@ void ClipCrypto::selfTest() {
     const auto opened = unsealer.open(expected);
     require(opened.has_value() && *opened == plain);
     QByteArray changed = expected;
-    changed[nonceSize] = static_cast<char>(changed[nonceSize] ^ 1);
+    changed[sealedblob::nonceSize] = static_cast<char>(changed[sealedblob::nonceSize] ^ 1);
     require(!unsealer.open(changed).has_value());
 
     // HMAC pads a key to its block with zeros, so the vector's short key may be given with its first zeros already

@@ -29,14 +29,9 @@ private:
 
 /// Seals everything that could show what was copied, and keys the fingerprints, all with the one history key.
 ///
-/// A sealed blob is AES-256-GCM (NIST SP 800-38D): 12 bytes of random nonce, the ciphertext, a 16-byte tag; no header,
-/// no additional data. A value; any thread.
+/// A sealed blob is laid out as in SealedBlob.h. A value; any thread.
 class ClipCrypto {
 public:
-    static constexpr qsizetype nonceSize = 12;
-    static constexpr qsizetype tagSize = 16;
-    static constexpr qsizetype overhead = nonceSize + tagSize;
-
     explicit ClipCrypto(SymmetricKey key)
         : m_key(std::move(key)) {}
     /// With a fresh random key.
@@ -44,8 +39,8 @@ public:
 
     /// Throws `CryptoError::sealFailed`. The nonce is fresh, so two seals of the same bytes differ.
     [[nodiscard]] QByteArray seal(QByteArrayView bytes) const;
-    /// Seals bytes where they lie, between `nonceSize` and `tagSize` bytes of room: `blob` becomes what `seal` makes.
-    /// Throws `CryptoError::sealFailed`, the bytes wiped.
+    /// Seals bytes where they lie, between the room for the nonce and the room for the tag: `blob` becomes what `seal`
+    /// makes. Throws `CryptoError::sealFailed`, the bytes wiped.
     void sealInPlace(QByteArray& blob) const;
     /// Throws `UnsealError`.
     [[nodiscard]] QByteArray unseal(QByteArrayView blob) const;

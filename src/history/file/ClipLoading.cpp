@@ -5,7 +5,7 @@
 #include "foundation/UnusedMemory.h"
 #include "history/clips/StringPool.h"
 #include "history/file/ClipMetaReader.h"
-#include "history/file/ClipRows.h"
+#include "history/file/RowIdentity.h"
 #include "history/file/Unsealer.h"
 
 #include <algorithm>
@@ -62,7 +62,7 @@ private:
 
 /// The clip without its sealed part; null for a row that is none.
 std::shared_ptr<Clip> clipOf(const SQLiteDatabase::Statement& row) {
-    const auto id = cliprows::uuidOf(row.text(0));
+    const auto id = rowidentity::uuidOf(row.text(0));
     const qint64 kind = row.integer(1);
     if (!id || kind < 0 || kind > static_cast<qint64>(ClipKind::color))
         return nullptr;

@@ -4,6 +4,8 @@
 #include "history/file/ClipLoading.h"
 #include "history/file/ClipMeta.h"
 #include "history/file/PayloadCoding.h"
+#include "history/file/RowIdentity.h"
+#include "history/file/SealedBlob.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +15,7 @@ namespace vellumry::cliprows {
 namespace {
 
 /// What sealing puts around the bytes.
-constexpr BinaryListWriter::Margins margins{ClipCrypto::nonceSize, ClipCrypto::tagSize};
+constexpr BinaryListWriter::Margins margins{sealedblob::nonceSize, sealedblob::tagSize};
 
 /// The plain bytes become the sealed ones where they lie, so none are left behind.
 QByteArray sealed(const ClipCrypto& crypto, QByteArray bytesWithMargins) {
@@ -34,17 +36,6 @@ void run(SQLiteDatabase& database, const char* sql, std::span<const SQLValue> va
 SQLValue sqlDate(std::optional<Date> date) {
     return date ? SQLValue(*date) : SQLValue(std::monostate());
 }
-
-/// The value of each hexadecimal digit, -1 for every other byte.
-constexpr std::array<qint8, 256> hexValues = [] {
-    std::array<qint8, 256> values{};
-    values.fill(-1);
-    for (int i = 0; i < 16; ++i) {
-        values[static_cast<quint8>("0123456789abcdef"[i])] = static_cast<qint8>(i);
-        values[static_cast<quint8>("0123456789ABCDEF"[i])] = static_cast<qint8>(i);
-    }
-    return values;
-}();
 
 } // namespace
 
@@ -75,7 +66,7 @@ std::vector<ClipRef> readAll(SQLiteDatabase& database, const ClipCrypto& crypto)
 
 std::optional<ClipPayload> readPayload(SQLiteDatabase& database, const ClipCrypto& crypto, const QUuid& id) {
     auto row = database.prepare("SELECT payload FROM clips WHERE id = ?;");
-    row.bind(std::array<SQLValue, 1>{uuidString(id)});
+    row.bind(std::array<SQLValue, 1>{rowidentity::textOf(id)});
     if (!row.step())
         return std::nullopt;
     QByteArray plain = crypto.unseal(row.blob(0));
@@ -91,7 +82,7 @@ void write(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip,
     QByteArray sealedPayload = sealed(crypto, encodePayload(payload, margins));
     // A pinned row must never read back as unpinned.
     const qint64 pinned = clip.isPinned ? std::max<qint64>(clip.pinOrder, 1) : 0;
-    const std::array<SQLValue, 10> values{uuidString(clip.id),
+    const std::array<SQLValue, 10> values{rowidentity::textOf(clip.id),
                                           static_cast<qint64>(clip.kind),
                                           clip.createdAt,
                                           clip.lastUsedAt,
@@ -108,22 +99,22 @@ void write(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip,
 }
 
 void writeMeta(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip) {
-    const std::array<SQLValue, 2> values{sealedMeta(crypto, clip), uuidString(clip.id)};
+    const std::array<SQLValue, 2> values{sealedMeta(crypto, clip), rowidentity::textOf(clip.id)};
     run(database, "UPDATE clips SET meta = ? WHERE id = ?;", values);
 }
 
 void writeExpiry(SQLiteDatabase& database, const QUuid& id, std::optional<Date> date) {
-    const std::array<SQLValue, 2> values{sqlDate(date), uuidString(id)};
+    const std::array<SQLValue, 2> values{sqlDate(date), rowidentity::textOf(id)};
     run(database, "UPDATE clips SET expires = ? WHERE id = ?;", values);
 }
 
 void writeUsed(SQLiteDatabase& database, const QUuid& id, Date date) {
-    const std::array<SQLValue, 2> values{date, uuidString(id)};
+    const std::array<SQLValue, 2> values{date, rowidentity::textOf(id)};
     run(database, "UPDATE clips SET used = ? WHERE id = ?;", values);
 }
 
 void writePinned(SQLiteDatabase& database, const QUuid& id, qint64 value) {
-    const std::array<SQLValue, 2> values{value, uuidString(id)};
+    const std::array<SQLValue, 2> values{value, rowidentity::textOf(id)};
     run(database, "UPDATE clips SET pinned = ? WHERE id = ?;", values);
 }
 
@@ -133,7 +124,7 @@ void removeAll(SQLiteDatabase& database, const std::vector<QUuid>& ids) {
     try {
         database.execute("BEGIN;");
         for (const QUuid& id : ids) {
-            const std::array<SQLValue, 1> values{uuidString(id)};
+            const std::array<SQLValue, 1> values{rowidentity::textOf(id)};
             run(database, "DELETE FROM clips WHERE id = ?;", values);
         }
         database.execute("COMMIT;");
@@ -146,30 +137,6 @@ void removeAll(SQLiteDatabase& database, const std::vector<QUuid>& ids) {
         }
         std::rethrow_exception(first);
     }
-}
-
-QString uuidString(const QUuid& id) {
-    return id.toString(QUuid::WithoutBraces).toUpper();
-}
-
-std::optional<QUuid> uuidOf(QByteArrayView text) {
-    if (text.size() != 36)
-        return std::nullopt;
-    std::array<char, 16> bytes{};
-    std::size_t digits = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (i == 8 || i == 13 || i == 18 || i == 23) {
-            if (text[i] != '-')
-                return std::nullopt;
-            continue;
-        }
-        const int value = hexValues[static_cast<quint8>(text[i])];
-        if (value < 0)
-            return std::nullopt;
-        bytes[digits / 2] = static_cast<char>(bytes[digits / 2] << 4 | value);
-        ++digits;
-    }
-    return QUuid::fromRfc4122(QByteArrayView(bytes.data(), bytes.size()));
 }
 
 } // namespace vellumry::cliprows

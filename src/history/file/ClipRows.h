@@ -30,9 +30,4 @@ void writePinned(SQLiteDatabase& database, const QUuid& id, qint64 value);
 /// All of them or, when one cannot be removed, none.
 void removeAll(SQLiteDatabase& database, const std::vector<QUuid>& ids);
 
-/// The text form in which the file knows an identity: canonical, upper case, no braces.
-[[nodiscard]] QString uuidString(const QUuid& id);
-/// The identity that 36 characters of that form, in any case, stand for.
-[[nodiscard]] std::optional<QUuid> uuidOf(QByteArrayView text);
-
 } // namespace vellumry::cliprows

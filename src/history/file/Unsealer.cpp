@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/file/Unsealer.h"
 
-#include "history/file/ClipCrypto.h"
-#include "platform/desktop/KeyStore.h"
+#include "foundation/CryptoError.h"
+#include "history/file/SealedBlob.h"
 
 #include <algorithm>
 #include <limits>
@@ -46,12 +46,12 @@ char* Unsealer::buffer(qsizetype size) {
 }
 
 std::optional<QByteArrayView> Unsealer::open(QByteArrayView blob) {
-    const qsizetype size = blob.size() - ClipCrypto::overhead;
+    const qsizetype size = blob.size() - sealedblob::overhead;
     if (size < 0 || size > std::numeric_limits<int>::max())
         return std::nullopt;
-    const QByteArrayView nonce = blob.first(ClipCrypto::nonceSize);
-    const QByteArrayView ciphertext = blob.sliced(ClipCrypto::nonceSize, size);
-    const QByteArrayView tag = blob.last(ClipCrypto::tagSize);
+    const QByteArrayView nonce = blob.first(sealedblob::nonceSize);
+    const QByteArrayView ciphertext = blob.sliced(sealedblob::nonceSize, size);
+    const QByteArrayView tag = blob.last(sealedblob::tagSize);
 
     char* const plain = buffer(std::max<qsizetype>(size, 1));
     auto* const out = reinterpret_cast<unsigned char*>(plain);
@@ -61,7 +61,7 @@ std::optional<QByteArrayView> Unsealer::open(QByteArrayView blob) {
         EVP_DecryptInit_ex(m_context.get(), nullptr, nullptr, nullptr, unsignedBytes(nonce)) == 1 &&
         EVP_DecryptUpdate(m_context.get(), out, &written, unsignedBytes(ciphertext), static_cast<int>(size)) == 1 &&
         // The interface takes the tag to compare with as writable memory; it only reads it.
-        EVP_CIPHER_CTX_ctrl(m_context.get(), EVP_CTRL_GCM_SET_TAG, ClipCrypto::tagSize,
+        EVP_CIPHER_CTX_ctrl(m_context.get(), EVP_CTRL_GCM_SET_TAG, sealedblob::tagSize,
                             const_cast<char*>(tag.data())) == 1 &&
         EVP_DecryptFinal_ex(m_context.get(), out + written, &rest) == 1;
     if (!isOpen)

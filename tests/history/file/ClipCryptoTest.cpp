@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/file/ClipCrypto.h"
 
+#include "foundation/CryptoError.h"
 #include "history/file/Unsealer.h"
-#include "platform/desktop/KeyStore.h"
 
 #include <array>
 #include <gtest/gtest.h>

@@ -3,6 +3,7 @@
 
 #include "history/file/ClipRows.h"
 #include "history/file/DatabaseTest.h"
+#include "history/file/RowIdentity.h"
 #include "support/FileSizeLimit.h"
 
 namespace vellumry {
@@ -87,7 +88,7 @@ TEST_F(ClipDatabaseTest, TheFileShowsNothingOfTheContent) {
     clip->sourceAppName = u"FINDME-app"_s;
     insert(*database, clip, {{{{{u"FINDME-type"_s, "FINDME-bytes"}}, std::nullopt}}});
     EXPECT_FALSE(allBytes().contains("FINDME"));
-    EXPECT_TRUE(allBytes().contains(cliprows::uuidString(clip->id).toLatin1()));
+    EXPECT_TRUE(allBytes().contains(rowidentity::textOf(clip->id).toLatin1()));
 }
 
 TEST_F(ClipDatabaseTest, AnIdIsWrittenInUpperCase) {
@@ -219,7 +220,7 @@ TEST_F(ClipDatabaseTest, ReclaimingLeavesNothingOfADeletedRow) {
     awaited(database->reclaimSpace());
     const QByteArray left = allBytes();
     EXPECT_FALSE(left.toHex().toUpper().contains(sealed));
-    EXPECT_FALSE(left.contains(cliprows::uuidString(clip->id).toLatin1()));
+    EXPECT_FALSE(left.contains(rowidentity::textOf(clip->id).toLatin1()));
     EXPECT_LT(QFile(m_history.path()).size(), 100'000);
     EXPECT_EQ(QFile(m_history.path() + u"-wal"_s).size(), 0);
 }
