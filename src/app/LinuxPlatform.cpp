@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/LinuxPlatform.h"
 
+#include "app/Capabilities.h"
+#include "foundation/Logging.h"
 #include "linux/accessibility/PasswordFocus.h"
 #include "linux/applications/DesktopEntries.h"
 #include "linux/files/InotifyFolderWatching.h"
@@ -17,6 +19,7 @@
 #include "linux/x11/keys/X11PasteKeys.h"
 #include "linux/x11/keys/X11PasteTarget.h"
 #include "linux/x11/selection/X11Pasteboard.h"
+#include "linux/x11/windows/WaylandSession.h"
 #include "linux/x11/windows/X11Focus.h"
 #include "linux/x11/windows/X11FrontmostApplication.h"
 #include "linux/x11/windows/X11PanelSurface.h"
@@ -31,11 +34,17 @@ namespace vellumry {
 namespace {
 
 /// One connection for keys, focus and windows; the pasteboard has its own, with its own thread.
-bool addDisplay(Platform& platform) {
-    auto pasteboard = X11Pasteboard::create(qgetenv("DISPLAY"));
-    const std::shared_ptr<XlibConnection> connection = XlibConnection::create();
-    if (!pasteboard || !connection)
-        return false;
+std::optional<Reason> addDisplay(Platform& platform) {
+    auto created = X11Pasteboard::create(qgetenv("DISPLAY"));
+    if (!created)
+        return created.error();
+    const auto opened = XlibConnection::create();
+    platform.capabilities = capabilities::ofDisplay(opened);
+    if (!opened)
+        return opened.error();
+    std::unique_ptr<X11Pasteboard> pasteboard = std::move(*created);
+    const std::shared_ptr<XlibConnection>& connection = *opened;
+    platform.isWaylandSession = isWaylandSession(*connection);
     const auto focus = std::make_shared<X11Focus>(connection);
     X11PasteTarget::Options options;
     options.offerAsPrimary = [board = pasteboard.get()] { return board->offerAsPrimary(); };
@@ -61,26 +70,34 @@ bool addDisplay(Platform& platform) {
     platform.pasteTarget = std::move(target);
     platform.pasteKeys = std::make_unique<X11PasteKeys>(std::move(pasteKeys));
     platform.panelSurface = std::make_unique<X11PanelSurface>(connection, focus);
-    return true;
+    return std::nullopt;
 }
 
 } // namespace
 
-std::optional<Platform> makeLinuxPlatform() {
+QString readerPath() {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/vellumry-reader");
+}
+
+OrReason<Platform> makeLinuxPlatform() {
     Platform platform;
     platform.home = QDir::homePath();
     platform.dataHome = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     const QString settings = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     platform.defaults = std::make_unique<UserDefaults>(settings + QStringLiteral("/Vellumry/Vellumry.conf"));
-    if (!addDisplay(platform))
-        return std::nullopt;
+    if (auto problem = addDisplay(platform))
+        return std::unexpected(std::move(*problem));
     platform.singleInstance = std::make_unique<DBusSingleInstance>();
     platform.sounds = std::make_unique<ThemeSounds>();
     platform.keyStore = std::make_unique<KeychainKeyStore>();
-    const QString reader = QCoreApplication::applicationDirPath() + QStringLiteral("/vellumry-reader");
+    const QString reader = readerPath();
+    platform.findCapabilities = [reader] { return capabilities::ofSession(reader); };
     platform.images = std::make_unique<ReaderImageCodec>(reader);
     platform.textReader = std::make_unique<ReaderTextReader>(reader);
-    platform.expiryTimer = TimerfdDateTimer::create();
+    if (auto timer = TimerfdDateTimer::create())
+        platform.expiryTimer = std::move(*timer);
+    else
+        qCWarning(logging::process).noquote() << "secrets expire less punctually:" << timer.error().text;
     platform.bookmarks = std::make_unique<PosixFileBookmarks>();
     platform.folders = std::make_unique<InotifyFolderWatching>();
     platform.returnMemory = &returnCode;

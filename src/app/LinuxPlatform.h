@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/Reason.h"
 #include "shell/Platform.h"
-
-#include <optional>
 
 namespace vellumry {
 
-/// The implementations for this session. Nothing when there is no display that the program can work on. Main thread,
+/// The implementations for this session. Fails when the display lacks what the program cannot do without. Main thread,
 /// after the application object.
-[[nodiscard]] std::optional<Platform> makeLinuxPlatform();
+[[nodiscard]] OrReason<Platform> makeLinuxPlatform();
+
+/// Where the program that opens pictures stands: beside this one.
+[[nodiscard]] QString readerPath();
 
 } // namespace vellumry

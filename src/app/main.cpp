@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/CommandLine.h"
+#include "app/Errands.h"
 #include "app/LinuxPlatform.h"
 #include "app/ReadyNotice.h"
 #include "foundation/Localisation.h"
+#include "foundation/Logging.h"
 #include "linux/process/MemoryReturn.h"
 #include "linux/process/ProcessHardening.h"
+#include "linux/process/TerminationSignals.h"
+#include "linux/x11/windows/XlibConnection.h"
 #include "shell/AppDelegate.h"
 
 #include <QClipboard>
@@ -15,6 +20,8 @@ using namespace vellumry;
 
 namespace {
 
+constexpr int usageError = 2;
+
 /// Qt's defaults for this program: a third of the memory of the GL renderer, and quicker to its first frame.
 void chooseQtDefaults() {
     setenv("QT_QUICK_BACKEND", "software", 0);
@@ -22,8 +29,7 @@ void chooseQtDefaults() {
     // A change is painted with the next turn of the event loop; Qt would wait 5 ms for more.
     setenv("QT_QPA_UPDATE_IDLE_TIME", "0", 0);
     // The panel's place and focus are handled on X11; under a Wayland session Xwayland serves it.
-    if (std::getenv("DISPLAY"))
-        setenv("QT_QPA_PLATFORM", "xcb", 0);
+    setenv("QT_QPA_PLATFORM", "xcb", 0);
 }
 
 /// Text fields of Qt look at the clipboard on every change of it, on the main thread and for as long as the owner keeps
@@ -32,23 +38,22 @@ void keepTextFieldsOffTheClipboard() {
     QGuiApplication::clipboard()->blockSignals(true);
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    hardenProcess();
-    returnLargeBlocks();
+/// The program as the session's running copy.
+int runProgram(int& argc, char** argv) {
     chooseQtDefaults();
+    // Qt would abort without a word that a user sees.
+    if (!XlibConnection::canOpenDisplay())
+        return errands::tellOfMissingDisplay(argc, argv);
 
     QGuiApplication application(argc, argv);
-    QGuiApplication::setApplicationName(QStringLiteral("Vellumry"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.vellumry.Vellumry"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     keepTextFieldsOffTheClipboard();
     installCatalogue();
 
-    std::optional<Platform> platform = makeLinuxPlatform();
+    auto platform = makeLinuxPlatform();
     if (!platform) {
-        std::fputs("Vellumry needs an X11 display (under Wayland: Xwayland) and found none.\n", stderr);
+        qCCritical(logging::app).noquote() << "cannot work on this display:" << platform.error().text;
         return 1;
     }
     AppDelegate delegate(std::move(*platform));
@@ -56,5 +61,34 @@ int main(int argc, char** argv) {
     if (!delegate.applicationDidFinishLaunching())
         return 0;
     QObject::connect(&application, &QGuiApplication::aboutToQuit, &delegate, &AppDelegate::applicationShouldTerminate);
+    const TerminationSignals signals([] { QCoreApplication::quit(); });
     return QGuiApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    hardenProcess();
+    returnLargeBlocks();
+    QCoreApplication::setApplicationName(QStringLiteral("Vellumry"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(VELLUMRY_VERSION));
+
+    using Wish = CommandLine::Wish;
+    const CommandLine commandLine = CommandLine::read(argc, argv);
+    logging::start(commandLine.isVerbose ? logging::Detail::all : logging::Detail::warnings);
+    switch (commandLine.wish) {
+    case Wish::say:
+        std::fputs(qUtf8Printable(commandLine.text), stdout);
+        return 0;
+    case Wish::refuse:
+        std::fputs(qUtf8Printable(commandLine.text), stderr);
+        return usageError;
+    case Wish::status:
+        return errands::printStatus(argc, argv);
+    case Wish::action:
+        return errands::askForAction(argc, argv, commandLine.text);
+    case Wish::run:
+        break;
+    }
+    return runProgram(argc, argv);
 }

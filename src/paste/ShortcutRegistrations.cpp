@@ -2,6 +2,7 @@
 #include "paste/ShortcutRegistrations.h"
 
 #include "foundation/Localisation.h"
+#include "foundation/Logging.h"
 #include "foundation/UserDefaults.h"
 #include "paste/HotKeyCenter.h"
 
@@ -34,6 +35,7 @@ void ShortcutRegistrations::suspend() {
     for (const auto id : std::exchange(m_hotKeyIDs, {}))
         m_center.unregister(id);
     m_pinnedNumbers.clear();
+    m_takenKeys.clear();
 }
 
 void ShortcutRegistrations::addChosen(const QString& key, const Shortcut& standard, const std::function<void()>& action,
@@ -41,9 +43,12 @@ void ShortcutRegistrations::addChosen(const QString& key, const Shortcut& standa
     if (!action)
         return;
     const Shortcut shortcut = Shortcut::fromStored(m_preferences.object(key)).value_or(standard);
-    if (!add(shortcut, action))
-        problems.append(
-            localised("%1 is already used by another app. Pick another shortcut.").arg(shortcut.display(m_layout)));
+    if (add(shortcut, action))
+        return;
+    qCWarning(logging::paste).noquote() << "the shortcut of" << key << "is held by another program or has no key";
+    m_takenKeys.append(key);
+    problems.append(
+        localised("%1 is already used by another app. Pick another shortcut.").arg(shortcut.display(m_layout)));
 }
 
 bool ShortcutRegistrations::add(const Shortcut& shortcut, std::function<void()> action) {

@@ -37,6 +37,8 @@ public:
     /// Gives all keys back until the next `reload`, so that they reach a recorder.
     void suspend();
 
+    /// The settings whose shortcut another program holds.
+    [[nodiscard]] const QStringList& takenKeys() const { return m_takenKeys; }
     /// The digits of the pinned clips' shortcuts that are registered now.
     [[nodiscard]] const QSet<int>& availablePinnedNumbers() const { return m_pinnedNumbers; }
     [[nodiscard]] const std::vector<quint32>& hotKeyIDs() const { return m_hotKeyIDs; }
@@ -52,6 +54,7 @@ private:
     const KeyboardLayout& m_layout;
     Actions m_actions;
     std::vector<quint32> m_hotKeyIDs;
+    QStringList m_takenKeys;
     QSet<int> m_pinnedNumbers;
 };
 

@@ -2,10 +2,11 @@
 #include "reader/PictureReader.h"
 
 #include "reader/DarkOnWhite.h"
+#include "reader/LanguageData.h"
 #include "reader/PageBands.h"
 #include "reader/ReadLines.h"
 
-#include <QDir>
+#include <QFile>
 #include <QLocale>
 #include <algorithm>
 
@@ -36,23 +37,6 @@ struct Limits {
 constexpr Limits fastLimits{std::chrono::seconds(18), std::chrono::seconds(24)};
 constexpr Limits accurateLimits{std::chrono::seconds(90), std::chrono::seconds(130)};
 
-/// Where the packages of the distributions put the data, the user's choice first.
-QStringList dataFolders() {
-    QStringList folders;
-    if (const QString chosen = qEnvironmentVariable("TESSDATA_PREFIX"); !chosen.isEmpty())
-        folders << chosen;
-    return folders << QStringLiteral("/usr/share/tesseract-ocr/5/tessdata")
-                   << QStringLiteral("/usr/share/tesseract/tessdata") << QStringLiteral("/usr/share/tessdata")
-                   << QStringLiteral("/usr/local/share/tessdata");
-}
-
-QStringList languagesIn(const QString& folder) {
-    QStringList names;
-    for (const QFileInfo& file : QDir(folder).entryInfoList({QStringLiteral("*.traineddata")}, QDir::Files))
-        names << file.completeBaseName();
-    return names;
-}
-
 QImage enlarged(const QImage& page, const QSize& size) {
     return page.size() == size ? page : page.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
@@ -69,8 +53,8 @@ QImage plain(const QImage& picture) {
 } // namespace
 
 std::unique_ptr<PictureReader> PictureReader::create() {
-    for (const QString& folder : dataFolders()) {
-        auto scripts = languages::byScript(languagesIn(folder), QLocale().uiLanguages());
+    for (const QString& folder : languagedata::folders()) {
+        auto scripts = languages::byScript(languagedata::languagesIn(folder), QLocale().uiLanguages());
         if (scripts.empty())
             continue;
         auto library = TesseractLibrary::load();

@@ -1,9 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/AppDelegate.h"
 
+#include "foundation/Logging.h"
+#include "foundation/SerialExecutor.h"
 #include "shell/AppEnvironment.h"
+#include "shell/StatusReport.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <algorithm>
+#include <iterator>
 
 namespace vellumry {
+
+namespace {
+
+/// What is missing is worth a line in every log; what is there, when it is asked for.
+void logLines(const std::vector<Capability>& capabilities) {
+    for (const Capability& capability : capabilities) {
+        if (capability.isFound || capability.isOptional)
+            qCInfo(logging::app).noquote() << lineOf(capability);
+        else
+            qCWarning(logging::app).noquote() << lineOf(capability);
+    }
+}
+
+} // namespace
 
 AppDelegate::AppDelegate(Platform platform)
     : m_platform(std::move(platform)) {}
@@ -15,6 +37,9 @@ bool AppDelegate::applicationDidFinishLaunching() {
         return false;
     m_platform.singleInstance->onReopen = [this] { reopen(); };
     m_platform.singleInstance->onAction = [this](const QString& action) { perform(action); };
+    m_platform.singleInstance->onStatus = [this] { return status(); };
+    logLines(m_platform.capabilities);
+    findCapabilities();
     launch();
     return true;
 }
@@ -30,6 +55,28 @@ QCoro::Task<void> AppDelegate::launch() {
     m_environment->start();
     if (onStarted)
         onStarted();
+}
+
+void AppDelegate::findCapabilities() {
+    m_finder = std::make_unique<SerialExecutor>("Capabilities", true);
+    m_finder->post([self = QPointer(this), find = m_platform.findCapabilities] {
+        postToMain([self, found = find()] {
+            if (!self)
+                return;
+            logLines(found);
+            std::ranges::copy(found, std::back_inserter(self->m_platform.capabilities));
+            self->m_finder.reset();
+        });
+    });
+}
+
+QString AppDelegate::status() const {
+    StatusReport report;
+    report.process = QCoreApplication::applicationPid();
+    report.capabilities = m_platform.capabilities;
+    if (m_environment)
+        m_environment->describe(report);
+    return report.text();
 }
 
 void AppDelegate::reopen() {

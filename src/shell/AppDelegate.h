@@ -11,6 +11,7 @@
 namespace vellumry {
 
 class AppEnvironment;
+class SerialExecutor;
 
 /// Receives what the system tells the program about its life: launch, a second start, an action asked from outside, the
 /// end. Main thread.
@@ -35,11 +36,14 @@ public:
 
 private:
     QCoro::Task<void> launch();
+    void findCapabilities();
+    [[nodiscard]] QString status() const;
     void reopen();
     void perform(const QString& action);
 
     Platform m_platform;
     std::unique_ptr<AppEnvironment> m_environment;
+    std::unique_ptr<SerialExecutor> m_finder; ///< while capabilities are being looked for
 };
 
 } // namespace vellumry

@@ -25,6 +25,7 @@
 namespace vellumry {
 
 class AlertWindow;
+struct StatusReport;
 
 /// The composition root: makes every long-lived object once, joins them with closures, starts them in a fixed order and
 /// runs the maintenance timer. Lives as long as the process. Main thread.
@@ -49,6 +50,8 @@ public:
     /// Registers the global shortcuts anew; one sentence for each that another program holds.
     QStringList reloadShortcuts();
     void suspendShortcuts(bool isSuspended);
+    /// Fills in what `vellumry --status` tells of the running program.
+    void describe(StatusReport& report) const;
     /// Bytes of the history on disk, in the user's units; empty when the folder cannot be had.
     [[nodiscard]] QString historySize() const;
 

@@ -3,6 +3,7 @@
 
 #include "foundation/Date.h"
 #include "foundation/UserDefaults.h"
+#include "platform/desktop/Capability.h"
 #include "platform/desktop/DateTimer.h"
 #include "platform/desktop/KeyStore.h"
 #include "platform/desktop/SingleInstance.h"
@@ -23,6 +24,7 @@
 #include <QString>
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace vellumry {
 
@@ -46,6 +48,12 @@ struct Platform {
     std::unique_ptr<FolderWatching> folders;
     /// What punctual expiry waits with; null where the system has nothing better than an interval.
     std::unique_ptr<DateTimer> expiryTimer;
+    /// What the session offers and lacks, as far as the start has found out.
+    std::vector<Capability> capabilities;
+    /// Finds out the rest: asks the disk and other processes. May block; any thread.
+    std::function<std::vector<Capability>()> findCapabilities = [] { return std::vector<Capability>(); };
+    /// The session is one of Wayland, and we see what goes on among its X11 programs.
+    bool isWaylandSession = false;
     /// What time it is.
     Clock clock = currentDate;
     /// Whether there is room for pictures where this folder lies.

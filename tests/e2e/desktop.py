@@ -97,7 +97,7 @@ class Process:
 class Vellumry(Process):
     """The program under test, started and watching the clipboard."""
 
-    def __init__(self, ready=True, **options):
+    def __init__(self, *arguments, ready=True, **options):
         self.folder = tempfile.mkdtemp(prefix="notify")
         path = os.path.join(self.folder, "socket")
         self.socket = socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM)
@@ -105,7 +105,8 @@ class Vellumry(Process):
         environment = dict(os.environ, NOTIFY_SOCKET=path)
         environment.update(options.pop("environment", {}))
         self.started = time.monotonic()
-        super().__init__(PROGRAM, env=environment, stderr=None, **options)
+        options.setdefault("stderr", None)
+        super().__init__(PROGRAM, *arguments, env=environment, **options)
         if ready:
             self.wait_ready()
 

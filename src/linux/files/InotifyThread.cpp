@@ -32,14 +32,17 @@ QByteArray parentOf(const QByteArray& path) {
 
 } // namespace
 
-std::shared_ptr<InotifyThread> InotifyThread::create(const QStringList& folders, std::function<void()> onChanged) {
+OrReason<std::shared_ptr<InotifyThread>> InotifyThread::create(const QStringList& folders,
+                                                               std::function<void()> onChanged) {
+    // A desktop with many watchers runs into fs.inotify.max_user_instances: 128 for one user, as a rule.
     const int inotify = inotify_init1(IN_CLOEXEC | IN_NONBLOCK);
     if (inotify < 0)
-        return nullptr;
+        return std::unexpected(Reason{QStringLiteral("no inotify descriptor, error %1").arg(errno)});
     const int wake = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
     if (wake < 0) {
+        const int error = errno;
         close(inotify);
-        return nullptr;
+        return std::unexpected(Reason{QStringLiteral("no event descriptor, error %1").arg(error)});
     }
     return std::shared_ptr<InotifyThread>(new InotifyThread(folders, std::move(onChanged), inotify, wake));
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/Reason.h"
+
 #include <QByteArray>
 #include <QStringList>
 #include <atomic>
@@ -16,9 +18,9 @@ namespace vellumry {
 /// tells the main thread. Shared by the thread and the watch.
 class InotifyThread {
 public:
-    /// Null when the kernel gives no descriptors.
-    [[nodiscard]] static std::shared_ptr<InotifyThread> create(const QStringList& folders,
-                                                               std::function<void()> onChanged);
+    /// Fails when the kernel gives no descriptors.
+    [[nodiscard]] static OrReason<std::shared_ptr<InotifyThread>> create(const QStringList& folders,
+                                                                         std::function<void()> onChanged);
     ~InotifyThread();
     InotifyThread(const InotifyThread&) = delete;
     InotifyThread& operator=(const InotifyThread&) = delete;

@@ -2,6 +2,7 @@
 #include "linux/process/DBusSingleInstance.h"
 
 #include "linux/process/ApplicationInterface.h"
+#include "linux/process/StatusInterface.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -10,9 +11,6 @@
 namespace vellumry {
 
 namespace {
-
-const auto busName = QStringLiteral("com.vellumry.Vellumry");
-const auto objectPath = QStringLiteral("/com/vellumry/Vellumry");
 
 /// What lets the running copy take the focus that the user gave to this start.
 QVariantMap platformData() {
@@ -29,6 +27,14 @@ QVariantMap platformData() {
 
 } // namespace
 
+QString DBusSingleInstance::busName() {
+    return QStringLiteral("com.vellumry.Vellumry");
+}
+
+QString DBusSingleInstance::objectPath() {
+    return QStringLiteral("/com/vellumry/Vellumry");
+}
+
 DBusSingleInstance::DBusSingleInstance(QDBusConnection bus, const QString& lockPath)
     : m_bus(std::move(bus))
     , m_lock(lockPath) {
@@ -41,13 +47,15 @@ DBusSingleInstance::DBusSingleInstance(QDBusConnection bus, const QString& lockP
         if (onAction)
             onAction(name);
     };
+    auto* status = new StatusInterface(&m_object);
+    status->onReport = [this] { return onStatus ? onStatus() : QString(); };
 }
 
 DBusSingleInstance::~DBusSingleInstance() {
     if (!m_ownsName)
         return;
-    m_bus.unregisterObject(objectPath);
-    m_bus.unregisterService(busName);
+    m_bus.unregisterObject(objectPath());
+    m_bus.unregisterService(busName());
 }
 
 bool DBusSingleInstance::isAnotherCopyRunning() {
@@ -62,19 +70,27 @@ bool DBusSingleInstance::isAnotherCopyRunning() {
 
 bool DBusSingleInstance::claimName() {
     // The object first: who sees the name may call at once.
-    m_bus.registerObject(objectPath, &m_object, QDBusConnection::ExportAdaptors);
+    m_bus.registerObject(objectPath(), &m_object, QDBusConnection::ExportAdaptors);
     const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply = m_bus.interface()->registerService(
-        busName, QDBusConnectionInterface::DontQueueService, QDBusConnectionInterface::DontAllowReplacement);
+        busName(), QDBusConnectionInterface::DontQueueService, QDBusConnectionInterface::DontAllowReplacement);
     // A bus that refuses us the name (a sandbox without the permission) has no other copy to show; the lock decided.
     m_ownsName = !reply.isValid() || reply.value() == QDBusConnectionInterface::ServiceRegistered;
     if (!m_ownsName)
-        m_bus.unregisterObject(objectPath);
+        m_bus.unregisterObject(objectPath());
     return m_ownsName;
+}
+
+bool DBusSingleInstance::askForAction(const QDBusConnection& bus, const QString& action) {
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        busName(), objectPath(), QStringLiteral("org.freedesktop.Application"), QStringLiteral("ActivateAction"));
+    call.setAutoStartService(false);
+    call << action << QVariantList() << platformData();
+    return bus.call(call, QDBus::Block, activationTimeoutMilliseconds).type() == QDBusMessage::ReplyMessage;
 }
 
 void DBusSingleInstance::activateOther() {
     QDBusMessage call = QDBusMessage::createMethodCall(
-        busName, objectPath, QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
+        busName(), objectPath(), QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
     // A bus that knows how to start the program must not do so now.
     call.setAutoStartService(false);
     call << platformData();

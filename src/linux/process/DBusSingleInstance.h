@@ -17,6 +17,10 @@ public:
     /// How long the running copy may take to answer before the second one ends without its answer.
     static constexpr int activationTimeoutMilliseconds = 2000;
 
+    /// Where the running copy is found on the bus.
+    [[nodiscard]] static QString busName();
+    [[nodiscard]] static QString objectPath();
+
     explicit DBusSingleInstance(QDBusConnection bus = QDBusConnection::sessionBus(),
                                 const QString& lockPath = InstanceLock::defaultPath());
     /// Gives the name back.
@@ -25,6 +29,9 @@ public:
     DBusSingleInstance& operator=(const DBusSingleInstance&) = delete;
 
     [[nodiscard]] bool isAnotherCopyRunning() override;
+
+    /// Hands an action to the running copy. False when there is none on the bus or it does not answer.
+    [[nodiscard]] static bool askForAction(const QDBusConnection& bus, const QString& action);
 
 private:
     [[nodiscard]] bool claimName();

@@ -24,9 +24,11 @@ itimerspec at(Date date) {
 
 } // namespace
 
-std::unique_ptr<TimerfdDateTimer> TimerfdDateTimer::create() {
+OrReason<std::unique_ptr<TimerfdDateTimer>> TimerfdDateTimer::create() {
     const int descriptor = timerfd_create(CLOCK_REALTIME, TFD_NONBLOCK | TFD_CLOEXEC);
-    return std::unique_ptr<TimerfdDateTimer>(descriptor < 0 ? nullptr : new TimerfdDateTimer(descriptor));
+    if (descriptor < 0)
+        return std::unexpected(Reason{QStringLiteral("no timer of the kernel, error %1").arg(errno)});
+    return std::unique_ptr<TimerfdDateTimer>(new TimerfdDateTimer(descriptor));
 }
 
 TimerfdDateTimer::TimerfdDateTimer(int descriptor)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/Reason.h"
 #include "platform/desktop/DateTimer.h"
 
 #include <QSocketNotifier>
@@ -13,8 +14,8 @@ namespace vellumry {
 /// of the clock, after which the callee arms anew. Main thread; wakes in every event loop.
 class TimerfdDateTimer : public DateTimer {
 public:
-    /// Null when the kernel refuses.
-    [[nodiscard]] static std::unique_ptr<TimerfdDateTimer> create();
+    /// Fails when the kernel refuses.
+    [[nodiscard]] static OrReason<std::unique_ptr<TimerfdDateTimer>> create();
     ~TimerfdDateTimer() override;
     TimerfdDateTimer(const TimerfdDateTimer&) = delete;
     TimerfdDateTimer& operator=(const TimerfdDateTimer&) = delete;

@@ -66,6 +66,13 @@ struct ThemeSounds::Output {
 ThemeSounds::ThemeSounds(QByteArray library)
     : m_output(std::make_shared<Output>(std::move(library))) {}
 
+bool ThemeSounds::hasLibrary(const char* library) {
+    void* handle = dlopen(library, RTLD_LAZY | RTLD_LOCAL);
+    if (handle != nullptr)
+        dlclose(handle);
+    return handle != nullptr;
+}
+
 void ThemeSounds::play(Sound sound) {
     if (m_output->isBusy.exchange(true))
         return;

@@ -15,6 +15,9 @@ class ThemeSounds : public SoundPlayer {
 public:
     explicit ThemeSounds(QByteArray library = "libcanberra.so.0");
 
+    /// True when `library` is installed. Looks at the disk; any thread.
+    [[nodiscard]] static bool hasLibrary(const char* library = "libcanberra.so.0");
+
     /// What is asked for while the server has not yet taken the sound before is left out.
     void play(Sound sound) override;
 

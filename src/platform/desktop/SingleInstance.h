@@ -15,8 +15,10 @@ public:
     [[nodiscard]] virtual bool isAnotherCopyRunning() = 0;
     /// The user started the program again.
     std::function<void()> onReopen;
-    /// One of the program's actions by name: "open-panel", "toggle-stack".
+    /// One of the program's actions by name: "open-panel", "toggle-stack", …
     std::function<void(const QString& action)> onAction;
+    /// Asks for lines of text that say how the program is, for `vellumry --status`.
+    std::function<QString()> onStatus;
 };
 
 } // namespace vellumry

@@ -11,7 +11,7 @@ namespace {
 class TimerfdDateTimerTest : public testing::Test {
 protected:
     void SetUp() override {
-        m_timer = TimerfdDateTimer::create();
+        m_timer = TimerfdDateTimer::create().value();
         ASSERT_TRUE(m_timer);
         m_timer->onWake = [this] { ++m_woken; };
     }
@@ -42,7 +42,7 @@ TEST_F(TimerfdDateTimerTest, NeverWakesBeforeTheDate) {
 TEST_F(TimerfdDateTimerTest, TheLatestDateHolds) {
     m_timer->arm(5);
     m_timer->arm(distantFuture);
-    auto other = TimerfdDateTimer::create();
+    auto other = TimerfdDateTimer::create().value();
     bool isOver = false;
     other->onWake = [&] { isOver = true; };
     other->arm(currentDate() + 0.01);
@@ -53,7 +53,7 @@ TEST_F(TimerfdDateTimerTest, TheLatestDateHolds) {
 TEST_F(TimerfdDateTimerTest, DisarmedItKeepsStill) {
     m_timer->arm(5);
     m_timer->disarm();
-    auto other = TimerfdDateTimer::create();
+    auto other = TimerfdDateTimer::create().value();
     bool isOver = false;
     other->onWake = [&] { isOver = true; };
     other->arm(5);
@@ -63,7 +63,7 @@ TEST_F(TimerfdDateTimerTest, DisarmedItKeepsStill) {
 
 TEST_F(TimerfdDateTimerTest, ADateBeyondAllClocksIsNoError) {
     m_timer->arm(1e300);
-    auto other = TimerfdDateTimer::create();
+    auto other = TimerfdDateTimer::create().value();
     bool isOver = false;
     other->onWake = [&] { isOver = true; };
     other->arm(5);

@@ -64,7 +64,7 @@ X11PasteKeyGrab::~X11PasteKeyGrab() {
 }
 
 bool X11PasteKeyGrab::start() {
-    m_connection = XlibConnection::create(m_options.displayName);
+    m_connection = XlibConnection::create(m_options.displayName).value_or(nullptr);
     if (!m_connection || !m_connection->inputExtension().has_value())
         return false;
     m_keyboard = passivegrabs::masterKeyboard(*m_connection);

@@ -24,10 +24,10 @@ constexpr int quietTime = 100;
 
 } // namespace
 
-std::unique_ptr<PasteboardThread> PasteboardThread::create(std::unique_ptr<PasteboardEngine> engine) {
+OrReason<std::unique_ptr<PasteboardThread>> PasteboardThread::create(std::unique_ptr<PasteboardEngine> engine) {
     const int descriptor = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
     if (descriptor < 0)
-        return nullptr;
+        return std::unexpected(Reason{QStringLiteral("no event descriptor, error %1").arg(errno)});
     return std::unique_ptr<PasteboardThread>(new PasteboardThread(std::move(engine), descriptor));
 }
 

@@ -17,8 +17,8 @@ class PasteboardThread {
 public:
     using Command = std::function<void(PasteboardEngine& engine, PasteboardEngine::Instant now)>;
 
-    /// Null when the system gives no event descriptor.
-    [[nodiscard]] static std::unique_ptr<PasteboardThread> create(std::unique_ptr<PasteboardEngine> engine);
+    /// Fails when the system gives no event descriptor.
+    [[nodiscard]] static OrReason<std::unique_ptr<PasteboardThread>> create(std::unique_ptr<PasteboardEngine> engine);
     ~PasteboardThread();
     PasteboardThread(const PasteboardThread&) = delete;
     PasteboardThread& operator=(const PasteboardThread&) = delete;

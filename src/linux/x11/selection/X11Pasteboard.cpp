@@ -16,10 +16,11 @@ struct X11Pasteboard::Link {
     std::atomic<bool> isChangeAnnounced = false;
 };
 
-std::unique_ptr<X11Pasteboard> X11Pasteboard::create(const QByteArray& displayName, const PasteboardLimits& limits) {
-    std::unique_ptr<XcbConnection> connection = XcbConnection::create(displayName);
+OrReason<std::unique_ptr<X11Pasteboard>> X11Pasteboard::create(const QByteArray& displayName,
+                                                               const PasteboardLimits& limits) {
+    auto connection = XcbConnection::create(displayName);
     if (!connection)
-        return nullptr;
+        return std::unexpected(std::move(connection.error()));
     std::unique_ptr<X11Pasteboard> pasteboard(new X11Pasteboard(limits));
     PasteboardEngine::Notices notices;
     notices.changed = [link = pasteboard->m_link] {
@@ -38,10 +39,11 @@ std::unique_ptr<X11Pasteboard> X11Pasteboard::create(const QByteArray& displayNa
                 link->pasteboard->announceOwnerGone(held, since);
         });
     };
-    auto engine = std::make_unique<PasteboardEngine>(std::move(connection), limits, std::move(notices));
-    pasteboard->m_thread = PasteboardThread::create(std::move(engine));
-    if (!pasteboard->m_thread)
-        return nullptr;
+    auto engine = std::make_unique<PasteboardEngine>(std::move(*connection), limits, std::move(notices));
+    auto thread = PasteboardThread::create(std::move(engine));
+    if (!thread)
+        return std::unexpected(std::move(thread.error()));
+    pasteboard->m_thread = std::move(*thread);
     return pasteboard;
 }
 

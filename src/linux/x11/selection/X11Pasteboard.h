@@ -22,9 +22,9 @@ class PasteboardThread;
 /// and `onOwnerGone` is where what was captured of it is put back.
 class X11Pasteboard final : public Pasteboard {
 public:
-    /// Null when there is no such display or it lacks XFixes. An empty name stands for $DISPLAY.
-    [[nodiscard]] static std::unique_ptr<X11Pasteboard> create(const QByteArray& displayName,
-                                                               const PasteboardLimits& limits = {});
+    /// Fails when there is no such display or it lacks XFixes. An empty name stands for $DISPLAY.
+    [[nodiscard]] static OrReason<std::unique_ptr<X11Pasteboard>> create(const QByteArray& displayName,
+                                                                         const PasteboardLimits& limits = {});
     ~X11Pasteboard() override;
     X11Pasteboard(const X11Pasteboard&) = delete;
     X11Pasteboard& operator=(const X11Pasteboard&) = delete;

@@ -14,10 +14,10 @@ constexpr quint32 pieceBytes = 4 * 1024 * 1024;
 
 } // namespace
 
-std::unique_ptr<XcbConnection> XcbConnection::create(const QByteArray& displayName) {
+OrReason<std::unique_ptr<XcbConnection>> XcbConnection::create(const QByteArray& displayName) {
     std::unique_ptr<XcbConnection> connection(new XcbConnection);
-    if (!connection->open(displayName))
-        return nullptr;
+    if (auto problem = connection->open(displayName))
+        return std::unexpected(std::move(*problem));
     return connection;
 }
 
@@ -26,11 +26,11 @@ XcbConnection::~XcbConnection() {
         xcb_disconnect(m_connection);
 }
 
-bool XcbConnection::open(const QByteArray& displayName) {
+std::optional<Reason> XcbConnection::open(const QByteArray& displayName) {
     int screenNumber = 0;
     m_connection = xcb_connect(displayName.isEmpty() ? nullptr : displayName.constData(), &screenNumber);
     if (isBroken())
-        return false;
+        return Reason{QStringLiteral("the X server does not let us in or does not run")};
 
     auto screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection));
     for (int i = 0; i < screenNumber && screen.rem > 1; ++i)
@@ -39,12 +39,12 @@ bool XcbConnection::open(const QByteArray& displayName) {
 
     const xcb_query_extension_reply_t* xfixes = xcb_get_extension_data(m_connection, &xcb_xfixes_id);
     if (!xfixes || !xfixes->present)
-        return false;
+        return Reason{QStringLiteral("the X server lacks XFixes, which tells of changes of the clipboard")};
     m_xfixesFirstEvent = xfixes->first_event;
     const XcbPointer<xcb_xfixes_query_version_reply_t> version(
         xcb_xfixes_query_version_reply(m_connection, xcb_xfixes_query_version(m_connection, 5, 0), nullptr));
     if (!version)
-        return false;
+        return Reason{QStringLiteral("the X server does not speak XFixes 5")};
 
     m_window = xcb_generate_id(m_connection);
     const quint32 events = XCB_EVENT_MASK_PROPERTY_CHANGE;
@@ -53,7 +53,7 @@ bool XcbConnection::open(const QByteArray& displayName) {
 
     const qsizetype requestBytes = static_cast<qsizetype>(xcb_get_maximum_request_length(m_connection)) * 4;
     m_chunkBytes = std::min<qsizetype>(256 * 1024, requestBytes - 64);
-    return true;
+    return std::nullopt;
 }
 
 void XcbConnection::remember(xcb_atom_t atom, const QString& name) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/Reason.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QString>
@@ -32,8 +34,8 @@ struct XcbProperty {
 /// A connection of its own to the X server, with one invisible window and a memory of atom names. One thread.
 class XcbConnection {
 public:
-    /// Null when there is no such display, or it lacks XFixes.
-    [[nodiscard]] static std::unique_ptr<XcbConnection> create(const QByteArray& displayName);
+    /// Fails when there is no such display, or it lacks XFixes.
+    [[nodiscard]] static OrReason<std::unique_ptr<XcbConnection>> create(const QByteArray& displayName);
     ~XcbConnection();
     XcbConnection(const XcbConnection&) = delete;
     XcbConnection& operator=(const XcbConnection&) = delete;
@@ -68,7 +70,7 @@ public:
 
 private:
     XcbConnection() = default;
-    bool open(const QByteArray& displayName);
+    std::optional<Reason> open(const QByteArray& displayName);
     void remember(xcb_atom_t atom, const QString& name);
 
     xcb_connection_t* m_connection = nullptr;

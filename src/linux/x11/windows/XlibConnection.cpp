@@ -16,12 +16,21 @@
 
 namespace vellumry {
 
-std::shared_ptr<XlibConnection> XlibConnection::create(const QByteArray& displayName) {
+OrReason<std::shared_ptr<XlibConnection>> XlibConnection::create(const QByteArray& displayName) {
+    if (displayName.isEmpty() && qEnvironmentVariableIsEmpty("DISPLAY"))
+        return std::unexpected(Reason{QStringLiteral("DISPLAY is not set")});
     Display* display = XOpenDisplay(displayName.isEmpty() ? nullptr : displayName.constData());
     if (display == nullptr)
-        return nullptr;
+        return std::unexpected(Reason{QStringLiteral("the X server does not let us in or does not run")});
     XErrorTrap::install();
     return std::shared_ptr<XlibConnection>(new XlibConnection(display));
+}
+
+bool XlibConnection::canOpenDisplay() {
+    Display* display = qEnvironmentVariableIsEmpty("DISPLAY") ? nullptr : XOpenDisplay(nullptr);
+    if (display != nullptr)
+        XCloseDisplay(display);
+    return display != nullptr;
 }
 
 XlibConnection::XlibConnection(Display* display)

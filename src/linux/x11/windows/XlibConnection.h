@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/Reason.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <map>
@@ -21,8 +23,10 @@ using XAtom = unsigned long;
 class XlibConnection : public QObject {
     Q_OBJECT
 public:
-    /// Null when the display cannot be opened. An empty name is the session's display.
-    [[nodiscard]] static std::shared_ptr<XlibConnection> create(const QByteArray& displayName = {});
+    /// An empty name is the session's display. Fails when it cannot be opened.
+    [[nodiscard]] static OrReason<std::shared_ptr<XlibConnection>> create(const QByteArray& displayName = {});
+    /// True when the session's display lets us in. Needs no application object.
+    [[nodiscard]] static bool canOpenDisplay();
     ~XlibConnection() override;
 
     [[nodiscard]] Display* display() const { return m_display; }

@@ -29,7 +29,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    std::shared_ptr<XlibConnection> connection = XlibConnection::create();
+    std::shared_ptr<XlibConnection> connection = XlibConnection::create().value();
     std::shared_ptr<DesktopEntries> entries =
         std::make_shared<DesktopEntries>(QStringList{folder.path()}, QStringList());
 };

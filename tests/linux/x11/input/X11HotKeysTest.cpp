@@ -44,7 +44,7 @@ protected:
         return came && pressed == std::vector<quint32>{999};
     }
 
-    std::shared_ptr<XlibConnection> connection = XlibConnection::create();
+    std::shared_ptr<XlibConnection> connection = XlibConnection::create().value();
     X11HotKeys keys{connection};
     XClient client;
     std::vector<quint32> pressed;
@@ -143,7 +143,7 @@ TEST_F(X11HotKeysTest, AnotherProgramsCoreGrabIsFound) {
 }
 
 TEST_F(X11HotKeysTest, AnotherProgramsInputExtensionGrabIsFound) {
-    X11HotKeys other(XlibConnection::create());
+    X11HotKeys other(XlibConnection::create().value());
     ASSERT_TRUE(other.grab(1, keyV, superCtrl));
     EXPECT_FALSE(keys.grab(1, keyV, superCtrl));
     other.release(1);

@@ -15,7 +15,7 @@ protected:
     void SetUp() override { ASSERT_NE(connection, nullptr); }
     void TearDown() override { EXPECT_TRUE(XSession::setLayout(QStringLiteral("us -variant basic"))); }
 
-    std::shared_ptr<XlibConnection> connection = XlibConnection::create();
+    std::shared_ptr<XlibConnection> connection = XlibConnection::create().value();
     X11KeyboardLayout layout{connection};
 };
 

@@ -52,7 +52,7 @@ protected:
     }
 
     const QRect frame{300, 200, 400, 200};
-    std::shared_ptr<XlibConnection> connection = XlibConnection::create();
+    std::shared_ptr<XlibConnection> connection = XlibConnection::create().value();
     std::shared_ptr<X11Focus> focus = std::make_shared<X11Focus>(connection);
     X11PanelSurface surface{connection, focus};
     TypedWindow panel;

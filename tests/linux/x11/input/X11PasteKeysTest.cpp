@@ -116,7 +116,7 @@ TEST_F(X11PasteKeysTest, AHeldKeyIsToldOnceAndItsRepeatsPass) {
 
 TEST_F(X11PasteKeysTest, WhatWePressOurselvesPasses) {
     ASSERT_TRUE(keys.start());
-    const auto connection = XlibConnection::create();
+    const auto connection = XlibConnection::create().value();
     X11PasteTarget::Options target;
     target.willPress = [this] { injected->announce(std::chrono::steady_clock::now()); };
     X11PasteTarget ours(connection, std::make_shared<X11Focus>(connection), target);

@@ -70,7 +70,7 @@ protected:
     bool primaryWorks = true;
     int primaryOffers = 0;
     QStringList userTerminals;
-    std::shared_ptr<XlibConnection> connection = XlibConnection::create();
+    std::shared_ptr<XlibConnection> connection = XlibConnection::create().value();
     std::shared_ptr<X11Focus> focus = std::make_shared<X11Focus>(connection, [this] { return now; });
     X11PasteTarget target{connection,
                           focus,

@@ -27,7 +27,7 @@ TEST(X11Screens, TheVisiblePartOfAScaledSecondDisplayKeepsItsOrigin) {
 }
 
 TEST(X11Screens, FindsTheDisplayOfAFrameAndOfThePointer) {
-    const X11Screens screens(XlibConnection::create());
+    const X11Screens screens(XlibConnection::create().value());
     const auto under = screens.underPointer();
     ASSERT_TRUE(under.has_value());
     EXPECT_EQ(under->frame, QGuiApplication::primaryScreen()->geometry());

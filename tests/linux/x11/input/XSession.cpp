@@ -65,7 +65,7 @@ bool XSession::start() {
         return false;
     qputenv("DISPLAY", ":" + number.trimmed());
     startChild(m_manager, QStringLiteral("openbox"), {});
-    const auto connection = XlibConnection::create();
+    const auto connection = XlibConnection::create().value_or(nullptr);
     QElapsedTimer timer;
     timer.start();
     while (connection != nullptr && timer.elapsed() < startMilliseconds) {

@@ -36,7 +36,7 @@ TEST_F(X11PasteboardRead, CountsEachChangeOfOwnerAndSaysSo) {
 
 TEST_F(X11PasteboardRead, AnOwnerFromBeforeOurStartIsRead) {
     copied({{"UTF8_STRING", "early"}});
-    pasteboard = X11Pasteboard::create(display);
+    pasteboard = X11Pasteboard::create(display).value();
     const auto early = reading();
     ASSERT_NE(early, nullptr);
     EXPECT_EQ(read(*early, uniformtype::utf8PlainText), "early");

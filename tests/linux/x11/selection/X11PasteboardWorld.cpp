@@ -28,7 +28,7 @@ void X11PasteboardWorld::SetUp() {
         number += m_server.readAllStandardOutput();
     ASSERT_FALSE(number.trimmed().isEmpty()) << "no X server";
     display = ":" + number.trimmed();
-    pasteboard = X11Pasteboard::create(display);
+    pasteboard = X11Pasteboard::create(display).value();
     ASSERT_NE(pasteboard, nullptr);
 }
 

@@ -164,7 +164,7 @@ TEST_F(X11PasteboardWrite, RequestorsThatVanishOrStallCostOthersNothing) {
 TEST_F(X11PasteboardWrite, AStalledTransferEndsAndTheNextIsServed) {
     PasteboardLimits limits;
     limits.stalledRequestor = std::chrono::milliseconds(50);
-    pasteboard = X11Pasteboard::create(display, limits);
+    pasteboard = X11Pasteboard::create(display, limits).value();
     ASSERT_TRUE(write({{uniformtype::png, patternOf(1 << 20)}}));
     HostileOwner& requestor = peer();
     requestor.askAndStall("CLIPBOARD", "image/png");
@@ -251,7 +251,7 @@ TEST_F(X11PasteboardWrite, APresentClipboardManagerIsLeftInPlace) {
     pasteboard.reset();
     HostileOwner& manager = peer();
     ASSERT_TRUE(manager.own("CLIPBOARD_MANAGER", {}));
-    pasteboard = X11Pasteboard::create(display);
+    pasteboard = X11Pasteboard::create(display).value();
     ASSERT_TRUE(write({{uniformtype::utf8PlainText, "t"}}));
     EXPECT_TRUE(manager.owns("CLIPBOARD_MANAGER"));
 }
@@ -315,7 +315,9 @@ TEST_F(X11PasteboardWrite, ACopyThatIsNotKnownOfYetIsNotGivenUp) {
 }
 
 TEST(X11Pasteboard, ThereIsNoneWithoutADisplay) {
-    EXPECT_EQ(X11Pasteboard::create(":59999"), nullptr);
+    const auto created = X11Pasteboard::create(":59999");
+    ASSERT_FALSE(created.has_value());
+    EXPECT_EQ(created.error().text, QStringLiteral("the X server does not let us in or does not run"));
 }
 
 } // namespace

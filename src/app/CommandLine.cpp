@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/CommandLine.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace vellumry {
+
+namespace {
+
+struct Options {
+    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this text.")};
+    QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")};
+    QCommandLineOption status{QStringLiteral("status"),
+                              QStringLiteral("Show what was found and what is missing, with reasons, counts and sizes. "
+                                             "Never shows what was copied.")};
+    QCommandLineOption verbose{QStringLiteral("verbose"),
+                               QStringLiteral("Write what is found and done to standard error, not only problems. "
+                                              "Never what was copied.")};
+    QCommandLineOption action{
+        QStringLiteral("action"),
+        QStringLiteral("Ask the running program for open-panel, toggle-stack, pause, ignore-next, toggle-screenshots, "
+                       "clear or quit."),
+        QStringLiteral("name")};
+    /// What a session manager starts programs with that ran when the session was saved (XSMP).
+    QCommandLineOption session{QStringLiteral("session"), QString(), QStringLiteral("id")};
+
+    Options() { session.setFlags(QCommandLineOption::HiddenFromHelp); }
+};
+
+QString refusal(const QCommandLineParser& parser, const QString& problem) {
+    return problem + QStringLiteral("\n\n") + parser.helpText();
+}
+
+CommandLine understood(QCommandLineParser& parser, const QStringList& arguments) {
+    const Options options;
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.setApplicationDescription(QStringLiteral("Clipboard history: runs in the background; a second start shows "
+                                                    "the panel of the first."));
+    parser.addOptions(
+        {options.help, options.version, options.status, options.verbose, options.action, options.session});
+    using Wish = CommandLine::Wish;
+    if (!parser.parse(arguments))
+        return {Wish::refuse, refusal(parser, parser.errorText()), false};
+    if (!parser.positionalArguments().isEmpty())
+        return {Wish::refuse, refusal(parser, QStringLiteral("The program takes options only.")), false};
+    if (parser.isSet(options.help))
+        return {Wish::say, parser.helpText(), false};
+    if (parser.isSet(options.version))
+        return {Wish::say,
+                QStringLiteral("Vellumry %1 (Qt %2)\n")
+                    .arg(QCoreApplication::applicationVersion(), QString::fromLatin1(qVersion())),
+                false};
+    if (parser.isSet(options.status))
+        return {Wish::status, QString(), false};
+    if (parser.isSet(options.action))
+        return {Wish::action, parser.value(options.action), false};
+    return {Wish::run, QString(), parser.isSet(options.verbose)};
+}
+
+} // namespace
+
+CommandLine CommandLine::read(int& argc, char** argv) {
+    if (argc <= 1)
+        return {};
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    return understood(parser, QCoreApplication::arguments());
+}
+
+} // namespace vellumry

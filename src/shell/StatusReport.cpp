@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/StatusReport.h"
+
+#include <QCoreApplication>
+
+namespace vellumry {
+
+namespace {
+
+QString firstLine(const StatusReport& report) {
+    const QString program = QStringLiteral("Vellumry %1, Qt %2, ")
+                                .arg(QCoreApplication::applicationVersion(), QString::fromLatin1(qVersion()));
+    if (report.process)
+        return program + QStringLiteral("running as process %1").arg(*report.process);
+    return program + (report.notAsked.isEmpty() ? QStringLiteral("not running") : report.notAsked);
+}
+
+QString historyLine(const StatusReport& report) {
+    QStringList parts;
+    if (report.history) {
+        const StatusReport::History& history = *report.history;
+        parts << QStringLiteral("clips %1").arg(history.clips) << QStringLiteral("pinned %1").arg(history.pinned)
+              << QStringLiteral("sensitive %1").arg(history.sensitive)
+              << (history.isMemoryOnly ? QStringLiteral("kept in memory until the program ends")
+                                       : QStringLiteral("kept in the encrypted file"));
+    }
+    parts << (report.bytesOnDisk ? QStringLiteral("bytes on disk %1").arg(*report.bytesOnDisk)
+                                 : QStringLiteral("no file"));
+    return QStringLiteral("history: ") + parts.join(QStringLiteral(", "));
+}
+
+QString captureLine(const StatusReport::Capture& capture) {
+    QStringList parts{capture.isPaused ? QStringLiteral("paused") : QStringLiteral("on")};
+    if (capture.ignoresNext)
+        parts << QStringLiteral("the next copy is ignored");
+    parts << (capture.savesScreenshots ? QStringLiteral("screenshots are saved")
+                                       : QStringLiteral("screenshots are not saved"));
+    return QStringLiteral("capture: ") + parts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+QString lineOf(const Capability& capability) {
+    QString line = (capability.isFound ? QStringLiteral("found: ") : QStringLiteral("missing: ")) + capability.name;
+    if (!capability.detail.isEmpty())
+        line += QStringLiteral(" (") + capability.detail + u')';
+    return line;
+}
+
+QString StatusReport::text() const {
+    QStringList lines{firstLine(*this)};
+    for (const Capability& capability : capabilities)
+        lines << lineOf(capability);
+    if (takenShortcuts)
+        lines << (takenShortcuts->isEmpty()
+                      ? QStringLiteral("shortcuts: ours")
+                      : QStringLiteral("shortcuts: held by another program: ") + takenShortcuts->join(u' '));
+    lines << historyLine(*this);
+    if (capture)
+        lines << captureLine(*capture);
+    return lines.join(u'\n') + u'\n';
+}
+
+} // namespace vellumry

@@ -1,0 +1,150 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What the program says without its panel: the command line, the status, the log, and how it ends when it is told to."""
+
+import os
+import signal
+import subprocess
+import tempfile
+
+from clients import GtkEditor
+from desktop import (DATA, HISTORY, PROGRAM, Process, Vellumry, copy_bytes, copy_text, focus, fresh, key, main, open_panel,
+                     representation, run, same, text_of, type_text, wait_for_clip, wait_panel_closed, wait_until, window_of_class)
+
+CANARY = "canary7319"
+
+
+def vellumry(*arguments, environment=None):
+    return subprocess.run([PROGRAM, *arguments], stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=60, env=environment)
+
+
+def status(environment=None):
+    done = vellumry("--status", environment=environment)
+    same(done.returncode, 0, "the status's exit code")
+    return done.stdout.decode("utf-8").splitlines()
+
+
+def without(*names, **others):
+    """Our environment without some variables and with others."""
+    environment = {name: value for name, value in os.environ.items() if name not in names}
+    environment.update(others)
+    return environment
+
+
+def version_and_help_are_printed_without_a_display():
+    bare = without("DISPLAY", "DBUS_SESSION_BUS_ADDRESS")
+    done = vellumry("--version", environment=bare)
+    same((done.returncode, done.stdout.startswith(b"Vellumry "), done.stderr), (0, True, b""), "--version")
+    done = vellumry("--help", environment=bare)
+    same((done.returncode, b"--status" in done.stdout, done.stderr), (0, True, b""), "--help")
+
+
+def what_is_not_understood_ends_with_the_usage():
+    for argument in ("--nonsense", "file.txt"):
+        done = vellumry(argument)
+        same((done.returncode, done.stdout, b"Usage:" in done.stderr), (2, b"", True), argument)
+
+
+def the_status_tells_of_the_session_when_nothing_runs():
+    lines = status()
+    same(lines[0].endswith(", not running"), True, lines[0])
+    for line in ("found: XTest", "found: keyring (a Secret Service runs)", "history: no file"):
+        same(line in lines, True, f"{line!r} in {lines}")
+
+
+def the_status_needs_neither_display_nor_bus():
+    lines = status(without("DISPLAY", DBUS_SESSION_BUS_ADDRESS="unix:path=/nowhere"))
+    for line in ("missing: X11 display (DISPLAY is not set)", "missing: keyring (no session bus: the history is in memory only)"):
+        same(line in lines, True, f"{line!r} in {lines}")
+
+
+def the_status_of_the_running_program_counts_and_never_quotes():
+    with Vellumry() as program:
+        copy_text(CANARY)
+        wait_for_clip(lambda row: text_of(row) == CANARY, "the copy")
+        lines = status()
+        same(lines[0].endswith(f", running as process {program.pid}"), True, lines[0])
+        same("shortcuts: ours" in lines, True, str(lines))
+        same("capture: on, screenshots are not saved" in lines, True, str(lines))
+        history = next(line for line in lines if line.startswith("history: "))
+        same(history.startswith("history: clips 1, pinned 0, sensitive 0, kept in the encrypted file, bytes on disk "), True, history)
+        same(CANARY in "\n".join(lines), False, "the copy in the status")
+
+
+def the_log_never_quotes_the_user():
+    """With everything written: a copy, a picture, a file, a search and a paste in a window whose title is the canary too."""
+    folder = tempfile.mkdtemp(prefix=CANARY)
+    name = os.path.join(folder, CANARY + ".txt")
+    with open(name, "w", encoding="utf-8") as file:
+        file.write(CANARY)
+    with tempfile.TemporaryFile() as log:
+        with Vellumry("--verbose", stderr=log), Process("xterm", "-T", CANARY, "-e", "sleep", "1000"):
+            focus(window_of_class("XTerm"))
+            copy_text("text of the " + CANARY)
+            wait_for_clip(lambda row: text_of(row) == "text of the " + CANARY, "the copy")
+            copy_bytes(("file://" + name + "\r\n").encode(), "text/uri-list")
+            wait_for_clip(lambda row: representation(row, "public.file-url"), "the copied file")
+            with GtkEditor() as client:
+                open_panel()
+                type_text(CANARY)
+                key("Return")
+                wait_panel_closed()
+                wait_until(lambda: CANARY in (client.content() or ""), "the paste")
+                key("super+ctrl+s")
+                copy_text("stacked " + CANARY)
+                wait_for_clip(lambda row: text_of(row) == "stacked " + CANARY, "the second copy")
+                key("ctrl+v")
+                wait_until(lambda: "stacked" in client.content(), "the paste of the stack")
+        log.seek(0)
+        text = log.read().decode("utf-8", "replace")
+    same("info vellumry.app: found: XTest" in text, True, f"a log: {text}")
+    for line in text.splitlines():
+        same(CANARY in line, False, line)
+
+
+def only_problems_are_written_unless_more_is_asked_for():
+    with tempfile.TemporaryFile() as log:
+        with Vellumry(stderr=log):
+            copy_text("a copy")
+            wait_for_clip(lambda row: text_of(row) == "a copy", "the copy")
+        log.seek(0)
+        same([line for line in log.read().decode().splitlines() if "vellumry." in line], [], "the log of an ordinary run")
+
+
+def a_signal_to_end_closes_the_history():
+    for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+        with Vellumry() as program:
+            copy_text(f"before signal {number}")
+            wait_for_clip(lambda row: text_of(row) == f"before signal {number}", "the copy")
+            same(os.path.exists(HISTORY + "-wal"), True, "a log while it runs")
+            os.kill(program.pid, number)
+            program.handle.wait(60)
+            same(program.handle.returncode, 0, "its status")
+        same(sorted(os.listdir(DATA)), ["History.sqlite"], "the folder")
+        same(run("sqlite3", HISTORY, "PRAGMA integrity_check").strip(), b"ok", "the file")
+
+
+def without_a_display_the_user_is_told_and_nothing_is_touched():
+    done = vellumry(environment=without("DISPLAY", WAYLAND_DISPLAY="wayland-0", XDG_SESSION_TYPE="wayland"))
+    same(done.returncode, 1, "the status")
+    same(b"Vellumry can't start in this session" in done.stderr, True, done.stderr.decode())
+    same(b"Xwayland" in done.stderr, True, done.stderr.decode())
+    same(os.path.exists(DATA), False, "a history folder")
+
+
+def an_action_reaches_the_running_program_alone():
+    done = vellumry("--action", "open-panel")
+    same((done.returncode, b"does not run" in done.stderr), (1, True), "an action for nobody")
+    with Vellumry():
+        same(vellumry("--action", "open-panel").returncode, 0, "the action")
+        wait_until(lambda: run("xdotool", "search", "--onlyvisible", "--name", "^Vellumry$"), "the panel")
+        key("Escape")
+        wait_panel_closed()
+
+
+if __name__ == "__main__":
+    main([fresh(test) for test in (
+        version_and_help_are_printed_without_a_display, what_is_not_understood_ends_with_the_usage,
+        the_status_tells_of_the_session_when_nothing_runs, the_status_needs_neither_display_nor_bus,
+        the_status_of_the_running_program_counts_and_never_quotes, the_log_never_quotes_the_user,
+        only_problems_are_written_unless_more_is_asked_for, a_signal_to_end_closes_the_history,
+        without_a_display_the_user_is_told_and_nothing_is_touched, an_action_reaches_the_running_program_alone)])
