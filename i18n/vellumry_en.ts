@@ -3,6 +3,59 @@
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name>Vellumry</name>
+    <message>
+        <source>⌘M</source>
+        <translation>Ctrl+M</translation>
+    </message>
+    <message numerus="yes">
+        <source>Pin %n Clips</source>
+        <translation>
+            <numerusform>Pin %n Clip</numerusform>
+            <numerusform>Pin %n Clips</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Unpin %n Clips</source>
+        <translation>
+            <numerusform>Unpin %n Clip</numerusform>
+            <numerusform>Unpin %n Clips</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n Clips</source>
+        <translation>
+            <numerusform>Delete %n Clip</numerusform>
+            <numerusform>Delete %n Clips</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips selected</source>
+        <translation>
+            <numerusform>%n clip selected</numerusform>
+            <numerusform>%n clips selected</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n more</numerusform>
+            <numerusform>%n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Pin all %n</source>
+        <translation>
+            <numerusform>Pin all %n</numerusform>
+            <numerusform>Pin all %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n</source>
+        <translation>
+            <numerusform>Delete %n</numerusform>
+            <numerusform>Delete %n</numerusform>
+        </translation>
+    </message>
     <message numerus="yes">
         <source>%n characters</source>
         <translation>

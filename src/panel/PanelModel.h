@@ -135,6 +135,12 @@ public:
     void toggleTransforms();
     /// Pastes the names of a clip's files, one a line.
     void pasteFileNames(const ClipRef& clip);
+    /// Pastes the words read in a picture, or in a clip of picture files; does nothing without any.
+    void pasteTextInImage(const ClipRef& clip);
+    /// Closes the panel and opens the address of a link with the user's program for it.
+    void openLink(const ClipRef& clip);
+    /// Closes the panel and shows the files that still exist in the file manager.
+    void showFiles(const ClipRef& clip);
     /// Hands the selected clips, oldest copy first, to the Paste Stack.
     void pasteSelectedOneByOne();
     void addSelectedToStack();
@@ -173,6 +179,8 @@ public:
     std::function<void(const ToastMessage&)> onToast = [](const ToastMessage&) {};
     std::function<void(const std::vector<ClipRef>&)> onToggleStack = [](const std::vector<ClipRef>&) {};
     std::function<void(const std::vector<ClipRef>&)> onAddToStack = [](const std::vector<ClipRef>&) {};
+    std::function<void(const QString& address)> onOpenLink = [](const QString&) {};
+    std::function<void(const QStringList& paths)> onShowFiles = [](const QStringList&) {};
 
 Q_SIGNALS:
     /// `sections`, and with it everything that is told from it, may differ.

@@ -48,6 +48,32 @@ void PanelModel::pasteFileNames(const ClipRef& clip) {
     runPasteText(names.join(u'\n'));
 }
 
+void PanelModel::pasteTextInImage(const ClipRef& clip) {
+    if (!clip->imageText || clip->imageText->isEmpty())
+        return;
+    onClose();
+    runPasteText(*clip->imageText);
+}
+
+void PanelModel::openLink(const ClipRef& clip) {
+    if (clip->kind != ClipKind::link)
+        return;
+    onClose();
+    onOpenLink(clip->searchText.toString().trimmed());
+}
+
+void PanelModel::showFiles(const ClipRef& clip) {
+    QStringList paths;
+    for (const FileStatus& status : d->fileStatuses.value(clip->id)) {
+        if (const auto path = status.path())
+            paths.append(*path);
+    }
+    if (paths.isEmpty())
+        return;
+    onClose();
+    onShowFiles(paths);
+}
+
 void PanelModel::copyClip(const ClipRef& clip) {
     runCopy(clip);
 }

@@ -14,22 +14,6 @@ namespace vellumry::row {
 
 namespace {
 
-bool isCodeApp(const QString& identifier) {
-    static const QSet<QString> codeApps{
-        QStringLiteral("com.apple.Terminal"),
-        QStringLiteral("com.googlecode.iterm2"),
-        QStringLiteral("com.microsoft.VSCode"),
-        QStringLiteral("com.apple.dt.Xcode"),
-        QStringLiteral("dev.warp.Warp-Stable"),
-        QStringLiteral("com.sublimetext.4"),
-        QStringLiteral("com.todesktop.230313mzl4w4u92"),
-        QStringLiteral("com.brennhaldt.ghostty"),
-        QStringLiteral("dev.zed.Zed"),
-        QStringLiteral("com.panic.Nova"),
-    };
-    return codeApps.contains(identifier) || identifier.startsWith(QLatin1String("com.jetbrains."));
-}
-
 QString hiddenTitle(const QString& title) {
     QString digits;
     for (const QChar character : title) {
@@ -107,6 +91,22 @@ QString swatchOf(const Clip& clip) {
     else
         color = functionalColor(text);
     return color.isValid() ? color.name(QColor::HexArgb) : QString();
+}
+
+bool isCodeApp(const QString& identifier) {
+    static const QSet<QString> codeApps{
+        QStringLiteral("com.apple.Terminal"),
+        QStringLiteral("com.googlecode.iterm2"),
+        QStringLiteral("com.microsoft.VSCode"),
+        QStringLiteral("com.apple.dt.Xcode"),
+        QStringLiteral("dev.warp.Warp-Stable"),
+        QStringLiteral("com.sublimetext.4"),
+        QStringLiteral("com.todesktop.230313mzl4w4u92"),
+        QStringLiteral("com.brennhaldt.ghostty"),
+        QStringLiteral("dev.zed.Zed"),
+        QStringLiteral("com.panic.Nova"),
+    };
+    return codeApps.contains(identifier) || identifier.startsWith(QLatin1String("com.jetbrains."));
 }
 
 QString sourceOf(const Clip& clip) {

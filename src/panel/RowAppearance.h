@@ -17,5 +17,7 @@ namespace vellumry::row {
 [[nodiscard]] QString swatchOf(const Clip& clip);
 /// The application it came from, "Unknown app" without one.
 [[nodiscard]] QString sourceOf(const Clip& clip);
+/// The application with that identifier is a terminal or a code editor.
+[[nodiscard]] bool isCodeApp(const QString& identifier);
 
 } // namespace vellumry::row
