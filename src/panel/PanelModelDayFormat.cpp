@@ -2,6 +2,7 @@
 #include "panel/PanelModelDayFormat.h"
 
 #include <QDateTime>
+#include <QTimeZone>
 #include <unicode/dtptngen.h>
 #include <unicode/smpdtfmt.h>
 
@@ -59,7 +60,7 @@ QString PanelModelDayFormat::write(QDate day, const icu::SimpleDateFormat* forma
     if (!format)
         return m_locale.toString(day, QLocale::ShortFormat);
     icu::UnicodeString text;
-    format->format(UDate(day.startOfDay(Qt::UTC).toMSecsSinceEpoch()), text);
+    format->format(UDate(day.startOfDay(QTimeZone::utc()).toMSecsSinceEpoch()), text);
     return QString::fromUtf16(text.getBuffer(), text.length());
 }
 

@@ -146,7 +146,9 @@ private:
     }
     void prepare() {
         png_set_crc_action(m_png, PNG_CRC_QUIET_USE, PNG_CRC_QUIET_USE);
+#ifdef PNG_IGNORE_ADLER32 // gone from libpng 1.6.45 on, unless it was built for it
         png_set_option(m_png, PNG_IGNORE_ADLER32, PNG_OPTION_ON);
+#endif
         // Text and profiles are not looked at, and may be large.
         png_set_keep_unknown_chunks(m_png, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
         png_read_info(m_png, m_info);

@@ -66,7 +66,7 @@ bool isReadable(const QString& path, const SymmetricKey& key) {
 
 void moveAside(const QString& path, Date now) {
     const auto seconds = static_cast<qint64>(now);
-    const QString stamp = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate).replace(u':', u'-');
+    const QString stamp = QDateTime::fromSecsSinceEpoch(seconds).toUTC().toString(Qt::ISODate).replace(u':', u'-');
     const fs::path folder = fs::path(QFile::encodeName(path).toStdString()).parent_path();
     const std::string backup = "History-unreadable-" + stamp.toStdString() + ".sqlite";
     for (const char* suffix : companionSuffixes) {
