@@ -120,7 +120,7 @@ document.title = 'ready';
             except Failure:
                 return False
 
-        wait_until(pressed, f"the page to hear of {name}", 30)
+        wait_until(pressed, f"the page to hear of {name}", 60)
 
     def copy_words(self):
         self.press_until("F8", "chosen")
@@ -175,12 +175,12 @@ class PasswordManager(Process):
         super().__init__("keepassxc", "--pw-stdin", vault, stdin=subprocess.PIPE, env=fresh_home())
         self.handle.stdin.write(b"open\n")
         self.handle.stdin.close()
-        self.window = wait_until(lambda: (windows("vault.*KeePassXC") or [None])[0], "the password manager's vault", 40)
+        self.window = wait_until(lambda: (windows("vault.*KeePassXC") or [None])[0], "the password manager's vault", 60)
         focus(self.window)
 
     def copy_password(self):
         """Selects the entry and copies its password."""
-        wait_until(lambda: accessible("keepassxc", "table cell", "^entry$"), "the entry", 20)
+        wait_until(lambda: accessible("keepassxc", "table cell", "^entry$"), "the entry", 60)
         node = accessible("keepassxc", "table cell", "^entry$")
         area = node.queryComponent().getExtents(0)
         run("xdotool", "mousemove", str(area.x + area.width // 2), str(area.y + area.height // 2), "click", "1")

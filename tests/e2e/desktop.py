@@ -4,6 +4,7 @@
 Every wait has a deadline and asks for a condition; nothing here counts on a delay. Run inside scripts/headless-session.
 """
 
+import ctypes
 import json
 import os
 import re
@@ -22,14 +23,26 @@ PICTURES = os.environ.get("VELLUMRY_PICTURES", "")
 DATA = os.path.join(os.environ["XDG_DATA_HOME"], "Vellumry")
 HISTORY = os.path.join(DATA, "History.sqlite")
 SETTINGS = os.path.join(os.environ["XDG_CONFIG_HOME"], "Vellumry", "Vellumry.conf")
+LIMIT = 60.0  # seconds for what is bound to come, on a busy machine too; what the program promises is asked for by its own limit
 QUIET = dict(stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+
+PR_SET_CHILD_SUBREAPER = 36
+
+
+def adopt_orphans():
+    """Makes what our children leave behind ours to wait for. The first process of a container may take seconds over it."""
+    ctypes.CDLL(None, use_errno=True).prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0)
+
+
+adopt_orphans()
 
 
 class Failure(AssertionError):
     """A condition that did not come true."""
 
 
-def wait_until(condition, what, timeout=10.0):
+def wait_until(condition, what, timeout=LIMIT):
     """The first true answer of `condition`; Failure when none came in time."""
     end = time.monotonic() + timeout
     while True:
@@ -46,7 +59,7 @@ def same(actual, expected, what):
         raise Failure(f"{what}:\n  expected {expected!r:.400}\n  found    {actual!r:.400}")
 
 
-def run(*command, data=None, timeout=20):
+def run(*command, data=None, timeout=LIMIT):
     """Output of a command that is expected to succeed."""
     done = subprocess.run(command, input=data, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=timeout, check=True)
     return done.stdout
@@ -78,14 +91,20 @@ class Process:
         self.end_group()
 
     def end_group(self):
-        """Whoever outlives the one we started (an editor its private bus) would keep its window for the next test to find."""
+        """What outlives the one we started (an editor its private bus) would keep its window for the next test to find.
+
+        Such orphans are ours (adopt_orphans): reaped here, they are gone; the group lasts until the last one is."""
         end = time.monotonic() + 5
         while time.monotonic() < end:
             try:
                 os.killpg(self.pid, signal.SIGKILL)
             except ProcessLookupError:
                 return
-            time.sleep(0.005)
+            try:
+                os.waitpid(-self.pid, os.WNOHANG)
+            except ChildProcessError:
+                pass
+            time.sleep(0.002)
 
     def __enter__(self):
         return self
@@ -110,7 +129,7 @@ class Vellumry(Process):
         if ready:
             self.wait_ready()
 
-    def wait_ready(self, timeout=20):
+    def wait_ready(self, timeout=LIMIT):
         self.socket.settimeout(timeout)
         try:
             message = self.socket.recv(256)
@@ -139,7 +158,7 @@ def unsealed():
     return json.loads(text)
 
 
-def wait_for_clip(test, what, timeout=10.0):
+def wait_for_clip(test, what, timeout=LIMIT):
     """The first row for which `test` holds."""
 
     def find():
@@ -219,7 +238,7 @@ def window_of_class(name):
         found = done.stdout.decode().split()
         return found[-1] if found else None
 
-    return wait_until(find, f"a window of class {name}", 30)
+    return wait_until(find, f"a window of class {name}", 60)
 
 
 def focus(window):
@@ -235,7 +254,7 @@ def focus_under_new_manager(window):
         subprocess.run(["xdotool", "windowactivate", window], **QUIET)
         return active_window() == int(window) and focused_window() > 1
 
-    wait_until(obeyed, f"window {window} active under the new window manager", 20)
+    wait_until(obeyed, f"window {window} active under the new window manager", 60)
 
 
 def active_window():

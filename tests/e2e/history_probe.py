@@ -25,7 +25,7 @@ class HistoryProbe:
     def row_with(self, text):
         return next((row for row in self.rows() if text_of(row) == text), None)
 
-    def wait_for(self, text, timeout=10.0):
+    def wait_for(self, text, timeout=60.0):
         return wait_until(lambda: self.row_with(text), f"a clip of {text[:40]!r}", timeout)
 
     def copy_is_prompt(self, text):

@@ -17,7 +17,7 @@ def start_stack():
 
 
 def wait_ended():
-    wait_until(lambda: not is_running(), "the stack's bar to go", 15)
+    wait_until(lambda: not is_running(), "the stack's bar to go", 60)
 
 
 def remember(*texts):

@@ -57,7 +57,7 @@ class Terminal(Target):
         self.path = os.path.join(tempfile.mkdtemp(prefix="terminal"), "typed")
         inner = f"exec cat > {self.path}"
         self.start(self.window_class, *self.before, *self.wrapped(inner), env=fresh_home())
-        wait_until(lambda: os.path.exists(self.path), "the shell in the terminal", 30)
+        wait_until(lambda: os.path.exists(self.path), "the shell in the terminal", 60)
 
     def wrapped(self, inner):
         return ("-e", "sh", "-c", inner)
@@ -200,7 +200,7 @@ addEventListener('focus', () => area.focus()); area.addEventListener('focus', ()
         Process.__init__(self, "firefox-esr", "--new-instance", "--profile", folder, "--kiosk", "file://" + page, env=fresh_home())
         self.window = wait_until(lambda: (windows("^area:") or windows("^starting") or [None])[0], "the browser's page", 60)
         focus(self.window)
-        wait_until(lambda: windows("^area:"), "the page's text field", 30)
+        wait_until(lambda: windows("^area:"), "the page's text field", 60)
 
     def content(self):
         title = window_title(self.window)

@@ -56,7 +56,7 @@ def paste_under_new_layout(client, text, layout):
     for _ in range(5):
         key("super+alt+1")
         try:
-            wait_until(lambda: client.content() == text, f"the paste under {layout}", 3)
+            wait_until(lambda: client.content() == text, f"the paste under {layout}")
             return
         except Failure:
             continue
