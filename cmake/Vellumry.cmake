@@ -70,14 +70,28 @@ function(vellumry_library name)
   vellumry_use_precompiled(${name} vellumry_precompiled)
 endfunction()
 
-# vellumry_test(NAME SOURCES file… LINKS library…): one GoogleTest program; each of its tests is a CTest test of its own.
+# vellumry_test(NAME SOURCES file… LINKS library… [EACH_ALONE]): one GoogleTest program. Each of its suites is a CTest test; with
+# EACH_ALONE each of its tests is, in a process of its own. scripts/unit-tests runs them and counts every single one.
 function(vellumry_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;PROPERTIES" ${ARGN})
+  cmake_parse_arguments(ARG "EACH_ALONE" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   vellumry_target_defaults(${name})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} vellumry_test_support GTest::gtest GTest::gmock)
   vellumry_use_precompiled(${name} vellumry_precompiled_tests)
-  include(GoogleTest)
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ${ARG_PROPERTIES})
+  set(script ${CMAKE_CURRENT_BINARY_DIR}/${name}_suites.cmake)
+  add_custom_command(
+    TARGET ${name}
+    POST_BUILD
+    COMMAND
+      ${CMAKE_COMMAND} -D PROGRAM=$<TARGET_FILE:${name}> -D SCRIPT=${script} -D RESULTS=${PROJECT_BINARY_DIR}/test-results
+      -D EACH_ALONE=${ARG_EACH_ALONE} -D TIMEOUT=600 -P ${PROJECT_SOURCE_DIR}/cmake/AddSuites.cmake
+    BYPRODUCTS ${script}
+    VERBATIM)
+  add_dependencies(unit_tests ${name})
+  # What was not built fails by its name, as what was built and crashes does.
+  file(
+    WRITE ${CMAKE_CURRENT_BINARY_DIR}/${name}_include.cmake
+    "if(EXISTS \"${script}\")\n  include(\"${script}\")\nelse()\n  add_test(${name}_NOT_BUILT ${name}_NOT_BUILT)\nendif()\n")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}_include.cmake)
 endfunction()
