@@ -10,8 +10,6 @@ help: ## list the tasks
 	@grep -hE '^[a-z]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:.*## /\t/' | expand -t 12
 
 run: ## install what is missing, build, start the program (without a display: play the main job and leave pictures)
-	@scripts/install-deps
-	@$(MAKE) --no-print-directory build
 	@scripts/run
 
 test: ## install what is missing, build, run every test
