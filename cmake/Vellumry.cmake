@@ -95,3 +95,25 @@ function(vellumry_test name)
     "if(EXISTS \"${script}\")\n  include(\"${script}\")\nelse()\n  add_test(${name}_NOT_BUILT ${name}_NOT_BUILT)\nendif()\n")
   set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}_include.cmake)
 endfunction()
+
+# vellumry_qml_module(TARGET URI SINGLETONS file… FILES file…): the views of a library as the QML module URI, whose C++
+# types must be named by somebody (see src/views/QmlModules.h), or a linker leaves their registration out.
+function(vellumry_qml_module target uri)
+  cmake_parse_arguments(ARG "" "" "SINGLETONS;FILES" ${ARGN})
+  set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+  string(REPLACE "." "/" folder ${uri})
+  qt_add_qml_module(
+    ${target}
+    URI ${uri}
+    VERSION 1.0
+    RESOURCE_PREFIX /vellumry
+    OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/${folder}
+    IMPORT_PATH ${PROJECT_BINARY_DIR}/qml
+    DEPENDENCIES QtQml.Models
+    NO_PLUGIN
+    QML_FILES ${ARG_SINGLETONS} ${ARG_FILES})
+  # The registration of the types includes their headers by name alone.
+  target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+  # The code that Qt generates from QML shadows its own parameters.
+  target_compile_options(${target} PRIVATE -Wno-shadow)
+endfunction()

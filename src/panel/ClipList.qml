@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
 import QtQuick
+import Vellumry.Panel
+import Vellumry.Views
 
 // The rows, headers and clips alike. Delegates are made once and rebound: a keystroke creates nothing.
 ListView {
     id: list
 
-    required property var panel // PanelController's view of the model
+    required property PanelFacade panel
     property int hoveredRow: -1
     readonly property string help: panel.helpOf(hoveredRow)
     property alias askingTime: question.interval
@@ -27,7 +30,7 @@ ListView {
         panel.rowHovered(hoveredRow);
     }
     Accessible.role: Accessible.List
-    Accessible.name: panel.words("Clips")
+    Accessible.name: Views.words("Clips")
 
     Connections {
         target: list.panel
@@ -47,60 +50,9 @@ ListView {
         }
     }
 
-    delegate: Item {
-        id: line
-
-        required property int index
-        required property string header
-        required property bool isHeader
-        required property bool isFirst
-        required property string title
-        required property string sourceName
-        required property string imageMatch
-        required property string symbol
-        required property string thumbnail
-        required property string swatch
-        required property string pill
-        required property string numberKeys
-        required property string pinKeys
-        required property string pinHint
-        required property bool isPinned
-        required property bool isSelected
-        required property bool isSensitive
-
-        // Kept for reuse, it is no row: neither to be seen nor to be read out.
-        property bool isPooled: false
-        ListView.onPooled: isPooled = true
-        ListView.onReused: isPooled = false
-        visible: !isPooled
-        Accessible.ignored: isPooled
-
-        width: ListView.view.width
-        height: isHeader ? (header === "" ? 6 : Look.headerHeight) : Look.rowHeight
-        Accessible.role: isHeader ? Accessible.Heading : Accessible.ListItem
-        Accessible.name: isHeader ? header : title
-        Accessible.description: isHeader ? "" : pinHint === "" ? sourceName : sourceName + ", " + pinHint
-        Accessible.selected: isSelected
-        Accessible.selectable: !isHeader
-
-        Text {
-            visible: line.isHeader
-            anchors.left: parent.left
-            anchors.leftMargin: 18
-            anchors.bottom: parent.bottom
-            anchors.bottomMargin: 6
-            text: line.header
-            color: Look.secondary
-            font.pixelSize: Look.smallSize
-            font.weight: Font.DemiBold
-            renderType: Text.NativeRendering
-        }
-        ClipRow {
-            visible: !line.isHeader
-            width: parent.width
-            clip: line
-            isHovered: list.hoveredRow === line.index
-        }
+    delegate: ClipRow {
+        width: list.width
+        isHovered: list.hoveredRow === index
     }
 
     MouseArea {
@@ -111,8 +63,8 @@ ListView {
         property bool isKnown: false
         property int pressedRow: -1
 
-        function rowAt(mouse: var): int {
-            return list.indexAt(mouse.x, mouse.y + list.contentY);
+        function rowAt(x: real, y: real): int {
+            return list.indexAt(x, y + list.contentY);
         }
         function rest() {
             list.hoveredRow = -1;
@@ -128,27 +80,27 @@ ListView {
         onPositionChanged: mouse => {
             const place = mapToGlobal(mouse.x, mouse.y);
             if (isKnown && (place.x !== restingAt.x || place.y !== restingAt.y))
-                list.hoveredRow = rowAt(mouse);
+                list.hoveredRow = rowAt(mouse.x, mouse.y);
             restingAt = place;
             isKnown = true;
         }
         onExited: rest()
         onPressed: mouse => {
-            pressedRow = rowAt(mouse);
+            pressedRow = rowAt(mouse.x, mouse.y);
             list.panel.rowPressed(pressedRow, mouse.modifiers);
         }
         onReleased: list.panel.rowReleased(pressedRow)
-        onDoubleClicked: mouse => list.panel.rowDoubleClicked(rowAt(mouse))
+        onDoubleClicked: mouse => list.panel.rowDoubleClicked(rowAt(mouse.x, mouse.y))
     }
 
     HoverRest {
         id: question
         isHovered: list.help !== ""
     }
-    HelpBubble {
+    Tooltip {
         readonly property Item row: question.isAsking ? list.itemAtIndex(list.hoveredRow) : null
         readonly property real rowTop: row === null ? 0 : row.y - list.contentY
-        readonly property real below: rowTop + Look.rowHeight
+        readonly property real below: rowTop + Theme.rowHeight
 
         z: 1
         anchors.right: parent.right
@@ -165,7 +117,7 @@ ListView {
         anchors.rightMargin: 2
         width: 4
         radius: 2
-        color: Look.capEdge
+        color: Theme.capEdge
         y: list.visibleArea.yPosition * list.height
         height: Math.max(24, list.visibleArea.heightRatio * list.height)
     }

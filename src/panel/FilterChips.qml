@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
 import QtQuick
+import Vellumry.Panel
+import Vellumry.Views
 
 // One chip a filter, with how many clips it lets through.
 Row {
     id: chips
 
-    required property var panel
+    required property PanelFacade panel
 
     spacing: 6
 
@@ -16,40 +19,39 @@ Row {
             id: chip
 
             required property int index
-            required property var modelData
+            required property string title
+            required property string count
             readonly property bool isCurrent: chips.panel.filter === index
 
-            width: label.implicitWidth + count.implicitWidth + 28
+            width: label.implicitWidth + number.implicitWidth + 28
             height: 26
             radius: 13
-            color: isCurrent ? Look.selected : area.containsMouse ? Look.hovered : "transparent"
+            color: isCurrent ? Theme.selected : area.containsMouse ? Theme.hovered : "transparent"
             border.width: 1
-            border.color: isCurrent ? Look.selected : Look.line
+            border.color: isCurrent ? Theme.selected : Theme.line
             Accessible.role: Accessible.RadioButton
-            Accessible.name: modelData.title
+            Accessible.name: title
             Accessible.checked: isCurrent
             Accessible.onPressAction: chips.panel.filter = index
 
-            Text {
+            Label {
                 id: label
                 anchors.left: parent.left
                 anchors.leftMargin: 11
                 anchors.verticalCenter: parent.verticalCenter
-                text: chip.modelData.title
-                color: chip.isCurrent ? Look.accent : Look.text
+                text: chip.title
+                color: chip.isCurrent ? Theme.accent : Theme.text
                 font.pixelSize: 12
                 font.weight: Font.Medium
-                renderType: Text.NativeRendering
             }
-            Text {
-                id: count
+            Label {
+                id: number
                 anchors.left: label.right
                 anchors.leftMargin: 6
                 anchors.verticalCenter: parent.verticalCenter
-                text: chip.modelData.count
-                color: chip.isCurrent ? Look.accent : Look.secondary
+                text: chip.count
+                color: chip.isCurrent ? Theme.accent : Theme.secondary
                 font.pixelSize: 12
-                renderType: Text.NativeRendering
             }
             MouseArea {
                 id: area

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
 import QtQuick
+import Vellumry.Panel
+import Vellumry.Views
 
 // How much there is, and what the keys do.
 Item {
     id: footer
 
-    required property var panel
+    required property PanelFacade panel
 
     height: 34
 
@@ -13,20 +16,17 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         height: 1
-        color: Look.line
+        color: Theme.line
     }
-    Text {
+    Label {
         anchors.left: parent.left
         anchors.leftMargin: 18
         anchors.right: hints.left
         anchors.rightMargin: 10
         anchors.verticalCenter: parent.verticalCenter
         text: footer.panel.countText
-        color: Look.secondary
-        font.pixelSize: Look.footerSize
-        elide: Text.ElideRight
-        horizontalAlignment: Text.AlignLeft
-        renderType: Text.NativeRendering
+        color: Theme.secondary
+        font.pixelSize: Theme.footerSize
         Accessible.role: Accessible.StaticText
         Accessible.name: text
     }
@@ -42,20 +42,20 @@ Item {
 
             Row {
                 id: hint
-                required property var modelData
+                required property string keys
+                required property string text
                 spacing: 4
 
                 Keycap {
                     anchors.verticalCenter: parent.verticalCenter
-                    text: hint.modelData.keys
+                    text: hint.keys
                     size: 10
                 }
-                Text {
+                Label {
                     anchors.verticalCenter: parent.verticalCenter
-                    text: hint.modelData.text
-                    color: Look.secondary
-                    font.pixelSize: Look.footerSize
-                    renderType: Text.NativeRendering
+                    text: hint.text
+                    color: Theme.secondary
+                    font.pixelSize: Theme.footerSize
                 }
             }
         }

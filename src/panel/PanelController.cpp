@@ -2,7 +2,8 @@
 #include "panel/PanelController.h"
 
 #include "history/clips/ClipStore.h"
-#include "panel/ThumbnailProvider.h"
+#include "views/QmlModules.h"
+#include "views/ThumbnailProvider.h"
 
 #include <QCursor>
 #include <QPainterPath>
@@ -65,6 +66,7 @@ PanelController::~PanelController() {
 }
 
 void PanelController::makeView() {
+    keepQmlModule(&qml_register_types_Vellumry_Panel);
     m_view = m_views->makeWindow(QStringLiteral("Vellumry"));
     m_view->setColor(Qt::transparent);
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);

@@ -4,8 +4,8 @@
 #include "panel/PanelFacade.h"
 #include "panel/PanelModel.h"
 #include "panel/PanelPlacement.h"
-#include "panel/ViewEngine.h"
 #include "platform/display/PanelSurface.h"
+#include "views/ViewEngine.h"
 
 #include <QObject>
 #include <QPropertyAnimation>

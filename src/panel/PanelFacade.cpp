@@ -19,37 +19,15 @@ using namespace std::chrono_literals;
 /// As long as the rows of a hidden panel may show what was deleted.
 constexpr auto catchUpDelay = 500ms;
 
-QVariantMap hint(const QString& keys, const QString& text) {
-    return {{QStringLiteral("keys"), keys}, {QStringLiteral("text"), text}};
-}
-
-QString titleOf(ClipFilter filter) {
-    switch (filter) {
-    case ClipFilter::all:
-        return localised("All");
-    case ClipFilter::text:
-        return localised("Text");
-    case ClipFilter::links:
-        return localised("Links");
-    case ClipFilter::images:
-        return localised("Images");
-    case ClipFilter::files:
-        return localised("Files");
-    case ClipFilter::colors:
-        return localised("Colors");
-    case ClipFilter::pinned:
-        return localised("Pinned");
-    }
-    return QString();
-}
-
 } // namespace
 
 PanelFacade::PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::function<QString()> openPanelKeys)
     : m_model(&model)
     , m_pasteboard(pasteboard)
     , m_openPanelKeys(std::move(openPanelKeys))
-    , m_rows(model, {localised("⌘") + QStringLiteral("%1"), localised("⌃") + localised("⌥") + QStringLiteral("%1")}) {
+    , m_rows(model, {localised("⌘") + QStringLiteral("%1"), localised("⌃") + localised("⌥") + QStringLiteral("%1")})
+    , m_filters(model) {
+    tellHints();
     connect(m_model, &PanelModel::queryChanged, this, [this] {
         m_typed.reset();
         Q_EMIT queryChanged();
@@ -63,10 +41,6 @@ PanelFacade::PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::functio
     connect(&m_rows, &PanelListModel::fellBehind, &m_catchUp, qOverload<>(&QTimer::start));
     connect(m_model, &PanelModel::focusTokenChanged, this, &PanelFacade::focusTokenChanged);
     connect(m_model, &PanelModel::transformChanged, this, &PanelFacade::transformChanged);
-}
-
-QString PanelFacade::words(const QString& key) const {
-    return localised(key.toUtf8().constData());
 }
 
 void PanelFacade::setQuery(const QString& text) {
@@ -152,14 +126,16 @@ void PanelFacade::setDormant(bool isDormant) {
 void PanelFacade::catchUp() {
     m_catchUp.stop();
     m_rows.catchUp();
+    m_filters.refresh();
     Q_EMIT contentChanged();
     Q_EMIT primaryRowChanged();
-    Q_EMIT hintsChanged();
+    tellHints();
 }
 
 void PanelFacade::tellContent() {
     if (m_rows.isDormant())
         return;
+    m_filters.refresh();
     Q_EMIT contentChanged();
     Q_EMIT primaryRowChanged();
 }
@@ -168,7 +144,7 @@ void PanelFacade::tellSelection() {
     if (m_rows.isDormant())
         return;
     Q_EMIT primaryRowChanged();
-    Q_EMIT hintsChanged();
+    tellHints();
 }
 
 void PanelFacade::rowHovered(int row) {
@@ -220,14 +196,6 @@ bool PanelFacade::hasQuery() const {
     return !text::isBlank(m_model->query());
 }
 
-QVariantList PanelFacade::filters() const {
-    QVariantList list;
-    for (const ClipFilter filter : allClipFilters)
-        list.append(QVariantMap{{QStringLiteral("title"), titleOf(filter)},
-                                {QStringLiteral("count"), QLocale().toString(m_model->count(filter))}});
-    return list;
-}
-
 QStringList PanelFacade::emptyLines() const {
     if (hasQuery())
         return {localised("No clips match “") + m_model->query() + QStringLiteral("”")};
@@ -241,15 +209,15 @@ QString PanelFacade::countText() const {
     return QLocale().toString(m_model->count(ClipFilter::all)) + localised(" clips · encrypted on this Mac");
 }
 
-QVariantList PanelFacade::hints() const {
+void PanelFacade::tellHints() {
     const bool several = m_model->selectedCount() > 1;
-    return {
-        hint(QStringLiteral("↑↓"), localised("Choose")),
-        hint(localised("↩"), several ? localised("Merge & paste") : localised("Paste")),
-        hint(localised("⇧↩"), localised("Plain text")),
-        hint(localised("⌘") + QLatin1Char('T'), localised("Transform")),
-        hint(localised("⌘⌫"), localised("Delete")),
-    };
+    m_hints.setHints({
+        {QStringLiteral("↑↓"), localised("Choose")},
+        {localised("↩"), several ? localised("Merge & paste") : localised("Paste")},
+        {localised("⇧↩"), localised("Plain text")},
+        {localised("⌘") + QLatin1Char('T'), localised("Transform")},
+        {localised("⌘⌫"), localised("Delete")},
+    });
 }
 
 QStringList PanelFacade::transforms() const {

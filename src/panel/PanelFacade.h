@@ -2,6 +2,8 @@
 #pragma once
 
 #include "panel/FieldPasteboard.h"
+#include "panel/FilterListModel.h"
+#include "panel/HintListModel.h"
 #include "panel/PanelListModel.h"
 #include "panel/PanelModel.h"
 
@@ -10,9 +12,9 @@
 #include <QPointer>
 #include <QStringList>
 #include <QTimer>
-#include <QVariant>
 #include <functional>
 #include <optional>
+#include <qqmlregistration.h>
 
 namespace vellumry {
 
@@ -21,15 +23,17 @@ class PasteStack;
 /// What the panel's QML sees: the model in words and rows, and the raw input handed back to it. Main thread.
 class PanelFacade : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("belongs to the panel's controller")
     Q_PROPERTY(QAbstractItemModel* rows READ rows CONSTANT)
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
     Q_PROPERTY(bool hasQuery READ hasQuery NOTIFY queryChanged)
     Q_PROPERTY(int filter READ filter WRITE setFilter NOTIFY filterChanged)
-    Q_PROPERTY(QVariantList filters READ filters NOTIFY contentChanged)
+    Q_PROPERTY(QAbstractItemModel* filters READ filters CONSTANT)
     Q_PROPERTY(bool hasRows READ hasRows NOTIFY contentChanged)
     Q_PROPERTY(QStringList emptyLines READ emptyLines NOTIFY contentChanged)
     Q_PROPERTY(QString countText READ countText NOTIFY contentChanged)
-    Q_PROPERTY(QVariantList hints READ hints NOTIFY hintsChanged)
+    Q_PROPERTY(QAbstractItemModel* hints READ hints CONSTANT)
     Q_PROPERTY(int primaryRow READ primaryRow NOTIFY primaryRowChanged)
     Q_PROPERTY(int focusToken READ focusToken NOTIFY focusTokenChanged)
     Q_PROPERTY(bool isTransformListOpen READ isTransformListOpen NOTIFY transformChanged)
@@ -42,7 +46,6 @@ public:
     /// `openPanelKeys` answers the words for the shortcut that opens the panel.
     PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::function<QString()> openPanelKeys);
 
-    Q_INVOKABLE [[nodiscard]] QString words(const QString& key) const;
     /// True when the key was the panel's. `scanCode`: the native one.
     Q_INVOKABLE bool keyPressed(int key, int modifiers, quint32 scanCode, bool hasTextSelection);
     /// Asks for what was copied; `pasted` tells it, now or later, or never.
@@ -69,11 +72,11 @@ public:
     [[nodiscard]] bool hasQuery() const;
     [[nodiscard]] int filter() const { return m_model->filterIndex(); }
     void setFilter(int filter);
-    [[nodiscard]] QVariantList filters() const;
+    [[nodiscard]] QAbstractItemModel* filters() { return &m_filters; }
     [[nodiscard]] bool hasRows() const { return m_rows.rowCount() > 0; }
     [[nodiscard]] QStringList emptyLines() const;
     [[nodiscard]] QString countText() const;
-    [[nodiscard]] QVariantList hints() const;
+    [[nodiscard]] QAbstractItemModel* hints() { return &m_hints; }
     [[nodiscard]] int primaryRow() const { return m_rows.primaryRow(); }
     [[nodiscard]] int focusToken() const { return m_model->focusToken(); }
     [[nodiscard]] bool isTransformListOpen() const { return m_model->isTransformListOpen(); }
@@ -102,7 +105,6 @@ Q_SIGNALS:
     void queryChanged();
     void filterChanged();
     void contentChanged();
-    void hintsChanged();
     void primaryRowChanged();
     void focusTokenChanged();
     void transformChanged();
@@ -114,6 +116,7 @@ Q_SIGNALS:
 
 private:
     void searchTyped();
+    void tellHints();
     void catchUp();
     void tellContent();
     void tellSelection();
@@ -124,6 +127,8 @@ private:
     FieldPasteboard m_pasteboard;
     std::function<QString()> m_openPanelKeys;
     PanelListModel m_rows;
+    FilterListModel m_filters;
+    HintListModel m_hints;
     QTimer m_catchUp;
     QPointer<PasteStack> m_stack;
     std::optional<QString> m_typed; ///< and not yet searched for

@@ -120,8 +120,6 @@ QVariant PanelListModel::data(const QModelIndex& index, int role) const {
     const Row& row = m_rows[static_cast<std::size_t>(index.row())];
     if (role == IsHeaderRole)
         return !row.clip;
-    if (role == IsFirstRole)
-        return index.row() == 0;
     return row.clip ? clipValue(*row.clip, role) : headerValue(row, role);
 }
 
@@ -204,14 +202,11 @@ QString PanelListModel::keysOf(const QHash<QUuid, int>& numbers, const Clip& cli
 
 QHash<int, QByteArray> PanelListModel::roleNames() const {
     return {
-        {HeaderRole, "header"},         {IsHeaderRole, "isHeader"},
-        {IsFirstRole, "isFirst"},       {TitleRole, "title"},
-        {SourceNameRole, "sourceName"}, {ImageMatchRole, "imageMatch"},
-        {SymbolRole, "symbol"},         {ThumbnailRole, "thumbnail"},
-        {SwatchRole, "swatch"},         {PillRole, "pill"},
-        {NumberKeysRole, "numberKeys"}, {PinKeysRole, "pinKeys"},
-        {PinHintRole, "pinHint"},       {IsPinnedRole, "isPinned"},
-        {IsSelectedRole, "isSelected"}, {IsSensitiveRole, "isSensitive"},
+        {HeaderRole, "header"},         {IsHeaderRole, "isHeader"},     {TitleRole, "title"},
+        {SourceNameRole, "sourceName"}, {ImageMatchRole, "imageMatch"}, {SymbolRole, "symbol"},
+        {ThumbnailRole, "thumbnail"},   {SwatchRole, "swatch"},         {PillRole, "pill"},
+        {NumberKeysRole, "numberKeys"}, {PinKeysRole, "pinKeys"},       {PinHintRole, "pinHint"},
+        {IsPinnedRole, "isPinned"},     {IsSelectedRole, "isSelected"}, {IsSensitiveRole, "isSensitive"},
     };
 }
 

@@ -19,7 +19,6 @@ public:
     enum Role {
         HeaderRole = Qt::UserRole + 1,
         IsHeaderRole,
-        IsFirstRole,
         TitleRole,
         SourceNameRole,
         ImageMatchRole,

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
 import QtQuick
+import Vellumry.Panel
+import Vellumry.Views
 
 // The panel: search above, chips, the list, what the keys do below. `shadowMargin` is the room around it for its shadow.
 Item {
     id: root
 
-    required property var panel
+    required property PanelFacade panel
     readonly property int shadowMargin: panel.shadowMargin
-    readonly property color cornerColour: Look.edge
+    readonly property color cornerColour: Theme.edge
 
     LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
@@ -27,9 +30,9 @@ Item {
         id: board
         anchors.fill: parent
         anchors.margins: root.shadowMargin
-        radius: Look.radius
-        color: Look.ground
-        border.color: Look.edge
+        radius: Theme.radius
+        color: Theme.ground
+        border.color: Theme.edge
         border.width: 1
         Accessible.role: Accessible.Dialog
         Accessible.name: "Vellumry"
@@ -77,7 +80,7 @@ Item {
             anchors.top: field.bottom
             anchors.topMargin: 14
             height: 1
-            color: Look.line
+            color: Theme.line
         }
         FilterChips {
             id: chips
@@ -112,7 +115,7 @@ Item {
             anchors.bottomMargin: 8
             visible: root.panel.isTransformListOpen
         }
-        HelpBubble {
+        Tooltip {
             anchors.right: stackButton.right
             anchors.top: stackButton.bottom
             anchors.topMargin: 6

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
 import QtQuick
+import Vellumry.Views
 
 // What a clip looks like in small: its picture, its colour, or the symbol of its kind.
 Rectangle {
@@ -14,15 +16,15 @@ Rectangle {
     width: size
     height: size
     radius: 7
-    color: swatch !== "" ? swatch : isSelected ? Look.selectedTile : Look.tile
+    color: swatch !== "" ? swatch : isSelected ? Theme.selectedTile : Theme.tile
     border.width: swatch !== "" ? 1 : 0
-    border.color: Look.edge
+    border.color: Theme.edge
 
     Symbol {
         anchors.centerIn: parent
         visible: icon.thumbnail === "" && icon.swatch === ""
         name: visible ? icon.symbol : ""
-        tint: icon.isSelected ? Look.accent : Look.secondary
+        tint: icon.isSelected ? Theme.accent : Theme.secondary
         size: 18
     }
     Image {

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
 import QtQuick
+import Vellumry.Views
 
 // Starts or stops the Paste Stack.
 Rectangle {
     id: button
 
     property bool isOn: false
-    readonly property string help: isOn ? views.words("Stop Paste Stack (⌃⌘S)") : views.words("Paste Stack: copy several things, every ⌘V pastes the next (⌃⌘S)")
+    readonly property string help: isOn ? Views.words("Stop Paste Stack (⌃⌘S)") : Views.words("Paste Stack: copy several things, every ⌘V pastes the next (⌃⌘S)")
     readonly property alias isAsking: rest.isAsking
     property alias askingTime: rest.interval
     signal action
@@ -14,11 +16,11 @@ Rectangle {
     width: 10 + picture.width + 6 + Math.ceil(label.implicitWidth) + 12
     height: 28
     radius: 14
-    color: isOn ? Look.selected : area.containsPress ? Look.capEdge : area.containsMouse ? Look.tile : "transparent"
+    color: isOn ? Theme.selected : area.containsPress ? Theme.capEdge : area.containsMouse ? Theme.tile : "transparent"
     border.width: 1
-    border.color: isOn ? Look.selected : Look.line
+    border.color: isOn ? Theme.selected : Theme.line
     Accessible.role: Accessible.Button
-    Accessible.name: views.words("Stack")
+    Accessible.name: Views.words("Stack")
     Accessible.description: help
     Accessible.checkable: true
     Accessible.checked: isOn
@@ -30,19 +32,17 @@ Rectangle {
         anchors.leftMargin: 10
         anchors.verticalCenter: parent.verticalCenter
         name: "square.stack.3d.up"
-        tint: button.isOn ? Look.accent : Look.secondary
+        tint: button.isOn ? Theme.accent : Theme.secondary
         size: 16
     }
-    Text {
+    Label {
         id: label
         anchors.left: picture.right
         anchors.leftMargin: 6
         anchors.verticalCenter: parent.verticalCenter
-        text: views.words("Stack")
-        color: button.isOn ? Look.accent : Look.text
-        font.pixelSize: Look.smallSize
+        text: Views.words("Stack")
+        color: button.isOn ? Theme.accent : Theme.text
         font.weight: Font.Medium
-        renderType: Text.NativeRendering
     }
     HoverRest {
         id: rest

@@ -1,20 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
 import QtQuick
+import Vellumry.Panel
+import Vellumry.Views
 
 // What the chosen text can be turned into while it is pasted.
 Rectangle {
     id: list
 
-    required property var panel
+    required property PanelFacade panel
 
     width: 230
     height: entries.implicitHeight + 12
     radius: 10
-    color: Look.ground
-    border.color: Look.edge
+    color: Theme.ground
+    border.color: Theme.edge
     border.width: 1
     Accessible.role: Accessible.PopupMenu
-    Accessible.name: panel.words("Transform")
+    Accessible.name: Views.words("Transform")
 
     Column {
         id: entries
@@ -36,19 +39,18 @@ Rectangle {
                 width: entries.width
                 height: 30
                 radius: 6
-                color: isCurrent ? Look.selected : area.containsMouse ? Look.hovered : "transparent"
+                color: isCurrent ? Theme.selected : area.containsMouse ? Theme.hovered : "transparent"
                 Accessible.role: Accessible.MenuItem
                 Accessible.name: modelData
                 Accessible.focused: isCurrent
 
-                Text {
+                Label {
                     anchors.left: parent.left
                     anchors.leftMargin: 10
                     anchors.verticalCenter: parent.verticalCenter
                     text: entry.modelData
-                    color: entry.isCurrent ? Look.accent : Look.text
+                    color: entry.isCurrent ? Theme.accent : Theme.text
                     font.pixelSize: 13
-                    renderType: Text.NativeRendering
                 }
                 MouseArea {
                     id: area

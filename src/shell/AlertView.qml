@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
 import QtQuick
-import Vellumry.Panel
+import Vellumry.Views
 
 // A title, a sentence or two, one button.
 Rectangle {
@@ -13,7 +14,7 @@ Rectangle {
 
     width: 440
     height: column.implicitHeight + 48
-    color: Look.ground
+    color: Theme.ground
 
     Column {
         id: column
@@ -25,23 +26,25 @@ Rectangle {
         }
         spacing: 10
 
-        Text {
+        Label {
             width: parent.width
             text: root.title
-            color: Look.text
+            color: Theme.text
             font.pixelSize: 17
             font.weight: Font.DemiBold
             wrapMode: Text.WordWrap
+            elide: Text.ElideNone
             Accessible.role: Accessible.Heading
             Accessible.name: text
         }
-        Text {
+        Label {
             width: parent.width
             text: root.message
-            color: Look.secondary
+            color: Theme.secondary
             font.pixelSize: 14
             lineHeight: 1.25
             wrapMode: Text.WordWrap
+            elide: Text.ElideNone
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }
@@ -68,7 +71,7 @@ Rectangle {
                 Keys.onSpacePressed: root.answered()
                 Keys.onEscapePressed: root.answered()
 
-                Text {
+                Label {
                     id: label
                     anchors.centerIn: parent
                     text: root.button

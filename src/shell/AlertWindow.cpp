@@ -2,7 +2,7 @@
 #include "shell/AlertWindow.h"
 
 #include "foundation/Localisation.h"
-#include "panel/ViewEngine.h"
+#include "views/ViewEngine.h"
 
 #include <QEvent>
 #include <QQuickItem>
@@ -16,7 +16,7 @@ AlertWindow::AlertWindow(const StartupAlert& alert, ViewEngine& views)
     m_view->setInitialProperties({{QStringLiteral("title"), alert.title},
                                   {QStringLiteral("message"), alert.text},
                                   {QStringLiteral("button"), localised("OK")}});
-    m_view->setSource(QUrl(QStringLiteral("qrc:/vellumry/shell/AlertView.qml")));
+    m_view->setSource(QUrl(QStringLiteral("qrc:/vellumry/Vellumry/Shell/AlertView.qml")));
     m_view->installEventFilter(this);
     if (QQuickItem* root = m_view->rootObject())
         connect(root, SIGNAL(answered()), m_view.get(), SLOT(close()));

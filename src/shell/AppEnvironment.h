@@ -4,7 +4,6 @@
 #include "capture/ClipboardWatcher.h"
 #include "history/clips/ClipStore.h"
 #include "panel/PanelController.h"
-#include "panel/ViewEngine.h"
 #include "paste/HotKeyCenter.h"
 #include "paste/PasteEngine.h"
 #include "paste/ShortcutRegistrations.h"
@@ -16,6 +15,7 @@
 #include "shell/StackHUDController.h"
 #include "shell/TextReading.h"
 #include "shell/ToastController.h"
+#include "views/ViewEngine.h"
 
 #include <QCoroTask>
 #include <QObject>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-import Vellumry.Panel
+import Vellumry.Views
 
-// A help text in a window of its own.
-HelpBubble {}
+// A tooltip in a window of its own.
+Tooltip {}

@@ -4,6 +4,7 @@
 #include "foundation/Localisation.h"
 #include "paste/PasteStack.h"
 #include "shell/TimerAlarm.h"
+#include "views/QmlModules.h"
 
 #include <QQuickItem>
 #include <chrono>
@@ -28,16 +29,19 @@ StackHUDController::StackHUDController(PasteStack& stack, PanelSurface& surface,
 
 StackHUDController::StackHUDController(PasteStack& stack, PanelSurface& surface, ViewEngine& views,
                                        std::unique_ptr<Alarm> alarm)
-    : m_stack(&stack)
+    : m_model(stack)
     , m_surface(&surface)
     , m_window(surface, views,
                {localised("Paste Stack"),
-                QStringLiteral("qrc:/vellumry/shell/StackHUDView.qml"),
-                {{QStringLiteral("stack"), QVariant::fromValue<QObject*>(&stack)}},
+                QStringLiteral("qrc:/vellumry/Vellumry/Shell/StackHUDView.qml"),
+                {{QStringLiteral("stack"), QVariant::fromValue(&m_model)}},
                 false})
-    , m_help(surface, views,
-             {QStringLiteral("Vellumry help"), QStringLiteral("qrc:/vellumry/shell/HelpView.qml"), {}, true, 8})
+    , m_help(
+          surface, views,
+          {QStringLiteral("Vellumry help"), QStringLiteral("qrc:/vellumry/Vellumry/Shell/HelpView.qml"), {}, true, 8})
     , m_hide(std::move(alarm)) {
+    keepQmlModule(&qml_register_types_Vellumry_Shell);
+    connect(&m_model, &StackHUDModel::stopped, this, [this] { onStop(); });
     connect(&m_window, &PassiveWindow::wantedSizeChanged, this, &StackHUDController::place);
 }
 
@@ -45,8 +49,6 @@ void StackHUDController::show() {
     m_hide->cancel();
     QQuickItem& root = m_window.root();
     if (!m_isConnected) {
-        connect(&root, SIGNAL(reversed()), this, SLOT(turnAround()));
-        connect(&root, SIGNAL(stopped()), this, SLOT(stopPressed()));
         connect(&root, SIGNAL(helpChanged()), this, SLOT(helpChanged()));
         m_isConnected = true;
     }
@@ -67,14 +69,6 @@ void StackHUDController::hide() {
     m_hide->cancel();
     m_help.hide();
     m_window.disappear(fade);
-}
-
-void StackHUDController::turnAround() {
-    m_stack->setReversed(!m_stack->isReversed());
-}
-
-void StackHUDController::stopPressed() {
-    onStop();
 }
 
 void StackHUDController::helpChanged() {

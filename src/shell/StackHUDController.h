@@ -2,7 +2,8 @@
 #pragma once
 
 #include "shell/Alarm.h"
-#include "shell/PassiveWindow.h"
+#include "shell/StackHUDModel.h"
+#include "views/PassiveWindow.h"
 
 #include <QObject>
 #include <functional>
@@ -36,15 +37,13 @@ public:
     std::function<void()> onStop = [] {};
 
 private Q_SLOTS:
-    void turnAround();
-    void stopPressed();
     void helpChanged();
 
 private:
     void place();
     [[nodiscard]] QRect wantedFrame();
 
-    PasteStack* m_stack;
+    StackHUDModel m_model;
     PanelSurface* m_surface;
     PassiveWindow m_window;
     PassiveWindow m_help;

@@ -34,8 +34,9 @@ ToastController::ToastController(PanelSurface& surface, ViewEngine& views)
     : ToastController(surface, views, std::make_unique<TimerAlarm>()) {}
 
 ToastController::ToastController(PanelSurface& surface, ViewEngine& views, std::unique_ptr<Alarm> alarm)
-    : m_window(surface, views,
-               {QStringLiteral("Vellumry message"), QStringLiteral("qrc:/vellumry/shell/ToastView.qml"), {}, true})
+    : m_window(
+          surface, views,
+          {QStringLiteral("Vellumry message"), QStringLiteral("qrc:/vellumry/Vellumry/Shell/ToastView.qml"), {}, true})
     , m_hide(std::move(alarm)) {}
 
 void ToastController::show(const ToastMessage& message, double seconds, const std::optional<ScreenPlace>& screen) {

@@ -3,7 +3,7 @@
 
 #include "paste/ToastMessage.h"
 #include "shell/Alarm.h"
-#include "shell/PassiveWindow.h"
+#include "views/PassiveWindow.h"
 
 #include <memory>
 

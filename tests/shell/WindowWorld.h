@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "panel/ViewEngine.h"
 #include "support/FakeAlarm.h"
 #include "support/FakePanelSurface.h"
 #include "support/ShownTexts.h"
+#include "views/ViewEngine.h"
 
 #include <QPropertyAnimation>
 #include <QQuickItem>

@@ -11,10 +11,9 @@ class QQuickView;
 namespace vellumry {
 
 /// What all windows of the program are drawn with: one QML engine, made when the first window needs it, and the choice
-/// between light and dark. QML sees it as `views`. Outlives every window that it made. Main thread.
+/// between light and dark. QML sees it as `Views`. Outlives every window that it made. Main thread.
 class ViewEngine : public QObject {
     Q_OBJECT
-    Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
 
 public:
     enum class Appearance { system, light, dark };
@@ -29,9 +28,6 @@ public:
     void setAppearance(Appearance appearance);
     /// The user's choice, else the desktop's.
     [[nodiscard]] bool isDark() const { return m_isDark; }
-
-    /// `key` in the user's language.
-    Q_INVOKABLE [[nodiscard]] QString words(const QString& key) const;
 
 Q_SIGNALS:
     void darkChanged();

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panel/ViewEngine.h"
+#include "views/ViewEngine.h"
 
-#include "foundation/Localisation.h"
-#include "panel/SymbolProvider.h"
+#include "views/QmlModules.h"
+#include "views/SymbolProvider.h"
 
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPalette>
-#include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickView>
 
@@ -22,10 +21,10 @@ ViewEngine::~ViewEngine() = default;
 
 QQmlEngine& ViewEngine::engine() {
     if (!m_engine) {
-        m_engine = std::make_unique<QQmlEngine>();
+        keepQmlModule(&qml_register_types_Vellumry_Views);
+        m_engine = std::make_unique<QQmlEngine>(this);
         m_engine->addImportPath(QStringLiteral("qrc:/vellumry"));
         m_engine->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
-        m_engine->rootContext()->setContextProperty(QStringLiteral("views"), this);
     }
     return *m_engine;
 }
@@ -39,10 +38,6 @@ std::unique_ptr<QQuickView> ViewEngine::makeWindow(const QString& title) {
 void ViewEngine::setAppearance(Appearance appearance) {
     m_appearance = appearance;
     resolve();
-}
-
-QString ViewEngine::words(const QString& key) const {
-    return localised(key.toUtf8().constData());
 }
 
 bool ViewEngine::eventFilter(QObject* watched, QEvent* event) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
 import QtQuick
 
 // A small coloured label.
@@ -6,22 +7,21 @@ Rectangle {
     id: pill
 
     property string text
-    property color tint: Look.warning
+    property color tint: Theme.warning
     property bool onAccent: false
 
     width: label.implicitWidth + 14
     height: 18
     radius: 9
     color: "transparent"
-    border.color: onAccent ? Look.text : tint
+    border.color: onAccent ? Theme.text : tint
     border.width: 1
 
-    Text {
+    Label {
         id: label
         anchors.centerIn: parent
         text: pill.text
-        color: pill.onAccent ? Look.text : pill.tint
+        color: pill.onAccent ? Theme.text : pill.tint
         font.pixelSize: 11
-        renderType: Text.NativeRendering
     }
 }

@@ -1,32 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
 import QtQuick
 
 // What a button does, in a sentence.
 Rectangle {
-    id: bubble
+    id: tooltip
 
     property string text
-    readonly property color cornerColour: Look.capEdge
+    readonly property color cornerColour: Theme.capEdge
 
     width: words.width + 20
     height: Math.ceil(words.implicitHeight) + 12
-    radius: Look.rowRadius
-    color: Look.cap
+    radius: Theme.rowRadius
+    color: Theme.cap
     border.width: 1
-    border.color: Look.capEdge
+    border.color: Theme.capEdge
     Accessible.role: Accessible.ToolTip
     Accessible.name: text
 
-    Text {
+    Label {
         id: words
         anchors.centerIn: parent
         width: Math.min(Math.ceil(implicitWidth), 360)
-        text: bubble.text
-        textFormat: Text.PlainText
+        text: tooltip.text
         wrapMode: Text.Wrap
-        color: Look.text
-        font.pixelSize: Look.smallSize
-        horizontalAlignment: Text.AlignLeft
-        renderType: Text.NativeRendering
+        elide: Text.ElideNone
     }
 }

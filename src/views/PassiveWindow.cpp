@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/PassiveWindow.h"
+#include "views/PassiveWindow.h"
 
-#include "panel/ViewEngine.h"
+#include "views/ViewEngine.h"
 
 #include <QColor>
 #include <QPainterPath>

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panel/SymbolProvider.h"
+#include "views/SymbolProvider.h"
+
+#include "foundation/Logging.h"
 
 #include <QFile>
 #include <QPainter>
@@ -21,8 +23,10 @@ QImage drawn(const QString& name, const QColor& tint, const QSize& size) {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QSvgRenderer renderer(pathOf(name));
-    if (!renderer.isValid())
+    if (!renderer.isValid()) {
+        qCWarning(logging::views) << "there is no symbol" << name;
         return image;
+    }
     QPainter painter(&image);
     renderer.render(&painter, QRectF(QPointF(), QSizeF(size)));
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
 import QtQuick
 
 // One key or chord, drawn as a cap.
@@ -12,17 +13,16 @@ Rectangle {
     width: Math.max(height, label.implicitWidth + 10)
     height: 18
     radius: 4
-    color: inverted ? "transparent" : Look.cap
-    border.color: inverted ? Look.accent : Look.capEdge
+    color: inverted ? "transparent" : Theme.cap
+    border.color: inverted ? Theme.accent : Theme.capEdge
     border.width: 1
 
-    Text {
+    Label {
         id: label
         anchors.centerIn: parent
         text: cap.text
-        color: cap.inverted ? Look.accent : Look.secondary
+        color: cap.inverted ? Theme.accent : Theme.secondary
         font.pixelSize: cap.size
         font.weight: Font.Medium
-        renderType: Text.NativeRendering
     }
 }

@@ -4,7 +4,7 @@ import QtQuick
 // One of our own symbols, in a colour.
 Image {
     property string name
-    property color tint: Look.secondary
+    property color tint: Theme.secondary
     property int size: 18
 
     width: size

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 pragma Singleton
 import QtQuick
+import Vellumry.Views
 
 // Every colour and measure of our windows, in light and dark. Contrast of text on its ground is at least 4.5 : 1.
 QtObject {
-    id: look
-
-    // By the user's choice and the desktop's scheme; `views` is what all windows are drawn with.
-    readonly property bool dark: views.dark
+    // By the user's choice and the desktop's scheme.
+    readonly property bool dark: Views.dark
 
     readonly property color ground: dark ? "#1f2024" : "#fafafb"
     readonly property color edge: dark ? "#3c3d44" : "#d2d3d8"
@@ -33,4 +32,5 @@ QtObject {
     readonly property int smallSize: 12
     readonly property int footerSize: 11
     readonly property int fieldSize: 19
+    readonly property int fieldHeight: 28
 }

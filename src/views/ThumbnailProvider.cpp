@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "panel/ThumbnailProvider.h"
+#include "views/ThumbnailProvider.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
 import QtQuick
-import Vellumry.Panel
 
 // A round button of the stack's bar.
 Rectangle {
@@ -16,7 +16,7 @@ Rectangle {
     width: 26
     height: 26
     radius: 13
-    color: isOn ? Look.selected : area.containsPress ? Look.capEdge : area.containsMouse ? Look.tile : "transparent"
+    color: isOn ? Theme.selected : area.containsPress ? Theme.capEdge : area.containsMouse ? Theme.tile : "transparent"
     Accessible.role: Accessible.Button
     Accessible.name: help
     Accessible.checkable: true
@@ -26,7 +26,7 @@ Rectangle {
     Symbol {
         anchors.centerIn: parent
         name: button.symbol
-        tint: button.isOn ? Look.accent : Look.secondary
+        tint: button.isOn ? Theme.accent : Theme.secondary
         size: 15
     }
     HoverRest {

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+// The functions that Qt generates to register the C++ types of a QML module. Nobody calls them, so a linker leaves them
+// out of a static library unless somebody names them: whoever shows a view of a module keeps its types.
+
+void qml_register_types_Vellumry_Views();
+void qml_register_types_Vellumry_Panel();
+void qml_register_types_Vellumry_Shell();
+
+namespace vellumry {
+
+/// Keeps the registration `module` in the program.
+inline void keepQmlModule(void (*module)()) {
+    [[maybe_unused]] static void (*volatile kept)() = nullptr;
+    kept = module;
+}
+
+} // namespace vellumry
