@@ -27,10 +27,14 @@ constexpr int lowestPriority = 19;
 
 #if defined(__x86_64__)
 constexpr std::uint32_t ownArchitecture = AUDIT_ARCH_X86_64;
+/// The same calls have other numbers from here on (x32), which a list of calls would let pass.
+constexpr std::uint32_t otherNumbersFrom = 0x40000000;
 #elif defined(__aarch64__)
 constexpr std::uint32_t ownArchitecture = AUDIT_ARCH_AARCH64;
+constexpr std::uint32_t otherNumbersFrom = 0;
 #else
 constexpr std::uint32_t ownArchitecture = 0;
+constexpr std::uint32_t otherNumbersFrom = 0;
 #endif
 
 void limit(__rlimit_resource resource, rlim_t most) {
@@ -105,6 +109,10 @@ std::vector<sock_filter> callFilter() {
         statement(give, SECCOMP_RET_KILL_PROCESS),
         statement(load, offsetof(seccomp_data, nr)),
     };
+    if constexpr (otherNumbersFrom != 0) {
+        filter.push_back(BPF_JUMP(BPF_JMP | BPF_JGE | BPF_K, otherNumbersFrom, 0, 1));
+        filter.push_back(statement(give, SECCOMP_RET_ERRNO | EPERM));
+    }
     for (const long call : refusedCalls) {
         filter.push_back(jump(static_cast<std::uint32_t>(call), 0, 1));
         filter.push_back(statement(give, SECCOMP_RET_ERRNO | EPERM));

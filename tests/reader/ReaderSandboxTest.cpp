@@ -74,6 +74,15 @@ TEST(ReaderSandbox, NoFileCanBeChangedOrRemovedByItsName) {
     EXPECT_EQ(status.st_mode & 07777, 0600u);
 }
 
+#if defined(__x86_64__)
+TEST(ReaderSandbox, NoCallPassesUnderItsOtherNumber) {
+    EXPECT_TRUE(holdsInside([] {
+        errno = 0;
+        return syscall(0x40000000L | SYS_getppid) < 0 && errno == EPERM;
+    }));
+}
+#endif
+
 TEST(ReaderSandbox, WhatWasOpenBeforeIsClosed) {
     const int before = open("/etc/passwd", O_RDONLY);
     ASSERT_GE(before, 0);
