@@ -50,7 +50,9 @@ QString trimmedOfControls(const QString& text) {
 std::optional<QUrl> pageUrl(const QByteArray& bytes) {
     if (bytes.size() > longestUrl)
         return std::nullopt;
-    const QUrl url(trimmedOfControls(textOf(bytes)), QUrl::StrictMode);
+    // Browsers leave characters in the addresses of pages that RFC 3986 has no place for; web mail has them in its
+    // fragments.
+    const QUrl url(trimmedOfControls(textOf(bytes)), QUrl::TolerantMode);
     const QString scheme = url.scheme().toLower();
     if (!url.isValid() || (scheme != u"https" && scheme != u"http") || url.host().isEmpty())
         return std::nullopt;

@@ -32,6 +32,12 @@ TEST(SourceURL, ReadsUtf8) {
     EXPECT_EQ(pageOf(withSource("\n http://example.com/ \t")), "http://example.com/");
 }
 
+TEST(SourceURL, ReadsAddressesAsBrowsersWriteThem) {
+    EXPECT_EQ(pageOf(withSource("https://mail.example.com/#search/a|b/{c}")),
+              "https://mail.example.com/#search/a%7Cb/%7Bc%7D");
+    EXPECT_NE(pageOf(withSource("https://mail.example.com/?q=100%&r=^x`")), "none");
+}
+
 TEST(SourceURL, TrimsControlCharactersAsWell) {
     EXPECT_EQ(pageOf(withSource(QByteArray("https://example.com/\0", 21))), "https://example.com/");
     EXPECT_EQ(pageOf(withSource("\xEF\xBB\xBFhttps://example.com/")), "https://example.com/");
