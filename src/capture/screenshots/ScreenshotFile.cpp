@@ -96,6 +96,7 @@ ScreenshotFile ScreenshotFile::load(const QString& path) {
         std::optional<QByteArray> bytes = contentOf(descriptor, attributes.st_size);
         if (bytes && !bytes->isEmpty() && imagecompleteness::isComplete(*bytes, file.type)) {
             file.state = State::readable;
+            file.mayHoldMark = imagecompleteness::mayHoldScreenshotMark(*bytes);
             file.bytes = std::move(*bytes);
             file.createdAt = creationDate(path);
             file.isMarked =

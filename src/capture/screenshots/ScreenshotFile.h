@@ -23,6 +23,8 @@ struct ScreenshotFile {
     std::optional<Date> createdAt;
     /// Its name or an extended attribute says that it is a screenshot.
     bool isMarked = false;
+    /// False when no mark of a screenshot can be in its bytes.
+    bool mayHoldMark = false;
 
     /// Largest file that is looked at.
     static constexpr qint64 mostBytes = qint64{100} << 20;

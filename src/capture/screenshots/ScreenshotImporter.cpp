@@ -3,7 +3,6 @@
 
 #include "capture/DetachedRun.h"
 #include "capture/DraftTitles.h"
-#include "capture/ImageCompleteness.h"
 #include "foundation/FileUrl.h"
 #include "foundation/Localisation.h"
 
@@ -233,7 +232,7 @@ QCoro::Task<ScreenshotImporter::ReadResult> ScreenshotImporter::read(QString pat
     if (file->state == ScreenshotFile::State::unsuitable)
         co_return result;
     // A photograph is not opened only to learn that it is none.
-    if (!file->isMarked && !imagecompleteness::mayHoldScreenshotMark(file->bytes))
+    if (!file->isMarked && !file->mayHoldMark)
         co_return result;
     auto summarising = images->summarise(file->bytes, thumbnailPixels);
     const ImageSummary summary = co_await summarising;
