@@ -15,9 +15,19 @@
 
 namespace vellumry {
 
+namespace detachedrun {
+
+/// Threads whose deadline has passed and that still run. Main thread.
+inline int leftBehind = 0;
+/// With so many of them whatever they wait for has gone for good, and further jobs are not begun.
+constexpr int mostLeftBehind = 32;
+
+} // namespace detachedrun
+
 /// Awaits a job that may block for good, such as a look at a disk that has gone: it runs on a thread of its own, which
 /// is left behind when the deadline passes. Created and awaited on the main thread, once; gives the job's result, or
-/// nothing after the deadline or without a thread. The job must own what it uses and must not throw.
+/// nothing after the deadline, without a thread, and while too many threads were left behind. The job must own what it
+/// uses and must not throw.
 template <typename Result>
 class DetachedRun {
 public:
@@ -27,6 +37,8 @@ public:
 
     [[nodiscard]] bool await_ready() const noexcept { return false; }
     bool await_suspend(std::coroutine_handle<> waiting) {
+        if (detachedrun::leftBehind >= detachedrun::mostLeftBehind)
+            return false;
         m_state->waiting = waiting;
         try {
             std::thread([state = m_state, job = std::move(m_job)] {
@@ -52,12 +64,17 @@ private:
         void startDeadline(std::chrono::milliseconds deadline, const std::shared_ptr<State>& self) {
             timer = new QTimer(QCoreApplication::instance());
             timer->setSingleShot(true);
-            QObject::connect(timer, &QTimer::timeout, timer, [self] { self->finish(std::nullopt); });
+            QObject::connect(timer, &QTimer::timeout, timer, [self] {
+                ++detachedrun::leftBehind;
+                self->finish(std::nullopt);
+            });
             timer->start(deadline);
         }
         void finish(std::optional<Result> outcome) {
-            if (!waiting)
+            if (!waiting) {
+                --detachedrun::leftBehind; // the thread has ended after all
                 return;
+            }
             timer->deleteLater();
             result = std::move(outcome);
             std::exchange(waiting, nullptr).resume();

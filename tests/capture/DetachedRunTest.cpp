@@ -43,5 +43,19 @@ TEST(DetachedRun, LeavesAJobBehindThatDoesNotEnd) {
     QCoreApplication::processEvents(); // the late result finds nobody waiting
 }
 
+/// A server that has gone must not cost a thread for each file that was ever copied from it.
+TEST(DetachedRun, BeginsNothingWhileTooManyThreadsWereLeftBehind) {
+    auto release = std::make_shared<std::promise<void>>();
+    const std::shared_future<void> released = release->get_future().share();
+    for (int i = 0; i < detachedrun::mostLeftBehind; ++i)
+        EXPECT_EQ(settle(run([released] { return released.wait(), 7; }, 1ms)).value(), std::nullopt);
+    bool hasRun = false;
+    EXPECT_EQ(settle(run([&hasRun] { return hasRun = true, 7; }, 10s)).value(), std::nullopt);
+    EXPECT_FALSE(hasRun);
+    release->set_value();
+    EXPECT_TRUE(eventually([] { return detachedrun::leftBehind == 0; }));
+    EXPECT_EQ(settle(run([] { return 7; }, 10s)).value(), 7);
+}
+
 } // namespace
 } // namespace vellumry
