@@ -9,7 +9,7 @@ namespace vellumry::readerprotocol {
 
 namespace {
 
-enum Flag : quint8 { hasPixelSize = 1, hasThumbnail = 2, isMarkedAsScreenshot = 4, hasText = 8 };
+enum Flag : quint8 { hasPixelSize = 1, hasThumbnail = 2, isMarkedAsScreenshot = 4, hasText = 8, isWithoutEngine = 16 };
 
 void prepare(QDataStream& stream) {
     stream.setVersion(QDataStream::Qt_6_4);
@@ -37,7 +37,8 @@ std::optional<QByteArray> encode(const Reply& reply) {
     QDataStream stream(&message, QIODevice::WriteOnly);
     prepare(stream);
     const quint8 flags = (reply.pixelSize ? hasPixelSize : 0) | (reply.thumbnail ? hasThumbnail : 0) |
-                         (reply.isScreenshot ? isMarkedAsScreenshot : 0) | (reply.text ? hasText : 0);
+                         (reply.isScreenshot ? isMarkedAsScreenshot : 0) | (reply.text ? hasText : 0) |
+                         (reply.lacksEngine ? isWithoutEngine : 0);
     const QSize size = reply.pixelSize.value_or(QSize(0, 0));
     stream << reply.id << flags << static_cast<qint32>(size.width()) << static_cast<qint32>(size.height())
            << reply.thumbnail.value_or(QByteArray()) << reply.text.value_or(QString()).toUtf8();
@@ -85,6 +86,7 @@ std::optional<Reply> decodeReply(const QByteArray& message) {
     if (flags & hasText)
         reply.text = QString::fromUtf8(text);
     reply.isScreenshot = flags & isMarkedAsScreenshot;
+    reply.lacksEngine = flags & isWithoutEngine;
     return reply;
 }
 

@@ -32,6 +32,8 @@ struct Reply {
     /// The text as it stands in the picture, a line feed behind each line. Absent when the picture could not be opened
     /// (then `pixelSize` is absent too), when reading failed, and when it was not asked for.
     std::optional<QString> text;
+    /// Text was asked for and this computer has no engine that reads: the picture was not opened.
+    bool lacksEngine = false;
 
     bool operator==(const Reply&) const = default;
 };

@@ -73,13 +73,15 @@ ReaderService::End ReaderService::run() {
 readerprotocol::Reply ReaderService::read(QByteArrayView file, int longerSide, PictureReader::Mode mode) {
     readersandbox::allowProcessorSeconds(processorSecondsForReading);
     readerprotocol::Reply reply;
+    reply.lacksEngine = !m_pictureReader;
+    if (reply.lacksEngine)
+        return reply;
     const QImage picture = picturedecoder::imageForReading(file, longerSide);
     if (picture.isNull())
         return reply;
     reply.pixelSize = picture.size();
     try {
-        if (m_pictureReader)
-            reply.text = m_pictureReader->read(picture, mode);
+        reply.text = m_pictureReader->read(picture, mode);
     } catch (const std::bad_alloc&) {
         reply.text.reset();
     }

@@ -67,7 +67,8 @@ bool TextReadingQueue::isReading(const QUuid& id) const {
 }
 
 void TextReadingQueue::wake() {
-    if (m_isWorking || (m_waitingFast.empty() && (m_waitingAccurate.empty() || !m_seams.isAccurateUsable())))
+    if (m_isWorking || !m_seams.isAvailable() ||
+        (m_waitingFast.empty() && (m_waitingAccurate.empty() || !m_seams.isAccurateUsable())))
         return;
     m_isWorking = true;
     work();
@@ -81,6 +82,11 @@ void TextReadingQueue::addAccurate(const QUuid& id) {
 /// A quick reading goes first, so that a new copy overtakes a backlog.
 std::optional<TextReadingQueue::Job> TextReadingQueue::takeJob() {
     std::optional<Job> job;
+    if (!m_seams.isAvailable()) {
+        // Those that wait are found again at the next launch.
+        m_waitingFast.clear();
+        m_waitingAccurate.clear();
+    }
     if (!m_waitingFast.empty()) {
         job = Job{m_waitingFast.front(), Reader::fast};
         m_waitingFast.erase(m_waitingFast.begin());

@@ -33,6 +33,8 @@ public:
         PictureFiles::Status fileStatus;
         /// False for a file that is read on the user's word only. Called off the main thread.
         PictureFiles::CanReadQuietly canReadQuietly;
+        /// False once it is known that nothing here reads text: then no picture is opened for it.
+        std::function<bool()> isAvailable = [] { return true; };
     };
 
     TextReadingQueue(ClipStore& store, Seams seams, QObject* parent = nullptr);

@@ -2,10 +2,12 @@
 #include "capture/text/TextRecognizer.h"
 
 #include "capture/ResumeOnce.h"
+#include "foundation/Logging.h"
 #include "foundation/Text.h"
 
 #include <QStringList>
 #include <QTimer>
+#include <utility>
 
 namespace vellumry {
 
@@ -50,6 +52,7 @@ QCoro::Task<std::optional<QString>> TextRecognizer::read(QByteArray data, Reader
     const double seconds = timeLimit.value_or(reader == Reader::fast ? fastLimit : accurateLimit);
     const auto limit = std::chrono::milliseconds(static_cast<qint64>(seconds * 1000));
     const std::shared_ptr<int> failures = m_accurateFailures;
+    const std::shared_ptr<bool> isAvailable = m_isAvailable;
 
     Race race;
     const auto timer = startLimit(limit, race);
@@ -58,8 +61,12 @@ QCoro::Task<std::optional<QString>> TextRecognizer::read(QByteArray data, Reader
     const TextReader::Reading reading = co_await race;
     timer->stop();
 
-    if (reader == Reader::accurate && reading.outcome != Outcome::undecodable)
+    if (reading.outcome == Outcome::unavailable) {
+        if (std::exchange(*isAvailable, false))
+            qCWarning(logging::capture) << "Pictures are not found by their words: Tesseract or its data is missing.";
+    } else if (reader == Reader::accurate && reading.outcome != Outcome::undecodable) {
         *failures = reading.outcome == Outcome::text ? 0 : *failures + 1;
+    }
     if (reading.outcome != Outcome::text)
         co_return std::nullopt;
     co_return cleaned(reading.text);

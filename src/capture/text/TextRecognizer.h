@@ -31,6 +31,9 @@ public:
     /// count, nor does anything that happens to a fast reading.
     [[nodiscard]] bool isAccurateUsable() const { return *m_accurateFailures < accurateFailuresAllowed; }
 
+    /// False once a reader said that this computer has nothing that reads text.
+    [[nodiscard]] bool isAvailable() const { return *m_isAvailable; }
+
     /// Lines trimmed of blanks and tabs, empty ones left out, joined with a line feed.
     [[nodiscard]] static QString cleaned(const QString& reading);
 
@@ -40,6 +43,7 @@ private:
     TextReader* m_reader;
     /// Shared with the tasks, which may end after the recognizer.
     std::shared_ptr<int> m_accurateFailures = std::make_shared<int>(0);
+    std::shared_ptr<bool> m_isAvailable = std::make_shared<bool>(true);
 };
 
 } // namespace vellumry

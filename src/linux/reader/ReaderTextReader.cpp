@@ -9,6 +9,8 @@ TextReader::Reading readingOf(const ReaderProcess::Answer& answer) {
     using Outcome = TextReader::Outcome;
     if (!answer.reply)
         return {answer.wasLate ? Outcome::tooSlow : Outcome::failed, {}};
+    if (answer.reply->lacksEngine)
+        return {Outcome::unavailable, {}};
     if (answer.reply->text)
         return {Outcome::text, *answer.reply->text};
     return {answer.reply->pixelSize ? Outcome::failed : Outcome::undecodable, {}};

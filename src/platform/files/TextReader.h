@@ -20,7 +20,8 @@ public:
         text,        ///< read; the text may be empty
         undecodable, ///< the bytes are no picture that can be opened
         tooSlow,     ///< not done within the time limit
-        failed       ///< reading broke off
+        failed,      ///< reading broke off
+        unavailable  ///< this computer has nothing that reads text; it will be the same for the next picture
     };
     struct Reading {
         Outcome outcome = Outcome::failed;

@@ -186,5 +186,20 @@ TEST_F(TextReadingQueueTest, AQueueThatGoesAwayWhileReadingLeavesTheStoreAlone) 
     EXPECT_EQ(textOf(id), std::nullopt);
 }
 
+TEST_F(TextReadingQueueTest, WithoutAnEngineNoFurtherPictureIsOpened) {
+    const QUuid first = addImage("one");
+    const QUuid second = addImage("two");
+    reading.isHeld = true;
+    queue->enqueue({first, second});
+    isAvailable = false;
+    reading.answers["one"] = std::nullopt;
+    reading.letGo();
+    EXPECT_EQ(reading.reads.size(), 1u);
+    EXPECT_FALSE(queue->isReading(second));
+    queue->enqueue({second});
+    EXPECT_EQ(reading.reads.size(), 1u);
+    EXPECT_EQ(textOf(second), std::nullopt);
+}
+
 } // namespace
 } // namespace vellumry

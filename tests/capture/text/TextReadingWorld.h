@@ -72,13 +72,14 @@ protected:
                 [](const FileRef& file) {
                     return QFile::exists(file.path) ? FileStatus::available(file.path) : FileStatus::missing();
                 },
-                [this](const QString&) { return isEverywhereQuiet.load(); }};
+                [this](const QString&) { return isEverywhereQuiet.load(); }, [this] { return isAvailable; }};
     }
 
     QTemporaryDir folder;
     ClipStore store{RetentionPolicy{}};
     FakeReading reading;
     bool isAccurateUsable = true;
+    bool isAvailable = true;
     std::atomic<bool> isEverywhereQuiet{true};
     Date now = 1'000'000;
     std::unique_ptr<TextReadingQueue> queue = std::make_unique<TextReadingQueue>(store, seams());

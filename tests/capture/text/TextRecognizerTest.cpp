@@ -51,6 +51,14 @@ TEST_F(TextRecognizerTest, WhatWentWrongGivesNothing) {
         EXPECT_EQ(readWith(outcome, Reader::fast, QStringLiteral("half a line")), std::nullopt);
 }
 
+TEST_F(TextRecognizerTest, AComputerWithoutAnEngineIsKnownAfterTheFirstPicture) {
+    EXPECT_TRUE(recognizer.isAvailable());
+    EXPECT_EQ(readWith(Outcome::failed, Reader::fast), std::nullopt);
+    EXPECT_TRUE(recognizer.isAvailable());
+    EXPECT_EQ(readWith(Outcome::unavailable, Reader::fast), std::nullopt);
+    EXPECT_FALSE(recognizer.isAvailable());
+}
+
 TEST_F(TextRecognizerTest, AReaderThatStaysSilentIsGivenUpAtTheLimit) {
     const auto text = settle(recognizer.read("picture", Reader::accurate, 0.01));
     ASSERT_TRUE(text.has_value()) << "the task still waits";
