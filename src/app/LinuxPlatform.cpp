@@ -27,6 +27,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QStandardPaths>
 
 namespace vellumry {
@@ -100,6 +101,7 @@ OrReason<Platform> makeLinuxPlatform() {
         qCWarning(logging::process).noquote() << "secrets expire less punctually:" << timer.error().text;
     platform.bookmarks = std::make_unique<PosixFileBookmarks>();
     platform.folders = std::make_unique<InotifyFolderWatching>();
+    platform.isConfined = QFile::exists(QStringLiteral("/.flatpak-info")) || qEnvironmentVariableIsSet("SNAP");
     platform.returnMemory = &returnCode;
     return platform;
 }

@@ -60,6 +60,8 @@ struct Platform {
     std::function<bool(const QString& folder)> hasRoomForImages = &vellumry::hasRoomForImages;
     /// Gives memory back that a while of rest does not need.
     std::function<void()> returnMemory = [] {};
+    /// The program runs in a confined package, where opening a file may bring up a question of the system.
+    bool isConfined = false;
     /// The folder that holds the application's own folder: $XDG_DATA_HOME.
     QString dataHome;
     /// The user's home folder.

@@ -17,10 +17,14 @@ TextReadingQueue::Seams seamsOf(const Platform& platform, const std::shared_ptr<
         return recognizer->read(std::move(picture), reader);
     };
     seams.isAccurateUsable = [recognizer] { return recognizer->isAccurateUsable(); };
+    seams.isAvailable = [recognizer] { return recognizer->isAvailable(); };
     const FilePlaces places = FilePlaces::ofUser(platform.home);
     const FileBookmarks* bookmarks = platform.bookmarks.get();
     seams.fileStatus = [bookmarks, places](const FileRef& file) { return FileStatus::check(file, *bookmarks, places); };
-    seams.canReadQuietly = [places](const QString& path) { return PictureFiles::isOutside(places, path); };
+    // Only the system of a confined package asks the user a question when a file is opened.
+    seams.canReadQuietly = [places, isConfined = platform.isConfined](const QString& path) {
+        return isConfined ? PictureFiles::isOutside(places, path) : PictureFiles::opens(path);
+    };
     return seams;
 }
 

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace vellumry {
 
@@ -20,10 +21,15 @@ bool isPicture(const QString& path) {
     return !extension.isEmpty() && uniformtype::isImageExtension(extension);
 }
 
-/// The bytes of a regular file; nothing for a pipe or device, which is opened without waiting for its other side.
+/// Does not wait for the other side of a pipe or device. Negative when it cannot be opened.
+int openedForReading(const QString& path) {
+    return open(diskPathOf(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+}
+
+/// The bytes of a regular file; nothing for a pipe or device.
 std::optional<QByteArray> bytesOf(const QString& path) {
     QFile file;
-    const int descriptor = open(diskPathOf(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    const int descriptor = openedForReading(path);
     if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
         return std::nullopt;
     struct stat attributes {};
@@ -56,6 +62,14 @@ PictureFiles PictureFiles::collect(const std::vector<FileRef>& files, bool isAsk
             found.pictures.push_back(std::move(*bytes));
     }
     return found;
+}
+
+bool PictureFiles::opens(const QString& path) {
+    const int descriptor = openedForReading(path);
+    if (descriptor < 0)
+        return false;
+    close(descriptor);
+    return true;
 }
 
 bool PictureFiles::isOutside(const FilePlaces& places, const QString& path) {

@@ -30,6 +30,8 @@ struct PictureFiles {
     [[nodiscard]] static PictureFiles collect(const std::vector<FileRef>& files, bool isAsked, const Status& status,
                                               const CanReadQuietly& canReadQuietly);
 
+    /// True when the file can be opened for reading. Looks at the disk and may block.
+    [[nodiscard]] static bool opens(const QString& path);
     /// True when `path`, and what it leads to, lies in no protected folder and on no volume.
     [[nodiscard]] static bool isOutside(const FilePlaces& places, const QString& path);
 };

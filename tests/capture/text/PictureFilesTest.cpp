@@ -120,6 +120,11 @@ TEST_F(PictureFilesTest, ALinkIsReadForWhatItLeadsTo) {
     EXPECT_EQ(collect().pictures, Bytes{"a"});
 }
 
+TEST_F(PictureFilesTest, OnlyATryTellsWhetherAFileCanBeOpened) {
+    EXPECT_TRUE(PictureFiles::opens(write(QStringLiteral("a.png"), "a")));
+    EXPECT_FALSE(PictureFiles::opens(folder.filePath(QStringLiteral("nowhere.png"))));
+}
+
 TEST(PictureFilesPlaces, PersonalFoldersAndVolumesAreInside) {
     const FilePlaces places = FilePlaces::underHome(QStringLiteral("/home/ada"), QStringLiteral("ada"));
     for (const char* path : {"/home/ada/Desktop/a.png", "/home/ada/Documents/deep/a.png", "/run/media/ada/STICK/a.png"})
