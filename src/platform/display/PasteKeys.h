@@ -39,8 +39,8 @@ public:
     };
 
     virtual ~HeldKey() = default;
-    /// False once it has gone, let go of or by itself: no key waits longer than 150 ms, whatever happens. What is
-    /// written then comes too late for it.
+    /// False once it has gone, let go of or by itself: no key waits longer than 150 ms from when it was told of,
+    /// whatever happens. What is written then comes too late for it.
     [[nodiscard]] virtual bool isHeld() const = 0;
     /// How long it still waits at most; not positive once it has gone.
     [[nodiscard]] virtual std::chrono::milliseconds timeLeft() const = 0;

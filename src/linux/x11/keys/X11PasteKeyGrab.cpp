@@ -181,8 +181,6 @@ void X11PasteKeyGrab::handleKey(XEvent* event) {
         replay();
         return;
     }
-    m_held->until = now + m_options.holdLimit;
-    m_watchdog.start(m_options.holdLimit);
     tellWhenServed();
 }
 
@@ -225,6 +223,8 @@ void X11PasteKeyGrab::tellWhenServed() {
     }
     m_servedLook.stop();
     m_held->serial = ++m_lastSerial;
+    m_held->until = now + m_options.holdLimit;
+    m_watchdog.start(m_options.holdLimit);
     m_options.onHeld(*m_held);
 }
 

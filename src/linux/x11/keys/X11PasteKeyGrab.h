@@ -19,7 +19,8 @@ namespace vellumry {
 
 /// The grabs behind `X11PasteKeys`: synchronous passive grabs of the X Input extension, which stop the keyboard behind
 /// the press until it is replayed to the program in front. Lives on a thread of its own, which waits for nobody but the
-/// X server, so that a busy main thread cannot hold the user's keyboard for longer than `holdLimit`.
+/// X server, so that a busy main thread cannot hold the user's keyboard for longer than `holdLimit`. Before that a
+/// press waits for the paste before it to be fetched: a slow program would else paste one item twice and another never.
 class X11PasteKeyGrab : public QObject {
     Q_OBJECT
 public:
@@ -40,10 +41,11 @@ public:
         std::shared_ptr<InjectedPresses> injected;
         /// A press waits. This thread.
         std::function<void(const Held&)> onHeld;
-        /// No press waits longer, whatever happens.
+        /// No press waits longer once it was told of, whatever happens.
         std::chrono::milliseconds holdLimit{150};
-        /// How long, of that, for the paste before it to be fetched.
-        std::chrono::milliseconds servedLimit{115};
+        /// How long it waits before that for the paste before it to be fetched. Programs under load were seen to fetch
+        /// 200 ms after their key.
+        std::chrono::milliseconds servedLimit{600};
     };
 
     explicit X11PasteKeyGrab(Options options);

@@ -30,7 +30,7 @@ public:
         /// Where those who press paste keys for the program announce it.
         std::shared_ptr<InjectedPresses> injected;
         std::chrono::milliseconds holdLimit{150};
-        std::chrono::milliseconds servedLimit{115};
+        std::chrono::milliseconds servedLimit{600};
     };
 
     explicit X11PasteKeys(Options options);

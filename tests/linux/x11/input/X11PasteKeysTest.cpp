@@ -173,6 +173,32 @@ TEST_F(X11PasteKeysTest, ThePasteBeforeItIsFetchedFirst) {
     EXPECT_LT(timer.elapsed(), 1000);
 }
 
+/// An editor under load fetches a paste 200 ms after its key, and the user presses every 150.
+TEST_F(X11PasteKeysTest, ASlowProgramIsWaitedForLongerThanAKeyIsHeld) {
+    X11PasteKeys::Options limited = options();
+    limited.holdLimit = 100ms;
+    limited.servedLimit = 60s;
+    X11PasteKeys patient(limited);
+    patient.onPress = [this](const KeyPress& press, std::shared_ptr<HeldKey> key) { presses.push_back({press, key}); };
+    ASSERT_TRUE(patient.start());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    ASSERT_TRUE(isTold(1));
+    wasServed = false;
+    letGo();
+    EXPECT_TRUE(arrives({{symbolV, control}}));
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_TRUE(waitUntil([&] { return timer.elapsed() > 300; }));
+    collect();
+    EXPECT_EQ(typed.size(), 1U) << "it went with what is on the clipboard for the one before it";
+    EXPECT_EQ(presses.size(), 1U);
+    wasServed = true;
+    EXPECT_TRUE(isTold(2));
+    letGo();
+    EXPECT_TRUE(arrives(Chords(2, {symbolV, control})));
+}
+
 TEST_F(X11PasteKeysTest, AProgramThatDoesNotWantThePasteHoldsNothingUpForLong) {
     X11PasteKeys::Options limited = options();
     limited.servedLimit = 50ms;
