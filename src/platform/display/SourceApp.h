@@ -23,6 +23,9 @@ public:
     virtual ~FrontmostApplication() = default;
     /// Both fields empty when no application is in front.
     [[nodiscard]] virtual SourceApp current() const = 0;
+    /// The application whose program put on the pasteboard what is there now; it may have hidden its window since. Both
+    /// fields empty when nobody owns the pasteboard or the owner has no window that says who it is.
+    [[nodiscard]] virtual SourceApp pasteboardOwner() const { return {}; }
 };
 
 } // namespace vellumry

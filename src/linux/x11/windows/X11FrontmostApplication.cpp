@@ -81,7 +81,7 @@ void X11FrontmostApplication::follow() {
     m_entries->refresh();
 }
 
-ApplicationHints X11FrontmostApplication::hintsOf(XWindow window, qint64 process) {
+ApplicationHints X11FrontmostApplication::hintsOf(XWindow window, qint64 process) const {
     const auto windowClass = XWindowProperties::windowClass(*m_connection, window);
     ApplicationHints hints;
     hints.applicationID =
@@ -95,27 +95,58 @@ ApplicationHints X11FrontmostApplication::hintsOf(XWindow window, qint64 process
 }
 
 std::optional<DesktopEntry> X11FrontmostApplication::currentEntry() const {
-    return m_hints == ApplicationHints() ? std::nullopt : m_entries->index()->find(m_hints);
+    return entryOf(m_hints);
+}
+
+std::optional<DesktopEntry> X11FrontmostApplication::entryOf(const ApplicationHints& hints) const {
+    return hints == ApplicationHints() ? std::nullopt : m_entries->index()->find(hints);
 }
 
 SourceApp X11FrontmostApplication::current() const {
-    if (m_hints == ApplicationHints())
+    return applicationOf(m_hints);
+}
+
+SourceApp X11FrontmostApplication::applicationOf(const ApplicationHints& hints) const {
+    if (hints == ApplicationHints())
         return {};
-    const auto entry = currentEntry();
-    const QString id =
-        entry.has_value() ? entry->id : firstOf({m_hints.applicationID, m_hints.className, m_hints.program});
+    const auto entry = entryOf(hints);
+    const QString id = entry.has_value() ? entry->id : firstOf({hints.applicationID, hints.className, hints.program});
     SourceApp source;
-    for (const QString& name : {id, m_hints.applicationID, m_hints.className, m_hints.instanceName}) {
+    for (const QString& name : {id, hints.applicationID, hints.className, hints.instanceName}) {
         source.bundleID = ApplicationIdentifiers::standing(name);
         if (source.bundleID.has_value())
             break;
     }
     if (!source.bundleID.has_value() && !id.isEmpty())
         source.bundleID = id;
-    const QString name = entry.has_value() ? entry->name : firstOf({m_hints.className, m_hints.program, id});
+    const QString name = entry.has_value() ? entry->name : firstOf({hints.className, hints.program, id});
     if (!name.isEmpty())
         source.name = name;
     return source;
+}
+
+// Toolkits own selections with a window that nobody sees and that says nothing of itself; the program's other windows
+// do, be they hidden or iconified by now.
+
+SourceApp X11FrontmostApplication::pasteboardOwner() const {
+    const XWindow owner = XGetSelectionOwner(m_connection->display(), m_connection->atom("CLIPBOARD"));
+    const XWindow named = owner <= 1 ? 0 : namedWindowOfClient(owner);
+    if (named == 0)
+        return {};
+    const qint64 process = XWindowProperties::processOf(*m_connection, named);
+    if (process == QCoreApplication::applicationPid())
+        return {};
+    return applicationOf(hintsOf(named, process));
+}
+
+/// The client's window that bears a class: among those that the window manager knows, iconified ones included, and
+/// among those it does not, the hidden ones. 0 for a client without any.
+XWindow X11FrontmostApplication::namedWindowOfClient(XWindow window) const {
+    for (const XWindow candidate : XWindowProperties::windowsOfClient(*m_connection, window)) {
+        if (XWindowProperties::windowClass(*m_connection, candidate) != XWindowProperties::WindowClass())
+            return candidate;
+    }
+    return 0;
 }
 
 } // namespace vellumry

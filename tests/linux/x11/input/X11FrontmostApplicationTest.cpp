@@ -99,4 +99,32 @@ TEST_F(X11FrontmostApplicationTest, AClosedApplicationIsNoLongerInFront) {
     EXPECT_TRUE(waitUntil([&] { return frontmost.current() == SourceApp(); }));
 }
 
+TEST_F(X11FrontmostApplicationTest, ThePasteboardsOwnerIsKnownWhenItHasHidden) {
+    X11FrontmostApplication frontmost(connection, entries);
+    EXPECT_EQ(frontmost.pasteboardOwner(), SourceApp());
+    XClient passwords;
+    ASSERT_TRUE(passwords.open("keepassxc", "KeePassXC"));
+    passwords.own("CLIPBOARD");
+    const SourceApp vault = app("org.keepassxc.keepassxc", "KeePassXC");
+    EXPECT_TRUE(waitUntil([&] { return frontmost.pasteboardOwner() == vault; }));
+    passwords.hide();
+    XClient terminal;
+    ASSERT_TRUE(terminal.open("xterm", "XTerm"));
+    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
+    EXPECT_EQ(frontmost.pasteboardOwner(), vault);
+    passwords.disown("CLIPBOARD");
+    EXPECT_TRUE(waitUntil([&] { return frontmost.pasteboardOwner() == SourceApp(); }));
+}
+
+TEST_F(X11FrontmostApplicationTest, AnOwnerWithoutAWindowSaysNothing) {
+    X11FrontmostApplication frontmost(connection, entries);
+    XClient terminal;
+    ASSERT_TRUE(terminal.open("xterm", "XTerm"));
+    XClient tool;
+    tool.own("CLIPBOARD");
+    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
+    EXPECT_EQ(frontmost.pasteboardOwner(), SourceApp());
+    tool.disown("CLIPBOARD");
+}
+
 } // namespace vellumry

@@ -58,6 +58,11 @@ void XClient::close() {
     m_window = 0;
 }
 
+void XClient::hide() {
+    XWithdrawWindow(m_display, m_window, DefaultScreen(m_display));
+    XSync(m_display, False);
+}
+
 void XClient::focus() {
     XEvent request{};
     request.xclient.type = ClientMessage;

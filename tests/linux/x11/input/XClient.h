@@ -28,6 +28,8 @@ public:
     /// Shows a window and waits until it has the keyboard; false when it did not get it.
     [[nodiscard]] bool open(const char* instance, const char* className, long process = 0);
     void close();
+    /// Takes the window off the screen, as a program does that goes on in the tray.
+    void hide();
     /// Takes the keyboard as a click on the window would.
     void focus();
     [[nodiscard]] bool hasFocus() const;
