@@ -32,12 +32,24 @@ inline const QString concealed = QStringLiteral("org.nspasteboard.ConcealedType"
 /// The uniform type that a MIME type or X atom name stands for; the name itself where the table has no entry. MIME
 /// names are compared without regard to case. Nothing for housekeeping targets (TARGETS, MULTIPLE, TIMESTAMP,
 /// SAVE_TARGETS, DELETE, INSERT_*), for process-local ones (GTK_TEXT_BUFFER_CONTENTS, chromium/x-internal-*,
-/// LibreOffice's internal ids and links) and for atoms without '/' and '.' that no table knows, such as the junk of
-/// xterm.
+/// LibreOffice's internal ids and links, the portal's file keys) and for atoms without '/' and '.' that no table knows,
+/// such as the junk of xterm.
 ///
 /// Lists of files (text/uri-list, x-special/gnome-copied-files, x-special/mate-copied-files,
 /// application/x-kde-cutselection) keep their MIME names: one list is many items, which only the pasteboard can part.
 [[nodiscard]] std::optional<QString> fromTarget(const QString& target);
+
+/// True for a type by which its owner asks that the copy be not kept (nspasteboard.org, and the same promise in the
+/// dialect of particular programs). Compared as an exact string.
+[[nodiscard]] bool isRefusalMark(const QString& type);
+
+/// True for a target whose bytes mean something inside the offering program only, or only as long as that runs: the
+/// pointers and ids of toolkits, and the keys of the documents portal, which open nothing once their session has ended.
+[[nodiscard]] bool isProcessLocal(const QString& target);
+
+/// True for a target that decides what becomes of a copy: one the table has an entry for, a list of files, or a
+/// refusal mark. However many others an owner offers, these are looked at.
+[[nodiscard]] bool isKnownTarget(const QString& target);
 
 /// The names under which a representation is offered to other programs, best first: `public.utf8-plain-text` gives
 /// UTF8_STRING, text/plain;charset=utf-8, text/plain, STRING, TEXT; an unknown type its own name alone.

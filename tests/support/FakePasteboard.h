@@ -78,6 +78,9 @@ public:
     int itemTypesRequests = 0;
     int beginReadingRequests = 0;
     std::vector<std::vector<PasteboardItem>> writes; ///< refused ones included
+    std::vector<std::pair<qint64, bool>> settled;    ///< the arguments of `settle`, in their order
+    std::vector<qint64> secrets;                     ///< those of `markSecret`
+    std::vector<qint64> givenUp;                     ///< those of `giveUp`
 
     [[nodiscard]] qint64 changeCount() const override { return m_changeCount; }
     [[nodiscard]] QCoro::Task<std::shared_ptr<PasteboardReading>> beginReading() override;
@@ -87,7 +90,11 @@ public:
         return !refusesWrites;
     }
     bool takeOver(std::vector<PasteboardItem> items) override { return m_items.empty() && write(std::move(items)); }
+    void markSecret(qint64 changeCount) override { secrets.push_back(changeCount); }
+    void settle(qint64 changeCount, bool wasKept) override { settled.emplace_back(changeCount, wasKept); }
+    [[nodiscard]] qint64 copyCount() const override { return m_copyCount; }
     void giveUp(qint64 changeCount) override {
+        givenUp.push_back(changeCount);
         if (m_isOurs && m_changeCount == changeCount)
             replace({}, {}, false);
     }
@@ -111,6 +118,7 @@ private:
 
     void replace(std::vector<PasteboardItem> items, QStringList alsoDeclared, bool isOurs) {
         ++m_changeCount;
+        m_copyCount += !isOurs && !items.empty() ? 1 : 0;
         m_items = std::move(items);
         m_alsoDeclared = std::move(alsoDeclared);
         m_isOurs = isOurs;
@@ -129,6 +137,7 @@ private:
     }
 
     qint64 m_changeCount = 1;
+    qint64 m_copyCount = 0;
     std::vector<PasteboardItem> m_items;
     QStringList m_alsoDeclared;
     bool m_isOurs = false;

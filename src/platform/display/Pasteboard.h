@@ -53,8 +53,21 @@ public:
     /// program makes meanwhile stands, and this is false.
     virtual bool takeOver(std::vector<PasteboardItem> items) = 0;
     /// Empties the pasteboard and lets go of the bytes if we wrote what it held at `changeCount` and nothing has come
-    /// since; otherwise what is there stands. Returns at once, the pasteboard follows.
+    /// since; otherwise what is there stands. What is offered of it beside the pasteboard, for programs that paste from
+    /// elsewhere, goes in either case. Returns at once, the pasteboard follows.
     virtual void giveUp(qint64 changeCount) = 0;
+    /// What we wrote at `changeCount` is a secret: what is offered of it beside the pasteboard goes as soon as
+    /// something else is on the pasteboard, and not only when another program takes its place there.
+    virtual void markSecret(qint64 changeCount) { Q_UNUSED(changeCount) }
+    /// Capture has done with what the pasteboard held at `changeCount`: `wasKept` tells whether the history has it. A
+    /// program that asked for its copy to be kept before it quits gets its answer by this.
+    virtual void settle(qint64 changeCount, bool wasKept) {
+        Q_UNUSED(changeCount)
+        Q_UNUSED(wasKept)
+    }
+    /// How many times other programs have taken the pasteboard. Grows by one for each such change, also for those that
+    /// `onChanged` tells of together. An adapter that cannot tell says 0.
+    [[nodiscard]] virtual qint64 copyCount() const { return 0; }
 
     /// Called after the change count moved, on the main thread; several changes may come as one call.
     std::function<void()> onChanged;

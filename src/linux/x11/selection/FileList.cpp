@@ -3,9 +3,25 @@
 
 #include "foundation/FileUrl.h"
 
+#include <algorithm>
+#include <cctype>
+
 namespace vellumry::filelist {
 
 namespace {
+
+/// A scheme (RFC 3986, 3.1), a colon and something; not one of those that the other lists of `Entries` are for.
+bool isAddressElsewhere(const QByteArray& entry) {
+    const qsizetype colon = entry.indexOf(':');
+    const QByteArray scheme = entry.left(std::max<qsizetype>(colon, 0)).toLower();
+    // A single letter is a drive of another system.
+    const bool isScheme = scheme.size() > 1 && std::isalpha(static_cast<unsigned char>(scheme.front())) != 0 &&
+                          std::ranges::all_of(scheme, [](char letter) {
+                              return std::isalnum(static_cast<unsigned char>(letter)) != 0 || letter == '+' ||
+                                     letter == '-' || letter == '.';
+                          });
+    return isScheme && colon + 1 < entry.size() && scheme != "file" && scheme != "http" && scheme != "https";
+}
 
 bool isWebAddress(const QByteArray& entry) {
     const QByteArray start = entry.left(8).toLower();
@@ -35,6 +51,8 @@ Entries parse(const QByteArray& list) {
             entries.files.append(entry);
         else if (!entries.webAddress && isWebAddress(entry))
             entries.webAddress = entry;
+        else if (isAddressElsewhere(entry))
+            entries.elsewhere.append(entry);
     }
     return entries;
 }
@@ -49,6 +67,15 @@ QByteArray asUriList(const QByteArrayList& urls) {
 QByteArray asCopiedFiles(const QByteArrayList& urls, const QByteArray& original) {
     const bool isCut = original == "cut" || original.startsWith("cut\n") || original.startsWith('1');
     return (isCut ? "cut\n" : "copy\n") + urls.join('\n');
+}
+
+QByteArray withoutCut(const QString& type, const QByteArray& bytes) {
+    if (type == cutSelection)
+        return bytes.isEmpty() ? bytes : QByteArray("0");
+    const bool tellsOperation = type.startsWith(u"x-special/") && type.endsWith(u"-copied-files");
+    if (tellsOperation && bytes.startsWith("cut\n"))
+        return "copy" + bytes.sliced(3);
+    return bytes;
 }
 
 QByteArray asPaths(const QByteArrayList& urls) {

@@ -18,9 +18,10 @@ QByteArray representation(const PasteboardItem& item, const QString& type) {
 
 } // namespace
 
-std::shared_ptr<const OfferedContents> OfferedContents::of(std::vector<PasteboardItem> items) {
+std::shared_ptr<const OfferedContents> OfferedContents::of(std::vector<PasteboardItem> items, FileOperation operation) {
     const auto contents = std::make_shared<OfferedContents>();
     contents->m_items = std::move(items);
+    contents->m_operation = operation;
     contents->offerFiles();
     contents->offerText();
     contents->offerRepresentations();
@@ -63,9 +64,12 @@ void OfferedContents::offerFiles() {
     }
     if (!urls.isEmpty()) {
         offer(filelist::uriList, filelist::uriList, filelist::asUriList(urls));
-        QByteArray original = representation(m_items.front(), filelist::copiedFiles);
-        if (original.isEmpty())
-            original = representation(m_items.front(), filelist::cutSelection);
+        QByteArray original;
+        if (m_operation == FileOperation::asCopied) {
+            original = representation(m_items.front(), filelist::copiedFiles);
+            if (original.isEmpty())
+                original = representation(m_items.front(), filelist::cutSelection);
+        }
         offer(filelist::copiedFiles, filelist::copiedFiles, filelist::asCopiedFiles(urls, original));
         const bool hasText = std::ranges::any_of(m_items, [](const PasteboardItem& item) {
             return item.representations.contains(uniformtype::utf8PlainText);
@@ -94,6 +98,8 @@ void OfferedContents::offerText() {
         if (found != item.representations.end())
             texts.append(found->second);
     }
+    if (texts.isEmpty())
+        offerAddressesAsText();
     if (texts.size() < 2)
         return;
     const QByteArray joined = texts.join('\n');
@@ -101,12 +107,32 @@ void OfferedContents::offerText() {
         offer(target, uniformtype::utf8PlainText, joined);
 }
 
+/// A link that came without a text, as some browsers give it, still goes into a text field.
+void OfferedContents::offerAddressesAsText() {
+    QByteArrayList addresses;
+    for (const PasteboardItem& item : m_items) {
+        const bool hasPicture = std::ranges::any_of(item.representations, [](const auto& entry) {
+            return entry.first == uniformtype::png || entry.first == uniformtype::tiff ||
+                   entry.first == uniformtype::jpeg || entry.first == uniformtype::heic;
+        });
+        if (const QByteArray url = representation(item, uniformtype::url); !url.isEmpty() && !hasPicture)
+            addresses.append(url);
+    }
+    if (addresses.isEmpty())
+        return;
+    for (const QString& target : uniformtype::targetsFor(uniformtype::utf8PlainText))
+        offer(target, uniformtype::utf8PlainText, addresses.join('\n'));
+}
+
 void OfferedContents::offerRepresentations() {
     for (const PasteboardItem& item : m_items) {
         for (const QString& type : typesOf(item)) {
-            if (type == uniformtype::fileUrl)
+            // History files of earlier versions hold some that are of no use to anybody.
+            if (type == uniformtype::fileUrl || uniformtype::isProcessLocal(type))
                 continue;
-            const QByteArray bytes = representation(item, type);
+            QByteArray bytes = representation(item, type);
+            if (m_operation == FileOperation::copy)
+                bytes = filelist::withoutCut(type, bytes);
             for (const QString& target : uniformtype::targetsFor(type))
                 offer(target, type, bytes);
         }

@@ -16,8 +16,15 @@ namespace vellumry {
 /// programs ask for. Immutable once made, so the pasteboard thread serves it while the main thread does something else.
 class OfferedContents {
 public:
+    /// What a list of files asks the file manager to do with them.
+    enum class FileOperation {
+        copy,    ///< whatever the list said when it was copied: who pastes files from the history keeps them
+        asCopied ///< move them if they were cut
+    };
+
     /// Shares the bytes of `items`; only other encodings of short texts and the list of files are new.
-    [[nodiscard]] static std::shared_ptr<const OfferedContents> of(std::vector<PasteboardItem> items);
+    [[nodiscard]] static std::shared_ptr<const OfferedContents> of(std::vector<PasteboardItem> items,
+                                                                   FileOperation operation = FileOperation::copy);
 
     [[nodiscard]] const std::vector<PasteboardItem>& items() const { return m_items; }
     /// The types of one item: as `order` has them, then those it does not name.
@@ -37,9 +44,11 @@ private:
     void offer(const QString& target, const QString& uniformType, const QByteArray& bytes);
     void offerFiles();
     void offerText();
+    void offerAddressesAsText();
     void offerRepresentations();
 
     std::vector<PasteboardItem> m_items;
+    FileOperation m_operation = FileOperation::copy;
     QStringList m_targets;
     QHash<QString, Source> m_sources;
 };

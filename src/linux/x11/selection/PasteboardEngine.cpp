@@ -11,8 +11,6 @@ namespace vellumry {
 
 namespace {
 
-constexpr qint64 longestTargetList = 1024 * 1024;
-
 /// xcb hands out events of every kind as the generic one.
 template <typename Event>
 const Event& as(const xcb_generic_event_t& event) {
@@ -26,20 +24,26 @@ PasteboardEngine::PasteboardEngine(std::unique_ptr<XcbConnection> connection, Pa
     , m_limits(limits)
     , m_notices(std::move(notices))
     , m_reader(*m_connection)
-    , m_owner(*m_connection, limits.stalledRequestor) {}
+    , m_owner(*m_connection, limits.stalledRequestor)
+    , m_offer(*m_connection, m_reader, m_limits)
+    , m_manager(
+          *m_connection, [this](TimeWaiter waiter) { askForServerTime(std::move(waiter)); }, limits.saving) {}
 
 void PasteboardEngine::start() {
     m_clipboard = m_connection->atom(QStringLiteral("CLIPBOARD"));
-    m_clipboardManager = m_connection->atom(QStringLiteral("CLIPBOARD_MANAGER"));
+    const xcb_atom_t manager = m_connection->atom(QStringLiteral("CLIPBOARD_MANAGER"));
+    m_saveTargets = m_connection->atom(QStringLiteral("SAVE_TARGETS"));
     m_timeProperty = m_connection->atom(QStringLiteral("VELLUMRY_TIME"));
     constexpr quint32 events = XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
                                XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
                                XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE;
-    for (const xcb_atom_t selection : {m_clipboard, m_clipboardManager})
+    for (const xcb_atom_t selection : {m_clipboard, manager})
         xcb_xfixes_select_selection_input(m_connection->handle(), m_connection->window(), selection, events);
     m_currentOwner = m_connection->selectionOwner(m_clipboard);
-    if (m_connection->selectionOwner(m_clipboardManager) == XCB_NONE)
-        becomeClipboardManager();
+    if (m_currentOwner != XCB_NONE)
+        m_offer.setOwner(m_clipboard, {changeCount(), XCB_CURRENT_TIME});
+    m_manager.onPartTaken = [this, manager](xcb_timestamp_t time) { m_owner.hold(manager, nullptr, time); };
+    m_manager.start(manager);
 }
 
 void PasteboardEngine::end() {
@@ -47,6 +51,7 @@ void PasteboardEngine::end() {
     for (const TimeWaiter& waiter : std::exchange(m_timeWaiters, {}))
         waiter(std::nullopt);
     finishClaim(std::nullopt);
+    m_offer.reset();
     m_reader.endAll(m_clipboard, Instant());
 }
 
@@ -127,71 +132,31 @@ void PasteboardEngine::finishClaim(std::optional<qint64> count) {
 }
 
 void PasteboardEngine::disown(const std::shared_ptr<const OfferedContents>& contents) {
-    if (m_ended || m_owner.contents(m_clipboard) != contents)
+    if (m_ended)
         return;
-    const xcb_timestamp_t since = m_owner.since(m_clipboard);
-    m_owner.release(m_clipboard);
-    // At the time of our ownership: the server then lets an owner stand that comes between question and request.
-    if (m_connection->selectionOwner(m_clipboard) == m_connection->window())
-        xcb_set_selection_owner(m_connection->handle(), XCB_NONE, m_clipboard, since);
+    for (const xcb_atom_t selection : {m_clipboard, xcb_atom_t(XCB_ATOM_PRIMARY)})
+        disownSelection(selection, contents);
 }
 
-void PasteboardEngine::becomeClipboardManager() {
-    askForServerTime([this](std::optional<xcb_timestamp_t> time) {
-        if (!time || m_connection->selectionOwner(m_clipboardManager) != XCB_NONE)
-            return;
-        xcb_set_selection_owner(m_connection->handle(), m_connection->window(), m_clipboardManager, *time);
-        if (m_connection->selectionOwner(m_clipboardManager) != m_connection->window())
-            return;
-        m_owner.hold(m_clipboardManager, nullptr, *time);
-        // Clients that start later look for the owner; those that wait are told (ICCCM 2.8).
-        xcb_client_message_event_t notice{};
-        notice.response_type = XCB_CLIENT_MESSAGE;
-        notice.format = 32;
-        notice.window = m_connection->root();
-        notice.type = m_connection->atom(QStringLiteral("MANAGER"));
-        notice.data.data32[0] = *time;
-        notice.data.data32[1] = m_clipboardManager;
-        notice.data.data32[2] = m_connection->window();
-        xcb_send_event(m_connection->handle(), 0, m_connection->root(), XCB_EVENT_MASK_STRUCTURE_NOTIFY,
-                       reinterpret_cast<const char*>(&notice));
-    });
+void PasteboardEngine::disownSelection(xcb_atom_t selection, const std::shared_ptr<const OfferedContents>& contents) {
+    if (m_owner.contents(selection) != contents)
+        return;
+    const xcb_timestamp_t since = m_owner.since(selection);
+    m_owner.release(selection);
+    // At the time of our ownership: the server then lets an owner stand that comes between question and request.
+    if (m_connection->selectionOwner(selection) == m_connection->window())
+        xcb_set_selection_owner(m_connection->handle(), XCB_NONE, selection, since);
 }
 
 // Reading
 
-void PasteboardEngine::readOffer(PendingResult<std::shared_ptr<const SelectionOffer>> result, Instant now) {
-    if (m_ended || m_currentOwner == XCB_NONE) {
-        result.deliver(nullptr);
-        return;
-    }
-    askForTargets(std::move(result), m_ownedSince, now + m_limits.copy, now);
+void PasteboardEngine::readOffer(CurrentOffer::Result result, Instant now) {
+    m_offer.read(std::move(result), now);
 }
 
-void PasteboardEngine::askForTargets(PendingResult<std::shared_ptr<const SelectionOffer>> result, xcb_timestamp_t time,
-                                     Instant deadline, Instant now) {
-    const qint64 count = changeCount();
-    const Instant answerDeadline = now + m_limits.targetList;
-    SelectionReader::Request request;
-    request.selection = m_clipboard;
-    request.target = m_connection->atom(QStringLiteral("TARGETS"));
-    request.time = time;
-    request.maxBytes = longestTargetList;
-    request.silence = m_limits.targetList;
-    request.deadline = answerDeadline;
-    request.done = [=, this](std::optional<XcbProperty> targets) {
-        const Instant answered = std::chrono::steady_clock::now();
-        if (targets && !targets->isTooLong)
-            result.deliver(
-                SelectionOffer::of(*m_connection, *targets, m_limits.targetCount, {changeCount(), time, deadline}));
-        else if (!m_ended && time != XCB_CURRENT_TIME && count == changeCount() && answered < answerDeadline)
-            // Refused. Owners that note a later time than they gave the server take our request for one to their
-            // predecessor.
-            askForTargets(result, XCB_CURRENT_TIME, deadline, answered);
-        else
-            result.deliver(nullptr);
-    };
-    m_reader.read(std::move(request), now);
+void PasteboardEngine::settle(qint64 count, bool wasKept) {
+    if (count == changeCount() && !m_ended)
+        m_manager.settle(wasKept);
 }
 
 void PasteboardEngine::read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target,
@@ -241,15 +206,9 @@ void PasteboardEngine::handleEvent(const xcb_generic_event_t& event, Instant now
     case XCB_SELECTION_NOTIFY:
         m_reader.handleSelectionNotify(as<xcb_selection_notify_event_t>(event), now);
         break;
-    case XCB_SELECTION_REQUEST: {
-        const auto& request = as<xcb_selection_request_event_t>(event);
-        // Whoever takes the primary selection takes the same thing, as long as it was offered there too.
-        if (m_owner.handleRequest(request, now) && m_owner.contents(request.selection) == m_owner.contents(m_clipboard))
-            m_wasServed.store(true, std::memory_order_release);
-        if (request.selection == m_clipboard && m_owner.contents(m_clipboard) != nullptr)
-            m_wasListed.store(true, std::memory_order_release);
+    case XCB_SELECTION_REQUEST:
+        handleRequest(as<xcb_selection_request_event_t>(event), now);
         break;
-    }
     case XCB_SELECTION_CLEAR: {
         // Old news when the selection was taken back meanwhile.
         const xcb_atom_t selection = as<xcb_selection_clear_event_t>(event).selection;
@@ -265,6 +224,29 @@ void PasteboardEngine::handleEvent(const xcb_generic_event_t& event, Instant now
     }
 }
 
+void PasteboardEngine::handleRequest(const xcb_selection_request_event_t& request, Instant now) {
+    if (m_manager.isPart(request.selection) && request.target == m_saveTargets) {
+        m_manager.handleSaveRequest(request, now);
+        return;
+    }
+    const bool tookContent = m_owner.handleRequest(request, now);
+    noteReader(request, tookContent);
+}
+
+/// Whoever takes the primary selection takes the same thing, as long as it was offered there too.
+void PasteboardEngine::noteReader(const xcb_selection_request_event_t& request, bool tookContent) {
+    const auto contents = m_owner.contents(request.selection);
+    if (!contents || contents != m_owner.contents(m_clipboard) || (m_wasServed && m_wasListed))
+        return;
+    const xcb_window_t focus = m_connection->focusWindow();
+    if (focus != XCB_NONE && focus != m_connection->root() && !m_connection->isSameClient(focus, request.requestor))
+        return;
+    if (tookContent)
+        m_wasServed.store(true, std::memory_order_release);
+    if (request.selection == m_clipboard)
+        m_wasListed.store(true, std::memory_order_release);
+}
+
 void PasteboardEngine::handleError(const xcb_generic_event_t& event) {
     const auto& error = as<xcb_value_error_t>(event);
     // Requestors come and go; what was meant for a window that has gone needs no further thought.
@@ -275,19 +257,25 @@ void PasteboardEngine::handleError(const xcb_generic_event_t& event) {
 void PasteboardEngine::handleSelectionChange(const xcb_xfixes_selection_notify_event_t& event, Instant now) {
     if (event.selection == m_clipboard)
         handleClipboardChange(event, now);
-    else if (event.selection == m_clipboardManager && event.owner == XCB_NONE)
-        becomeClipboardManager();
+    else if (m_manager.isPart(event.selection) && event.owner == XCB_NONE)
+        m_manager.takePart();
 }
 
 void PasteboardEngine::handleClipboardChange(const xcb_xfixes_selection_notify_event_t& event, Instant now) {
     const xcb_window_t ourselves = m_connection->window();
     const bool wasOurs = m_currentOwner == ourselves;
     const qint64 held = changeCount();
+    const bool isForeign = event.owner != XCB_NONE && event.owner != ourselves;
     m_currentOwner = event.owner;
-    m_ownedSince = event.selection_timestamp;
     m_goneSince.reset();
     m_changeCount.store(held + 1, std::memory_order_release);
+    if (isForeign)
+        m_copyCount.fetch_add(1, std::memory_order_acq_rel);
+    m_offer.reset();
     m_reader.endAll(m_clipboard, now);
+    if (isForeign)
+        m_offer.ask(m_clipboard, {held + 1, event.selection_timestamp}, now);
+    m_manager.ownerChanged(event.owner == ourselves);
 
     if (event.owner == ourselves && m_unconfirmed && event.selection_timestamp == m_unconfirmedTime)
         finishClaim(held + 1);
@@ -303,14 +291,17 @@ void PasteboardEngine::handleClipboardChange(const xcb_xfixes_selection_notify_e
 void PasteboardEngine::expire(Instant now) {
     m_reader.expire(now);
     m_owner.expire(now);
+    m_manager.expire(now);
 }
 
 std::optional<PasteboardEngine::Instant> PasteboardEngine::nextDeadline() const {
-    const std::optional<Instant> reading = m_reader.nextDeadline();
-    const std::optional<Instant> serving = m_owner.nextDeadline();
-    if (reading && serving)
-        return std::min(*reading, *serving);
-    return reading ? reading : serving;
+    std::optional<Instant> next;
+    for (const std::optional<Instant>& deadline :
+         {m_reader.nextDeadline(), m_owner.nextDeadline(), m_manager.nextDeadline()}) {
+        if (deadline && (!next || *deadline < *next))
+            next = deadline;
+    }
+    return next;
 }
 
 } // namespace vellumry

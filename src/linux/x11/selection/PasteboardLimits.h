@@ -10,13 +10,14 @@ namespace vellumry {
 struct PasteboardLimits {
     using Milliseconds = std::chrono::milliseconds;
 
-    Milliseconds targetList{500};         ///< until the owner has said what it offers
-    Milliseconds silence{1000};           ///< between two signs of life while it gives one representation
-    Milliseconds rendering{5000};         ///< the same for a picture or a document, before its first byte and after
-    Milliseconds copy{8000};              ///< for all representations of a copy
+    Milliseconds targetList{8000};        ///< until the owner has said what it offers
+    Milliseconds copy{8000};              ///< then, for all representations of a copy
+    Milliseconds rendering{5000};         ///< between two signs of life while it gives a text, a picture, a document
+    Milliseconds silence{1000};           ///< the same for a private type
+    Milliseconds saving{2000};            ///< until a program that quits hears whether its copy is kept
     Milliseconds ownership{250};          ///< until the server has confirmed that the selection is ours
     Milliseconds stalledRequestor{10000}; ///< between two chunks that a reader takes from us
-    int targetCount = 1000;               ///< names looked at in one offer
+    int targetCount = 1000; ///< private types taken from one offer; known ones are taken whatever their number
     qint64 fileListBytes = 64 * 1024 * 1024;
 };
 

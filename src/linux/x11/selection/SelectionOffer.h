@@ -18,8 +18,10 @@ struct SelectionOffer {
         std::chrono::steady_clock::time_point deadline; ///< for the whole copy
     };
 
-    /// Reads the answer to TARGETS (ICCCM 2.6.2): the first `limit` different names, those left out that are no name of
-    /// a type. Null when it is not a list of atoms. Pasteboard thread.
+    /// Reads the answer to TARGETS (ICCCM 2.6.2): each name once, those left out that are no name of a type. All names
+    /// are looked at, so a refusal mark or the text counts wherever it stands; of the names that are not known the
+    /// first `limit` are taken. Null when it is not a list of atoms, or so long that it is no program's list: what was
+    /// not looked at might refuse the copy. Pasteboard thread.
     [[nodiscard]] static std::shared_ptr<const SelectionOffer> of(XcbConnection& connection, const XcbProperty& answer,
                                                                   int limit, Moment moment);
 

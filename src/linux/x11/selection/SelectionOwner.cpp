@@ -4,7 +4,6 @@
 #include "linux/x11/selection/TargetCoding.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <limits>
 #include <vector>
@@ -57,17 +56,7 @@ bool SelectionOwner::handleRequest(const xcb_selection_request_event_t& event, I
             given = answer(holding->second, event.target, {event.requestor, property}, now);
     }
 
-    xcb_selection_notify_event_t notice{};
-    notice.response_type = XCB_SELECTION_NOTIFY;
-    notice.time = event.time;
-    notice.requestor = event.requestor;
-    notice.selection = event.selection;
-    notice.target = event.target;
-    notice.property = given == Answer::refused ? xcb_atom_t(XCB_ATOM_NONE) : property;
-    // The server copies 32 bytes whatever the event's own size.
-    std::array<char, 32> buffer{};
-    std::memcpy(buffer.data(), &notice, sizeof notice);
-    xcb_send_event(m_connection.handle(), 0, event.requestor, XCB_EVENT_MASK_NO_EVENT, buffer.data());
+    m_connection.notifyRequestor(event, given == Answer::refused ? xcb_atom_t(XCB_ATOM_NONE) : property);
     return given == Answer::content;
 }
 
@@ -81,14 +70,8 @@ SelectionOwner::Answer SelectionOwner::answer(const Holding& holding, xcb_atom_t
         m_connection.setProperty(destination.first, destination.second, XCB_ATOM_INTEGER, 32, bytesOf(time));
         return Answer::housekeeping;
     }
-    if (!holding.contents) {
-        // The clipboard manager's only deed: what matters was captured when it was copied, so nothing is asked of a
-        // program that is about to quit.
-        if (target != atom(u"SAVE_TARGETS"))
-            return Answer::refused;
-        m_connection.setProperty(destination.first, destination.second, atom(u"NULL"), 32, {});
-        return Answer::housekeeping;
-    }
+    if (!holding.contents)
+        return Answer::refused;
     const QString name = m_connection.atomName(target);
     const std::optional<QByteArray> bytes = holding.contents->data(name);
     if (!bytes)
@@ -135,13 +118,28 @@ SelectionOwner::Answer SelectionOwner::send(Key destination, xcb_atom_t type, co
         return Answer::content;
     }
     if (m_transfers.size() >= mostTransfers && !m_transfers.contains(destination))
-        return Answer::refused;
+        makeRoom();
     watch(destination.first, true);
     m_transfers[destination] = Transfer{type, bytes, 0, now + m_stalledLimit};
     const std::vector<quint32> size{
         static_cast<quint32>(std::min<qsizetype>(bytes.size(), std::numeric_limits<qint32>::max()))};
     m_connection.setProperty(destination.first, destination.second, atom(u"INCR"), 32, bytesOf(size));
     return Answer::content;
+}
+
+/// One client with hundreds of readers that stall must not keep an honest one waiting.
+void SelectionOwner::makeRoom() {
+    std::map<quint32, int> counts;
+    for (const auto& [key, transfer] : m_transfers)
+        ++counts[m_connection.clientOf(key.first)];
+    // The map's order breaks no tie: of several such clients the one whose transfer has stood longest loses it.
+    const auto worst = std::ranges::min_element(m_transfers, [&](const auto& one, const auto& other) {
+        const int ones = counts[m_connection.clientOf(one.first.first)];
+        const int others = counts[m_connection.clientOf(other.first.first)];
+        return ones != others ? ones > others : one.second.overdue < other.second.overdue;
+    });
+    if (worst != m_transfers.end())
+        end(worst);
 }
 
 void SelectionOwner::handlePropertyDeleted(xcb_window_t window, xcb_atom_t property, Instant now) {

@@ -12,7 +12,7 @@ namespace vellumry {
 
 /// Answers those who ask for a selection that is ours (ICCCM 2.2, 2.6, 2.7.2), many at once; what is long goes in
 /// increments. Pasteboard thread; time is handed in. A reader that vanishes or stops taking costs nothing but its own
-/// transfer.
+/// transfer; when there are too many transfers, the client with the most of them loses the one that has stood longest.
 class SelectionOwner {
 public:
     using Instant = std::chrono::steady_clock::time_point;
@@ -23,7 +23,7 @@ public:
         , m_stalledLimit(stalledLimit) {}
 
     /// Serves `contents` for `selection` from now on; `since` is the server's time of the ownership. Null contents
-    /// stand for a selection that has none, that of the clipboard manager.
+    /// stand for a selection that has none, that of the clipboard manager, whose SAVE_TARGETS somebody else answers.
     void hold(xcb_atom_t selection, std::shared_ptr<const OfferedContents> contents, xcb_timestamp_t since);
     void release(xcb_atom_t selection);
     /// What is served for `selection`; null when nothing is.
@@ -58,6 +58,7 @@ private:
     void answerTargets(const Holding& holding, Key destination);
     Answer send(Key destination, xcb_atom_t type, const QByteArray& bytes, Instant now);
     void end(std::map<Key, Transfer>::iterator transfer);
+    void makeRoom();
     void watch(xcb_window_t window, bool on);
     [[nodiscard]] xcb_atom_t atom(const char16_t* name) { return m_connection.atom(QString::fromUtf16(name)); }
 

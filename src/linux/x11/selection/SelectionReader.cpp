@@ -34,8 +34,33 @@ void SelectionReader::read(Request request, Instant now) {
                           request.time);
     Transfer& transfer = m_transfers[*property];
     transfer.sequence = ++m_sequence;
-    transfer.overdue = now + request.silence;
+    transfer.ownership = m_ownership;
     transfer.request = std::move(request);
+    transfer.overdue = isNextInTurn(transfer) ? now + transfer.request.silence : transfer.request.deadline;
+}
+
+/// True when the owner has nothing else of ours to do before it.
+bool SelectionReader::isNextInTurn(const Transfer& transfer) const {
+    return std::ranges::none_of(m_transfers, [&](const auto& entry) {
+        const Transfer& other = entry.second;
+        const bool isUnanswered = other.phase == Phase::asked || other.phase == Phase::abandoned;
+        return isUnanswered && other.ownership == transfer.ownership &&
+               other.request.selection == transfer.request.selection && other.sequence > m_answered &&
+               other.sequence < transfer.sequence;
+    });
+}
+
+/// The owner goes on to the next request: its silence about that one begins.
+void SelectionReader::noteAnswer(const Transfer& answered, Instant now) {
+    if (answered.ownership != m_ownership)
+        return;
+    // What was asked before and passed over will not be answered any more.
+    m_answered = std::max(m_answered, answered.sequence);
+    for (auto& [property, transfer] : m_transfers) {
+        const bool isWaiting = transfer.phase == Phase::asked && transfer.sequence > m_answered;
+        if (isWaiting && transfer.ownership == m_ownership && isNextInTurn(transfer))
+            transfer.overdue = now + transfer.request.silence;
+    }
 }
 
 std::optional<xcb_atom_t> SelectionReader::freeProperty() {
@@ -56,6 +81,7 @@ std::optional<xcb_atom_t> SelectionReader::freeProperty() {
         return std::nullopt;
     const xcb_atom_t property = oldest->first;
     m_transfers.erase(oldest);
+    m_reused.insert(property);
     return property;
 }
 
@@ -83,6 +109,12 @@ void SelectionReader::handleSelectionNotify(const xcb_selection_notify_event_t& 
     Transfer& transfer = found->second;
     if (transfer.phase != Phase::asked && transfer.phase != Phase::abandoned)
         return;
+    const bool isToThis = event.target == transfer.request.target && event.time == transfer.request.time;
+    if (m_reused.contains(found->first) && !isToThis) {
+        m_connection.deleteProperty(m_connection.window(), found->first);
+        return;
+    }
+    noteAnswer(transfer, now);
     if (event.property == XCB_ATOM_NONE) {
         finish(found, std::nullopt);
         return;
@@ -185,6 +217,7 @@ void SelectionReader::giveUp(Transfers::iterator found, Instant now, std::option
 }
 
 void SelectionReader::endAll(xcb_atom_t selection, Instant now) {
+    ++m_ownership;
     std::vector<xcb_atom_t> ending;
     for (const auto& [property, transfer] : m_transfers) {
         const bool isAwaited = transfer.phase == Phase::asked || transfer.phase == Phase::incremental;

@@ -7,11 +7,15 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 
 namespace vellumry {
 
 /// Asks the owner of a selection for representations and collects the answers, in one piece or in increments
 /// (ICCCM 2.4, 2.7.2). Several may be under way at once. Pasteboard thread; time is handed in.
+///
+/// Owners answer one request after the other: the silence of one counts from when the request before it was answered.
+/// An owner that is busy with a large table is not silent about the text that was asked for next.
 ///
 /// An answer that nobody waits for any more is still taken off the owner's hands for a while, unread, so that it is not
 /// left hanging in the middle of a transfer.
@@ -40,7 +44,7 @@ public:
     void handleSelectionNotify(const xcb_selection_notify_event_t& event, Instant now);
     /// For new values of properties of our own window.
     void handleNewValue(xcb_atom_t property, Instant now);
-    /// Gives up on everything that was asked of `selection`: it has another owner.
+    /// Gives up on everything that was asked of `selection`: it has another owner, who owes no answer yet.
     void endAll(xcb_atom_t selection, Instant now);
     /// Gives up on what is overdue.
     void expire(Instant now);
@@ -58,6 +62,7 @@ private:
         Request request;
         Phase phase = Phase::asked;
         quint64 sequence = 0;
+        quint64 ownership = 0; ///< which of the owners that came after each other was asked
         XcbProperty collected;
         Instant overdue; ///< the silence that counts
         [[nodiscard]] Instant deadline() const { return std::min(overdue, request.deadline); }
@@ -65,6 +70,8 @@ private:
     using Transfers = std::map<xcb_atom_t, Transfer>;
 
     [[nodiscard]] std::optional<xcb_atom_t> freeProperty();
+    [[nodiscard]] bool isNextInTurn(const Transfer& transfer) const;
+    void noteAnswer(const Transfer& answered, Instant now);
     [[nodiscard]] Transfers::iterator transferFor(const xcb_selection_notify_event_t& event);
     void beginIncremental(Transfers::iterator transfer, const XcbProperty& announcement, Instant now);
     void takeChunk(Transfers::iterator transfer, Instant now);
@@ -72,8 +79,11 @@ private:
     void giveUp(Transfers::iterator transfer, Instant now, std::optional<XcbProperty> outcome = std::nullopt);
 
     XcbConnection& m_connection;
-    Transfers m_transfers; ///< by the property that the answer goes to
+    Transfers m_transfers;         ///< by the property that the answer goes to
+    std::set<xcb_atom_t> m_reused; ///< properties to which a late answer to another request may come
     quint64 m_sequence = 0;
+    quint64 m_answered = 0;  ///< the sequence of the latest request that was answered
+    quint64 m_ownership = 0; ///< counts the changes of owner
 };
 
 } // namespace vellumry

@@ -69,7 +69,7 @@ std::optional<QByteArray> encode(const QString& uniformType, const QString& targ
 }
 
 bool isMadeOnDemand(const QString& target) {
-    return target.startsWith(u"image/", Qt::CaseInsensitive) || target == u"application/pdf";
+    return target.startsWith(u"image/", Qt::CaseInsensitive) || uniformtype::isKnownTarget(target);
 }
 
 QString propertyTypeOf(const QString& target) {

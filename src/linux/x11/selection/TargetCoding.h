@@ -20,8 +20,8 @@ namespace vellumry::targetcoding {
 [[nodiscard]] std::optional<QByteArray> encode(const QString& uniformType, const QString& target,
                                                const QByteArray& bytes);
 
-/// True for pictures and documents: programs compress and render these only when they are asked for them, which takes
-/// seconds for large ones.
+/// True for what programs compress and render only when they are asked for it, which takes seconds for large ones:
+/// pictures, documents, the forms of a text.
 [[nodiscard]] bool isMadeOnDemand(const QString& target);
 
 /// The property type that goes with `encode`: the target itself, but for TEXT, which names the encoding chosen.

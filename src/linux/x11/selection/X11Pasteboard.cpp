@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/selection/X11Pasteboard.h"
 
+#include "foundation/Logging.h"
 #include "linux/x11/selection/OfferedContents.h"
 #include "linux/x11/selection/PasteboardThread.h"
 #include "linux/x11/selection/X11PasteboardReading.h"
@@ -100,16 +101,42 @@ bool X11Pasteboard::write(std::vector<PasteboardItem> items) {
 
 bool X11Pasteboard::takeOver(std::vector<PasteboardItem> items) {
     PasteboardEngine::Claim claim;
-    claim.contents = OfferedContents::of(std::move(items));
+    // The copy goes on as its owner left it.
+    claim.contents = OfferedContents::of(std::move(items), OfferedContents::FileOperation::asCopied);
     claim.isTakeover = true;
     return own(std::move(claim));
 }
 
 void X11Pasteboard::giveUp(qint64 changeCount) {
-    if (!m_ownContents || m_ownChangeCount != changeCount)
+    std::shared_ptr<const OfferedContents> contents;
+    if (m_ownContents && m_ownChangeCount == changeCount)
+        contents = std::move(m_ownContents);
+    else if (m_primaryChangeCount == changeCount)
+        contents = m_primaryContents.lock();
+    if (contents)
+        m_thread->post([contents](PasteboardEngine& engine, auto) { engine.disown(contents); });
+}
+
+void X11Pasteboard::markSecret(qint64 changeCount) {
+    m_secretChangeCount = changeCount;
+}
+
+/// A secret that was pasted into a terminal would stay on the primary selection until somebody marks a text.
+void X11Pasteboard::dropOldSecret() {
+    if (m_primaryChangeCount != m_secretChangeCount || m_primaryChangeCount == changeCount())
         return;
-    const std::shared_ptr<const OfferedContents> contents = std::move(m_ownContents);
-    m_thread->post([contents](PasteboardEngine& engine, auto) { engine.disown(contents); });
+    const std::shared_ptr<const OfferedContents> contents = m_primaryContents.lock();
+    m_primaryContents.reset();
+    if (contents)
+        m_thread->post([contents](PasteboardEngine& engine, auto) { engine.disown(contents); });
+}
+
+void X11Pasteboard::settle(qint64 changeCount, bool wasKept) {
+    m_thread->post([changeCount, wasKept](PasteboardEngine& engine, auto) { engine.settle(changeCount, wasKept); });
+}
+
+qint64 X11Pasteboard::copyCount() const {
+    return m_thread->engine().copyCount();
 }
 
 bool X11Pasteboard::own(PasteboardEngine::Claim claim) {
@@ -118,12 +145,15 @@ bool X11Pasteboard::own(PasteboardEngine::Claim claim) {
     const std::optional<std::optional<qint64>> count = claim.result.waitFor(m_limits.ownership);
     if (!count || !*count) {
         // What comes too late must not stay: the caller has been told that it is not there.
+        if (!claim.isTakeover)
+            qCWarning(logging::x11) << "The clipboard was not written: the X server did not confirm that it is ours.";
         claim.isWithdrawn->store(true);
         m_thread->post([contents = claim.contents](PasteboardEngine& engine, auto) { engine.disown(contents); });
         return false;
     }
     m_ownContents = claim.contents;
     m_ownChangeCount = **count;
+    dropOldSecret();
     return true;
 }
 
@@ -135,8 +165,11 @@ bool X11Pasteboard::offerAsPrimary() {
     claim.isPrimary = true;
     m_thread->post([claim](PasteboardEngine& engine, auto) { engine.claim(claim); });
     const std::optional<std::optional<qint64>> count = claim.result.waitFor(m_limits.ownership);
-    if (count && *count)
+    if (count && *count) {
+        m_primaryContents = m_ownContents;
+        m_primaryChangeCount = m_ownChangeCount;
         return true;
+    }
     claim.isWithdrawn->store(true);
     return false;
 }
@@ -145,6 +178,7 @@ void X11Pasteboard::announceChange() {
     // Contents that another program has replaced are not kept.
     if (m_ownChangeCount != changeCount())
         m_ownContents.reset();
+    dropOldSecret();
     if (onChanged)
         onChanged();
 }

@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 #include <memory>
+#include <optional>
 
 namespace vellumry {
 
@@ -18,8 +19,8 @@ class PasteboardThread;
 /// other programs runs on a thread and a connection of its own, so what we hold is served while the main thread is
 /// busy.
 ///
-/// Where the session has no clipboard manager this is one: a program that quits is told at once that its copy is safe,
-/// and `onOwnerGone` is where what was captured of it is put back.
+/// Where the session has no clipboard manager this is one: a program that quits is told by `settle` whether its copy is
+/// safe, and `onOwnerGone` is where what was captured of it is put back.
 class X11Pasteboard final : public Pasteboard {
 public:
     /// Fails when there is no such display or it lacks XFixes. An empty name stands for $DISPLAY.
@@ -36,15 +37,19 @@ public:
     bool write(std::vector<PasteboardItem> items) override;
     bool takeOver(std::vector<PasteboardItem> items) override;
     void giveUp(qint64 changeCount) override;
+    void markSecret(qint64 changeCount) override;
+    void settle(qint64 changeCount, bool wasKept) override;
+    [[nodiscard]] qint64 copyCount() const override;
     [[nodiscard]] bool notifiesChanges() const override { return true; }
 
     /// Offers what was last written on the primary selection too, for programs that paste from there. False when
     /// nothing of ours is on the pasteboard or the server refused. Losing the primary selection changes nothing here.
     /// Waits as `write`.
     bool offerAsPrimary();
-    /// True once another program took content, not just the list of types, of what was last written. Any thread.
+    /// True once the program that has the keyboard took content, not just the list of types, of what was last written;
+    /// any program where no window has the keyboard. Any thread.
     [[nodiscard]] bool wasServed() const;
-    /// True once another program asked for anything of it, be it the list of types. Any thread.
+    /// The same for anything of it, be it the list of types. Any thread.
     [[nodiscard]] bool wasListed() const;
 
 private:
@@ -54,6 +59,7 @@ private:
 
     [[nodiscard]] bool own(PasteboardEngine::Claim claim);
     void announceChange();
+    void dropOldSecret();
     void announceOwnerGone(qint64 held, qint64 since);
 
     const PasteboardLimits m_limits;
@@ -61,6 +67,10 @@ private:
     std::shared_ptr<PasteboardThread> m_thread;
     std::shared_ptr<const OfferedContents> m_ownContents;
     qint64 m_ownChangeCount = 0; ///< the pasteboard is ours as long as this is the change count
+    std::optional<qint64> m_secretChangeCount;
+    /// What is on the primary selection, as long as the pasteboard thread serves it there, and when it was written.
+    std::weak_ptr<const OfferedContents> m_primaryContents;
+    qint64 m_primaryChangeCount = 0;
 };
 
 } // namespace vellumry

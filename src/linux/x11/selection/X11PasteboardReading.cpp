@@ -62,7 +62,7 @@ QCoro::Task<> readFileList(std::shared_ptr<State> state) {
             co_await readTarget(state, target, QString(), state->maxFileListBytes);
         if (list && !list->wasLarger)
             entries = filelist::parse(list->bytes);
-        if (!entries.files.isEmpty() || entries.webAddress)
+        if (!entries.isEmpty())
             break;
     }
     if (!state->entries)
@@ -133,8 +133,12 @@ std::vector<QStringList> ForeignReading::State::typesByItem() const {
         return items;
     }
     first.removeAt(place);
-    first.removeAll(filelist::copiedFiles);
-    if (entries && entries->webAddress && !first.contains(uniformtype::url))
+    const bool isElsewhere = entries && entries->urls() && !entries->webAddress;
+    if (!isElsewhere)
+        first.removeAll(filelist::copiedFiles);
+    else if (offer->targets.contains(filelist::uriList))
+        first.insert(place, filelist::uriList);
+    if (entries && entries->urls() && !first.contains(uniformtype::url))
         first.insert(place, uniformtype::url);
     return {first};
 }
@@ -180,8 +184,8 @@ QCoro::Task<std::optional<QByteArray>> ForeignReading::data(qsizetype item, QStr
     }
     if (item != 0)
         co_return std::nullopt;
-    if (state->entries && state->entries->webAddress && type == uniformtype::url)
-        co_return within(*state->entries->webAddress, maxBytes, state->wasLarger);
+    if (const auto urls = state->entries ? state->entries->urls() : std::nullopt; urls && type == uniformtype::url)
+        co_return within(*urls, maxBytes, state->wasLarger);
     std::optional<QByteArray> bytes = co_await readRepresentation(state, type, maxBytes);
     co_return bytes;
 }

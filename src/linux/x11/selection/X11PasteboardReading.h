@@ -12,7 +12,8 @@ namespace vellumry {
 /// thread.
 ///
 /// `types` declares a list of files as `public.file-url` before it is read; a list that turns out to hold web addresses
-/// gives one item with `public.url`.
+/// gives one item with `public.url`, and one that holds addresses of files elsewhere the same with all of them, one a
+/// line, beside the list itself.
 class ForeignReading final : public PasteboardReading {
 public:
     ForeignReading(std::weak_ptr<PasteboardThread> thread, std::shared_ptr<const SelectionOffer> offer,

@@ -2,6 +2,8 @@
 #include "linux/x11/selection/XcbConnection.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <xcb/xfixes.h>
 
 namespace vellumry {
@@ -158,6 +160,34 @@ void XcbConnection::setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t
 
 void XcbConnection::deleteProperty(xcb_window_t window, xcb_atom_t name) {
     xcb_delete_property(m_connection, window, name);
+}
+
+void XcbConnection::notifyRequestor(const xcb_selection_request_event_t& request, xcb_atom_t property) {
+    xcb_selection_notify_event_t notice{};
+    notice.response_type = XCB_SELECTION_NOTIFY;
+    notice.time = request.time;
+    notice.requestor = request.requestor;
+    notice.selection = request.selection;
+    notice.target = request.target;
+    notice.property = property;
+    // The server copies 32 bytes whatever the event's own size.
+    std::array<char, 32> buffer{};
+    std::memcpy(buffer.data(), &notice, sizeof notice);
+    xcb_send_event(m_connection, 0, request.requestor, XCB_EVENT_MASK_NO_EVENT, buffer.data());
+}
+
+quint32 XcbConnection::clientOf(xcb_window_t window) const {
+    return window & ~xcb_get_setup(m_connection)->resource_id_mask;
+}
+
+bool XcbConnection::isSameClient(xcb_window_t one, xcb_window_t other) const {
+    return clientOf(one) == clientOf(other);
+}
+
+xcb_window_t XcbConnection::focusWindow() {
+    const XcbPointer<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    return reply && reply->focus != XCB_INPUT_FOCUS_POINTER_ROOT ? reply->focus : xcb_window_t(XCB_NONE);
 }
 
 xcb_window_t XcbConnection::selectionOwner(xcb_atom_t selection) {

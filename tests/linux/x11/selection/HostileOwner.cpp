@@ -62,7 +62,32 @@ void HostileOwner::askAndVanish(const QByteArray& selection, const QByteArray& t
 }
 
 void HostileOwner::askAndStall(const QByteArray& selection, const QByteArray& target) {
-    xcb_convert_selection(m_connection, m_window, atom(selection), atom(target), atom("PEER_STALLS"), XCB_CURRENT_TIME);
+    const xcb_atom_t property = atom("PEER_STALLS_" + QByteArray::number(m_asked++));
+    xcb_convert_selection(m_connection, m_window, atom(selection), atom(target), property, XCB_CURRENT_TIME);
+    xcb_flush(m_connection);
+}
+
+bool HostileOwner::isWatched() {
+    const Reply<xcb_get_window_attributes_reply_t> reply(
+        xcb_get_window_attributes_reply(m_connection, xcb_get_window_attributes(m_connection, m_window), nullptr));
+    return reply && (reply->all_event_masks & ~reply->your_event_mask) != 0;
+}
+
+bool HostileOwner::takeFocus() {
+    xcb_map_window(m_connection, m_window);
+    xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_POINTER_ROOT, m_window, XCB_CURRENT_TIME);
+    const Reply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    return reply && reply->focus == m_window;
+}
+
+void HostileOwner::breakSilence() {
+    for (Offer& offer : m_offers[atom("CLIPBOARD")]) {
+        if (offer.manner == Manner::silence)
+            offer.manner = Manner::whole;
+    }
+    for (const auto& request : std::exchange(m_silenced, {}))
+        answerRequest(request);
     xcb_flush(m_connection);
 }
 
@@ -87,8 +112,17 @@ void HostileOwner::pump() {
             break;
         handle(*event);
     }
+    doWork();
     if (m_connection)
         xcb_flush(m_connection);
+}
+
+void HostileOwner::doWork() {
+    while (m_connection && !m_work.empty() && m_work.front().at <= std::chrono::steady_clock::now()) {
+        const auto request = m_work.front().request;
+        m_work.pop_front();
+        answerRequest(request);
+    }
 }
 
 void HostileOwner::handle(const xcb_generic_event_t& event) {
@@ -116,8 +150,24 @@ void HostileOwner::handle(const xcb_generic_event_t& event) {
 
 void HostileOwner::handleRequest(const xcb_selection_request_event_t& request) {
     requests.append(atomName(request.target));
-    if (answerRequest(request))
-        xcb_flush(m_connection);
+    const auto work = workFor(request);
+    if (work.count() == 0 && m_work.empty()) {
+        if (answerRequest(request))
+            xcb_flush(m_connection);
+        return;
+    }
+    const Instant now = std::chrono::steady_clock::now();
+    m_work.push_back({request, (m_work.empty() ? now : m_work.back().at) + work});
+}
+
+std::chrono::milliseconds HostileOwner::workFor(const xcb_selection_request_event_t& request) {
+    if (request.target == atom("TARGETS"))
+        return targetsWork;
+    for (const Offer& offer : m_offers[request.selection]) {
+        if (atom(offer.target) == request.target)
+            return offer.work;
+    }
+    return {};
 }
 
 /// False when nothing is to be said.
@@ -138,8 +188,10 @@ bool HostileOwner::answerRequest(const xcb_selection_request_event_t& request) {
     } else {
         const auto found =
             std::ranges::find_if(offers, [&](const Offer& offer) { return atom(offer.target) == request.target; });
-        if (found != offers.end() && found->manner == Manner::silence)
+        if (found != offers.end() && found->manner == Manner::silence) {
+            m_silenced.push_back(request);
             return false;
+        }
         isGiven = found != offers.end() && found->manner != Manner::refusal;
         if (isGiven && found->manner == Manner::whole) {
             set(destination, atom(found->type.isEmpty() ? found->target : found->type), found->format, found->bytes);

@@ -41,6 +41,14 @@ TEST(FileList, ReadsFilesAndLeavesOutTheRest) {
                                          "ftp://x/y\r\nfile:///caf%E9\r\nhttps://one/\r\nhttp://two/\r\n");
     EXPECT_EQ(entries.files, (QByteArrayList{"file:///a", "file:///caf%E9"}));
     EXPECT_EQ(entries.webAddress, "https://one/");
+    EXPECT_EQ(entries.elsewhere, QByteArrayList{"ftp://x/y"});
+}
+
+TEST(FileList, AddressesElsewhereHaveASchemeThatTheListIsNotFor) {
+    const auto entries =
+        filelist::parse("copy\nsftp://u@host/a\nmtp://phone/b\ntrash:///c\nC:\\file\n1:2\nscheme:\nplain\n");
+    EXPECT_EQ(entries.elsewhere, (QByteArrayList{"sftp://u@host/a", "mtp://phone/b", "trash:///c"}));
+    EXPECT_EQ(entries.urls(), "sftp://u@host/a\nmtp://phone/b\ntrash:///c");
 }
 
 TEST(FileList, ReadsTheDesktopsOwnList) {

@@ -154,6 +154,31 @@ TEST_F(X11PasteboardRead, AListOfWebAddressesIsNoListOfFiles) {
     EXPECT_EQ(read(*look, uniformtype::url), "https://example.org/");
 }
 
+TEST_F(X11PasteboardRead, AListOfFilesElsewhereIsKeptAsItIs) {
+    const QByteArray list = "sftp://host/a\r\nsmb://server/b\r\n";
+    const QByteArray copies = "copy\nsftp://host/a\nsmb://server/b";
+    copied({{"text/uri-list", list}, {"x-special/gnome-copied-files", copies}});
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    const QString uriList = QStringLiteral("text/uri-list");
+    const QString copiedFiles = QStringLiteral("x-special/gnome-copied-files");
+    const std::vector<QStringList> expected{{uniformtype::url, uriList, copiedFiles}};
+    EXPECT_EQ(resultOf(look->itemTypes()), expected);
+    EXPECT_EQ(read(*look, uniformtype::url), "sftp://host/a\nsmb://server/b");
+    EXPECT_EQ(read(*look, uriList), list);
+    EXPECT_EQ(read(*look, copiedFiles), copies);
+}
+
+TEST_F(X11PasteboardRead, KeysOfTheDocumentsPortalAreLeftOut) {
+    copied({{"application/vnd.portal.filetransfer", "2342"},
+            {"application/vnd.portal.files", "2342"},
+            {"text/x-libfmqt-pid", "17"},
+            {"text/uri-list", "file:///a\r\n"}});
+    const auto look = reading();
+    ASSERT_NE(look, nullptr);
+    EXPECT_EQ(resultOf(look->itemTypes()), std::vector<QStringList>{{uniformtype::fileUrl}});
+}
+
 TEST_F(X11PasteboardRead, AHundredThousandFilesAreSurvived) {
     QByteArray list;
     for (int i = 0; i < 100000; ++i)

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/selection/X11PasteboardWorld.h"
 
+#include "foundation/UniformType.h"
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <csignal>
+#include <cstring>
 #include <poll.h>
 #include <sys/prctl.h>
 
@@ -67,12 +70,47 @@ bool X11PasteboardWorld::waitForChange(qint64 count) {
     return waitUntil([this, count] { return pasteboard->changeCount() != count; });
 }
 
+void X11PasteboardWorld::catchUp() {
+    (void)resultOf([](X11Pasteboard& board) -> QCoro::Task<bool> {
+        co_await board.catchUp();
+        co_return true;
+    }(*pasteboard));
+}
+
+void X11PasteboardWorld::setLimits(const PasteboardLimits& limits) {
+    pasteboard = X11Pasteboard::create(display, limits).value();
+    ASSERT_NE(pasteboard, nullptr);
+}
+
 HostileOwner& X11PasteboardWorld::copied(std::vector<HostileOwner::Offer> offers) {
     HostileOwner& owner = peer();
     const qint64 count = pasteboard->changeCount();
     EXPECT_TRUE(owner.own("CLIPBOARD", std::move(offers)));
     EXPECT_TRUE(waitForChange(count));
     return owner;
+}
+
+HostileOwner::Answer X11PasteboardWorld::ask(HostileOwner& requestor, const QByteArray& target,
+                                             const QByteArray& selection) {
+    requestor.answers.erase(target);
+    requestor.ask(selection, target);
+    EXPECT_TRUE(waitUntil([&] { return requestor.answers.contains(target); })) << target.constData();
+    return requestor.answers[target];
+}
+
+QByteArrayList X11PasteboardWorld::targetsOf(HostileOwner& requestor, const QByteArray& selection) {
+    const HostileOwner::Answer answer = ask(requestor, "TARGETS", selection);
+    QByteArrayList names;
+    for (qsizetype at = 0; at + 4 <= answer.bytes.size(); at += 4) {
+        quint32 atom = 0;
+        std::memcpy(&atom, answer.bytes.constData() + at, sizeof atom);
+        names.append(requestor.atomName(atom));
+    }
+    return names;
+}
+
+PasteboardItem X11PasteboardWorld::file(const QByteArray& url) {
+    return {{{uniformtype::fileUrl, url}}, std::nullopt};
 }
 
 QByteArray patternOf(qsizetype size) {

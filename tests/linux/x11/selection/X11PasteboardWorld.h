@@ -21,15 +21,29 @@ protected:
     /// Another client of the server; it works while the test waits.
     HostileOwner& peer();
     /// Lets everybody work until `condition` holds; false when it does not within `milliseconds`.
-    [[nodiscard]] bool waitUntil(const std::function<bool()>& condition, int milliseconds = 3000);
+    [[nodiscard]] bool waitUntil(const std::function<bool()>& condition, int milliseconds = 60000);
     /// Waits until the pasteboard has noticed a change since `count`.
     [[nodiscard]] bool waitForChange(qint64 count);
+    /// Until all that the server has to tell of the time before the call is known to the pasteboard.
+    void catchUp();
+    /// The pasteboard once more, with other limits.
+    void setLimits(const PasteboardLimits& limits);
     /// A peer owns the clipboard with `offers`, and the pasteboard knows.
     HostileOwner& copied(std::vector<HostileOwner::Offer> offers);
 
+    /// What `requestor` is given for a target.
+    HostileOwner::Answer ask(HostileOwner& requestor, const QByteArray& target,
+                             const QByteArray& selection = "CLIPBOARD");
+    /// The names that `requestor` is told are offered.
+    QByteArrayList targetsOf(HostileOwner& requestor, const QByteArray& selection = "CLIPBOARD");
+    bool write(std::map<QString, QByteArray> representations) {
+        return pasteboard->write({PasteboardItem{std::move(representations), std::nullopt}});
+    }
+    static PasteboardItem file(const QByteArray& url);
+
     /// The result of an operation; fails the test when it does not come in time.
     template <typename T>
-    T resultOf(QCoro::Task<T> task, int milliseconds = 8000) {
+    T resultOf(QCoro::Task<T> task, int milliseconds = 60000) {
         const auto result = std::make_shared<std::optional<T>>();
         keep(std::move(task), result);
         EXPECT_TRUE(waitUntil([result] { return result->has_value(); }, milliseconds));

