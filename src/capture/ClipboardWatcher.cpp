@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capture/ClipboardWatcher.h"
 
+#include "foundation/Logging.h"
+
 #include <QPointer>
 #include <algorithm>
+#include <exception>
 
 namespace vellumry {
 
@@ -23,12 +26,13 @@ ClipboardWatcher::ClipboardWatcher(Pasteboard& pasteboard, ClipStore& store, Use
     , m_store(&store)
     , m_defaults(&defaults)
     , m_builder(bookmarks, images)
-    , m_source(std::move(source)) {
+    , m_source(std::move(source))
+    , m_copyCount(pasteboard.copyCount()) {
     m_monotonic.start();
-    connect(&m_timer, &QTimer::timeout, this, [this] {
-        m_schedule.ticked();
-        tick(currentDate());
-    });
+    m_hold.setSingleShot(true);
+    m_hold.setTimerType(Qt::PreciseTimer);
+    connect(&m_hold, &QTimer::timeout, this, &ClipboardWatcher::deliverRead);
+    connect(&m_poll, &QTimer::timeout, this, [this] { tick(currentDate()); });
 }
 
 ClipboardWatcher::~ClipboardWatcher() = default;
@@ -38,39 +42,52 @@ void ClipboardWatcher::start() {
         return;
     m_isStarted = true;
     if (!m_pasteboard->notifiesChanges()) {
-        m_timer.start(pollInterval);
+        m_poll.start(pollInterval);
         return;
     }
-    m_timer.setSingleShot(true);
-    m_timer.setTimerType(Qt::PreciseTimer);
     m_pasteboard->onChanged = [self = QPointer(this)] {
         if (self)
-            self->scheduleTick();
+            self->look(currentDate());
     };
     // A change between construction and now was told to nobody.
-    if (m_pasteboard->changeCount() != lastChangeCount)
-        scheduleTick();
-}
-
-void ClipboardWatcher::scheduleTick() {
-    const qint64 now = m_monotonic.elapsed();
-    m_timer.start(std::chrono::milliseconds(m_schedule.notified(now) - now));
+    look(currentDate());
 }
 
 void ClipboardWatcher::tick(Date now) {
+    const QPointer self(this);
+    look(now);
+    if (!self)
+        return;
+    for (const std::shared_ptr<Copy>& copy : m_copies)
+        copy->isUrgent = true;
+    deliverRead();
+}
+
+void ClipboardWatcher::look(Date now) {
     const qint64 changeCount = m_pasteboard->changeCount();
     if (changeCount == lastChangeCount)
         return;
     // Ahead of every rule: what a rule refuses is not caught up with later.
     lastChangeCount = changeCount;
+    countOvertaken();
 
-    if (isHeldBack(now))
+    if (isHeldBack(now)) {
+        m_pasteboard->settle(changeCount, false);
         return;
+    }
 
-    auto copy = std::make_shared<Copy>(Copy{changeCount, now, false, std::nullopt});
+    auto copy =
+        std::make_shared<Copy>(Copy{changeCount, now, m_monotonic.elapsed(), m_copyCount, false, false, std::nullopt});
     m_copies.push_back(copy);
     SnapshotRequest request = requestFor(*copy);
     read(std::move(copy), std::move(request));
+}
+
+/// Several changes since the last look are one change to us.
+void ClipboardWatcher::countOvertaken() {
+    const qint64 copyCount = m_pasteboard->copyCount();
+    m_overtakenCopies += std::max<qint64>(0, copyCount - m_copyCount - 1);
+    m_copyCount = copyCount;
 }
 
 bool ClipboardWatcher::isHeldBack(Date now) {
@@ -98,6 +115,7 @@ SnapshotRequest ClipboardWatcher::requestFor(const Copy& copy) const {
     SnapshotRequest request;
     request.changeCount = copy.changeCount;
     request.source = m_source ? m_source() : SourceApp();
+    request.owner = pasteboardOwner ? pasteboardOwner() : SourceApp();
     request.ignoredApps = QSet<QString>(ignored.begin(), ignored.end());
     request.now = copy.now;
     return request;
@@ -105,37 +123,86 @@ SnapshotRequest ClipboardWatcher::requestFor(const Copy& copy) const {
 
 QCoro::Task<void> ClipboardWatcher::read(std::shared_ptr<Copy> copy, SnapshotRequest request) {
     const QPointer self(this);
-    auto reading = readDraft(m_pasteboard, m_builder, std::move(request));
-    std::optional<ClipDraft> draft = co_await reading;
-    copy->draft = std::move(draft);
+    try {
+        auto reading = readDraft(m_pasteboard, m_builder, std::move(request));
+        std::optional<ClipDraft> draft = co_await reading;
+        copy->draft = std::move(draft);
+    } catch (const std::exception&) {
+        // A copy that cannot be held in memory, say: it is lost, those behind it are not.
+        copy->draft.reset();
+        qCWarning(logging::capture) << "A copy is lost: reading it failed.";
+    }
+    if (!self)
+        co_return;
     copy->isRead = true;
-    if (self)
-        self->deliverRead();
+    if (!copy->draft && m_pasteboard->copyCount() > copy->copyCount)
+        ++m_overtakenCopies;
+    deliverRead();
 }
 
 /// A picture is opened elsewhere while a later text is read already: the history still gets them in the order of the
 /// copies.
 void ClipboardWatcher::deliverRead() {
     const QPointer self(this);
-    while (self && !m_copies.empty() && m_copies.front()->isRead) {
+    bool hasDelivered = false;
+    while (self && !m_copies.empty() && m_copies.front()->isRead && !isHeld()) {
+        const bool isOld = isWrittenAgain();
         std::shared_ptr<Copy> copy = std::move(m_copies.front());
         m_copies.pop_front();
-        if (copy->draft)
+        hasDelivered = true;
+        const bool isKept = copy->draft.has_value() && !isOld;
+        const qint64 changeCount = copy->changeCount;
+        if (isKept)
             deliver(std::move(copy));
+        else if (self)
+            m_pasteboard->settle(changeCount, false);
     }
-    if (self && m_copies.empty() && onSettled)
+    if (self && hasDelivered && m_copies.empty() && onSettled)
         onSettled();
+}
+
+/// True while the program of the first copy may write it once more; the timer then looks again.
+bool ClipboardWatcher::isHeld() {
+    const Copy& copy = *m_copies.front();
+    if (!m_isStarted || !m_pasteboard->notifiesChanges() || copy.isUrgent || !copy.draft)
+        return false;
+    RewriteWindow window(copy.noticedAt);
+    if (m_copies.size() > 1)
+        window.noteNext(m_copies[1]->noticedAt, m_copies[1]->isRead);
+    const qint64 left = window.end() - m_monotonic.elapsed();
+    if (left <= 0)
+        return false;
+    m_hold.start(std::chrono::milliseconds(left));
+    return true;
+}
+
+/// True when the copy behind the first is the same once more: it then stands for both.
+bool ClipboardWatcher::isWrittenAgain() const {
+    if (m_copies.size() < 2 || !m_copies[0]->draft || !m_copies[1]->draft)
+        return false;
+    const Copy& first = *m_copies[0];
+    const Copy& second = *m_copies[1];
+    if (!RewriteWindow(first.noticedAt).covers(second.noticedAt))
+        return false;
+    const auto text = plainText(first.draft->payload.items);
+    return text && text == plainText(second.draft->payload.items);
 }
 
 void ClipboardWatcher::deliver(std::shared_ptr<Copy> copy) {
     if (copy->draft->kind == ClipKind::image && !hasRoomForImages()) {
+        m_pasteboard->settle(copy->changeCount, false);
+        qCWarning(logging::capture) << "A picture is not kept: the disk is almost full.";
         if (onLowDisk)
             onLowDisk();
         return;
     }
+    const QPointer self(this);
     if (onRead)
         onRead(*copy->draft);
+    if (!self)
+        return;
     refreshSensitiveLifetime();
+    m_pasteboard->settle(copy->changeCount, true);
     add(std::move(copy));
 }
 

@@ -3,7 +3,7 @@
 
 #include "capture/DraftBuilder.h"
 #include "capture/PasteboardSnapshot.h"
-#include "capture/TickSchedule.h"
+#include "capture/RewriteWindow.h"
 #include "foundation/Date.h"
 #include "foundation/UserDefaults.h"
 #include "history/clips/ClipStore.h"
@@ -26,7 +26,7 @@ namespace vellumry {
 /// refusal of pictures on a full disk. Main thread; everything handed to it must outlive it and the tasks it started.
 class ClipboardWatcher : public QObject {
 public:
-    /// Tells who is copying.
+    /// Tells which application is in front.
     using Source = std::function<SourceApp()>;
 
     /// What is on the pasteboard now counts as seen.
@@ -34,11 +34,12 @@ public:
                      ImageCodec& images, Source source, QObject* parent = nullptr);
     ~ClipboardWatcher() override;
 
-    /// From now on changes lead to ticks: by `Pasteboard::onChanged`, which it takes, or by a poll every quarter of a
-    /// second where the pasteboard does not notify. A second call does nothing.
+    /// From now on each change is looked at at once: `Pasteboard::onChanged`, which it takes, tells of it, or a poll
+    /// every quarter of a second where the pasteboard does not notify. What was read is held back for a moment, in case
+    /// its program writes the same copy once more with further formats. A second call does nothing.
     void start();
-    /// Looks at the pasteboard once. Returns without waiting for its owner, the disk or the store; a copy that was
-    /// noticed reaches the store behind those noticed before it.
+    /// Looks at the pasteboard once, and holds back nothing of what was read. Returns without waiting for its owner,
+    /// the disk or the store; a copy that was noticed reaches the store behind those noticed before it.
     void tick(Date now);
     /// No capture for `seconds`; without end when absent.
     void pause(std::optional<double> seconds, Date now);
@@ -52,6 +53,11 @@ public:
     /// End of the quiet period behind a dropped copy, whose program may still be writing.
     std::optional<Date> ignoringUntil;
 
+    /// Copies that are lost because the next one came before they could be read, since the watcher was made.
+    [[nodiscard]] qint64 overtakenCopies() const { return m_overtakenCopies; }
+
+    /// Tells which application owns the pasteboard; it may have hidden its window when it copied.
+    Source pasteboardOwner;
     /// False when the disk has no room for pictures.
     std::function<bool()> hasRoomForImages = [] { return true; };
     /// A picture was dropped for lack of room.
@@ -74,15 +80,21 @@ private:
     struct Copy {
         qint64 changeCount;
         Date now;
+        qint64 noticedAt = 0;  ///< on the monotonic clock, in milliseconds
+        qint64 copyCount = 0;  ///< the pasteboard's when it was noticed
+        bool isUrgent = false; ///< somebody waits for it
         bool isRead = false;
         std::optional<ClipDraft> draft;
     };
 
+    void look(Date now);
+    void countOvertaken();
     [[nodiscard]] bool isHeldBack(Date now);
-    void scheduleTick();
     [[nodiscard]] SnapshotRequest requestFor(const Copy& copy) const;
     QCoro::Task<void> read(std::shared_ptr<Copy> copy, SnapshotRequest request);
     void deliverRead();
+    [[nodiscard]] bool isHeld();
+    [[nodiscard]] bool isWrittenAgain() const;
     void deliver(std::shared_ptr<Copy> copy);
     void refreshSensitiveLifetime();
     QCoro::Task<void> add(std::shared_ptr<Copy> copy);
@@ -94,9 +106,11 @@ private:
     Source m_source;
     std::deque<std::shared_ptr<Copy>> m_copies;
     bool m_isStarted = false;
-    TickSchedule m_schedule;
+    qint64 m_copyCount = 0; ///< the pasteboard's, as far as it was looked at
+    qint64 m_overtakenCopies = 0;
     QElapsedTimer m_monotonic;
-    QTimer m_timer;
+    QTimer m_poll;
+    QTimer m_hold; ///< until a copy that was read is no longer held back
 };
 
 } // namespace vellumry

@@ -2,6 +2,7 @@
 #include "capture/PasteboardSnapshot.h"
 
 #include "capture/PasteboardTypes.h"
+#include "foundation/Logging.h"
 #include "foundation/UniformType.h"
 
 #include <algorithm>
@@ -28,9 +29,17 @@ struct Wanted {
 bool isRefused(const QStringList& types, const SnapshotRequest& request) {
     if (types.isEmpty() || types.contains(uniformtype::ownMarker))
         return true;
-    if (std::ranges::any_of(types, pasteboardtype::isRefused))
+    if (std::ranges::any_of(types, uniformtype::isRefusalMark)) {
+        qCInfo(logging::capture) << "A copy is not kept: its program asks for that.";
         return true;
-    return request.source.bundleID && request.ignoredApps.contains(*request.source.bundleID);
+    }
+    const auto isIgnored = [&request](const SourceApp& application) {
+        return application.bundleID && request.ignoredApps.contains(*application.bundleID);
+    };
+    if (!isIgnored(request.source) && !isIgnored(request.owner))
+        return false;
+    qCInfo(logging::capture) << "A copy is not kept: the user has its application ignored.";
+    return true;
 }
 
 /// One more rendering of a picture, in a format that nobody needs who takes the usual ones.
@@ -62,7 +71,7 @@ std::vector<Wanted> plan(const std::vector<QStringList>& itemTypes) {
     for (std::size_t item = 0; item < itemTypes.size(); ++item) {
         QSet<QString> seen;
         for (const QString& type : itemTypes[item]) {
-            if (pasteboardtype::isLegacyAlias(type) || pasteboardtype::isRefused(type) || seen.contains(type))
+            if (pasteboardtype::isLegacyAlias(type) || uniformtype::isRefusalMark(type) || seen.contains(type))
                 continue;
             seen.insert(type);
             if (lone && lone->item == item && lone->type == type) {
@@ -106,9 +115,33 @@ ClipPayload payloadOf(std::vector<PasteboardItem> items, const std::vector<QStri
     return payload;
 }
 
-/// The bytes of every item; nothing when there are none, or more than the total limit.
-QCoro::Task<std::optional<ClipPayload>> takeSnapshot(std::shared_ptr<PasteboardReading> reading, DraftBuilder builder,
-                                                     SnapshotLimits limits) {
+/// What was read of a copy.
+struct Snapshot {
+    ClipPayload payload;
+    bool isTooLarge = false;
+    bool lacksPlainText = false; ///< or what tells whether that is a secret; reading ended before it was there
+};
+
+/// True when what decides about the kind of clip is there.
+bool canMakeClip(const ClipPayload& payload) {
+    return std::ranges::any_of(payload.items, [](const PasteboardItem& item) {
+        return std::ranges::any_of(item.representations, [](const auto& entry) {
+            return pasteboardtype::makesClip(entry.first) || pasteboardtype::otherImageTypes().contains(entry.first);
+        });
+    });
+}
+
+/// True when the owner offers something that decides about the kind of clip.
+bool promisesClip(const QStringList& types) {
+    return std::ranges::any_of(types, [](const QString& type) {
+        return pasteboardtype::makesClip(type) || pasteboardtype::otherImageTypes().contains(type);
+    });
+}
+
+/// The bytes of every item; too large when there are more than the total limit.
+QCoro::Task<Snapshot> takeSnapshot(std::shared_ptr<PasteboardReading> reading, DraftBuilder builder,
+                                   SnapshotLimits limits) {
+    Snapshot snapshot;
     auto asking = reading->itemTypes();
     const std::vector<QStringList> itemTypes = co_await asking;
     if (holdsPicture(itemTypes))
@@ -125,43 +158,75 @@ QCoro::Task<std::optional<ClipPayload>> takeSnapshot(std::shared_ptr<PasteboardR
         auto fetching = reading->data(qsizetype(wanted.item), wanted.type,
                                       wanted.isEssential ? room : limits.maxRepresentationBytes);
         const std::optional<QByteArray> bytes = co_await fetching;
-        if (!bytes && wanted.isEssential && reading->wasLarger())
-            co_return std::nullopt; // refused as a whole, never trimmed
+        const bool isPlain = wanted.turn == ReadingTurn::plainText;
+        snapshot.lacksPlainText = snapshot.lacksPlainText || (isPlain && !bytes && !reading->isCurrent());
+        // Refused as a whole, never trimmed.
+        snapshot.isTooLarge = !bytes && wanted.isEssential && reading->wasLarger();
         areRenderingsTooLarge = areRenderingsTooLarge || (reading->wasLarger() && isFurtherRendering(wanted));
-        if (!bytes || bytes->isEmpty())
-            continue;
-        if (!wanted.isEssential && bytes->size() > limits.maxRepresentationBytes)
-            continue;
-        items[wanted.item].representations.emplace(wanted.type, *bytes);
-        total += bytes->size();
-        if (total > limits.maxTotalBytes)
-            co_return std::nullopt;
+        const bool isKept =
+            bytes && !bytes->isEmpty() && (wanted.isEssential || bytes->size() <= limits.maxRepresentationBytes);
+        if (isKept) {
+            items[wanted.item].representations.emplace(wanted.type, *bytes);
+            total += bytes->size();
+        }
+        snapshot.isTooLarge = snapshot.isTooLarge || total > limits.maxTotalBytes;
+        if (snapshot.isTooLarge)
+            co_return snapshot;
     }
-    ClipPayload payload = payloadOf(std::move(items), itemTypes);
-    if (payload.items.empty())
-        co_return std::nullopt;
-    co_return payload;
+    snapshot.payload = payloadOf(std::move(items), itemTypes);
+    co_return snapshot;
+}
+
+/// One attempt at a copy.
+struct Attempt {
+    std::optional<ClipPayload> payload;
+    bool hasGivenNothing = false; ///< of what the owner offered nothing came in time
+    bool mayRetry = false;        ///< because of that, or because nobody said in time what is offered
+};
+
+QCoro::Task<Attempt> attempt(Pasteboard* pasteboard, DraftBuilder builder, SnapshotRequest request) {
+    Attempt outcome;
+    auto beginning = pasteboard->beginReading();
+    const std::shared_ptr<PasteboardReading> reading = co_await beginning;
+    if (pasteboard->changeCount() != request.changeCount)
+        co_return outcome;
+    outcome.mayRetry = !reading;
+    if (!reading || isRefused(reading->types(), request))
+        co_return outcome;
+
+    auto taking = takeSnapshot(reading, builder, request.limits);
+    Snapshot snapshot = co_await taking;
+    if (snapshot.isTooLarge) {
+        qCWarning(logging::capture) << "A copy is not kept: it has more than" << request.limits.maxTotalBytes
+                                    << "bytes.";
+        co_return outcome;
+    }
+    const bool isUsable = canMakeClip(snapshot.payload);
+    const bool wasReplaced = pasteboard->changeCount() != request.changeCount;
+    outcome.hasGivenNothing = !wasReplaced && !isUsable && promisesClip(reading->types());
+    outcome.mayRetry = outcome.hasGivenNothing;
+    // Of a copy that was replaced, what was read first counts; a code without its page's address would pass for no
+    // secret.
+    if (isUsable && !(wasReplaced && snapshot.lacksPlainText))
+        outcome.payload = std::move(snapshot.payload);
+    co_return outcome;
 }
 
 } // namespace
 
 QCoro::Task<std::optional<ClipDraft>> readDraft(Pasteboard* pasteboard, DraftBuilder builder, SnapshotRequest request) {
-    auto beginning = pasteboard->beginReading();
-    const std::shared_ptr<PasteboardReading> reading = co_await beginning;
-    if (!reading || pasteboard->changeCount() != request.changeCount)
+    auto first = attempt(pasteboard, builder, request);
+    Attempt outcome = co_await first;
+    // An owner that was busy with something else is asked once more, as long as its copy stands.
+    if (outcome.mayRetry && pasteboard->changeCount() == request.changeCount) {
+        auto second = attempt(pasteboard, builder, request);
+        outcome = co_await second;
+        if (outcome.hasGivenNothing)
+            qCWarning(logging::capture) << "A copy is lost: its program gave nothing of it in time, twice.";
+    }
+    if (!outcome.payload)
         co_return std::nullopt;
-
-    if (isRefused(reading->types(), request))
-        co_return std::nullopt;
-
-    auto snapshot = takeSnapshot(reading, builder, request.limits);
-    std::optional<ClipPayload> payload = co_await snapshot;
-    // A copy that was replaced while it was read may lack anything; one that ran out of time lacks what hangs.
-    const bool wasReplaced = !reading->isCurrent() && pasteboard->changeCount() != request.changeCount;
-    if (!payload || wasReplaced)
-        co_return std::nullopt;
-
-    auto building = builder.build(std::move(*payload), request.source, request.now);
+    auto building = builder.build(std::move(*outcome.payload), request.source, request.now);
     std::optional<ClipDraft> draft = co_await building;
     co_return draft;
 }

@@ -4,13 +4,9 @@
 #include <QString>
 #include <QStringList>
 
-/// Which of the types on a pasteboard are kept, which refuse a copy, and which are read first. Types are compared as
+/// Which of the types on a pasteboard are kept, and which are read first. Types are compared as
 /// exact strings. Pure; any thread.
 namespace vellumry::pasteboardtype {
-
-/// True for a type by which its owner asks that the copy be not kept (nspasteboard.org, and the same promise in the
-/// dialect of particular programs).
-[[nodiscard]] bool isRefused(const QString& type);
 
 /// True for a type that is kept whatever its size, up to the limit of the whole copy.
 [[nodiscard]] bool isEssential(const QString& type);
@@ -28,8 +24,9 @@ namespace vellumry::pasteboardtype {
 /// True for a type that can make a clip whatever else is offered; `otherImageTypes` make one where none of these is.
 [[nodiscard]] bool makesClip(const QString& type);
 
-/// When a representation is read: text must not wait for a picture, nor anything for a private type that may hang.
-enum class ReadingTurn : quint8 { text, picture, unknown };
+/// When a representation is read: the plain text, and the address of its page that may make it a secret, must not wait
+/// for a table that is rendered as HTML, no text for a picture, nor anything for a private type that may hang.
+enum class ReadingTurn : quint8 { plainText, text, picture, unknown };
 [[nodiscard]] ReadingTurn readingTurn(const QString& type);
 
 /// True for an application that takes screenshots.

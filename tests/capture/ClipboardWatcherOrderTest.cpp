@@ -2,7 +2,7 @@
 #include "capture/Settle.h"
 #include "capture/WatcherFixture.h"
 
-#include <QTimer>
+#include <new>
 
 namespace vellumry {
 namespace {
@@ -79,10 +79,82 @@ TEST_F(ClipboardWatcherOrderTest, NotificationsLeadToATick) {
     watcher->start();
     watcher->start();
     pasteboard.copyText(QStringLiteral("one"));
-    EXPECT_EQ(history(), QStringList()); // a moment later, with the rest of its burst
-    pasteboard.copyText(QStringLiteral("two"));
+    EXPECT_EQ(pasteboard.requests.size(), 1u) << "read at once";
+    EXPECT_TRUE(watcher->isReading());
     ASSERT_TRUE(eventually([this] { return !captured.isEmpty(); }));
-    EXPECT_EQ(history(), QStringList{QStringLiteral("two")});
+    EXPECT_EQ(history(), QStringList{QStringLiteral("one")});
+    EXPECT_FALSE(watcher->isReading());
+}
+
+TEST_F(ClipboardWatcherOrderTest, ABurstOfCopiesIsKeptWhole) {
+    watcher->start();
+    QStringList copied;
+    for (int i = 0; i < 100; ++i) {
+        copied.prepend(QStringLiteral("copy %1").arg(i));
+        pasteboard.copyText(copied.front());
+    }
+    ASSERT_TRUE(eventually([&] { return captured.size() == copied.size(); }));
+    EXPECT_EQ(history(), copied);
+    EXPECT_EQ(watcher->overtakenCopies(), 0);
+}
+
+/// An editor that sets the text first and the formats a moment later.
+TEST_F(ClipboardWatcherOrderTest, ACopyThatIsWrittenTwiceIsOneClip) {
+    watcher->start();
+    pasteboard.copyText(QStringLiteral("twice"));
+    pasteboard.copy({PasteboardItem{{{uniformtype::utf8PlainText, "twice"}, {uniformtype::html, "<b>twice</b>"}}, {}}});
+    pasteboard.copyText(QStringLiteral("next"));
+    ASSERT_TRUE(eventually([this] { return captured.size() == 2; }));
+    EXPECT_EQ(readTitles, QStringList({QStringLiteral("twice"), QStringLiteral("next")}));
+    ASSERT_EQ(store.clips().size(), 2u);
+    EXPECT_EQ(store.clips()[1]->kind, ClipKind::richText);
+}
+
+TEST_F(ClipboardWatcherOrderTest, ALookAtOnceHoldsNothingBack) {
+    watcher->start();
+    pasteboard.copyText(QStringLiteral("one"));
+    int settled = 0;
+    watcher->onSettled = [&settled] { ++settled; };
+    watcher->tick(100);
+    EXPECT_EQ(readTitles, QStringList{QStringLiteral("one")});
+    EXPECT_FALSE(watcher->isReading());
+    EXPECT_EQ(settled, 1);
+}
+
+TEST_F(ClipboardWatcherOrderTest, CopiesThatWereOvertakenAreCounted) {
+    pasteboard.hangsBeginReading = true;
+    copyAndTick("overtaken while it is read", 100);
+    pasteboard.hangsBeginReading = false;
+    copyAndTick("read", 101);
+    EXPECT_EQ(watcher->overtakenCopies(), 1);
+    pasteboard.copyText(QStringLiteral("overtaken before it is seen"));
+    pasteboard.write({PasteboardItem{{{uniformtype::utf8PlainText, "ours"}, {uniformtype::ownMarker, ""}}, {}}});
+    copyAndTick("read too", 102);
+    EXPECT_EQ(watcher->overtakenCopies(), 2);
+}
+
+TEST_F(ClipboardWatcherOrderTest, ThePasteboardHearsWhatBecameOfEachCopy) {
+    using Settled = std::vector<std::pair<qint64, bool>>;
+    copyAndTick("kept", 100);
+    const qint64 kept = pasteboard.changeCount();
+    pasteboard.copy(uniformtype::concealed, "x");
+    watcher->tick(101);
+    watcher->pause(10, 102);
+    copyAndTick("paused", 103);
+    watcher->pausedUntil.reset();
+    watcher->hasRoomForImages = [] { return false; };
+    pasteboard.copy(uniformtype::png, "png");
+    watcher->tick(104);
+    EXPECT_EQ(pasteboard.settled, (Settled{{kept, true}, {kept + 1, false}, {kept + 2, false}, {kept + 3, false}}));
+}
+
+TEST_F(ClipboardWatcherOrderTest, ACopyThatCannotBeReadTakesNoOtherAlong) {
+    pasteboard.onRequest = [](const FakePasteboard::Request&) { throw std::bad_alloc(); };
+    copyAndTick("too large", 100);
+    pasteboard.onRequest = nullptr;
+    copyAndTick("next", 101);
+    EXPECT_EQ(history(), QStringList{QStringLiteral("next")});
+    EXPECT_FALSE(watcher->isReading());
 }
 
 TEST_F(ClipboardWatcherOrderTest, AChangeBeforeTheStartIsNoticed) {

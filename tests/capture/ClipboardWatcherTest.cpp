@@ -112,6 +112,17 @@ TEST_F(ClipboardWatcherTest, TheIgnoredApplicationsAreReadAtEachCopy) {
     EXPECT_EQ(history(), QStringList({QStringLiteral("three"), QStringLiteral("one")}));
 }
 
+TEST_F(ClipboardWatcherTest, TheOwnerOfThePasteboardIsIgnoredTooWhenItIsNotInFront) {
+    defaults.setObject(QStringLiteral("ignoredApps"), QStringList{QStringLiteral("org.example.Vault")});
+    SourceApp owner{QStringLiteral("org.example.Vault"), QStringLiteral("Vault")};
+    watcher->pasteboardOwner = [&owner] { return owner; };
+    copyAndTick("secret", 100);
+    EXPECT_TRUE(pasteboard.requests.empty());
+    owner = SourceApp();
+    copyAndTick("words", 101);
+    EXPECT_EQ(history(), QStringList{QStringLiteral("words")});
+}
+
 TEST_F(ClipboardWatcherTest, AFullDiskRefusesPicturesOnly) {
     watcher->hasRoomForImages = [] { return false; };
     pasteboard.copy(uniformtype::png, "png");

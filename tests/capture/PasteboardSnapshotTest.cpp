@@ -44,6 +44,15 @@ protected:
         }
         return result;
     }
+    /// What is read of a copy until the next one comes.
+    std::optional<ClipDraft> readUntilReplaced() {
+        const auto result = std::make_shared<std::optional<std::optional<ClipDraft>>>();
+        detail::keep(readDraft(&pasteboard, builder, request()), result);
+        EXPECT_FALSE(result->has_value()) << "nothing hangs";
+        pasteboard.copyText(QStringLiteral("next"));
+        EXPECT_TRUE(result->has_value()) << "reading goes on";
+        return result->value_or(std::nullopt);
+    }
     QStringList requestedTypes() const {
         QStringList types;
         for (const auto& asked : pasteboard.requests)
@@ -220,14 +229,71 @@ TEST_F(PasteboardSnapshotTest, WhatHangsUntilTheDeadlineCostsItselfOnly) {
     EXPECT_EQ((*result)->payload.items[0].order, QStringList{text});
 }
 
-TEST_F(PasteboardSnapshotTest, ACopyThatIsReplacedWhileItIsReadGivesNothing) {
-    pasteboard.hangingTypes = {privateType};
-    pasteboard.copy({item({{privateType, "p"}, {text, "hi"}})});
-    std::optional<std::optional<ClipDraft>> result;
-    detail::keep(readDraft(&pasteboard, builder, request()), std::shared_ptr<decltype(result)>(&result, [](auto*) {}));
-    pasteboard.copyText(QStringLiteral("next"));
-    ASSERT_TRUE(result);
-    EXPECT_FALSE(*result);
+TEST_F(PasteboardSnapshotTest, OfACopyThatIsReplacedWhileItIsReadTheTextCounts) {
+    pasteboard.hangingTypes = {uniformtype::html, privateType};
+    pasteboard.copy({item({{privateType, "p"}, {uniformtype::html, "<b>"}, {text, "hi"}})});
+    EXPECT_EQ(readUntilReplaced().value_or(ClipDraft()).title, QStringLiteral("hi"));
+}
+
+TEST_F(PasteboardSnapshotTest, ACopyThatIsReplacedBeforeItsTextIsReadGivesNothing) {
+    pasteboard.hangingTypes = {text};
+    pasteboard.copy({item({{text, "hi"}, {uniformtype::png, "png"}})});
+    EXPECT_FALSE(readUntilReplaced());
+}
+
+/// Six digits from a web mail are a secret; without the address of the page they would be kept for good.
+TEST_F(PasteboardSnapshotTest, ACopyThatIsReplacedBeforeItsPageIsKnownGivesNothing) {
+    pasteboard.hangingTypes = {uniformtype::sourceUrl};
+    pasteboard.copy({item({{text, "123456"}, {uniformtype::sourceUrl, "https://mail.google.com/"}})});
+    EXPECT_FALSE(readUntilReplaced());
+}
+
+TEST_F(PasteboardSnapshotTest, AnOwnerThatGaveNothingIsAskedOnceMore) {
+    pasteboard.failingTypes = {text};
+    pasteboard.onRequest = [this](const FakePasteboard::Request&) {
+        if (pasteboard.requests.size() == 2)
+            pasteboard.failingTypes.clear();
+    };
+    pasteboard.copyText(QStringLiteral("at the second attempt"));
+    const auto draft = read();
+    ASSERT_TRUE(draft);
+    EXPECT_EQ(draft->title, QStringLiteral("at the second attempt"));
+    EXPECT_EQ(pasteboard.beginReadingRequests, 2);
+}
+
+TEST_F(PasteboardSnapshotTest, AnOwnerThatGivesNothingIsNotAskedForEver) {
+    pasteboard.failingTypes = {text};
+    pasteboard.copyText(QStringLiteral("never"));
+    EXPECT_FALSE(read());
+    EXPECT_EQ(pasteboard.requests.size(), 2u);
+    pasteboard.hasOwner = false;
+    pasteboard.beginReadingRequests = 0;
+    EXPECT_FALSE(read());
+    EXPECT_EQ(pasteboard.beginReadingRequests, 2);
+}
+
+TEST_F(PasteboardSnapshotTest, WhatIsRefusedIsNotAskedForOnceMore) {
+    pasteboard.copy({item({{text, "secret"}, {uniformtype::concealed, "x"}})});
+    EXPECT_FALSE(read());
+    EXPECT_EQ(pasteboard.beginReadingRequests, 1);
+    pasteboard.copy({item({{text, QByteArray(101 * mebibyte, 'x')}})});
+    EXPECT_FALSE(read());
+    EXPECT_EQ(pasteboard.beginReadingRequests, 2);
+}
+
+TEST_F(PasteboardSnapshotTest, ThePlainTextIsReadBeforeItsOtherForms) {
+    pasteboard.copy({item({{uniformtype::html, "<b>"}, {uniformtype::rtf, "{}"}, {text, "hi"}})});
+    ASSERT_TRUE(read());
+    EXPECT_EQ(requestedTypes(), QStringList({text, uniformtype::html, uniformtype::rtf}));
+}
+
+TEST_F(PasteboardSnapshotTest, AnIgnoredApplicationThatHidItsWindowIsNotRead) {
+    ignoredApps = {QStringLiteral("org.example.Vault")};
+    pasteboard.copyText(QStringLiteral("secret"));
+    SnapshotRequest hidden = request();
+    hidden.owner = SourceApp{QStringLiteral("org.example.Vault"), QStringLiteral("Vault")};
+    EXPECT_FALSE(atOnce(readDraft(&pasteboard, builder, hidden)).value());
+    expectUnread();
 }
 
 TEST_F(PasteboardSnapshotTest, AHangingOwnerGivesNothingWhenTheDeadlinePasses) {
@@ -238,6 +304,8 @@ TEST_F(PasteboardSnapshotTest, AHangingOwnerGivesNothingWhenTheDeadlinePasses) {
         detail::keep(readDraft(&pasteboard, builder, request()),
                      std::shared_ptr<decltype(result)>(&result, [](auto*) {}));
         EXPECT_FALSE(result);
+        pasteboard.passDeadline();
+        EXPECT_FALSE(result) << "it is asked once more";
         pasteboard.passDeadline();
         ASSERT_TRUE(result);
         EXPECT_FALSE(*result);

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QtGlobal>
+
+namespace vellumry {
+
+/// How long a copy that was read is held back, because its program may write the same copy once more: some set the text
+/// first and the formats a moment later. Reading never waits for this, so nothing is lost of a burst of copies. A value
+/// over a monotonic clock in milliseconds.
+class RewriteWindow {
+public:
+    static constexpr qint64 usual = 20;    ///< from the notice of a copy to its delivery
+    static constexpr qint64 longest = 250; ///< the same when the next copy came in this time and is still being read
+
+    explicit RewriteWindow(qint64 noticedAt)
+        : m_noticedAt(noticedAt)
+        , m_end(noticedAt + usual) {}
+
+    /// The next copy was noticed.
+    void noteNext(qint64 noticedAt, bool isRead);
+    /// True when a copy that was noticed then may be the same once more.
+    [[nodiscard]] bool covers(qint64 noticedAt) const { return noticedAt < m_noticedAt + usual; }
+    /// When the copy is delivered.
+    [[nodiscard]] qint64 end() const { return m_end; }
+
+private:
+    qint64 m_noticedAt;
+    qint64 m_end;
+};
+
+} // namespace vellumry
