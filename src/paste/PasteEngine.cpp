@@ -45,6 +45,8 @@ QCoro::Task<PasteOutcome> PasteEngine::paste(ClipRef clip, std::optional<bool> i
 
     if (!write(items, goesOutPlain, transform))
         co_return PasteOutcome::failed();
+    if (onWritten)
+        onWritten(*clip);
     const Date now = m_system.now();
     co_await m_store->markUsed(clip->id, now);
     if (life.expired())
@@ -75,6 +77,8 @@ QCoro::Task<CopyOutcome> PasteEngine::copy(ClipRef clip) {
 
     if (!PasteboardWriter::write(items, false, *m_system.pasteboard))
         co_return CopyOutcome::failed();
+    if (onWritten)
+        onWritten(*clip);
     const Date now = m_system.now();
     co_await m_store->markUsed(clip->id, now);
     co_return CopyOutcome::copied();

@@ -47,6 +47,8 @@ public:
 
     [[nodiscard]] bool isTrusted() const { return m_system.isTrusted(); }
 
+    /// Called when a clip was written to the pasteboard, before anything is done with it.
+    std::function<void(const Clip& clip)> onWritten;
     /// Called after keys were really pressed.
     std::function<void()> onPasted;
 

@@ -59,6 +59,8 @@ bool PasteStack::pasteNext() {
         const Item item = takeNext();
         if (write(item)) {
             ++m_pastedCount;
+            if (onWritten)
+                onWritten(item);
             if (m_items.empty())
                 finish();
             else

@@ -66,6 +66,8 @@ public:
 
     /// The stack ended by itself.
     std::function<void()> onFinish;
+    /// An item was written to the pasteboard, before its key goes on its way.
+    std::function<void(const Item&)> onWritten;
     /// An item was passed over: its files are gone, or the pasteboard did not take it.
     std::function<void(const Item&)> onSkip;
 

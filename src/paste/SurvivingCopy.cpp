@@ -6,6 +6,8 @@
 #include "platform/display/Pasteboard.h"
 
 #include <QPointer>
+#include <QTimer>
+#include <chrono>
 #include <utility>
 
 namespace vellumry {
@@ -31,6 +33,22 @@ void SurvivingCopy::noteStored(const ClipRef& clip, qint64 changeCount) {
     // It was read in time, but its owner went before it was in the file.
     if (m_orphaned == changeCount)
         takeOver(*m_stored);
+}
+
+void SurvivingCopy::noteWritten(std::optional<QUuid> clip, bool isSensitive) {
+    const qint64 changeCount = m_pasteboard->changeCount();
+    m_kept.reset();
+    if (!isSensitive)
+        return;
+    m_pasteboard->markSecret(changeCount);
+    if (clip) {
+        m_kept = Copy{changeCount, *clip, isSensitive};
+        return;
+    }
+    // No clip will tell when its time is over.
+    const std::chrono::duration<double> lifetime(m_store->sensitiveLifetime());
+    QTimer::singleShot(std::chrono::ceil<std::chrono::milliseconds>(lifetime), this,
+                       [this, changeCount] { m_pasteboard->giveUp(changeCount); });
 }
 
 QCoro::Task<void> SurvivingCopy::takeOver(Copy copy) {

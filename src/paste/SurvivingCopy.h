@@ -15,9 +15,9 @@ class Pasteboard;
 /// Lets a copy outlive the application that it was made in: when that ends, what the history took of the copy is put
 /// back on the pasteboard. The marker on our write keeps it from becoming a new clip.
 ///
-/// A sensitive clip that is there for no other reason goes from the pasteboard too when it leaves the history, at its
-/// time or by the user's hand. Ordinary clips stay, as they would under a living owner, and so does what the user
-/// pasted or copied himself since then.
+/// A sensitive clip goes from the pasteboard too when it leaves the history, at its time or by the user's hand, whether
+/// it was put back or pasted from the history, and so does what is offered of it as the primary selection. Ordinary
+/// clips stay, as they would under a living owner, and so does what another program copied since then.
 ///
 /// Main thread. Takes the pasteboard's `onOwnerGone`; store and pasteboard must outlive it.
 class SurvivingCopy : public QObject {
@@ -29,6 +29,8 @@ public:
 
     /// The history took `clip` from the copy that the pasteboard holds, or held, at `changeCount`.
     void noteStored(const ClipRef& clip, qint64 changeCount);
+    /// What the pasteboard holds now was just written from `clip`; without one, from a copy that is not in the history.
+    void noteWritten(std::optional<QUuid> clip, bool isSensitive);
 
 private:
     /// What the pasteboard has, or had, at one change count.

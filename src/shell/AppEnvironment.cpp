@@ -134,6 +134,7 @@ void AppEnvironment::wire() {
     wireCapture();
     wireScreenshots();
     wireStack();
+    m_paster->onWritten = [this](const Clip& clip) { m_survivingCopy->noteWritten(clip.id, clip.isSensitive()); };
     m_paster->onPasted = pasteSound(*m_platform->defaults, *m_platform->sounds);
     ShortcutRegistrations::Actions actions;
     actions.togglePanel = [this] { togglePanel(); };
@@ -151,6 +152,7 @@ void AppEnvironment::wire() {
 }
 
 void AppEnvironment::wireCapture() {
+    m_watcher->pasteboardOwner = [frontmost = m_platform->frontmost.get()] { return frontmost->pasteboardOwner(); };
     m_watcher->hasRoomForImages = [this] { return m_platform->hasRoomForImages(m_imageVolume); };
     m_watcher->onLowDisk = [this] { showLowDiskToast(); };
     m_watcher->onIgnoredCopy = [this] {

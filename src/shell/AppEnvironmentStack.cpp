@@ -30,6 +30,9 @@ void AppEnvironment::wireStack() {
         const QWindow* window = QGuiApplication::focusWindow();
         return window != nullptr && window->isVisible();
     };
+    m_stack->stack().onWritten = [this](const PasteStack::Item& item) {
+        m_survivingCopy->noteWritten(item.clipID, item.isSensitive);
+    };
     m_stack->onStarted = [this] { m_stackHUD->show(); };
     m_stack->onFinished = [this] { m_stackHUD->showFinished(); };
     m_stack->onStopped = [this] { m_stackHUD->hide(); };

@@ -152,4 +152,31 @@ TEST_F(SurvivingCopyTest, ChangesOfOtherClipsLeaveASecretWhereItIs) {
     EXPECT_EQ(onBoard(), "4242");
 }
 
+TEST_F(SurvivingCopyTest, APastedSecretGoesWithItsClip) {
+    const ClipRef clip = stored("4242", true);
+    pasteboard.write({PasteboardItem{{{uniformtype::utf8PlainText, "4242"}}, {}}});
+    surviving.noteWritten(clip->id, true);
+    EXPECT_EQ(pasteboard.secrets, std::vector<qint64>{pasteboard.changeCount()});
+    EXPECT_EQ(onBoard(), "4242");
+    awaited(store.remove({clip->id}, false));
+    EXPECT_EQ(onBoard(), "");
+}
+
+TEST_F(SurvivingCopyTest, APastedSecretThatIsNoClipGoesAtItsTime) {
+    store.setSensitiveLifetime(0.01);
+    pasteboard.write({PasteboardItem{{{uniformtype::utf8PlainText, "4242"}}, {}}});
+    surviving.noteWritten(std::nullopt, true);
+    EXPECT_EQ(pasteboard.secrets.size(), 1u);
+    runUntil([this] { return onBoard().isEmpty(); });
+}
+
+TEST_F(SurvivingCopyTest, WhatIsPastedAndNoSecretStays) {
+    const ClipRef clip = stored("words", false);
+    pasteboard.write({PasteboardItem{{{uniformtype::utf8PlainText, "words"}}, {}}});
+    surviving.noteWritten(clip->id, false);
+    awaited(store.remove({clip->id}, false));
+    EXPECT_EQ(onBoard(), "words");
+    EXPECT_TRUE(pasteboard.secrets.empty());
+}
+
 } // namespace vellumry
