@@ -4,6 +4,7 @@
 import itertools
 import select
 import threading
+import time
 
 from Xlib import X, Xatom, display, error
 from Xlib.protocol import event
@@ -30,6 +31,40 @@ class Pieces:
     @classmethod
     def endless(cls):
         return cls(itertools.repeat(b"and on and on, " * 1000))
+
+
+def copy_in_a_row(texts, interval):
+    """Copies one text after the other, `interval` seconds apart, and answers at once whoever asks for the present one.
+
+    Stays the owner of the last for a second, so that it can be read."""
+    connection = display.Display()
+    window = connection.screen().root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
+    clipboard, targets, utf8 = (connection.intern_atom(name) for name in ("CLIPBOARD", "TARGETS", "UTF8_STRING"))
+    began = time.monotonic()
+    for index, text in enumerate(texts):
+        window.set_selection_owner(clipboard, X.CurrentTime)
+        connection.flush()
+        is_last = index == len(texts) - 1
+        end = began + (index + 1) * interval + (1 if is_last else 0)
+        while (left := end - time.monotonic()) > 0:
+            if not connection.pending_events():
+                select.select([connection], [], [], left)
+                continue
+            request = connection.next_event()
+            if request.type != X.SelectionRequest:
+                continue
+            given = request.property or request.target
+            if request.target == targets:
+                request.requestor.change_property(given, Xatom.ATOM, 32, [targets, utf8])
+            elif request.target == utf8:
+                request.requestor.change_property(given, utf8, 8, text.encode())
+            else:
+                given = X.NONE
+            request.requestor.send_event(event.SelectionNotify(time=request.time, requestor=request.requestor,
+                                                               selection=request.selection, target=request.target,
+                                                               property=given))
+            connection.flush()
+    connection.close()
 
 
 class HostileOwner:
@@ -78,6 +113,7 @@ class HostileOwner:
     def answer(self, request):
         name = self.names.get(request.target, "?")
         self.log.append(name)
+        self.work(name)
         given = request.property or request.target
         if name == "TARGETS":
             offer = self.targets if self.targets is not None else [request.target, *self.offers]
@@ -99,6 +135,9 @@ class HostileOwner:
         request.requestor.send_event(event.SelectionNotify(time=request.time, requestor=request.requestor,
                                                            selection=request.selection, target=request.target, property=given))
         self.display.flush()
+
+    def work(self, name):
+        """What it does before it answers."""
 
     def go_on(self, window, atom):
         transfer = self.transfers.get((window.id, atom))
@@ -131,3 +170,21 @@ class HostileOwner:
 
     def __exit__(self, *_):
         self.close()
+
+
+class BusyOwner(HostileOwner):
+    """Each target takes its time to be made, and what is asked for next waits for it: name to bytes and seconds."""
+
+    def __init__(self, offers):
+        self.seconds = {name: seconds for name, (_, seconds) in offers.items()}
+        super().__init__({name: data for name, (data, _) in offers.items() if data is not None})
+
+    def work(self, name):
+        time.sleep(self.seconds.get(name, 0))
+
+
+if __name__ == "__main__":
+    # Never says what it offers.
+    with HostileOwner({}, targets=Silence):
+        print("hanging", flush=True)
+        threading.Event().wait()

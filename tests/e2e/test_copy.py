@@ -7,8 +7,9 @@ import sqlite3
 import time
 
 from clients import Browser, FileManager, GtkEditor, PasswordManager, QtEditor, XTerminal
-from desktop import (HISTORY, Failure, Vellumry, clipboard, copy_bytes, copy_text, fresh, main, representation, run, same,
-                     text_of, unsealed, wait_for_clip, wait_until)
+from desktop import (HISTORY, Failure, Vellumry, clipboard, copy_bytes, copy_text, fresh, key, main, open_panel,
+                     representation, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until)
+from hostile_owner import BusyOwner, copy_in_a_row
 from owner import LoggingOwner
 
 TEXT = "public.utf8-plain-text"
@@ -119,6 +120,35 @@ def a_burst_of_copies_is_kept_whole():
         same([text_of(row) for row in unsealed()], wanted[::-1], "the history")
 
 
+def three_hundred_copies_at_fifty_a_second_are_kept_whole():
+    with Vellumry():
+        open_panel()  # what the program does once after its start is behind it then
+        key("Escape")
+        wait_panel_closed()
+        wanted = [f"quick {index:03}" for index in range(300)]
+        copy_in_a_row(wanted, 0.02)
+        wait_for_clip(lambda row: text_of(row) == wanted[-1], "the last copy", 60)
+        same([text_of(row) for row in unsealed()], wanted[::-1], "the history")
+
+
+def a_program_that_has_its_copy_kept_and_quits_at_once_loses_nothing():
+    with Vellumry():
+        for index in range(5):
+            text = f"stored {index}"
+            run("/usr/bin/python3", os.path.join(os.path.dirname(os.path.abspath(__file__)), "storing_program.py"), text)
+            wait_for_clip(lambda row: text_of(row) == text, "the copy of a program that has quit", 60)
+            wait_until(lambda: clipboard() == text.encode(), "the clipboard to hold it", 60)
+
+
+def a_cell_range_of_a_busy_office_program_is_kept_with_its_text():
+    """The list of types after 0.7 s, the text after 1.5 s, and a table that takes 3 s to be rendered before it."""
+    with Vellumry():
+        with BusyOwner({"text/html": (b"<table>cells</table>", 3), "text/rtf": (b"{\\rtf1 cells}", 2),
+                        "UTF8_STRING": (b"cells", 1.5), "TARGETS": (None, 0.7)}):
+            row = wait_for_clip(lambda row: text_of(row) == "cells", "the cells", 60)
+        same((row["kind"], representation(row, "public.html")), (1, b"<table>cells</table>"), "rich text with its table")
+
+
 def nothing_readable_lies_in_the_file():
     with Vellumry():
         copy_text("a needle that must be sealed")
@@ -137,4 +167,7 @@ if __name__ == "__main__":
     main([fresh(test) for test in (
         a_terminal_copies, a_gtk_editor_copies, a_qt_editor_copies, a_browser_copies_styled_text, a_file_manager_copies_files,
         a_picture_is_kept_with_its_size, a_bitmap_alone_is_kept_for_all, a_password_is_never_kept, what_is_refused_is_never_asked_for,
-        what_was_copied_outlives_the_application, a_burst_of_copies_is_kept_whole, nothing_readable_lies_in_the_file)])
+        what_was_copied_outlives_the_application, a_burst_of_copies_is_kept_whole,
+        three_hundred_copies_at_fifty_a_second_are_kept_whole,
+        a_program_that_has_its_copy_kept_and_quits_at_once_loses_nothing,
+        a_cell_range_of_a_busy_office_program_is_kept_with_its_text, nothing_readable_lies_in_the_file)])

@@ -8,8 +8,8 @@ import sqlite3
 import time
 
 import desktop
-from clients import GtkEditor
-from desktop import (DATA, HISTORY, SETTINGS, Failure, Vellumry, accessible, clipboard, copy_text, fresh, key, main, open_panel,
+from clients import GtkEditor, XTerminal
+from desktop import (DATA, HISTORY, SETTINGS, Failure, Vellumry, accessible, clipboard, copy_text, focus, fresh, key, main, open_panel,
                      owner_of, panel_is_open, same, wait_panel_closed, wait_until)
 from history_probe import HistoryProbe, ids
 from memory_probe import can_look_into, found_in, spread_in
@@ -180,20 +180,37 @@ def a_card_of_a_dead_editor_goes_from_the_clipboard_at_its_time():
         nothing_is_left(program, {**plain_forms(card), **sealed})
 
 
-def a_card_that_was_pasted_stays_on_the_clipboard():
+def a_card_that_was_pasted_goes_from_the_clipboard_at_its_time():
     card = card_number()
     with Vellumry():
         offered_by_us(HistoryProbe(), card)
         with GtkEditor() as editor:
             open_panel()
             key("Return")
-            wait_until(lambda: editor.content() == card, "the card in the editor")
+            wait_until(lambda: editor.content() == card, "the card in the editor", 60)
             wait_until(lambda: not ids(), "the row to go", LIFETIME + 2)
-            same(clipboard(), card.encode(), "the clipboard, which the user filled by pasting")
+            wait_until(lambda: not owner_of("CLIPBOARD"), "the clipboard to be nobody's", 60)
+
+
+def a_card_that_was_pasted_into_a_terminal_goes_from_the_primary_selection():
+    card = card_number()
+    with Vellumry(), XTerminal() as terminal:
+        for ends_by in ("its time", "the next copy"):
+            offered_by_us(HistoryProbe(), card)
+            focus(terminal.window)
+            open_panel()
+            key("Return")
+            wait_until(lambda: clipboard(selection="primary") == card.encode(), "the card on the primary selection", 60)
+            if ends_by == "the next copy":
+                copy_text("something else")
+            else:
+                wait_until(lambda: not ids(), "the row to go", LIFETIME + 2)
+            wait_until(lambda: not owner_of("PRIMARY"), f"the primary selection to be nobody's by {ends_by}", 60)
 
 
 if __name__ == "__main__":
     main([with_lifetime(test) for test in (
         a_card_is_gone_from_everywhere_at_its_time, a_card_that_was_searched_for_is_forgotten_with_the_closed_panel,
         a_card_whose_time_came_while_the_program_stood_still_goes_at_once,
-        a_card_of_a_dead_editor_goes_from_the_clipboard_at_its_time, a_card_that_was_pasted_stays_on_the_clipboard)])
+        a_card_of_a_dead_editor_goes_from_the_clipboard_at_its_time, a_card_that_was_pasted_goes_from_the_clipboard_at_its_time,
+        a_card_that_was_pasted_into_a_terminal_goes_from_the_primary_selection)])

@@ -137,6 +137,17 @@ def ten_thousand_kinds():
         watched.probe.copy_is_prompt("after it")
 
 
+def a_mark_behind_three_thousand_kinds_counts():
+    with Watched() as watched:
+        offers = {f"application/x-many-{index}": b"x" for index in range(3_000)}
+        with HostileOwner({**offers, "UTF8_STRING": b"a password", "x-kde-passwordManagerHint": b"secret"}) as owner:
+            wait_until(lambda: owner.was_asked_for("TARGETS"), "the program to look at what is offered", 60)
+            watched.goes_on()
+            same([name for name in owner.log if name != "TARGETS"], [], "what else was asked for")
+        with HostileOwner({**offers, "UTF8_STRING": b"a text behind many kinds"}):
+            watched.probe.wait_for("a text behind many kinds")
+
+
 def too_large_a_text_is_refused_whole():
     with Watched() as watched:
         data = b"0123456789abcde\n" * (101 * MIB // 16)
@@ -206,5 +217,6 @@ if __name__ == "__main__":
         silent_about_what_it_offers, silent_about_its_only_text, silent_about_a_picture_but_not_about_the_text,
         silent_about_twenty_kinds_but_not_about_the_text, replaced_while_twenty_kinds_are_held_back,
         dead_in_the_middle_of_its_text, lying_about_the_size, never_ending, ten_thousand_kinds,
+        a_mark_behind_three_thousand_kinds_counts,
         too_large_a_text_is_refused_whole, a_large_text_is_kept_byte_for_byte, replaced_while_it_is_read,
         a_hundred_thousand_broken_addresses, broken_documents, a_cut_picture_is_kept_without_a_small_one)])

@@ -70,6 +70,15 @@ def a_picture_file_is_read():
         same(read_text("replica")["kind"], 4, "the kind")
 
 
+def a_picture_on_the_desktop_is_read():
+    path = os.path.join(os.environ["HOME"], "Desktop", "notice.png")
+    with open(path, "wb") as file:
+        file.write(picture_of("Parking permit"))
+    with Vellumry():
+        copy_bytes(b"file://" + path.encode() + b"\r\n", "text/uri-list")
+        same(read_text("permit")["kind"], 4, "the kind")
+
+
 def a_reader_that_dies_costs_one_picture():
     with Vellumry() as program:
         copy_bytes(picture_of(**LONG), "image/png")
@@ -101,5 +110,5 @@ def no_reader_outlives_the_program():
 if __name__ == "__main__":
     main([fresh(test) for test in (
         a_screenshot_is_found_by_a_word_in_it, a_second_reading_is_the_better_one, light_words_on_dark_ground_are_read,
-        a_picture_file_is_read, a_reader_that_dies_costs_one_picture, a_broken_picture_costs_nothing,
+        a_picture_file_is_read, a_picture_on_the_desktop_is_read, a_reader_that_dies_costs_one_picture, a_broken_picture_costs_nothing,
         no_reader_outlives_the_program)])
