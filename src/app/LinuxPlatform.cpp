@@ -77,7 +77,10 @@ std::optional<Reason> addDisplay(Platform& platform) {
 } // namespace
 
 QString readerPath() {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/vellumry-reader");
+    const QString here = QCoreApplication::applicationDirPath();
+    // Beside the program in a build folder; where both are installed, apart from what users start.
+    const QString installed = here + QStringLiteral("/../libexec/vellumry/vellumry-reader");
+    return QFile::exists(installed) ? QDir::cleanPath(installed) : here + QStringLiteral("/vellumry-reader");
 }
 
 OrReason<Platform> makeLinuxPlatform() {
