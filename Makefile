@@ -1,16 +1,33 @@
 # One word for each task; `make help` lists them.
 
 JOBS ?= $(shell nproc)
+PREFIX ?= /usr/local
+DESTDIR ?=
 export CCACHE_NOHASHDIR = 1
 export CCACHE_BASEDIR = $(CURDIR)
 
-.PHONY: help run test torture bench lint build asan clean
+.PHONY: help run install uninstall package test test-trixie torture bench matrix lint build asan clean
 
 help: ## list the tasks
-	@grep -hE '^[a-z]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:.*## /\t/' | expand -t 12
+	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:.*## /\t/' | expand -t 14
 
 run: ## install what is missing, build, start the program (without a display: play the main job and leave pictures)
 	@scripts/run
+
+install: ## build and install the program (PREFIX=/usr/local, DESTDIR=)
+	@scripts/install-deps
+	@DESTDIR=$(DESTDIR) PREFIX=$(PREFIX) scripts/install
+
+uninstall: ## remove what `make install` installed
+	@DESTDIR=$(DESTDIR) PREFIX=$(PREFIX) scripts/install --remove
+
+package: ## build the Debian package (build/release/package)
+	@scripts/install-deps --package
+	@scripts/package
+
+test-trixie: ## build and run the unit tests in a bare Debian 13
+	@scripts/install-deps --test
+	@scripts/in-root --keep build trixie scripts/build-and-test
 
 test: ## install what is missing, build, run every test
 	@scripts/install-deps --test
