@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capture/DraftBuilder.h"
 
-#include "capture/DetachedRun.h"
 #include "capture/DraftTitles.h"
 #include "capture/PasteboardTypes.h"
 #include "capture/TextClassification.h"
 #include "foundation/FileUrl.h"
 #include "foundation/Localisation.h"
+#include "foundation/RunDetached.h"
 #include "foundation/Text.h"
 #include "foundation/UniformType.h"
 
@@ -72,8 +72,8 @@ QCoro::Task<std::vector<FileRef>> withBookmarks(const FileBookmarks* bookmarks, 
     for (const FileRef& file : files)
         paths.push_back(file.path);
     std::function<Bookmarks()> job = [bookmarks, paths] { return makeBookmarks(*bookmarks, paths); };
-    DetachedRun<Bookmarks> run(std::move(job), longestBookmarking);
-    const std::optional<Bookmarks> made = co_await run;
+    auto making = runDetached(std::move(job), longestBookmarking);
+    const std::optional<Bookmarks> made = co_await making;
     for (std::size_t i = 0; made && i < made->size() && i < files.size(); ++i)
         files[i].bookmark = (*made)[i];
     co_return files;
@@ -108,8 +108,8 @@ QCoro::Task<std::optional<ClipDraft>> classified(ClipDraft draft) {
     std::function<std::optional<ClipDraft>()> job = [draft = std::move(draft)]() mutable {
         return classifiedNow(std::move(draft));
     };
-    DetachedRun<std::optional<ClipDraft>> run(std::move(job), longestClassifying);
-    const std::optional<std::optional<ClipDraft>> outcome = co_await run;
+    auto classifying = runDetached(std::move(job), longestClassifying);
+    const std::optional<std::optional<ClipDraft>> outcome = co_await classifying;
     result = outcome.value_or(std::nullopt);
     co_return result;
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capture/FileAccess.h"
 
-#include "capture/DetachedRun.h"
 #include "capture/DiskPath.h"
 #include "foundation/FileUrl.h"
+#include "foundation/RunDetached.h"
 
 #include <QFile>
 #include <cerrno>
@@ -58,8 +58,8 @@ bool needsProbing(const QString& path, const QStringList& roots, const FilePlace
 
 QCoro::Task<FileAccess::Result> FileAccess::check(QStringList paths, FilePlaces places) {
     std::function<Result()> job = [paths, places] { return examine(paths, places, canRead); };
-    DetachedRun<Result> run(std::move(job), longestProbe);
-    const std::optional<Result> result = co_await run;
+    auto probing = runDetached(std::move(job), longestProbe);
+    const std::optional<Result> result = co_await probing;
     co_return result.value_or(Result());
 }
 

@@ -69,24 +69,4 @@ bool SerialExecutor::isCurrent() const {
     return std::this_thread::get_id() == d->thread.get_id();
 }
 
-void postToMain(std::function<void()> function) {
-    QCoreApplication* application = QCoreApplication::instance();
-    if (!application)
-        return;
-#ifdef __SANITIZE_THREAD__
-    // The checker cannot see into the event queue of an uninstrumented Qt: a lock shows it that posting comes before
-    // running. The lock is taken before anything that was posted is looked at, the function object included.
-    static std::mutex order;
-    const std::lock_guard posting(order);
-    auto run = [function = std::move(function)] {
-        order.lock();
-        order.unlock();
-        function();
-    };
-#else
-    auto run = std::move(function);
-#endif
-    QMetaObject::invokeMethod(application, std::move(run), Qt::QueuedConnection);
-}
-
 } // namespace vellumry

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QCoreApplication>
-#include <QMetaObject>
-#include <coroutine>
-#include <exception>
+#include "foundation/OneShot.h"
+
 #include <functional>
 #include <memory>
 #include <optional>
@@ -25,10 +23,10 @@ public:
     /// Queues `job`, which must not throw: nobody waits for it.
     void post(std::function<void()> job);
 
-    /// Runs `job` on the executor, which destroys it too. Awaiting it on the main thread suspends and resumes there
-    /// with the job's result, or with the exception it threw. The result must be awaited.
+    /// Runs `job` on the executor, which destroys it too. To be awaited on the main thread, which suspends and resumes
+    /// there with the job's result, or with the exception it threw.
     template <typename Job>
-    [[nodiscard]] auto run(Job job);
+    [[nodiscard]] OneShot<std::invoke_result_t<Job&>> run(Job job);
 
     /// True on the executor's own thread.
     [[nodiscard]] bool isCurrent() const;
@@ -38,72 +36,28 @@ private:
     std::unique_ptr<Private> d;
 };
 
-/// Queues `function` for the main thread's event loop. Any thread. Dropped when the application has gone.
-void postToMain(std::function<void()> function);
-
-namespace detail {
-
-/// A job and what became of it.
 template <typename Job>
-struct ExecutorCall {
-    using Result = std::invoke_result_t<Job>;
-    using Stored = std::conditional_t<std::is_void_v<Result>, bool, Result>;
-
-    explicit ExecutorCall(Job wanted)
-        : job(std::move(wanted)) {}
-    void run() {
+OneShot<std::invoke_result_t<Job&>> SerialExecutor::run(Job job) {
+    using Result = std::invoke_result_t<Job&>;
+    const OneShot<Result> result;
+    post([result, held = std::make_shared<std::optional<Job>>(std::move(job))] {
+        // The job goes before its result is told: freeing what it holds may take as long as the job.
         try {
             if constexpr (std::is_void_v<Result>) {
-                (*job)();
-                value = true;
+                (**held)();
+                held->reset();
+                result.deliver();
             } else {
-                value.emplace((*job)());
+                Result value = (**held)();
+                held->reset();
+                result.deliver(std::move(value));
             }
         } catch (...) {
-            error = std::current_exception();
+            held->reset();
+            result.deliverError(std::current_exception());
         }
-        // Here, not where the result is awaited: freeing what a job holds may take as long as the job.
-        job.reset();
-    }
-
-    std::optional<Job> job;
-    std::optional<Stored> value;
-    std::exception_ptr error;
-};
-
-template <typename Job>
-class ExecutorAwaiter {
-public:
-    using Result = std::invoke_result_t<Job>;
-
-    ExecutorAwaiter(SerialExecutor& executor, Job job)
-        : m_executor(&executor)
-        , m_call(std::make_shared<ExecutorCall<Job>>(std::move(job))) {}
-
-    bool await_ready() const noexcept { return false; }
-    void await_suspend(std::coroutine_handle<> waiting) {
-        m_executor->post([call = m_call, waiting] {
-            call->run();
-            postToMain([waiting] { waiting.resume(); });
-        });
-    }
-    Result await_resume() {
-        if (m_call->error)
-            std::rethrow_exception(m_call->error);
-        if constexpr (!std::is_void_v<Result>)
-            return std::move(*m_call->value);
-    }
-
-private:
-    SerialExecutor* m_executor;
-    std::shared_ptr<ExecutorCall<Job>> m_call;
-};
-
-} // namespace detail
-
-template <typename Job>
-auto SerialExecutor::run(Job job) {
-    return detail::ExecutorAwaiter<Job>(*this, std::move(job));
+    });
+    return result;
 }
 
 } // namespace vellumry

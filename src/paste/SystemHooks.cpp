@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "paste/SystemHooks.h"
 
-#include "capture/DetachedRun.h"
+#include "foundation/RunDetached.h"
 #include "platform/display/PasteTarget.h"
 
 #include <QCoroTimer>
@@ -22,9 +22,9 @@ QCoro::Task<void> sleepPrecisely(std::chrono::milliseconds duration) {
     co_await timer;
 }
 
-QCoro::Task<std::optional<std::vector<FileStatus>>> runDetached(SystemHooks::FileJob job) {
-    DetachedRun<std::vector<FileStatus>> run(std::move(job), fileDeadline);
-    co_return co_await run;
+QCoro::Task<std::optional<std::vector<FileStatus>>> runOneFileJob(SystemHooks::FileJob job) {
+    auto running = runDetached(std::move(job), fileDeadline);
+    co_return co_await running;
 }
 
 } // namespace
@@ -37,7 +37,7 @@ SystemHooks SystemHooks::of(Pasteboard& pasteboard, PasteTarget& target) {
     hooks.regainFocus = [&target] { return target.regainFocus(); };
     hooks.pressPaste = [&target] { target.pressPaste(); };
     hooks.sleep = sleepPrecisely;
-    hooks.runFileJob = runDetached;
+    hooks.runFileJob = runOneFileJob;
     return hooks;
 }
 

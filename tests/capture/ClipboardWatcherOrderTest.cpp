@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "capture/Settle.h"
 #include "capture/WatcherFixture.h"
+#include "support/Eventually.h"
 
 #include <new>
 

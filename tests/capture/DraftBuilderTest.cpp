@@ -2,8 +2,8 @@
 #include "capture/DraftBuilder.h"
 
 #include "capture/DraftTitles.h"
-#include "capture/Settle.h"
 #include "foundation/UniformType.h"
+#include "support/Awaited.h"
 #include "support/FakeFileBookmarks.h"
 #include "support/FakeImageCodec.h"
 
@@ -18,7 +18,7 @@ const SourceApp editor{QStringLiteral("org.example.Editor"), QStringLiteral("Edi
 class DraftBuilderTest : public ::testing::Test {
 protected:
     std::optional<ClipDraft> build(std::vector<PasteboardItem> items, SourceApp source = editor) {
-        return settle(builder.build({std::move(items)}, std::move(source), now)).value();
+        return awaited(builder.build({std::move(items)}, std::move(source), now));
     }
     static PasteboardItem file(const char* url) { return {{{uniformtype::fileUrl, url}}, {}}; }
 
@@ -44,16 +44,14 @@ TEST_F(DraftBuilderTest, ALongTextIsLookedAtElsewhereWithTheSameResult) {
     const ClipPayload payload{{{{{uniformtype::utf8PlainText, line.repeated(100'000)}}, {}}}};
     auto building = builder.build(payload, editor, now);
     EXPECT_FALSE(building.isReady());
-    const auto draft = settle(std::move(building));
-    ASSERT_TRUE(draft && *draft);
-    EXPECT_EQ((*draft)->kind, ClipKind::text);
-    EXPECT_EQ((*draft)->title, QStringLiteral("a first line"));
-    EXPECT_EQ((*draft)->searchText.size(), 200'000);
-    EXPECT_EQ((*draft)->payload, payload);
+    const auto draft = awaited(std::move(building));
+    ASSERT_TRUE(draft);
+    EXPECT_EQ(draft->kind, ClipKind::text);
+    EXPECT_EQ(draft->title, QStringLiteral("a first line"));
+    EXPECT_EQ(draft->searchText.size(), 200'000);
+    EXPECT_EQ(draft->payload, payload);
     const ClipPayload blank{{{{{uniformtype::utf8PlainText, QByteArray(1'000'000, ' ')}}, {}}}};
-    const auto nothing = settle(builder.build(blank, editor, now));
-    ASSERT_TRUE(nothing.has_value());
-    EXPECT_FALSE(nothing->has_value());
+    EXPECT_FALSE(awaited(builder.build(blank, editor, now)));
 }
 
 TEST_F(DraftBuilderTest, NothingComesOfAnEmptyPayload) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capture/FileAccess.h"
 
-#include "capture/Settle.h"
+#include "support/Awaited.h"
 
 #include <QDir>
 #include <QFile>
@@ -85,7 +85,7 @@ TEST_F(FileAccessTest, SymbolicLinksAreFollowedOnBothSides) {
 }
 
 TEST_F(FileAccessTest, CheckAnswersFromAnotherThread) {
-    EXPECT_TRUE(settle(FileAccess::check({QStringLiteral("/mnt/nowhere/a")}, places)).value().isAllowed());
+    EXPECT_TRUE(awaited(FileAccess::check({QStringLiteral("/mnt/nowhere/a")}, places)).isAllowed());
 }
 
 TEST(FileAccessProbe, OnlyPermissionFailuresAreProof) {

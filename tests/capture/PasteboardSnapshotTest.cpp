@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capture/PasteboardSnapshot.h"
 
-#include "capture/Settle.h"
 #include "foundation/UniformType.h"
+#include "support/Awaited.h"
 #include "support/FakeFileBookmarks.h"
 #include "support/FakeImageCodec.h"
 #include "support/FakePasteboard.h"
@@ -33,7 +33,7 @@ protected:
     }
     /// The same for a copy of many bytes, whose text is looked at elsewhere.
     std::optional<ClipDraft> readLarge() {
-        return settle(readDraft(&pasteboard, builder, request())).value_or(std::nullopt);
+        return awaited(readDraft(&pasteboard, builder, request()));
     }
     static PasteboardItem item(std::initializer_list<std::pair<QString, QByteArray>> offered) {
         PasteboardItem result;
@@ -46,12 +46,12 @@ protected:
     }
     /// What is read of a copy until the next one comes.
     std::optional<ClipDraft> readUntilReplaced() {
-        const auto result = std::make_shared<std::optional<std::optional<ClipDraft>>>();
-        detail::keep(readDraft(&pasteboard, builder, request()), result);
-        EXPECT_FALSE(result->has_value()) << "nothing hangs";
+        auto reading = readDraft(&pasteboard, builder, request());
+        EXPECT_FALSE(reading.isReady()) << "nothing hangs";
         pasteboard.copyText(QStringLiteral("next"));
-        EXPECT_TRUE(result->has_value()) << "reading goes on";
-        return result->value_or(std::nullopt);
+        const auto draft = atOnce(std::move(reading));
+        EXPECT_TRUE(draft.has_value()) << "reading goes on";
+        return draft.value_or(std::nullopt);
     }
     QStringList requestedTypes() const {
         QStringList types;
@@ -220,13 +220,13 @@ TEST_F(PasteboardSnapshotTest, TextIsReadFirstThenPicturesThenTheUnknown) {
 TEST_F(PasteboardSnapshotTest, WhatHangsUntilTheDeadlineCostsItselfOnly) {
     pasteboard.hangingTypes = {privateType};
     pasteboard.copy({item({{privateType, "p"}, {text, "hi"}, {QStringLiteral("x/later"), "l"}})});
-    std::optional<std::optional<ClipDraft>> result;
-    detail::keep(readDraft(&pasteboard, builder, request()), std::shared_ptr<decltype(result)>(&result, [](auto*) {}));
-    EXPECT_FALSE(result);
+    auto reading = readDraft(&pasteboard, builder, request());
+    EXPECT_FALSE(reading.isReady());
     pasteboard.passDeadline();
-    ASSERT_TRUE(result && *result);
-    EXPECT_EQ((*result)->title, QStringLiteral("hi"));
-    EXPECT_EQ((*result)->payload.items[0].order, QStringList{text});
+    const auto draft = atOnce(std::move(reading)).value();
+    ASSERT_TRUE(draft);
+    EXPECT_EQ(draft->title, QStringLiteral("hi"));
+    EXPECT_EQ(draft->payload.items[0].order, QStringList{text});
 }
 
 TEST_F(PasteboardSnapshotTest, OfACopyThatIsReplacedWhileItIsReadTheTextCounts) {
@@ -300,15 +300,12 @@ TEST_F(PasteboardSnapshotTest, AHangingOwnerGivesNothingWhenTheDeadlinePasses) {
     for (bool FakePasteboard::*hang : {&FakePasteboard::hangsBeginReading, &FakePasteboard::hangsItemTypes}) {
         pasteboard.copyText(QStringLiteral("hi"));
         pasteboard.*hang = true;
-        std::optional<std::optional<ClipDraft>> result;
-        detail::keep(readDraft(&pasteboard, builder, request()),
-                     std::shared_ptr<decltype(result)>(&result, [](auto*) {}));
-        EXPECT_FALSE(result);
+        auto reading = readDraft(&pasteboard, builder, request());
+        EXPECT_FALSE(reading.isReady());
         pasteboard.passDeadline();
-        EXPECT_FALSE(result) << "it is asked once more";
+        EXPECT_FALSE(reading.isReady()) << "it is asked once more";
         pasteboard.passDeadline();
-        ASSERT_TRUE(result);
-        EXPECT_FALSE(*result);
+        EXPECT_EQ(atOnce(std::move(reading)).value(), std::nullopt);
         pasteboard.*hang = false;
     }
 }
@@ -342,7 +339,7 @@ TEST_F(PasteboardSnapshotTest, AHundredThousandFilesAreRead) {
     for (int i = 0; i < 100'000; ++i)
         items.push_back(item({{uniformtype::fileUrl, "file:///tmp/" + QByteArray::number(i)}}));
     pasteboard.copy(std::move(items));
-    const auto draft = settle(readDraft(&pasteboard, builder, request())).value();
+    const auto draft = awaited(readDraft(&pasteboard, builder, request()));
     ASSERT_TRUE(draft);
     EXPECT_EQ(draft->files.size(), 100'000u);
     EXPECT_EQ(draft->files.back().path, QStringLiteral("/tmp/99999"));

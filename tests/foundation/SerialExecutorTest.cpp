@@ -22,7 +22,8 @@ struct Outcome {
 
 QCoro::Task<> awaitJob(SerialExecutor* executor, std::function<int()> job, std::shared_ptr<Outcome> outcome) {
     try {
-        const int result = co_await executor->run(std::move(job));
+        auto running = executor->run(std::move(job));
+        const int result = co_await running;
         outcome->result = result;
     } catch (const std::runtime_error& error) {
         outcome->error = error.what();
@@ -31,7 +32,8 @@ QCoro::Task<> awaitJob(SerialExecutor* executor, std::function<int()> job, std::
 }
 
 QCoro::Task<> awaitVoidJob(SerialExecutor* executor, std::function<void()> job, std::shared_ptr<Outcome> outcome) {
-    co_await executor->run(std::move(job));
+    auto running = executor->run(std::move(job));
+    co_await running;
     outcome->resumedOn = std::this_thread::get_id();
 }
 

@@ -45,6 +45,16 @@ inline void runUntil(const std::function<bool()>& isDone, int milliseconds = 60'
         throw std::runtime_error("What is waited for has not come.");
 }
 
+/// What `task` gives without a suspension; nothing when it suspended.
+template <typename Result>
+std::optional<Result> atOnce(QCoro::Task<Result> task) {
+    const auto outcome = std::make_shared<detail::AwaitedOutcome<Result>>();
+    const auto watching = detail::watchTask(std::move(task), outcome);
+    if (outcome->error)
+        std::rethrow_exception(outcome->error);
+    return outcome->value;
+}
+
 /// The task's result, or the exception that it ended with. The main thread's events are delivered meanwhile.
 template <typename Result>
 Result awaited(QCoro::Task<Result> task) {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capture/screenshots/ScreenshotImporter.h"
 
-#include "capture/DetachedRun.h"
 #include "capture/DraftTitles.h"
 #include "foundation/FileUrl.h"
 #include "foundation/Localisation.h"
+#include "foundation/RunDetached.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -74,8 +74,8 @@ QCoro::Task<std::optional<ScreenshotImporter::Listings>> ScreenshotImporter::lis
             result.push_back(list(folder));
         return result;
     };
-    DetachedRun<Listings> run(std::move(job), longestListing);
-    std::optional<Listings> result = co_await run;
+    auto listing = runDetached(std::move(job), longestListing);
+    std::optional<Listings> result = co_await listing;
     co_return result;
 }
 
@@ -83,7 +83,7 @@ QCoro::Task<bool> ScreenshotImporter::start() {
     stop();
     const quint64 session = m_session;
     const QPointer<ScreenshotImporter> self(this);
-    DetachedRun<QStringList> asking(m_hooks.folders, longestListing);
+    auto asking = runDetached(m_hooks.folders, longestListing);
     const std::optional<QStringList> folders = co_await asking;
     if (!self || session != m_session || !folders)
         co_return false;
@@ -222,7 +222,7 @@ QCoro::Task<ScreenshotImporter::ReadResult> ScreenshotImporter::read(QString pat
     ImageCodec* const images = m_images;
     const Date now = m_hooks.now();
     std::function<ScreenshotFile()> job = [path] { return ScreenshotFile::load(path); };
-    DetachedRun<ScreenshotFile> loading(std::move(job), longestReading);
+    auto loading = runDetached(std::move(job), longestReading);
     std::optional<ScreenshotFile> file = co_await loading;
     ReadResult result = NotAScreenshot();
     if (!file || file->state == ScreenshotFile::State::incomplete) {

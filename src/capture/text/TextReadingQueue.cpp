@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capture/text/TextReadingQueue.h"
 
-#include "capture/DetachedRun.h"
 #include "capture/PasteboardTypes.h"
+#include "foundation/RunDetached.h"
 
 #include <QPointer>
 #include <algorithm>
@@ -154,8 +154,8 @@ QCoro::Task<PictureFiles> TextReadingQueue::pictures(ClipRef clip, bool isAsked)
                                          canReadQuietly = m_seams.canReadQuietly] {
         return PictureFiles::collect(clip->files, isAsked, status, canReadQuietly);
     };
-    DetachedRun<PictureFiles> run(std::move(job), longestFileRead);
-    std::optional<PictureFiles> collected = co_await run;
+    auto collecting = runDetached(std::move(job), longestFileRead);
+    std::optional<PictureFiles> collected = co_await collecting;
     if (collected)
         found = std::move(*collected);
     co_return found;

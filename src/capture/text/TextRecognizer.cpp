@@ -1,19 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capture/text/TextRecognizer.h"
 
-#include "capture/ResumeOnce.h"
 #include "foundation/Logging.h"
+#include "foundation/OneShot.h"
 #include "foundation/Text.h"
 
 #include <QStringList>
-#include <QTimer>
 #include <utility>
 
 namespace vellumry {
 
 namespace {
 
-using Race = ResumeOnce<TextReader::Reading>;
+using Race = OneShot<TextReader::Reading>;
 
 constexpr double fastLimit = 30.0;
 constexpr double accurateLimit = 150.0;
@@ -27,21 +26,7 @@ QCoro::Task<void> run(TextReader* reader, QByteArray data, TextReader::Mode mode
     } catch (const std::exception&) {
         reading.outcome = TextReader::Outcome::failed;
     }
-    race.resume(std::move(reading));
-}
-
-/// Ends the race as `tooSlow`; the owner deletes it when the race is over.
-struct LaterDeleter {
-    void operator()(QTimer* timer) const { timer->deleteLater(); }
-};
-std::unique_ptr<QTimer, LaterDeleter> startLimit(std::chrono::milliseconds limit, const Race& race) {
-    std::unique_ptr<QTimer, LaterDeleter> timer(new QTimer);
-    timer->setSingleShot(true);
-    QObject::connect(timer.get(), &QTimer::timeout, timer.get(), [race] {
-        race.resume({TextReader::Outcome::tooSlow, {}});
-    });
-    timer->start(limit);
-    return timer;
+    race.deliver(std::move(reading));
 }
 
 } // namespace
@@ -54,12 +39,12 @@ QCoro::Task<std::optional<QString>> TextRecognizer::read(QByteArray data, Reader
     const std::shared_ptr<int> failures = m_accurateFailures;
     const std::shared_ptr<bool> isAvailable = m_isAvailable;
 
-    Race race;
-    const auto timer = startLimit(limit, race);
+    // The reader keeps to the limit as well; this holds when it never answers.
+    const Race race;
+    race.deliverAfter(limit, {Outcome::tooSlow, {}});
     run(m_reader, std::move(data), reader, limit, race);
     // Behind this the recognizer may be gone.
     const TextReader::Reading reading = co_await race;
-    timer->stop();
 
     if (reading.outcome == Outcome::unavailable) {
         if (std::exchange(*isAvailable, false))

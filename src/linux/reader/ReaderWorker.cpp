@@ -34,7 +34,8 @@ QCoro::Task<ReaderProcess::Answer> ReaderWorker::ask(QByteArray picture, readerp
         return process->ask(picture, operation, bounded, deadline);
     };
     // From here on the worker may be gone.
-    co_return co_await m_executor.run(job);
+    auto running = m_executor.run(job);
+    co_return co_await running;
 }
 
 void ReaderWorker::watch(readersocket::Descriptor end) {

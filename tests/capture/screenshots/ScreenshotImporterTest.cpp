@@ -31,7 +31,7 @@ TEST_F(ScreenshotImporterTest, ANewScreenshotBecomesAClip) {
     EXPECT_TRUE(clip.title.startsWith(QStringLiteral("Screenshot 20"))) << clip.title.toStdString();
     EXPECT_EQ(clip.searchText.toString(), clip.title + u'\n' + first + QStringLiteral("\nImage 640 × 480"));
     EXPECT_EQ(imported, QStringList{first});
-    const auto payload = settle(store.payload(clip.id)).value();
+    const auto payload = awaited(store.payload(clip.id));
     ASSERT_TRUE(payload);
     EXPECT_EQ(payload->items,
               (std::vector{PasteboardItem{{{uniformtype::png, png()}}, QStringList{uniformtype::png}}}));
@@ -40,10 +40,10 @@ TEST_F(ScreenshotImporterTest, ANewScreenshotBecomesAClip) {
 TEST_F(ScreenshotImporterTest, TheTitleHasTheTimeAtWhichTheFileWasMade) {
     makeFolder();
     write(first, png());
-    const auto result = settle(importer->read(path(first)));
-    ASSERT_TRUE(result && std::holds_alternative<ClipDraft>(*result));
+    const auto result = awaited(importer->read(path(first)));
+    ASSERT_TRUE(std::holds_alternative<ClipDraft>(result));
     const Date made = ScreenshotFile::load(path(first)).createdAt.value_or(now);
-    EXPECT_EQ(std::get<ClipDraft>(*result).title, screenshotTitle(made));
+    EXPECT_EQ(std::get<ClipDraft>(result).title, screenshotTitle(made));
 }
 
 TEST_F(ScreenshotImporterTest, EachKindOfPictureIsImportedAsWhatItIs) {
@@ -53,7 +53,7 @@ TEST_F(ScreenshotImporterTest, EachKindOfPictureIsImportedAsWhatItIs) {
     write(QStringLiteral("Screenshot_20260309_140500.jpeg"), jpeg);
     change();
     ASSERT_EQ(store.clips().size(), 1u);
-    const auto payload = settle(store.payload(store.clips().front()->id)).value();
+    const auto payload = awaited(store.payload(store.clips().front()->id));
     ASSERT_TRUE(payload);
     EXPECT_EQ(payload->items.front().representations.at(uniformtype::jpeg), jpeg);
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "capture/Settle.h"
 #include "capture/screenshots/ScreenshotImporter.h"
+#include "support/Awaited.h"
 #include "support/FakeFolderWatching.h"
 #include "support/FakeImageCodec.h"
 
@@ -44,7 +44,7 @@ protected:
             imported.append(clip->searchText.toString().section(u'\n', 1, 1));
         };
     }
-    [[nodiscard]] bool start() { return settle(importer->start()).value_or(false); }
+    [[nodiscard]] bool start() { return awaited(importer->start()); }
 
     [[nodiscard]] QString shots() const { return root.filePath(QStringLiteral("shots")); }
     [[nodiscard]] QString path(const QString& name) const { return shots() + u'/' + name; }

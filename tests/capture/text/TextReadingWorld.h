@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "capture/ResumeOnce.h"
 #include "capture/text/TextReadingQueue.h"
+#include "foundation/OneShot.h"
 #include "support/Awaited.h"
 #include "support/Drafts.h"
 
@@ -31,14 +31,14 @@ protected:
         std::vector<Read> reads;
         std::map<QByteArray, Answer> answers;
         bool isHeld = false;
-        ResumeOnce<bool> gate;
+        OneShot<void> gate;
 
         QCoro::Task<Answer> read(QByteArray picture, Reader reader) {
             reads.push_back({picture, reader});
             if (isHeld) {
-                gate = ResumeOnce<bool>();
-                ResumeOnce<bool> mine = gate;
-                (void)co_await mine;
+                gate = OneShot<void>();
+                const OneShot<void> mine = gate;
+                co_await mine;
             }
             const auto found = answers.find(picture);
             const QString usual = QString::fromUtf8((reader == Reader::fast ? "fast " : "accurate ") + picture);
@@ -47,8 +47,8 @@ protected:
             co_return answer;
         }
         void letGo() {
-            const ResumeOnce<bool> mine = gate;
-            mine.resume(true);
+            const OneShot<void> mine = gate; // the next read replaces it
+            mine.deliver();
         }
     };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capture/text/TextRecognizer.h"
 
-#include "capture/Settle.h"
+#include "support/Awaited.h"
 #include "support/FakeTextReader.h"
 
 #include <gtest/gtest.h>
@@ -60,9 +60,7 @@ TEST_F(TextRecognizerTest, AComputerWithoutAnEngineIsKnownAfterTheFirstPicture) 
 }
 
 TEST_F(TextRecognizerTest, AReaderThatStaysSilentIsGivenUpAtTheLimit) {
-    const auto text = settle(recognizer.read("picture", Reader::accurate, 0.01));
-    ASSERT_TRUE(text.has_value()) << "the task still waits";
-    EXPECT_EQ(*text, std::nullopt);
+    EXPECT_EQ(awaited(recognizer.read("picture", Reader::accurate, 0.01)), std::nullopt);
     reader.answer({Outcome::text, QStringLiteral("too late")});
     EXPECT_EQ(readWith(Outcome::text, Reader::fast, QStringLiteral("the next one")), QStringLiteral("the next one"));
 }
@@ -86,9 +84,7 @@ TEST_F(TextRecognizerTest, ASuccessInBetweenStartsTheCountAfresh) {
 
 TEST_F(TextRecognizerTest, ATimeOutOfItsOwnCountsToo) {
     for (int time = 0; time < 3; ++time) {
-        const auto text = settle(recognizer.read("picture", Reader::accurate, 0.01));
-        ASSERT_TRUE(text.has_value()) << "the task still waits";
-        EXPECT_EQ(*text, std::nullopt);
+        EXPECT_EQ(awaited(recognizer.read("picture", Reader::accurate, 0.01)), std::nullopt);
         reader.answer({Outcome::text, QStringLiteral("too late to count")});
     }
     EXPECT_FALSE(recognizer.isAccurateUsable());

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/keys/X11PasteTarget.h"
 
+#include "foundation/OneShot.h"
 #include "linux/x11/keys/TerminalApps.h"
 #include "linux/x11/keys/X11Keymap.h"
 #include "linux/x11/windows/XErrorTrap.h"
 #include "linux/x11/windows/XWindowProperties.h"
 
+#include <QCoreApplication>
 #include <QPointer>
-#include <QTimer>
-#include <coroutine>
 #include <linux/input-event-codes.h>
 
 #include <X11/Xlib.h>
@@ -22,31 +22,6 @@ namespace {
 constexpr quint32 placeOf(quint32 evdevCode) {
     return evdevCode + KeyCodes::xOffset;
 }
-
-/// Waits until the keyboard may have moved, or the time is up. `focus` outlives the wait. Not the awaiter of a library:
-/// a signal that is emitted twice in one turn of the event loop must resume once.
-struct NextMove {
-    X11Focus* focus;
-    std::chrono::milliseconds limit;
-
-    [[nodiscard]] bool await_ready() const noexcept { return false; }
-    void await_suspend(std::coroutine_handle<> waiting) const {
-        auto* timer = new QTimer;
-        timer->setSingleShot(true);
-        QObject::connect(timer, &QTimer::timeout, timer, [timer, waiting] {
-            timer->disconnect();
-            timer->deleteLater();
-            waiting.resume();
-        });
-        // The first move ends the wait in the next turn of the event loop.
-        QObject::connect(focus, &X11Focus::moved, timer, [timer, source = focus] {
-            QObject::disconnect(source, nullptr, timer, nullptr);
-            timer->start(0);
-        });
-        timer->start(limit);
-    }
-    void await_resume() const noexcept {}
-};
 
 } // namespace
 
@@ -88,8 +63,14 @@ QCoro::Task<bool> X11PasteTarget::regainFocus() {
             std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
         if (left.count() <= 0)
             co_return false;
-        NextMove move{focus.get(), left};
-        co_await move;
+        const OneShot<void> moved;
+        moved.deliverAfter(left);
+        // Queued: the wait does not end amid the focus's own doings.
+        const auto watching = QObject::connect(
+            focus.get(), &X11Focus::moved, QCoreApplication::instance(), [moved] { moved.deliver(); },
+            Qt::QueuedConnection);
+        co_await moved;
+        QObject::disconnect(watching);
     }
     co_return false;
 }
