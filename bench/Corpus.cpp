@@ -5,6 +5,7 @@
 
 #include <QUuid>
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <map>
 
@@ -95,8 +96,8 @@ ClipRef Corpus::nextClip() {
                      static_cast<uchar>(m_made >> 8), static_cast<uchar>(m_made));
     clip->createdAt = clip->lastUsedAt = 1.8e9 - static_cast<double>(++m_made);
     // As random as an authentication code.
-    for (int part = 0; part < 4; ++part)
-        clip->fingerprint += QString::number(m_random(), 16).rightJustified(16, u'0');
+    const std::array<quint64, 4> code{m_random(), m_random(), m_random(), m_random()};
+    clip->fingerprint = Fingerprint::ofCode({reinterpret_cast<const char*>(code.data()), sizeof code});
     clip->sourceAppName = applications.at(static_cast<qsizetype>(upTo(static_cast<std::size_t>(applications.size()))));
     clip->sourceBundleID = QStringLiteral("org.example.") + *clip->sourceAppName;
     if (upTo(20) == 0) {

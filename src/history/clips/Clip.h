@@ -3,6 +3,7 @@
 
 #include "foundation/Date.h"
 #include "foundation/StoredText.h"
+#include "history/clips/Fingerprint.h"
 #include "platform/display/PasteboardItem.h"
 
 #include <QByteArray>
@@ -65,23 +66,24 @@ struct ClipDraft {
 /// One remembered copy. The payload is not part of it: it stays sealed on disk and comes from the store on demand.
 struct Clip {
     QUuid id;
+    // Small fields together: thousands of clips are in memory, and each gap is there as often.
     ClipKind kind = ClipKind::text;
+    bool isPinned = false;
+    bool imageTextIsAccurate = false;
+    bool isScreenshot = false;
     QString title;
     StoredText searchText;
     std::optional<QString> sourceBundleID;
     std::optional<QString> sourceAppName;
     Date createdAt = 0;
     Date lastUsedAt = 0;
-    bool isPinned = false;
     std::optional<Date> expiresAt;
-    QString fingerprint; ///< 64 lower-case hexadecimal characters
+    Fingerprint fingerprint;
     qint64 byteSize = 0;
     std::vector<FileRef> files;
     std::optional<QByteArray> thumbnail;
     qint64 pinOrder = 0; ///< position among the pins, 0 when unpinned
     std::optional<QString> imageText;
-    bool imageTextIsAccurate = false;
-    bool isScreenshot = false;
 
     /// A sensitive clip deletes itself; this is the only definition of one.
     [[nodiscard]] bool isSensitive() const { return expiresAt.has_value(); }

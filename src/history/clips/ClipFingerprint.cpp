@@ -53,7 +53,7 @@ QByteArray textBytes(const ClipPayload& payload) {
 
 } // namespace
 
-QString fingerprintOf(const ClipDraft& draft, const ClipCrypto& crypto) {
+Fingerprint fingerprintOf(const ClipDraft& draft, const ClipCrypto& crypto) {
     QByteArrayView prefix = "text|";
     QByteArray content;
     if (draft.kind == ClipKind::image) {
@@ -66,7 +66,7 @@ QString fingerprintOf(const ClipDraft& draft, const ClipCrypto& crypto) {
         content = textBytes(draft.payload);
     }
     const std::array<QByteArrayView, 2> parts{prefix, content};
-    return QString::fromLatin1(crypto.authenticationCode(parts).toHex());
+    return Fingerprint::ofCode(crypto.authenticationCode(parts));
 }
 
 } // namespace vellumry

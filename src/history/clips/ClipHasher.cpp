@@ -12,15 +12,14 @@ constexpr qint64 mostBytesHere = 256 * 1024;
 
 } // namespace
 
-QCoro::Task<QString> ClipHasher::fingerprint(ClipDraft draft) {
+QCoro::Task<Fingerprint> ClipHasher::fingerprint(ClipDraft draft) {
     if (draft.payload.byteCount() <= mostBytesHere)
         co_return fingerprintOf(draft, *m_crypto);
     if (!m_executor)
         m_executor = std::make_unique<SerialExecutor>("hashing");
     auto job = [crypto = m_crypto, draft = std::move(draft)] { return fingerprintOf(draft, *crypto); };
     auto running = m_executor->run(std::move(job));
-    QString fingerprint = co_await running;
-    co_return fingerprint;
+    co_return co_await running;
 }
 
 } // namespace vellumry

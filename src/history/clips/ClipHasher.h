@@ -18,7 +18,7 @@ public:
         : m_crypto(&crypto) {}
 
     /// As `fingerprintOf`. Suspends for a payload of more than 256 KiB only; from then on the hasher may be gone.
-    [[nodiscard]] QCoro::Task<QString> fingerprint(ClipDraft draft);
+    [[nodiscard]] QCoro::Task<Fingerprint> fingerprint(ClipDraft draft);
 
 private:
     const ClipCrypto* m_crypto;

@@ -9,44 +9,18 @@
 
 namespace vellumry {
 
-namespace {
-
-std::size_t hashOfId(const Clip& clip) {
-    // Not QUuid's own hash, which folds its parts: identities that are not random, from another program, must spread
-    // too.
-    return qHashBits(&clip.id, sizeof clip.id);
-}
-
-bool haveOneId(const Clip& one, const Clip& other) {
-    return one.id == other.id;
-}
-
-std::size_t hashOfFingerprint(const Clip& clip) {
-    return qHash(clip.fingerprint);
-}
-
-bool haveOneFingerprint(const Clip& one, const Clip& other) {
-    return one.fingerprint == other.fingerprint;
-}
-
-} // namespace
-
-ClipList::ClipList()
-    : m_byId(hashOfId, haveOneId)
-    , m_byFingerprint(hashOfFingerprint, haveOneFingerprint) {}
-
 ClipRef ClipList::find(const QUuid& id) const {
     Clip sample;
     sample.id = id;
-    const Clip* const clip = m_byId.find(sample);
+    const Clip* const clip = findIn(m_byId, sample);
     return clip ? m_clips[static_cast<std::size_t>(indexOf(*clip))] : nullptr;
 }
 
-ClipRef ClipList::findFingerprint(const QString& fingerprint) const {
-    if (m_byFingerprint.size() == m_clips.size()) {
+ClipRef ClipList::findFingerprint(const Fingerprint& fingerprint) const {
+    if (m_byFingerprint.size() == std::ssize(m_clips)) {
         Clip sample;
         sample.fingerprint = fingerprint;
-        const Clip* const clip = m_byFingerprint.find(sample);
+        const Clip* const clip = findIn(m_byFingerprint, sample);
         return clip ? m_clips[static_cast<std::size_t>(indexOf(*clip))] : nullptr;
     }
     const auto found =
@@ -123,12 +97,12 @@ void ClipList::assign(std::vector<ClipRef> clips) {
     if (!std::ranges::is_sorted(clips, std::greater<>(), usedAt))
         std::ranges::stable_sort(clips, std::greater<>(), usedAt);
 
-    m_byId.reserve(clips.size());
-    m_byFingerprint.reserve(clips.size());
+    m_byId.reserve(std::ssize(clips));
+    m_byFingerprint.reserve(std::ssize(clips));
     m_clips.clear();
     m_clips.reserve(clips.size());
     for (ClipRef& clip : clips) {
-        if (m_byId.find(*clip))
+        if (findIn(m_byId, *clip))
             continue;
         enter(*clip);
         m_clips.push_back(std::move(clip));
@@ -226,8 +200,8 @@ std::ptrdiff_t ClipList::indexOf(const Clip& clip) const {
 }
 
 void ClipList::enter(const Clip& clip) {
-    m_byId.insert(clip);
-    m_byFingerprint.insert(clip);
+    m_byId.insert({&clip});
+    m_byFingerprint.insert({&clip});
     if (clip.expiresAt)
         m_expiries.emplace(*clip.expiresAt, clip.id);
     m_unpinnedCount += clip.isPinned ? 0 : 1;
@@ -235,8 +209,8 @@ void ClipList::enter(const Clip& clip) {
 }
 
 void ClipList::leave(const Clip& clip) {
-    m_byId.erase(clip);
-    m_byFingerprint.erase(clip);
+    eraseFrom(m_byId, clip);
+    eraseFrom(m_byFingerprint, clip);
     if (clip.expiresAt)
         m_expiries.erase({*clip.expiresAt, clip.id});
     m_unpinnedCount -= clip.isPinned ? 0 : 1;

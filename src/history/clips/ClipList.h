@@ -2,7 +2,7 @@
 #pragma once
 
 #include "history/clips/Clip.h"
-#include "history/clips/ClipIndex.h"
+#include "history/clips/ClipBy.h"
 #include "history/clips/RetentionPolicy.h"
 
 #include <QSet>
@@ -14,13 +14,11 @@ namespace vellumry {
 /// tell whether the history is within its limits. One thread.
 class ClipList {
 public:
-    ClipList();
-
     [[nodiscard]] const std::vector<ClipRef>& clips() const { return m_clips; }
     /// Null when there is none.
     [[nodiscard]] ClipRef find(const QUuid& id) const;
     /// The first clip of that fingerprint, of any kind; null when there is none.
-    [[nodiscard]] ClipRef findFingerprint(const QString& fingerprint) const;
+    [[nodiscard]] ClipRef findFingerprint(const Fingerprint& fingerprint) const;
     /// The earliest expiry of all clips.
     [[nodiscard]] std::optional<Date> nextExpiry() const;
     /// The place of a pin made at `date`: pins go by the time they were made, in milliseconds, and two of one
@@ -62,10 +60,10 @@ private:
     void leave(const Clip& clip);
 
     std::vector<ClipRef> m_clips;
-    ClipIndex m_byId;
+    ClipsBy<&Clip::id> m_byId;
     /// A file written by nobody but us holds no fingerprint twice. If one does, this has fewer entries than there are
     /// clips.
-    ClipIndex m_byFingerprint;
+    ClipsBy<&Clip::fingerprint> m_byFingerprint;
     std::set<std::pair<Date, QUuid>> m_expiries;
     qint64 m_unpinnedCount = 0;
     qint64 m_mediaBytes = 0;

@@ -3,7 +3,7 @@
 
 namespace vellumry {
 
-Clip clipOfDraft(const ClipDraft& draft, const ClipRef& existing, const QString& fingerprint, Date now,
+Clip clipOfDraft(const ClipDraft& draft, const ClipRef& existing, const Fingerprint& fingerprint, Date now,
                  double lifetime) {
     Clip clip;
     clip.id = existing ? existing->id : QUuid::createUuid();

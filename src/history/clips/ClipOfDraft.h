@@ -10,7 +10,7 @@ namespace vellumry {
 /// (`existing`, null for new content), and the text read from an unchanged picture. Its expiry is the draft's verdict
 /// alone: `lifetime` seconds behind `now` when it is sensitive. Pure but for the identity of a new clip, which is
 /// random.
-[[nodiscard]] Clip clipOfDraft(const ClipDraft& draft, const ClipRef& existing, const QString& fingerprint, Date now,
-                               double lifetime);
+[[nodiscard]] Clip clipOfDraft(const ClipDraft& draft, const ClipRef& existing, const Fingerprint& fingerprint,
+                               Date now, double lifetime);
 
 } // namespace vellumry

@@ -31,7 +31,7 @@ ClipStore::~ClipStore() = default;
 
 QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
     const QPointer<ClipStore> self(this);
-    QString fingerprint;
+    Fingerprint fingerprint;
     try {
         auto hashing = d->hasher.fingerprint(draft);
         fingerprint = co_await hashing;

@@ -75,7 +75,7 @@ std::shared_ptr<Clip> clipOf(const SQLiteDatabase::Statement& row) {
     clip->isPinned = clip->pinOrder != 0;
     if (!row.isNull(5))
         clip->expiresAt = row.real(5);
-    clip->fingerprint = QString::fromUtf8(row.text(6));
+    clip->fingerprint = Fingerprint::ofText(row.text(6));
     clip->byteSize = row.integer(7);
     return clip;
 }

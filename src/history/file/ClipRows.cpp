@@ -88,7 +88,7 @@ void write(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip,
                                           clip.lastUsedAt,
                                           pinned,
                                           sqlDate(clip.expiresAt),
-                                          clip.fingerprint,
+                                          clip.fingerprint.toString(),
                                           clip.byteSize,
                                           std::move(meta),
                                           std::move(sealedPayload)};

@@ -8,11 +8,11 @@
 namespace vellumry {
 namespace {
 
-ClipRef clipAt(Date date, const QString& fingerprint = {}) {
+ClipRef clipAt(Date date, std::optional<Fingerprint> fingerprint = {}) {
     auto clip = std::make_shared<Clip>();
     clip->id = QUuid::createUuid();
     clip->lastUsedAt = date;
-    clip->fingerprint = fingerprint.isEmpty() ? clip->id.toString() : fingerprint;
+    clip->fingerprint = fingerprint.value_or(Fingerprint::ofText(clip->id.toByteArray()));
     return clip;
 }
 
@@ -81,7 +81,7 @@ TEST(ClipList, RemovesManyInOnePassAndSaysWhich) {
 
 TEST(ClipList, FindsTheFirstOfAFingerprintEvenWhenAFileHoldsItTwice) {
     ClipList list;
-    const QString twin = QStringLiteral("twin");
+    const Fingerprint twin = Fingerprint::ofText("twin");
     const ClipRef first = clipAt(9, twin);
     const ClipRef second = clipAt(3, twin);
     const ClipRef other = clipAt(5);

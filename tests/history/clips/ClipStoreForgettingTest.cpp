@@ -56,7 +56,7 @@ TEST_F(ClipStoreForgetting, ASecretThatCouldNotBeDeletedIsBackAfterTheStartAndGo
     ASSERT_TRUE(m_store->find(clip->id));
     awaited(m_store->enforceRetention(100));
     EXPECT_EQ(rowCount(), 0);
-    EXPECT_FALSE(allBytes().contains(clip->fingerprint.toLatin1()));
+    EXPECT_FALSE(allBytes().contains(clip->fingerprint.toString().toLatin1()));
 }
 
 TEST_F(ClipStoreForgetting, AnExpiredSecretLeavesNoTraceInTheFiles) {
@@ -65,7 +65,7 @@ TEST_F(ClipStoreForgetting, AnExpiredSecretLeavesNoTraceInTheFiles) {
     ASSERT_TRUE(allBytes().contains(id));
     awaited(m_store->enforceRetention(61));
     EXPECT_FALSE(allBytes().contains(id));
-    EXPECT_FALSE(allBytes().contains(clip->fingerprint.toLatin1()));
+    EXPECT_FALSE(allBytes().contains(clip->fingerprint.toString().toLatin1()));
 }
 
 struct ReclaimCase {

@@ -36,7 +36,7 @@ TEST_F(ClipStoreTest, ADraftBecomesAClip) {
     EXPECT_EQ(clip->lastUsedAt, 100.5);
     EXPECT_FALSE(clip->isPinned);
     EXPECT_EQ(clip->expiresAt, std::nullopt);
-    EXPECT_EQ(clip->fingerprint.size(), 64);
+    EXPECT_EQ(clip->fingerprint.toString().size(), 64);
     EXPECT_EQ(clip->byteSize, draft.payload.byteCount());
     EXPECT_EQ(clip->files, draft.files);
     EXPECT_EQ(clip->thumbnail, draft.thumbnail);

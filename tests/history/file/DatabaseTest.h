@@ -14,7 +14,7 @@ inline ClipRef someClip(Date used, const QString& title = QStringLiteral("title"
     clip->id = QUuid::createUuid();
     clip->title = title;
     clip->lastUsedAt = used;
-    clip->fingerprint = clip->id.toString();
+    clip->fingerprint = Fingerprint::ofText(clip->id.toByteArray());
     return clip;
 }
 

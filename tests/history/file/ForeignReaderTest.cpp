@@ -51,7 +51,7 @@ TEST(ForeignReader, ReadsWhatWeWriteWhileTheHistoryIsOpen) {
     EXPECT_EQ(QByteArray::fromBase64(rows[0]["payload"][0]["representations"]["public.png"].toString().toLatin1()),
               QByteArray("\x89PNG\0\1", 6));
     EXPECT_EQ(rows[1]["files"][0]["path"].toString(), u"/a/b c"_s);
-    EXPECT_EQ(rows[1]["fingerprint"].toString(), files->fingerprint);
+    EXPECT_EQ(rows[1]["fingerprint"].toString(), files->fingerprint.toString());
     EXPECT_EQ(rows[1]["payload"].toArray().size(), 2);
     EXPECT_EQ(rows[2]["title"].toString(), u"grün \U0001F600"_s);
     EXPECT_EQ(rows[2]["searchText"].toString(), u"grün \U0001F600"_s);
