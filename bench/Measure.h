@@ -25,7 +25,7 @@ template <typename Work>
 /// Keeps the compiler from leaving out what made `value`.
 template <typename Value>
 void keep(const Value& value) {
-    asm volatile("" : : "g"(&value) : "memory"); // NOLINT(hicpp-no-assembler)
+    asm volatile("" : : "g"(&value) : "memory");
 }
 
 } // namespace vellumry::bench

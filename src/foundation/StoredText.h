@@ -13,7 +13,8 @@ namespace vellumry {
 class StoredText {
 public:
     StoredText() = default;
-    StoredText(const QString& text) // NOLINT(google-explicit-constructor): assigning text to it is its purpose
+    /// Not explicit: text is assigned to it.
+    StoredText(const QString& text)
         : m_utf8(utf8Of(text)) {}
     [[nodiscard]] static StoredText fromUtf8(QByteArray utf8) {
         StoredText text;

@@ -139,7 +139,7 @@ public:
 
 private:
     bool guarded(void (*work)(Reading&)) {
-        if (setjmp(png_jmpbuf(m_png)) != 0) // NOLINT(cert-err52-cpp): the library knows no other way
+        if (setjmp(png_jmpbuf(m_png)) != 0) // the library reports errors in no other way
             return false;
         work(*this);
         return true;

@@ -32,9 +32,7 @@ protected:
         return draft.value_or(std::nullopt);
     }
     /// The same for a copy of many bytes, whose text is looked at elsewhere.
-    std::optional<ClipDraft> readLarge() {
-        return awaited(readDraft(&pasteboard, builder, request()));
-    }
+    std::optional<ClipDraft> readLarge() { return awaited(readDraft(&pasteboard, builder, request())); }
     static PasteboardItem item(std::initializer_list<std::pair<QString, QByteArray>> offered) {
         PasteboardItem result;
         result.order = QStringList();

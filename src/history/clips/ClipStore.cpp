@@ -43,7 +43,10 @@ QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
     const ClipRef existing = d->list.findFingerprint(fingerprint);
     const ClipRef clip =
         std::make_shared<const Clip>(clipOfDraft(draft, existing, fingerprint, now, d->sensitiveLifetime));
-    existing ? d->list.replace(existing, clip) : d->list.insert(clip);
+    if (existing)
+        d->list.replace(existing, clip);
+    else
+        d->list.insert(clip);
     // The keys of its image text stay: that text was kept, or there is none.
     d->search->forgetText(clip->id);
 

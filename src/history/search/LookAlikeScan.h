@@ -73,7 +73,7 @@ private:
 
     /// For each lane, whether it has had at most 0, 1, … mismatches: all ones for yes.
     struct Within {
-        Vector limits[allowed + 1]; // NOLINT(*-avoid-c-arrays): std::array would drop the attribute of the vector type
+        Vector limits[allowed + 1]; // std::array would drop the attribute of the vector type
 
         Within() {
             for (Vector& limit : limits)

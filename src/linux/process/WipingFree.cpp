@@ -15,10 +15,9 @@
 
 extern "C" {
 
-// NOLINTBEGIN(bugprone-reserved-identifier): glibc's names for its own functions, for those who replace the public ones
+// Glibc's names for its own functions, for those who replace the public ones
 void* __libc_realloc(void* memory, std::size_t size) noexcept;
 void __libc_free(void* memory) noexcept;
-// NOLINTEND(bugprone-reserved-identifier)
 }
 
 namespace {
