@@ -34,7 +34,7 @@ public:
     explicit PlainInserter(const QString& folder) {
         MemoryKeyStore keyStore;
         // The constructor of the product's own database sets the file up; only then does this connection open it.
-        (void)ClipDatabase::openHistory(folder, keyStore);
+        (void)ClipDatabase::openHistory(folder, keyStore).value();
         m_file =
             std::make_unique<SQLiteDatabase>(folder + u'/' + historyfile::fileName, SQLiteDatabase::Access::readWrite);
     }
@@ -86,7 +86,7 @@ void benchAdd(qsizetype length) {
     PlainInserter plain(plainFolder.path());
     MemoryKeyStore keyStore;
     const auto store = QCoro::waitFor(
-        ClipStore::open(ClipDatabase::openHistory(folder.path(), keyStore).database, RetentionPolicy(), false));
+        ClipStore::open(ClipDatabase::openHistory(folder.path(), keyStore).value().database, RetentionPolicy(), false));
     std::vector<double> inserts;
     std::vector<double> adds;
     for (int copy = 0; copy < copies; ++copy) {

@@ -87,9 +87,9 @@ Measured measured(const std::function<QCoro::Task<void>()>& work) {
 class Sample {
 public:
     Sample(std::size_t count, std::size_t every) {
-        (void)ClipDatabase::openHistory(m_folder.path(), m_keyStore);
+        (void)ClipDatabase::openHistory(m_folder.path(), m_keyStore).value();
         SQLiteDatabase file(path(), SQLiteDatabase::Access::readWrite);
-        const ClipCrypto crypto(*m_keyStore.load());
+        const ClipCrypto crypto(*m_keyStore.key());
         file.execute("BEGIN;");
         std::size_t number = 0;
         for (const ClipRef& made : Corpus(1).clips(count)) {
@@ -101,8 +101,8 @@ public:
         file.execute("COMMIT;");
     }
     [[nodiscard]] std::unique_ptr<ClipStore> open() {
-        auto store = QCoro::waitFor(
-            ClipStore::open(ClipDatabase::openHistory(m_folder.path(), m_keyStore).database, unlimited(), false));
+        auto store = QCoro::waitFor(ClipStore::open(
+            ClipDatabase::openHistory(m_folder.path(), m_keyStore).value().database, unlimited(), false));
         // As after a first search: the folded texts are there too.
         keep(store->search(QStringLiteral("ab"), ClipFilter::all));
         // What a start and a first search put off is not what is measured.

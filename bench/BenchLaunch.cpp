@@ -27,7 +27,7 @@ namespace {
 constexpr int runs = 7;
 
 void fill(const QString& folder, KeyStore& keyStore, const std::vector<ClipRef>& clips) {
-    const auto crypto = ClipDatabase::openHistory(folder, keyStore).database->crypto();
+    const auto crypto = ClipDatabase::openHistory(folder, keyStore).value().database->crypto();
     SQLiteDatabase file(folder + u'/' + historyfile::fileName, SQLiteDatabase::Access::readWrite);
     file.execute("BEGIN");
     for (const ClipRef& clip : clips)
@@ -83,9 +83,9 @@ void benchLaunch(std::size_t count) {
     std::vector<double> loads;
     std::size_t loaded = 0;
     for (int run = 0; run < runs; ++run) {
-        floors.push_back(milliseconds([&] { keep(readAndOpen(folder.path(), *keyStore.load())); }));
+        floors.push_back(milliseconds([&] { keep(readAndOpen(folder.path(), *keyStore.key())); }));
         OpenedHistory history;
-        opens.push_back(milliseconds([&] { history = ClipDatabase::openHistory(folder.path(), keyStore); }));
+        opens.push_back(milliseconds([&] { history = ClipDatabase::openHistory(folder.path(), keyStore).value(); }));
         std::unique_ptr<ClipStore> store;
         loads.push_back(
             milliseconds([&] { store = QCoro::waitFor(ClipStore::open(history.database, RetentionPolicy(), false)); }));

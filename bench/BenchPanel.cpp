@@ -43,7 +43,7 @@ class LongPanel {
 public:
     explicit LongPanel(std::size_t count) {
         fill(count);
-        auto database = ClipDatabase::openHistory(m_folder.path(), m_keyStore).database;
+        auto database = ClipDatabase::openHistory(m_folder.path(), m_keyStore).value().database;
         m_store = QCoro::waitFor(ClipStore::open(std::move(database), unlimited, false));
         m_engine = std::make_unique<PasteEngine>(*m_store, m_defaults, SystemHooks::of(m_pasteboard, m_target));
         PanelController::Hooks hooks;
@@ -66,7 +66,7 @@ public:
 private:
     void fill(std::size_t count) {
         Corpus corpus(7);
-        const auto crypto = ClipDatabase::openHistory(m_folder.path(), m_keyStore).database->crypto();
+        const auto crypto = ClipDatabase::openHistory(m_folder.path(), m_keyStore).value().database->crypto();
         SQLiteDatabase file(m_folder.path() + u'/' + historyfile::fileName, SQLiteDatabase::Access::readWrite);
         file.execute("BEGIN");
         for (const ClipRef& clip : corpus.clips(count))

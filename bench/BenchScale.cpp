@@ -53,7 +53,7 @@ std::size_t contentBytes(const Clip& clip) {
 }
 
 void fill(const QString& folder, KeyStore& keyStore, Corpus& corpus, std::size_t count) {
-    const auto crypto = ClipDatabase::openHistory(folder, keyStore).database->crypto();
+    const auto crypto = ClipDatabase::openHistory(folder, keyStore).value().database->crypto();
     SQLiteDatabase file(folder + u'/' + historyfile::fileName, SQLiteDatabase::Access::readWrite);
     for (std::size_t written = 0; written < count; written += clipsPerBatch) {
         file.execute("BEGIN");
@@ -79,7 +79,8 @@ public:
     void launch() {
         const std::size_t before = residentBytes();
         OpenedHistory history;
-        const double check = milliseconds([&] { history = ClipDatabase::openHistory(m_folder.path(), m_keyStore); });
+        const double check =
+            milliseconds([&] { history = ClipDatabase::openHistory(m_folder.path(), m_keyStore).value(); });
         const double load =
             milliseconds([&] { m_store = QCoro::waitFor(ClipStore::open(history.database, unlimited, false)); });
         std::size_t content = 0;

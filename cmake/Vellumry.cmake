@@ -18,6 +18,10 @@ function(vellumry_target_defaults target)
   target_compile_features(${target} PUBLIC cxx_std_23)
   target_compile_options(${target} PRIVATE -pthread -Wall -Wextra -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror
                                            -Wno-error=deprecated-declarations)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 19)
+    # Older ones understate their concepts, and libstdc++ then hides std::expected from them.
+    target_compile_options(${target} PRIVATE -Wno-builtin-macro-redefined -Wno-macro-redefined -D__cpp_concepts=202002L)
+  endif()
   target_compile_definitions(${target} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
                                               QT_NO_FOREACH)
   set_target_properties(${target} PROPERTIES AUTOMOC ON CXX_EXTENSIONS OFF)

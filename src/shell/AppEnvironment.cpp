@@ -60,8 +60,10 @@ QCoro::Task<std::unique_ptr<AppEnvironment>> AppEnvironment::launch(Platform& pl
         try {
             auto opening = opener.run(open);
             auto opened = co_await opening;
-            auto loading = ClipStore::open(std::move(opened.database), policy, opened.recoveredFromDamage);
-            store = co_await loading;
+            if (opened) {
+                auto loading = ClipStore::open(std::move(opened->database), policy, opened->recoveredFromDamage);
+                store = co_await loading;
+            }
         } catch (const std::exception&) {
             // Whatever it was, the program runs on in memory and says so at the end of `start`.
             store.reset();

@@ -109,12 +109,9 @@ std::optional<QByteArray> PrivateBus::output(const QString& program, const QStri
     return process.readAllStandardOutput();
 }
 
-bool PrivateBus::lockKeyring() {
-    return output(QStringLiteral("gdbus"), {QStringLiteral("call"), QStringLiteral("--session"),
-                                            QStringLiteral("--dest=org.freedesktop.secrets"),
-                                            QStringLiteral("--object-path=/org/freedesktop/secrets"),
-                                            QStringLiteral("--method=org.freedesktop.Secret.Service.Lock"),
-                                            QStringLiteral("[objectpath '/org/freedesktop/secrets/aliases/default']")})
+bool PrivateBus::manageKeyring(const char* command) {
+    return output(QStringLiteral("/usr/bin/python3"),
+                  {QStringLiteral(VELLUMRY_KEYRING_SCRIPT), QString::fromLatin1(command)})
         .has_value();
 }
 

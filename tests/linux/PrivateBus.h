@@ -28,10 +28,17 @@ public:
     [[nodiscard]] std::optional<QByteArray> output(const QString& program, const QStringList& arguments,
                                                    const QByteArray& input = QByteArray());
     /// Locks the default collection.
-    [[nodiscard]] bool lockKeyring();
+    [[nodiscard]] bool lockKeyring() { return manageKeyring("lock"); }
+    /// Unlocks it without a question.
+    [[nodiscard]] bool unlockKeyring() { return manageKeyring("unlock"); }
+    /// Leaves a keyring service that has no collection, as one whose only keyring is closed.
+    [[nodiscard]] bool deleteKeyring() { return manageKeyring("delete"); }
+    /// Puts another collection beside the default one, and locks it.
+    [[nodiscard]] bool addLockedKeyring() { return manageKeyring("add-locked"); }
 
 private:
     void end(QProcess& process);
+    [[nodiscard]] bool manageKeyring(const char* command);
 
     QTemporaryDir m_folder;
     QProcess m_bus;

@@ -29,7 +29,7 @@ TEST_F(AppDelegateTest, ASecondCopyBuildsNothing) {
     EXPECT_FALSE(delegate.applicationDidFinishLaunching());
     EXPECT_EQ(delegate.environment(), nullptr);
     EXPECT_FALSE(QFile::exists(historyFile()));
-    EXPECT_FALSE(keyring.keys.load());
+    EXPECT_FALSE(keyring.keys.key());
     EXPECT_EQ(starts, 0);
 }
 

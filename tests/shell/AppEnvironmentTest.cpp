@@ -51,7 +51,7 @@ TEST_F(AppEnvironmentTest, AHistoryThatWasPutAsideIsToldOnce) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(QByteArray(10'000, 'x'));
     file.close();
-    keyring.keys.save(SymmetricKey::random());
+    (void)keyring.keys.save(SymmetricKey::random(), KeyStore::Asking::forbidden);
     launch();
     EXPECT_FALSE(environment->isMemoryOnly());
     EXPECT_TRUE(store().recoveredFromDamage());

@@ -50,12 +50,14 @@ class KeyringKeyStore : public KeyStore {
 public:
     explicit KeyringKeyStore(Keyring& keyring)
         : m_keyring(&keyring) {}
-    [[nodiscard]] std::optional<SymmetricKey> load() override {
+    [[nodiscard]] std::expected<std::optional<SymmetricKey>, KeyFailure> load(Asking asking) override {
         if (m_keyring->refuses)
-            throw CryptoError::keychain(-25'308);
-        return m_keyring->keys.load();
+            return std::unexpected(KeyFailure::locked);
+        return m_keyring->keys.load(asking);
     }
-    void save(const SymmetricKey& key) override { m_keyring->keys.save(key); }
+    [[nodiscard]] std::expected<void, KeyFailure> save(const SymmetricKey& key, Asking asking) override {
+        return m_keyring->keys.save(key, asking);
+    }
 
 private:
     Keyring* m_keyring;

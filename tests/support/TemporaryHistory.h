@@ -18,9 +18,9 @@ public:
     [[nodiscard]] QString folder() const { return m_folder.path(); }
     [[nodiscard]] QString path() const { return m_folder.filePath(historyfile::fileName); }
     [[nodiscard]] MemoryKeyStore& keyStore() { return m_keyStore; }
-    [[nodiscard]] SymmetricKey key() { return *m_keyStore.load(); }
+    [[nodiscard]] SymmetricKey key() { return *m_keyStore.key(); }
 
-    [[nodiscard]] OpenedHistory open() { return ClipDatabase::openHistory(folder(), m_keyStore); }
+    [[nodiscard]] OpenedHistory open() { return ClipDatabase::openHistory(folder(), m_keyStore).value(); }
     [[nodiscard]] std::unique_ptr<ClipStore> openStore(RetentionPolicy policy = {}) {
         const OpenedHistory history = open();
         return awaited(ClipStore::open(history.database, policy, history.recoveredFromDamage));

@@ -10,6 +10,8 @@ namespace {
 
 std::function<std::unique_ptr<VfsFile>(sqlite3_file*)> makeFile;
 sqlite3_vfs* realVfs = nullptr;
+sqlite3_vfs testVfs;
+SharedMemory shared = SharedMemory::offered;
 
 /// What SQLite gets for a file; the real one's memory follows it.
 struct Handle {
@@ -77,14 +79,19 @@ sqlite3_io_methods makeMethods() {
 }
 
 int openFile(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int* outFlags) {
-    static const sqlite3_io_methods methods = makeMethods();
+    static const sqlite3_io_methods withShared = makeMethods();
+    static const sqlite3_io_methods without = [] {
+        sqlite3_io_methods methods = makeMethods();
+        methods.iVersion = 1;
+        return methods;
+    }();
     Handle& handle = handleOf(file);
     handle.base.pMethods = nullptr;
     const int result = realVfs->xOpen(realVfs, name, handle.real(), flags, outFlags);
     if (result != SQLITE_OK)
         return result;
     handle.file = makeFile(handle.real()).release();
-    handle.base.pMethods = &methods;
+    handle.base.pMethods = shared == SharedMemory::offered ? &withShared : &without;
     return SQLITE_OK;
 }
 
@@ -113,15 +120,22 @@ int VfsFile::size(std::int64_t* size) {
     return result;
 }
 
-void installTestVfs(std::function<std::unique_ptr<VfsFile>(sqlite3_file*)> make) {
+void installTestVfs(std::function<std::unique_ptr<VfsFile>(sqlite3_file*)> make, SharedMemory sharedMemory) {
     makeFile = std::move(make);
-    realVfs = sqlite3_vfs_find(nullptr);
-    static sqlite3_vfs vfs = *realVfs;
-    vfs.zName = "torture";
-    vfs.szOsFile = static_cast<int>(sizeof(Handle)) + realVfs->szOsFile;
-    vfs.xOpen = openFile;
-    if (sqlite3_vfs_register(&vfs, 1) != SQLITE_OK)
+    shared = sharedMemory;
+    realVfs = sqlite3_vfs_find("unix");
+    testVfs = *realVfs;
+    testVfs.zName = "torture";
+    testVfs.pNext = nullptr;
+    testVfs.szOsFile = static_cast<int>(sizeof(Handle)) + realVfs->szOsFile;
+    testVfs.xOpen = openFile;
+    if (sqlite3_vfs_register(&testVfs, 1) != SQLITE_OK)
         throw std::runtime_error("SQLite takes no other layer for its files.");
+}
+
+void removeTestVfs() {
+    sqlite3_vfs_unregister(&testVfs);
+    sqlite3_vfs_register(realVfs, 1);
 }
 
 } // namespace vellumry

@@ -32,7 +32,13 @@ private:
     sqlite3_file* m_real;
 };
 
+/// What a file system offers: some on the network have no shared memory, and SQLite then writes no log ahead.
+enum class SharedMemory { offered, missing };
+
 /// From here on every connection that this process opens gets its files from `make`.
-void installTestVfs(std::function<std::unique_ptr<VfsFile>(sqlite3_file* real)> make);
+void installTestVfs(std::function<std::unique_ptr<VfsFile>(sqlite3_file* real)> make,
+                    SharedMemory sharedMemory = SharedMemory::offered);
+/// From here on the real files are back. No connection may be open.
+void removeTestVfs();
 
 } // namespace vellumry

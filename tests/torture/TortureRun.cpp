@@ -86,7 +86,7 @@ TortureRun::TortureRun(std::string program, Torture torture, unsigned seed)
     : m_program(std::move(program))
     , m_torture(torture)
     , m_random(seed) {
-    (void)ClipDatabase::openHistory(m_folder.path(), m_keyStore);
+    (void)ClipDatabase::openHistory(m_folder.path(), m_keyStore).value();
 }
 
 std::string TortureRun::round() {
@@ -102,7 +102,7 @@ void TortureRun::runWorker() {
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
 
-    const SymmetricKey key = *m_keyStore.load();
+    const SymmetricKey key = *m_keyStore.key();
     const QByteArray keyBytes(reinterpret_cast<const char*>(key.bytes().data()), SymmetricKey::byteCount);
     std::vector<std::string> words{m_program,
                                    "--work",
@@ -169,7 +169,7 @@ std::string TortureRun::examine() {
         if (!check.step() || check.text(0) != "ok")
             wrong += "integrity check: " + check.text(0).toByteArray().toStdString() + "\n";
     }
-    const OpenedHistory history = ClipDatabase::openHistory(m_folder.path(), m_keyStore);
+    const OpenedHistory history = ClipDatabase::openHistory(m_folder.path(), m_keyStore).value();
     if (history.recoveredFromDamage)
         wrong += "the file was put aside\n";
     const auto store = awaited(ClipStore::open(history.database, unlimited(), false));
@@ -191,9 +191,8 @@ int TortureRun::work(int count, char** arguments) {
     if (torture == Torture::power)
         installTestVfs([&](sqlite3_file* real) { return powerless.open(real); });
 
-    MemoryKeyStore keyStore;
-    keyStore.save(SymmetricKey(QByteArray::fromHex(arguments[3])));
-    const OpenedHistory history = ClipDatabase::openHistory(QString::fromUtf8(arguments[2]), keyStore);
+    MemoryKeyStore keyStore(SymmetricKey(QByteArray::fromHex(arguments[3])));
+    const OpenedHistory history = ClipDatabase::openHistory(QString::fromUtf8(arguments[2]), keyStore).value();
     const auto store = awaited(ClipStore::open(history.database, unlimited(), false));
     failing.setFailing(true);
     TortureWork work(*store, torture == Torture::disk ? &failing : nullptr,

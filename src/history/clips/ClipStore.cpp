@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/clips/ClipStore.h"
 
+#include "foundation/CryptoError.h"
 #include "history/clips/ClipOfDraft.h"
 #include "history/clips/ClipStorePrivate.h"
 #include "history/file/Attempts.h"

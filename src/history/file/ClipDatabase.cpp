@@ -6,6 +6,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <filesystem>
+#include <sqlite3.h>
 
 namespace vellumry {
 
@@ -40,25 +42,63 @@ void overwriteWorkingSpace(SQLiteDatabase& database) {
 
 } // namespace
 
-OpenedHistory ClipDatabase::openHistory(const QString& folder, KeyStore& keyStore) {
-    ClipCrypto::selfTest();
-    const QString path = QDir(folder).filePath(historyfile::fileName);
-    bool putAside = false;
-    std::optional<SymmetricKey> key = keyStore.load();
-    if (!key) {
-        // Whatever lies there was sealed with a key that is gone.
-        if (QFile::exists(path)) {
-            historyfile::moveAside(path, currentDate());
-            putAside = true;
-        }
-        key = SymmetricKey::random();
-        keyStore.save(*key);
-    }
-    if (QFile::exists(path) && !historyfile::isReadable(path, *key)) {
+namespace {
+
+/// The key of the history at `path`, made when there is none. The file goes aside after the new key is kept and not
+/// before: without its key it cannot be read, but a key that turns up again opens it.
+std::expected<SymmetricKey, HistoryFailure> keyFor(const QString& path, KeyStore& keyStore, KeyStore::Asking asking,
+                                                   bool& putAside) {
+    const bool hasFile = QFile::exists(path);
+    auto loaded = keyStore.load(asking);
+    // Where nothing was ever kept, no key is missed.
+    const bool isFirstStart = !loaded && loaded.error() == KeyFailure::uncertain && !hasFile;
+    if (!loaded && !isFirstStart)
+        return std::unexpected(historyFailureOf(loaded.error()));
+    if (loaded && *loaded)
+        return **loaded;
+    const SymmetricKey key = SymmetricKey::random();
+    if (const auto saved = keyStore.save(key, asking); !saved)
+        return std::unexpected(historyFailureOf(saved.error()));
+    if (hasFile) {
         historyfile::moveAside(path, currentDate());
         putAside = true;
     }
-    return {std::make_shared<ClipDatabase>(path, ClipCrypto(*std::move(key))), putAside};
+    return key;
+}
+
+OpenedHistory opened(const QString& path, const ClipCrypto& crypto, bool putAside) {
+    try {
+        return {std::make_shared<ClipDatabase>(path, crypto), putAside};
+    } catch (const SQLiteError& error) {
+        // The check looks at less than the work.
+        if (!historyfile::isDamage(error))
+            throw;
+    }
+    historyfile::moveAside(path, currentDate());
+    return {std::make_shared<ClipDatabase>(path, crypto), true};
+}
+
+} // namespace
+
+std::expected<OpenedHistory, HistoryFailure> ClipDatabase::openHistory(const QString& folder, KeyStore& keyStore,
+                                                                       KeyStore::Asking asking) {
+    ClipCrypto::selfTest();
+    const QString path = QDir(folder).filePath(historyfile::fileName);
+    try {
+        bool putAside = false;
+        auto key = keyFor(path, keyStore, asking, putAside);
+        if (!key)
+            return std::unexpected(key.error());
+        if (QFile::exists(path) && !historyfile::isReadable(path, *key)) {
+            historyfile::moveAside(path, currentDate());
+            putAside = true;
+        }
+        return opened(path, ClipCrypto(*std::move(key)), putAside);
+    } catch (const SQLiteError& error) {
+        return std::unexpected(historyFailureOf(error, path));
+    } catch (const std::filesystem::filesystem_error& error) {
+        return std::unexpected(historyFailureOf(error.code()));
+    }
 }
 
 ClipDatabase::ClipDatabase(const QString& path, ClipCrypto crypto)
@@ -122,7 +162,9 @@ QCoro::Task<void> ClipDatabase::reclaimSpace() {
     return onExecutor<void>([](SQLiteDatabase& sqlite) {
         overwriteWorkingSpace(sqlite);
         sqlite.execute("PRAGMA incremental_vacuum;");
-        sqlite.execute("PRAGMA wal_checkpoint(TRUNCATE);");
+        auto checkpoint = sqlite.prepare("PRAGMA wal_checkpoint(TRUNCATE);");
+        if (checkpoint.step() && checkpoint.integer(0) != 0)
+            throw SQLiteError(SQLiteError::Case::step, SQLITE_BUSY, "a reader keeps the write-ahead log");
     });
 }
 

@@ -4,10 +4,12 @@
 #include "foundation/SerialExecutor.h"
 #include "history/clips/Clip.h"
 #include "history/file/ClipCrypto.h"
+#include "history/file/HistoryFailure.h"
 #include "history/file/SQLiteDatabase.h"
 #include "platform/desktop/KeyStore.h"
 
 #include <QCoroTask>
+#include <expected>
 #include <functional>
 #include <memory>
 
@@ -24,10 +26,11 @@ struct OpenedHistory;
 class ClipDatabase {
 public:
     /// Opens "History.sqlite" in `folder`, which must exist, making the key and the file where there are none. A file
-    /// that this key does not open, or that is damaged, is put aside as a backup and a new one begun. Throws what the
-    /// key store throws (the file is then untouched), SQLiteError, CryptoError, std::filesystem::filesystem_error. Any
-    /// thread; reads the whole file once, so better not the main one.
-    [[nodiscard]] static OpenedHistory openHistory(const QString& folder, KeyStore& keyStore);
+    /// that this key does not open, or that is damaged, is put aside as a backup and a new one begun; a file that
+    /// cannot be looked at for any other reason, or whose key cannot be had, stays where it is. Throws CryptoError
+    /// where encryption itself does not work. Any thread; reads the whole file once, so better not the main one.
+    [[nodiscard]] static std::expected<OpenedHistory, HistoryFailure>
+    openHistory(const QString& folder, KeyStore& keyStore, KeyStore::Asking asking = KeyStore::Asking::allowed);
 
     /// The file at `path` with a key that is known to fit. Blocking; any thread.
     ClipDatabase(const QString& path, ClipCrypto crypto);
@@ -52,7 +55,8 @@ public:
     /// As `deleteAll`, for so many that listing them takes a while: `ids` is asked, and let go, on the history's own
     /// thread.
     [[nodiscard]] QCoro::Task<void> deleteAllOf(std::function<std::vector<QUuid>()> ids);
-    /// Gives freed pages back and empties the write-ahead log, so that nothing deleted is left in either.
+    /// Gives freed pages back and empties the write-ahead log, so that nothing deleted is left in either. Throws
+    /// SQLiteError as long as another connection reads what is in the log.
     [[nodiscard]] QCoro::Task<void> reclaimSpace();
 
 private:

@@ -55,6 +55,11 @@ void createTable(SQLiteDatabase& database) {
                      "CREATE INDEX IF NOT EXISTS clips_used ON clips(used);");
 }
 
+void requireColumns(SQLiteDatabase& database) {
+    (void)database.prepare(
+        "SELECT id, kind, created, used, pinned, expires, fingerprint, size, meta, payload FROM clips;");
+}
+
 std::vector<ClipRef> readAll(SQLiteDatabase& database, const ClipCrypto& crypto) {
     auto rows = database.prepare(
         "SELECT id, kind, created, used, pinned, expires, fingerprint, size, meta FROM clips ORDER BY used DESC;");

@@ -12,6 +12,9 @@ namespace vellumry::cliprows {
 /// Makes the table and its index when they are missing.
 void createTable(SQLiteDatabase& database);
 
+/// Throws SQLiteError, of the case `prepare`, when a table of that name lacks one of our columns.
+void requireColumns(SQLiteDatabase& database);
+
 /// Every clip that can be read, latest first. A row with a strange id or kind, one that this key does not open and one
 /// whose meta is not a meta are passed over: they are neither reported nor removed.
 [[nodiscard]] std::vector<ClipRef> readAll(SQLiteDatabase& database, const ClipCrypto& crypto);

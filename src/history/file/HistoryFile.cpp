@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/file/HistoryFile.h"
 
+#include "history/file/ClipRows.h"
 #include "history/file/SQLiteDatabase.h"
 #include "history/file/Unsealer.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <filesystem>
-#include <optional>
+#include <sqlite3.h>
 #include <sys/stat.h>
+#include <utility>
+#include <vector>
 
 namespace vellumry::historyfile {
 
@@ -20,48 +25,76 @@ QByteArray encodedCompanion(const QString& path, const char* suffix) {
     return QFile::encodeName(path) + suffix;
 }
 
+/// What the check could not read is not thereby damaged: of a page that the disk refused it says so among the faults,
+/// in these words, and goes on.
+bool couldNotRead(const QByteArray& finding) {
+    static const QRegularExpression errorCode(QStringLiteral("error code=(\\d+)"));
+    if (finding.contains("failed to get page"))
+        return true;
+    auto codes = errorCode.globalMatch(QString::fromUtf8(finding));
+    while (codes.hasNext()) {
+        if ((codes.next().captured(1).toInt() & 0xff) != SQLITE_CORRUPT)
+            return true;
+    }
+    return false;
+}
+
 bool passesQuickCheck(SQLiteDatabase& database) {
     auto check = database.prepare("PRAGMA quick_check;");
-    return check.step() && check.text(0) == "ok";
+    QByteArray findings;
+    while (check.step())
+        findings += check.text(0).toByteArray() + '\n';
+    if (couldNotRead(findings))
+        throw SQLiteError(SQLiteError::Case::step, SQLITE_IOERR_READ, "a page cannot be read");
+    return findings == "ok\n";
 }
 
-/// A file whose table of contents cannot be asked is treated as one without clips; what else is wrong with it shows
-/// when the database is made.
-bool mayHaveClips(SQLiteDatabase& database) {
-    try {
-        auto table = database.prepare("SELECT name FROM sqlite_master WHERE type='table' AND name='clips';");
-        return table.step();
-    } catch (const SQLiteError&) {
-        return false;
-    }
+bool hasClipsTable(SQLiteDatabase& database) {
+    auto table = database.prepare("SELECT name FROM sqlite_master WHERE type='table' AND name='clips';");
+    return table.step();
 }
 
-/// The test of the key: a sound file that was sealed with another key has no row among its latest five that opens.
-bool latestClipsOpen(SQLiteDatabase& database, const SymmetricKey& key) {
-    auto latest = database.prepare("SELECT meta FROM clips ORDER BY used DESC LIMIT 5;");
-    try {
-        if (!latest.step())
-            return true;
-    } catch (const SQLiteError&) {
+/// The test of the key: a sound file that was sealed with another key has no row that opens. The first one that does
+/// ends the search, as a rule the latest.
+bool anyClipOpens(SQLiteDatabase& database, const SymmetricKey& key) {
+    auto metas = database.prepare("SELECT meta FROM clips ORDER BY used DESC;");
+    if (!metas.step())
         return true;
-    }
     Unsealer unsealer(key);
     do {
-        if (unsealer.open(latest.blob(0)))
+        if (unsealer.open(metas.blob(0)))
             return true;
-    } while (latest.step());
+    } while (metas.step());
     return false;
+}
+
+bool isSound(const QString& path, const SymmetricKey& key) {
+    // A journal can be played back by a connection only that may write.
+    const bool hasJournal = QFile::exists(QFile::decodeName(encodedCompanion(path, "-journal")));
+    try {
+        SQLiteDatabase database(path, hasJournal ? SQLiteDatabase::Access::recover : SQLiteDatabase::Access::readOnly);
+        if (!passesQuickCheck(database))
+            return false;
+        if (!hasClipsTable(database))
+            return true;
+        cliprows::requireColumns(database);
+        return anyClipOpens(database, key);
+    } catch (const SQLiteError& error) {
+        if (isDamage(error))
+            return false;
+        throw;
+    }
 }
 
 } // namespace
 
+bool isDamage(const SQLiteError& error) {
+    const bool isForeignTable = error.code() == SQLITE_ERROR && error.kind() == SQLiteError::Case::prepare;
+    return error.code() == SQLITE_CORRUPT || error.code() == SQLITE_NOTADB || isForeignTable;
+}
+
 bool isReadable(const QString& path, const SymmetricKey& key) {
-    try {
-        SQLiteDatabase database(path, SQLiteDatabase::Access::readOnly);
-        return passesQuickCheck(database) && (!mayHaveClips(database) || latestClipsOpen(database, key));
-    } catch (const SQLiteError&) {
-        return false;
-    }
+    return isSound(path, key) || isSound(path, key);
 }
 
 void moveAside(const QString& path, Date now) {
@@ -69,16 +102,35 @@ void moveAside(const QString& path, Date now) {
     const QString stamp = QDateTime::fromSecsSinceEpoch(seconds).toUTC().toString(Qt::ISODate).replace(u':', u'-');
     const fs::path folder = fs::path(QFile::encodeName(path).toStdString()).parent_path();
     const std::string backup = "History-unreadable-" + stamp.toStdString() + ".sqlite";
-    for (const char* suffix : companionSuffixes) {
-        const fs::path from(encodedCompanion(path, suffix).toStdString());
-        const fs::path to = folder / (backup + suffix);
-        if (!fs::exists(from))
-            continue;
-        if (fs::exists(to))
-            throw fs::filesystem_error("Couldn't put the history file aside", from, to,
-                                       std::make_error_code(std::errc::file_exists));
-        fs::rename(from, to);
+    std::vector<std::pair<fs::path, fs::path>> moved;
+    try {
+        for (const char* suffix : companionSuffixes) {
+            const fs::path from(encodedCompanion(path, suffix).toStdString());
+            const fs::path to = folder / (backup + suffix);
+            if (!fs::exists(from))
+                continue;
+            if (fs::exists(to))
+                throw fs::filesystem_error("Couldn't put the history file aside", from, to,
+                                           std::make_error_code(std::errc::file_exists));
+            fs::rename(from, to);
+            moved.emplace_back(from, to);
+        }
+    } catch (...) {
+        // A file that is parted from its log has lost what is in the log.
+        for (const auto& [from, to] : moved) {
+            std::error_code ignored;
+            fs::rename(to, from, ignored);
+        }
+        throw;
     }
+}
+
+QStringList backups(const QString& folder) {
+    QStringList paths;
+    for (const QString& name :
+         QDir(folder).entryList({QStringLiteral("History-unreadable-*.sqlite")}, QDir::Files, QDir::Name))
+        paths.append(QDir(folder).filePath(name));
+    return paths;
 }
 
 void restrictToUser(const QString& path) {

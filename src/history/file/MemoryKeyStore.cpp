@@ -3,14 +3,21 @@
 
 namespace vellumry {
 
-std::optional<SymmetricKey> MemoryKeyStore::load() {
-    const std::lock_guard guard(m_lock);
-    return m_key;
+std::expected<std::optional<SymmetricKey>, KeyFailure> MemoryKeyStore::load(Asking) {
+    return key();
 }
 
-void MemoryKeyStore::save(const SymmetricKey& key) {
+std::expected<void, KeyFailure> MemoryKeyStore::save(const SymmetricKey& key, Asking) {
     const std::lock_guard guard(m_lock);
+    if (m_key)
+        return std::unexpected(KeyFailure::refused);
     m_key = key;
+    return {};
+}
+
+std::optional<SymmetricKey> MemoryKeyStore::key() {
+    const std::lock_guard guard(m_lock);
+    return m_key;
 }
 
 } // namespace vellumry

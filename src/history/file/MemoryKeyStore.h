@@ -10,8 +10,13 @@ namespace vellumry {
 /// A key store that lasts as long as itself. Any thread.
 class MemoryKeyStore : public KeyStore {
 public:
-    [[nodiscard]] std::optional<SymmetricKey> load() override;
-    void save(const SymmetricKey& key) override;
+    MemoryKeyStore() = default;
+    explicit MemoryKeyStore(const SymmetricKey& key)
+        : m_key(key) {}
+    [[nodiscard]] std::expected<std::optional<SymmetricKey>, KeyFailure> load(Asking asking) override;
+    [[nodiscard]] std::expected<void, KeyFailure> save(const SymmetricKey& key, Asking asking) override;
+    /// What was saved.
+    [[nodiscard]] std::optional<SymmetricKey> key();
 
 private:
     std::mutex m_lock;

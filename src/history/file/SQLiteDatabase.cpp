@@ -7,30 +7,52 @@
 
 namespace vellumry {
 
+namespace {
+
+constexpr int busyMilliseconds = 250;
+
+int flagsOf(SQLiteDatabase::Access access) {
+    switch (access) {
+    case SQLiteDatabase::Access::readOnly:
+        return SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX;
+    case SQLiteDatabase::Access::recover:
+        return SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+    case SQLiteDatabase::Access::readWrite:
+        break;
+    }
+    return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
+}
+
+} // namespace
+
 SQLiteDatabase::SQLiteDatabase(const QString& path, Access access) {
-    const int flags = access == Access::readOnly ? SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX
-                                                 : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
-    const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle, flags, nullptr);
-    if (result != SQLITE_OK || !m_handle) {
-        const SQLiteError failure = m_handle ? error(SQLiteError::Case::open)
-                                             : SQLiteError(SQLiteError::Case::open, "code " + std::to_string(result));
-        close();
-        throw failure;
-    }
-    if (access == Access::readOnly)
-        return;
-    // SQLite opens what it may not write for reading, without a word; every change would then be lost.
-    if (sqlite3_db_readonly(m_handle, "main") == 1) {
-        close();
-        throw SQLiteError(SQLiteError::Case::open, "attempt to write a readonly database");
-    }
     try {
-        execute("PRAGMA journal_mode=WAL;");
-        execute("PRAGMA secure_delete = ON;");
+        open(path, access);
+        if (access == Access::readWrite)
+            prepareForWriting();
     } catch (...) {
         close();
         throw;
     }
+}
+
+void SQLiteDatabase::open(const QString& path, Access access) {
+    const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle, flagsOf(access), nullptr);
+    if (!m_handle)
+        throw SQLiteError(SQLiteError::Case::open, result, "code " + std::to_string(result));
+    sqlite3_extended_result_codes(m_handle, 1);
+    if (result != SQLITE_OK)
+        throw error(SQLiteError::Case::open);
+    sqlite3_busy_timeout(m_handle, busyMilliseconds);
+    // SQLite opens what it may not write for reading, without a word; every change would then be lost.
+    if (access != Access::readOnly && sqlite3_db_readonly(m_handle, "main") == 1)
+        throw SQLiteError(SQLiteError::Case::open, SQLITE_READONLY, "attempt to write a readonly database");
+}
+
+void SQLiteDatabase::prepareForWriting() {
+    // Some network file systems have no shared memory: the answer is then another mode, which does as well.
+    execute("PRAGMA journal_mode=WAL;");
+    execute("PRAGMA secure_delete = ON;");
 }
 
 SQLiteDatabase::~SQLiteDatabase() {
@@ -46,10 +68,8 @@ void SQLiteDatabase::execute(const char* sql) {
     char* message = nullptr;
     if (sqlite3_exec(m_handle, sql, nullptr, nullptr, &message) == SQLITE_OK)
         return;
-    const SQLiteError failure =
-        message ? SQLiteError(SQLiteError::Case::step, message) : error(SQLiteError::Case::step);
     sqlite3_free(message);
-    throw failure;
+    throw error(SQLiteError::Case::step);
 }
 
 SQLiteDatabase::Statement SQLiteDatabase::prepare(const char* sql) {
@@ -60,7 +80,9 @@ SQLiteDatabase::Statement SQLiteDatabase::prepare(const char* sql) {
 }
 
 SQLiteError SQLiteDatabase::error(SQLiteError::Case kind) const {
-    return {kind, m_handle ? sqlite3_errmsg(m_handle) : "closed"};
+    if (!m_handle)
+        return {kind, SQLITE_MISUSE, "closed"};
+    return {kind, sqlite3_extended_errcode(m_handle), sqlite3_errmsg(m_handle), sqlite3_system_errno(m_handle)};
 }
 
 SQLiteDatabase::Statement::Statement(Statement&& other) noexcept

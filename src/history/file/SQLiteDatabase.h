@@ -17,7 +17,11 @@ namespace vellumry {
 /// its statements, which the owner guarantees. Every operation throws `SQLiteError`.
 class SQLiteDatabase {
 public:
-    enum class Access { readOnly, readWrite };
+    enum class Access {
+        readOnly,  ///< changes nothing in the file
+        recover,   ///< of an existing file: plays back what a power cut left unfinished, and changes nothing else
+        readWrite, ///< makes the file when it is missing, writes ahead and overwrites deleted content with zeros
+    };
 
     /// A prepared statement, used once. Must go before its connection.
     class Statement {
@@ -49,8 +53,8 @@ public:
         sqlite3_stmt* m_pointer;
     };
 
-    /// A read-only connection changes nothing in the file. A writable one makes the file when it is missing, and writes
-    /// ahead (WAL) and overwrites deleted content with zeros (`secure_delete`).
+    /// A writable connection keeps its changes in a rollback journal where the file system refuses a write-ahead log.
+    /// A lock of another process is waited for during a quarter of a second.
     SQLiteDatabase(const QString& path, Access access);
     ~SQLiteDatabase();
     SQLiteDatabase(const SQLiteDatabase&) = delete;
@@ -62,6 +66,8 @@ public:
 
 private:
     [[nodiscard]] SQLiteError error(SQLiteError::Case kind) const;
+    void open(const QString& path, Access access);
+    void prepareForWriting();
     void close();
     sqlite3* m_handle = nullptr;
 };

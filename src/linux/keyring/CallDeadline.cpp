@@ -3,10 +3,10 @@
 
 namespace vellumry {
 
-CallDeadline::CallDeadline(std::chrono::milliseconds limit) {
-    m_watch = std::thread([this, limit] {
+CallDeadline::CallDeadline(std::chrono::milliseconds limit, std::stop_token stop) {
+    m_watch = std::thread([this, limit, stop = std::move(stop)] {
         std::unique_lock lock(m_mutex);
-        if (!m_changed.wait_for(lock, limit, [this] { return m_isOver; }))
+        if (!m_changed.wait_for(lock, stop, limit, [this] { return m_isOver; }))
             g_cancellable_cancel(m_cancellable.get());
     });
 }

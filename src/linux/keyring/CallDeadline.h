@@ -7,15 +7,16 @@
 #include <condition_variable>
 #include <gio/gio.h>
 #include <mutex>
+#include <stop_token>
 #include <thread>
 
 namespace vellumry {
 
-/// Cancels blocking GIO calls that take longer than allowed. Lives on the stack around the calls that are given
-/// `cancellable()`; one thread makes the calls, a second one watches the time.
+/// Cancels blocking GIO calls that take longer than allowed, or that nobody waits for any more. Lives on the stack
+/// around the calls that are given `cancellable()`; one thread makes the calls, a second one watches the time.
 class CallDeadline {
 public:
-    explicit CallDeadline(std::chrono::milliseconds limit);
+    explicit CallDeadline(std::chrono::milliseconds limit, std::stop_token stop = {});
     CallDeadline(const CallDeadline&) = delete;
     CallDeadline& operator=(const CallDeadline&) = delete;
     /// Ends the watch; what was not cancelled until then never will be.
@@ -27,7 +28,7 @@ public:
 private:
     GObjectPointer<GCancellable> m_cancellable{g_cancellable_new()};
     std::mutex m_mutex;
-    std::condition_variable m_changed;
+    std::condition_variable_any m_changed;
     bool m_isOver = false;
     std::thread m_watch;
 };

@@ -42,19 +42,15 @@ Attributes attributesOf(const QByteArray& service, const QByteArray& account) {
         secret_attributes_build(&keySchema, "service", service.constData(), "account", account.constData(), nullptr));
 }
 
-[[noreturn]] void fail(const GErrorReceiver& error) {
-    if (error.is(SECRET_ERROR, SECRET_ERROR_IS_LOCKED))
-        throw CryptoError::keychain(KeychainKeyStore::interactionNotAllowed);
-    throw CryptoError::keychain(KeychainKeyStore::notAvailable);
-}
-
 } // namespace
 
-SecretServiceSession::SecretServiceSession(QByteArray service, QByteArray account, KeychainKeyStore::Patience patience)
-    : m_serviceAttribute(std::move(service))
-    , m_accountAttribute(std::move(account))
-    , m_patience(patience) {
-    const CallDeadline deadline(m_patience.answer);
+SecretServiceSession::SecretServiceSession(Item item, KeyStore::Asking asking, KeychainKeyStore::Patience patience,
+                                           std::stop_token stop)
+    : m_item(std::move(item))
+    , m_asking(asking)
+    , m_patience(patience)
+    , m_stop(std::move(stop)) {
+    const CallDeadline deadline(m_patience.answer, m_stop);
     GErrorReceiver error;
     m_bus.reset(g_bus_get_sync(G_BUS_TYPE_SESSION, deadline.cancellable(), error.receive()));
     if (!m_bus)
@@ -67,10 +63,23 @@ SecretServiceSession::SecretServiceSession(QByteArray service, QByteArray accoun
         fail(error);
 }
 
+void SecretServiceSession::fail(const GErrorReceiver& error) const {
+    if (error.is(SECRET_ERROR, SECRET_ERROR_IS_LOCKED))
+        throw SecretServiceError{KeyFailure::locked};
+    if (error.is(G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED))
+        throw SecretServiceError{KeyFailure::refused};
+    throw SecretServiceError{KeyFailure::absent};
+}
+
+void SecretServiceSession::requireAsking(KeyFailure otherwise) const {
+    if (m_asking == KeyStore::Asking::forbidden)
+        throw SecretServiceError{otherwise};
+}
+
 SecretServiceSession::Items SecretServiceSession::findItems() {
-    const CallDeadline deadline(m_patience.answer);
+    const CallDeadline deadline(m_patience.answer, m_stop);
     GErrorReceiver error;
-    const Attributes attributes = attributesOf(m_serviceAttribute, m_accountAttribute);
+    const Attributes attributes = attributesOf(m_item.service, m_item.account);
     GList* found = secret_service_search_sync(m_service.get(), &keySchema, attributes.get(), SECRET_SEARCH_ALL,
                                               deadline.cancellable(), error.receive());
     Items items;
@@ -86,7 +95,7 @@ SecretServiceSession::Items SecretServiceSession::findItems() {
 }
 
 GObjectPointer<SecretCollection> SecretServiceSession::defaultCollection() {
-    const CallDeadline deadline(m_patience.answer);
+    const CallDeadline deadline(m_patience.answer, m_stop);
     GErrorReceiver error;
     GObjectPointer<SecretCollection> collection(secret_collection_for_alias_sync(
         m_service.get(), defaultAlias, SECRET_COLLECTION_NONE, deadline.cancellable(), error.receive()));
@@ -96,7 +105,7 @@ GObjectPointer<SecretCollection> SecretServiceSession::defaultCollection() {
 }
 
 bool SecretServiceSession::isAnyCollectionLocked() {
-    const CallDeadline deadline(m_patience.answer);
+    const CallDeadline deadline(m_patience.answer, m_stop);
     GErrorReceiver error;
     if (!secret_service_load_collections_sync(m_service.get(), deadline.cancellable(), error.receive()))
         fail(error);
@@ -108,60 +117,60 @@ bool SecretServiceSession::isAnyCollectionLocked() {
     return isLocked;
 }
 
-bool SecretServiceSession::isDefaultCollectionUnlocked() {
-    if (const auto collection = defaultCollection())
-        return !secret_collection_get_locked(collection.get());
-    // Without a default the key may lie in any collection, so that all of them have to be open.
-    return !isAnyCollectionLocked();
+bool SecretServiceSession::isDefaultCollectionLocked() {
+    const auto collection = defaultCollection();
+    return collection && secret_collection_get_locked(collection.get());
+}
+
+bool SecretServiceSession::isEverythingOpen() {
+    return defaultCollection() && !isAnyCollectionLocked();
 }
 
 void SecretServiceSession::unlockDefaultCollection() {
     const auto collection = defaultCollection();
     if (!collection)
-        throw CryptoError::keychain(KeychainKeyStore::interactionNotAllowed);
+        throw SecretServiceError{KeyFailure::locked};
     unlock(collection.get());
 }
 
 void SecretServiceSession::unlock(gpointer object) {
-    const CallDeadline deadline(m_patience.unlock);
+    requireAsking(KeyFailure::locked);
+    const CallDeadline deadline(m_patience.unlock, m_stop);
     GErrorReceiver error;
     GList objects{object, nullptr, nullptr};
     GList* unlocked = nullptr;
     const int count =
         secret_service_unlock_sync(m_service.get(), &objects, deadline.cancellable(), &unlocked, error.receive());
     g_list_free_full(unlocked, g_object_unref);
-    if (deadline.hasPassed())
-        throw CryptoError::keychain(KeychainKeyStore::userCanceled);
-    if (error)
-        throw CryptoError::keychain(KeychainKeyStore::interactionNotAllowed);
-    if (count < 1)
-        throw CryptoError::keychain(KeychainKeyStore::userCanceled);
+    if (deadline.hasPassed() || error || count < 1)
+        throw SecretServiceError{KeyFailure::locked};
 }
 
 SecureBytes SecretServiceSession::secretOf(SecretItem* item) {
     if (secret_item_get_locked(item))
         unlock(item);
-    const CallDeadline deadline(m_patience.answer);
+    const CallDeadline deadline(m_patience.answer, m_stop);
     GErrorReceiver error;
     if (!secret_item_load_secret_sync(item, deadline.cancellable(), error.receive()))
         fail(error);
     const Secret secret(secret_item_get_secret(item));
     if (!secret)
-        throw CryptoError::keychain(KeychainKeyStore::interactionNotAllowed);
+        throw SecretServiceError{KeyFailure::locked};
     gsize length = 0;
     const char* bytes = secret_value_get(secret.get(), &length);
     return SecureBytes(QByteArrayView(bytes, static_cast<qsizetype>(length)));
 }
 
 GObjectPointer<SecretCollection> SecretServiceSession::makeDefaultCollection() {
-    const CallDeadline deadline(m_patience.unlock);
+    requireAsking(KeyFailure::uncertain);
+    const CallDeadline deadline(m_patience.unlock, m_stop);
     GErrorReceiver error;
     const QByteArray label = localised("Default keyring").toUtf8();
     GObjectPointer<SecretCollection> collection(
         secret_collection_create_sync(m_service.get(), label.constData(), defaultAlias, SECRET_COLLECTION_CREATE_NONE,
                                       deadline.cancellable(), error.receive()));
     if (!collection)
-        throw CryptoError::keychain(KeychainKeyStore::userCanceled);
+        throw SecretServiceError{KeyFailure::refused};
     return collection;
 }
 
@@ -172,9 +181,9 @@ void SecretServiceSession::addItem(const char* label, std::span<const unsigned c
     if (secret_collection_get_locked(collection.get()))
         unlock(collection.get());
 
-    const CallDeadline deadline(m_patience.unlock);
+    const CallDeadline deadline(m_patience.unlock, m_stop);
     GErrorReceiver error;
-    const Attributes attributes = attributesOf(m_serviceAttribute, m_accountAttribute);
+    const Attributes attributes = attributesOf(m_item.service, m_item.account);
     const Secret value(secret_value_new(reinterpret_cast<const char*>(secret.data()),
                                         static_cast<gssize>(secret.size()), contentType));
     const GObjectPointer<SecretItem> item(secret_item_create_sync(collection.get(), &keySchema, attributes.get(), label,

@@ -157,7 +157,7 @@ TEST_F(ClipStorePersistence, AStoreMayGoWhileItsWorkIsUnderWay) {
 TEST_F(ClipStorePersistence, RemembersThatAnEarlierHistoryWasPutAside) {
     m_store = nullptr;
     MemoryKeyStore other;
-    const OpenedHistory history = ClipDatabase::openHistory(m_history.folder(), other);
+    const OpenedHistory history = ClipDatabase::openHistory(m_history.folder(), other).value();
     m_store = awaited(ClipStore::open(history.database, {}, history.recoveredFromDamage));
     EXPECT_TRUE(m_store->recoveredFromDamage());
     m_store->setRecoveredFromDamage(false);

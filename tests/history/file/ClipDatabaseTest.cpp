@@ -225,6 +225,22 @@ TEST_F(ClipDatabaseTest, ReclaimingLeavesNothingOfADeletedRow) {
     EXPECT_EQ(QFile(m_history.path() + u"-wal"_s).size(), 0);
 }
 
+TEST_F(ClipDatabaseTest, AReaderThatKeepsTheLogIsReported) {
+    const auto database = m_history.open().database;
+    const ClipRef clip = someClip(1);
+    insert(*database, clip);
+    SQLiteDatabase other(m_history.path(), SQLiteDatabase::Access::readOnly);
+    {
+        auto reading = other.prepare("SELECT id FROM clips;");
+        ASSERT_TRUE(reading.step());
+        awaited(database->deleteAll({clip->id}));
+        EXPECT_THROW(awaited(database->reclaimSpace()), SQLiteError);
+        EXPECT_GT(QFile(m_history.path() + u"-wal"_s).size(), 0);
+    }
+    awaited(database->reclaimSpace());
+    EXPECT_EQ(QFile(m_history.path() + u"-wal"_s).size(), 0);
+}
+
 TEST_F(ClipDatabaseTest, OperationsRunInTheOrderOfTheirCalls) {
     const auto database = m_history.open().database;
     const ClipRef clip = someClip(1);

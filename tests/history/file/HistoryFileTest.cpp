@@ -53,13 +53,12 @@ TEST_F(HistoryFileTest, AHistoryIsReadableWithItsKeyOnly) {
     EXPECT_FALSE(isReadable(path(), m_otherKey));
 }
 
-TEST_F(HistoryFileTest, OneOfTheLatestFiveIsEnough) {
-    makeHistory({m_key, m_otherKey, m_otherKey, m_otherKey, m_otherKey});
+TEST_F(HistoryFileTest, AnyRowThatOpensIsEnoughHoweverOld) {
+    std::vector<SymmetricKey> keys(40, m_otherKey);
+    keys[20] = m_key;
+    makeHistory(keys);
     EXPECT_TRUE(isReadable(path(), m_key));
-}
-
-TEST_F(HistoryFileTest, TheSixthLatestDoesNotCount) {
-    makeHistory({m_key, m_otherKey, m_otherKey, m_otherKey, m_otherKey, m_otherKey});
+    execute("DELETE FROM clips WHERE used = 21;");
     EXPECT_FALSE(isReadable(path(), m_key));
 }
 
@@ -91,8 +90,12 @@ TEST_F(HistoryFileTest, ATableOfThatNameWithOtherColumnsIsNotReadable) {
     EXPECT_FALSE(isReadable(path(), m_key));
 }
 
-TEST_F(HistoryFileTest, AMissingFileAndRandomBytesAreNotReadable) {
+TEST_F(HistoryFileTest, ATableThatLacksOneOfOurColumnsIsNotReadable) {
+    execute("CREATE TABLE clips (id, kind, created, used, pinned, expires, fingerprint, size, meta);");
     EXPECT_FALSE(isReadable(path(), m_key));
+}
+
+TEST_F(HistoryFileTest, RandomBytesAreNotReadable) {
     write(path(), QByteArray(10'000, '\x5a'));
     EXPECT_FALSE(isReadable(path(), m_key));
 }
@@ -114,6 +117,10 @@ TEST_F(HistoryFileTest, ADamagedPageIsNotReadable) {
     EXPECT_FALSE(isReadable(path(), m_key));
 }
 
+TEST_F(HistoryFileTest, AFileThatCannotBeOpenedIsNotCalledDamaged) {
+    EXPECT_THROW((void)isReadable(path(), m_key), SQLiteError);
+}
+
 TEST_F(HistoryFileTest, LookingChangesNothing) {
     makeHistory({m_key});
     const QByteArray before = read(path());
@@ -125,13 +132,25 @@ TEST_F(HistoryFileTest, MovingAsideKeepsTheCompanionsTogether) {
     write(path(), "main");
     write(path("-wal"), "log");
     write(path("-shm"), "index");
+    write(path("-journal"), "journal");
     historyfile::moveAside(path(), 1'794'775'055.9);
     const QString stem = m_history.folder() + u"/History-unreadable-2026-11-15T20-37-35Z.sqlite"_s;
     EXPECT_EQ(read(stem), "main");
     EXPECT_EQ(read(stem + u"-wal"_s), "log");
     EXPECT_EQ(read(stem + u"-shm"_s), "index");
+    EXPECT_EQ(read(stem + u"-journal"_s), "journal");
     EXPECT_FALSE(QFile::exists(path()));
     EXPECT_FALSE(QFile::exists(path("-wal")));
+    EXPECT_EQ(historyfile::backups(m_history.folder()), QStringList(stem));
+}
+
+TEST_F(HistoryFileTest, AFileIsNeverPartedFromItsLog) {
+    write(path(), "main");
+    write(path("-wal"), "log");
+    write(m_history.folder() + u"/History-unreadable-1970-01-01T00-00-05Z.sqlite-wal"_s, "in the way");
+    EXPECT_THROW(historyfile::moveAside(path(), 5), std::filesystem::filesystem_error);
+    EXPECT_EQ(read(path()), "main");
+    EXPECT_EQ(read(path("-wal")), "log");
 }
 
 TEST_F(HistoryFileTest, MovingAsideNeverOverwritesABackup) {

@@ -21,7 +21,7 @@ protected:
         QByteArray key;
         for (int i = 0; i < 32; ++i)
             key.append(static_cast<char>(i));
-        m_history.keyStore().save(SymmetricKey(key));
+        (void)m_history.keyStore().save(SymmetricKey(key), KeyStore::Asking::forbidden);
         ASSERT_TRUE(QFile::copy(QStringLiteral(VELLUMRY_FIXTURES "/history-v1.sqlite"), m_history.path()));
         ASSERT_TRUE(QFile(m_history.path()).setPermissions(QFile::ReadOwner | QFile::WriteOwner));
         m_store = m_history.openStore();

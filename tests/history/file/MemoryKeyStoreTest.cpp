@@ -6,12 +6,16 @@
 namespace vellumry {
 namespace {
 
-TEST(MemoryKeyStore, HasNoKeyUntilOneIsSaved) {
+TEST(MemoryKeyStore, HasNoKeyUntilOneIsSavedAndNeverReplacesIt) {
+    using Asking = KeyStore::Asking;
     MemoryKeyStore store;
-    EXPECT_FALSE(store.load().has_value());
+    ASSERT_TRUE(store.load(Asking::allowed).has_value());
+    EXPECT_EQ(store.load(Asking::allowed).value(), std::nullopt);
     const SymmetricKey key = SymmetricKey::random();
-    store.save(key);
-    EXPECT_EQ(store.load(), key);
+    EXPECT_TRUE(store.save(key, Asking::forbidden).has_value());
+    EXPECT_EQ(store.load(Asking::forbidden).value(), key);
+    EXPECT_EQ(store.save(SymmetricKey::random(), Asking::allowed), std::unexpected(KeyFailure::refused));
+    EXPECT_EQ(store.key(), key);
 }
 
 } // namespace

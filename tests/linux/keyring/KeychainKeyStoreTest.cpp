@@ -2,9 +2,11 @@
 #include "linux/keyring/KeychainKeyStore.h"
 
 #include "linux/PrivateBus.h"
+#include "support/Eventually.h"
 
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace vellumry {
 namespace {
@@ -18,19 +20,11 @@ QByteArray bytesOf(const SymmetricKey& key) {
     return QByteArray(reinterpret_cast<const char*>(key.bytes().data()), static_cast<qsizetype>(key.bytes().size()));
 }
 
-/// The error that `call` ends with; nothing when it ends well.
-template <typename Call>
-std::optional<CryptoError> errorOf(Call call) {
-    try {
-        call();
-    } catch (const CryptoError& error) {
-        return error;
-    }
-    return std::nullopt;
-}
+using Asking = KeyStore::Asking;
 
-std::optional<CryptoError> loadError(KeychainKeyStore& store) {
-    return errorOf([&store] { (void)store.load(); });
+std::optional<KeyFailure> loadFailure(KeychainKeyStore& store, Asking asking = Asking::allowed) {
+    const auto loaded = store.load(asking);
+    return loaded.has_value() ? std::nullopt : std::optional(loaded.error());
 }
 
 bool storeFromOutside(PrivateBus& bus, const QByteArray& secret) {
@@ -50,22 +44,21 @@ protected:
 };
 
 TEST_F(KeychainKeyStoreTest, AnUnlockedKeyringWithoutTheKeyIsAFirstStart) {
-    const std::optional<SymmetricKey> key = store.load();
-    EXPECT_FALSE(key.has_value());
+    const auto loaded = store.load(Asking::allowed);
+    ASSERT_TRUE(loaded.has_value());
+    EXPECT_FALSE(loaded->has_value());
 }
 
 TEST_F(KeychainKeyStoreTest, ASavedKeyIsLoadedByTheNextStore) {
     const SymmetricKey key = SymmetricKey::random();
-    store.save(key);
+    ASSERT_TRUE(store.save(key, Asking::forbidden).has_value());
     KeychainKeyStore other(shortPatience);
-    const std::optional<SymmetricKey> loaded = other.load();
-    ASSERT_TRUE(loaded.has_value());
-    EXPECT_EQ(*loaded, key);
+    EXPECT_EQ(other.load(Asking::forbidden).value(), key);
 }
 
 TEST_F(KeychainKeyStoreTest, OtherProgramsFindTheRawKeyByItsAttributes) {
     const SymmetricKey key(QByteArray("0123456789abcdef0123456789ABCDEF"));
-    store.save(key);
+    ASSERT_TRUE(store.save(key, Asking::allowed).has_value());
     const auto found = bus.output(QStringLiteral("secret-tool"), QStringList{QStringLiteral("lookup")} + keyAttributes);
     ASSERT_TRUE(found.has_value());
     EXPECT_EQ(*found, bytesOf(key));
@@ -76,82 +69,106 @@ TEST_F(KeychainKeyStoreTest, OtherProgramsFindTheRawKeyByItsAttributes) {
 
 TEST_F(KeychainKeyStoreTest, SavingNeverReplacesAKey) {
     const SymmetricKey first = SymmetricKey::random();
-    store.save(first);
-    const auto error = errorOf([this] { store.save(SymmetricKey::random()); });
-    ASSERT_TRUE(error.has_value());
-    EXPECT_EQ(error->kind(), CryptoError::Case::keychain);
-    EXPECT_EQ(error->status(), KeychainKeyStore::duplicateItem);
-    EXPECT_EQ(store.load(), first);
+    ASSERT_TRUE(store.save(first, Asking::allowed).has_value());
+    EXPECT_EQ(store.save(SymmetricKey::random(), Asking::allowed), std::unexpected(KeyFailure::refused));
+    EXPECT_EQ(store.load(Asking::allowed).value(), first);
 }
 
 TEST_F(KeychainKeyStoreTest, AnItemOfSixteenBytesIsADamagedKey) {
     ASSERT_TRUE(storeFromOutside(bus, "0123456789abcdef"));
-    const auto error = loadError(store);
-    ASSERT_TRUE(error.has_value());
-    EXPECT_EQ(error->kind(), CryptoError::Case::invalidKeyData);
-    EXPECT_EQ(error->errorDescription(), QStringLiteral("The stored encryption key is damaged."));
+    EXPECT_EQ(loadFailure(store), KeyFailure::damaged);
 }
 
 TEST_F(KeychainKeyStoreTest, AnEmptyItemIsADamagedKey) {
     ASSERT_TRUE(storeFromOutside(bus, ""));
-    const auto error = loadError(store);
-    ASSERT_TRUE(error.has_value());
-    EXPECT_EQ(error->kind(), CryptoError::Case::invalidKeyData);
+    EXPECT_EQ(loadFailure(store), KeyFailure::damaged);
 }
 
-TEST_F(KeychainKeyStoreTest, ALockedKeyringWithTheKeyIsAnErrorNotAFirstStart) {
-    store.save(SymmetricKey::random());
+TEST_F(KeychainKeyStoreTest, ALockedKeyringIsNeverAFirstStart) {
     ASSERT_TRUE(bus.lockKeyring());
-    const auto error = loadError(store);
-    ASSERT_TRUE(error.has_value());
-    EXPECT_EQ(error->kind(), CryptoError::Case::keychain);
+    EXPECT_EQ(loadFailure(store), KeyFailure::locked) << "without the key";
+    EXPECT_EQ(loadFailure(store, Asking::forbidden), KeyFailure::locked);
+    const auto saved = store.save(SymmetricKey::random(), Asking::allowed);
+    EXPECT_EQ(saved, std::unexpected(KeyFailure::locked));
 }
 
-TEST_F(KeychainKeyStoreTest, ALockedKeyringWithoutTheKeyIsAnErrorNotAFirstStart) {
+TEST_F(KeychainKeyStoreTest, ALockedKeyringWithTheKeyIsAFailure) {
+    ASSERT_TRUE(store.save(SymmetricKey::random(), Asking::allowed).has_value());
     ASSERT_TRUE(bus.lockKeyring());
-    const auto error = loadError(store);
-    ASSERT_TRUE(error.has_value());
-    EXPECT_EQ(error->kind(), CryptoError::Case::keychain);
+    EXPECT_EQ(loadFailure(store), KeyFailure::locked);
+    EXPECT_EQ(loadFailure(store, Asking::forbidden), KeyFailure::locked);
 }
 
-TEST_F(KeychainKeyStoreTest, SavingToALockedKeyringIsAnError) {
+TEST_F(KeychainKeyStoreTest, AServiceWithoutAKeyringMayHideTheKey) {
+    ASSERT_TRUE(bus.deleteKeyring());
+    EXPECT_EQ(loadFailure(store), KeyFailure::uncertain);
+    EXPECT_EQ(store.save(SymmetricKey::random(), Asking::forbidden), std::unexpected(KeyFailure::uncertain));
+}
+
+TEST_F(KeychainKeyStoreTest, AnotherLockedKeyringMayHideTheKey) {
+    ASSERT_TRUE(bus.addLockedKeyring());
+    EXPECT_EQ(loadFailure(store), KeyFailure::uncertain);
+    const SymmetricKey key = SymmetricKey::random();
+    ASSERT_TRUE(store.save(key, Asking::forbidden).has_value());
+    EXPECT_EQ(store.load(Asking::forbidden).value(), key);
+}
+
+TEST_F(KeychainKeyStoreTest, AKeyringThatIsLockedAndOneThatIsUnlockedAreHeard) {
+    int changes = 0;
+    store.watch([&changes] { ++changes; });
     ASSERT_TRUE(bus.lockKeyring());
-    const auto error = errorOf([this] { store.save(SymmetricKey::random()); });
-    ASSERT_TRUE(error.has_value());
-    EXPECT_EQ(error->kind(), CryptoError::Case::keychain);
+    EXPECT_TRUE(eventually([&changes] { return changes > 0; }, 60'000));
+    changes = 0;
+    ASSERT_TRUE(bus.unlockKeyring());
+    EXPECT_TRUE(eventually([&changes] { return changes > 0; }, 60'000));
+    EXPECT_TRUE(store.load(Asking::forbidden).has_value());
 }
 
 TEST_F(KeychainKeyStoreTest, AHangingKeyringIsGivenUp) {
     bus.setKeyringHanging(true);
-    const auto error = loadError(store);
+    EXPECT_EQ(loadFailure(store), KeyFailure::absent);
     bus.setKeyringHanging(false);
-    ASSERT_TRUE(error.has_value());
-    EXPECT_EQ(error->status(), KeychainKeyStore::notAvailable);
-    EXPECT_FALSE(store.load().has_value());
+    EXPECT_FALSE(store.load(Asking::allowed).value().has_value());
+}
+
+TEST_F(KeychainKeyStoreTest, ACallThatNobodyWaitsForAnyMoreEnds) {
+    KeychainKeyStore patient({std::chrono::minutes(2), std::chrono::minutes(2)});
+    bus.setKeyringHanging(true);
+    std::jthread other([&patient] { patient.interrupt(); });
+    EXPECT_EQ(loadFailure(patient), KeyFailure::absent);
+    bus.setKeyringHanging(false);
+    other.join();
+    EXPECT_FALSE(patient.load(Asking::allowed).value().has_value()) << "only that call";
+}
+
+TEST(KeychainKeyStore, AServiceThatAppearsIsHeard) {
+    PrivateBus bus;
+    ASSERT_TRUE(bus.isRunning());
+    KeychainKeyStore store(shortPatience);
+    EXPECT_EQ(loadFailure(store), KeyFailure::absent);
+    int changes = 0;
+    store.watch([&changes] { ++changes; });
+    ASSERT_TRUE(bus.startKeyring());
+    EXPECT_TRUE(eventually([&changes] { return changes > 0; }, 60'000));
+    EXPECT_TRUE(store.load(Asking::forbidden).has_value());
 }
 
 TEST(KeychainKeyStore, WithoutAServiceOnTheBusFailsAtOnce) {
     const PrivateBus bus;
     ASSERT_TRUE(bus.isRunning());
-    KeychainKeyStore store;
+    KeychainKeyStore store({std::chrono::minutes(2), std::chrono::minutes(2)});
     QElapsedTimer timer;
     timer.start();
-    const auto error = loadError(store);
-    ASSERT_TRUE(error.has_value());
-    EXPECT_EQ(error->kind(), CryptoError::Case::keychain);
-    EXPECT_EQ(error->status(), KeychainKeyStore::notAvailable);
-    EXPECT_LT(timer.elapsed(), 5000) << "the deadline of ten seconds, not the answer, ended the call";
+    EXPECT_EQ(loadFailure(store), KeyFailure::absent);
+    EXPECT_LT(timer.elapsed(), 100'000) << "the deadline of two minutes, not the answer, ended the call";
 }
 
 TEST(KeychainKeyStore, WithoutABusFails) {
     const PrivateBus bus;
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + bus.folder().toLocal8Bit() + "/nobody");
     KeychainKeyStore store;
-    const auto error = loadError(store);
-    ASSERT_TRUE(error.has_value());
-    EXPECT_EQ(error->status(), KeychainKeyStore::notAvailable);
-    const auto saving = errorOf([&store] { store.save(SymmetricKey::random()); });
-    EXPECT_TRUE(saving.has_value());
+    EXPECT_EQ(loadFailure(store), KeyFailure::absent);
+    EXPECT_EQ(store.save(SymmetricKey::random(), Asking::allowed), std::unexpected(KeyFailure::absent));
 }
 
 } // namespace
