@@ -75,7 +75,7 @@ def stored_card(probe, card):
 
 def nothing_in_memory(program, needles):
     try:
-        wait_until(lambda: not found_in(program.pid, needles), "nothing of it in memory", 3)
+        wait_until(lambda: not found_in(program.pid, needles), "nothing of it in memory", 60)
     except Failure:
         left = [f"{what} in {place} at {address}" for what, place, address, _ in found_in(program.pid, needles)]
         raise Failure("still in memory: " + "; ".join(left)) from None

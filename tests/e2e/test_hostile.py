@@ -8,7 +8,7 @@ from desktop import (Failure, Vellumry, copy_bytes, fresh, key, main, open_panel
 from history_probe import HistoryProbe, ids
 from hostile_owner import HostileOwner, Pieces, Silence
 
-PANEL_LIMIT = 0.5
+PANEL_LIMIT = 3  # a program that waits for an owner waits longer
 MIB = 1024 * 1024
 
 
