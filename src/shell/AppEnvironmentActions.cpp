@@ -20,6 +20,7 @@ void AppEnvironment::describe(StatusReport& report) const {
     capture.isPaused = m_watcher->pausedUntil && *m_watcher->pausedUntil > m_platform->clock();
     capture.ignoresNext = m_watcher->ignoreNextCopy;
     capture.savesScreenshots = m_screenshots->isWatching();
+    capture.overtakenCopies = m_watcher->overtakenCopies();
     report.capture = capture;
     report.takenShortcuts = m_shortcuts->takenKeys();
 }

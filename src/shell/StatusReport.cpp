@@ -35,6 +35,8 @@ QString captureLine(const StatusReport::Capture& capture) {
         parts << QStringLiteral("the next copy is ignored");
     parts << (capture.savesScreenshots ? QStringLiteral("screenshots are saved")
                                        : QStringLiteral("screenshots are not saved"));
+    if (capture.overtakenCopies > 0)
+        parts << QStringLiteral("copies overtaken %1").arg(capture.overtakenCopies);
     return QStringLiteral("capture: ") + parts.join(QStringLiteral(", "));
 }
 

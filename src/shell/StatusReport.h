@@ -23,6 +23,7 @@ struct StatusReport {
         bool isPaused = false;
         bool ignoresNext = false;
         bool savesScreenshots = false;
+        qint64 overtakenCopies = 0; ///< lost because the next copy came before they could be read
     };
 
     /// Absent when the program does not run.

@@ -49,14 +49,15 @@ TEST(StatusReport, WhatIsOutOfTheOrdinaryIsNamed) {
     report.process = 42;
     report.history = {0, 0, 0, true};
     report.takenShortcuts = QStringList{QStringLiteral("openPanelShortcut"), QStringLiteral("pasteStackShortcut")};
-    report.capture = {true, true, true};
+    report.capture = {true, true, true, 3};
     EXPECT_EQ(report.text(),
               version() +
                   QStringLiteral("running as process 42\n"
                                  "shortcuts: held by another program: openPanelShortcut pasteStackShortcut\n"
                                  "history: clips 0, pinned 0, sensitive 0, kept in memory until the program ends, no "
                                  "file\n"
-                                 "capture: paused, the next copy is ignored, screenshots are saved\n"));
+                                 "capture: paused, the next copy is ignored, screenshots are saved, copies "
+                                 "overtaken 3\n"));
 }
 
 } // namespace
