@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A reader that misbehaves in the way that the first bytes of the picture ask for: "crash", "hang", "leave" (once, in
 // peace, without an answer), "flood" (says that its answer is endless), "lie" (answers another question), "babble" (no
-// answer at all, but bytes). Any other picture is answered with the size 7 x 9, and with its first bytes for its text.
+// answer at all, but bytes), "blind" (has no engine that reads). Any other picture is answered with the size 7 x 9, and
+// with its first bytes for its text.
 #include "reader/ReaderProtocol.h"
 #include "reader/ReaderSocket.h"
 
@@ -37,6 +38,7 @@ void answer(const readerprotocol::Request& request, const QByteArray& picture) {
         return send(QByteArray("\x05\0\0\0abcde", 9));
     readerprotocol::Reply reply;
     reply.id = request.id + (picture.startsWith("lie") ? 1 : 0);
+    reply.lacksEngine = picture.startsWith("blind");
     reply.pixelSize = QSize(7, 9);
     if (request.operation != readerprotocol::Operation::summarise)
         reply.text = QString::fromUtf8(picture);

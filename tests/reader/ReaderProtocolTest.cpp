@@ -25,6 +25,8 @@ TEST(ReaderProtocol, RepliesComeBackAsTheyWere) {
     EXPECT_EQ(decodeReply(withoutLength(*encode(reading))), reading);
     const Reply empty{8, std::nullopt, std::nullopt, false, std::nullopt};
     EXPECT_EQ(decodeReply(withoutLength(*encode(empty))), empty);
+    const Reply blind{10, std::nullopt, std::nullopt, false, std::nullopt, true};
+    EXPECT_EQ(decodeReply(withoutLength(*encode(blind))), blind);
 }
 
 TEST(ReaderProtocol, AnUnknownOperationIsRefused) {

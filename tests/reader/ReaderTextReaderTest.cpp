@@ -59,6 +59,12 @@ TEST(ReaderTextReader, WhatIsNoPictureIsToldApartFromWhatFailed) {
     EXPECT_EQ(awaited(reader.read(QByteArray(), Mode::fast, usual, 60s)).outcome, Outcome::undecodable);
 }
 
+TEST(ReaderTextReader, AComputerWithoutAnEngineIsToldApart) {
+    ReaderTextReader reader(fakeReader);
+    EXPECT_EQ(awaited(reader.read("blind", Mode::fast, usual, 60s)).outcome, Outcome::unavailable);
+    EXPECT_EQ(awaited(reader.read("words", Mode::fast, usual, 60s)).outcome, Outcome::text);
+}
+
 TEST(ReaderTextReader, AHangingReaderIsEndedAtTheLimitAndTheNextPictureIsRead) {
     ReaderTextReader reader(fakeReader);
     EXPECT_EQ(awaited(reader.read("hang", Mode::accurate, usual, 50ms)).outcome, Outcome::tooSlow);
