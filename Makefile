@@ -6,7 +6,7 @@ DESTDIR ?=
 export CCACHE_NOHASHDIR = 1
 export CCACHE_BASEDIR = $(CURDIR)
 
-.PHONY: help run install uninstall package test test-trixie torture bench matrix lint build asan clean
+.PHONY: help run install uninstall package test test-trixie sanitize torture bench matrix lint build asan clean
 
 help: ## list the tasks
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:.*## /\t/' | expand -t 14
@@ -32,6 +32,12 @@ test-trixie: ## build and run the unit tests in a bare Debian 13
 test: ## install what is missing, build, run every test
 	@scripts/install-deps --test
 	@scripts/test
+
+sanitize: ## every unit and view test under address and undefined-behaviour checks
+	@scripts/install-deps --test
+	@cmake --preset asan >/dev/null
+	@cmake --build --preset asan -j $(JOBS) --target unit_tests | scripts/progress "build asan"
+	@scripts/unit-tests build/asan -E '^Torture'
 
 torture: ## kill the history 500 times, fail its disk, cut its power; nothing may be lost and nothing may come back
 	@scripts/install-deps --test

@@ -1,6 +1,7 @@
-# cmake -D PROGRAM=… -D SCRIPT=… -D RESULTS=… -D EACH_ALONE=… -D TIMEOUT=… -P AddSuites.cmake: asks a GoogleTest program for its
-# tests and writes the CTest script that registers them: one CTest test a suite, or one a test where a test needs a process of
-# its own. Each leaves an XML file in RESULTS; its label "tests=N" says how many tests that file must hold.
+# cmake -D PROGRAM=… -D SCRIPT=… -D RESULTS=… -D EACH_ALONE=… -D NO_LEAK_CHECK=… -D TIMEOUT=… -P AddSuites.cmake: asks a GoogleTest
+# program for its tests and writes the CTest script that registers them: one CTest test a suite, or one a test where a test needs a
+# process of its own. Each leaves an XML file in RESULTS; its label "tests=N" says how many tests that file must hold, the label
+# "program=NAME" whose they are.
 
 execute_process(
   COMMAND ${PROGRAM} --gtest_list_tests
@@ -13,12 +14,16 @@ endif()
 
 get_filename_component(program_name ${PROGRAM} NAME)
 set(script "")
+set(environment "")
+if(NO_LEAK_CHECK)
+  set(environment "ENVIRONMENT ASAN_OPTIONS=detect_leaks=0")
+endif()
 
 function(register name filter count)
   string(MAKE_C_IDENTIFIER "${program_name}_${name}" file)
   string(APPEND script
          "add_test([==[${name}]==] [==[${PROGRAM}]==] [==[--gtest_filter=${filter}]==] [==[--gtest_output=xml:${RESULTS}/${file}.xml]==])\n"
-         "set_tests_properties([==[${name}]==] PROPERTIES TIMEOUT ${TIMEOUT} LABELS tests=${count})\n")
+         "set_tests_properties([==[${name}]==] PROPERTIES TIMEOUT ${TIMEOUT} LABELS [==[tests=${count};program=${program_name}]==] ${environment})\n")
   set(script "${script}" PARENT_SCOPE)
 endfunction()
 
