@@ -4,6 +4,7 @@
 Every wait has a deadline and asks for a condition; nothing here counts on a delay. Run inside scripts/headless-session.
 """
 
+import ast
 import ctypes
 import json
 import os
@@ -358,6 +359,20 @@ def fresh(test):
 
     whole.__name__ = test.__name__
     return whole
+
+
+def own_tests(begin=fresh):
+    """The tests of the file that is run, in their order: each function without parameters that nothing else in the file uses. A test
+    needs no list that it could be missing from."""
+    program = sys.modules["__main__"]
+    with open(program.__file__, encoding="utf-8") as file:
+        tree = ast.parse(file.read())
+    used = set()
+    for node in tree.body:
+        own_name = getattr(node, "name", None)
+        used.update(part.id for part in ast.walk(node) if isinstance(part, ast.Name) and part.id != own_name)
+    return [begin(getattr(program, node.name)) for node in tree.body
+            if isinstance(node, ast.FunctionDef) and node.name not in used and not node.args.args]
 
 
 def main(tests):

@@ -7,7 +7,7 @@ import subprocess
 import tempfile
 
 from clients import GtkEditor
-from desktop import (DATA, HISTORY, PROGRAM, Process, Vellumry, copy_bytes, copy_text, focus, fresh, key, main, open_panel,
+from desktop import (DATA, HISTORY, PROGRAM, Process, Vellumry, copy_bytes, copy_text, focus, key, main, open_panel, own_tests,
                      representation, run, same, text_of, type_text, wait_for_clip, wait_panel_closed, wait_until, window_of_class)
 
 CANARY = "canary7319"
@@ -142,9 +142,4 @@ def an_action_reaches_the_running_program_alone():
 
 
 if __name__ == "__main__":
-    main([fresh(test) for test in (
-        version_and_help_are_printed_without_a_display, what_is_not_understood_ends_with_the_usage,
-        the_status_tells_of_the_session_when_nothing_runs, the_status_needs_neither_display_nor_bus,
-        the_status_of_the_running_program_counts_and_never_quotes, the_log_never_quotes_the_user,
-        only_problems_are_written_unless_more_is_asked_for, a_signal_to_end_closes_the_history,
-        without_a_display_the_user_is_told_and_nothing_is_touched, an_action_reaches_the_running_program_alone)])
+    main(own_tests())

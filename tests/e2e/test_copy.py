@@ -7,7 +7,7 @@ import sqlite3
 import time
 
 from clients import Browser, FileManager, GtkEditor, PasswordManager, QtEditor, XTerminal
-from desktop import (HISTORY, Failure, Vellumry, clipboard, copy_bytes, copy_text, fresh, key, main, open_panel,
+from desktop import (HISTORY, Failure, Vellumry, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests,
                      representation, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until)
 from hostile_owner import BusyOwner, copy_in_a_row
 from owner import LoggingOwner
@@ -170,10 +170,4 @@ def nothing_readable_lies_in_the_file():
 
 
 if __name__ == "__main__":
-    main([fresh(test) for test in (
-        a_terminal_copies, a_gtk_editor_copies, a_qt_editor_copies, a_browser_copies_styled_text, a_file_manager_copies_files,
-        a_picture_is_kept_with_its_size, a_bitmap_alone_is_kept_for_all, a_password_is_never_kept, what_is_refused_is_never_asked_for,
-        what_was_copied_outlives_the_application, a_burst_of_copies_is_kept_whole,
-        three_hundred_copies_at_fifty_a_second_are_kept_whole,
-        a_program_that_has_its_copy_kept_and_quits_at_once_loses_nothing,
-        a_cell_range_of_a_busy_office_program_is_kept_with_its_text, nothing_readable_lies_in_the_file)])
+    main(own_tests())

@@ -9,7 +9,8 @@ import time
 
 import desktop
 from clients import GtkEditor, XTerminal
-from desktop import (DATA, HISTORY, SETTINGS, Failure, Vellumry, accessible, clipboard, copy_text, focus, fresh, key, main, open_panel,
+from desktop import (DATA, HISTORY, SETTINGS, Failure, Vellumry, accessible, clipboard, copy_text, focus, fresh, key, main,
+                     open_panel, own_tests,
                      owner_of, panel_is_open, same, wait_panel_closed, wait_until)
 from history_probe import HistoryProbe, ids
 from memory_probe import can_look_into, found_in, spread_in
@@ -209,8 +210,4 @@ def a_card_that_was_pasted_into_a_terminal_goes_from_the_primary_selection():
 
 
 if __name__ == "__main__":
-    main([with_lifetime(test) for test in (
-        a_card_is_gone_from_everywhere_at_its_time, a_card_that_was_searched_for_is_forgotten_with_the_closed_panel,
-        a_card_whose_time_came_while_the_program_stood_still_goes_at_once,
-        a_card_of_a_dead_editor_goes_from_the_clipboard_at_its_time, a_card_that_was_pasted_goes_from_the_clipboard_at_its_time,
-        a_card_that_was_pasted_into_a_terminal_goes_from_the_primary_selection)])
+    main(own_tests(with_lifetime))

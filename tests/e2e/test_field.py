@@ -4,7 +4,7 @@ holds up nobody."""
 
 import time
 
-from desktop import (Failure, Vellumry, clipboard, copy_text, fresh, key, main, open_panel, same, text_of, text_shown, type_text,
+from desktop import (Failure, Vellumry, clipboard, copy_text, key, main, open_panel, own_tests, same, text_of, text_shown, type_text,
                      wait_for_clip, wait_panel_closed, wait_until)
 from hostile_owner import HostileOwner, Silence
 
@@ -71,4 +71,4 @@ def does_not_wait_for_a_silent_owner():
 
 
 if __name__ == "__main__":
-    main([fresh(test) for test in (pastes_what_was_copied, copies_what_is_selected, does_not_wait_for_a_silent_owner)])
+    main(own_tests())

@@ -8,7 +8,7 @@ import shutil
 import sqlite3
 import subprocess
 
-from desktop import (DATA, HISTORY, QUIET, Failure, Vellumry, accessible, copy_text, fresh, key, main, open_panel, panel_is_open,
+from desktop import (DATA, HISTORY, QUIET, Failure, Vellumry, accessible, copy_text, key, main, open_panel, own_tests, panel_is_open,
                      picture, run, same, wait_panel_closed, wait_until, windows)
 from history_probe import HistoryProbe, ids, integrity
 
@@ -223,7 +223,4 @@ def a_folder_that_cannot_be_written():
 
 if __name__ == "__main__":
     in_a_mount_namespace()
-    main([fresh(test) for test in (
-        a_file_cut_in_half, a_file_with_a_page_of_noise, a_foreign_file_with_a_table_of_that_name,
-        a_foreign_file_without_such_a_table, an_empty_file, a_log_of_noise, a_full_disk, a_disk_full_from_the_start,
-        a_folder_that_cannot_be_written)])
+    main(own_tests())

@@ -3,7 +3,7 @@
 
 import time
 
-from desktop import (Failure, Vellumry, copy_bytes, fresh, key, main, open_panel, representation, run, same,
+from desktop import (Failure, Vellumry, copy_bytes, key, main, open_panel, own_tests, representation, run, same,
                      wait_panel_closed, wait_until)
 from history_probe import HistoryProbe, ids
 from hostile_owner import HostileOwner, Pieces, Silence
@@ -213,10 +213,4 @@ def a_cut_picture_is_kept_without_a_small_one():
 
 
 if __name__ == "__main__":
-    main([fresh(test) for test in (
-        silent_about_what_it_offers, silent_about_its_only_text, silent_about_a_picture_but_not_about_the_text,
-        silent_about_twenty_kinds_but_not_about_the_text, replaced_while_twenty_kinds_are_held_back,
-        dead_in_the_middle_of_its_text, lying_about_the_size, never_ending, ten_thousand_kinds,
-        a_mark_behind_three_thousand_kinds_counts,
-        too_large_a_text_is_refused_whole, a_large_text_is_kept_byte_for_byte, replaced_while_it_is_read,
-        a_hundred_thousand_broken_addresses, broken_documents, a_cut_picture_is_kept_without_a_small_one)])
+    main(own_tests())

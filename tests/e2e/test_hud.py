@@ -3,7 +3,7 @@
 pointer."""
 
 from clients import GtkEditor
-from desktop import (Vellumry, accessible, active_window, copy_text, focused_window, fresh, key, main, open_panel, run, same, text_of,
+from desktop import (Vellumry, accessible, active_window, copy_text, focused_window, key, main, open_panel, own_tests, run, same, text_of,
                      wait_for_clip, wait_panel_closed, wait_until, windows)
 
 BAR = "^Paste Stack$"
@@ -102,6 +102,4 @@ def a_message_lets_clicks_through():
 
 
 if __name__ == "__main__":
-    main([fresh(test) for test in (the_bar_stops_the_stack_and_the_editor_keeps_the_keyboard, a_finished_stack_takes_its_bar_along,
-                                   the_panels_button_starts_a_stack, the_bar_tells_what_its_buttons_do,
-                                   a_message_lets_clicks_through)])
+    main(own_tests())

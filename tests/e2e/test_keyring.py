@@ -7,7 +7,7 @@ import subprocess
 import tempfile
 
 from clients import QtEditor
-from desktop import (DATA, QUIET, Process, Vellumry, copy_text, fresh, key, main, open_panel, picture,
+from desktop import (DATA, QUIET, Process, Vellumry, copy_text, key, main, open_panel, own_tests, picture,
                      run, same, wait_panel_closed, wait_until, windows)
 from history_probe import HistoryProbe
 
@@ -164,5 +164,4 @@ def with_a_locked_keyring():
 
 
 if __name__ == "__main__":
-    main([fresh(test) for test in (without_a_keyring, without_a_session_bus, with_a_key_of_sixteen_bytes,
-                                with_a_locked_keyring)])
+    main(own_tests())

@@ -14,7 +14,7 @@ from Xlib import X, display
 
 from clients import GtkEditor
 from desktop import (QUIET, SETTINGS, Vellumry, accessible, active_window, clipboard, copy_bytes, copy_text, focus,
-                     fresh, key, main, open_panel, picture, representation, same, text_of, unsealed, wait_for_clip,
+                     key, main, open_panel, own_tests, picture, representation, same, text_of, unsealed, wait_for_clip,
                      wait_panel_closed, wait_until, windows)
 from owner import LoggingOwner
 from password_fields import FieldWindow, LockedVault
@@ -288,12 +288,4 @@ def a_window_that_takes_the_keyboard_after_return_gets_nothing():
 
 
 if __name__ == "__main__":
-    main([fresh(test) for test in (
-        pasting_presses_the_key_and_says_nothing, without_direct_paste_it_copies_and_says_so,
-        a_keyboard_that_another_program_holds_gets_nothing, a_password_field_gets_nothing,
-        a_password_field_of_a_qt_program_gets_nothing,
-        a_common_field_beside_a_password_field_gets_its_paste, plain_text_goes_without_its_style, a_transform_changes_the_words,
-        a_moved_file_pastes_from_its_new_place, a_file_in_the_trash_still_pastes,
-        a_deleted_file_is_told_and_leaves_the_clipboard_alone, a_file_that_may_not_be_read_is_told_by_its_folder,
-        a_target_that_closes_under_the_panel_leaves_its_text_to_nobody, a_window_that_opens_over_the_panel_gets_nothing,
-        a_window_that_takes_the_keyboard_after_return_gets_nothing)])
+    main(own_tests())

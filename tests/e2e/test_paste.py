@@ -4,8 +4,8 @@
 import subprocess
 
 from clients import Browser, GtkEditor, QtEditor, XTerminal
-from desktop import (PANEL, QUIET, Vellumry, accessible, active_window, clipboard, copy_bytes, copy_text, focused_window, fresh, key, main,
-                     open_panel, panel_is_open, picture, run, same, text_of, type_text, unsealed, wait_for_clip,
+from desktop import (PANEL, QUIET, Vellumry, accessible, active_window, clipboard, copy_bytes, copy_text, focused_window, key, main,
+                     open_panel, own_tests, panel_is_open, picture, run, same, text_of, type_text, unsealed, wait_for_clip,
                      wait_panel_closed, wait_until, windows)
 
 WORDS = ["quick brown fox", "lazy dog", "zebra crossing"]
@@ -164,8 +164,4 @@ def a_large_paste_is_served_whole():
 
 
 if __name__ == "__main__":
-    main([fresh(test) for test in (
-        into_a_gtk_editor, into_a_qt_editor, into_a_browser, into_a_terminal, while_the_shortcut_is_still_held,
-        a_number_pastes_its_row, a_number_pastes_its_row_on_a_french_keyboard,
-        arrows_choose_and_return_pastes, escape_gives_the_keyboard_back,
-        a_click_elsewhere_closes_the_panel, the_panel_is_no_window_of_the_task_bar, a_large_paste_is_served_whole)])
+    main(own_tests())

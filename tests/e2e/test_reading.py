@@ -5,7 +5,7 @@ import os
 import signal
 import subprocess
 
-from desktop import (Vellumry, clipboard, copy_bytes, copy_text, fresh, key, main, open_panel, picture, run, same, type_text,
+from desktop import (Vellumry, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests, picture, run, same, type_text,
                      unsealed, wait_for_clip, wait_panel_closed, wait_until)
 
 ENOUGH = 60.0
@@ -108,7 +108,4 @@ def no_reader_outlives_the_program():
 
 
 if __name__ == "__main__":
-    main([fresh(test) for test in (
-        a_screenshot_is_found_by_a_word_in_it, a_second_reading_is_the_better_one, light_words_on_dark_ground_are_read,
-        a_picture_file_is_read, a_picture_on_the_desktop_is_read, a_reader_that_dies_costs_one_picture, a_broken_picture_costs_nothing,
-        no_reader_outlives_the_program)])
+    main(own_tests())

@@ -5,7 +5,7 @@ import os
 import subprocess
 import time
 
-from desktop import QUIET, SETTINGS, Vellumry, copy_text, fresh, main, representation, run, same, text_of, unsealed, wait_for_clip
+from desktop import QUIET, SETTINGS, Vellumry, copy_text, main, own_tests, representation, run, same, text_of, unsealed, wait_for_clip
 
 PICTURES = os.path.join(os.environ["HOME"], "Pictures")
 SHOTS = os.path.join(PICTURES, "Screenshots")
@@ -120,6 +120,4 @@ def unwanted_they_stay_out():
 
 
 if __name__ == "__main__":
-    main([fresh(test) for test in (
-        a_tool_of_its_own, the_desktops_tool_by_its_mark, an_ordinary_picture_stays_out, a_screenshot_in_two_halves,
-        a_folder_that_goes_and_comes_back, unwanted_they_stay_out)])
+    main(own_tests())

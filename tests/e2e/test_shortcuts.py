@@ -4,7 +4,7 @@
 from Xlib import X, display
 
 from clients import GtkEditor
-from desktop import (Failure, Process, Vellumry, accessible, copy_text, focus_under_new_manager, fresh, key, main, open_panel,
+from desktop import (Failure, Process, Vellumry, accessible, copy_text, focus_under_new_manager, key, main, open_panel, own_tests,
                      run, same, text_of, type_text, wait_for_clip, wait_panel_closed, wait_until, windows)
 
 KEYCODE_OF_3 = 12
@@ -120,6 +120,7 @@ def a_pinned_clip_does_not_advance_a_running_stack():
         wait_until(lambda: client.content() == "pinnedone pinnedtwo ", "the second of the stack")
 
 
+# The last one: it takes the desktop's window manager away.
 def they_outlive_the_window_manager():
     with Vellumry(), GtkEditor() as client:
         pin("alpha")
@@ -130,6 +131,4 @@ def they_outlive_the_window_manager():
             pastes(client, 1, "alpha")
 
 
-main([fresh(test) for test in (each_digit_pastes_its_pinned_clip, they_follow_the_layout,
-                               what_another_program_holds_is_left_to_it, a_pinned_clip_does_not_advance_a_running_stack,
-                               they_outlive_the_window_manager)])  # the last one takes the desktop's window manager away
+main(own_tests())

@@ -5,7 +5,7 @@ import os
 import shutil
 
 from clients import GtkEditor, QtEditor, XTerminal
-from desktop import (DATA, Vellumry, accessible, active_window, clipboard, copy_text, fresh, key, main, open_panel, panel_is_open,
+from desktop import (DATA, Vellumry, accessible, active_window, clipboard, copy_text, key, main, open_panel, own_tests, panel_is_open,
                      picture, run, same, type_text, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until)
 from history_probe import ids
 from stack import TOGGLE, is_running, paste_each, remember, start_stack, wait_ended
@@ -184,10 +184,4 @@ def ten_a_second_lose_and_double_nothing():
             wait_ended()
 
 
-main([fresh(test) for test in (copies_come_back_in_a_gtk_editor, copies_come_back_in_a_qt_editor,
-                               what_is_copied_in_the_client_itself_is_taken, a_terminal_pastes_with_its_own_keys,
-                               with_shift_held_it_pastes_too, other_keys_do_not_advance_it,
-                               holding_the_keys_down_advances_once, an_empty_one_leaves_the_clipboard_alone,
-                               reversed_the_newest_goes_first, stopped_by_hand_the_last_item_stays,
-                               a_copy_of_a_moment_ago_comes_first, selected_clips_are_pasted_oldest_first,
-                               ten_a_second_lose_and_double_nothing)])
+main(own_tests())

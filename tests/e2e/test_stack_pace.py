@@ -5,7 +5,7 @@ import os
 import subprocess
 
 from clients import GtkEditor
-from desktop import Process, Vellumry, focus, fresh, main, run, same, wait_until, window_of_class
+from desktop import Process, Vellumry, focus, main, own_tests, run, same, wait_until, window_of_class
 from stack import remember, start_stack, wait_ended
 
 HERE = os.path.dirname(os.path.abspath(__file__))
@@ -55,5 +55,4 @@ def quick_keys_beside_a_program_that_reads_everything():
 
 
 if __name__ == "__main__":
-    main([fresh(test) for test in (
-        keys_150_milliseconds_apart_into_a_slow_program, quick_keys_beside_a_program_that_reads_everything)])
+    main(own_tests())

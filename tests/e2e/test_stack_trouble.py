@@ -10,8 +10,8 @@ import tempfile
 from Xlib import X, display
 
 from clients import GtkEditor, QtEditor, XTerminal
-from desktop import (DATA, SETTINGS, Process, Vellumry, accessible, copy_bytes, copy_text, focus, focus_under_new_manager, fresh, key,
-                     main, run, same, text_of, type_text, unsealed, wait_for_clip, wait_until)
+from desktop import (DATA, SETTINGS, Process, Vellumry, accessible, copy_bytes, copy_text, focus, focus_under_new_manager, key,
+                     main, own_tests, run, same, text_of, type_text, unsealed, wait_for_clip, wait_until)
 from history_probe import ids
 from key_window import KeyWindow
 from stack import TOGGLE, is_running, paste_each, remember, start_stack, wait_ended
@@ -141,22 +141,6 @@ def another_holder_of_the_key_is_told_of():
         wait_ended()
 
 
-def a_new_window_manager_changes_nothing():
-    with Vellumry(), GtkEditor() as client:
-        start_stack()
-        remember("one ", "two ", "three ")
-        paste_each(client, "ctrl+v", ["one "])
-        before = run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
-        with Process("openbox", "--replace"):
-            wait_until(lambda: run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK") not in (before, b""), "the new window manager")
-            focus_under_new_manager(client.window)
-            key("ctrl+v")
-            wait_until(lambda: client.content() == "one two ", "the second")
-            key("ctrl+v")
-            wait_until(lambda: client.content() == "one two three ", "the third")
-            wait_ended()
-
-
 def large_texts_hold_no_key_and_arrive_whole():
     """No item is lost to a key that went by itself because making the text took too long."""
     texts = [b"a" * 99 + b"\n", "é漢".encode() * 20]
@@ -185,10 +169,21 @@ def large_texts_hold_no_key_and_arrive_whole():
             os.remove(SETTINGS)
 
 
-main([fresh(test) for test in (an_owner_that_ends_does_not_take_its_copies_along,
-                               an_owner_that_hangs_does_not_hold_the_keyboard,
-                               a_program_that_keeps_copying_meanwhile_mixes_nothing_up,
-                               a_stopped_program_in_front_does_not_hold_the_keyboard, deleted_files_are_passed_over,
-                               a_grabbed_keyboard_is_left_alone, another_holder_of_the_key_is_told_of,
-                               large_texts_hold_no_key_and_arrive_whole,
-                               a_new_window_manager_changes_nothing)])  # the last one: it takes the desktop's away
+# The last one: it takes the desktop's window manager away.
+def a_new_window_manager_changes_nothing():
+    with Vellumry(), GtkEditor() as client:
+        start_stack()
+        remember("one ", "two ", "three ")
+        paste_each(client, "ctrl+v", ["one "])
+        before = run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
+        with Process("openbox", "--replace"):
+            wait_until(lambda: run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK") not in (before, b""), "the new window manager")
+            focus_under_new_manager(client.window)
+            key("ctrl+v")
+            wait_until(lambda: client.content() == "one two ", "the second")
+            key("ctrl+v")
+            wait_until(lambda: client.content() == "one two three ", "the third")
+            wait_ended()
+
+
+main(own_tests())

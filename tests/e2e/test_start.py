@@ -8,13 +8,8 @@ import signal
 import subprocess
 import time
 
-from desktop import (DATA, HISTORY, PROGRAM, QUIET, Failure, Vellumry, accessible, copy_text, fresh, key, main, open_panel,
+from desktop import (DATA, HISTORY, PROGRAM, QUIET, Failure, Vellumry, accessible, copy_text, fresh, key, main, open_panel, own_tests,
                      picture, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until, windows)
-
-
-def alert_text():
-    node = accessible("vellumry", "label|static|text", "history")
-    return node.name if node else None
 
 
 def a_second_start_ends_silently():
@@ -108,7 +103,4 @@ def shown(text):
 
 
 if __name__ == "__main__":
-    main([fresh(test) for test in (
-        a_second_start_ends_silently, what_was_there_before_is_no_copy, a_random_file_is_put_aside,
-        a_history_of_another_key_is_put_aside, every_copy_ever_kept_survives_a_kill,
-        a_folder_that_cannot_be_used_means_memory_only)])
+    main(own_tests())

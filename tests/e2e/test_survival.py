@@ -8,7 +8,7 @@ import sqlite3
 import time
 
 from clients import GtkEditor, QtEditor
-from desktop import (HISTORY, SETTINGS, Failure, Vellumry, accessible, clipboard, copy_text, fresh, key, main, open_panel,
+from desktop import (HISTORY, SETTINGS, Failure, Vellumry, accessible, clipboard, copy_text, key, main, open_panel, own_tests,
                      panel_is_open, run, same, wait_panel_closed, wait_until)
 from history_probe import HistoryProbe, ids, integrity
 from physical_keys import PhysicalKeys
@@ -202,7 +202,4 @@ def the_shortcut_and_the_paste_follow_the_layout():
 
 
 if __name__ == "__main__":
-    main([fresh(test) for test in (
-        nothing_seen_in_the_file_is_lost_by_a_kill, stopped_and_continued, a_card_number_deletes_itself,
-        a_card_number_deletes_itself_after_a_stop_past_its_time, a_card_number_is_gone_after_a_kill_past_its_time,
-        the_shortcut_outlives_the_window_manager, the_shortcut_and_the_paste_follow_the_layout)])
+    main(own_tests())
