@@ -56,7 +56,8 @@ QCoro::Task<void> PanelModel::refreshFileStatuses() {
     }
 
     const QPointer<PanelModel> self(this);
-    const auto statuses = co_await d->paster.fileStatuses(std::move(files));
+    auto asking = d->paster.fileStatuses(std::move(files));
+    const auto statuses = co_await asking;
     if (!self || refresh != d->statusRefresh || !statuses)
         co_return;
     FileStatuses byClip;

@@ -81,21 +81,24 @@ void PanelModel::copyClip(const ClipRef& clip) {
 QCoro::Task<void> PanelModel::runPaste(ClipRef clip, std::optional<bool> isPlain,
                                        std::optional<TextTransform> transform) {
     const QPointer<PanelModel> self(this);
-    const auto outcome = co_await d->paster.paste(clip, isPlain, transform);
+    auto pasting = d->paster.paste(clip, isPlain, transform);
+    const auto outcome = co_await pasting;
     if (self)
         showToast(toastFor(outcome));
 }
 
 QCoro::Task<void> PanelModel::runPasteText(QString text) {
     const QPointer<PanelModel> self(this);
-    const auto outcome = co_await d->paster.pasteText(text);
+    auto pasting = d->paster.pasteText(text);
+    const auto outcome = co_await pasting;
     if (self)
         showToast(toastFor(outcome));
 }
 
 QCoro::Task<void> PanelModel::runCopy(ClipRef clip) {
     const QPointer<PanelModel> self(this);
-    const auto outcome = co_await d->paster.copy(clip);
+    auto copying = d->paster.copy(clip);
+    const auto outcome = co_await copying;
     if (self)
         showToast(toastFor(outcome));
 }
@@ -111,7 +114,8 @@ QCoro::Task<void> PanelModel::runPin(std::vector<ClipRef> clips, bool isPinned) 
     const QPointer<PanelModel> self(this);
     for (const auto& clip : clips) {
         const Date now = d->calendar.now();
-        co_await d->store.setPinned(clip->id, isPinned, now);
+        auto pinning = d->store.setPinned(clip->id, isPinned, now);
+        co_await pinning;
         if (!self)
             co_return;
     }
@@ -143,7 +147,8 @@ void PanelModel::selectAfterDeleting(const std::vector<ClipRef>& doomed) {
 }
 
 QCoro::Task<void> PanelModel::runDelete(QSet<QUuid> ids) {
-    co_await d->store.remove(std::move(ids), false);
+    auto removing = d->store.remove(std::move(ids), false);
+    co_await removing;
 }
 
 void PanelModel::toggleTransforms() {
@@ -177,7 +182,8 @@ void PanelModel::merge(MergeAction action) {
 QCoro::Task<void> PanelModel::runMerge(std::vector<ClipRef> clips, MergeAction action) {
     const QPointer<PanelModel> self(this);
     const auto count = clips.size();
-    const auto merged = co_await addMerged(std::move(clips));
+    auto merging = addMerged(std::move(clips));
+    const auto merged = co_await merging;
     if (!self)
         co_return;
     if (!merged) {
@@ -206,7 +212,8 @@ QCoro::Task<ClipRef> PanelModel::addMerged(std::vector<ClipRef> clips) {
     const QPointer<PanelModel> self(this);
     ClipMerger::Payloads payloads;
     for (const auto& clip : clips) {
-        auto payload = co_await d->store.payload(clip->id);
+        auto loading = d->store.payload(clip->id);
+        auto payload = co_await loading;
         if (!self || !payload)
             co_return ClipRef();
         payloads.insert(clip->id, std::move(*payload));
@@ -216,7 +223,8 @@ QCoro::Task<ClipRef> PanelModel::addMerged(std::vector<ClipRef> clips) {
     if (!draft)
         co_return ClipRef();
     const Date now = d->calendar.now();
-    auto merged = co_await d->store.add(std::move(*draft), now);
+    auto adding = d->store.add(std::move(*draft), now);
+    auto merged = co_await adding;
     co_return merged;
 }
 

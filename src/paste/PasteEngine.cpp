@@ -19,12 +19,14 @@ PasteEngine::PasteEngine(ClipStore& store, const UserDefaults& preferences, Syst
 QCoro::Task<PasteOutcome> PasteEngine::paste(ClipRef clip, std::optional<bool> isPlain,
                                              std::optional<TextTransform> transform) {
     const std::weak_ptr<bool> life = m_life;
-    auto payload = co_await m_store->payload(clip->id);
+    auto loading = m_store->payload(clip->id);
+    auto payload = co_await loading;
     if (life.expired() || !payload)
         co_return PasteOutcome::failed();
     auto items = std::move(payload->items);
     if (clip->kind == ClipKind::file) {
-        auto resolved = co_await resolvingFiles(std::move(items), clip->files);
+        auto resolving = resolvingFiles(std::move(items), clip->files);
+        auto resolved = co_await resolving;
         if (life.expired())
             co_return PasteOutcome::failed();
         if (!resolved)
@@ -36,7 +38,8 @@ QCoro::Task<PasteOutcome> PasteEngine::paste(ClipRef clip, std::optional<bool> i
     // The names of files can be pasted whether or not the files may be read.
     if (clip->kind == ClipKind::file && !goesOutPlain && !transform) {
         auto paths = filePaths(items);
-        const auto access = co_await m_system.checkFileAccess(std::move(paths));
+        auto checking = m_system.checkFileAccess(std::move(paths));
+        const auto access = co_await checking;
         if (life.expired())
             co_return PasteOutcome::failed();
         if (access.blocked)
@@ -48,27 +51,32 @@ QCoro::Task<PasteOutcome> PasteEngine::paste(ClipRef clip, std::optional<bool> i
     if (onWritten)
         onWritten(*clip);
     const Date now = m_system.now();
-    co_await m_store->markUsed(clip->id, now);
+    auto marking = m_store->markUsed(clip->id, now);
+    co_await marking;
     if (life.expired())
         co_return PasteOutcome::failed();
-    co_return co_await deliver();
+    auto delivering = deliver();
+    co_return co_await delivering;
 }
 
 QCoro::Task<CopyOutcome> PasteEngine::copy(ClipRef clip) {
     const std::weak_ptr<bool> life = m_life;
-    auto payload = co_await m_store->payload(clip->id);
+    auto loading = m_store->payload(clip->id);
+    auto payload = co_await loading;
     if (life.expired() || !payload)
         co_return CopyOutcome::failed();
     auto items = std::move(payload->items);
     if (clip->kind == ClipKind::file) {
-        auto resolved = co_await resolvingFiles(std::move(items), clip->files);
+        auto resolving = resolvingFiles(std::move(items), clip->files);
+        auto resolved = co_await resolving;
         if (life.expired())
             co_return CopyOutcome::failed();
         if (!resolved)
             co_return CopyOutcome::fileMissing();
         items = std::move(*resolved);
         auto paths = filePaths(items);
-        const auto access = co_await m_system.checkFileAccess(std::move(paths));
+        auto checking = m_system.checkFileAccess(std::move(paths));
+        const auto access = co_await checking;
         if (life.expired())
             co_return CopyOutcome::failed();
         if (access.blocked)
@@ -80,14 +88,16 @@ QCoro::Task<CopyOutcome> PasteEngine::copy(ClipRef clip) {
     if (onWritten)
         onWritten(*clip);
     const Date now = m_system.now();
-    co_await m_store->markUsed(clip->id, now);
+    auto marking = m_store->markUsed(clip->id, now);
+    co_await marking;
     co_return CopyOutcome::copied();
 }
 
 QCoro::Task<PasteOutcome> PasteEngine::pasteText(QString text) {
     if (!PasteboardWriter::writeText(text, *m_system.pasteboard))
         co_return PasteOutcome::failed();
-    co_return co_await deliver();
+    auto delivering = deliver();
+    co_return co_await delivering;
 }
 
 QCoro::Task<PasteOutcome> PasteEngine::deliver() {
@@ -99,7 +109,8 @@ QCoro::Task<PasteOutcome> PasteEngine::deliver() {
     const std::weak_ptr<bool> life = m_life;
     // The field's application is asked while the panel goes; where it answers late, nobody waits for both.
     const auto settling = m_system.sleep(m_system.settleDelay);
-    const bool isSecureInput = co_await m_system.isSecureInput();
+    auto asking = m_system.isSecureInput();
+    const bool isSecureInput = co_await asking;
     if (life.expired())
         co_return PasteOutcome::failed();
     if (isSecureInput)
@@ -109,7 +120,8 @@ QCoro::Task<PasteOutcome> PasteEngine::deliver() {
     if (life.expired())
         co_return PasteOutcome::failed();
     // Keys that reach another window than the user typed in would do there whatever they mean there.
-    const bool hasFocus = co_await m_system.regainFocus();
+    auto regaining = m_system.regainFocus();
+    const bool hasFocus = co_await regaining;
     if (life.expired())
         co_return PasteOutcome::failed();
     if (!hasFocus)
@@ -125,7 +137,8 @@ QCoro::Task<std::optional<std::vector<PasteboardItem>>> PasteEngine::resolvingFi
     auto asked = fileresolution::references(items, files);
     if (asked.empty())
         co_return std::nullopt;
-    const auto statuses = co_await fileStatuses(std::move(asked));
+    auto asking = fileStatuses(std::move(asked));
+    const auto statuses = co_await asking;
     if (!statuses)
         co_return items; // a disk that does not answer proves nothing
     co_return fileresolution::resolved(std::move(items), *statuses);
@@ -139,7 +152,8 @@ QCoro::Task<std::optional<std::vector<FileStatus>>> PasteEngine::fileStatuses(st
         std::ranges::transform(files, std::back_inserter(statuses), check);
         return statuses;
     };
-    co_return co_await m_system.runFileJob(std::move(job));
+    auto running = m_system.runFileJob(std::move(job));
+    co_return co_await running;
 }
 
 QStringList PasteEngine::filePaths(const std::vector<PasteboardItem>& items) {

@@ -50,7 +50,8 @@ void AppDelegate::applicationShouldTerminate() {
 }
 
 QCoro::Task<void> AppDelegate::launch() {
-    auto environment = co_await AppEnvironment::launch(m_platform);
+    auto launching = AppEnvironment::launch(m_platform);
+    auto environment = co_await launching;
     m_environment = std::move(environment);
     m_environment->start();
     if (onStarted)

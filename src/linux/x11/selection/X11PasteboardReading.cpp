@@ -58,8 +58,8 @@ QCoro::Task<> readFileList(std::shared_ptr<State> state) {
     for (const QString& target : {filelist::uriList, filelist::copiedFiles}) {
         if (!state->offer->targets.contains(target))
             continue;
-        const std::shared_ptr<const SelectionBytes> list =
-            co_await readTarget(state, target, QString(), state->maxFileListBytes);
+        auto reading = readTarget(state, target, QString(), state->maxFileListBytes);
+        const std::shared_ptr<const SelectionBytes> list = co_await reading;
         if (list && !list->wasLarger)
             entries = filelist::parse(list->bytes);
         if (!entries.isEmpty())
@@ -78,7 +78,8 @@ QCoro::Task<std::optional<QByteArray>> readRepresentation(std::shared_ptr<State>
         if (!target)
             break;
         candidates.removeAll(*target);
-        const std::shared_ptr<const SelectionBytes> given = co_await readTarget(state, *target, type, maxBytes);
+        auto reading = readTarget(state, *target, type, maxBytes);
+        const std::shared_ptr<const SelectionBytes> given = co_await reading;
         if (!given)
             continue;
         // Text may grow by its decoding.
@@ -159,8 +160,10 @@ QStringList ForeignReading::types() const {
 
 QCoro::Task<std::vector<QStringList>> ForeignReading::itemTypes() {
     const std::shared_ptr<State> state = m_state;
-    if (!state->entries && state->isCurrent() && state->hasFileList())
-        co_await readFileList(state);
+    if (!state->entries && state->isCurrent() && state->hasFileList()) {
+        auto listing = readFileList(state);
+        co_await listing;
+    }
     std::vector<QStringList> items;
     if (state->isCurrent())
         items = state->typesByItem();
@@ -173,8 +176,10 @@ QCoro::Task<std::optional<QByteArray>> ForeignReading::data(qsizetype item, QStr
     // A hint that the copy is a secret is a secret's neighbour: it is not read either.
     if (!state->isCurrent() || item < 0 || type == uniformtype::concealed)
         co_return std::nullopt;
-    if (!state->entries && state->hasFileList())
-        co_await readFileList(state);
+    if (!state->entries && state->hasFileList()) {
+        auto listing = readFileList(state);
+        co_await listing;
+    }
     if (!state->isCurrent())
         co_return std::nullopt;
     if (state->entries && type == uniformtype::fileUrl) {
@@ -186,7 +191,8 @@ QCoro::Task<std::optional<QByteArray>> ForeignReading::data(qsizetype item, QStr
         co_return std::nullopt;
     if (const auto urls = state->entries ? state->entries->urls() : std::nullopt; urls && type == uniformtype::url)
         co_return within(*urls, maxBytes, state->wasLarger);
-    std::optional<QByteArray> bytes = co_await readRepresentation(state, type, maxBytes);
+    auto reading = readRepresentation(state, type, maxBytes);
+    std::optional<QByteArray> bytes = co_await reading;
     co_return bytes;
 }
 
