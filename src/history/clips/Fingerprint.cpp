@@ -20,13 +20,12 @@ constexpr int valueOf(char digit) {
 
 Fingerprint Fingerprint::ofText(QByteArrayView text) {
     Fingerprint fingerprint;
-    auto& bytes = fingerprint.m_bytes;
-    if (text.size() != static_cast<qsizetype>(2 * bytes.size()) ||
-        std::ranges::any_of(text, [](char digit) { return valueOf(digit) < 0; }))
+    const qsizetype size = std::ssize(fingerprint.m_bytes);
+    if (text.size() != 2 * size || std::ranges::any_of(text, [](char digit) { return valueOf(digit) < 0; }))
         return ofCode(QCryptographicHash::hash(text.toByteArray(), QCryptographicHash::Sha256));
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        const auto at = static_cast<qsizetype>(2 * i);
-        bytes[i] = static_cast<char>(valueOf(text[at]) << 4 | valueOf(text[at + 1]));
+    for (qsizetype i = 0; i < size; ++i) {
+        const int byte = valueOf(text[2 * i]) << 4 | valueOf(text[2 * i + 1]);
+        fingerprint.m_bytes[static_cast<std::size_t>(i)] = static_cast<char>(byte);
     }
     return fingerprint;
 }
