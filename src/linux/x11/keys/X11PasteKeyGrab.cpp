@@ -240,6 +240,22 @@ void X11PasteKeyGrab::letGo(quint64 serial, HeldKey::Contents contents, bool loo
         replay();
 }
 
+void X11PasteKeyGrab::retire(std::function<void()> whenGone) {
+    m_grabAgain.stop();
+    if (!m_connection) {
+        whenGone();
+        return;
+    }
+    releaseAll();
+    m_connection->flush();
+    if (m_held && m_listedLook.isActive()) {
+        m_whenGone = std::move(whenGone);
+        return;
+    }
+    replay();
+    whenGone();
+}
+
 void X11PasteKeyGrab::replayWhenListed() {
     if (m_options.wasListed())
         replay();
@@ -257,6 +273,8 @@ void X11PasteKeyGrab::replay() {
     m_held.reset();
     XIAllowEvents(m_connection->display(), m_heldDevice, XIReplayDevice, m_heldTime);
     m_connection->flush();
+    if (const auto whenGone = std::exchange(m_whenGone, nullptr))
+        whenGone();
 }
 
 } // namespace vellumry

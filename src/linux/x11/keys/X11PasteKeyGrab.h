@@ -57,6 +57,9 @@ public:
     /// Nothing for a press that has gone.
     /// With `looksFirst` it goes once the types of what was written have been asked for, or with the limit.
     void letGo(quint64 serial, HeldKey::Contents contents, bool looksFirst);
+    /// Holds no key any more. One that was let go and waits for the look of the program in front goes when it would
+    /// have gone; any other goes at once. `whenGone` is called then. Once, last.
+    void retire(std::function<void()> whenGone);
 
 private:
     using Instant = std::chrono::steady_clock::time_point;
@@ -95,6 +98,7 @@ private:
     QTimer m_servedLook;
     QTimer m_listedLook;
     std::optional<Instant> m_lastPaste;
+    std::function<void()> m_whenGone; ///< set by `retire`
 };
 
 } // namespace vellumry

@@ -49,6 +49,7 @@ X11PasteKeys::X11PasteKeys(Options options)
 
 X11PasteKeys::~X11PasteKeys() {
     stop();
+    endRetired();
     m_link->keys = nullptr;
 }
 
@@ -91,13 +92,30 @@ bool X11PasteKeys::start() {
 void X11PasteKeys::stop() {
     if (!m_thread)
         return;
+    endRetired();
+    const auto released = std::make_shared<std::promise<void>>();
+    const auto isReleased = released->get_future();
+    QMetaObject::invokeMethod(
+        m_grab,
+        [grab = m_grab, thread = m_thread.get(), released] {
+            grab->retire([thread] { thread->quit(); });
+            released->set_value();
+        },
+        Qt::QueuedConnection);
     m_grab = nullptr;
-    m_thread->quit();
+    m_retired = std::move(m_thread);
+    // The keys are free when this returns; whoever starts next wants them.
+    (void)isReleased.wait_for(serverLimit);
+}
+
+void X11PasteKeys::endRetired() {
+    if (!m_retired)
+        return;
     // A server that does not answer keeps its thread; destroying a running one would end the process.
-    if (m_thread->wait(QDeadlineTimer(serverLimit)))
-        m_thread.reset();
+    if (m_retired->wait(QDeadlineTimer(serverLimit)))
+        m_retired.reset();
     else
-        (void)m_thread.release();
+        (void)m_retired.release();
 }
 
 void X11PasteKeys::receive(const X11PasteKeyGrab::Held& held) {

@@ -38,6 +38,8 @@ public:
 
     /// Waits for the X server, a few milliseconds as a rule and a second at most.
     [[nodiscard]] bool start() override;
+    /// The same. A key that was let go and waits for the program in front to look goes when it would have gone: the
+    /// last item of a stack is stopped behind right away.
     void stop() override;
 
 private:
@@ -46,6 +48,7 @@ private:
         X11PasteKeys* keys = nullptr;
     };
 
+    void endRetired();
     void receive(const X11PasteKeyGrab::Held& held);
     void letGo(const X11PasteKeyGrab::Held& held, HeldKey::Contents contents);
     [[nodiscard]] X11PasteKeyGrab::Options grabOptions() const;
@@ -53,7 +56,8 @@ private:
     Options m_options;
     std::shared_ptr<Link> m_link; ///< how keys that wait find back to us; main thread
     std::unique_ptr<QThread> m_thread;
-    X11PasteKeyGrab* m_grab = nullptr; ///< lives and dies on the thread; there as long as the thread is
+    std::unique_ptr<QThread> m_retired; ///< the thread of the last stop, which ends when its key has gone
+    X11PasteKeyGrab* m_grab = nullptr;  ///< lives and dies on the thread; there as long as the thread is
 };
 
 } // namespace vellumry

@@ -235,6 +235,43 @@ TEST_F(X11PasteKeysTest, AProgramThatLooksFirstGetsItsKeyAfterItsLook) {
     EXPECT_TRUE(arrives({{symbolV, control}}));
 }
 
+TEST_F(X11PasteKeysTest, TheLastKeyWaitsForTheLookThoughListeningHasStopped) {
+    std::atomic<bool> wasListed = false;
+    X11PasteKeys::Options looking = options();
+    looking.wasListed = [&wasListed] { return wasListed.load(); };
+    looking.looksFirst = [] { return true; };
+    looking.holdLimit = 60s;
+    X11PasteKeys polite(looking);
+    polite.onPress = [this](const KeyPress& press, std::shared_ptr<HeldKey> key) { presses.push_back({press, key}); };
+    ASSERT_TRUE(polite.start());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    ASSERT_TRUE(isTold(1));
+    letGo();
+    polite.stop();
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_TRUE(waitUntil([&] { return timer.elapsed() > 60; }));
+    collect();
+    EXPECT_TRUE(typed.empty()) << "the program has not looked yet";
+    ASSERT_TRUE(keys.start()) << "the keys are free for whoever comes next";
+    keys.stop();
+    wasListed = true;
+    EXPECT_TRUE(arrives({{symbolV, control}}));
+}
+
+TEST_F(X11PasteKeysTest, AKeyThatNobodyAnsweredGoesWhenListeningStops) {
+    X11PasteKeys::Options patient = options();
+    patient.holdLimit = 60s;
+    X11PasteKeys stopped(patient);
+    std::shared_ptr<HeldKey> kept;
+    stopped.onPress = [&](const KeyPress&, std::shared_ptr<HeldKey> key) { kept = std::move(key); };
+    ASSERT_TRUE(stopped.start());
+    client.chord({KEY_LEFTCTRL, KEY_V});
+    EXPECT_TRUE(waitUntil([&] { return kept != nullptr; }));
+    stopped.stop();
+    EXPECT_TRUE(arrives({{symbolV, control}}));
+}
+
 TEST(InjectedPresses, AreForgottenWhenNobodyListened) {
     InjectedPresses presses;
     const auto now = std::chrono::steady_clock::now();
