@@ -4,6 +4,7 @@
 #include "foundation/FileUrl.h"
 #include "foundation/UniformType.h"
 
+#include <QFileInfo>
 #include <QHash>
 #include <algorithm>
 #include <future>
@@ -40,6 +41,27 @@ std::vector<FileRef> references(const std::vector<PasteboardItem>& items, const 
         result.push_back(file ? *file : FileRef{*path, fileurl::lastPathComponent(*path), std::nullopt});
     }
     return result;
+}
+
+std::vector<FileStatus> statusesOf(const std::vector<FileRef>& files,
+                                   const std::function<FileStatus(const FileRef&)>& check,
+                                   std::chrono::milliseconds budget,
+                                   const std::function<std::chrono::steady_clock::time_point()>& now) {
+    const auto end = now() + budget;
+    std::vector<FileStatus> statuses(files.size());
+    std::vector<std::size_t> gone;
+    for (std::size_t index = 0; index < files.size(); ++index) {
+        if (QFileInfo::exists(files[index].path))
+            statuses[index] = check(files[index]);
+        else
+            gone.push_back(index);
+    }
+    for (const std::size_t index : gone) {
+        statuses[index] = check(files[index]);
+        if (now() >= end)
+            break;
+    }
+    return statuses;
 }
 
 std::optional<std::vector<PasteboardItem>> resolved(std::vector<PasteboardItem> items,
@@ -83,12 +105,8 @@ std::optional<std::vector<PasteboardItem>> resolveNow(std::vector<PasteboardItem
     auto answer = std::make_shared<std::promise<std::vector<FileStatus>>>();
     auto future = answer->get_future();
     try {
-        std::thread([answer, status, asked = references(items, files)] {
-            std::vector<FileStatus> statuses;
-            statuses.reserve(asked.size());
-            for (const auto& file : asked)
-                statuses.push_back(status(file));
-            answer->set_value(std::move(statuses));
+        std::thread([answer, status, budget = limit / 2, asked = references(items, files)] {
+            answer->set_value(statusesOf(asked, status, budget));
         }).detach();
     } catch (const std::system_error&) {
         return items;

@@ -21,6 +21,14 @@ namespace vellumry::fileresolution {
 [[nodiscard]] std::optional<std::vector<PasteboardItem>> resolved(std::vector<PasteboardItem> items,
                                                                   const std::vector<FileStatus>& statuses);
 
+/// One status for each of `files`, by `check`, which may look for a file for a while. Those that are where they were
+/// come first; what is gone is looked for as long as all of them together have taken no more than `budget`, and is
+/// missing after that. Blocks; any thread.
+[[nodiscard]] std::vector<FileStatus>
+statusesOf(const std::vector<FileRef>& files, const std::function<FileStatus(const FileRef&)>& check,
+           std::chrono::milliseconds budget,
+           const std::function<std::chrono::steady_clock::time_point()>& now = std::chrono::steady_clock::now);
+
 /// The paths of the items' files, in their order.
 [[nodiscard]] QStringList paths(const std::vector<PasteboardItem>& items);
 

@@ -6,10 +6,16 @@
 #include "paste/FileResolution.h"
 #include "paste/PasteboardWriter.h"
 
-#include <algorithm>
-#include <iterator>
+#include <chrono>
 
 namespace vellumry {
+
+namespace {
+
+/// For files that are not where they were, all of them together: well within what a whole look at the disk may take.
+constexpr std::chrono::milliseconds lookingTime{1500};
+
+} // namespace
 
 PasteEngine::PasteEngine(ClipStore& store, const UserDefaults& preferences, SystemHooks system)
     : m_store(&store)
@@ -147,10 +153,7 @@ QCoro::Task<std::optional<std::vector<PasteboardItem>>> PasteEngine::resolvingFi
 QCoro::Task<std::optional<std::vector<FileStatus>>> PasteEngine::fileStatuses(std::vector<FileRef> files) {
     // The job owns what it uses: it may outlive the engine on a disk that hangs.
     SystemHooks::FileJob job = [files = std::move(files), check = m_system.fileStatus] {
-        std::vector<FileStatus> statuses;
-        statuses.reserve(files.size());
-        std::ranges::transform(files, std::back_inserter(statuses), check);
-        return statuses;
+        return fileresolution::statusesOf(files, check, lookingTime);
     };
     auto running = m_system.runFileJob(std::move(job));
     co_return co_await running;

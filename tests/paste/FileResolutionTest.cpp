@@ -2,6 +2,7 @@
 #include "paste/FileResolution.h"
 #include "support/Drafts.h"
 
+#include <QTemporaryDir>
 #include <future>
 #include <gtest/gtest.h>
 #include <memory>
@@ -64,6 +65,30 @@ TEST(FileResolution, TakesFilesToBeWhereTheyWereWhenTheDiskHangs) {
     EXPECT_EQ(fileresolution::resolveNow(given, {}, hanging, std::chrono::milliseconds(1)), given);
     answer->set_value();
     isOver->get_future().wait(); // the thread that was left behind ends within the test
+}
+
+TEST(FileResolution, TheLooksForMissingFilesHaveOneBudgetAndTheOthersAreFound) {
+    QTemporaryDir folder;
+    std::vector<FileRef> files;
+    for (int index = 0; index < 300; ++index)
+        files.push_back({folder.filePath(QString::number(index)), QString::number(index), std::nullopt});
+    QFile last(files.back().path);
+    ASSERT_TRUE(last.open(QIODevice::WriteOnly));
+    std::chrono::steady_clock::time_point now;
+    int looks = 0;
+    const auto check = [&](const FileRef& file) {
+        ++looks;
+        if (QFile::exists(file.path))
+            return FileStatus::available(file.path);
+        now += std::chrono::milliseconds(20);
+        return FileStatus::missing();
+    };
+    const auto statuses =
+        fileresolution::statusesOf(files, check, std::chrono::milliseconds(100), [&now] { return now; });
+    ASSERT_EQ(statuses.size(), files.size());
+    EXPECT_EQ(looks, 6) << "the one that is there, and five that are not";
+    EXPECT_EQ(statuses.back(), FileStatus::available(files.back().path));
+    EXPECT_EQ(statuses.front(), FileStatus::missing());
 }
 
 } // namespace vellumry
