@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A reader that misbehaves in the way that the first bytes of the picture ask for: "crash", "hang", "leave" (once, in
 // peace, without an answer), "flood" (says that its answer is endless), "lie" (answers another question), "babble" (no
-// answer at all, but bytes), "blind" (has no engine that reads). Any other picture is answered with the size 7 x 9, and
-// with its first bytes for its text.
+// answer at all, but bytes), "blind" (has no engine that reads), "environment" (tells its variables). Any other picture
+// is answered with the size 7 x 9, and with its first bytes for its text.
 #include "reader/ReaderProtocol.h"
 #include "reader/ReaderSocket.h"
+
+#include <QStringList>
 
 #include <csignal>
 #include <cstdlib>
@@ -25,6 +27,13 @@ void send(const QByteArray& bytes) {
         std::exit(3);
 }
 
+QString environment() {
+    QStringList variables;
+    for (char** variable = environ; *variable; ++variable)
+        variables.append(QString::fromLocal8Bit(*variable));
+    return variables.join(u'\n');
+}
+
 void answer(const readerprotocol::Request& request, const QByteArray& picture) {
     if (picture.startsWith("crash"))
         raise(SIGSEGV);
@@ -41,7 +50,7 @@ void answer(const readerprotocol::Request& request, const QByteArray& picture) {
     reply.lacksEngine = picture.startsWith("blind");
     reply.pixelSize = QSize(7, 9);
     if (request.operation != readerprotocol::Operation::summarise)
-        reply.text = QString::fromUtf8(picture);
+        reply.text = picture.startsWith("environment") ? environment() : QString::fromUtf8(picture);
     send(*readerprotocol::encode(reply));
 }
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/mman.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -141,6 +142,12 @@ TEST(ReaderSandbox, ItIsTheLastInLineAndLeavesNoCore) {
         return getpriority(PRIO_PROCESS, 0) == 19 && core.rlim_max == 0;
     }));
 }
+
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // which look at their own process
+TEST(ReaderSandbox, OtherProcessesOfTheUserCannotLookInside) {
+    EXPECT_TRUE(holdsInside([] { return prctl(PR_GET_DUMPABLE, 0, 0, 0, 0) == 0; }));
+}
+#endif
 
 TEST(ReaderSandbox, WhereSomebodyWaitsItKeepsItsPlace) {
     const int before = getpriority(PRIO_PROCESS, 0);

@@ -77,6 +77,17 @@ TEST(ReaderTextReader, ACrashCostsOnePicture) {
     EXPECT_EQ(awaited(reader.read("words", Mode::fast, usual, 60s)).text, QStringLiteral("words"));
 }
 
+TEST(ReaderTextReader, TheReaderIsToldNoMoreOfTheEnvironmentThanItNeeds) {
+    qputenv("VELLUMRY_TEST_TOKEN", "secret of the session");
+    ReaderTextReader reader(fakeReader);
+    const QString text = awaited(reader.read("environment", Mode::fast, usual, 60s)).text;
+    qunsetenv("VELLUMRY_TEST_TOKEN");
+    EXPECT_TRUE(text.contains(QStringLiteral("OMP_THREAD_LIMIT=1"))) << qPrintable(text);
+    EXPECT_TRUE(text.contains(QStringLiteral("PATH="))) << qPrintable(text);
+    EXPECT_FALSE(text.contains(QStringLiteral("secret"))) << qPrintable(text);
+    EXPECT_FALSE(text.contains(QStringLiteral("HOME="))) << qPrintable(text);
+}
+
 TEST(ReaderTextReader, WithoutAReaderReadingFails) {
     ReaderTextReader reader(QStringLiteral("/no/such/reader"));
     EXPECT_EQ(awaited(reader.read("words", Mode::fast, usual, 60s)).outcome, Outcome::failed);

@@ -2,6 +2,8 @@
 #include "linux/reader/ReaderProcess.h"
 
 #include <QFile>
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
@@ -37,13 +39,21 @@ Descriptor memoryFileOf(const QByteArray& picture) {
     return file;
 }
 
-/// Our environment, in which the recognition library is told to use one thread: more take several times the processor
-/// for nothing. OpenMP reads it when the program is loaded, so that the reader itself would be too late.
+/// What a decoder may know of the user's environment, in which names of hosts, files and secrets stand: where programs
+/// are, the languages, and where the language data is. Sanitizers take their options from it.
+bool isForReader(QByteArrayView variable) {
+    constexpr std::array<QByteArrayView, 8> names{
+        "PATH=", "LANG=", "LANGUAGE=", "LC_", "TZ=", "TESSDATA_PREFIX=", "ASAN_OPTIONS=", "UBSAN_OPTIONS="};
+    return std::ranges::any_of(names, [variable](QByteArrayView name) { return variable.startsWith(name); });
+}
+
+/// The recognition library is told to use one thread: more take several times the processor for nothing. OpenMP reads
+/// it when the program is loaded, so that the reader itself would be too late.
 std::vector<char*> readerEnvironment() {
     static char oneThread[] = "OMP_THREAD_LIMIT=1";
     std::vector<char*> variables{oneThread};
     for (char** variable = environ; *variable; ++variable) {
-        if (!QByteArrayView(*variable).startsWith("OMP_THREAD_LIMIT="))
+        if (isForReader(*variable))
             variables.push_back(*variable);
     }
     variables.push_back(nullptr);
