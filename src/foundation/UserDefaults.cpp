@@ -4,11 +4,15 @@
 #include "foundation/IniFile.h"
 #include "foundation/IniValue.h"
 
+#include "foundation/Logging.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QSet>
 #include <fcntl.h>
+#include <limits>
 #include <sys/stat.h>
 #include <time.h>
 #include <unistd.h>
@@ -17,19 +21,86 @@ namespace vellumry {
 
 namespace {
 
+/// No hand and no program of ours writes more.
+constexpr qint64 mostBytes = 1024 * 1024;
+
 /// What tells one state of a file from the next.
 struct FileState {
     quint64 inode = 0;
     qint64 size = -1;
     qint64 changedNanoseconds = 0;
+    bool isRegular = false;
     bool operator==(const FileState&) const = default;
 };
+
+FileState stateFrom(const struct stat& status) {
+    return {status.st_ino, status.st_size, status.st_mtim.tv_sec * 1'000'000'000 + status.st_mtim.tv_nsec,
+            S_ISREG(status.st_mode)};
+}
 
 FileState stateOf(const QString& path) {
     struct stat status {};
     if (stat(QFile::encodeName(path).constData(), &status) != 0)
         return {};
-    return {status.st_ino, status.st_size, status.st_mtim.tv_sec * 1'000'000'000 + status.st_mtim.tv_nsec};
+    return stateFrom(status);
+}
+
+/// The content of a regular file of a bearable size. Never waits for a writer, as opening a pipe would.
+std::optional<QByteArray> contentOf(const QString& path) {
+    const int descriptor = open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    struct stat status {};
+    const bool isBearable =
+        descriptor >= 0 && fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size <= mostBytes;
+    QFile source;
+    if (!isBearable || !source.open(descriptor, QIODevice::ReadOnly)) {
+        if (descriptor >= 0)
+            close(descriptor);
+        return std::nullopt;
+    }
+    // It may have grown since.
+    QByteArray content = source.read(mostBytes);
+    close(descriptor);
+    return content;
+}
+
+std::optional<qint64> numberIn(const QVariant& value) {
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::LongLong:
+        return value.toLongLong();
+    case QMetaType::QString: {
+        bool isNumber = false;
+        const qint64 number = value.toString().toLongLong(&isNumber);
+        return isNumber ? std::optional(number) : std::nullopt;
+    }
+    case QMetaType::Double: {
+        const double real = value.toDouble();
+        return real > -9.2e18 && real < 9.2e18 ? std::optional(static_cast<qint64>(real)) : std::nullopt;
+    }
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<bool> truthIn(const QVariant& value) {
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        return value.toBool();
+    case QMetaType::LongLong:
+        return value.toLongLong() != 0;
+    case QMetaType::Double:
+        return value.toDouble() != 0;
+    case QMetaType::QString: {
+        const QString text = value.toString().toLower();
+        if (text == u"true" || text == u"yes" || text == u"on" || text == u"1")
+            return true;
+        if (text == u"false" || text == u"no" || text == u"off" || text == u"0")
+            return false;
+        return std::nullopt;
+    }
+    default:
+        return std::nullopt;
+    }
 }
 
 qint64 nowNanoseconds() {
@@ -83,6 +154,14 @@ struct UserDefaults::Private {
     QVariantMap stored;
     FileState state;
     bool mayHaveChangedUnseen = false;
+    bool isUnreadable = false;
+    QSet<QString> refused; ///< keys whose values could not be used, of this state of the file
+
+    void noteUnreadable() {
+        if (!std::exchange(isUnreadable, true))
+            qCWarning(logging::foundation) << "the settings cannot be read: no regular file of at most 1 MiB, or no "
+                                              "permission";
+    }
 
     /// Brings `file` and `stored` to what the disk holds now. False when the file is there and cannot be read.
     bool refresh() {
@@ -93,11 +172,16 @@ struct UserDefaults::Private {
             return true;
         QByteArray content;
         if (found != FileState{}) {
-            QFile source(path);
-            if (!source.open(QIODevice::ReadOnly))
+            auto read = found.isRegular ? contentOf(path) : std::nullopt;
+            if (!read) {
+                noteUnreadable();
                 return false;
-            content = source.readAll();
+            }
+            content = std::move(*read);
         }
+        isUnreadable = false;
+        if (found != state)
+            refused.clear();
         mayHaveChangedUnseen = found != FileState{} && nowNanoseconds() - found.changedNanoseconds < timeStampGrain;
         state = found;
         file = IniFile(content);
@@ -106,6 +190,7 @@ struct UserDefaults::Private {
     }
 
     void change(const QString& key, const QVariant& value) {
+        refused.remove(key);
         unsaved.insert(key, value);
         if (path.isEmpty())
             return;
@@ -171,37 +256,41 @@ std::optional<QStringList> UserDefaults::stringArray(const QString& key) const {
 }
 
 qint64 UserDefaults::integer(const QString& key) const {
+    return integer(key, std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max());
+}
+
+qint64 UserDefaults::integer(const QString& key, qint64 least, qint64 most) const {
     const QVariant value = object(key);
-    switch (value.typeId()) {
-    case QMetaType::Bool:
-    case QMetaType::LongLong:
-    case QMetaType::QString:
-        return value.toLongLong();
-    case QMetaType::Double: {
-        const double real = value.toDouble();
-        return real > -9.2e18 && real < 9.2e18 ? static_cast<qint64>(real) : 0;
-    }
-    default:
-        return 0;
-    }
+    const std::optional<qint64> number = numberIn(value);
+    if (number && *number >= least && *number <= most)
+        return *number;
+    if (value.isValid())
+        refuse(key);
+    return numberIn(d->registered.value(key)).value_or(0);
 }
 
 bool UserDefaults::boolean(const QString& key) const {
     const QVariant value = object(key);
-    switch (value.typeId()) {
-    case QMetaType::Bool:
-        return value.toBool();
-    case QMetaType::LongLong:
-        return value.toLongLong() != 0;
-    case QMetaType::Double:
-        return value.toDouble() != 0;
-    case QMetaType::QString: {
-        const QString text = value.toString().toLower();
-        return text == u"true" || text == u"yes" || text == u"on" || text == u"1";
-    }
-    default:
-        return false;
-    }
+    const std::optional<bool> truth = truthIn(value);
+    if (truth)
+        return *truth;
+    if (value.isValid())
+        refuse(key);
+    return truthIn(d->registered.value(key)).value_or(false);
+}
+
+void UserDefaults::refuse(const QString& key) const {
+    if (d->refused.contains(key))
+        return;
+    d->refused.insert(key);
+    qCWarning(logging::foundation).noquote()
+        << "the value of the setting" << key << "cannot be used; its default holds";
+}
+
+QStringList UserDefaults::refusedKeys() const {
+    QStringList keys = d->refused.values();
+    keys.sort();
+    return keys;
 }
 
 void UserDefaults::setObject(const QString& key, const QVariant& value) {

@@ -11,8 +11,9 @@
 namespace vellumry {
 
 /// One domain of settings over an INI file (group [General]). Keeps no copy: a change made to the file by another
-/// program counts at the next read. A write is atomic and durable when the call returns; a file that cannot be written
-/// keeps its old content and the new value holds for this run. Main thread.
+/// program counts at the next read. Only a regular file of at most 1 MiB is read; what else stands in its place counts
+/// as a file that cannot be read: what was known of it holds. A write is atomic and durable when the call returns; a
+/// file that cannot be written keeps its old content and the new value holds for this run. Main thread.
 class UserDefaults {
 public:
     /// `path` need not exist. Its folder is made at the first write, mode 700; the file gets mode 600.
@@ -32,10 +33,17 @@ public:
     [[nodiscard]] std::optional<QString> string(const QString& key) const;
     /// A single text, as a hand writes it into the file, is a list of one; an empty text is an empty list.
     [[nodiscard]] std::optional<QStringList> stringArray(const QString& key) const;
-    /// 0 for what is no number.
+    /// The registered value for what is no number, 0 without one.
     [[nodiscard]] qint64 integer(const QString& key) const;
-    /// False for what is neither a truth value nor a number.
+    /// The same, for what is not within the bounds too.
+    [[nodiscard]] qint64 integer(const QString& key, qint64 least, qint64 most) const;
+    /// The registered value for what is neither a truth value nor a number, false without one.
     [[nodiscard]] bool boolean(const QString& key) const;
+
+    /// Notes that the value of `key` could not be used, with a line in the log; once for each state of the file.
+    void refuse(const QString& key) const;
+    /// The keys whose values could not be used, as far as they were read.
+    [[nodiscard]] QStringList refusedKeys() const;
 
     void setObject(const QString& key, const QVariant& value);
     /// Back to the registered default.

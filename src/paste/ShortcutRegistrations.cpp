@@ -42,7 +42,11 @@ void ShortcutRegistrations::addChosen(const QString& key, const Shortcut& standa
                                       QStringList& problems) {
     if (!action)
         return;
-    const Shortcut shortcut = Shortcut::fromStored(m_preferences.object(key)).value_or(standard);
+    const QVariant stored = m_preferences.object(key);
+    const std::optional<Shortcut> chosen = Shortcut::fromStored(stored);
+    if (stored.isValid() && !chosen)
+        m_preferences.refuse(key);
+    const Shortcut shortcut = chosen.value_or(standard);
     if (add(shortcut, action))
         return;
     qCWarning(logging::paste).noquote() << "the shortcut of" << key << "is held by another program or has no key";

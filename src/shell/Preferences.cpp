@@ -9,6 +9,10 @@ namespace vellumry {
 
 namespace {
 
+constexpr qint64 mostDays = 1'000'000;
+/// More would not fit into the number of their bytes.
+constexpr qint64 mostMegabytes = std::numeric_limits<qint64>::max() >> 20;
+
 const QString panelPositionsKey = QStringLiteral("panelPositions");
 
 QVariantMap registeredDefaults() {
@@ -33,10 +37,12 @@ QVariantMap registeredDefaults() {
         {QStringLiteral("pasteDirectly"), true},
         {QStringLiteral("plainTextByDefault"), false},
         {QStringLiteral("saveNewScreenshots"), false},
+        {QStringLiteral("greeted"), false},
         {QStringLiteral("onboardingDone"), false},
         {QStringLiteral("pinnedShortcutsEnabled"), true},
         {QStringLiteral("soundWhenPasting"), false},
         {QStringLiteral("appearance"), QStringLiteral("system")},
+        {QStringLiteral("terminalApps"), QStringList()},
     };
 }
 
@@ -78,15 +84,12 @@ Preferences::Preferences(UserDefaults& defaults)
 
 RetentionPolicy Preferences::retentionPolicy() const {
     RetentionPolicy policy;
-    const qint64 days = m_defaults->integer(QStringLiteral("keepForDays"));
+    const qint64 days = m_defaults->integer(QStringLiteral("keepForDays"), -mostDays, mostDays);
     if (days >= 1)
         policy.maxAge = static_cast<double>(days) * 86'400.0;
-    policy.maxCount = std::max<qint64>(1, m_defaults->integer(QStringLiteral("keepAtMost")));
-    const qint64 megabytes = std::max<qint64>(1, m_defaults->integer(QStringLiteral("mediaLimitMB")));
-    // A limit that went round to below zero would cost the user every picture.
-    if (megabytes > std::numeric_limits<qint64>::max() >> 20)
-        qFatal("mediaLimitMB is out of range");
-    policy.maxMediaBytes = megabytes << 20;
+    // A value that is none must not cost the user the history: it is the default, not the floor.
+    policy.maxCount = m_defaults->integer(QStringLiteral("keepAtMost"), 1, std::numeric_limits<qint64>::max());
+    policy.maxMediaBytes = m_defaults->integer(QStringLiteral("mediaLimitMB"), 1, mostMegabytes) << 20;
     return policy;
 }
 
@@ -96,7 +99,13 @@ Preferences::Appearance Preferences::appearance() const {
         return Appearance::light;
     if (stored == QLatin1String("dark"))
         return Appearance::dark;
+    if (stored != QLatin1String("system"))
+        m_defaults->refuse(QStringLiteral("appearance"));
     return Appearance::system;
+}
+
+QStringList Preferences::terminalApps(const UserDefaults& defaults) {
+    return defaults.stringArray(QStringLiteral("terminalApps")).value_or(QStringList());
 }
 
 void Preferences::setIgnoredApps(const QStringList& identifiers) {

@@ -12,7 +12,7 @@ namespace vellumry {
 
 /// The user's settings: the one place where their keys and defaults stand. Keeps no value itself; every read goes to
 /// the domain, so that a change made anywhere counts at the next read. Absent, malformed and out-of-range values read
-/// as the default, the floor or nothing. Main thread.
+/// as the default or nothing, and are named once in the log. Main thread.
 class Preferences {
 public:
     enum class Appearance { system, light, dark };
@@ -26,6 +26,8 @@ public:
 
     [[nodiscard]] RetentionPolicy retentionPolicy() const;
     [[nodiscard]] Appearance appearance() const;
+    /// The user's own list of terminals, which paste on another key (TerminalApps.h).
+    [[nodiscard]] static QStringList terminalApps(const UserDefaults& defaults);
     void setIgnoredApps(const QStringList& identifiers);
 
     /// The stored shortcut; nothing when none was chosen or it cannot be read.

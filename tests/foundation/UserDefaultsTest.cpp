@@ -16,6 +16,7 @@ class UserDefaultsFile : public testing::Test {
 protected:
     QString path() const { return m_folder.filePath(QStringLiteral("Vellumry/Vellumry.conf")); }
     void writeByHand(const QByteArray& text) {
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(path()).path()));
         QFile file(path());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text);
@@ -80,6 +81,56 @@ TEST_F(UserDefaultsFile, AValueOfTheWrongTypeReadsAsAbsent) {
     EXPECT_FALSE(defaults.boolean(key));
     defaults.setObject(key, 1e300);
     EXPECT_EQ(defaults.integer(key), 0);
+}
+
+TEST_F(UserDefaultsFile, AValueThatCannotBeUsedIsTheRegisteredDefault) {
+    UserDefaults defaults(path());
+    const QString flag = QStringLiteral("flag");
+    defaults.registerDefaults({{key, 7}, {flag, true}});
+    for (const char* value : {"many", "-5", "101", "1e300", "a, b", ""}) {
+        writeByHand("[General]\nkey=" + QByteArray(value) + "\nflag=perhaps\n");
+        EXPECT_EQ(defaults.integer(key, 1, 100), 7) << value;
+        EXPECT_TRUE(defaults.boolean(flag));
+        EXPECT_EQ(defaults.refusedKeys(), QStringList({flag, key}));
+    }
+    writeByHand("[General]\nkey=\"100\"\nflag=off\n");
+    EXPECT_EQ(defaults.integer(key, 1, 100), 100);
+    EXPECT_FALSE(defaults.boolean(flag));
+    EXPECT_EQ(defaults.refusedKeys(), QStringList());
+}
+
+TEST_F(UserDefaultsFile, EachRefusedValueIsNamedInTheLogOnceAndNeverQuoted) {
+    UserDefaults defaults(path());
+    writeByHand("[General]\nkey=my secret\n");
+    testing::internal::CaptureStderr();
+    for (int read = 0; read < 3; ++read)
+        (void)defaults.integer(key);
+    const std::string log = testing::internal::GetCapturedStderr();
+    EXPECT_NE(log.find("the setting key"), std::string::npos) << log;
+    EXPECT_EQ(log.find("the setting key"), log.rfind("the setting key")) << log;
+    EXPECT_EQ(log.find("secret"), std::string::npos) << log;
+}
+
+TEST_F(UserDefaultsFile, APipeInItsPlaceIsNotWaitedFor) {
+    UserDefaults defaults(path());
+    defaults.setObject(key, 5);
+    EXPECT_EQ(defaults.integer(key), 5);
+    ASSERT_TRUE(QFile::remove(path()));
+    ASSERT_EQ(mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
+    EXPECT_EQ(defaults.integer(key), 5) << "what was known of it holds";
+    EXPECT_EQ(UserDefaults(path()).integer(key), 0);
+}
+
+TEST_F(UserDefaultsFile, AnEndlessOrHugeFileIsNotRead) {
+    UserDefaults defaults(path());
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(path()).path()));
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/zero"), path()));
+    EXPECT_EQ(defaults.integer(key), 0);
+    ASSERT_TRUE(QFile::remove(path()));
+    writeByHand("[General]\nkey=5\n#" + QByteArray(1024 * 1024, 'x') + "\n");
+    EXPECT_EQ(defaults.integer(key), 0);
+    writeByHand("[General]\nkey=5\n#" + QByteArray(1024 * 1024 - 100, 'x') + "\n");
+    EXPECT_EQ(defaults.integer(key), 5);
 }
 
 TEST_F(UserDefaultsFile, ARemovedValueFallsBackToTheDefault) {

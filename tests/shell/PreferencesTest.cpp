@@ -34,23 +34,35 @@ TEST_F(PreferencesTest, AnAgeLimitNeedsAtLeastOneDay) {
     EXPECT_EQ(preferences.retentionPolicy().maxAge, 172'800.0);
 }
 
-TEST_F(PreferencesTest, CountAndMediaHaveAFloor) {
-    defaults.setObject(QStringLiteral("keepAtMost"), 0);
-    defaults.setObject(QStringLiteral("mediaLimitMB"), 0);
+TEST_F(PreferencesTest, ACountThatIsNoneDoesNotCostTheHistory) {
+    for (const QVariant& value : {QVariant(0), QVariant(-5), QVariant(QStringLiteral("many"))}) {
+        defaults.setObject(QStringLiteral("keepAtMost"), value);
+        EXPECT_EQ(preferences.retentionPolicy().maxCount, 5000) << qPrintable(value.toString());
+        EXPECT_EQ(defaults.refusedKeys(), QStringList{QStringLiteral("keepAtMost")});
+    }
+    defaults.setObject(QStringLiteral("keepAtMost"), 1);
     EXPECT_EQ(preferences.retentionPolicy().maxCount, 1);
-    EXPECT_EQ(preferences.retentionPolicy().maxMediaBytes, 1'048'576);
 }
 
-TEST_F(PreferencesTest, AMediaLimitBeyondAllDisksStopsTheProgramBeforeAnythingIsLost) {
+TEST_F(PreferencesTest, AMediaLimitOutOfRangeIsTheDefault) {
     defaults.setObject(QStringLiteral("mediaLimitMB"), qint64{8'796'093'022'207});
     EXPECT_EQ(preferences.retentionPolicy().maxMediaBytes, 9'223'372'036'853'727'232);
-    defaults.setObject(QStringLiteral("mediaLimitMB"), qint64{8'796'093'022'208});
-    EXPECT_DEATH((void)preferences.retentionPolicy(), "mediaLimitMB is out of range");
+    for (const qint64 value : {qint64{8'796'093'022'208}, std::numeric_limits<qint64>::max(), qint64{0}, qint64{-1}}) {
+        defaults.setObject(QStringLiteral("mediaLimitMB"), value);
+        EXPECT_EQ(preferences.retentionPolicy().maxMediaBytes, 1024LL * 1'048'576) << value;
+    }
+}
+
+TEST_F(PreferencesTest, TheUsersTerminalsAreNoneUntilTheyAreNamed) {
+    EXPECT_EQ(Preferences::terminalApps(defaults), QStringList());
+    defaults.setObject(QStringLiteral("terminalApps"), QStringList{QStringLiteral("mine"), QStringLiteral("!xterm")});
+    EXPECT_EQ(Preferences::terminalApps(defaults), QStringList({QStringLiteral("mine"), QStringLiteral("!xterm")}));
 }
 
 TEST_F(PreferencesTest, AnUnknownAppearanceIsTheSystems) {
     defaults.setObject(QStringLiteral("appearance"), QStringLiteral("blue"));
     EXPECT_EQ(preferences.appearance(), Preferences::Appearance::system);
+    EXPECT_EQ(defaults.refusedKeys(), QStringList{QStringLiteral("appearance")});
     defaults.setObject(QStringLiteral("appearance"), QStringLiteral("dark"));
     EXPECT_EQ(preferences.appearance(), Preferences::Appearance::dark);
 }
