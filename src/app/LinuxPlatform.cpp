@@ -24,6 +24,7 @@
 #include "linux/x11/windows/X11FrontmostApplication.h"
 #include "linux/x11/windows/X11PanelSurface.h"
 #include "linux/x11/windows/XlibConnection.h"
+#include "shell/Preferences.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -49,9 +50,7 @@ std::optional<Reason> addDisplay(Platform& platform) {
     const auto focus = std::make_shared<X11Focus>(connection);
     X11PasteTarget::Options options;
     options.offerAsPrimary = [board = pasteboard.get()] { return board->offerAsPrimary(); };
-    options.terminalApps = [defaults = platform.defaults.get()] {
-        return defaults->stringArray(QStringLiteral("terminalApps")).value_or(QStringList());
-    };
+    options.terminalApps = [defaults = platform.defaults.get()] { return Preferences::terminalApps(*defaults); };
     options.isPasswordField = [focus = std::make_shared<PasswordFocus>()](qint64 process) {
         return focus->isIn(process);
     };
@@ -88,7 +87,8 @@ OrReason<Platform> makeLinuxPlatform() {
     platform.home = QDir::homePath();
     platform.dataHome = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     const QString settings = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    platform.defaults = std::make_unique<UserDefaults>(settings + QStringLiteral("/Vellumry/Vellumry.conf"));
+    platform.settingsFolder = settings + QStringLiteral("/Vellumry");
+    platform.defaults = std::make_unique<UserDefaults>(platform.settingsFolder + QStringLiteral("/Vellumry.conf"));
     if (auto problem = addDisplay(platform))
         return std::unexpected(std::move(*problem));
     platform.singleInstance = std::make_unique<DBusSingleInstance>();

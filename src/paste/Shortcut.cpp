@@ -84,9 +84,10 @@ QByteArray Shortcut::toJson() const {
 }
 
 std::optional<Shortcut> Shortcut::fromStored(const QVariant& value) {
-    if (value.typeId() != QMetaType::QByteArray)
+    // Data as the program writes it, text as a hand does.
+    if (value.typeId() != QMetaType::QByteArray && value.typeId() != QMetaType::QString)
         return std::nullopt;
-    const auto object = QJsonDocument::fromJson(value.toByteArray()).object();
+    const auto object = QJsonDocument::fromJson(value.toString().toUtf8()).object();
     const auto keyCode = unsigned32(object.value(u"keyCode"));
     const auto modifiers = unsigned32(object.value(u"modifiers"));
     if (!keyCode || !modifiers)

@@ -3,13 +3,15 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vellumry.Views
 
-// A title, a sentence or two, one button.
+// A title, a sentence or two, one button; or two, of which the plain one does what is asked about.
 Rectangle {
     id: root
 
     required property string title
     required property string message
     required property string button
+    property string action
+    signal confirmed
     signal answered
 
     width: 440
@@ -52,37 +54,34 @@ Rectangle {
             width: parent.width
             height: 44
 
-            Rectangle {
-                id: key
+            Row {
                 anchors {
                     right: parent.right
                     bottom: parent.bottom
                 }
-                width: Math.max(96, label.implicitWidth + 40)
-                height: 34
-                radius: 8
-                color: area.containsPress ? "#1f5fd0" : "#2a6fe8"
-                focus: true
-                Accessible.role: Accessible.Button
-                Accessible.name: root.button
-                Accessible.onPressAction: root.answered()
-                Keys.onReturnPressed: root.answered()
-                Keys.onEnterPressed: root.answered()
-                Keys.onSpacePressed: root.answered()
-                Keys.onEscapePressed: root.answered()
+                spacing: 10
 
-                Label {
-                    id: label
-                    anchors.centerIn: parent
-                    text: root.button
-                    color: "white"
-                    font.pixelSize: 14
-                    font.weight: Font.Medium
+                AlertButton {
+                    id: actionKey
+                    visible: root.action.length > 0
+                    text: root.action
+                    isPlain: true
+                    KeyNavigation.tab: key
+                    KeyNavigation.right: key
+                    onPressed: {
+                        root.confirmed();
+                        root.answered();
+                    }
+                    onCancelled: root.answered()
                 }
-                MouseArea {
-                    id: area
-                    anchors.fill: parent
-                    onClicked: root.answered()
+                AlertButton {
+                    id: key
+                    text: root.button
+                    focus: true
+                    KeyNavigation.tab: actionKey.visible ? actionKey : key
+                    KeyNavigation.left: actionKey.visible ? actionKey : key
+                    onPressed: root.answered()
+                    onCancelled: root.answered()
                 }
             }
         }

@@ -11,15 +11,28 @@
 namespace vellumry {
 
 AlertWindow::AlertWindow(const StartupAlert& alert, ViewEngine& views)
+    : AlertWindow(QVariantMap{{QStringLiteral("title"), alert.title},
+                              {QStringLiteral("message"), alert.text},
+                              {QStringLiteral("button"), localised("OK")}},
+                  views) {}
+
+AlertWindow::AlertWindow(const Question& question, ViewEngine& views)
+    : AlertWindow(QVariantMap{{QStringLiteral("title"), question.title},
+                              {QStringLiteral("message"), question.text},
+                              {QStringLiteral("button"), question.cancel},
+                              {QStringLiteral("action"), question.confirm}},
+                  views) {}
+
+AlertWindow::AlertWindow(const QVariantMap& properties, ViewEngine& views)
     : m_view(views.makeWindow(QStringLiteral("Vellumry"))) {
     m_view->setResizeMode(QQuickView::SizeViewToRootObject);
-    m_view->setInitialProperties({{QStringLiteral("title"), alert.title},
-                                  {QStringLiteral("message"), alert.text},
-                                  {QStringLiteral("button"), localised("OK")}});
+    m_view->setInitialProperties(properties);
     m_view->setSource(QUrl(QStringLiteral("qrc:/vellumry/Vellumry/Shell/AlertView.qml")));
     m_view->installEventFilter(this);
-    if (QQuickItem* root = m_view->rootObject())
+    if (QQuickItem* root = m_view->rootObject()) {
+        connect(root, SIGNAL(confirmed()), this, SLOT(confirm()));
         connect(root, SIGNAL(answered()), m_view.get(), SLOT(close()));
+    }
 }
 
 AlertWindow::~AlertWindow() = default;
@@ -38,6 +51,11 @@ bool AlertWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_view.get() && event->type() == QEvent::Close)
         finish();
     return QObject::eventFilter(watched, event);
+}
+
+void AlertWindow::confirm() {
+    if (onConfirmed)
+        onConfirmed();
 }
 
 void AlertWindow::finish() {

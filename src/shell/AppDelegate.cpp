@@ -7,6 +7,7 @@
 #include "shell/StatusReport.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QPointer>
 #include <algorithm>
 #include <iterator>
@@ -88,10 +89,20 @@ void AppDelegate::reopen() {
 void AppDelegate::perform(const QString& action) {
     if (!m_environment)
         return;
-    if (action == QLatin1String("open-panel"))
-        m_environment->togglePanel();
-    else if (action == QLatin1String("toggle-stack"))
-        m_environment->toggleStack();
+    static const QHash<QString, void (AppEnvironment::*)()> actions{
+        {QStringLiteral("open-panel"), &AppEnvironment::togglePanel},
+        {QStringLiteral("toggle-stack"), &AppEnvironment::toggleStack},
+        {QStringLiteral("pause"), &AppEnvironment::togglePause},
+        {QStringLiteral("ignore-next"), &AppEnvironment::toggleIgnoreNext},
+        {QStringLiteral("toggle-screenshots"), &AppEnvironment::toggleScreenshots},
+        {QStringLiteral("clear"), &AppEnvironment::askToClear},
+    };
+    if (const auto wanted = actions.value(action))
+        (m_environment.get()->*wanted)();
+    else if (action == QLatin1String("quit"))
+        QCoreApplication::quit();
+    else
+        qCWarning(logging::shell) << "an unknown action was asked for";
 }
 
 } // namespace vellumry

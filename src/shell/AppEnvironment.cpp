@@ -11,8 +11,10 @@
 #include "shell/AlertWindow.h"
 #include "shell/HistoryFolder.h"
 #include "shell/PasteSound.h"
+#include "shell/StartMessages.h"
 #include "shell/StartupAlert.h"
 
+#include <algorithm>
 #include <chrono>
 
 namespace vellumry {
@@ -24,6 +26,8 @@ using namespace std::chrono_literals;
 constexpr auto maintenanceInterval = 15s;
 constexpr auto warmUpDelay = 1500ms;
 constexpr double lowDiskSilence = 3600.0;
+/// Longer than a word on what the user has just done: this comes unasked.
+constexpr int startMessageSeconds = 6;
 
 PanelController::Appearance panelAppearance(Preferences::Appearance appearance) {
     switch (appearance) {
@@ -122,11 +126,7 @@ PanelController::Hooks AppEnvironment::panelHooks() {
     hooks.setPosition = [this](std::optional<placement::Fractions> position, const QString& display) {
         m_preferences->setPanelPosition(position, display);
     };
-    hooks.openPanelKeys = [this] {
-        return m_preferences->shortcut(QStringLiteral("openPanelShortcut"))
-            .value_or(Shortcut::openPanelDefault())
-            .display(*m_platform->keyboard);
-    };
+    hooks.openPanelKeys = [this] { return openPanelKeys(); };
     hooks.keyCodeOf = [this](quint32 scanCode) { return m_platform->keyboard->keyCodeOfScanCode(scanCode); };
     hooks.showToast = [this](const ToastMessage& message) { showToast(message); };
     return hooks;
@@ -180,13 +180,54 @@ void AppEnvironment::wireScreenshots() {
 void AppEnvironment::start() {
     m_panel->setAppearance(panelAppearance(m_preferences->appearance()));
     m_watcher->start();
-    (void)reloadShortcuts();
+    tellOfStart(reloadShortcuts());
+    watchSettings();
     startMaintenance();
     m_store->enforceRetention(m_platform->clock());
     m_screenshotSaving->startIfWanted();
     m_textReading->scheduleBacklog();
     showStartupAlert();
     QTimer::singleShot(warmUpDelay, this, [this] { m_panel->warmUp(); });
+}
+
+void AppEnvironment::watchSettings() {
+    SettingsWatch::Reactions reactions;
+    reactions.shortcuts = [this] {
+        for (const QString& problem : reloadShortcuts())
+            showToast({QStringLiteral("exclamationmark.triangle.fill"), problem, ToastMessage::Tone::warning});
+    };
+    reactions.appearance = [this] { m_panel->setAppearance(panelAppearance(m_preferences->appearance())); };
+    reactions.screenshots = [this] { m_screenshotSaving->follow(); };
+    m_settingsWatch = std::make_unique<SettingsWatch>(*m_platform->defaults, std::move(reactions));
+    m_settingsWatch->start(*m_platform->folders, m_platform->settingsFolder);
+}
+
+void AppEnvironment::tellOfStart(const QStringList& shortcutProblems) {
+    StartNews news;
+    news.isFirstStart = !m_platform->defaults->boolean(QStringLiteral("greeted"));
+    news.isWaylandSession = m_platform->isWaylandSession;
+    news.openPanelKeys = openPanelKeys();
+    news.shortcutProblems = shortcutProblems;
+    m_startMessages = startMessages(news);
+    std::ranges::reverse(m_startMessages);
+    if (news.isFirstStart)
+        m_platform->defaults->setObject(QStringLiteral("greeted"), true);
+    showNextStartMessage();
+}
+
+void AppEnvironment::showNextStartMessage() {
+    if (m_startMessages.empty())
+        return;
+    m_toast->show(m_startMessages.back(), startMessageSeconds, m_platform->panelSurface->screenUnderPointer());
+    m_startMessages.pop_back();
+    QTimer::singleShot(std::chrono::duration<int>(startMessageSeconds + 1), this,
+                       &AppEnvironment::showNextStartMessage);
+}
+
+QString AppEnvironment::openPanelKeys() const {
+    return m_preferences->shortcut(QStringLiteral("openPanelShortcut"))
+        .value_or(Shortcut::openPanelDefault())
+        .display(*m_platform->keyboard);
 }
 
 void AppEnvironment::openPanel() {
@@ -227,6 +268,7 @@ void AppEnvironment::startMaintenance() {
 }
 
 void AppEnvironment::runMaintenance() {
+    m_settingsWatch->look();
     m_store->setPolicy(m_preferences->retentionPolicy());
     m_store->enforceRetention(m_platform->clock());
     if (!m_panel->isVisible() && std::exchange(m_hasWorked, false))

@@ -12,6 +12,7 @@
 #include "shell/Platform.h"
 #include "shell/Preferences.h"
 #include "shell/ScreenshotSaving.h"
+#include "shell/SettingsWatch.h"
 #include "shell/StackHUDController.h"
 #include "shell/TextReading.h"
 #include "shell/ToastController.h"
@@ -47,6 +48,13 @@ public:
     /// Stops the Paste Stack when it runs, else starts it, with the clips that are selected in the open panel when they
     /// are several.
     void toggleStack();
+    /// No capture until it is called again; what was copied meanwhile stays out.
+    void togglePause();
+    void toggleIgnoreNext();
+    void toggleScreenshots();
+    /// Clears the history, pins aside, once the user has said yes.
+    void askToClear();
+    [[nodiscard]] bool isPaused() const;
     /// Registers the global shortcuts anew; one sentence for each that another program holds.
     QStringList reloadShortcuts();
     void suspendShortcuts(bool isSuspended);
@@ -71,6 +79,7 @@ private:
                    bool isMemoryOnly);
 
     [[nodiscard]] SystemHooks systemHooks();
+    [[nodiscard]] QString openPanelKeys() const;
     [[nodiscard]] PanelController::Hooks panelHooks();
     void wire();
     void wireCapture();
@@ -80,6 +89,9 @@ private:
     [[nodiscard]] std::vector<ClipRef> stackSeed();
     void startMaintenance();
     void runMaintenance();
+    void watchSettings();
+    void tellOfStart(const QStringList& shortcutProblems);
+    void showNextStartMessage();
     void showStartupAlert();
     void showLowDiskToast();
 
@@ -99,7 +111,10 @@ private:
     std::unique_ptr<StackWiring> m_stack;
     std::unique_ptr<StackHUDController> m_stackHUD;
     std::unique_ptr<ShortcutRegistrations> m_shortcuts;
+    std::unique_ptr<SettingsWatch> m_settingsWatch;
+    std::vector<ToastMessage> m_startMessages; ///< what is still to be told of the start, the next one last
     std::unique_ptr<AlertWindow> m_alert;
+    std::unique_ptr<AlertWindow> m_question;
     QTimer m_maintenance{this};
     QString m_imageVolume;
     std::optional<Date> m_lastLowDiskWarning;

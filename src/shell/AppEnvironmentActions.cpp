@@ -1,10 +1,59 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// What the user asks of the program outside its windows: by a menu, a key binding of the desktop, or `--action`.
 #include "shell/AppEnvironment.h"
+
+#include "foundation/Localisation.h"
+#include "shell/AlertWindow.h"
 #include "shell/StatusReport.h"
 
 #include <algorithm>
 
 namespace vellumry {
+
+bool AppEnvironment::isPaused() const {
+    return m_watcher->pausedUntil && *m_watcher->pausedUntil > m_platform->clock();
+}
+
+void AppEnvironment::togglePause() {
+    if (!isPaused()) {
+        m_watcher->pause(std::nullopt, m_platform->clock());
+        showToast({QStringLiteral("eye.slash.fill"), localised("Paused. Nothing you copy is saved until you resume"),
+                   ToastMessage::Tone::info});
+        return;
+    }
+    m_watcher->pausedUntil.reset();
+    // What was copied meanwhile stays out of the history.
+    m_watcher->lastChangeCount = m_platform->pasteboard->changeCount();
+    showToast({QStringLiteral("checkmark.circle.fill"), localised("Resumed. What you copy is saved again"),
+               ToastMessage::Tone::success});
+}
+
+void AppEnvironment::toggleIgnoreNext() {
+    m_watcher->ignoreNextCopy = !m_watcher->ignoreNextCopy;
+    showToast({QStringLiteral("eye.slash.fill"),
+               m_watcher->ignoreNextCopy ? localised("Your next copy won't be saved")
+                                         : localised("Your next copy will be saved"),
+               ToastMessage::Tone::info});
+}
+
+void AppEnvironment::toggleScreenshots() {
+    m_screenshotSaving->toggle();
+}
+
+void AppEnvironment::askToClear() {
+    if (m_question) {
+        m_question->show();
+        return;
+    }
+    m_question =
+        std::make_unique<AlertWindow>(AlertWindow::Question{localised("Clear your clipboard history?"),
+                                                            localised("Pinned clips are kept. This can't be undone."),
+                                                            localised("Clear History"), localised("Cancel")},
+                                      m_views);
+    m_question->onConfirmed = [this] { m_store->clearHistory(true); };
+    m_question->onDone = [this] { m_question.release()->deleteLater(); };
+    m_question->show();
+}
 
 void AppEnvironment::describe(StatusReport& report) const {
     const auto& clips = m_store->clips();
@@ -16,13 +65,10 @@ void AppEnvironment::describe(StatusReport& report) const {
     report.history = history;
     if (!history.isMemoryOnly)
         report.bytesOnDisk = historyBytes(m_imageVolume);
-    StatusReport::Capture capture;
-    capture.isPaused = m_watcher->pausedUntil && *m_watcher->pausedUntil > m_platform->clock();
-    capture.ignoresNext = m_watcher->ignoreNextCopy;
-    capture.savesScreenshots = m_screenshots->isWatching();
-    capture.overtakenCopies = m_watcher->overtakenCopies();
-    report.capture = capture;
+    report.capture = {isPaused(), m_watcher->ignoreNextCopy, m_screenshots->isWatching(),
+                      m_watcher->overtakenCopies()};
     report.takenShortcuts = m_shortcuts->takenKeys();
+    report.refusedSettings = m_platform->defaults->refusedKeys();
 }
 
 } // namespace vellumry

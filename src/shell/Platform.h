@@ -64,6 +64,8 @@ struct Platform {
     bool isConfined = false;
     /// The folder that holds the application's own folder: $XDG_DATA_HOME.
     QString dataHome;
+    /// The folder of the settings file, which is watched; empty: a change counts within 15 seconds.
+    QString settingsFolder;
     /// The user's home folder.
     QString home;
 };

@@ -25,6 +25,8 @@ QCoro::Task<void> ScreenshotSaving::startIfWanted() {
 }
 
 QCoro::Task<bool> ScreenshotSaving::setSaving(bool isWanted) {
+    m_isWanted = isWanted;
+    const quint64 request = ++m_requestCount;
     if (!isWanted) {
         m_defaults->setObject(preference, false);
         m_importer->stop();
@@ -33,10 +35,19 @@ QCoro::Task<bool> ScreenshotSaving::setSaving(bool isWanted) {
     const QPointer<ScreenshotSaving> self(this);
     auto starting = m_importer->start();
     const bool isWatching = co_await starting;
-    if (!self)
+    if (!self || request != m_requestCount)
         co_return false;
+    m_isWanted = isWatching;
     m_defaults->setObject(preference, isWatching);
     co_return isWatching;
+}
+
+QCoro::Task<void> ScreenshotSaving::follow() {
+    const bool isWanted = m_defaults->boolean(preference);
+    if (isWanted == m_isWanted)
+        co_return;
+    auto switching = setSaving(isWanted);
+    co_await switching;
 }
 
 QCoro::Task<void> ScreenshotSaving::toggle() {

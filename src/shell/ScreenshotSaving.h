@@ -23,6 +23,8 @@ public:
     /// Switches saving on or off and stores what came of it. False only when it was to be switched on and no folder
     /// could be opened.
     QCoro::Task<bool> setSaving(bool isWanted);
+    /// The preference was changed by somebody else: does what it says now.
+    QCoro::Task<void> follow();
     /// The menu's variant: the other way round from the preference, and what came of switching it on is shown.
     QCoro::Task<void> toggle();
 
@@ -31,6 +33,8 @@ public:
 private:
     ScreenshotImporter* m_importer;
     UserDefaults* m_defaults;
+    bool m_isWanted = false;    ///< what was asked for last, though it may still be on its way
+    quint64 m_requestCount = 0; ///< an answer to an earlier request must not undo a later one
 };
 
 } // namespace vellumry

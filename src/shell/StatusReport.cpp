@@ -60,6 +60,8 @@ QString StatusReport::text() const {
     lines << historyLine(*this);
     if (capture)
         lines << captureLine(*capture);
+    if (!refusedSettings.isEmpty())
+        lines << QStringLiteral("settings that cannot be used: ") + refusedSettings.join(u' ');
     return lines.join(u'\n') + u'\n';
 }
 

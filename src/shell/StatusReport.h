@@ -38,6 +38,9 @@ struct StatusReport {
     /// Names of the settings whose shortcut another program holds; absent when nothing is known.
     std::optional<QStringList> takenShortcuts;
 
+    /// Names of the settings whose value could not be used.
+    QStringList refusedSettings;
+
     /// Lines of text, each with its end.
     [[nodiscard]] QString text() const;
 };

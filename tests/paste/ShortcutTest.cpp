@@ -49,12 +49,14 @@ TEST(Shortcut, SurvivesItsJson) {
     const Shortcut shortcut{200, 0x1B00};
     EXPECT_EQ(Shortcut::fromStored(shortcut.toJson()), shortcut);
     EXPECT_EQ(Shortcut::fromStored(QByteArray(R"({"modifiers":4352,"keyCode":9})")), Shortcut::openPanelDefault());
+    EXPECT_EQ(Shortcut::fromStored(QStringLiteral(R"({"modifiers":4352,"keyCode":9})")), Shortcut::openPanelDefault())
+        << "as a hand writes it";
+    EXPECT_EQ(Shortcut::fromStored(QStringLiteral("ctrl+v")), std::nullopt);
     EXPECT_EQ(Shortcut::fromStored(Shortcut{0xFFFFFFFF, 0}.toJson()), (Shortcut{0xFFFFFFFF, 0}));
 }
 
 TEST(Shortcut, ReadsAsAbsentWhenThePreferenceIsNoShortcut) {
     EXPECT_EQ(Shortcut::fromStored({}), std::nullopt);
-    EXPECT_EQ(Shortcut::fromStored(QStringLiteral(R"({"modifiers":4352,"keyCode":9})")), std::nullopt);
     for (const auto* bytes : {"", "{}", "[9,4352]", R"({"keyCode":9})", R"({"keyCode":-1,"modifiers":0})",
                               R"({"keyCode":"9","modifiers":0})", R"({"keyCode":4294967296,"modifiers":0})",
                               R"({"keyCode":1.5,"modifiers":0})", "\xff\x00"})

@@ -84,6 +84,12 @@ protected:
         put(platform.textReader, textReader, std::make_unique<FakeTextReader>());
         put(platform.images, images, std::make_unique<FakeImageCodec>());
         put(platform.folders, folders, std::make_unique<FakeFolderWatching>());
+        if (!isFirstStart)
+            defaults->setObject(QStringLiteral("greeted"), true);
+        platform.settingsFolder = settingsFolder;
+        platform.isWaylandSession = isWaylandSession;
+        for (const auto& combination : takenKeys)
+            hotKeys->taken.insert(combination);
         platform.keyStore = std::make_unique<KeyringKeyStore>(keyring);
         platform.frontmost = std::make_unique<NobodyInFront>();
         platform.keyboard = std::make_unique<FakeKeyboardLayout>();
@@ -119,6 +125,10 @@ protected:
     QTemporaryDir disk;
     Keyring keyring;
     FakeTime time{currentDate()};
+    bool isFirstStart = false;                               ///< of the program on this computer
+    bool isWaylandSession = false;                           ///< with Xwayland
+    QString settingsFolder;                                  ///< that is watched
+    std::vector<FakeHotKeyRegistrar::Combination> takenKeys; ///< by other programs
     bool hasRoom = true;
     QString askedFolder; ///< whose volume was asked for room last
     int memoryReturns = 0;

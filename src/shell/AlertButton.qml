@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vellumry.Views
+
+// A button of an alert: by pointer, by Return and Space, by assistive technology.
+Rectangle {
+    id: button
+
+    required property string text
+    property bool isPlain: false // stands back behind the other one
+    signal pressed
+    signal cancelled
+
+    width: Math.max(96, label.implicitWidth + 40)
+    height: 34
+    radius: 8
+    color: isPlain ? (area.containsPress ? Theme.edge : Theme.ground) : (area.containsPress ? "#1f5fd0" : "#2a6fe8")
+    border.width: isPlain || activeFocus ? (activeFocus ? 2 : 1) : 0
+    border.color: activeFocus ? Theme.text : Theme.edge
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+    Accessible.focusable: true
+    Accessible.focused: activeFocus
+    Accessible.onPressAction: button.pressed()
+    Keys.onReturnPressed: button.pressed()
+    Keys.onEnterPressed: button.pressed()
+    Keys.onSpacePressed: button.pressed()
+    Keys.onEscapePressed: button.cancelled()
+
+    Label {
+        id: label
+        anchors.centerIn: parent
+        text: button.text
+        color: button.isPlain ? Theme.text : "white"
+        font.pixelSize: 14
+        font.weight: Font.Medium
+    }
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        onClicked: button.pressed()
+    }
+}

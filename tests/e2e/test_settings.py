@@ -1,0 +1,193 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Settings written by hand while the program runs, values that cannot be used, what a start tells, and the actions from outside."""
+
+import os
+import shutil
+import subprocess
+import tempfile
+
+from Xlib import X, display
+
+from desktop import (PROGRAM, SETTINGS, Vellumry, accessible, copy_text, fresh, key, main, open_panel, panel_is_open, same, text_of,
+                     unsealed, wait_for_clip, wait_panel_closed, wait_until, windows)
+
+MESSAGE = "^Vellumry message$"
+KEYCODE_OF_V = 55
+CONTROL, SUPER = 0x4, 0x40
+
+
+def write(*lines):
+    os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
+    with open(SETTINGS, "w", encoding="utf-8") as file:
+        file.write("\n".join(("[General]", "greeted=true", *lines)) + "\n")
+
+
+def forget_settings():
+    shutil.rmtree(os.path.dirname(SETTINGS), ignore_errors=True)
+
+
+def message():
+    """The words of the message that shows, or None."""
+    if not windows(MESSAGE):
+        return None
+    found = accessible("vellumry", "notification")
+    return found.name if found else None
+
+
+def told(part):
+    wait_until(lambda: part in (message() or ""), f"a message with {part!r}", 60)
+
+
+def act(action):
+    same(subprocess.run([PROGRAM, "--action", action], timeout=60).returncode, 0, action)
+
+
+def status():
+    return subprocess.run([PROGRAM, "--status"], stdout=subprocess.PIPE, timeout=60).stdout.decode()
+
+
+def remember(text):
+    copy_text(text)
+    wait_for_clip(lambda row: text_of(row) == text, "the copy of " + text)
+
+
+def clear_button():
+    return accessible("vellumry", "push button", "Clear History") or accessible("vellumry", "button", "Clear History")
+
+
+def kept_again():
+    """Copies once more; a program that was ignored may still be writing for a moment, and is ignored then too."""
+    copy_text("kept again")
+    return "kept again" in {text_of(row) for row in unsealed()}
+
+
+def another_shortcut_written_by_hand_counts_at_once():
+    write()
+    with Vellumry():
+        open_panel()
+        key("Escape")
+        wait_panel_closed()
+        write(r'openPanelShortcut="{\"keyCode\":11,\"modifiers\":4352}"')
+
+        def opens():
+            key("super+ctrl+b")
+            return panel_is_open()
+
+        wait_until(opens, "the panel by the new shortcut", 60)
+    forget_settings()
+
+
+def screenshots_and_pinned_keys_follow_at_once():
+    write()
+    with Vellumry():
+        same("screenshots are not saved" in status(), True, status())
+        write("saveNewScreenshots=true")
+        wait_until(lambda: "screenshots are saved" in status(), "the watch of the screenshots", 60)
+        write("saveNewScreenshots=false")
+        wait_until(lambda: "screenshots are not saved" in status(), "no watch", 60)
+    forget_settings()
+
+
+def a_shortcut_that_is_taken_is_told_on_the_screen_in_the_log_and_in_the_status():
+    write()
+    other = display.Display()
+    for locks in (0, X.LockMask, X.Mod2Mask, X.LockMask | X.Mod2Mask):
+        other.screen().root.grab_key(KEYCODE_OF_V, CONTROL | SUPER | locks, True, X.GrabModeAsync, X.GrabModeAsync)
+    other.sync()
+    try:
+        with tempfile.TemporaryFile() as log:
+            with Vellumry(stderr=log):
+                told("Super+Ctrl+V is already used by another app")
+                same("shortcuts: held by another program: openPanelShortcut" in status(), True, status())
+            log.seek(0)
+            same(b"openPanelShortcut is held by another program" in log.read(), True, "the log")
+    finally:
+        other.close()
+    forget_settings()
+
+
+def the_first_start_names_the_shortcut_and_no_other_does():
+    forget_settings()
+    with Vellumry(greeted=False):
+        told("Press Super+Ctrl+V to see it")
+    with Vellumry(greeted=False):
+        remember("a copy")
+        same(windows(MESSAGE), [], "messages of the second start")
+    forget_settings()
+
+
+def under_xwayland_the_first_start_says_what_works():
+    forget_settings()
+    with Vellumry(greeted=False, environment={"WAYLAND_DISPLAY": "wayland-0", "XDG_SESSION_TYPE": "wayland"}):
+        told("This is a Wayland session")
+        same("found: X11 display (Xwayland" in status(), True, status())
+    forget_settings()
+
+
+def a_value_that_is_none_costs_no_clips():
+    write()
+    with Vellumry():
+        for text in ("one", "two", "three"):
+            remember(text)
+    for value in ("keepAtMost=many", "keepAtMost=-5", "mediaLimitMB=8796093022208"):
+        write(value)
+        with tempfile.TemporaryFile() as log:
+            with Vellumry(stderr=log):
+                remember("with " + value)
+                same("settings that cannot be used: " + value.split("=")[0] in status(), True, status())
+            log.seek(0)
+            same(f"the setting {value.split('=')[0]} cannot be used".encode() in log.read(), True, "the log")
+    same({"one", "two", "three"} - {text_of(row) for row in unsealed()}, set(), "clips that are gone")
+    forget_settings()
+
+
+def a_settings_file_that_is_none_does_not_hold_the_start_up():
+    for make in (lambda: os.mkfifo(SETTINGS), lambda: os.symlink("/dev/zero", SETTINGS)):
+        forget_settings()
+        os.makedirs(os.path.dirname(SETTINGS))
+        make()
+        with Vellumry(greeted=False):
+            remember("kept all the same " + str(os.path.islink(SETTINGS)))
+    forget_settings()
+
+
+def the_actions_from_outside_do_what_they_say():
+    write()
+    with Vellumry() as program:
+        remember("before the pause")
+        act("pause")
+        told("Paused")
+        copy_text("during the pause")
+        act("pause")
+        told("Resumed")
+        remember("after the pause")
+        act("ignore-next")
+        told("Your next copy won't be saved")
+        copy_text("ignored")
+        told("Skipped. That copy wasn't saved")
+        wait_until(kept_again, "a copy after the quiet that follows an ignored one", 60)
+        same({text_of(row) for row in unsealed()}, {"before the pause", "after the pause", "kept again"}, "the history")
+        act("clear")
+        wait_until(lambda: windows("^Vellumry$"), "the question", 60)
+        wait_until(lambda: clear_button(), "its button", 60)
+        same(len(unsealed()), 3, "clips before the answer")
+        key("Return")
+        wait_until(lambda: not windows("^Vellumry$"), "the question to go", 60)
+        same(len(unsealed()), 3, "clips after the way out")
+        act("clear")
+        wait_until(lambda: windows("^Vellumry$"), "the question", 60)
+        wait_until(lambda: clear_button(), "its button", 60)
+        key("Tab", "Return")
+        wait_until(lambda: not unsealed(), "an empty history", 60)
+        act("quit")
+        same(program.handle.wait(60), 0, "its status")
+    forget_settings()
+
+
+if __name__ == "__main__":
+    main([fresh(test) for test in (
+        another_shortcut_written_by_hand_counts_at_once, screenshots_and_pinned_keys_follow_at_once,
+        a_shortcut_that_is_taken_is_told_on_the_screen_in_the_log_and_in_the_status,
+        the_first_start_names_the_shortcut_and_no_other_does, under_xwayland_the_first_start_says_what_works,
+        a_value_that_is_none_costs_no_clips, a_settings_file_that_is_none_does_not_hold_the_start_up,
+        the_actions_from_outside_do_what_they_say)])

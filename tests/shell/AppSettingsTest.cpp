@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Settings that count at once, and what is told of a start.
+#include "shell/AppEnvironment.h"
+
+#include "shell/AppEnvironmentFixture.h"
+
+namespace vellumry {
+namespace {
+
+class AppSettingsTest : public AppEnvironmentTest {
+protected:
+    AppSettingsTest() { settingsFolder = disk.path(); }
+    /// The file was changed by somebody else. Of the folders that are watched the settings' is the first.
+    void startWatched() {
+        start();
+        notice = folders->lastNotice;
+        ASSERT_TRUE(notice);
+    }
+    void set(const char* key, const QVariant& value) {
+        UserDefaults(disk.filePath(QStringLiteral("settings"))).setObject(QString::fromLatin1(key), value);
+        notice();
+    }
+    std::function<void()> notice;
+};
+
+TEST_F(AppSettingsTest, AnotherShortcutForThePanelCountsAtOnce) {
+    startWatched();
+    const Shortcut other{11, 0x1100};
+    EXPECT_FALSE(press(other));
+    set("openPanelShortcut", other.toJson());
+    EXPECT_FALSE(press(Shortcut::openPanelDefault()));
+    EXPECT_TRUE(press(other));
+    EXPECT_TRUE(environment->panel().isVisible());
+}
+
+TEST_F(AppSettingsTest, AnotherShortcutForTheStackCountsAtOnce) {
+    startWatched();
+    const Shortcut other{11, 0x1100};
+    set("pasteStackShortcut", other.toJson());
+    EXPECT_FALSE(press(Shortcut::pasteStackDefault()));
+    EXPECT_TRUE(press(other));
+    EXPECT_TRUE(environment->stack().isActive());
+}
+
+TEST_F(AppSettingsTest, TheKeysOfThePinnedClipsAreGivenBackAtOnce) {
+    startWatched();
+    EXPECT_TRUE(press(Shortcut::pinned(1)));
+    set("pinnedShortcutsEnabled", false);
+    EXPECT_FALSE(press(Shortcut::pinned(1)));
+}
+
+TEST_F(AppSettingsTest, AnotherShortcutThatIsTakenIsTold) {
+    startWatched();
+    const Shortcut other{11, 0x1100};
+    hotKeys->taken.insert({other.keyCode, other.modifiers});
+    set("openPanelShortcut", other.toJson());
+    EXPECT_FALSE(seenTexts().filter(QStringLiteral("is already used by another app")).isEmpty());
+}
+
+TEST_F(AppSettingsTest, ScreenshotsAreWatchedAndLeftAloneAtOnce) {
+    startWatched();
+    EXPECT_EQ(folders->activeCount, 1) << "the settings' alone";
+    set("saveNewScreenshots", true);
+    runUntil([this] { return folders->activeCount == 2; });
+    set("saveNewScreenshots", false); // while it is still being switched on
+    runUntil([this] { return folders->activeCount == 1; });
+    EXPECT_FALSE(defaults->boolean(QStringLiteral("saveNewScreenshots")));
+}
+
+TEST_F(AppSettingsTest, WithoutAWatchTheyCountWithTheNextMaintenance) {
+    settingsFolder.clear();
+    start();
+    const Shortcut other{11, 0x1100};
+    defaults->setObject(QStringLiteral("openPanelShortcut"), other.toJson());
+    EXPECT_FALSE(press(other));
+    maintain();
+    EXPECT_TRUE(press(other));
+}
+
+TEST_F(AppSettingsTest, TheFirstStartNamesTheShortcutOnce) {
+    isFirstStart = true;
+    start();
+    EXPECT_FALSE(seenTexts().filter(QStringLiteral("to see it")).isEmpty());
+    start();
+    EXPECT_EQ(seenTexts(), QStringList());
+}
+
+TEST_F(AppSettingsTest, AShortcutThatIsTakenIsToldAtTheStart) {
+    const Shortcut panel = Shortcut::openPanelDefault();
+    takenKeys = {{panel.keyCode, panel.modifiers}};
+    start();
+    EXPECT_FALSE(seenTexts().filter(QStringLiteral("is already used by another app")).isEmpty());
+}
+
+} // namespace
+} // namespace vellumry
