@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "paste/PasteEngine.h"
 
+#include "foundation/Logging.h"
 #include "foundation/UserDefaults.h"
 #include "history/clips/ClipStore.h"
 #include "paste/FileResolution.h"
 #include "paste/PasteboardWriter.h"
 
+#include <array>
 #include <chrono>
 
 namespace vellumry {
@@ -14,6 +16,14 @@ namespace {
 
 /// For files that are not where they were, all of them together: well within what a whole look at the disk may take.
 constexpr std::chrono::milliseconds lookingTime{1500};
+
+PasteOutcome copiedOnly(PasteReason reason) {
+    constexpr std::array words{"the session does not let us press keys",
+                               "a password field, or a keyboard that is taken", "switched off",
+                               "the window did not get its focus back"};
+    qCInfo(logging::paste) << "copied without a paste:" << words.at(static_cast<std::size_t>(reason));
+    return PasteOutcome::copiedOnly(reason);
+}
 
 } // namespace
 
@@ -109,9 +119,9 @@ QCoro::Task<PasteOutcome> PasteEngine::pasteText(QString text) {
 QCoro::Task<PasteOutcome> PasteEngine::deliver() {
     // The order decides what the user is told: with direct paste off, a password field makes no difference.
     if (!m_preferences->boolean(QStringLiteral("pasteDirectly")))
-        co_return PasteOutcome::copiedOnly(PasteReason::directPasteOff);
+        co_return copiedOnly(PasteReason::directPasteOff);
     if (!m_system.isTrusted())
-        co_return PasteOutcome::copiedOnly(PasteReason::notTrusted);
+        co_return copiedOnly(PasteReason::notTrusted);
     const std::weak_ptr<bool> life = m_life;
     // The field's application is asked while the panel goes; where it answers late, nobody waits for both.
     const auto settling = m_system.sleep(m_system.settleDelay);
@@ -120,7 +130,7 @@ QCoro::Task<PasteOutcome> PasteEngine::deliver() {
     if (life.expired())
         co_return PasteOutcome::failed();
     if (isSecureInput)
-        co_return PasteOutcome::copiedOnly(PasteReason::secureInput);
+        co_return copiedOnly(PasteReason::secureInput);
 
     co_await settling;
     if (life.expired())
@@ -131,8 +141,9 @@ QCoro::Task<PasteOutcome> PasteEngine::deliver() {
     if (life.expired())
         co_return PasteOutcome::failed();
     if (!hasFocus)
-        co_return PasteOutcome::copiedOnly(PasteReason::targetGone);
+        co_return copiedOnly(PasteReason::targetGone);
     m_system.pressPaste();
+    qCInfo(logging::paste) << "pasted";
     if (onPasted)
         onPasted();
     co_return PasteOutcome::pasted();

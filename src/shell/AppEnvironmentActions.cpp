@@ -65,8 +65,7 @@ void AppEnvironment::describe(StatusReport& report) const {
     report.history = history;
     if (!history.isMemoryOnly)
         report.bytesOnDisk = historyBytes(m_imageVolume);
-    report.capture = {isPaused(), m_watcher->ignoreNextCopy, m_screenshots->isWatching(),
-                      m_watcher->overtakenCopies()};
+    report.capture = {isPaused(), m_watcher->ignoreNextCopy, m_screenshots->isWatching(), m_watcher->overtakenCopies()};
     report.takenShortcuts = m_shortcuts->takenKeys();
     report.refusedSettings = m_platform->defaults->refusedKeys();
 }
