@@ -13,9 +13,9 @@ Rectangle {
     property alias askingTime: rest.interval
     signal action
 
-    width: 26
-    height: 26
-    radius: 13
+    width: Theme.chipHeight
+    height: width
+    radius: width / 2
     color: isOn ? Theme.selected : area.containsPress ? Theme.capEdge : area.containsMouse ? Theme.tile : "transparent"
     Accessible.role: Accessible.Button
     Accessible.name: help
@@ -27,7 +27,7 @@ Rectangle {
         anchors.centerIn: parent
         name: button.symbol
         tint: button.isOn ? Theme.accent : Theme.secondary
-        size: 15
+        size: Theme.smallSymbolSize
     }
     HoverRest {
         id: rest

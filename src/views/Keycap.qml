@@ -8,14 +8,14 @@ Rectangle {
 
     property string text
     property bool inverted: false
-    property int size: 11
+    property int size: Theme.capSize
 
-    width: Math.max(height, label.implicitWidth + 10)
-    height: 18
-    radius: 4
+    width: Math.max(height, label.implicitWidth + Theme.gap)
+    height: Theme.capHeight
+    radius: Theme.smallRadius
     color: inverted ? "transparent" : Theme.cap
     border.color: inverted ? Theme.accent : Theme.capEdge
-    border.width: 1
+    border.width: Theme.thin
 
     Label {
         id: label

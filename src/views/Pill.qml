@@ -10,18 +10,18 @@ Rectangle {
     property color tint: Theme.warning
     property bool onAccent: false
 
-    width: label.implicitWidth + 14
-    height: 18
-    radius: 9
+    width: label.implicitWidth + Theme.margin
+    height: Theme.capHeight
+    radius: height / 2
     color: "transparent"
     border.color: onAccent ? Theme.text : tint
-    border.width: 1
+    border.width: Theme.thin
 
     Label {
         id: label
         anchors.centerIn: parent
         text: pill.text
         color: pill.onAccent ? Theme.text : pill.tint
-        font.pixelSize: 11
+        font.pixelSize: Theme.capSize
     }
 }

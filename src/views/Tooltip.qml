@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 pragma ComponentBehavior: Bound
 import QtQuick
+import Vellumry.Views
 
 // What a button does, in a sentence.
 Rectangle {
@@ -9,11 +10,13 @@ Rectangle {
     property string text
     readonly property color cornerColour: Theme.capEdge
 
-    width: words.width + 20
-    height: Math.ceil(words.implicitHeight) + 12
+    width: words.width + 2 * Theme.margin
+    height: Math.ceil(words.implicitHeight) + Theme.margin
     radius: Theme.rowRadius
     color: Theme.cap
-    border.width: 1
+    border.width: Theme.thin
+    LayoutMirroring.enabled: Views.isRightToLeft
+    LayoutMirroring.childrenInherit: true
     border.color: Theme.capEdge
     Accessible.role: Accessible.ToolTip
     Accessible.name: text
@@ -21,7 +24,7 @@ Rectangle {
     Label {
         id: words
         anchors.centerIn: parent
-        width: Math.min(Math.ceil(implicitWidth), 360)
+        width: Math.min(Math.ceil(implicitWidth), Theme.tooltipWidth)
         text: tooltip.text
         wrapMode: Text.Wrap
         elide: Text.ElideNone

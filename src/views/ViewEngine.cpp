@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/ViewEngine.h"
 
+#include "views/Language.h"
 #include "views/QmlModules.h"
 #include "views/SymbolProvider.h"
 
@@ -13,6 +14,7 @@
 namespace vellumry {
 
 ViewEngine::ViewEngine() {
+    QGuiApplication::setLayoutDirection(interfaceLocale().textDirection());
     qGuiApp->installEventFilter(this);
     resolve();
 }

@@ -4,7 +4,10 @@
 #include "foundation/Localisation.h"
 #include "views/ViewEngine.h"
 
+#include <QAccessible>
+#include <QGuiApplication>
 #include <QQmlEngine>
+#include <algorithm>
 
 namespace vellumry {
 
@@ -21,8 +24,31 @@ bool Views::isDark() const {
     return m_engine->isDark();
 }
 
+bool Views::isRightToLeft() const {
+    return QGuiApplication::isRightToLeft();
+}
+
 QString Views::words(const QString& key) const {
     return localised(key.toUtf8().constData());
+}
+
+void Views::tellSelected(QQuickItem* item) const {
+    if (!item || !QAccessible::isActive())
+        return;
+    QAccessibleEvent event(item, QAccessible::Selection);
+    QAccessible::updateAccessibility(&event);
+}
+
+void Views::orderForReading(QQuickItem* content) const {
+    if (!content || !QAccessible::isActive())
+        return;
+    const QList<QQuickItem*> before = content->childItems();
+    QList<QQuickItem*> ordered = before;
+    std::ranges::stable_sort(ordered, {}, [](const QQuickItem* item) { return item->y(); });
+    if (ordered == before)
+        return;
+    for (qsizetype index = 1; index < ordered.size(); ++index)
+        ordered[index]->stackAfter(ordered[index - 1]);
 }
 
 } // namespace vellumry

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QQuickItem>
 #include <QString>
 #include <qqmlregistration.h>
 
@@ -19,14 +20,21 @@ class Views : public QObject {
     QML_ELEMENT
     QML_SINGLETON
     Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
+    Q_PROPERTY(bool isRightToLeft READ isRightToLeft CONSTANT)
 
 public:
     explicit Views(const ViewEngine& engine);
     static Views* create(QQmlEngine* engine, QJSEngine*);
 
     [[nodiscard]] bool isDark() const;
+    /// Our words are written from right to left, so all is laid out that way.
+    [[nodiscard]] bool isRightToLeft() const;
     /// `key` in the user's language.
     Q_INVOKABLE [[nodiscard]] QString words(const QString& key) const;
+    /// Tells screen readers that `item` was selected, or is not any more: Qt tells no change of that state by itself.
+    Q_INVOKABLE void tellSelected(QQuickItem* item) const;
+    /// Lets screen readers find the children of `content`, which a list made in any order, from top to bottom.
+    Q_INVOKABLE void orderForReading(QQuickItem* content) const;
 
 Q_SIGNALS:
     void darkChanged();
