@@ -7,6 +7,24 @@
         <source>⌘M</source>
         <translation>Ctrl+M</translation>
     </message>
+    <message>
+        <source>en</source>
+        <translation>en</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips · encrypted on this Mac</source>
+        <translation>
+            <numerusform>%n clip · encrypted on this computer</numerusform>
+            <numerusform>%n clips · encrypted on this computer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips · Not saved: kept until you quit</source>
+        <translation>
+            <numerusform>%n clip · Not saved: kept until you quit</numerusform>
+            <numerusform>%n clips · Not saved: kept until you quit</numerusform>
+        </translation>
+    </message>
     <message numerus="yes">
         <source>Pin %n Clips</source>
         <translation>
@@ -116,20 +134,8 @@
         <translation> yet. Pin a clip with Ctrl+P</translation>
     </message>
     <message>
-        <source>Press ⌃⌘V anytime to open Vellumry.</source>
-        <translation>Press Super+Ctrl+V anytime to open Vellumry.</translation>
-    </message>
-    <message>
         <source>Press %1 anytime to open Vellumry.</source>
         <translation>Press %1 anytime to open Vellumry.</translation>
-    </message>
-    <message>
-        <source> clips · encrypted on this Mac</source>
-        <translation> clips · encrypted on this computer</translation>
-    </message>
-    <message>
-        <source>%1 clips · encrypted on this Mac</source>
-        <translation>%1 clips · encrypted on this computer</translation>
     </message>
     <message>
         <source>↩</source>

@@ -13,10 +13,75 @@ ListView {
     readonly property string help: panel.helpOf(hoveredRow)
     property alias askingTime: question.interval
 
+    // What was at the top before the rows changed, and whether the chosen row was in sight.
+    property string topClip
+    property real topOffset: 0
+    property bool isPrimaryInSight: true
+
+    /// Where row `index` begins in the view; NaN for a row that is not made.
+    function offsetOf(index: int): real {
+        const item = itemAtIndex(index);
+        return item === null ? NaN : item.y - contentY;
+    }
+    function isInSight(index: int): bool {
+        const item = itemAtIndex(index);
+        return item !== null && item.y >= contentY && item.y + item.height <= contentY + height;
+    }
+    /// Remembers what the user looks at.
+    function noteView() {
+        isPrimaryInSight = panel.primaryRow >= 0 && isInSight(panel.primaryRow);
+        const top = indexAt(1, contentY + Theme.grid);
+        topClip = panel.clipIDOfRow(top);
+        topOffset = topClip === "" ? 0 : itemAtIndex(top).y - contentY;
+        Views.orderForReading(contentItem);
+    }
+    /// Brings the chosen row into sight, with one row of context.
+    function reveal() {
+        const row = panel.primaryRow;
+        if (row < 0)
+            return;
+        if (row <= 1) {
+            positionViewAtBeginning();
+        } else {
+            positionViewAtIndex(Math.min(row + 1, count - 1), ListView.Contain);
+            positionViewAtIndex(row - 1, ListView.Contain);
+            alignTop();
+        }
+        noteView();
+    }
+    /// No row is cut at the top, unless that is the end of the list.
+    function alignTop() {
+        const top = indexAt(1, contentY + 1);
+        if (top > 0 && !atYEnd && offsetOf(top) < -1)
+            contentY = Math.min(itemAtIndex(top).y + itemAtIndex(top).height, originY + contentHeight - height);
+    }
+    /// The rows changed under the user: what was looked at stays where it was.
+    function keepView() {
+        forceLayout();
+        if (isPrimaryInSight) {
+            reveal();
+            return;
+        }
+        const row = topClip === "" ? -1 : panel.rowOfClipID(topClip);
+        if (row < 0)
+            return;
+        positionViewAtIndex(row, ListView.Beginning);
+        contentY = Math.max(originY, Math.min(contentY - topOffset, originY + contentHeight - height));
+        noteView();
+    }
+    function scrollRows(rows: int) {
+        const top = Math.max(0, indexAt(1, contentY + 1));
+        if (rows < 0 && offsetOf(top) < -1)
+            rows += 1; // the one that is cut comes into sight first
+        positionViewAtIndex(Math.max(0, Math.min(top + rows, count - 1)), ListView.Beginning);
+        noteView();
+    }
+
     objectName: "clips"
     model: panel.rows
     clip: true
     reuseItems: true
+    interactive: false
     boundsBehavior: Flickable.StopAtBounds
     cacheBuffer: 0
     currentIndex: -1
@@ -40,28 +105,28 @@ ListView {
         }
         function onContentChanged() {
             area.rest();
+            list.keepView();
         }
-        function onPrimaryRowChanged() {
+        function onRevealed() {
             area.rest();
-            if (list.panel.primaryRow <= 1)
-                list.positionViewAtBeginning();
-            else
-                list.positionViewAtIndex(list.panel.primaryRow, ListView.Contain);
+            list.reveal();
         }
     }
 
     delegate: ClipRow {
         width: list.width
         isHovered: list.hoveredRow === index
+        isPrimary: list.panel.primaryRow === index
+        onPressed: list.panel.rowActivated(index)
     }
 
     MouseArea {
-        // One for all rows. A row lights up only when the pointer was moved there: neither the panel coming up under it nor rows
-        // passing beneath it count.
+        // One for all rows. A row lights up only when the pointer was moved there: neither the panel coming up under it
+        // nor rows passing beneath it count.
         id: area
         property point restingAt
         property bool isKnown: false
-        property int pressedRow: -1
+        property int wheelRest: 0
 
         function rowAt(x: real, y: real): int {
             return list.indexAt(x, y + list.contentY);
@@ -79,18 +144,23 @@ ListView {
         }
         onPositionChanged: mouse => {
             const place = mapToGlobal(mouse.x, mouse.y);
-            if (isKnown && (place.x !== restingAt.x || place.y !== restingAt.y))
+            if (isKnown && !pressed && (place.x !== restingAt.x || place.y !== restingAt.y))
                 list.hoveredRow = rowAt(mouse.x, mouse.y);
             restingAt = place;
             isKnown = true;
         }
         onExited: rest()
-        onPressed: mouse => {
-            pressedRow = rowAt(mouse.x, mouse.y);
-            list.panel.rowPressed(pressedRow, mouse.modifiers);
+        onPressed: mouse => list.panel.rowPressed(rowAt(mouse.x, mouse.y), mouse.modifiers)
+        onReleased: list.panel.rowReleased()
+        onDoubleClicked: mouse => list.panel.rowDoubleClicked(mouse.modifiers)
+        onWheel: wheel => {
+            // A notch is 120 and moves three rows; fine wheels and touchpads send parts of it.
+            wheelRest += wheel.angleDelta.y;
+            const rows = Math.trunc(wheelRest / 40);
+            wheelRest -= rows * 40;
+            if (rows !== 0)
+                list.scrollRows(-rows);
         }
-        onReleased: list.panel.rowReleased(pressedRow)
-        onDoubleClicked: mouse => list.panel.rowDoubleClicked(rowAt(mouse.x, mouse.y))
     }
 
     HoverRest {
@@ -104,21 +174,60 @@ ListView {
 
         z: 1
         anchors.right: parent.right
-        anchors.rightMargin: 18
+        anchors.rightMargin: Theme.inset
         y: below + height > list.height ? rowTop - height : below
         text: list.help
         visible: row !== null
     }
 
-    Rectangle {
-        // Where the view stands in a long list.
+    Item {
+        // Where the view stands in a long list; the thumb can be dragged, and a press beside it turns a page.
+        id: bar
+        parent: list
         visible: list.visibleArea.heightRatio < 1
         anchors.right: parent.right
-        anchors.rightMargin: 2
-        width: 4
-        radius: 2
-        color: Theme.capEdge
-        y: list.visibleArea.yPosition * list.height
-        height: Math.max(24, list.visibleArea.heightRatio * list.height)
+        width: Theme.scrollArea
+        height: list.height
+
+        Rectangle {
+            id: thumb
+            objectName: "scrollThumb"
+            readonly property real room: bar.height - height
+            readonly property real rest: 1 - list.visibleArea.heightRatio
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: grip.containsMouse || grip.pressed ? Theme.scrollBar : Theme.scrollBar / 2
+            radius: width / 2
+            color: Theme.thumb
+            y: rest <= 0 ? 0 : Math.max(0, Math.min(1, list.visibleArea.yPosition / rest)) * room
+            height: Math.max(Theme.leastThumb, list.visibleArea.heightRatio * list.height)
+        }
+        MouseArea {
+            id: grip
+            property real heldAt: -1
+
+            anchors.fill: parent
+            hoverEnabled: true
+            preventStealing: true
+            onPressed: mouse => {
+                const onThumb = mouse.y >= thumb.y && mouse.y <= thumb.y + thumb.height;
+                heldAt = onThumb ? mouse.y - thumb.y : -1;
+                if (!onThumb)
+                    list.scrollRows((mouse.y < thumb.y ? -1 : 1) * Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1));
+            }
+            onPositionChanged: mouse => {
+                if (!pressed || heldAt < 0 || thumb.room <= 0)
+                    return;
+                const share = Math.max(0, Math.min(1, (mouse.y - heldAt) / thumb.room));
+                if (share >= 1) {
+                    list.positionViewAtEnd();
+                } else {
+                    list.contentY = list.originY + share * (list.contentHeight - list.height);
+                    list.alignTop();
+                }
+                list.noteView();
+            }
+            onReleased: heldAt = -1
+        }
     }
 }

@@ -12,40 +12,49 @@ Item {
     required property string header
     required property bool isHeader
     required property string title
+    required property string markedTitle
     required property string sourceName
     required property string imageMatch
     required property string symbol
     required property string thumbnail
     required property string swatch
     required property string pill
-    required property string numberKeys
-    required property string pinKeys
-    required property string pinHint
+    required property string number
+    required property string pinNumber
+    required property string description
     required property bool isPinned
     required property bool isSelected
     required property bool isSensitive
 
     property bool isHovered: false
+    property bool isPrimary: false
     // Kept for reuse, it is no row: neither to be seen nor to be read out.
     property bool isPooled: false
 
     ListView.onPooled: isPooled = true
     ListView.onReused: isPooled = false
     visible: !isPooled
-    height: isHeader ? (header === "" ? 6 : Theme.headerHeight) : Theme.rowHeight
+    height: isHeader ? (header === "" ? Theme.gap : Theme.headerHeight) : Theme.rowHeight
     Accessible.ignored: isPooled
     Accessible.role: isHeader ? Accessible.Heading : Accessible.ListItem
     Accessible.name: isHeader ? header : title
-    Accessible.description: isHeader ? "" : pinHint === "" ? sourceName : sourceName + ", " + pinHint
+    Accessible.description: description
     Accessible.selected: isSelected
     Accessible.selectable: !isHeader
+    // Typing stays in the search field; a screen reader follows what is called focused.
+    Accessible.focusable: !isHeader
+    Accessible.focused: isPrimary
+    Accessible.onPressAction: row.pressed()
+
+    signal pressed
+    onIsSelectedChanged: Views.tellSelected(row)
 
     Label {
         visible: row.isHeader
         anchors.left: parent.left
-        anchors.leftMargin: 18
+        anchors.leftMargin: Theme.inset
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 6
+        anchors.bottomMargin: Theme.grid
         text: row.header
         color: Theme.secondary
         font.weight: Font.DemiBold
@@ -56,15 +65,26 @@ Item {
 
         Rectangle {
             anchors.fill: parent
-            anchors.leftMargin: 8
-            anchors.rightMargin: 8
+            anchors.leftMargin: Theme.gap
+            anchors.rightMargin: Theme.gap
             radius: Theme.rowRadius
             color: row.isSelected ? Theme.selected : row.isHovered ? Theme.hovered : "transparent"
+        }
+        Rectangle {
+            // Colour alone would not tell the chosen row from the others.
+            visible: row.isSelected
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.gap
+            anchors.verticalCenter: parent.verticalCenter
+            width: Theme.accentBar
+            height: parent.height - 2 * Theme.gap
+            radius: width / 2
+            color: Theme.accent
         }
         RowIcon {
             id: icon
             anchors.left: parent.left
-            anchors.leftMargin: 16
+            anchors.leftMargin: Theme.inset
             anchors.verticalCenter: parent.verticalCenter
             symbol: row.symbol
             thumbnail: row.thumbnail
@@ -73,15 +93,15 @@ Item {
         }
         Column {
             anchors.left: icon.right
-            anchors.leftMargin: 12
+            anchors.leftMargin: Theme.margin
             anchors.right: marks.left
-            anchors.rightMargin: 12
+            anchors.rightMargin: Theme.margin
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 1
 
             Label {
                 width: parent.width
-                text: row.title
+                text: row.markedTitle
+                textFormat: Text.StyledText
                 color: row.isSensitive ? Theme.secondary : Theme.text
                 font.pixelSize: Theme.titleSize
                 maximumLineCount: 1
@@ -96,9 +116,9 @@ Item {
         Row {
             id: marks
             anchors.right: parent.right
-            anchors.rightMargin: 18
+            anchors.rightMargin: Theme.inset
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 6
+            spacing: Theme.gap
 
             Pill {
                 anchors.verticalCenter: parent.verticalCenter
@@ -110,18 +130,18 @@ Item {
                 visible: row.isPinned
                 name: row.isPinned ? "pin.fill" : ""
                 tint: Theme.accent
-                size: 14
+                size: Theme.smallSymbolSize
             }
             Keycap {
                 anchors.verticalCenter: parent.verticalCenter
-                visible: row.pinKeys !== ""
-                text: row.pinKeys
+                visible: row.pinNumber !== ""
+                text: row.pinNumber
                 inverted: true
             }
             Keycap {
                 anchors.verticalCenter: parent.verticalCenter
-                visible: row.numberKeys !== ""
-                text: row.numberKeys
+                visible: row.number !== ""
+                text: row.number
             }
         }
     }

@@ -10,13 +10,13 @@ Column {
 
     required property PanelFacade panel
 
-    spacing: 8
-    width: 420
+    spacing: Theme.gap
+    width: Theme.emptyWidth
 
     Symbol {
         anchors.horizontalCenter: parent.horizontalCenter
         name: empty.panel.hasQuery ? "magnifyingglass" : "doc.on.clipboard.fill"
-        size: 36
+        size: Theme.emptySymbolSize
         tint: Theme.capEdge
     }
     Repeater {
@@ -30,7 +30,7 @@ Column {
             horizontalAlignment: Text.AlignHCenter
             text: modelData
             color: index === 0 ? Theme.text : Theme.secondary
-            font.pixelSize: index === 0 ? 16 : 13
+            font.pixelSize: index === 0 ? Theme.emptyTitleSize : Theme.emptySize
             font.weight: index === 0 ? Font.DemiBold : Font.Normal
             wrapMode: Text.Wrap
             maximumLineCount: 3

@@ -10,7 +10,7 @@ Row {
 
     required property PanelFacade panel
 
-    spacing: 6
+    spacing: Theme.gap
 
     Repeater {
         model: chips.panel.filters
@@ -23,35 +23,35 @@ Row {
             required property string count
             readonly property bool isCurrent: chips.panel.filter === index
 
-            width: label.implicitWidth + number.implicitWidth + 28
-            height: 26
-            radius: 13
+            width: label.implicitWidth + number.implicitWidth + 3 * Theme.gap + Theme.grid
+            height: Theme.chipHeight
+            radius: height / 2
             color: isCurrent ? Theme.selected : area.containsMouse ? Theme.hovered : "transparent"
-            border.width: 1
-            border.color: isCurrent ? Theme.selected : Theme.line
+            border.width: Theme.thin
+            border.color: isCurrent ? Theme.accent : Theme.line
             Accessible.role: Accessible.RadioButton
             Accessible.name: title
+            Accessible.description: count
+            Accessible.checkable: true
             Accessible.checked: isCurrent
             Accessible.onPressAction: chips.panel.filter = index
 
             Label {
                 id: label
                 anchors.left: parent.left
-                anchors.leftMargin: 11
+                anchors.leftMargin: Theme.margin
                 anchors.verticalCenter: parent.verticalCenter
                 text: chip.title
                 color: chip.isCurrent ? Theme.accent : Theme.text
-                font.pixelSize: 12
                 font.weight: Font.Medium
             }
             Label {
                 id: number
                 anchors.left: label.right
-                anchors.leftMargin: 6
+                anchors.leftMargin: Theme.grid
                 anchors.verticalCenter: parent.verticalCenter
                 text: chip.count
                 color: chip.isCurrent ? Theme.accent : Theme.secondary
-                font.pixelSize: 12
             }
             MouseArea {
                 id: area

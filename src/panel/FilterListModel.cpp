@@ -3,8 +3,8 @@
 
 #include "foundation/Localisation.h"
 #include "panel/PanelModel.h"
+#include "views/Language.h"
 
-#include <QLocale>
 #include <utility>
 
 namespace vellumry {
@@ -37,7 +37,7 @@ QString FilterListModel::titleOf(ClipFilter filter) {
 QStringList FilterListModel::counted() const {
     QStringList counts;
     for (const ClipFilter filter : allClipFilters)
-        counts.append(QLocale().toString(m_model->count(filter)));
+        counts.append(interfaceLocale().toString(m_model->count(filter)));
     return counts;
 }
 

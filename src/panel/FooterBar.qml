@@ -4,25 +4,25 @@ import QtQuick
 import Vellumry.Panel
 import Vellumry.Views
 
-// How much there is, and what the keys do.
+// How much there is, and what the keys do now.
 Item {
     id: footer
 
     required property PanelFacade panel
 
-    height: 34
+    height: Theme.footerHeight
 
     Rectangle {
         anchors.left: parent.left
         anchors.right: parent.right
-        height: 1
+        height: Theme.thin
         color: Theme.line
     }
     Label {
         anchors.left: parent.left
-        anchors.leftMargin: 18
-        anchors.right: hints.left
-        anchors.rightMargin: 10
+        anchors.leftMargin: Theme.inset
+        anchors.right: footer.panel.hasAccessibility ? hints.left : permission.left
+        anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
         text: footer.panel.countText
         color: Theme.secondary
@@ -32,10 +32,12 @@ Item {
     }
     Row {
         id: hints
+        objectName: "hints"
+        visible: footer.panel.hasAccessibility
         anchors.right: parent.right
-        anchors.rightMargin: 18
+        anchors.rightMargin: Theme.inset
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 12
+        spacing: Theme.margin
 
         Repeater {
             model: footer.panel.hints
@@ -44,12 +46,11 @@ Item {
                 id: hint
                 required property string keys
                 required property string text
-                spacing: 4
+                spacing: Theme.grid
 
                 Keycap {
                     anchors.verticalCenter: parent.verticalCenter
                     text: hint.keys
-                    size: 10
                 }
                 Label {
                     anchors.verticalCenter: parent.verticalCenter
@@ -58,6 +59,34 @@ Item {
                     font.pixelSize: Theme.footerSize
                 }
             }
+        }
+    }
+    Rectangle {
+        id: permission
+        objectName: "permission"
+        visible: !footer.panel.hasAccessibility
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.inset
+        anchors.verticalCenter: parent.verticalCenter
+        width: offer.implicitWidth + 2 * Theme.margin
+        height: Theme.chipHeight
+        radius: height / 2
+        color: press.containsPress ? Theme.pressedButton : Theme.button
+        Accessible.role: Accessible.Button
+        Accessible.name: offer.text
+        Accessible.onPressAction: footer.panel.requestAccessibility()
+
+        Label {
+            id: offer
+            anchors.centerIn: parent
+            text: Views.words("Allow Vellumry to paste for you")
+            color: Theme.buttonText
+            font.weight: Font.Medium
+        }
+        MouseArea {
+            id: press
+            anchors.fill: parent
+            onClicked: footer.panel.requestAccessibility()
         }
     }
 }

@@ -72,9 +72,9 @@ std::optional<Command> plainCommand(int key, bool isFieldEmpty) {
     case Qt::Key_Right:
         return isFieldEmpty ? std::optional(Command::nextFilter) : std::nullopt;
     case Qt::Key_Home:
-        return isFieldEmpty ? std::optional(Command::home) : std::nullopt;
+        return Command::home;
     case Qt::Key_End:
-        return isFieldEmpty ? std::optional(Command::end) : std::nullopt;
+        return Command::end;
     default:
         return std::nullopt;
     }
@@ -138,6 +138,8 @@ KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty
         meaning.command = shiftedCommand(key);
     else if (flags == eventflag::command)
         meaning.command = controlledCommand(key);
+    else if (flags == eventflag::option && (key == Qt::Key_Return || key == Qt::Key_Enter))
+        meaning.command = Command::enterPlain;
     if (!meaning.command && (flags & eventflag::command) != 0) {
         std::optional<quint16> keyCode = chordKeyCode(key);
         if (!keyCode)

@@ -18,7 +18,8 @@ namespace {
 
 constexpr int shadowRoom = 40;
 constexpr int cornerRadius = 14;
-constexpr int fadeIn = 120; // milliseconds
+constexpr int fadeIn = 120;   // milliseconds
+constexpr int settleIn = 160; // milliseconds
 const QString thumbnails = QStringLiteral("thumbnail");
 
 /// Round corners for windows that cannot blend.
@@ -40,6 +41,7 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, Pasteboa
     m_model.onClose = [this] { hide(); };
     m_model.onToast = m_hooks.showToast;
     m_facade.keyCodeOf = m_hooks.keyCodeOf;
+    m_facade.onRequestAccessibility = [this] { m_hooks.requestAccessibility(); };
     m_facade.onGrabbed = [this] { grab(); };
     m_facade.onDragged = [this] { drag(); };
     m_facade.onDropped = [this] { drop(); };
@@ -47,6 +49,12 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, Pasteboa
     m_fade.setStartValue(0.0);
     m_fade.setEndValue(1.0);
     m_fade.setDuration(fadeIn);
+    connect(&m_slide, &QVariantAnimation::valueChanged, this, [this](const QVariant& frame) {
+        if (m_slide.state() == QAbstractAnimation::Running)
+            m_view->setGeometry(frame.toRect());
+    });
+    m_slide.setDuration(settleIn);
+    m_slide.setEasingCurve(QEasingCurve::OutCubic);
     m_settle.setSingleShot(true);
     m_settle.setInterval(m_hooks.settleDelay);
     connect(&m_settle, &QTimer::timeout, this, &PanelController::settlePosition);
@@ -77,6 +85,7 @@ void PanelController::makeView() {
                                        }));
     m_surface->adopt(m_view.get());
     m_fade.setTargetObject(m_view.get());
+    connect(m_view.get(), &QWindow::screenChanged, this, [this] { shapeInput(); });
     applyLook();
     m_view->setInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&m_facade)}});
     m_view->setSource(QUrl(QStringLiteral("qrc:/vellumry/Vellumry/Panel/PanelView.qml")));
@@ -99,7 +108,12 @@ void PanelController::applyLook() {
     const QQuickItem* root = m_view->rootObject();
     const bool isBare = m_shadowMargin > 0 || root == nullptr;
     m_view->setColor(isBare ? QColor(Qt::transparent) : root->property("cornerColour").value<QColor>());
-    // The shadow is not the panel: a click there is meant for what lies below.
+    shapeInput();
+}
+
+/// The shadow is not the panel: a click there is meant for what lies below. Set again on each display, because the
+/// server counts in that display's pixels.
+void PanelController::shapeInput() {
     m_surface->setInputArea(m_view.get(), QRect(QPoint(m_shadowMargin, m_shadowMargin), panelSize));
 }
 
@@ -137,6 +151,7 @@ void PanelController::show() {
     if (fades())
         m_view->setOpacity(0);
     m_surface->present(m_view.get(), frame);
+    shapeInput();
     m_model.setPresented(true);
     onShow();
     if (fades())
@@ -149,6 +164,7 @@ void PanelController::hide() {
         return;
     m_model.setPresented(false);
     m_fade.stop();
+    m_slide.stop();
     m_surface->dismiss(m_view.get());
     m_view->setOpacity(1);
     m_forget.start();
@@ -171,6 +187,7 @@ void PanelController::toggle() {
 
 void PanelController::grab() {
     m_settle.stop();
+    m_slide.stop();
     m_grabbedAt = m_view->position();
     m_grabOffset = QCursor::pos() - m_grabbedAt;
 }
@@ -197,8 +214,15 @@ void PanelController::settlePosition() {
     const auto remembered = placement::rememberable(frame, screen->visible);
     m_hooks.setPosition(remembered, screen->key);
     const QRect settled = windowFrame(placement::placement(remembered, panelSize, screen->visible));
-    if (settled != m_view->geometry())
+    if (settled == m_view->geometry())
+        return;
+    if (m_surface->reducesMotion()) {
         m_view->setGeometry(settled);
+        return;
+    }
+    m_slide.setStartValue(m_view->geometry());
+    m_slide.setEndValue(settled);
+    m_slide.start();
 }
 
 } // namespace vellumry

@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QPropertyAnimation>
 #include <QTimer>
+#include <QVariantAnimation>
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -38,6 +39,8 @@ public:
         std::function<QString()> openPanelKeys;
         /// The virtual key code of the key with that native scan code.
         std::function<std::optional<quint32>(quint32 scanCode)> keyCodeOf;
+        /// Asks the desktop to let us press keys in other applications.
+        std::function<void()> requestAccessibility = [] {};
         /// Shows a message on the display under the pointer.
         std::function<void(const ToastMessage&)> showToast;
         /// How long after the pointer let go the place is remembered.
@@ -72,6 +75,7 @@ public:
 private:
     void makeView();
     void applyLook();
+    void shapeInput();
     [[nodiscard]] bool fades() const;
     [[nodiscard]] QRect windowFrame(const QRectF& panel) const;
     [[nodiscard]] QRectF panelFrame() const;
@@ -87,6 +91,7 @@ private:
     ViewEngine* m_views;
     Hooks m_hooks;
     std::unique_ptr<QQuickView> m_view;
+    QVariantAnimation m_slide; ///< of the panel to the place where it settles
     QPropertyAnimation m_fade; ///< of the view's opacity, which the compositor applies: nothing is drawn anew for it
     int m_shadowMargin = 0;
     /// Saves the place a moment after the pointer let go.

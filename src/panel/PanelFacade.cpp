@@ -6,8 +6,10 @@
 #include "history/clips/ClipStore.h"
 #include "panel/KeyTranslation.h"
 #include "paste/PasteStack.h"
+#include "paste/Shortcut.h"
 
-#include <QLocale>
+#include <QGuiApplication>
+#include <algorithm>
 #include <utility>
 
 namespace vellumry {
@@ -25,7 +27,7 @@ PanelFacade::PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::functio
     : m_model(&model)
     , m_pasteboard(pasteboard)
     , m_openPanelKeys(std::move(openPanelKeys))
-    , m_rows(model, {localised("⌘") + QStringLiteral("%1"), localised("⌃") + localised("⌥") + QStringLiteral("%1")})
+    , m_rows(model, localised("⌃") + localised("⌥") + QStringLiteral("%1"))
     , m_filters(model) {
     tellHints();
     connect(m_model, &PanelModel::queryChanged, this, [this] {
@@ -41,6 +43,7 @@ PanelFacade::PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::functio
     connect(&m_rows, &PanelListModel::fellBehind, &m_catchUp, qOverload<>(&QTimer::start));
     connect(m_model, &PanelModel::focusTokenChanged, this, &PanelFacade::focusTokenChanged);
     connect(m_model, &PanelModel::transformChanged, this, &PanelFacade::transformChanged);
+    connect(m_model, &PanelModel::hasAccessibilityChanged, this, &PanelFacade::hasAccessibilityChanged);
 }
 
 void PanelFacade::setQuery(const QString& text) {
@@ -62,6 +65,9 @@ void PanelFacade::setFilter(int filter) {
 
 bool PanelFacade::keyPressed(int key, int modifiers, quint32 scanCode, bool hasTextSelection) {
     const auto place = [this, scanCode] { return keyCodeOf ? keyCodeOf(scanCode) : std::nullopt; };
+    // Where words run from right to left, so do the filters.
+    if (QGuiApplication::isRightToLeft() && (key == Qt::Key_Left || key == Qt::Key_Right))
+        key = key == Qt::Key_Left ? Qt::Key_Right : Qt::Key_Left;
     const KeyMeaning meaning = meaningOf(key, Qt::KeyboardModifiers(modifiers), query().isEmpty(), place);
     // A command is meant for what was typed before it; a letter has time.
     if (meaning.command || meaning.chord)
@@ -127,8 +133,9 @@ void PanelFacade::catchUp() {
     m_catchUp.stop();
     m_rows.catchUp();
     m_filters.refresh();
-    Q_EMIT contentChanged();
     Q_EMIT primaryRowChanged();
+    Q_EMIT contentChanged();
+    Q_EMIT revealed();
     tellHints();
 }
 
@@ -136,14 +143,17 @@ void PanelFacade::tellContent() {
     if (m_rows.isDormant())
         return;
     m_filters.refresh();
-    Q_EMIT contentChanged();
     Q_EMIT primaryRowChanged();
+    Q_EMIT contentChanged();
+    tellHints();
 }
 
 void PanelFacade::tellSelection() {
     if (m_rows.isDormant())
         return;
     Q_EMIT primaryRowChanged();
+    if (!m_isPointing)
+        Q_EMIT revealed();
     tellHints();
 }
 
@@ -157,21 +167,49 @@ QString PanelFacade::helpOf(int row) const {
 }
 
 void PanelFacade::rowPressed(int row, int modifiers) {
-    if (const ClipRef clip = m_rows.clipAt(row))
-        m_collapsesOnRelease = m_model->click(clip->id, eventFlags(Qt::KeyboardModifiers(modifiers)));
-}
-
-void PanelFacade::rowReleased(int row) {
     const ClipRef clip = m_rows.clipAt(row);
-    if (m_collapsesOnRelease && clip)
-        m_model->selectOnly(clip->id);
+    m_pressedID = clip ? std::optional(clip->id) : std::nullopt;
     m_collapsesOnRelease = false;
+    if (!clip)
+        return;
+    m_isPointing = true;
+    m_collapsesOnRelease = m_model->click(clip->id, eventFlags(Qt::KeyboardModifiers(modifiers)));
+    m_isPointing = false;
 }
 
-void PanelFacade::rowDoubleClicked(int row) {
+void PanelFacade::rowReleased() {
+    if (!std::exchange(m_collapsesOnRelease, false) || !m_pressedID || m_rows.rowOf(*m_pressedID) < 0)
+        return;
+    m_isPointing = true;
+    m_model->selectOnly(*m_pressedID);
+    m_isPointing = false;
+}
+
+void PanelFacade::rowDoubleClicked(int modifiers) {
+    // With Ctrl or Shift held it is two single clicks, which have done their work.
+    if ((eventFlags(Qt::KeyboardModifiers(modifiers)) & (eventflag::command | eventflag::shift)) != 0)
+        return;
     m_collapsesOnRelease = false;
+    if (m_pressedID)
+        m_model->pasteRow(*m_pressedID);
+}
+
+void PanelFacade::rowActivated(int row) {
     if (const ClipRef clip = m_rows.clipAt(row))
         m_model->pasteRow(clip->id);
+}
+
+QString PanelFacade::clipIDOfRow(int row) const {
+    const ClipRef clip = m_rows.clipAt(row);
+    return clip ? clip->id.toString() : QString();
+}
+
+int PanelFacade::rowOfClipID(const QString& id) const {
+    return m_rows.rowOf(QUuid::fromString(id));
+}
+
+void PanelFacade::requestAccessibility() {
+    onRequestAccessibility();
 }
 
 void PanelFacade::transformChosen(int index) {
@@ -198,26 +236,42 @@ bool PanelFacade::hasQuery() const {
 
 QStringList PanelFacade::emptyLines() const {
     if (hasQuery())
-        return {localised("No clips match “") + m_model->query() + QStringLiteral("”")};
-    // The sentence names the default keys; who chose others reads those.
-    QString invitation = localised("Press ⌃⌘V anytime to open Vellumry.");
-    invitation.replace(localised("⌃") + localised("⌘") + QLatin1Char('V'), m_openPanelKeys());
-    return {localised("Nothing here yet"), localised("Copy something. It shows up here."), invitation};
+        return {localised("No clips match “%1”").arg(m_model->query())};
+    return {localised("Nothing here yet"), localised("Copy something. It shows up here."),
+            localised("Press %1 anytime to open Vellumry.").arg(m_openPanelKeys())};
 }
 
 QString PanelFacade::countText() const {
-    return QLocale().toString(m_model->count(ClipFilter::all)) + localised(" clips · encrypted on this Mac");
+    if (const int chosen = m_model->selectedCount(); chosen > 1)
+        return localised("%n clips selected", chosen);
+    const auto count = static_cast<int>(m_model->count(ClipFilter::all));
+    return m_model->store().isMemoryOnly() ? localised("%n clips · Not saved: kept until you quit", count)
+                                           : localised("%n clips · encrypted on this Mac", count);
 }
 
+/// What the keys do with what is chosen now; a key that would do nothing is not named.
 void PanelFacade::tellHints() {
-    const bool several = m_model->selectedCount() > 1;
-    m_hints.setHints({
-        {QStringLiteral("↑↓"), localised("Choose")},
-        {localised("↩"), several ? localised("Merge & paste") : localised("Paste")},
-        {localised("⇧↩"), localised("Plain text")},
-        {localised("⌘") + QLatin1Char('T'), localised("Transform")},
-        {localised("⌘⌫"), localised("Delete")},
-    });
+    Q_EMIT countTextChanged();
+    const std::vector<ClipRef> chosen = m_model->selectedClips();
+    std::vector<HintListModel::Hint> hints;
+    if (!chosen.empty())
+        hints.push_back({QStringLiteral("↑↓"), localised("Choose")});
+    const bool hasImage =
+        std::ranges::any_of(chosen, [](const ClipRef& clip) { return clip->kind == ClipKind::image; });
+    if (chosen.size() > 1) {
+        if (!hasImage)
+            hints.push_back({localised("↩"), localised("Merge & paste")});
+    } else if (chosen.size() == 1) {
+        const Clip& clip = *chosen.front();
+        hints.push_back({localised("↩"), localised("Paste")});
+        if (clip.kind == ClipKind::text || clip.kind == ClipKind::richText)
+            hints.push_back({localised("⇧↩"), localised("Plain text")});
+        if (clip.canBeTransformed())
+            hints.push_back({localised("⌘") + QLatin1Char('T'), localised("Transform")});
+    }
+    if (!chosen.empty())
+        hints.push_back({localised("⌘⌫"), localised("Delete")});
+    m_hints.setHints(std::move(hints));
 }
 
 QStringList PanelFacade::transforms() const {

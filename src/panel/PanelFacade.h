@@ -32,9 +32,10 @@ class PanelFacade : public QObject {
     Q_PROPERTY(QAbstractItemModel* filters READ filters CONSTANT)
     Q_PROPERTY(bool hasRows READ hasRows NOTIFY contentChanged)
     Q_PROPERTY(QStringList emptyLines READ emptyLines NOTIFY contentChanged)
-    Q_PROPERTY(QString countText READ countText NOTIFY contentChanged)
+    Q_PROPERTY(QString countText READ countText NOTIFY countTextChanged)
     Q_PROPERTY(QAbstractItemModel* hints READ hints CONSTANT)
     Q_PROPERTY(int primaryRow READ primaryRow NOTIFY primaryRowChanged)
+    Q_PROPERTY(bool hasAccessibility READ hasAccessibility NOTIFY hasAccessibilityChanged)
     Q_PROPERTY(int focusToken READ focusToken NOTIFY focusTokenChanged)
     Q_PROPERTY(bool isTransformListOpen READ isTransformListOpen NOTIFY transformChanged)
     Q_PROPERTY(int transformIndex READ transformIndex NOTIFY transformChanged)
@@ -55,9 +56,18 @@ public:
     Q_INVOKABLE void rowHovered(int row);
     /// What is told of that row where the pointer rests on it; may be empty.
     Q_INVOKABLE [[nodiscard]] QString helpOf(int row) const;
+    /// A button went down on that row, and up again. What follows is about the clip that was pressed, whatever moved to
+    /// its place meanwhile.
     Q_INVOKABLE void rowPressed(int row, int modifiers);
-    Q_INVOKABLE void rowReleased(int row);
-    Q_INVOKABLE void rowDoubleClicked(int row);
+    Q_INVOKABLE void rowReleased();
+    Q_INVOKABLE void rowDoubleClicked(int modifiers);
+    /// Pastes that row, for those who have no pointer.
+    Q_INVOKABLE void rowActivated(int row);
+    /// The identity of that row's clip, empty for none; and the way back, -1 for a clip that is not listed.
+    Q_INVOKABLE [[nodiscard]] QString clipIDOfRow(int row) const;
+    Q_INVOKABLE [[nodiscard]] int rowOfClipID(const QString& id) const;
+    /// Asks the desktop to let us press keys in other applications.
+    Q_INVOKABLE void requestAccessibility();
     Q_INVOKABLE void transformChosen(int index);
     /// Starts the Paste Stack, or stops it when it runs.
     Q_INVOKABLE void toggleStack();
@@ -78,6 +88,7 @@ public:
     [[nodiscard]] QString countText() const;
     [[nodiscard]] QAbstractItemModel* hints() { return &m_hints; }
     [[nodiscard]] int primaryRow() const { return m_rows.primaryRow(); }
+    [[nodiscard]] bool hasAccessibility() const { return m_model->hasAccessibility(); }
     [[nodiscard]] int focusToken() const { return m_model->focusToken(); }
     [[nodiscard]] bool isTransformListOpen() const { return m_model->isTransformListOpen(); }
     [[nodiscard]] int transformIndex() const { return m_model->transformIndex(); }
@@ -96,6 +107,7 @@ public:
 
     /// The virtual key code of the key with that native scan code.
     std::function<std::optional<quint32>(quint32 scanCode)> keyCodeOf;
+    std::function<void()> onRequestAccessibility = [] {};
     /// The pointer took hold of an empty part, moved, let go.
     std::function<void()> onGrabbed = [] {};
     std::function<void()> onDragged = [] {};
@@ -106,6 +118,10 @@ Q_SIGNALS:
     void filterChanged();
     void contentChanged();
     void primaryRowChanged();
+    void countTextChanged();
+    void hasAccessibilityChanged();
+    /// The chosen row is to come into sight.
+    void revealed();
     void focusTokenChanged();
     void transformChanged();
     void stackChanged();
@@ -133,7 +149,9 @@ private:
     QPointer<PasteStack> m_stack;
     std::optional<QString> m_typed; ///< and not yet searched for
     int m_shadowMargin = 0;
+    std::optional<QUuid> m_pressedID; ///< of the row that the button went down on last
     bool m_collapsesOnRelease = false;
+    bool m_isPointing = false; ///< the selection changes by a press: what lies under the pointer must not move
     int m_showing = 0;
     int m_fetchedFor = -1; ///< the showing that waits for what was copied
 };

@@ -3,6 +3,7 @@
 
 #include "capture/FileStatus.h"
 #include "foundation/Localisation.h"
+#include "panel/MarkedTitle.h"
 #include "panel/RowAppearance.h"
 
 #include <algorithm>
@@ -11,10 +12,10 @@
 
 namespace vellumry {
 
-PanelListModel::PanelListModel(PanelModel& model, KeyWords words, QObject* parent)
+PanelListModel::PanelListModel(PanelModel& model, QString pinKeys, QObject* parent)
     : QAbstractListModel(parent)
     , m_model(&model)
-    , m_words(std::move(words)) {
+    , m_pinKeys(std::move(pinKeys)) {
     connect(m_model, &PanelModel::sectionsChanged, this, &PanelListModel::follow);
     connect(m_model, &PanelModel::fileStatusesChanged, this, &PanelListModel::follow);
     connect(m_model, &PanelModel::availablePinnedNumbersChanged, this, &PanelListModel::follow);
@@ -98,6 +99,11 @@ ClipRef PanelListModel::clipAt(int row) const {
     return row >= 0 && row < rowCount() ? m_rows[static_cast<std::size_t>(row)].clip : nullptr;
 }
 
+int PanelListModel::rowOf(const QUuid& id) const {
+    const auto found = std::ranges::find_if(m_rows, [&](const Row& row) { return row.clip && row.clip->id == id; });
+    return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
+}
+
 int PanelListModel::primaryRow() const {
     const int index = m_model->selectedIndex();
     if (index < 0)
@@ -142,10 +148,12 @@ QVariant PanelListModel::clipValue(const Clip& clip, int role) const {
     case Qt::DisplayRole:
     case TitleRole:
         return row::titleOf(clip);
+    case MarkedTitleRole:
+        return markedTitle(row::titleOf(clip), clip.isSensitive() ? QString() : m_model->query());
     case SourceNameRole:
         return row::sourceOf(clip);
     case ImageMatchRole:
-        return m_model->imageMatch(clip).value_or(QString());
+        return imageMatchOf(clip);
     case SymbolRole:
         return row::symbolOf(clip);
     case ThumbnailRole:
@@ -156,14 +164,14 @@ QVariant PanelListModel::clipValue(const Clip& clip, int role) const {
         return row::swatchOf(clip);
     case PillRole:
         return pillOf(clip);
-    case NumberKeysRole:
-        return keysOf(m_rowNumbers, clip, m_words.number);
-    case PinKeysRole:
-        return keysOf(m_pinNumbers, clip, m_words.pin);
-    case PinHintRole: {
-        const QString keys = keysOf(m_pinNumbers, clip, m_words.pin);
-        return keys.isEmpty() ? keys : keys + localised(" anywhere to paste this");
-    }
+    case NumberRole:
+        return digitOf(m_rowNumbers, clip);
+    case PinNumberRole:
+        return digitOf(m_pinNumbers, clip);
+    case PinHintRole:
+        return hintOf(clip);
+    case DescriptionRole:
+        return descriptionOf(clip);
     case IsPinnedRole:
         return clip.isPinned;
     case IsSelectedRole:
@@ -195,18 +203,52 @@ QString PanelListModel::pillOf(const Clip& clip) const {
     return QString();
 }
 
-QString PanelListModel::keysOf(const QHash<QUuid, int>& numbers, const Clip& clip, const QString& words) const {
+QString PanelListModel::digitOf(const QHash<QUuid, int>& numbers, const Clip& clip) {
     const auto number = numbers.constFind(clip.id);
-    return number == numbers.constEnd() ? QString() : words.arg(*number);
+    return number == numbers.constEnd() ? QString() : QString::number(*number);
+}
+
+QString PanelListModel::hintOf(const Clip& clip) const {
+    const QString digit = digitOf(m_pinNumbers, clip);
+    return digit.isEmpty() ? digit : localised("%1 anywhere to paste this").arg(m_pinKeys.arg(digit));
+}
+
+QString PanelListModel::imageMatchOf(const Clip& clip) const {
+    return clip.isSensitive() ? QString() : m_model->imageMatch(clip).value_or(QString());
+}
+
+/// Everything beside the title that the row shows, for those who hear it.
+QString PanelListModel::descriptionOf(const Clip& clip) const {
+    const QString number = digitOf(m_rowNumbers, clip);
+    QStringList parts{row::sourceOf(clip), imageMatchOf(clip), pillOf(clip)};
+    if (clip.isPinned)
+        parts.append(localised("Pinned"));
+    parts.append(hintOf(clip));
+    if (!number.isEmpty())
+        parts.append(localised("⌘") + number);
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
 }
 
 QHash<int, QByteArray> PanelListModel::roleNames() const {
     return {
-        {HeaderRole, "header"},         {IsHeaderRole, "isHeader"},     {TitleRole, "title"},
-        {SourceNameRole, "sourceName"}, {ImageMatchRole, "imageMatch"}, {SymbolRole, "symbol"},
-        {ThumbnailRole, "thumbnail"},   {SwatchRole, "swatch"},         {PillRole, "pill"},
-        {NumberKeysRole, "numberKeys"}, {PinKeysRole, "pinKeys"},       {PinHintRole, "pinHint"},
-        {IsPinnedRole, "isPinned"},     {IsSelectedRole, "isSelected"}, {IsSensitiveRole, "isSensitive"},
+        {HeaderRole, "header"},
+        {IsHeaderRole, "isHeader"},
+        {TitleRole, "title"},
+        {MarkedTitleRole, "markedTitle"},
+        {SourceNameRole, "sourceName"},
+        {ImageMatchRole, "imageMatch"},
+        {SymbolRole, "symbol"},
+        {ThumbnailRole, "thumbnail"},
+        {SwatchRole, "swatch"},
+        {PillRole, "pill"},
+        {NumberRole, "number"},
+        {PinNumberRole, "pinNumber"},
+        {PinHintRole, "pinHint"},
+        {DescriptionRole, "description"},
+        {IsPinnedRole, "isPinned"},
+        {IsSelectedRole, "isSelected"},
+        {IsSensitiveRole, "isSensitive"},
     };
 }
 

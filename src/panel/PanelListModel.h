@@ -20,28 +20,24 @@ public:
         HeaderRole = Qt::UserRole + 1,
         IsHeaderRole,
         TitleRole,
+        MarkedTitleRole,
         SourceNameRole,
         ImageMatchRole,
         SymbolRole,
         ThumbnailRole,
         SwatchRole,
         PillRole,
-        NumberKeysRole,
-        PinKeysRole,
+        NumberRole,
+        PinNumberRole,
         PinHintRole,
+        DescriptionRole,
         IsPinnedRole,
         IsSelectedRole,
         IsSensitiveRole,
     };
 
-    /// The words on the caps of a row's number and of a pin's keys: "%1" is the digit.
-    struct KeyWords {
-        QString number;
-        QString pin;
-    };
-
-    /// `model` must outlive this.
-    PanelListModel(PanelModel& model, KeyWords words, QObject* parent = nullptr);
+    /// `model` must outlive this. `pinKeys`: the words for the keys that paste a pin anywhere, "%1" is the digit.
+    PanelListModel(PanelModel& model, QString pinKeys, QObject* parent = nullptr);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -49,6 +45,8 @@ public:
 
     /// Null for a header and for a row out of range.
     [[nodiscard]] ClipRef clipAt(int row) const;
+    /// The row of the clip with that id; -1 without one.
+    [[nodiscard]] int rowOf(const QUuid& id) const;
     /// -1 without one.
     [[nodiscard]] int primaryRow() const;
 
@@ -75,10 +73,13 @@ private:
     [[nodiscard]] QVariant headerValue(const Row& row, int role) const;
     [[nodiscard]] QVariant clipValue(const Clip& clip, int role) const;
     [[nodiscard]] QString pillOf(const Clip& clip) const;
-    [[nodiscard]] QString keysOf(const QHash<QUuid, int>& numbers, const Clip& clip, const QString& words) const;
+    [[nodiscard]] QString hintOf(const Clip& clip) const;
+    [[nodiscard]] QString descriptionOf(const Clip& clip) const;
+    [[nodiscard]] QString imageMatchOf(const Clip& clip) const;
+    [[nodiscard]] static QString digitOf(const QHash<QUuid, int>& numbers, const Clip& clip);
 
     PanelModel* m_model;
-    KeyWords m_words;
+    QString m_pinKeys;
     std::vector<Row> m_rows;
     std::vector<int> m_headers; ///< the rows that are headers, ascending
     QHash<QUuid, int> m_rowNumbers;

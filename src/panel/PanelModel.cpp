@@ -12,7 +12,7 @@ PanelModel::PanelModel(ClipStore& store, PasteEngine& paster, PanelModelCalendar
     : QObject(parent)
     , d(std::make_unique<Private>(store, paster, std::move(calendar))) {
     d->hasAccessibility = paster.isTrusted();
-    connect(&store, &ClipStore::clipsChanged, this, &PanelModel::sectionsChanged);
+    connect(&store, &ClipStore::clipsChanged, this, &PanelModel::followStore);
 }
 
 PanelModel::~PanelModel() = default;

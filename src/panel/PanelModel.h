@@ -201,6 +201,8 @@ private:
     void setSelection(std::optional<QUuid> primary, QSet<QUuid> several, std::optional<QUuid> anchor);
     void select(std::optional<QUuid> id);
     void closeTransformList();
+    void followStore();
+    void selectNeighbour(const std::vector<ClipRef>& before);
     void setTransform(std::optional<QUuid> clipID, int index);
     bool handleInTransformList(Command command);
     void handleEnter(bool isPlain);

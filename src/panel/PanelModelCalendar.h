@@ -2,6 +2,7 @@
 #pragma once
 
 #include "foundation/Date.h"
+#include "views/Language.h"
 
 #include <QDate>
 #include <QLocale>
@@ -18,7 +19,7 @@ class PanelModelDayFormat;
 struct PanelModelCalendar {
     Clock now = currentDate;
     std::function<QTimeZone()> timeZone = QTimeZone::systemTimeZone;
-    std::function<QLocale()> locale = [] { return QLocale(); };
+    std::function<QLocale()> locale = interfaceLocale;
 };
 
 /// One day of the user's calendar: from `start` on, up to but without `end`.

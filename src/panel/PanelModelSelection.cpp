@@ -100,6 +100,49 @@ bool PanelModel::click(const QUuid& id, quint32 flags) {
     return false;
 }
 
+/// A clip that goes while the panel is up (unpinned under Pinned, expired, deleted elsewhere) leaves the selection to
+/// its neighbour, so that Return always has a clip to paste.
+void PanelModel::followStore() {
+    std::vector<ClipRef> before;
+    if (d->isPresented && d->sectionCache && d->sectionCache->key != d->key())
+        before = d->sectionCache->visible;
+    Q_EMIT sectionsChanged();
+    if (!before.empty() && d->selectedID)
+        selectNeighbour(before);
+}
+
+void PanelModel::selectNeighbour(const std::vector<ClipRef>& before) {
+    const auto& now = visibleClips();
+    QSet<QUuid> left;
+    for (const ClipRef& clip : now) {
+        if (d->selectedIDs.contains(clip->id))
+            left.insert(clip->id);
+    }
+    const bool lostSome = left.size() < d->selectedIDs.size();
+    if (visibleIndex(d->selectedID) >= 0) {
+        if (lostSome)
+            setSelection(d->selectedID, left.size() < 2 ? QSet<QUuid>() : left, d->anchorID);
+        return;
+    }
+    if (left.size() >= 2) {
+        const auto first = std::ranges::find_if(now, [&](const ClipRef& clip) { return left.contains(clip->id); });
+        setSelection((*first)->id, left, (*first)->id);
+        return;
+    }
+    QSet<QUuid> listed;
+    for (const ClipRef& clip : now)
+        listed.insert(clip->id);
+    const auto isListed = [&](const ClipRef& clip) { return listed.contains(clip->id); };
+    const auto gone = std::ranges::find(before, *d->selectedID, [](const ClipRef& clip) { return clip->id; });
+    if (gone == before.end())
+        return;
+    const auto next = std::find_if(gone, before.end(), isListed);
+    const auto previous = std::find_if(std::reverse_iterator(gone), before.rend(), isListed);
+    select(next != before.end()        ? std::optional((*next)->id)
+           : previous != before.rend() ? std::optional((*previous)->id)
+                                       : std::nullopt);
+}
+
 void PanelModel::move(int offset) {
     const auto& clips = visibleClips();
     if (clips.empty())

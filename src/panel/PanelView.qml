@@ -12,7 +12,7 @@ Item {
     readonly property int shadowMargin: panel.shadowMargin
     readonly property color cornerColour: Theme.edge
 
-    LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Views.isRightToLeft
     LayoutMirroring.childrenInherit: true
 
     BorderImage {
@@ -33,7 +33,7 @@ Item {
         radius: Theme.radius
         color: Theme.ground
         border.color: Theme.edge
-        border.width: 1
+        border.width: Theme.thin
         Accessible.role: Accessible.Dialog
         Accessible.name: "Vellumry"
 
@@ -47,26 +47,26 @@ Item {
         Symbol {
             id: lens
             anchors.left: parent.left
-            anchors.leftMargin: 18
+            anchors.leftMargin: Theme.inset
             anchors.verticalCenter: field.verticalCenter
             name: "magnifyingglass"
-            size: 20
+            size: Theme.lensSize
         }
         SearchField {
             id: field
             panel: root.panel
             anchors.left: lens.right
-            anchors.leftMargin: 12
+            anchors.leftMargin: Theme.margin
             anchors.right: stackButton.left
-            anchors.rightMargin: 12
+            anchors.rightMargin: Theme.margin
             anchors.top: parent.top
-            anchors.topMargin: 15
+            anchors.topMargin: Theme.margin
         }
         StackButton {
             id: stackButton
             objectName: "stackButton"
             anchors.right: parent.right
-            anchors.rightMargin: 18
+            anchors.rightMargin: Theme.inset
             anchors.verticalCenter: field.verticalCenter
             isOn: root.panel.isStackActive
             onAction: root.panel.toggleStack()
@@ -75,30 +75,30 @@ Item {
             id: line
             anchors.left: parent.left
             anchors.right: parent.right
-            anchors.leftMargin: 1
-            anchors.rightMargin: 1
+            anchors.leftMargin: Theme.thin
+            anchors.rightMargin: Theme.thin
             anchors.top: field.bottom
-            anchors.topMargin: 14
-            height: 1
+            anchors.topMargin: Theme.margin
+            height: Theme.thin
             color: Theme.line
         }
         FilterChips {
             id: chips
             panel: root.panel
             anchors.left: parent.left
-            anchors.leftMargin: 14
+            anchors.leftMargin: Theme.inset
             anchors.top: line.bottom
-            anchors.topMargin: 10
+            anchors.topMargin: Theme.gap
         }
         ClipList {
             id: list
             panel: root.panel
             anchors.left: parent.left
             anchors.right: parent.right
-            anchors.leftMargin: 1
-            anchors.rightMargin: 1
+            anchors.leftMargin: Theme.thin
+            anchors.rightMargin: Theme.thin
             anchors.top: chips.bottom
-            anchors.topMargin: 6
+            anchors.topMargin: Theme.grid
             anchors.bottom: footer.top
             visible: root.panel.hasRows
         }
@@ -110,15 +110,15 @@ Item {
         TransformList {
             panel: root.panel
             anchors.right: parent.right
-            anchors.rightMargin: 18
+            anchors.rightMargin: Theme.inset
             anchors.bottom: footer.top
-            anchors.bottomMargin: 8
+            anchors.bottomMargin: Theme.gap
             visible: root.panel.isTransformListOpen
         }
         Tooltip {
             anchors.right: stackButton.right
             anchors.top: stackButton.bottom
-            anchors.topMargin: 6
+            anchors.topMargin: Theme.grid
             text: stackButton.help
             visible: stackButton.isAsking
         }
@@ -127,8 +127,8 @@ Item {
             panel: root.panel
             anchors.left: parent.left
             anchors.right: parent.right
-            anchors.leftMargin: 1
-            anchors.rightMargin: 1
+            anchors.leftMargin: Theme.thin
+            anchors.rightMargin: Theme.thin
             anchors.bottom: parent.bottom
         }
     }

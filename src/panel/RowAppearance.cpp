@@ -21,13 +21,19 @@ QString hiddenTitle(const QString& title) {
             digits += character;
     }
     if (isCardNumber(title) && digits.size() >= 4)
-        return QStringLiteral("Card •••• ") + digits.right(4);
+        return localised("Card •••• %1").arg(digits.right(4));
     return localised("Hidden");
+}
+
+/// An angle as a share of the circle, from 0 up to but without 1.
+double turn(double degrees) {
+    const double rest = std::fmod(degrees, 360.0);
+    return (rest < 0 ? rest + 360.0 : rest) / 360.0;
 }
 
 /// "rgb(…)", "rgba(…)", "hsl(…)" and "hsla(…)" of CSS.
 QColor functionalColor(const QString& text) {
-    static const QRegularExpression numbers(QStringLiteral("([0-9.]+)(%?)"));
+    static const QRegularExpression numbers(QStringLiteral("(-?[0-9.]+)(%?)"));
     std::vector<std::pair<double, bool>> parts;
     for (auto match = numbers.globalMatch(text); match.hasNext();) {
         const auto part = match.next();
@@ -40,10 +46,9 @@ QColor functionalColor(const QString& text) {
     };
     const double alpha = parts.size() > 3 ? share(3, 1.0) : 1.0;
     if (text.startsWith(QLatin1String("hsl"), Qt::CaseInsensitive))
-        return QColor::fromHslF(static_cast<float>(std::fmod(parts[0].first, 360.0) / 360.0),
-                                static_cast<float>(std::clamp(parts[1].first / 100.0, 0.0, 1.0)),
-                                static_cast<float>(std::clamp(parts[2].first / 100.0, 0.0, 1.0)),
-                                static_cast<float>(alpha));
+        return QColor::fromHslF(
+            static_cast<float>(turn(parts[0].first)), static_cast<float>(std::clamp(parts[1].first / 100.0, 0.0, 1.0)),
+            static_cast<float>(std::clamp(parts[2].first / 100.0, 0.0, 1.0)), static_cast<float>(alpha));
     return QColor::fromRgbF(static_cast<float>(share(0, 255.0)), static_cast<float>(share(1, 255.0)),
                             static_cast<float>(share(2, 255.0)), static_cast<float>(alpha));
 }
@@ -106,7 +111,64 @@ bool isCodeApp(const QString& identifier) {
         QStringLiteral("dev.zed.Zed"),
         QStringLiteral("com.panic.Nova"),
     };
-    return codeApps.contains(identifier) || identifier.startsWith(QLatin1String("com.jetbrains."));
+    // What has no identifier of its own in that list, by its desktop entry or window class.
+    static const QSet<QString> linuxApps{
+        QStringLiteral("alacritty"),
+        QStringLiteral("cmake-gui"),
+        QStringLiteral("codeblocks"),
+        QStringLiteral("com.gexperts.tilix"),
+        QStringLiteral("com.raggesilver.blackbox"),
+        QStringLiteral("contour"),
+        QStringLiteral("cool-retro-term"),
+        QStringLiteral("deepin-terminal"),
+        QStringLiteral("eclipse"),
+        QStringLiteral("emacs"),
+        QStringLiteral("foot"),
+        QStringLiteral("geany"),
+        QStringLiteral("gnome-terminal"),
+        QStringLiteral("gnome-terminal-server"),
+        QStringLiteral("guake"),
+        QStringLiteral("gvim"),
+        QStringLiteral("kitty"),
+        QStringLiteral("konsole"),
+        QStringLiteral("lxterminal"),
+        QStringLiteral("mate-terminal"),
+        QStringLiteral("neovide"),
+        QStringLiteral("nvim"),
+        QStringLiteral("org.codeblocks.codeblocks"),
+        QStringLiteral("org.contourterminal.contour"),
+        QStringLiteral("org.geany.geany"),
+        QStringLiteral("org.gnome.builder"),
+        QStringLiteral("org.gnome.console"),
+        QStringLiteral("org.gnome.ptyxis"),
+        QStringLiteral("org.gnome.terminal"),
+        QStringLiteral("org.gnu.emacs"),
+        QStringLiteral("org.kde.kate"),
+        QStringLiteral("org.kde.kdevelop"),
+        QStringLiteral("org.kde.konsole"),
+        QStringLiteral("org.kde.yakuake"),
+        QStringLiteral("org.qt-project.qtcreator"),
+        QStringLiteral("org.vim.vim"),
+        QStringLiteral("org.wezfurlong.wezterm"),
+        QStringLiteral("qterminal"),
+        QStringLiteral("rxvt"),
+        QStringLiteral("sakura"),
+        QStringLiteral("st"),
+        QStringLiteral("st-256color"),
+        QStringLiteral("terminator"),
+        QStringLiteral("terminology"),
+        QStringLiteral("tilda"),
+        QStringLiteral("tilix"),
+        QStringLiteral("urxvt"),
+        QStringLiteral("uxterm"),
+        QStringLiteral("vim"),
+        QStringLiteral("xfce4-terminal"),
+        QStringLiteral("xterm"),
+        QStringLiteral("yakuake"),
+    };
+    const QString lower = identifier.toLower();
+    return codeApps.contains(identifier) || linuxApps.contains(lower) ||
+           lower.startsWith(QLatin1String("jetbrains-")) || identifier.startsWith(QLatin1String("com.jetbrains."));
 }
 
 QString sourceOf(const Clip& clip) {

@@ -11,13 +11,13 @@ Rectangle {
     property string thumbnail
     property string swatch
     property bool isSelected: false
-    property int size: 32
+    property int size: Theme.iconSize
 
     width: size
     height: size
-    radius: 7
+    radius: Theme.tileRadius
     color: swatch !== "" ? swatch : isSelected ? Theme.selectedTile : Theme.tile
-    border.width: swatch !== "" ? 1 : 0
+    border.width: swatch !== "" ? Theme.thin : 0
     border.color: Theme.edge
 
     Symbol {
@@ -25,7 +25,7 @@ Rectangle {
         visible: icon.thumbnail === "" && icon.swatch === ""
         name: visible ? icon.symbol : ""
         tint: icon.isSelected ? Theme.accent : Theme.secondary
-        size: 18
+        size: Theme.symbolSize
     }
     Image {
         anchors.fill: parent

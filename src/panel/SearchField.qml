@@ -44,7 +44,7 @@ Item {
     }
     Label {
         anchors.fill: parent
-        anchors.leftMargin: 2
+        anchors.leftMargin: Theme.thin
         verticalAlignment: Text.AlignVCenter
         visible: field.input !== null && field.input.text === "" && field.input.preeditText === ""
         text: Views.words("Search clips")

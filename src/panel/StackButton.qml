@@ -13,11 +13,11 @@ Rectangle {
     property alias askingTime: rest.interval
     signal action
 
-    width: 10 + picture.width + 6 + Math.ceil(label.implicitWidth) + 12
-    height: 28
-    radius: 14
+    width: Theme.gap + picture.width + Theme.grid + Math.ceil(label.implicitWidth) + Theme.margin
+    height: Theme.buttonHeight
+    radius: height / 2
     color: isOn ? Theme.selected : area.containsPress ? Theme.capEdge : area.containsMouse ? Theme.tile : "transparent"
-    border.width: 1
+    border.width: Theme.thin
     border.color: isOn ? Theme.selected : Theme.line
     Accessible.role: Accessible.Button
     Accessible.name: Views.words("Stack")
@@ -29,16 +29,16 @@ Rectangle {
     Symbol {
         id: picture
         anchors.left: parent.left
-        anchors.leftMargin: 10
+        anchors.leftMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
         name: "square.stack.3d.up"
         tint: button.isOn ? Theme.accent : Theme.secondary
-        size: 16
+        size: Theme.symbolSize
     }
     Label {
         id: label
         anchors.left: picture.right
-        anchors.leftMargin: 6
+        anchors.leftMargin: Theme.grid
         anchors.verticalCenter: parent.verticalCenter
         text: Views.words("Stack")
         color: button.isOn ? Theme.accent : Theme.text

@@ -10,12 +10,12 @@ Rectangle {
 
     required property PanelFacade panel
 
-    width: 230
-    height: entries.implicitHeight + 12
-    radius: 10
+    width: Theme.transformWidth
+    height: entries.implicitHeight + 2 * Theme.gap
+    radius: Theme.rowRadius
     color: Theme.ground
     border.color: Theme.edge
-    border.width: 1
+    border.width: Theme.thin
     Accessible.role: Accessible.PopupMenu
     Accessible.name: Views.words("Transform")
 
@@ -24,7 +24,7 @@ Rectangle {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
-        anchors.margins: 6
+        anchors.margins: Theme.gap
 
         Repeater {
             model: list.panel.transforms
@@ -37,20 +37,22 @@ Rectangle {
                 readonly property bool isCurrent: list.panel.transformIndex === index
 
                 width: entries.width
-                height: 30
-                radius: 6
+                height: Theme.menuRowHeight
+                radius: Theme.smallRadius
                 color: isCurrent ? Theme.selected : area.containsMouse ? Theme.hovered : "transparent"
                 Accessible.role: Accessible.MenuItem
                 Accessible.name: modelData
+                Accessible.focusable: true
                 Accessible.focused: isCurrent
+                Accessible.onPressAction: list.panel.transformChosen(index)
 
                 Label {
                     anchors.left: parent.left
-                    anchors.leftMargin: 10
+                    anchors.leftMargin: Theme.gap
                     anchors.verticalCenter: parent.verticalCenter
                     text: entry.modelData
                     color: entry.isCurrent ? Theme.accent : Theme.text
-                    font.pixelSize: 13
+                    font.pixelSize: Theme.emptySize
                 }
                 MouseArea {
                     id: area

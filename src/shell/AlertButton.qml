@@ -12,10 +12,10 @@ Rectangle {
     signal pressed
     signal cancelled
 
-    width: Math.max(96, label.implicitWidth + 40)
-    height: 34
-    radius: 8
-    color: isPlain ? (area.containsPress ? Theme.edge : Theme.ground) : (area.containsPress ? "#1f5fd0" : "#2a6fe8")
+    width: Math.max(Theme.buttonWidth, label.implicitWidth + 2 * Theme.alertMargin)
+    height: Theme.buttonHeight
+    radius: Theme.rowRadius
+    color: isPlain ? (area.containsPress ? Theme.edge : Theme.ground) : (area.containsPress ? Theme.pressedButton : Theme.button)
     border.width: isPlain || activeFocus ? (activeFocus ? 2 : 1) : 0
     border.color: activeFocus ? Theme.text : Theme.edge
     Accessible.role: Accessible.Button
@@ -32,8 +32,8 @@ Rectangle {
         id: label
         anchors.centerIn: parent
         text: button.text
-        color: button.isPlain ? Theme.text : "white"
-        font.pixelSize: 14
+        color: button.isPlain ? Theme.text : Theme.buttonText
+        font.pixelSize: Theme.messageSize
         font.weight: Font.Medium
     }
     MouseArea {

@@ -14,9 +14,14 @@ Rectangle {
     signal confirmed
     signal answered
 
-    width: 440
-    height: column.implicitHeight + 48
+    width: Theme.alertWidth
+    height: column.implicitHeight + 2 * Theme.alertMargin
     color: Theme.ground
+    LayoutMirroring.enabled: Views.isRightToLeft
+    LayoutMirroring.childrenInherit: true
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: title
+    Accessible.description: message
 
     Column {
         id: column
@@ -24,15 +29,15 @@ Rectangle {
             left: parent.left
             right: parent.right
             top: parent.top
-            margins: 24
+            margins: Theme.alertMargin
         }
-        spacing: 10
+        spacing: Theme.gap
 
         Label {
             width: parent.width
             text: root.title
             color: Theme.text
-            font.pixelSize: 17
+            font.pixelSize: Theme.alertTitleSize
             font.weight: Font.DemiBold
             wrapMode: Text.WordWrap
             elide: Text.ElideNone
@@ -43,7 +48,7 @@ Rectangle {
             width: parent.width
             text: root.message
             color: Theme.secondary
-            font.pixelSize: 14
+            font.pixelSize: Theme.messageSize
             lineHeight: 1.25
             wrapMode: Text.WordWrap
             elide: Text.ElideNone
@@ -52,14 +57,14 @@ Rectangle {
         }
         Item {
             width: parent.width
-            height: 44
+            height: key.height + Theme.gap
 
             Row {
                 anchors {
                     right: parent.right
                     bottom: parent.bottom
                 }
-                spacing: 10
+                spacing: Theme.gap
 
                 AlertButton {
                     id: actionKey

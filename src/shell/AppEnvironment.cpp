@@ -128,6 +128,7 @@ PanelController::Hooks AppEnvironment::panelHooks() {
     };
     hooks.openPanelKeys = [this] { return openPanelKeys(); };
     hooks.keyCodeOf = [this](quint32 scanCode) { return m_platform->keyboard->keyCodeOfScanCode(scanCode); };
+    hooks.requestAccessibility = [this] { m_platform->pasteTarget->requestTrust(); };
     hooks.showToast = [this](const ToastMessage& message) { showToast(message); };
     return hooks;
 }

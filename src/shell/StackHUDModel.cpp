@@ -3,8 +3,7 @@
 
 #include "foundation/Localisation.h"
 #include "paste/PasteStack.h"
-
-#include <QLocale>
+#include "views/Language.h"
 
 namespace vellumry {
 
@@ -17,26 +16,27 @@ bool StackHUDModel::isOver() const {
     return !m_stack->isActive() && m_stack->pastedCount() > 0;
 }
 
-bool StackHUDModel::countsDown() const {
-    return !isOver() && m_stack->count() > 0;
-}
-
 bool StackHUDModel::isReversed() const {
     return m_stack->isReversed();
 }
 
-QString StackHUDModel::number() const {
-    return countsDown() ? QLocale().toString(m_stack->count()) : QString();
+QString StackHUDModel::sentence() const {
+    return said(QStringLiteral("<b>%1</b>"));
 }
 
-QString StackHUDModel::sentence() const {
-    if (countsDown())
-        return localised("to paste");
+QString StackHUDModel::spoken() const {
+    return said(QStringLiteral("%1"));
+}
+
+/// `number` is how the number of waiting items is written.
+QString StackHUDModel::said(const QString& number) const {
+    if (!isOver() && m_stack->count() > 0)
+        return localised("%1 to paste").arg(number.arg(interfaceLocale().toString(m_stack->count())));
     if (!isOver())
         return localised("Copy what you need, then ⌘V");
     if (m_stack->pastedCount() == 1)
         return localised("Pasted");
-    return localised("All %1 pasted").arg(QLocale().toString(m_stack->pastedCount()));
+    return localised("All %1 pasted").arg(interfaceLocale().toString(m_stack->pastedCount()));
 }
 
 QString StackHUDModel::orderHelp() const {

@@ -14,8 +14,8 @@ class StackHUDModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("belongs to the bar's controller")
-    Q_PROPERTY(QString number READ number NOTIFY changed)
     Q_PROPERTY(QString sentence READ sentence NOTIFY changed)
+    Q_PROPERTY(QString spoken READ spoken NOTIFY changed)
     Q_PROPERTY(bool isOver READ isOver NOTIFY changed)
     Q_PROPERTY(bool isReversed READ isReversed NOTIFY changed)
     Q_PROPERTY(QString orderHelp READ orderHelp NOTIFY changed)
@@ -25,10 +25,10 @@ public:
     /// `stack` must outlive this.
     explicit StackHUDModel(PasteStack& stack);
 
-    /// How many items wait; empty where the sentence is not about them.
-    [[nodiscard]] QString number() const;
-    /// What is said behind the number, or instead of it.
+    /// What the bar says, as styled text: the number of items that wait in bold.
     [[nodiscard]] QString sentence() const;
+    /// The same without a style.
+    [[nodiscard]] QString spoken() const;
     /// All was pasted.
     [[nodiscard]] bool isOver() const;
     [[nodiscard]] bool isReversed() const;
@@ -45,7 +45,7 @@ Q_SIGNALS:
     void stopped();
 
 private:
-    [[nodiscard]] bool countsDown() const;
+    [[nodiscard]] QString said(const QString& number) const;
 
     PasteStack* m_stack;
 };

@@ -17,42 +17,34 @@ Rectangle {
     readonly property real helpCentre: (order.isAsking ? order.x : end.x) + end.width / 2
     property int askingTime: 600
 
-    width: 16 + Math.ceil(number.implicitWidth + words.implicitWidth) + 12 + order.width + 4 + end.width + 8
-    height: 40
-    radius: 14
+    width: Theme.inset + Math.ceil(words.implicitWidth) + Theme.margin + order.width + Theme.grid + end.width + Theme.gap
+    height: Theme.barHeight
+    radius: Theme.radius
     color: Theme.ground
-    border.width: 1
+    border.width: Theme.thin
     border.color: Theme.edge
-    LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Views.isRightToLeft
     LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.ToolBar
     Accessible.name: Views.words("Paste Stack")
 
     // Not laid out by a row: the window needs the new size at once.
     Label {
-        id: number
-        anchors.left: parent.left
-        anchors.leftMargin: 16
-        anchors.verticalCenter: parent.verticalCenter
-        rightPadding: text === "" ? 0 : 5
-        text: bar.stack.number
-        font.pointSize: bar.textSize
-        font.weight: Font.DemiBold
-    }
-    Label {
         id: words
-        anchors.left: number.right
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.inset
         anchors.verticalCenter: parent.verticalCenter
         text: bar.stack.sentence
+        textFormat: Text.StyledText
         color: bar.stack.isOver ? Theme.text : Theme.secondary
         font.pointSize: bar.textSize
         Accessible.role: Accessible.StaticText
-        Accessible.name: bar.stack.number === "" ? text : bar.stack.number + " " + text
+        Accessible.name: bar.stack.spoken
     }
     HUDButton {
         id: order
         anchors.left: words.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.margin
         anchors.verticalCenter: parent.verticalCenter
         symbol: "arrow.up.arrow.down"
         isOn: bar.stack.isReversed
@@ -63,7 +55,7 @@ Rectangle {
     HUDButton {
         id: end
         anchors.left: order.right
-        anchors.leftMargin: 4
+        anchors.leftMargin: Theme.grid
         anchors.verticalCenter: parent.verticalCenter
         symbol: "xmark"
         help: bar.stack.stopHelp

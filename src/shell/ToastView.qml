@@ -14,13 +14,13 @@ Rectangle {
     property int maximumWidth: 800 // of the display
     readonly property color toneColour: tone === "success" ? Theme.success : tone === "warning" ? Theme.warning : Theme.accent
 
-    width: 18 + picture.width + 10 + sentence.width + 18
-    height: Math.max(44, Math.ceil(sentence.implicitHeight) + 24)
-    radius: 14
+    width: Theme.inset + picture.width + Theme.margin + sentence.width + Theme.inset
+    height: Math.ceil(sentence.implicitHeight) + 2 * Theme.margin
+    radius: Theme.radius
     color: Theme.ground
-    border.width: 1
+    border.width: Theme.thin
     border.color: Theme.edge
-    LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Views.isRightToLeft
     LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.Notification
     Accessible.name: message
@@ -29,22 +29,22 @@ Rectangle {
     Symbol {
         id: picture
         anchors.left: parent.left
-        anchors.leftMargin: 18
+        anchors.leftMargin: Theme.inset
         anchors.verticalCenter: parent.verticalCenter
         name: toast.symbol
         tint: toast.toneColour
-        size: 19
+        size: Theme.symbolSize
     }
     Label {
         id: sentence
         anchors.left: picture.right
-        anchors.leftMargin: 10
+        anchors.leftMargin: Theme.margin
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(Math.ceil(implicitWidth), 560, toast.maximumWidth - 120)
+        width: Math.min(Math.ceil(implicitWidth), Theme.messageWidth, toast.maximumWidth - 4 * Theme.iconSize)
         text: toast.message
         wrapMode: Text.Wrap
         elide: Text.ElideNone
-        font.pixelSize: 14
+        font.pixelSize: Theme.messageSize
         font.weight: Font.Medium
     }
 }

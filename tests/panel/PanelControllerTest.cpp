@@ -119,7 +119,7 @@ TEST_F(PanelControllerTest, NearHomeItSlidesBackAndIsForgotten) {
     dragTo(home().topLeft() + QPoint(15, 10));
     ASSERT_TRUE(QTest::qWaitFor([&] { return savings == 1; }));
     EXPECT_TRUE(positions.isEmpty());
-    EXPECT_EQ(view()->position(), home().topLeft());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return view()->position() == home().topLeft(); }));
 }
 
 TEST_F(PanelControllerTest, WhileItIsHeldNoPlaceIsRemembered) {
@@ -187,4 +187,30 @@ TEST_F(PanelControllerTest, HiddenWhileItFadesItIsWholeTheNextTime) {
     surface.blends = false;
     open();
     EXPECT_EQ(view()->opacity(), 1.0);
+}
+
+TEST_F(PanelControllerTest, WhatTakesThePointerIsToldOnceTheWindowStandsOnItsDisplay) {
+    open();
+    EXPECT_TRUE(surface.isShapedSincePresented) << "another display may count in other pixels";
+}
+
+TEST_F(PanelControllerTest, NearHomeItSlidesUnlessMotionIsUnwelcome) {
+    surface.stillness = true;
+    open();
+    dragTo(home().topLeft() + QPoint(15, 10));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return savings == 1; }));
+    EXPECT_EQ(view()->position(), home().topLeft());
+}
+
+TEST_F(PanelControllerTest, WithoutThePermissionToPressKeysAButtonAsksForIt) {
+    target.trusted = false;
+    open();
+    const QString offer = QStringLiteral("Allow Vellumry to paste for you");
+    ASSERT_TRUE(texts().contains(offer));
+    QTest::mouseClick(view(), Qt::LeftButton, {}, middleOf(itemWithText(offer)));
+    EXPECT_EQ(accessRequests, 1);
+    panel.hide();
+    target.trusted = true;
+    open();
+    EXPECT_FALSE(texts().contains(offer));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/PanelListModel.h"
 
+#include "foundation/Localisation.h"
 #include "support/PasteWorld.h"
 
 #include <QAbstractItemModelTester>
@@ -24,7 +25,7 @@ protected:
     PanelModelCalendar calendar{[] { return 86'400.0 * 20'000 + 40'000; }, [] { return QTimeZone::utc(); },
                                 [] { return QLocale::c(); }};
     PanelModel model{store, *engine, calendar};
-    PanelListModel rows{model, {QStringLiteral("Ctrl+%1"), QStringLiteral("Super+Alt+%1")}};
+    PanelListModel rows{model, QStringLiteral("Super+Alt+%1")};
     QAbstractItemModelTester tester{&rows, QAbstractItemModelTester::FailureReportingMode::Fatal};
     Date today = 86'400.0 * 20'000 + 100;
 };
@@ -41,12 +42,12 @@ TEST_F(PanelListModelTest, AHeaderStandsAboveItsClips) {
     EXPECT_FALSE(rows.data(rows.index(1), PanelListModel::IsHeaderRole).toBool());
 }
 
-TEST_F(PanelListModelTest, NumbersCarryTheirKeys) {
+TEST_F(PanelListModelTest, RowsCarryTheirNumbers) {
     add(drafts::text(QStringLiteral("first")), today);
     add(drafts::secret(QStringLiteral("hidden words")), today + 1);
     add(drafts::text(QStringLiteral("third")), today + 2);
-    EXPECT_EQ(column(PanelListModel::NumberKeysRole),
-              (QStringList{QString(), QStringLiteral("Ctrl+1"), QString(), QStringLiteral("Ctrl+2")}));
+    EXPECT_EQ(column(PanelListModel::NumberRole),
+              (QStringList{QString(), QStringLiteral("1"), QString(), QStringLiteral("2")}));
 }
 
 TEST_F(PanelListModelTest, APinSaysWhichKeysPasteItAnywhere) {
@@ -163,4 +164,23 @@ TEST_F(PanelListModelTest, CatchingUpWhileDormantLetsGoOfWhatWasDeleted) {
     QSignalSpy behind(&rows, &PanelListModel::fellBehind);
     add(drafts::text(QStringLiteral("next")), today);
     EXPECT_EQ(behind.count(), 1) << "it is told again after it caught up";
+}
+
+TEST_F(PanelListModelTest, AHitIsMarkedInTheTitle) {
+    add(drafts::text(QStringLiteral("a <b> & pear")), today);
+    model.setQuery(QStringLiteral("PE"));
+    EXPECT_EQ(column(PanelListModel::MarkedTitleRole)[1], QStringLiteral("a &lt;b&gt; &amp; <b>pe</b>ar"));
+}
+
+TEST_F(PanelListModelTest, TheDescriptionTellsEverythingThatTheRowShows) {
+    const auto clip = add(drafts::files({QStringLiteral("/home/u/a.txt")}), today);
+    fileStatuses[QStringLiteral("/home/u/a.txt")] = FileStatus::inTrash(QStringLiteral("/trash/a.txt"));
+    awaited(store.setPinned(clip->id, true, today + 2));
+    add(drafts::text(QStringLiteral("second")), today + 1);
+    model.prepareForShow();
+    const QStringList told = column(PanelListModel::DescriptionRole);
+    EXPECT_TRUE(told[1].contains(QStringLiteral("In Trash"))) << told[1].toStdString();
+    EXPECT_TRUE(told[1].contains(QStringLiteral("Pinned")));
+    EXPECT_TRUE(told[1].contains(QStringLiteral("Super+Alt+1 anywhere to paste this")));
+    EXPECT_TRUE(told[3].endsWith(localised("⌘") + QLatin1Char('1'))) << told[3].toStdString();
 }

@@ -39,7 +39,7 @@ TEST_F(PanelTypingTest, KeysThatWaitAreSearchedForTogether) {
     turn();
     EXPECT_EQ(searches.count(), 1);
     EXPECT_EQ(panel.model().query(), QStringLiteral("abc"));
-    EXPECT_TRUE(texts().contains(QStringLiteral("abc")));
+    EXPECT_TRUE(texts().contains(QStringLiteral("<b>abc</b>")));
     EXPECT_FALSE(texts().contains(QStringLiteral("aaa")));
     turn();
     EXPECT_EQ(searches.count(), 1);

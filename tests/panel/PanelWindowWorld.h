@@ -36,6 +36,7 @@ protected:
         };
         hooks.keyCodeOf = [](quint32 scanCode) { return scanCode == placeOfTwo ? std::optional(19U) : std::nullopt; };
         hooks.openPanelKeys = [] { return QStringLiteral("Super+V"); };
+        hooks.requestAccessibility = [this] { ++accessRequests; };
         hooks.showToast = [this](const ToastMessage& toast) { toasts.push_back(toast); };
         hooks.settleDelay = std::chrono::milliseconds(0);
         hooks.forgetDelay = std::chrono::milliseconds(0);
@@ -64,6 +65,7 @@ protected:
     ViewEngine views;
     QMap<QString, placement::Fractions> positions;
     int savings = 0;
+    int accessRequests = 0;
     std::vector<ToastMessage> toasts;
     PanelController panel{store, *engine, pasteboard, surface, views, panelHooks()};
 

@@ -51,9 +51,9 @@ TEST_F(StackHUDControllerTest, AnEmptyStackSaysWhatToDo) {
 TEST_F(StackHUDControllerTest, CountsWhatWaits) {
     stack.start({item("one"), item("two")});
     hud.show();
-    EXPECT_EQ(texts(), (QStringList{QStringLiteral("2"), localised("to paste")}));
+    EXPECT_EQ(texts(), QStringList{localised("%1 to paste").arg(QStringLiteral("<b>2</b>"))});
     (void)stack.pasteNext();
-    EXPECT_EQ(texts(), (QStringList{QStringLiteral("1"), localised("to paste")}));
+    EXPECT_EQ(texts(), QStringList{localised("%1 to paste").arg(QStringLiteral("<b>1</b>"))});
 }
 
 TEST_F(StackHUDControllerTest, SaysThatAllIsPasted) {

@@ -15,6 +15,7 @@ public:
         if (frame)
             window->setGeometry(*frame);
         frames.append(frame.value_or(QRect()));
+        isShapedSincePresented = false;
         window->show();
     }
     void dismiss(QWindow* window) override {
@@ -27,7 +28,10 @@ public:
         window->setGeometry(frame);
         window->show();
     }
-    void setInputArea(QWindow*, const QRect& area) override { inputArea = area; }
+    void setInputArea(QWindow*, const QRect& area) override {
+        inputArea = area;
+        isShapedSincePresented = true;
+    }
     [[nodiscard]] bool canBlend() const override { return blends; }
     [[nodiscard]] bool reducesMotion() const override { return stillness; }
     [[nodiscard]] std::optional<ScreenPlace> screenUnderPointer() const override { return under ? under : screen; }
@@ -41,6 +45,7 @@ public:
     QList<QWindow*> adopted;
     QList<QRect> frames;
     QRect inputArea;
+    bool isShapedSincePresented = false;
     int dismissals = 0;
     bool lastClickThrough = false;
 };
