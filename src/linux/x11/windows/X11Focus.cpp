@@ -13,6 +13,11 @@ namespace {
 /// Longer than a paste needs from the panel's end to its key press, shorter than a user needs for the next thing.
 constexpr std::chrono::milliseconds rememberedFor{1500};
 
+/// Window managers that focus what the pointer is on (i3, and others when told to) take the end of the panel for the
+/// pointer's coming to the window beneath it. They do so at once; a user who means that window needs longer.
+constexpr std::chrono::milliseconds heldFor{300};
+constexpr int mostHolds = 3;
+
 constexpr long focusEvents = FocusChangeMask | StructureNotifyMask;
 
 } // namespace
@@ -52,12 +57,14 @@ void X11Focus::forget() {
     m_client = 0;
     m_active = 0;
     m_givenBack.reset();
+    m_holdsLeft = 0;
 }
 
 void X11Focus::giveBack(XWindow ours) {
     if (m_focus == 0)
         return;
     m_givenBack = m_clock();
+    m_holdsLeft = isPointerOn(ours) ? mostHolds : 0;
     // A window manager gives the keyboard to any window when the remembered one closes. What the user chose for that
     // one must not be typed into another, so it stays remembered for its while.
     if (XWindowProperties::focusWindow(*m_connection) != ours)
@@ -65,8 +72,53 @@ void X11Focus::giveBack(XWindow ours) {
     Display* display = m_connection->display();
     XErrorTrap trap(display);
     XSetInputFocus(display, m_focus, m_revertTo, CurrentTime);
-    if (trap.finish() == 0 || m_active <= 1)
+    if (trap.finish() != 0)
+        activate();
+}
+
+bool X11Focus::isPointerOn(XWindow window) const {
+    Display* display = m_connection->display();
+    XErrorTrap trap(display);
+    XWindow root = 0;
+    XWindow child = 0;
+    int rootX = 0;
+    int rootY = 0;
+    int x = 0;
+    int y = 0;
+    unsigned int mask = 0;
+    XWindowAttributes attributes{};
+    const bool isKnown = XQueryPointer(display, window, &root, &child, &rootX, &rootY, &x, &y, &mask) != 0 &&
+                         XGetWindowAttributes(display, window, &attributes) != 0;
+    return trap.finish() == 0 && isKnown && x >= 0 && y >= 0 && x < attributes.width && y < attributes.height;
+}
+
+/// Takes the keyboard back from a window that got it because the panel over it went away. A pressed button means that
+/// the user chose that window.
+void X11Focus::hold() {
+    if (m_holdsLeft == 0 || !m_givenBack || m_clock() - *m_givenBack > heldFor)
         return;
+    if (isSameClient(XWindowProperties::focusWindow(*m_connection)))
+        return;
+    XWindow root = 0;
+    XWindow child = 0;
+    int place[4];
+    unsigned int mask = 0;
+    XQueryPointer(m_connection->display(), m_connection->root(), &root, &child, &place[0], &place[1], &place[2],
+                  &place[3], &mask);
+    if ((mask & (Button1Mask | Button2Mask | Button3Mask)) != 0)
+        return;
+    --m_holdsLeft;
+    // The window manager is asked as well: it would go on to show the other window as the active one.
+    activate();
+    XErrorTrap trap(m_connection->display());
+    XSetInputFocus(m_connection->display(), m_focus, m_revertTo, CurrentTime);
+}
+
+void X11Focus::activate() {
+    if (m_active <= 1)
+        return;
+    Display* display = m_connection->display();
+    XErrorTrap trap(display);
     XEvent request{};
     request.xclient.type = ClientMessage;
     request.xclient.window = m_active;
@@ -100,6 +152,10 @@ void X11Focus::handleEvent(XEvent* event) {
                                event->xproperty.atom == m_connection->atom("_NET_ACTIVE_WINDOW");
     const bool focusChanged = m_focus > 1 && event->xany.window == m_focus &&
                               (event->type == FocusIn || event->type == FocusOut || event->type == DestroyNotify);
+    const bool isTaken = focusChanged && event->type == FocusOut && event->xfocus.mode != NotifyGrab &&
+                         event->xfocus.mode != NotifyUngrab && event->xfocus.detail != NotifyInferior;
+    if (isTaken)
+        hold();
     if (activeChanged || focusChanged)
         Q_EMIT moved();
 }

@@ -43,6 +43,10 @@ private:
     void handleEvent(XEvent* event);
     [[nodiscard]] bool isSameClient(XWindow focus);
     [[nodiscard]] bool isRemembered();
+    /// Asks the window manager to activate the window that was active.
+    void activate();
+    void hold();
+    [[nodiscard]] bool isPointerOn(XWindow window) const;
 
     std::shared_ptr<XlibConnection> m_connection;
     Clock m_clock;
@@ -52,6 +56,7 @@ private:
     XWindow m_client = 0;
     XWindow m_active = 0;
     std::optional<std::chrono::steady_clock::time_point> m_givenBack;
+    int m_holdsLeft = 0; ///< how often a window that the pointer came to lie on may still be told to let go
 };
 
 } // namespace vellumry
