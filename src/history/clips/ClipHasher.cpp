@@ -12,12 +12,12 @@ constexpr qint64 mostBytesHere = 256 * 1024;
 
 } // namespace
 
-QCoro::Task<Fingerprint> ClipHasher::fingerprint(ClipDraft draft) {
+QCoro::Task<Fingerprint> ClipHasher::fingerprint(ClipDraft draft, std::shared_ptr<const ClipCrypto> crypto) {
     if (draft.payload.byteCount() <= mostBytesHere)
-        co_return fingerprintOf(draft, *m_crypto);
+        co_return fingerprintOf(draft, *crypto);
     if (!m_executor)
         m_executor = std::make_unique<SerialExecutor>("hashing");
-    auto job = [crypto = m_crypto, draft = std::move(draft)] { return fingerprintOf(draft, *crypto); };
+    auto job = [crypto = std::move(crypto), draft = std::move(draft)] { return fingerprintOf(draft, *crypto); };
     auto running = m_executor->run(std::move(job));
     co_return co_await running;
 }

@@ -4,7 +4,6 @@
 #include "foundation/CryptoError.h"
 #include "history/clips/ClipOfDraft.h"
 #include "history/clips/ClipStorePrivate.h"
-#include "history/file/Attempts.h"
 
 #include <QPointer>
 
@@ -20,27 +19,36 @@ QCoro::Task<std::unique_ptr<ClipStore>> ClipStore::open(std::shared_ptr<ClipData
 
 ClipStore::ClipStore(std::shared_ptr<ClipDatabase> database, RetentionPolicy policy, bool recoveredFromDamage,
                      std::vector<ClipRef> clips)
-    : d(std::make_unique<Private>(database, database->crypto(), policy, this)) {
+    : d(std::make_unique<Private>(database->crypto(), policy, this)) {
     d->recoveredFromDamage = recoveredFromDamage;
     d->list.assign(std::move(clips));
+    d->writer.setDatabase(std::move(database));
+    d->writer.onBehindChanged = [this] { Q_EMIT storageChanged(); };
 }
 
 ClipStore::ClipStore(RetentionPolicy policy)
-    : d(std::make_unique<Private>(nullptr, ClipCrypto::withRandomKey(), policy, this)) {}
+    : d(std::make_unique<Private>(ClipCrypto::withRandomKey(), policy, this)) {
+    d->writer.onBehindChanged = [this] { Q_EMIT storageChanged(); };
+}
 
 ClipStore::~ClipStore() = default;
 
 QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
     const QPointer<ClipStore> self(this);
     Fingerprint fingerprint;
-    try {
-        auto hashing = d->hasher.fingerprint(draft);
-        fingerprint = co_await hashing;
-    } catch (const CryptoError&) {
-        co_return ClipRef();
-    }
-    if (!self)
-        co_return ClipRef();
+    std::shared_ptr<const ClipCrypto> crypto;
+    do {
+        crypto = d->crypto;
+        try {
+            auto hashing = d->hasher.fingerprint(draft, crypto);
+            fingerprint = co_await hashing;
+        } catch (const CryptoError&) {
+            co_return ClipRef();
+        }
+        if (!self)
+            co_return ClipRef();
+        // When the history joined meanwhile, the fingerprint is of another key.
+    } while (crypto != d->crypto);
     const ClipRef existing = d->list.findFingerprint(fingerprint);
     const ClipRef clip =
         std::make_shared<const Clip>(clipOfDraft(draft, existing, fingerprint, now, d->sensitiveLifetime));
@@ -50,33 +58,19 @@ QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
         d->list.insert(clip);
     // The keys of its image text stay: that text was kept, or there is none.
     d->search->forgetText(clip->id);
-
-    if (const std::shared_ptr<ClipDatabase> database = d->database) {
-        changed();
-        auto writing = attempted(database->insert(clip, std::move(draft.payload)));
-        const bool isWritten = co_await writing;
-        if (!self)
-            co_return ClipRef();
-        if (!isWritten) {
-            takeBack(clip->id, existing);
-            co_return ClipRef();
-        }
-    } else {
-        d->memoryPayloads.insert(clip->id, std::move(draft.payload));
-        changed();
-    }
+    changed();
+    auto writing = d->writer.insert(clip->id, std::move(draft.payload));
+    co_await writing;
+    if (!self)
+        co_return ClipRef();
     auto retaining = enforceRetention(now);
     co_await retaining;
     co_return self ? d->list.find(clip->id) : ClipRef();
 }
 
 QCoro::Task<std::optional<ClipPayload>> ClipStore::payload(QUuid id) {
-    if (d->database) {
-        auto loading = attemptedPayload(d->database, id);
-        co_return co_await loading;
-    }
-    const auto found = d->memoryPayloads.constFind(id);
-    co_return found == d->memoryPayloads.constEnd() ? std::nullopt : std::optional(*found);
+    auto reading = d->writer.payload(id);
+    co_return co_await reading;
 }
 
 QCoro::Task<void> ClipStore::markUsed(QUuid id, Date date) {
@@ -85,12 +79,10 @@ QCoro::Task<void> ClipStore::markUsed(QUuid id, Date date) {
         co_return;
     auto clip = std::make_shared<Clip>(*old);
     clip->lastUsedAt = date;
-    d->list.replace(old, std::move(clip));
+    d->list.replace(old, clip);
     changed();
-    if (const std::shared_ptr<ClipDatabase> database = d->database) {
-        auto writing = attempted(database->updateUsed(id, date));
-        co_await writing;
-    }
+    auto writing = d->writer.updateUsed(clip);
+    co_await writing;
 }
 
 QCoro::Task<void> ClipStore::setPinned(QUuid id, bool isPinned, Date date) {
@@ -99,22 +91,15 @@ QCoro::Task<void> ClipStore::setPinned(QUuid id, bool isPinned, Date date) {
         co_return;
     auto clip = std::make_shared<Clip>(*old);
     clip->isPinned = isPinned;
-    const qint64 pinOrder = isPinned ? d->list.nextPinOrder(date) : 0;
-    clip->pinOrder = pinOrder;
+    clip->pinOrder = isPinned ? d->list.nextPinOrder(date) : 0;
     // Pinning rescues a sensitive clip; unpinning does not bring its end back.
     const bool isRescued = isPinned && clip->expiresAt.has_value();
     if (isRescued)
         clip->expiresAt.reset();
-    d->list.change(std::move(clip));
+    d->list.change(clip);
     changed();
-    if (const std::shared_ptr<ClipDatabase> database = d->database) {
-        auto pinning = attempted(database->updatePinned(id, pinOrder));
-        co_await pinning;
-        if (isRescued) {
-            auto rescuing = attempted(database->updateExpiry(id, std::nullopt));
-            co_await rescuing;
-        }
-    }
+    auto writing = d->writer.updatePinned(clip, isRescued);
+    co_await writing;
 }
 
 QCoro::Task<void> ClipStore::setImageText(QUuid id, std::optional<QString> text, bool isAccurate) {
@@ -129,10 +114,8 @@ QCoro::Task<void> ClipStore::setImageText(QUuid id, std::optional<QString> text,
     d->search->forgetText(id);
     d->search->forgetLookAlikes(id);
     changed();
-    if (const std::shared_ptr<ClipDatabase> database = d->database) {
-        auto writing = attempted(database->updateMeta(clip));
-        co_await writing;
-    }
+    auto writing = d->writer.updateMeta(clip);
+    co_await writing;
 }
 
 void ClipStore::changed() {
@@ -155,7 +138,19 @@ qint64 ClipStore::revision() const {
 }
 
 bool ClipStore::isMemoryOnly() const {
-    return !d->database;
+    return !d->writer.hasDatabase() && !d->isOpening;
+}
+
+bool ClipStore::isBehind() const {
+    return d->writer.isBehind();
+}
+
+void ClipStore::setOpening(bool isOpening) {
+    if (d->isOpening == isOpening)
+        return;
+    d->isOpening = isOpening;
+    if (!d->writer.hasDatabase())
+        Q_EMIT storageChanged();
 }
 
 bool ClipStore::recoveredFromDamage() const {

@@ -8,6 +8,7 @@
 #include "platform/desktop/DateTimer.h"
 
 #include <QCoroTask>
+#include <QHash>
 #include <QObject>
 #include <QSet>
 #include <memory>
@@ -38,7 +39,15 @@ public:
     [[nodiscard]] ClipRef find(const QUuid& id) const;
     /// Grows with every change of `clips`.
     [[nodiscard]] qint64 revision() const;
+    /// True when there is no file and none is being opened: everything will be gone at the end.
     [[nodiscard]] bool isMemoryOnly() const;
+    /// The file refuses copies or changes, a full disk for one; they wait in memory and are tried again.
+    [[nodiscard]] bool isBehind() const;
+    /// Says that the file is being opened, or that this has failed; `attach` ends it too.
+    void setOpening(bool isOpening);
+    /// Joins the history of a file with what was captured without one, which is written to it. Throws what loading
+    /// threw; the store then stays as it is. Once.
+    QCoro::Task<void> attach(std::shared_ptr<ClipDatabase> database, bool recoveredFromDamage);
     [[nodiscard]] bool recoveredFromDamage() const;
     void setRecoveredFromDamage(bool value);
     [[nodiscard]] const RetentionPolicy& policy() const;
@@ -60,8 +69,8 @@ public:
     /// How the timer waits; by intervals at first.
     void setExpiryTimer(std::unique_ptr<DateTimer> timer);
 
-    /// The stored clip; null if it could not be written (then the clip it would have replaced stands unchanged) or if
-    /// retention removed it at once. When the task is done, the clip is durable.
+    /// The stored clip; null if retention removed it at once. When the task is done, the clip is durable, or the file
+    /// has refused it: then it waits in memory (`isBehind`).
     QCoro::Task<ClipRef> add(ClipDraft draft, Date now);
     /// Nothing for an unknown clip and for one that cannot be read.
     [[nodiscard]] QCoro::Task<std::optional<ClipPayload>> payload(QUuid id);
@@ -86,6 +95,8 @@ public:
 Q_SIGNALS:
     /// Something of `clips` changed.
     void clipsChanged();
+    /// `isMemoryOnly` or `isBehind` may answer otherwise.
+    void storageChanged();
 
 private:
     ClipStore(std::shared_ptr<ClipDatabase> database, RetentionPolicy policy, bool recoveredFromDamage,
@@ -93,8 +104,8 @@ private:
     /// Tells everybody who looks at `clips`, the timer first.
     void changed();
     void forget(const QUuid& id);
-    /// Undoes an addition that could not be written.
-    void takeBack(const QUuid& id, const ClipRef& existing);
+    void join(std::shared_ptr<ClipDatabase> database, std::vector<ClipRef> rows,
+              const QHash<QUuid, Fingerprint>& fingerprints);
 
     struct Private;
     std::unique_ptr<Private> d;

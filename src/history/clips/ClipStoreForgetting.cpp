@@ -4,7 +4,6 @@
 
 #include "history/clips/ClipStorePrivate.h"
 #include "history/clips/Retention.h"
-#include "history/file/Attempts.h"
 
 #include <utility>
 
@@ -14,42 +13,30 @@ QCoro::Task<void> ClipStore::remove(QSet<QUuid> ids, bool thorough) {
     if (ids.isEmpty())
         co_return;
     const std::vector<ClipRef> removed = d->list.remove(ids);
-    for (const QUuid& id : ids) {
-        d->memoryPayloads.remove(id);
+    for (const QUuid& id : ids)
         forget(id);
-    }
     if (!removed.empty())
         changed();
 
-    const std::shared_ptr<ClipDatabase> database = d->database;
-    if (!database)
-        co_return;
-    auto deleting = attempted(database->deleteAll({ids.begin(), ids.end()}));
-    co_await deleting;
-    if (thorough || retention::isWorthReclaiming(removed, ids.size())) {
-        auto reclaiming = attempted(database->reclaimSpace());
-        co_await reclaiming;
-    }
+    const bool mustReclaim = thorough || retention::isWorthReclaiming(removed, ids.size());
+    auto removing = d->writer.remove({ids.begin(), ids.end()}, mustReclaim);
+    co_await removing;
 }
 
 QCoro::Task<void> ClipStore::clearHistory(bool keepPinned) {
     // A hundred thousand clips, one after the other, would hold the main thread for many frames: the whole list goes to
     // the database's thread instead, which asks it for the ids and throws it away.
+    if (!d->writer.hasDatabase() && d->cleared != ClearedBefore::everything)
+        d->cleared = keepPinned ? ClearedBefore::unpinned : ClearedBefore::everything;
     std::shared_ptr<ClipList> gone = d->list.takeAll(keepPinned);
     if (!gone)
         co_return;
     std::shared_ptr<ClipSearch> texts = std::exchange(d->search, std::make_unique<ClipSearch>());
-    d->memoryPayloads.removeIf([this](const auto& entry) { return !d->list.find(entry.key()); });
+    d->writer.forgetGone();
     changed();
-
-    const std::shared_ptr<ClipDatabase> database = d->database;
-    if (!database)
-        co_return;
     auto ids = [gone = std::move(gone), texts = std::move(texts), keepPinned] { return gone->ids(keepPinned); };
-    auto deleting = attempted(database->deleteAllOf(std::move(ids)));
-    co_await deleting;
-    auto reclaiming = attempted(database->reclaimSpace());
-    co_await reclaiming;
+    auto removing = d->writer.removeAllOf(std::move(ids));
+    co_await removing;
 }
 
 QCoro::Task<void> ClipStore::enforceRetention(Date now) {
@@ -58,14 +45,6 @@ QCoro::Task<void> ClipStore::enforceRetention(Date now) {
         d->list.isWithin(d->policy, now) ? d->list.expired(now) : retention::doomedClips(clips(), d->policy, now);
     auto removing = remove(std::move(doomed), false);
     co_await removing;
-}
-
-void ClipStore::takeBack(const QUuid& id, const ClipRef& existing) {
-    d->list.remove({id});
-    forget(id);
-    if (existing)
-        d->list.insert(existing);
-    changed();
 }
 
 void ClipStore::forget(const QUuid& id) {

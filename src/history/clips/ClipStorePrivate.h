@@ -2,36 +2,38 @@
 #pragma once
 
 #include "history/clips/ClipHasher.h"
+#include "history/clips/ClipJoining.h"
 #include "history/clips/ClipList.h"
 #include "history/clips/ClipStore.h"
 #include "history/clips/ExpiryTimer.h"
+#include "history/clips/HistoryWriter.h"
 #include "history/file/ClipDatabase.h"
 #include "history/search/ClipSearch.h"
-
-#include <QHash>
 
 namespace vellumry {
 
 struct ClipStore::Private {
-    Private(std::shared_ptr<ClipDatabase> file, ClipCrypto historyCrypto, RetentionPolicy limits, ClipStore* store)
-        : database(std::move(file))
-        , crypto(std::move(historyCrypto))
+    Private(ClipCrypto historyCrypto, RetentionPolicy limits, ClipStore* store)
+        : crypto(std::make_shared<const ClipCrypto>(std::move(historyCrypto)))
         , policy(limits)
-        , expiry(currentDate, [this, store] { store->enforceRetention(clock()); }) {}
+        , expiry(currentDate, [this, store] { store->enforceRetention(clock()); })
+        , writer([this](const QUuid& id) { return list.find(id); }) {}
 
-    std::shared_ptr<ClipDatabase> database; ///< null in memory-only mode
-    ClipCrypto crypto;
+    /// Replaced as a whole when the history joins, so that a hash under way keeps the one it began with.
+    std::shared_ptr<const ClipCrypto> crypto;
     RetentionPolicy policy;
     ClipList list;
     qint64 revision = 0;
+    bool isOpening = false;
+    std::optional<ClearedBefore> cleared; ///< what was cleared without the file
     bool recoveredFromDamage = false;
     double sensitiveLifetime = 60;
     bool autoExpire = false;
-    QHash<QUuid, ClipPayload> memoryPayloads; ///< memory-only mode keeps them here
     std::unique_ptr<ClipSearch> search = std::make_unique<ClipSearch>();
     Clock clock = currentDate;
     ExpiryTimer expiry;
-    ClipHasher hasher{crypto};
+    ClipHasher hasher;
+    HistoryWriter writer;
 };
 
 } // namespace vellumry

@@ -12,9 +12,8 @@ QCoro::Task<bool> attempted(QCoro::Task<void> task) {
     co_return false;
 }
 
-QCoro::Task<std::optional<ClipPayload>> attemptedPayload(std::shared_ptr<ClipDatabase> database, QUuid id) {
+QCoro::Task<std::optional<ClipPayload>> attemptedPayload(QCoro::Task<std::optional<ClipPayload>> reading) {
     try {
-        auto reading = database->payload(id);
         co_return co_await reading;
     } catch (const std::exception&) {
     }

@@ -10,7 +10,6 @@ namespace vellumry {
 [[nodiscard]] QCoro::Task<bool> attempted(QCoro::Task<void> task);
 
 /// The stored payload; nothing as well when it cannot be read.
-[[nodiscard]] QCoro::Task<std::optional<ClipPayload>> attemptedPayload(std::shared_ptr<ClipDatabase> database,
-                                                                       QUuid id);
+[[nodiscard]] QCoro::Task<std::optional<ClipPayload>> attemptedPayload(QCoro::Task<std::optional<ClipPayload>> reading);
 
 } // namespace vellumry

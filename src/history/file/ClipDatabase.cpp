@@ -128,9 +128,24 @@ QCoro::Task<std::optional<ClipPayload>> ClipDatabase::payload(QUuid id) {
 }
 
 QCoro::Task<void> ClipDatabase::insert(ClipRef clip, ClipPayload payload) {
-    return onExecutor<void>([this, clip = std::move(clip), payload = std::move(payload)](SQLiteDatabase& sqlite) {
-        cliprows::write(sqlite, m_crypto, *clip, payload);
-    });
+    return insert(std::move(clip), std::make_shared<const ClipPayload>(std::move(payload)), QUuid());
+}
+
+QCoro::Task<void> ClipDatabase::insert(ClipRef clip, std::shared_ptr<const ClipPayload> payload, QUuid replaced) {
+    return onExecutor<void>(
+        [this, clip = std::move(clip), payload = std::move(payload), replaced](SQLiteDatabase& sqlite) {
+            replaced.isNull() ? cliprows::write(sqlite, m_crypto, *clip, *payload)
+                              : cliprows::writeReplacing(sqlite, m_crypto, *clip, *payload, replaced);
+        });
+}
+
+QCoro::Task<void> ClipDatabase::updateRow(ClipRef clip) {
+    return onExecutor<void>(
+        [this, clip = std::move(clip)](SQLiteDatabase& sqlite) { cliprows::writeFields(sqlite, m_crypto, *clip); });
+}
+
+void ClipDatabase::dispose(std::shared_ptr<const void> thing) {
+    m_executor.post([thing = std::move(thing)] {});
 }
 
 QCoro::Task<void> ClipDatabase::updateMeta(ClipRef clip) {

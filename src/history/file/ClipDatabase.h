@@ -45,6 +45,10 @@ public:
     [[nodiscard]] QCoro::Task<std::optional<ClipPayload>> payload(QUuid id);
     /// Writes the clip's row, over the one with the same id.
     [[nodiscard]] QCoro::Task<void> insert(ClipRef clip, ClipPayload payload);
+    /// The same; in one change with it the row `replaced` goes, if that is not null.
+    [[nodiscard]] QCoro::Task<void> insert(ClipRef clip, std::shared_ptr<const ClipPayload> payload, QUuid replaced);
+    /// Writes what may change of a row while its payload stays.
+    [[nodiscard]] QCoro::Task<void> updateRow(ClipRef clip);
     [[nodiscard]] QCoro::Task<void> updateMeta(ClipRef clip);
     [[nodiscard]] QCoro::Task<void> updateExpiry(QUuid id, std::optional<Date> date);
     [[nodiscard]] QCoro::Task<void> updateUsed(QUuid id, Date date);
@@ -58,6 +62,8 @@ public:
     /// Gives freed pages back and empties the write-ahead log, so that nothing deleted is left in either. Throws
     /// SQLiteError as long as another connection reads what is in the log.
     [[nodiscard]] QCoro::Task<void> reclaimSpace();
+    /// Lets go of something on the history's own thread, behind what is queued.
+    void dispose(std::shared_ptr<const void> thing);
 
 private:
     template <typename Result>

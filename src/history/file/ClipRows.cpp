@@ -37,6 +37,34 @@ SQLValue sqlDate(std::optional<Date> date) {
     return date ? SQLValue(*date) : SQLValue(std::monostate());
 }
 
+/// A pinned row must never read back as unpinned.
+qint64 pinnedColumn(const Clip& clip) {
+    return clip.isPinned ? std::max<qint64>(clip.pinOrder, 1) : 0;
+}
+
+void removeRow(SQLiteDatabase& database, const QUuid& id) {
+    const std::array<SQLValue, 1> values{rowidentity::textOf(id)};
+    run(database, "DELETE FROM clips WHERE id = ?;", values);
+}
+
+/// All that `work` does or, when it throws, nothing.
+template <typename Work>
+void inTransaction(SQLiteDatabase& database, Work work) {
+    try {
+        database.execute("BEGIN;");
+        work();
+        database.execute("COMMIT;");
+    } catch (...) {
+        const std::exception_ptr first = std::current_exception();
+        try {
+            database.execute("ROLLBACK;");
+        } catch (const SQLiteError&) {
+            // There may be no transaction any more; what went wrong first is what the caller must know.
+        }
+        std::rethrow_exception(first);
+    }
+}
+
 } // namespace
 
 void createTable(SQLiteDatabase& database) {
@@ -85,13 +113,11 @@ std::optional<ClipPayload> readPayload(SQLiteDatabase& database, const ClipCrypt
 void write(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip, const ClipPayload& payload) {
     QByteArray meta = sealedMeta(crypto, clip);
     QByteArray sealedPayload = sealed(crypto, encodePayload(payload, margins));
-    // A pinned row must never read back as unpinned.
-    const qint64 pinned = clip.isPinned ? std::max<qint64>(clip.pinOrder, 1) : 0;
     const std::array<SQLValue, 10> values{rowidentity::textOf(clip.id),
                                           static_cast<qint64>(clip.kind),
                                           clip.createdAt,
                                           clip.lastUsedAt,
-                                          pinned,
+                                          pinnedColumn(clip),
                                           sqlDate(clip.expiresAt),
                                           clip.fingerprint.toString(),
                                           clip.byteSize,
@@ -123,25 +149,27 @@ void writePinned(SQLiteDatabase& database, const QUuid& id, qint64 value) {
     run(database, "UPDATE clips SET pinned = ? WHERE id = ?;", values);
 }
 
+void writeReplacing(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip, const ClipPayload& payload,
+                    const QUuid& replaced) {
+    inTransaction(database, [&] {
+        removeRow(database, replaced);
+        write(database, crypto, clip, payload);
+    });
+}
+
+void writeFields(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip) {
+    const std::array<SQLValue, 5> values{clip.lastUsedAt, pinnedColumn(clip), sqlDate(clip.expiresAt),
+                                         sealedMeta(crypto, clip), rowidentity::textOf(clip.id)};
+    run(database, "UPDATE clips SET used = ?, pinned = ?, expires = ?, meta = ? WHERE id = ?;", values);
+}
+
 void removeAll(SQLiteDatabase& database, const std::vector<QUuid>& ids) {
     if (ids.empty())
         return;
-    try {
-        database.execute("BEGIN;");
-        for (const QUuid& id : ids) {
-            const std::array<SQLValue, 1> values{rowidentity::textOf(id)};
-            run(database, "DELETE FROM clips WHERE id = ?;", values);
-        }
-        database.execute("COMMIT;");
-    } catch (...) {
-        const std::exception_ptr first = std::current_exception();
-        try {
-            database.execute("ROLLBACK;");
-        } catch (const SQLiteError&) {
-            // There may be no transaction any more; what went wrong first is what the caller must know.
-        }
-        std::rethrow_exception(first);
-    }
+    inTransaction(database, [&] {
+        for (const QUuid& id : ids)
+            removeRow(database, id);
+    });
 }
 
 } // namespace vellumry::cliprows

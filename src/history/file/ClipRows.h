@@ -25,6 +25,11 @@ void requireColumns(SQLiteDatabase& database);
 
 /// Writes the whole row, over one with the same id.
 void write(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip, const ClipPayload& payload);
+/// The same, and in one change with it the row `replaced` goes.
+void writeReplacing(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip, const ClipPayload& payload,
+                    const QUuid& replaced);
+/// All of the row that may change while its payload stays.
+void writeFields(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip);
 void writeMeta(SQLiteDatabase& database, const ClipCrypto& crypto, const Clip& clip);
 void writeExpiry(SQLiteDatabase& database, const QUuid& id, std::optional<Date> date);
 void writeUsed(SQLiteDatabase& database, const QUuid& id, Date date);

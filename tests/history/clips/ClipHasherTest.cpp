@@ -11,30 +11,30 @@ namespace vellumry {
 namespace {
 
 TEST(ClipHasher, GivesTheFingerprintOfASmallPayloadAtOnce) {
-    const ClipCrypto crypto = ClipCrypto::withRandomKey();
-    ClipHasher hasher(crypto);
+    const auto crypto = std::make_shared<const ClipCrypto>(ClipCrypto::withRandomKey());
+    ClipHasher hasher;
     const ClipDraft draft = drafts::text(QStringLiteral("small"));
-    auto hashing = hasher.fingerprint(draft);
+    auto hashing = hasher.fingerprint(draft, crypto);
     EXPECT_TRUE(hashing.isReady());
-    EXPECT_EQ(awaited(std::move(hashing)), fingerprintOf(draft, crypto));
+    EXPECT_EQ(awaited(std::move(hashing)), fingerprintOf(draft, *crypto));
 }
 
 TEST(ClipHasher, GivesThatOfALargePayloadLater) {
-    const ClipCrypto crypto = ClipCrypto::withRandomKey();
-    ClipHasher hasher(crypto);
+    const auto crypto = std::make_shared<const ClipCrypto>(ClipCrypto::withRandomKey());
+    ClipHasher hasher;
     const ClipDraft draft = drafts::image(QByteArray(1 << 20, 'p'));
-    auto hashing = hasher.fingerprint(draft);
+    auto hashing = hasher.fingerprint(draft, crypto);
     EXPECT_FALSE(hashing.isReady());
-    EXPECT_EQ(awaited(std::move(hashing)), fingerprintOf(draft, crypto));
+    EXPECT_EQ(awaited(std::move(hashing)), fingerprintOf(draft, *crypto));
 }
 
 TEST(ClipHasher, FinishesWhatWasBegunWhenItEnds) {
-    const ClipCrypto crypto = ClipCrypto::withRandomKey();
+    const auto crypto = std::make_shared<const ClipCrypto>(ClipCrypto::withRandomKey());
     const ClipDraft draft = drafts::image(QByteArray(1 << 20, 'q'));
-    auto hasher = std::make_unique<ClipHasher>(crypto);
-    auto hashing = hasher->fingerprint(draft);
+    auto hasher = std::make_unique<ClipHasher>();
+    auto hashing = hasher->fingerprint(draft, crypto);
     hasher.reset();
-    EXPECT_EQ(awaited(std::move(hashing)), fingerprintOf(draft, crypto));
+    EXPECT_EQ(awaited(std::move(hashing)), fingerprintOf(draft, *crypto));
 }
 
 } // namespace

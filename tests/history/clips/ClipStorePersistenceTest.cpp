@@ -3,6 +3,7 @@
 #include "support/FileSizeLimit.h"
 
 #include <QPointer>
+#include <QSignalSpy>
 
 namespace vellumry {
 namespace {
@@ -50,49 +51,70 @@ TEST_F(ClipStorePersistence, MemoryIsAheadOfTheFile) {
     EXPECT_EQ(awaited(std::move(adding))->title, u"one"_s);
 }
 
-TEST_F(ClipStorePersistence, ACopyThatCannotBeWrittenIsNotStored) {
+TEST_F(ClipStorePersistence, ACopyThatCannotBeWrittenWaitsInMemoryUntilItCan) {
+    QSignalSpy storage(m_store.get(), &ClipStore::storageChanged);
     refuseWrites();
-    EXPECT_FALSE(add(drafts::text(u"one"_s), 1));
-    EXPECT_TRUE(m_store->clips().empty());
-    EXPECT_TRUE(m_store->search(u"one"_s, ClipFilter::all).empty());
+    const ClipRef clip = add(drafts::text(u"one"_s), 1);
+    ASSERT_TRUE(clip);
+    EXPECT_TRUE(m_store->isBehind());
+    EXPECT_EQ(storage.size(), 1);
+    EXPECT_EQ(awaited(m_store->payload(clip->id)), drafts::text(u"one"_s).payload);
+    EXPECT_EQ(rowCount(), 0);
+    awaited(m_store->setPinned(clip->id, true, 2));
     allowWrites();
-    EXPECT_TRUE(add(drafts::text(u"one"_s), 1));
+    runUntil([&] { return !m_store->isBehind(); }, 60'000);
+    EXPECT_EQ(storage.size(), 2);
+    reopen();
+    ASSERT_EQ(m_store->clips().size(), 1U);
+    EXPECT_TRUE(m_store->clips().front()->isPinned);
+    EXPECT_EQ(awaited(m_store->payload(clip->id)), drafts::text(u"one"_s).payload);
 }
 
-TEST_F(ClipStorePersistence, ARecopyThatCannotBeWrittenLeavesTheOldClip) {
+TEST_F(ClipStorePersistence, ACopyThatWasDeletedWhileItWaitedIsNeverWritten) {
+    refuseWrites();
+    const ClipRef clip = add(drafts::text(u"one"_s), 1);
+    awaited(m_store->remove({clip->id}, false));
+    EXPECT_EQ(awaited(m_store->payload(clip->id)), std::nullopt);
+    allowWrites();
+    runUntil([&] { return !m_store->isBehind(); }, 60'000);
+    EXPECT_EQ(rowCount(), 0);
+}
+
+TEST_F(ClipStorePersistence, ARecopyThatCannotBeWrittenReplacesTheRowLater) {
     ClipDraft draft = drafts::text(u"one"_s);
     const ClipRef old = add(draft, 1);
     add(drafts::text(u"two"_s), 2);
     refuseWrites();
     draft.kind = ClipKind::richText;
     draft.searchText = u"changed"_s;
-    EXPECT_FALSE(add(draft, 3));
-    EXPECT_EQ(m_store->find(old->id), old);
-    EXPECT_EQ(m_store->clips().back(), old);
+    EXPECT_EQ(add(draft, 3)->id, old->id);
+    EXPECT_EQ(m_store->clips().front()->id, old->id);
     EXPECT_EQ(m_store->clips().size(), 2U);
-    EXPECT_EQ(m_store->search(u"one"_s, ClipFilter::all).size(), 1U);
-    EXPECT_TRUE(m_store->search(u"changed"_s, ClipFilter::all).empty());
+    EXPECT_EQ(m_store->search(u"changed"_s, ClipFilter::all).size(), 1U);
     allowWrites();
+    runUntil([&] { return !m_store->isBehind(); }, 60'000);
     reopen();
-    EXPECT_EQ(*m_store->find(old->id), *old);
+    EXPECT_EQ(m_store->find(old->id)->searchText.toString(), u"changed"_s);
+    EXPECT_EQ(m_store->find(old->id)->createdAt, 1);
+    EXPECT_EQ(rowCount(), 2);
 }
 
-TEST_F(ClipStorePersistence, AFullDiskRefusesTheCopyAndKeepsTheOldClip) {
+TEST_F(ClipStorePersistence, CopiesOnAFullDiskReachTheFileWhenThereIsRoom) {
     const ClipRef old = add(drafts::image("png"), 1);
     ClipDraft large = drafts::image("png");
     large.payload.items[0].representations.emplace(uniformtype::tiff, QByteArray(2'000'000, 'x'));
     {
         const FileSizeLimit limit(200'000);
-        EXPECT_FALSE(add(large, 2));
+        EXPECT_EQ(add(large, 2)->id, old->id);
+        EXPECT_TRUE(m_store->isBehind());
+        EXPECT_EQ(awaited(m_store->payload(old->id)), large.payload);
     }
-    EXPECT_EQ(m_store->find(old->id), old);
-    EXPECT_EQ(awaited(m_store->payload(old->id)), drafts::image("png").payload);
-    EXPECT_TRUE(add(large, 3));
+    runUntil([&] { return !m_store->isBehind(); }, 60'000);
     reopen();
     EXPECT_EQ(awaited(m_store->payload(old->id)), large.payload);
 }
 
-TEST_F(ClipStorePersistence, OtherFailuresLeaveMemoryAsTheUserWantsIt) {
+TEST_F(ClipStorePersistence, OtherChangesThatCannotBeWrittenAreMadeGoodToo) {
     const ClipRef clip = add(drafts::secret(u"one"_s), 1);
     const ClipRef other = add(drafts::text(u"two"_s), 2);
     refuseWrites();
@@ -101,12 +123,26 @@ TEST_F(ClipStorePersistence, OtherFailuresLeaveMemoryAsTheUserWantsIt) {
     awaited(m_store->setImageText(clip->id, u"read"_s, true));
     awaited(m_store->remove({other->id}, true));
     EXPECT_EQ(m_store->clips().size(), 1U);
-    EXPECT_EQ(m_store->find(clip->id)->lastUsedAt, 3);
-    EXPECT_TRUE(m_store->find(clip->id)->isPinned);
+    EXPECT_EQ(rowCount(), 2);
+    const Clip inMemory = *m_store->find(clip->id);
     allowWrites();
+    runUntil([&] { return !m_store->isBehind(); }, 60'000);
     reopen();
-    EXPECT_EQ(m_store->clips().size(), 2U) << "what could not be deleted is back";
-    EXPECT_EQ(m_store->find(clip->id)->lastUsedAt, 1);
+    EXPECT_EQ(m_store->clips().size(), 1U) << "what was deleted stays deleted";
+    EXPECT_EQ(*m_store->find(clip->id), inMemory);
+}
+
+TEST_F(ClipStorePersistence, TheLogOfAnExpiredSecretIsEmptiedWhenItsReaderIsGone) {
+    const ClipRef clip = add(drafts::secret(u"one"_s), 1);
+    const QString log = m_history.path() + u"-wal"_s;
+    {
+        SQLiteDatabase other(m_history.path(), SQLiteDatabase::Access::readOnly);
+        auto reading = other.prepare("SELECT id FROM clips;");
+        ASSERT_TRUE(reading.step());
+        awaited(m_store->enforceRetention(1000));
+        EXPECT_GT(QFile(log).size(), 0);
+    }
+    runUntil([&] { return QFile(log).size() == 0; }, 60'000);
 }
 
 TEST_F(ClipStorePersistence, RescuedSecretsStayRescued) {

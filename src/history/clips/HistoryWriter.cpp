@@ -1,0 +1,304 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/clips/HistoryWriter.h"
+
+#include "foundation/Logging.h"
+#include "history/file/Attempts.h"
+
+#include <QPointer>
+#include <algorithm>
+#include <utility>
+
+namespace vellumry {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::chrono::milliseconds firstDelay = 1s;
+constexpr std::chrono::milliseconds longestDelay = 30s;
+/// A clip that can never be written must not keep the others from it; a disk that refuses so many refuses all.
+constexpr int mostRefusals = 3;
+
+} // namespace
+
+HistoryWriter::HistoryWriter(Find find)
+    : m_find(std::move(find))
+    , m_delay(firstDelay) {
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, [this] { retry(); });
+}
+
+HistoryWriter::~HistoryWriter() = default;
+
+void HistoryWriter::setDatabase(std::shared_ptr<ClipDatabase> database, const QHash<QUuid, QUuid>& replaced,
+                                const std::vector<QUuid>& unwanted) {
+    m_database = std::move(database);
+    for (auto entry = replaced.begin(); entry != replaced.end(); ++entry)
+        m_unsaved[entry.key()].replaces = entry.value();
+    m_doomed.unite(QSet<QUuid>(unwanted.begin(), unwanted.end()));
+    m_mustReclaim = m_mustReclaim || !unwanted.empty();
+}
+
+QCoro::Task<void> HistoryWriter::insert(QUuid id, ClipPayload payload) {
+    Unsaved& unsaved = m_unsaved[id];
+    release(std::exchange(unsaved.payload, std::make_shared<ClipPayload>(std::move(payload))));
+    ++unsaved.version;
+    if (!m_database)
+        co_return;
+    auto writing = write(id);
+    co_await writing;
+}
+
+QCoro::Task<bool> HistoryWriter::write(QUuid id) {
+    const QPointer<HistoryWriter> self(this);
+    const ClipRef clip = m_find(id);
+    if (!clip) {
+        release(m_unsaved.take(id).payload);
+        co_return true;
+    }
+    m_unsaved[id].isInFlight = true;
+    const Unsaved sent = m_unsaved.value(id);
+    auto writing =
+        attempted(sent.payload ? m_database->insert(clip, sent.payload, sent.replaces) : m_database->updateRow(clip));
+    const bool isWritten = co_await writing;
+    if (!self)
+        co_return isWritten;
+    const auto now = m_unsaved.find(id);
+    // A later copy of the same content has its own turn, and a clip that went has none.
+    if (now != m_unsaved.end() && now->payload == sent.payload) {
+        now->isInFlight = false;
+        if (isWritten && now->version == sent.version) {
+            m_unsaved.erase(now);
+        } else if (isWritten) {
+            now->payload.reset();
+            now->replaces = QUuid();
+        }
+    }
+    if (isWritten) {
+        release(sent.payload);
+        settle();
+    } else {
+        failed();
+    }
+    co_return isWritten;
+}
+
+QCoro::Task<std::optional<ClipPayload>> HistoryWriter::payload(QUuid id) {
+    if (const auto waiting = unsavedPayload(id))
+        co_return *waiting;
+    if (!m_database)
+        co_return std::nullopt;
+    auto reading = attemptedPayload(m_database->payload(id));
+    co_return co_await reading;
+}
+
+std::shared_ptr<const ClipPayload> HistoryWriter::unsavedPayload(const QUuid& id) const {
+    const auto found = m_unsaved.constFind(id);
+    return found == m_unsaved.constEnd() ? nullptr : found->payload;
+}
+
+bool HistoryWriter::joinsWaiting(const QUuid& id) {
+    const auto waiting = m_unsaved.find(id);
+    if (waiting == m_unsaved.end())
+        return false;
+    if (waiting->isInFlight)
+        return false;
+    ++waiting->version;
+    return true;
+}
+
+QCoro::Task<void> HistoryWriter::update(QUuid id, QCoro::Task<bool> writing) {
+    const QPointer<HistoryWriter> self(this);
+    const bool isWritten = co_await writing;
+    if (isWritten || !self || !m_find(id))
+        co_return;
+    ++m_unsaved[id].version;
+    failed();
+}
+
+QCoro::Task<void> HistoryWriter::updateUsed(ClipRef clip) {
+    if (!m_database || joinsWaiting(clip->id))
+        co_return;
+    auto updating = update(clip->id, attempted(m_database->updateUsed(clip->id, clip->lastUsedAt)));
+    co_await updating;
+}
+
+QCoro::Task<void> HistoryWriter::updatePinned(ClipRef clip, bool isRescued) {
+    if (!m_database || joinsWaiting(clip->id))
+        co_return;
+    // Both are queued before the first wait: the store may be gone behind it.
+    auto pinning = update(clip->id, attempted(m_database->updatePinned(clip->id, clip->pinOrder)));
+    if (!isRescued) {
+        co_await pinning;
+        co_return;
+    }
+    auto rescuing = update(clip->id, attempted(m_database->updateExpiry(clip->id, std::nullopt)));
+    co_await pinning;
+    co_await rescuing;
+}
+
+QCoro::Task<void> HistoryWriter::updateMeta(ClipRef clip) {
+    if (!m_database || joinsWaiting(clip->id))
+        co_return;
+    auto updating = update(clip->id, attempted(m_database->updateMeta(clip)));
+    co_await updating;
+}
+
+QCoro::Task<void> HistoryWriter::remove(std::vector<QUuid> ids, bool mustReclaim) {
+    const QPointer<HistoryWriter> self(this);
+    for (std::size_t i = 0, count = ids.size(); i < count; ++i) {
+        const Unsaved unsaved = m_unsaved.take(ids[i]);
+        if (!unsaved.replaces.isNull())
+            ids.push_back(unsaved.replaces);
+    }
+    if (!m_database)
+        co_return;
+    auto deleting = deleteRows(std::move(ids));
+    co_await deleting;
+    if (!self || !mustReclaim)
+        co_return;
+    auto reclaiming = reclaim();
+    co_await reclaiming;
+}
+
+QCoro::Task<void> HistoryWriter::removeAllOf(std::function<std::vector<QUuid>()> ids) {
+    const QPointer<HistoryWriter> self(this);
+    if (!m_database)
+        co_return;
+    const auto listed = std::make_shared<std::vector<QUuid>>();
+    auto list = [ids = std::move(ids), listed] {
+        *listed = ids();
+        return *listed;
+    };
+    auto deleting = attempted(m_database->deleteAllOf(std::move(list)));
+    const bool isDeleted = co_await deleting;
+    if (!self)
+        co_return;
+    if (!isDeleted) {
+        m_doomed.unite(QSet<QUuid>(listed->begin(), listed->end()));
+        failed();
+    }
+    auto reclaiming = reclaim();
+    co_await reclaiming;
+}
+
+QCoro::Task<bool> HistoryWriter::deleteRows(std::vector<QUuid> ids) {
+    const QPointer<HistoryWriter> self(this);
+    auto deleting = attempted(m_database->deleteAll(ids));
+    const bool isDeleted = co_await deleting;
+    if (!self)
+        co_return isDeleted;
+    for (const QUuid& id : ids)
+        isDeleted ? (void)m_doomed.remove(id) : (void)m_doomed.insert(id);
+    isDeleted ? settle() : failed();
+    co_return isDeleted;
+}
+
+QCoro::Task<bool> HistoryWriter::reclaim() {
+    const QPointer<HistoryWriter> self(this);
+    m_mustReclaim = false;
+    auto reclaiming = attempted(m_database->reclaimSpace());
+    const bool isReclaimed = co_await reclaiming;
+    if (!self)
+        co_return isReclaimed;
+    if (isReclaimed) {
+        settle();
+    } else {
+        m_mustReclaim = true;
+        if (!m_timer.isActive())
+            m_timer.start(m_delay);
+    }
+    co_return isReclaimed;
+}
+
+void HistoryWriter::forgetGone() {
+    m_unsaved.removeIf([this](const auto& entry) {
+        if (m_find(entry.key()))
+            return false;
+        if (!entry.value().replaces.isNull())
+            m_doomed.insert(entry.value().replaces);
+        return true;
+    });
+}
+
+QCoro::Task<void> HistoryWriter::retry() {
+    if (!m_database || m_isRetrying)
+        co_return;
+    const QPointer<HistoryWriter> self(this);
+    m_isRetrying = true;
+    m_timer.stop();
+    auto writing = writeAll();
+    const bool isDone = co_await writing;
+    if (!self)
+        co_return;
+    m_isRetrying = false;
+    if (isDone) {
+        settle();
+        co_return;
+    }
+    m_delay = std::min(m_delay * 2, longestDelay);
+    m_timer.start(m_delay);
+}
+
+QCoro::Task<bool> HistoryWriter::writeAll() {
+    const QPointer<HistoryWriter> self(this);
+    if (!m_doomed.isEmpty()) {
+        auto deleting = deleteRows({m_doomed.begin(), m_doomed.end()});
+        if (!co_await deleting || !self)
+            co_return false;
+    }
+    if (m_mustReclaim) {
+        auto reclaiming = reclaim();
+        if (!co_await reclaiming || !self)
+            co_return false;
+    }
+    int refusals = 0;
+    for (const QUuid& id : m_unsaved.keys()) {
+        const auto waiting = m_unsaved.constFind(id);
+        if (waiting == m_unsaved.constEnd() || waiting->isInFlight)
+            continue;
+        auto writing = write(id);
+        const bool isWritten = co_await writing;
+        if (!self)
+            co_return false;
+        refusals += isWritten ? 0 : 1;
+        if (refusals == mostRefusals)
+            break;
+    }
+    co_return m_unsaved.isEmpty();
+}
+
+/// The last owner of many bytes takes a while to overwrite them: the history's thread does that.
+void HistoryWriter::release(std::shared_ptr<ClipPayload> payload) {
+    if (payload && m_database)
+        m_database->dispose(std::move(payload));
+}
+
+void HistoryWriter::failed() {
+    if (!m_isRetrying && !m_timer.isActive())
+        m_timer.start(m_delay);
+    if (std::exchange(m_isBehind, true))
+        return;
+    qCWarning(logging::history) << "the history file refuses changes; they are tried again";
+    onBehindChanged();
+}
+
+void HistoryWriter::settle() {
+    const bool isWaiting = std::ranges::any_of(m_unsaved, [](const Unsaved& unsaved) { return !unsaved.isInFlight; });
+    if (isWaiting || !m_doomed.isEmpty() || m_mustReclaim) {
+        // The file takes changes again: the others need not wait for their time.
+        if (!m_isRetrying) {
+            m_delay = firstDelay;
+            m_timer.start(m_delay);
+        }
+        return;
+    }
+    m_timer.stop();
+    m_delay = firstDelay;
+    if (!std::exchange(m_isBehind, false))
+        return;
+    qCInfo(logging::history) << "the history file has taken all changes";
+    onBehindChanged();
+}
+
+} // namespace vellumry
