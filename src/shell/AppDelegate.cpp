@@ -50,13 +50,10 @@ void AppDelegate::applicationShouldTerminate() {
         m_environment->setQuitting();
 }
 
-QCoro::Task<void> AppDelegate::launch() {
-    auto launching = AppEnvironment::launch(m_platform);
-    auto environment = co_await launching;
-    m_environment = std::move(environment);
+void AppDelegate::launch() {
+    m_environment = AppEnvironment::launch(m_platform);
+    m_environment->onReady = onStarted;
     m_environment->start();
-    if (onStarted)
-        onStarted();
 }
 
 void AppDelegate::findCapabilities() {

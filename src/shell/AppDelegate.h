@@ -22,20 +22,19 @@ public:
     explicit AppDelegate(Platform platform);
     ~AppDelegate() override;
 
-    /// False when another copy runs in this session: then nothing was built and the process is to end. Otherwise the
-    /// environment comes up in the background.
+    /// False when another copy runs in this session: then nothing was built and the process is to end.
     [[nodiscard]] bool applicationDidFinishLaunching();
     /// The process is about to end.
     void applicationShouldTerminate();
 
-    /// Called once, when the environment is up and the clipboard is watched.
+    /// Called once, when the clipboard is watched and the history is there, or is known not to be.
     std::function<void()> onStarted;
 
-    /// Null until the launch has finished.
+    /// Null before the launch.
     [[nodiscard]] AppEnvironment* environment() const { return m_environment.get(); }
 
 private:
-    QCoro::Task<void> launch();
+    void launch();
     void findCapabilities();
     [[nodiscard]] QString status() const;
     void reopen();

@@ -6,8 +6,7 @@
 #include "capture/FileStatus.h"
 #include "capture/screenshots/ScreenshotFolders.h"
 #include "foundation/Localisation.h"
-#include "foundation/SerialExecutor.h"
-#include "history/file/ClipDatabase.h"
+#include "history/file/HistoryFile.h"
 #include "shell/AlertWindow.h"
 #include "shell/HistoryFolder.h"
 #include "shell/PasteSound.h"
@@ -15,7 +14,9 @@
 #include "shell/StartupAlert.h"
 
 #include <algorithm>
+#include <QFileInfo>
 #include <chrono>
+#include <utility>
 
 namespace vellumry {
 
@@ -25,6 +26,8 @@ using namespace std::chrono_literals;
 
 constexpr auto maintenanceInterval = 15s;
 constexpr auto warmUpDelay = 1500ms;
+/// Behind a keyring's question the program is ready all the same.
+constexpr auto longestWaitForHistory = 3s;
 constexpr double lowDiskSilence = 3600.0;
 /// Longer than a word on what the user has just done: this comes unasked.
 constexpr int startMessageSeconds = 6;
@@ -51,42 +54,15 @@ QString imageVolume(const Platform& platform) {
 
 } // namespace
 
-QCoro::Task<std::unique_ptr<AppEnvironment>> AppEnvironment::launch(Platform& platform) {
-    auto preferences = std::make_unique<Preferences>(*platform.defaults);
-    const RetentionPolicy policy = preferences->retentionPolicy();
-    std::unique_ptr<ClipStore> store;
-    {
-        // The keyring and the check of the file may take their time; the event loop goes on meanwhile.
-        SerialExecutor opener("Opening");
-        const auto open = [&platform] {
-            return ClipDatabase::openHistory(historyFolder(platform.dataHome), *platform.keyStore);
-        };
-        try {
-            auto opening = opener.run(open);
-            auto opened = co_await opening;
-            if (opened) {
-                auto loading = ClipStore::open(std::move(opened->database), policy, opened->recoveredFromDamage);
-                store = co_await loading;
-            }
-        } catch (const std::exception&) {
-            // Whatever it was, the program runs on in memory and says so at the end of `start`.
-            store.reset();
-        }
-    }
-    const bool isMemoryOnly = store == nullptr;
-    if (isMemoryOnly)
-        store = std::make_unique<ClipStore>(policy);
-    co_return std::unique_ptr<AppEnvironment>(
-        new AppEnvironment(platform, std::move(preferences), std::move(store), isMemoryOnly));
+std::unique_ptr<AppEnvironment> AppEnvironment::launch(Platform& platform) {
+    return std::unique_ptr<AppEnvironment>(new AppEnvironment(platform));
 }
 
-AppEnvironment::AppEnvironment(Platform& platform, std::unique_ptr<Preferences> preferences,
-                               std::unique_ptr<ClipStore> store, bool isMemoryOnly)
+AppEnvironment::AppEnvironment(Platform& platform)
     : m_platform(&platform)
-    , m_preferences(std::move(preferences))
-    , m_store(std::move(store))
-    , m_imageVolume(imageVolume(platform))
-    , m_isMemoryOnly(isMemoryOnly) {
+    , m_preferences(std::make_unique<Preferences>(*platform.defaults))
+    , m_store(std::make_unique<ClipStore>(m_preferences->retentionPolicy()))
+    , m_imageVolume(imageVolume(platform)) {
     FrontmostApplication* frontmost = platform.frontmost.get();
     m_watcher =
         std::make_unique<ClipboardWatcher>(*platform.pasteboard, *m_store, *platform.defaults, *platform.bookmarks,
@@ -187,7 +163,7 @@ void AppEnvironment::start() {
     m_store->enforceRetention(m_platform->clock());
     m_screenshotSaving->startIfWanted();
     m_textReading->scheduleBacklog();
-    showStartupAlert();
+    openHistory();
     QTimer::singleShot(warmUpDelay, this, [this] { m_panel->warmUp(); });
 }
 
@@ -276,15 +252,65 @@ void AppEnvironment::runMaintenance() {
         m_platform->returnMemory();
 }
 
-void AppEnvironment::showStartupAlert() {
-    const std::optional<StartupAlert> alert = startupAlert(m_isMemoryOnly, m_store->recoveredFromDamage());
+void AppEnvironment::openHistory() {
+    m_opening = std::make_unique<HistoryOpening>(*m_store, *m_platform->keyStore,
+                                                 [home = m_platform->dataHome] { return historyFolder(home); });
+    m_opening->onOpened = [this] { historyOpened(); };
+    m_opening->onFailed = [this](HistoryFailure failure) {
+        showAlert(memoryOnlyAlert(failure, m_platform->dataHome + QStringLiteral("/Vellumry")), [] {});
+        tellReady();
+    };
+    connect(m_store.get(), &ClipStore::storageChanged, this, &AppEnvironment::tellStorage);
+    m_opening->start();
+    QTimer::singleShot(longestWaitForHistory, this, &AppEnvironment::tellReady);
+}
+
+void AppEnvironment::historyOpened() {
+    m_alert.reset();
+    // Its pictures may have been waiting for their text since the last run.
+    m_textReading->scheduleBacklog();
+    showBackupAlert();
+    tellReady();
+}
+
+/// What was put aside is told at each start, until the user has dismissed the alert.
+void AppEnvironment::showBackupAlert() {
+    m_store->setRecoveredFromDamage(false);
+    const QString key = QStringLiteral("dismissedBackups");
+    const QStringList dismissed = m_platform->defaults->stringArray(key).value_or(QStringList());
+    QStringList backups = historyfile::backups(m_platform->dataHome + QStringLiteral("/Vellumry"));
+    const QStringList all = backups;
+    erase_if(backups, [&](const QString& path) { return dismissed.contains(QFileInfo(path).fileName()); });
+    const auto alert = backupAlert(backups);
     if (!alert)
         return;
-    if (!m_isMemoryOnly)
-        m_store->setRecoveredFromDamage(false);
-    m_alert = std::make_unique<AlertWindow>(*alert, m_views);
-    m_alert->onDone = [this] { m_alert.release()->deleteLater(); };
+    showAlert(*alert, [this, key, all] {
+        QStringList names;
+        for (const QString& path : all)
+            names.append(QFileInfo(path).fileName());
+        m_platform->defaults->setObject(key, names);
+    });
+}
+
+void AppEnvironment::showAlert(const StartupAlert& alert, std::function<void()> onDismissed) {
+    m_alert = std::make_unique<AlertWindow>(alert, m_views);
+    m_alert->onDone = [this, onDismissed = std::move(onDismissed)] {
+        onDismissed();
+        m_alert.release()->deleteLater();
+    };
     m_alert->show();
+}
+
+void AppEnvironment::tellReady() {
+    if (onReady)
+        std::exchange(onReady, nullptr)();
+}
+
+/// Copies that the file refuses are told once, and again when the file has taken everything and refuses anew.
+void AppEnvironment::tellStorage() {
+    if (!std::exchange(m_wasBehind, m_store->isBehind()) && m_store->isBehind())
+        showToast({QStringLiteral("externaldrive.badge.exclamationmark"),
+                   localised("The history can't be saved now. Vellumry tries again"), ToastMessage::Tone::warning});
 }
 
 void AppEnvironment::showLowDiskToast() {

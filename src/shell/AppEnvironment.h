@@ -9,6 +9,7 @@
 #include "paste/ShortcutRegistrations.h"
 #include "paste/StackWiring.h"
 #include "paste/SurvivingCopy.h"
+#include "shell/HistoryOpening.h"
 #include "shell/Platform.h"
 #include "shell/Preferences.h"
 #include "shell/ScreenshotSaving.h"
@@ -18,14 +19,15 @@
 #include "shell/ToastController.h"
 #include "views/ViewEngine.h"
 
-#include <QCoroTask>
 #include <QObject>
 #include <QTimer>
+#include <functional>
 #include <memory>
 
 namespace vellumry {
 
 class AlertWindow;
+struct StartupAlert;
 struct StatusReport;
 
 /// The composition root: makes every long-lived object once, joins them with closures, starts them in a fixed order and
@@ -34,13 +36,15 @@ class AppEnvironment : public QObject {
     Q_OBJECT
 
 public:
-    /// Opens the history and builds the environment around it. Never fails: a folder, keyring or file that cannot be
-    /// used ends in memory-only mode. `platform` must outlive the result.
-    [[nodiscard]] static QCoro::Task<std::unique_ptr<AppEnvironment>> launch(Platform& platform);
+    /// Builds the environment around a history in memory, which `start` joins with that of the disk. `platform` must
+    /// outlive the result.
+    [[nodiscard]] static std::unique_ptr<AppEnvironment> launch(Platform& platform);
     ~AppEnvironment() override;
 
-    /// Brings everything to life. Once.
+    /// Brings everything to life: the clipboard is watched and the shortcuts are there before the history is. Once.
     void start();
+    /// Called once after `start`, when the history is there or is known not to be, or when that takes long.
+    std::function<void()> onReady;
 
     void openPanel();
     void togglePanel();
@@ -63,7 +67,10 @@ public:
     /// Bytes of the history on disk, in the user's units; empty when the folder cannot be had.
     [[nodiscard]] QString historySize() const;
 
-    [[nodiscard]] bool isMemoryOnly() const { return m_isMemoryOnly; }
+    /// The history could not be opened so far; `ClipStore::storageChanged` tells of a change.
+    [[nodiscard]] bool isMemoryOnly() const { return m_store->isMemoryOnly(); }
+    /// Null before `start`.
+    [[nodiscard]] const HistoryOpening* opening() const { return m_opening.get(); }
     [[nodiscard]] bool isQuitting() const { return m_isQuitting; }
     void setQuitting() { m_isQuitting = true; }
 
@@ -75,8 +82,7 @@ public:
     [[nodiscard]] TextReadingQueue& textReader() { return m_textReading->queue(); }
 
 private:
-    AppEnvironment(Platform& platform, std::unique_ptr<Preferences> preferences, std::unique_ptr<ClipStore> store,
-                   bool isMemoryOnly);
+    explicit AppEnvironment(Platform& platform);
 
     [[nodiscard]] SystemHooks systemHooks();
     [[nodiscard]] QString openPanelKeys() const;
@@ -92,12 +98,18 @@ private:
     void watchSettings();
     void tellOfStart(const QStringList& shortcutProblems);
     void showNextStartMessage();
-    void showStartupAlert();
+    void openHistory();
+    void historyOpened();
+    void showBackupAlert();
+    void showAlert(const StartupAlert& alert, std::function<void()> onDismissed);
+    void tellReady();
+    void tellStorage();
     void showLowDiskToast();
 
     Platform* m_platform;
     std::unique_ptr<Preferences> m_preferences;
     std::unique_ptr<ClipStore> m_store;
+    std::unique_ptr<HistoryOpening> m_opening;
     ViewEngine m_views;
     std::unique_ptr<ClipboardWatcher> m_watcher;
     std::unique_ptr<SurvivingCopy> m_survivingCopy;
@@ -118,8 +130,8 @@ private:
     QTimer m_maintenance{this};
     QString m_imageVolume;
     std::optional<Date> m_lastLowDiskWarning;
-    bool m_isMemoryOnly;
     bool m_isQuitting = false;
+    bool m_wasBehind = false;
     bool m_hasWorked = true; ///< started, or shown its panel, since memory was last given back
 };
 

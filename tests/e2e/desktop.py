@@ -161,7 +161,10 @@ class Vellumry(Process):
 
 def history_key():
     """The 32 key bytes in hexadecimal, out of the keyring, without the program's help."""
-    key = run("secret-tool", "lookup", "service", "com.vellumry.Vellumry.history", "account", "history-key-v1")
+    command = ["secret-tool", "lookup", "service", "com.vellumry.Vellumry.history", "account", "history-key-v1"]
+    # At a first start it is made while the program watches the clipboard already.
+    key = wait_until(lambda: subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=20).stdout,
+                     "the key in the keyring", 60)
     return key.hex()
 
 

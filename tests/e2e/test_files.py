@@ -192,6 +192,20 @@ def a_disk_full_from_the_start():
         starts_quietly()
 
 
+def a_history_on_a_disk_that_is_full_at_the_next_start():
+    with SmallDisk() as disk:
+        with Vellumry():
+            HistoryProbe().copy_is_prompt("kept before")
+        disk.fill()
+        with Vellumry():
+            memory_only("full-disk-later")
+            same(glob.glob(DATA + "/History-unreadable-*"), [], "what was put aside")
+            disk.empty()
+            wait_until(lambda: HistoryProbe().texts() == ["held in memory", "kept before"], "both in the file", 120)
+        with Vellumry():
+            same(HistoryProbe().texts(), ["held in memory", "kept before"], "the history after a restart")
+
+
 def memory_only(name):
     wait_until(lambda: windows("^Vellumry$"), "the alert")
     picture(name)

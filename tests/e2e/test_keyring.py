@@ -6,10 +6,11 @@ import shutil
 import subprocess
 import tempfile
 
+import keyring
 from clients import QtEditor
 from desktop import (DATA, QUIET, Process, Vellumry, copy_text, key, main, open_panel, own_tests, picture,
                      run, same, wait_panel_closed, wait_until, windows)
-from history_probe import HistoryProbe
+from history_probe import HistoryProbe, ids
 
 ITEM = ("service", "com.vellumry.Vellumry.history", "account", "history-key-v1")
 BUS = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
@@ -135,11 +136,6 @@ def with_a_key_of_sixteen_bytes():
     the_old_history_is_back()
 
 
-def lock_the_keyring():
-    run("gdbus", "call", "--session", "--dest", "org.freedesktop.secrets", "--object-path", "/org/freedesktop/secrets",
-        "--method", "org.freedesktop.Secret.Service.Lock", "['/org/freedesktop/secrets/collection/login']")
-
-
 def refuse_the_keyring():
     """Its question takes keys once it is drawn; before that they go elsewhere."""
 
@@ -153,13 +149,54 @@ def refuse_the_keyring():
 
 
 def with_a_locked_keyring():
-    """The last of this session: the keyring stays locked."""
     before = keep_a_history()
-    lock_the_keyring()
+    keyring.lock()
     with Vellumry(ready=False) as program:
         refuse_the_keyring()
         program.wait_ready()
         works_in_memory("locked-keyring")
+    same(files() == before, True, "the files of the history are as they were")
+    keyring.unlock()
+    the_old_history_is_back()
+
+
+def with_a_keyring_that_is_unlocked_later():
+    keep_a_history()
+    keyring.lock()
+    with Vellumry(ready=False) as program:
+        refuse_the_keyring()
+        program.wait_ready()
+        wait_until(lambda: windows("^Vellumry$"), "the alert")
+        copy_text("copied while it was locked")
+        same(len(ids()), 2, "the rows of the file meanwhile")
+        keyring.unlock()
+        wait_until(lambda: len(ids()) == 3, "the copy in the file", 60)
+        wait_panel_closed()
+        probe = HistoryProbe()
+        same(probe.texts(), ["copied while it was locked", "kept before, second", "kept before, first"], "the history")
+        probe.copy_is_prompt("copied after it")
+
+
+def with_the_keyring_s_question_unanswered():
+    """The clipboard is watched from the first second, and an unlocking elsewhere ends the wait."""
+    keep_a_history()
+    keyring.lock()
+    with Vellumry(ready=False) as program:
+        wait_until(lambda: windows("^Unlock"), "the keyring's question", 60)
+        program.wait_ready()
+        copy_text("copied behind the question")
+        same(len(ids()), 2, "the rows of the file meanwhile")
+        keyring.unlock()
+        wait_until(lambda: len(ids()) == 3, "the copy in the file", 60)
+        wait_until(lambda: not windows("^Unlock"), "the question to go", 60)
+
+
+def with_a_service_that_has_no_keyring():
+    """The last of this session: the key is lost with its keyring."""
+    before = keep_a_history()
+    keyring.delete()
+    with Vellumry():
+        works_in_memory("no-collection")
     same(files() == before, True, "the files of the history are as they were")
 
 

@@ -22,11 +22,13 @@ protected:
     void launch() {
         environment.reset();
         platform = makePlatform();
-        environment = awaited(AppEnvironment::launch(platform));
+        environment = AppEnvironment::launch(platform);
     }
+    /// The same, until the history is there or is known not to be.
     void start() {
         launch();
         environment->start();
+        runUntil([this] { return environment->opening()->hasSettled(); }, 60'000);
     }
     [[nodiscard]] ClipStore& store() const { return environment->store(); }
     /// Another program copies; the watcher looks.

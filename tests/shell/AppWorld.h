@@ -23,6 +23,8 @@
 #include <QGuiApplication>
 #include <QQuickView>
 #include <QTemporaryDir>
+#include <atomic>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -43,7 +45,8 @@ public:
 /// What a keyring is: it outlives the program, and it may refuse.
 struct Keyring {
     MemoryKeyStore keys;
-    bool refuses = false;
+    std::atomic<bool> refuses = false;
+    std::function<void()> onChanged = [] {}; ///< hears of a keyring that was unlocked
 };
 
 class KeyringKeyStore : public KeyStore {
@@ -58,6 +61,7 @@ public:
     [[nodiscard]] std::expected<void, KeyFailure> save(const SymmetricKey& key, Asking asking) override {
         return m_keyring->keys.save(key, asking);
     }
+    void watch(std::function<void()> onChanged) override { m_keyring->onChanged = std::move(onChanged); }
 
 private:
     Keyring* m_keyring;

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/HistoryOpening.h"
+
+#include "foundation/Logging.h"
+
+#include <QPointer>
+#include <algorithm>
+#include <cerrno>
+#include <utility>
+
+namespace vellumry {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::chrono::milliseconds firstDelay = 1s;
+constexpr std::chrono::milliseconds longestDelay = 60s;
+/// A keyring says several things about one unlocking, and the last of them counts.
+constexpr std::chrono::milliseconds settling = 300ms;
+/// Another process that looks at the file for a moment is nothing to tell the user.
+constexpr int mostBusyTries = 3;
+
+const char* nameOf(HistoryFailure failure) {
+    switch (failure) {
+    case HistoryFailure::keyringAbsent:
+        return "no keyring answers";
+    case HistoryFailure::keyringLocked:
+        return "the keyring is locked or closed";
+    case HistoryFailure::keyringRefused:
+        return "the keyring refused the key";
+    case HistoryFailure::keyDamaged:
+        return "the key in the keyring is damaged";
+    case HistoryFailure::folderNotWritable:
+        return "the folder cannot be written to";
+    case HistoryFailure::diskFull:
+        return "the disk is full";
+    case HistoryFailure::fileUnreadable:
+        return "the file cannot be read or written";
+    case HistoryFailure::fileBusy:
+        break;
+    }
+    return "another process holds the file";
+}
+
+} // namespace
+
+HistoryOpening::HistoryOpening(ClipStore& store, KeyStore& keyStore, Folder folder)
+    : m_store(&store)
+    , m_keyStore(&keyStore)
+    , m_folder(std::move(folder))
+    , m_delay(firstDelay) {
+    for (QTimer* timer : {&m_retry, &m_change})
+        timer->setSingleShot(true);
+    m_change.setInterval(settling);
+    connect(&m_retry, &QTimer::timeout, this, [this] { attempt(KeyStore::Asking::forbidden); });
+    connect(&m_change, &QTimer::timeout, this, &HistoryOpening::hearKeyStore);
+}
+
+HistoryOpening::~HistoryOpening() {
+    m_isEnding = true;
+    m_keyStore->interrupt();
+}
+
+void HistoryOpening::start() {
+    m_store->setOpening(true);
+    m_keyStore->watch([self = QPointer<HistoryOpening>(this)] {
+        if (self && !self->m_isOpen)
+            self->m_change.start();
+    });
+    attempt(KeyStore::Asking::allowed);
+}
+
+void HistoryOpening::hearKeyStore() {
+    // A question that still stands there may have been answered elsewhere.
+    if (m_isAsking)
+        m_keyStore->interrupt();
+    attempt(KeyStore::Asking::forbidden);
+}
+
+void HistoryOpening::attempt(KeyStore::Asking asking) {
+    if (m_isOpen)
+        return;
+    m_isWorthAnother = m_isTrying;
+    if (std::exchange(m_isTrying, true))
+        return;
+    m_retry.stop();
+    m_isAsking = asking == KeyStore::Asking::allowed;
+    m_executor.post([this, self = QPointer<HistoryOpening>(this), asking] {
+        // This waits for the thread before it goes; what is posted may come later.
+        const auto opened = std::make_shared<Opened>(open(asking));
+        postToMain([self, opened] {
+            if (self)
+                self->finish(std::move(*opened));
+        });
+    });
+}
+
+HistoryOpening::Opened HistoryOpening::open(KeyStore::Asking asking) {
+    if (m_isEnding)
+        return std::unexpected(HistoryFailure::keyringAbsent);
+    QString folder;
+    try {
+        folder = m_folder();
+    } catch (const std::exception&) {
+        return std::unexpected(HistoryFailure::folderNotWritable);
+    }
+    try {
+        return ClipDatabase::openHistory(folder, *m_keyStore, asking);
+    } catch (const std::exception&) {
+        return std::unexpected(HistoryFailure::fileUnreadable);
+    }
+}
+
+void HistoryOpening::finish(Opened opened) {
+    m_isAsking = false;
+    if (opened)
+        join(*std::move(opened));
+    else
+        fail(opened.error());
+}
+
+QCoro::Task<void> HistoryOpening::join(OpenedHistory opened) {
+    const QPointer<HistoryOpening> self(this);
+    std::optional<HistoryFailure> failure;
+    try {
+        auto joining = m_store->attach(std::move(opened.database), opened.recoveredFromDamage);
+        co_await joining;
+    } catch (const SQLiteError& error) {
+        failure = historyFailureOf(error, QString());
+    } catch (const std::exception&) {
+        failure = HistoryFailure::fileUnreadable;
+    }
+    if (!self)
+        co_return;
+    if (failure) {
+        fail(*failure);
+        co_return;
+    }
+    m_isTrying = false;
+    m_isOpen = true;
+    if (std::exchange(m_failure, std::nullopt))
+        qCWarning(logging::shell) << "the history is open again";
+    onOpened();
+}
+
+void HistoryOpening::fail(HistoryFailure failure) {
+    m_isTrying = false;
+    if (std::exchange(m_isWorthAnother, false))
+        m_change.start();
+    m_retry.start(m_delay);
+    m_delay = std::min(m_delay * 2, longestDelay);
+    m_busyTries = failure == HistoryFailure::fileBusy ? m_busyTries + 1 : 0;
+    if (m_failure == failure || (m_busyTries > 0 && m_busyTries < mostBusyTries))
+        return;
+    m_failure = failure;
+    qCWarning(logging::shell) << "the history is kept in memory:" << nameOf(failure);
+    m_store->setOpening(false);
+    onFailed(failure);
+}
+
+} // namespace vellumry
