@@ -32,7 +32,7 @@ ClipboardWatcher::ClipboardWatcher(Pasteboard& pasteboard, ClipStore& store, Use
     m_hold.setSingleShot(true);
     m_hold.setTimerType(Qt::PreciseTimer);
     connect(&m_hold, &QTimer::timeout, this, &ClipboardWatcher::deliverRead);
-    connect(&m_poll, &QTimer::timeout, this, [this] { tick(currentDate()); });
+    connect(&m_poll, &QTimer::timeout, this, [this] { tick(clock()); });
 }
 
 ClipboardWatcher::~ClipboardWatcher() = default;
@@ -47,10 +47,10 @@ void ClipboardWatcher::start() {
     }
     m_pasteboard->onChanged = [self = QPointer(this)] {
         if (self)
-            self->look(currentDate());
+            self->look(self->clock());
     };
     // A change between construction and now was told to nobody.
-    look(currentDate());
+    look(clock());
 }
 
 void ClipboardWatcher::tick(Date now) {

@@ -56,6 +56,8 @@ public:
     /// Copies that are lost because the next one came before they could be read, since the watcher was made.
     [[nodiscard]] qint64 overtakenCopies() const { return m_overtakenCopies; }
 
+    /// The time of a copy.
+    std::function<Date()> clock = currentDate;
     /// Tells which application owns the pasteboard; it may have hidden its window when it copied.
     Source pasteboardOwner;
     /// False when the disk has no room for pictures.

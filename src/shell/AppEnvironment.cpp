@@ -131,6 +131,7 @@ void AppEnvironment::wire() {
 }
 
 void AppEnvironment::wireCapture() {
+    m_watcher->clock = m_platform->clock;
     m_watcher->pasteboardOwner = [frontmost = m_platform->frontmost.get()] { return frontmost->pasteboardOwner(); };
     m_watcher->hasRoomForImages = [this] { return m_platform->hasRoomForImages(m_imageVolume); };
     m_watcher->onLowDisk = [this] { showLowDiskToast(); };

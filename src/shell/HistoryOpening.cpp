@@ -54,7 +54,9 @@ HistoryOpening::HistoryOpening(ClipStore& store, KeyStore& keyStore, Folder fold
         timer->setSingleShot(true);
     m_change.setInterval(settling);
     connect(&m_retry, &QTimer::timeout, this, [this] { attempt(KeyStore::Asking::forbidden); });
-    connect(&m_change, &QTimer::timeout, this, &HistoryOpening::hearKeyStore);
+    // A question that stands is left alone: gnome-keyring 42 dies when one is dismissed after an unlocking elsewhere.
+    // `attempt` tries again once the question is answered.
+    connect(&m_change, &QTimer::timeout, this, [this] { attempt(KeyStore::Asking::forbidden); });
 }
 
 HistoryOpening::~HistoryOpening() {
@@ -71,13 +73,6 @@ void HistoryOpening::start() {
     attempt(KeyStore::Asking::allowed);
 }
 
-void HistoryOpening::hearKeyStore() {
-    // A question that still stands there may have been answered elsewhere.
-    if (m_isAsking)
-        m_keyStore->interrupt();
-    attempt(KeyStore::Asking::forbidden);
-}
-
 void HistoryOpening::attempt(KeyStore::Asking asking) {
     if (m_isOpen)
         return;
@@ -85,7 +80,6 @@ void HistoryOpening::attempt(KeyStore::Asking asking) {
     if (std::exchange(m_isTrying, true))
         return;
     m_retry.stop();
-    m_isAsking = asking == KeyStore::Asking::allowed;
     m_executor.post([this, self = QPointer<HistoryOpening>(this), asking] {
         // This waits for the thread before it goes; what is posted may come later.
         const auto opened = std::make_shared<Opened>(open(asking));
@@ -113,7 +107,6 @@ HistoryOpening::Opened HistoryOpening::open(KeyStore::Asking asking) {
 }
 
 void HistoryOpening::finish(Opened opened) {
-    m_isAsking = false;
     if (opened)
         join(*std::move(opened));
     else

@@ -49,7 +49,6 @@ private:
     void finish(Opened opened);
     QCoro::Task<void> join(OpenedHistory opened);
     void fail(HistoryFailure failure);
-    void hearKeyStore();
 
     ClipStore* m_store;
     KeyStore* m_keyStore;
@@ -57,7 +56,6 @@ private:
     std::optional<HistoryFailure> m_failure;
     bool m_isOpen = false;
     bool m_isTrying = false;
-    bool m_isAsking = false;
     bool m_isWorthAnother = false;
     int m_busyTries = 0;
     std::chrono::milliseconds m_delay;

@@ -9,7 +9,7 @@ import time
 from clients import Browser, FileManager, GtkEditor, PasswordManager, QtEditor, XTerminal
 from desktop import (HISTORY, Failure, Vellumry, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests,
                      representation, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until)
-from hostile_owner import BusyOwner, copy_in_a_row
+from hostile_owner import BusyOwner
 from owner import LoggingOwner
 
 TEXT = "public.utf8-plain-text"
@@ -125,15 +125,6 @@ def a_burst_of_copies_is_kept_whole():
             copy_text(text)
             time.sleep(0.05)  # the rate of copying is what is tested
         wait_for_clip(lambda row: text_of(row) == wanted[-1], "the last copy")
-        same([text_of(row) for row in unsealed()], wanted[::-1], "the history")
-
-
-def three_hundred_copies_at_fifty_a_second_are_kept_whole():
-    with Vellumry():
-        warm_up()
-        wanted = [f"quick {index:03}" for index in range(300)]
-        copy_in_a_row(wanted, 0.02)
-        wait_for_clip(lambda row: text_of(row) == wanted[-1], "the last copy", 60)
         same([text_of(row) for row in unsealed()], wanted[::-1], "the history")
 
 
