@@ -13,8 +13,8 @@
 #include "shell/StartMessages.h"
 #include "shell/StartupAlert.h"
 
-#include <algorithm>
 #include <QFileInfo>
+#include <algorithm>
 #include <chrono>
 #include <utility>
 

@@ -5,6 +5,7 @@
 #include "linux/x11/windows/XWindowProperties.h"
 
 #include <X11/Xlib.h>
+#include <algorithm>
 
 namespace vellumry {
 
@@ -65,6 +66,8 @@ void X11Focus::giveBack(XWindow ours) {
         return;
     m_givenBack = m_clock();
     m_holdsLeft = isPointerOn(ours) ? mostHolds : 0;
+    if (m_holdsLeft > 0)
+        m_topLevels = topLevels();
     // A window manager gives the keyboard to any window when the remembered one closes. What the user chose for that
     // one must not be typed into another, so it stays remembered for its while.
     if (XWindowProperties::focusWindow(*m_connection) != ours)
@@ -92,12 +95,52 @@ bool X11Focus::isPointerOn(XWindow window) const {
     return trap.finish() == 0 && isKnown && x >= 0 && y >= 0 && x < attributes.width && y < attributes.height;
 }
 
+/// The children of the root: frames of the window manager, and windows without one.
+std::vector<XWindow> X11Focus::topLevels() const {
+    XWindow root = 0;
+    XWindow parent = 0;
+    XWindow* children = nullptr;
+    unsigned int count = 0;
+    XErrorTrap trap(m_connection->display());
+    const bool isKnown =
+        XQueryTree(m_connection->display(), m_connection->root(), &root, &parent, &children, &count) != 0;
+    std::vector<XWindow> result;
+    if (trap.finish() == 0 && isKnown)
+        result.assign(children, children + count);
+    if (children)
+        XFree(children);
+    return result;
+}
+
+/// The child of the root that `window` lies in; 0 when it has gone.
+XWindow X11Focus::topLevelOf(XWindow window) const {
+    XErrorTrap trap(m_connection->display());
+    while (window != 0) {
+        XWindow root = 0;
+        XWindow parent = 0;
+        XWindow* children = nullptr;
+        unsigned int count = 0;
+        if (XQueryTree(m_connection->display(), window, &root, &parent, &children, &count) == 0)
+            window = parent = 0;
+        if (children)
+            XFree(children);
+        if (parent == root)
+            break;
+        window = parent;
+    }
+    return trap.finish() == 0 ? window : 0;
+}
+
 /// Takes the keyboard back from a window that got it because the panel over it went away. A pressed button means that
 /// the user chose that window.
 void X11Focus::hold() {
     if (m_holdsLeft == 0 || !m_givenBack || m_clock() - *m_givenBack > heldFor)
         return;
-    if (isSameClient(XWindowProperties::focusWindow(*m_connection)))
+    const XWindow focus = XWindowProperties::focusWindow(*m_connection);
+    if (isSameClient(focus))
+        return;
+    // A window that opened since takes the keyboard by right, wherever the pointer lies.
+    if (focus > 1 && std::ranges::find(m_topLevels, topLevelOf(focus)) == m_topLevels.end())
         return;
     XWindow root = 0;
     XWindow child = 0;

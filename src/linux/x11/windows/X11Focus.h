@@ -6,6 +6,7 @@
 #include <QObject>
 #include <chrono>
 #include <functional>
+#include <vector>
 
 namespace vellumry {
 
@@ -47,6 +48,8 @@ private:
     void activate();
     void hold();
     [[nodiscard]] bool isPointerOn(XWindow window) const;
+    [[nodiscard]] std::vector<XWindow> topLevels() const;
+    [[nodiscard]] XWindow topLevelOf(XWindow window) const;
 
     std::shared_ptr<XlibConnection> m_connection;
     Clock m_clock;
@@ -56,6 +59,7 @@ private:
     XWindow m_client = 0;
     XWindow m_active = 0;
     std::optional<std::chrono::steady_clock::time_point> m_givenBack;
+    std::vector<XWindow> m_topLevels; ///< there when the keyboard was given back
     int m_holdsLeft = 0; ///< how often a window that the pointer came to lie on may still be told to let go
 };
 
