@@ -26,7 +26,14 @@ public:
     };
 
     FakePasteboard() = default;
-    ~FakePasteboard() override { endReadings(); }
+    ~FakePasteboard() override {
+        // A reading that ends may begin another; none may be left waiting for a pasteboard that has gone.
+        hangingTypes.clear();
+        hangsItemTypes = false;
+        hangsBeginReading = false;
+        while (!m_sessions.empty() || !m_waiting.empty())
+            endReadings();
+    }
     FakePasteboard(const FakePasteboard&) = delete;
     FakePasteboard& operator=(const FakePasteboard&) = delete;
 
