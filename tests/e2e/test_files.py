@@ -8,7 +8,7 @@ import shutil
 import sqlite3
 import subprocess
 
-from desktop import (DATA, HISTORY, QUIET, Failure, Vellumry, accessible, copy_text, key, main, open_panel, own_tests, panel_is_open,
+from desktop import (DATA, HISTORY, SETTINGS, QUIET, Failure, Vellumry, accessible, copy_text, key, main, open_panel, own_tests, panel_is_open,
                      picture, run, same, wait_panel_closed, wait_until, windows)
 from history_probe import HistoryProbe, ids, integrity
 
@@ -43,6 +43,9 @@ def write(path, content):
 
 def starts_afresh(damaged):
     """The damaged file is a backup now, the user is told, and a new history is kept."""
+    # A backup's name has seconds: one of the test before, dismissed in this very second, would be the same.
+    if os.path.exists(SETTINGS):
+        os.remove(SETTINGS)
     with Vellumry() as program:
         wait_until(lambda: windows("^Vellumry$"), "the alert")
         same([read(path) for path in put_aside()] == [damaged], True, "the damaged file is put aside as it was")
