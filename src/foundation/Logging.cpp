@@ -66,7 +66,7 @@ bool isStandardErrorTheJournal() {
 
 void write(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     const QByteArray text = line(type, context.category, message, isJournal);
-    // One call a line, so that lines of two threads do not mix. A log that cannot be written is nobody's concern.
+    // One call a line, so that lines of two threads do not mix. A failed write of the log is ignored.
     (void)!::write(STDERR_FILENO, text.constData(), static_cast<std::size_t>(text.size()));
 }
 

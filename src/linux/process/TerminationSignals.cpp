@@ -44,7 +44,7 @@ TerminationSignals::TerminationSignals(std::function<void()> onSignal) {
     for (const int number : caught) {
         struct sigaction action {};
         action.sa_handler = &handle;
-        // Once: who asks again wants it now.
+        // Once: a second signal ends the program at once.
         action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
         sigaction(number, &action, nullptr);
     }

@@ -29,7 +29,7 @@ TEST_F(X11ClipboardManager, AProgramThatQuitsHearsThatItsCopyIsKeptWhenItIs) {
     pasteboard->settle(pasteboard->changeCount(), true);
     ASSERT_TRUE(waitUntil([&] { return quitting.answers.contains("SAVE_TARGETS"); }));
     EXPECT_EQ(quitting.answers["SAVE_TARGETS"].type, "NULL");
-    // Who asks later hears the same at once.
+    // A later request gets the same answer at once.
     EXPECT_EQ(ask(quitting, "SAVE_TARGETS", "CLIPBOARD_MANAGER").type, "NULL");
 }
 
