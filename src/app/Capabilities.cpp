@@ -89,15 +89,19 @@ Capability sounds() {
 std::vector<Capability> ofDisplay(const OrReason<std::shared_ptr<XlibConnection>>& connection) {
     const QString name = QStringLiteral("X11 display");
     if (!connection)
-        return {Capability::missing(name, connection.error().text)};
+        return {Capability::missing(name, connection.error().text)
+                    .serving({Feature::capture, Feature::shortcuts, Feature::paste, Feature::stack})};
     XlibConnection& server = **connection;
     const bool isBridge = isWaylandSession(server);
     return {Capability::found(name, isBridge ? QStringLiteral("Xwayland: what native Wayland programs copy may not "
                                                               "arrive, and keys are pressed in X11 programs only")
                                              : QString()),
-            extension("XTest", server.hasTestExtension(), "clips are copied, the paste key is yours to press"),
-            extension("XInput2", server.inputExtension().has_value(), "no shortcuts, no Paste Stack"),
-            extension("XFixes", server.fixesEvents().has_value(), "the clipboard cannot be watched"),
+            extension("XTest", server.hasTestExtension(), "clips are copied, the paste key is yours to press")
+                .serving({Feature::paste}),
+            extension("XInput2", server.inputExtension().has_value(), "no shortcuts, no Paste Stack")
+                .serving({Feature::shortcuts, Feature::stack}),
+            extension("XFixes", server.fixesEvents().has_value(), "the clipboard cannot be watched")
+                .serving({Feature::capture}),
             extension("XKB", server.keyboardEvents().has_value(), "a change of layout is not noticed"),
             windowManager(server)};
 }
@@ -108,7 +112,8 @@ std::vector<Capability> ofSession(const QString& readerPath) {
     return {bus.isConnected() ? Capability::found(busName)
                               : Capability::missing(busName, QStringLiteral("none: a second start is told by a lock "
                                                                             "alone, no actions from outside")),
-            keyring(bus), reader(readerPath), languages(), sounds()};
+            keyring(bus).serving({Feature::keyring}), reader(readerPath).serving({Feature::reading}),
+            languages().serving({Feature::reading}), sounds()};
 }
 
 } // namespace vellumry::capabilities

@@ -5,6 +5,7 @@
 #include "foundation/Logging.h"
 #include "linux/accessibility/PasswordFocus.h"
 #include "linux/applications/DesktopEntries.h"
+#include "linux/applications/XdgInstalledApplications.h"
 #include "linux/files/InotifyFolderWatching.h"
 #include "linux/files/PosixFileBookmarks.h"
 #include "linux/keyring/KeychainKeyStore.h"
@@ -24,7 +25,7 @@
 #include "linux/x11/windows/X11FrontmostApplication.h"
 #include "linux/x11/windows/X11PanelSurface.h"
 #include "linux/x11/windows/XlibConnection.h"
-#include "shell/Preferences.h"
+#include "settings/Preferences.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -62,7 +63,9 @@ std::optional<Reason> addDisplay(Platform& platform) {
     pasteKeys.wasListed = [board = pasteboard.get()] { return board->wasListed(); };
     pasteKeys.injected = injected;
     platform.pasteboard = std::move(pasteboard);
-    platform.frontmost = std::make_unique<X11FrontmostApplication>(connection, std::make_shared<DesktopEntries>());
+    const auto entries = std::make_shared<DesktopEntries>();
+    platform.frontmost = std::make_unique<X11FrontmostApplication>(connection, entries);
+    platform.applications = std::make_unique<XdgInstalledApplications>(entries, iconFoldersOfSession());
     platform.hotKeys = std::make_unique<X11HotKeys>(connection);
     platform.keyboard = std::make_unique<X11KeyboardLayout>(connection);
     auto target = std::make_unique<X11PasteTarget>(connection, focus, std::move(options));

@@ -5,7 +5,9 @@
 #include "foundation/UserDefaults.h"
 #include "platform/desktop/Capability.h"
 #include "platform/desktop/DateTimer.h"
+#include "platform/desktop/InstalledApplications.h"
 #include "platform/desktop/KeyStore.h"
+#include "platform/desktop/LoginItem.h"
 #include "platform/desktop/SingleInstance.h"
 #include "platform/desktop/SoundPlayer.h"
 #include "platform/display/HotKeyRegistrar.h"
@@ -46,6 +48,9 @@ struct Platform {
     std::unique_ptr<TextReader> textReader;
     std::unique_ptr<FileBookmarks> bookmarks;
     std::unique_ptr<FolderWatching> folders;
+    std::unique_ptr<InstalledApplications> applications;
+    /// Null where nothing starts programs at login: the choice is refused then.
+    std::unique_ptr<LoginItem> loginItem;
     /// What punctual expiry waits with; null where the system has nothing better than an interval.
     std::unique_ptr<DateTimer> expiryTimer;
     /// What the session offers and lacks, as far as the start has found out.

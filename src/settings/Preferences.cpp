@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/Preferences.h"
+#include "settings/Preferences.h"
 
 #include <algorithm>
 #include <cmath>
