@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "linux/x11/selection/PasteboardLimits.h"
-#include "linux/x11/selection/PendingResult.h"
+#include "linux/pasteboard/PasteboardLimits.h"
+#include "linux/pasteboard/PendingResult.h"
 #include "linux/x11/selection/SelectionOffer.h"
 #include "linux/x11/selection/SelectionReader.h"
 

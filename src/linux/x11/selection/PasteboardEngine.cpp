@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/selection/PasteboardEngine.h"
 
-#include "linux/x11/selection/TargetCoding.h"
+#include "linux/pasteboard/TargetCoding.h"
+#include "linux/x11/selection/SelectionBytes.h"
 
 #include <algorithm>
 #include <utility>
@@ -161,7 +162,7 @@ void PasteboardEngine::settle(qint64 count, bool wasKept) {
 
 void PasteboardEngine::read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target,
                             const QString& uniformType, qint64 maxBytes,
-                            PendingResult<std::shared_ptr<const SelectionBytes>> result, Instant now) {
+                            PendingResult<std::shared_ptr<const GivenBytes>> result, Instant now) {
     if (m_ended || offer->moment.changeCount != changeCount() || offer->moment.deadline <= now ||
         !offer->atoms.contains(target)) {
         result.deliver(nullptr);
@@ -175,8 +176,7 @@ void PasteboardEngine::read(const std::shared_ptr<const SelectionOffer>& offer, 
     request.silence = targetcoding::isMadeOnDemand(target) ? m_limits.rendering : m_limits.silence;
     request.deadline = offer->moment.deadline;
     request.done = [this, result, target, uniformType](std::optional<XcbProperty> property) {
-        result.deliver(property ? SelectionBytes::of(*m_connection, std::move(*property), target, uniformType)
-                                : nullptr);
+        result.deliver(property ? givenBytes(*m_connection, std::move(*property), target, uniformType) : nullptr);
     };
     m_reader.read(std::move(request), now);
 }

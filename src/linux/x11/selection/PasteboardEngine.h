@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "linux/pasteboard/PasteboardLimits.h"
+#include "linux/pasteboard/PasteboardService.h"
+#include "linux/pasteboard/PendingResult.h"
 #include "linux/x11/selection/ClipboardManager.h"
 #include "linux/x11/selection/CurrentOffer.h"
-#include "linux/x11/selection/OfferedContents.h"
-#include "linux/x11/selection/PasteboardLimits.h"
-#include "linux/x11/selection/PendingResult.h"
-#include "linux/x11/selection/SelectionBytes.h"
 #include "linux/x11/selection/SelectionOffer.h"
 #include "linux/x11/selection/SelectionOwner.h"
 #include "linux/x11/selection/SelectionReader.h"
@@ -27,22 +26,8 @@ class PasteboardEngine {
 public:
     using Instant = SelectionReader::Instant;
 
-    /// What is told to the owner of the engine, on the pasteboard thread.
-    struct Notices {
-        std::function<void()> changed;
-        /// The owner left without a successor; the count of what it held, and the count since.
-        std::function<void(qint64 held, qint64 since)> ownerGone;
-    };
-
-    /// A wish to own selections. `isWithdrawn` may be set from any thread as long as the result is out.
-    struct Claim {
-        std::shared_ptr<const OfferedContents> contents;
-        bool isPrimary = false;  ///< the primary selection instead of the clipboard
-        bool isTakeover = false; ///< only if nobody has owned the clipboard since its owner went
-        std::shared_ptr<std::atomic<bool>> isWithdrawn = std::make_shared<std::atomic<bool>>(false);
-        /// The change count of our ownership; nothing when it did not become ours.
-        PendingResult<std::optional<qint64>> result;
-    };
+    using Notices = PasteboardNotices; ///< told on the pasteboard thread
+    using Claim = PasteboardClaim;
 
     PasteboardEngine(std::unique_ptr<XcbConnection> connection, PasteboardLimits limits, Notices notices);
 
@@ -74,7 +59,7 @@ public:
     /// With a `uniformType` the bytes are what that has for the target's, else as they came. What programs render only
     /// when they are asked for it is given more time than private types.
     void read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target, const QString& uniformType,
-              qint64 maxBytes, PendingResult<std::shared_ptr<const SelectionBytes>> result, Instant now);
+              qint64 maxBytes, PendingResult<std::shared_ptr<const GivenBytes>> result, Instant now);
 
     void handleEvent(const xcb_generic_event_t& event, Instant now);
     void expire(Instant now);

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/selection/SelectionBytes.h"
 
-#include "linux/x11/selection/TargetCoding.h"
+#include "linux/pasteboard/TargetCoding.h"
 
 namespace vellumry {
 
-std::shared_ptr<const SelectionBytes> SelectionBytes::of(XcbConnection& connection, XcbProperty property,
-                                                         const QString& target, const QString& uniformType) {
-    const auto given = std::make_shared<SelectionBytes>();
+std::shared_ptr<const GivenBytes> givenBytes(XcbConnection& connection, XcbProperty property, const QString& target,
+                                             const QString& uniformType) {
+    const auto given = std::make_shared<GivenBytes>();
     given->wasLarger = property.isTooLong;
     // Elements of 32 bits are atoms, windows, numbers: never content.
     if (property.isTooLong || property.format == 32)

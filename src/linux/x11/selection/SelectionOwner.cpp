@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/selection/SelectionOwner.h"
 
-#include "linux/x11/selection/TargetCoding.h"
+#include "linux/pasteboard/TargetCoding.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "linux/x11/selection/OfferedContents.h"
+#include "linux/pasteboard/OfferedContents.h"
 #include "linux/x11/selection/XcbConnection.h"
 
 #include <chrono>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "linux/x11/selection/TargetCoding.h"
+#include "linux/pasteboard/TargetCoding.h"
 
 #include "foundation/UniformType.h"
 

@@ -1,29 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "linux/x11/selection/X11PasteboardReading.h"
+#include "linux/pasteboard/PasteboardReadings.h"
 
 #include "foundation/UniformType.h"
-#include "linux/x11/selection/FileList.h"
+#include "linux/pasteboard/FileList.h"
 
 #include <algorithm>
-#include <chrono>
 
 namespace vellumry {
 
 /// What the awaiting coroutines share with their reading; they touch nothing else after a wait.
 struct ForeignReading::State {
-    std::weak_ptr<PasteboardThread> thread;
-    std::shared_ptr<const SelectionOffer> offer;
+    std::shared_ptr<const ForeignOffer> offer;
     qint64 maxFileListBytes = 0;
     /// What the owner's list of files held; absent until it was read.
     std::optional<filelist::Entries> entries;
     /// The representation asked for last was larger than was wanted.
     bool wasLarger = false;
 
-    [[nodiscard]] bool isCurrent() const {
-        const std::shared_ptr<PasteboardThread> running = thread.lock();
-        return running && running->engine().changeCount() == offer->moment.changeCount &&
-               std::chrono::steady_clock::now() < offer->moment.deadline;
-    }
+    [[nodiscard]] bool isCurrent() const { return offer->isCurrent(); }
     [[nodiscard]] bool hasFileList() const;
     [[nodiscard]] QStringList declaredTypes() const;
     [[nodiscard]] std::vector<QStringList> typesByItem() const;
@@ -38,28 +32,14 @@ void appendOnce(QStringList& types, const QString& type) {
         types.append(type);
 }
 
-QCoro::Task<std::shared_ptr<const SelectionBytes>> readTarget(std::shared_ptr<State> state, QString target,
-                                                              QString uniformType, qint64 maxBytes) {
-    const PendingResult<std::shared_ptr<const SelectionBytes>> result;
-    if (const std::shared_ptr<PasteboardThread> thread = state->thread.lock()) {
-        thread->post([offer = state->offer, target, uniformType, maxBytes, result](PasteboardEngine& engine, auto now) {
-            engine.read(offer, target, uniformType, maxBytes, result, now);
-        });
-    } else {
-        result.deliver(nullptr);
-    }
-    std::shared_ptr<const SelectionBytes> bytes = co_await result;
-    co_return bytes;
-}
-
 /// Reads the lists of files that are offered until one of them has an entry.
 QCoro::Task<> readFileList(std::shared_ptr<State> state) {
     filelist::Entries entries;
     for (const QString& target : {filelist::uriList, filelist::copiedFiles}) {
-        if (!state->offer->targets.contains(target))
+        if (!state->offer->targets().contains(target))
             continue;
-        auto reading = readTarget(state, target, QString(), state->maxFileListBytes);
-        const std::shared_ptr<const SelectionBytes> list = co_await reading;
+        auto reading = state->offer->read(target, QString(), state->maxFileListBytes);
+        const std::shared_ptr<const GivenBytes> list = co_await reading;
         if (list && !list->wasLarger)
             entries = filelist::parse(list->bytes);
         if (!entries.isEmpty())
@@ -70,7 +50,7 @@ QCoro::Task<> readFileList(std::shared_ptr<State> state) {
 }
 
 QCoro::Task<std::optional<QByteArray>> readRepresentation(std::shared_ptr<State> state, QString type, qint64 maxBytes) {
-    QStringList candidates = state->offer->targets;
+    QStringList candidates = state->offer->targets();
     // Text has many names; an owner that breaks its word for the best of them may keep it for the next.
     const int attempts = type == uniformtype::utf8PlainText ? 2 : 1;
     for (int i = 0; i < attempts; ++i) {
@@ -78,8 +58,8 @@ QCoro::Task<std::optional<QByteArray>> readRepresentation(std::shared_ptr<State>
         if (!target)
             break;
         candidates.removeAll(*target);
-        auto reading = readTarget(state, *target, type, maxBytes);
-        const std::shared_ptr<const SelectionBytes> given = co_await reading;
+        auto reading = state->offer->read(*target, type, maxBytes);
+        const std::shared_ptr<const GivenBytes> given = co_await reading;
         if (!given)
             continue;
         // Text may grow by its decoding.
@@ -101,12 +81,12 @@ std::optional<QByteArray> within(const QByteArray& bytes, qint64 maxBytes, bool&
 } // namespace
 
 bool ForeignReading::State::hasFileList() const {
-    return std::ranges::any_of(offer->targets, filelist::isFileList);
+    return std::ranges::any_of(offer->targets(), filelist::isFileList);
 }
 
 QStringList ForeignReading::State::declaredTypes() const {
     QStringList types;
-    for (const QString& target : offer->targets) {
+    for (const QString& target : offer->targets()) {
         if (filelist::isFileList(target))
             appendOnce(types, uniformtype::fileUrl);
         if (target == filelist::uriList)
@@ -122,7 +102,7 @@ std::vector<QStringList> ForeignReading::State::typesByItem() const {
     QStringList first = declaredTypes();
     // pcmanfm takes files that were cut off the clipboard as soon as somebody has read this list: the user could not
     // paste them any more. The list of addresses and KDE's hint say the same and can be read.
-    if (offer->targets.contains(filelist::uriList) && offer->targets.contains(filelist::cutSelection))
+    if (offer->targets().contains(filelist::uriList) && offer->targets().contains(filelist::cutSelection))
         first.removeAll(filelist::copiedFiles);
     const qsizetype place = first.indexOf(uniformtype::fileUrl);
     if (place < 0)
@@ -137,17 +117,15 @@ std::vector<QStringList> ForeignReading::State::typesByItem() const {
     const bool isElsewhere = entries && entries->urls() && !entries->webAddress;
     if (!isElsewhere)
         first.removeAll(filelist::copiedFiles);
-    else if (offer->targets.contains(filelist::uriList))
+    else if (offer->targets().contains(filelist::uriList))
         first.insert(place, filelist::uriList);
     if (entries && entries->urls() && !first.contains(uniformtype::url))
         first.insert(place, uniformtype::url);
     return {first};
 }
 
-ForeignReading::ForeignReading(std::weak_ptr<PasteboardThread> thread, std::shared_ptr<const SelectionOffer> offer,
-                               qint64 maxFileListBytes)
+ForeignReading::ForeignReading(std::shared_ptr<const ForeignOffer> offer, qint64 maxFileListBytes)
     : m_state(std::make_shared<State>()) {
-    m_state->thread = std::move(thread);
     m_state->offer = std::move(offer);
     m_state->maxFileListBytes = maxFileListBytes;
 }
@@ -204,11 +182,9 @@ bool ForeignReading::isCurrent() const {
     return m_state->isCurrent();
 }
 
-OwnReading::OwnReading(std::weak_ptr<PasteboardThread> thread, std::shared_ptr<const OfferedContents> contents,
-                       qint64 changeCount)
-    : m_thread(std::move(thread))
-    , m_contents(std::move(contents))
-    , m_changeCount(changeCount) {}
+OwnReading::OwnReading(std::shared_ptr<const OfferedContents> contents, std::function<bool()> isCurrent)
+    : m_contents(std::move(contents))
+    , m_isCurrent(std::move(isCurrent)) {}
 
 QStringList OwnReading::types() const {
     QStringList types;
@@ -238,11 +214,6 @@ QCoro::Task<std::optional<QByteArray>> OwnReading::data(qsizetype item, QString 
     if (found == representations.end())
         co_return std::nullopt;
     co_return within(found->second, maxBytes, m_wasLarger);
-}
-
-bool OwnReading::isCurrent() const {
-    const std::shared_ptr<PasteboardThread> running = m_thread.lock();
-    return running && running->engine().changeCount() == m_changeCount;
 }
 
 } // namespace vellumry

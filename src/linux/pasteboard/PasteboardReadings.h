@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "linux/x11/selection/PasteboardThread.h"
+#include "linux/pasteboard/ForeignOffer.h"
+#include "linux/pasteboard/OfferedContents.h"
 #include "platform/display/Pasteboard.h"
 
+#include <functional>
 #include <memory>
 
 namespace vellumry {
@@ -16,8 +18,7 @@ namespace vellumry {
 /// line, beside the list itself.
 class ForeignReading final : public PasteboardReading {
 public:
-    ForeignReading(std::weak_ptr<PasteboardThread> thread, std::shared_ptr<const SelectionOffer> offer,
-                   qint64 maxFileListBytes);
+    ForeignReading(std::shared_ptr<const ForeignOffer> offer, qint64 maxFileListBytes);
     ~ForeignReading() override;
 
     [[nodiscard]] QStringList types() const override;
@@ -35,19 +36,17 @@ private:
 /// Reads back what we hold ourselves, without a word to the server. Main thread.
 class OwnReading final : public PasteboardReading {
 public:
-    OwnReading(std::weak_ptr<PasteboardThread> thread, std::shared_ptr<const OfferedContents> contents,
-               qint64 changeCount);
+    OwnReading(std::shared_ptr<const OfferedContents> contents, std::function<bool()> isCurrent);
 
     [[nodiscard]] QStringList types() const override;
     [[nodiscard]] QCoro::Task<std::vector<QStringList>> itemTypes() override;
     [[nodiscard]] QCoro::Task<std::optional<QByteArray>> data(qsizetype item, QString type, qint64 maxBytes) override;
     [[nodiscard]] bool wasLarger() const override { return m_wasLarger; }
-    [[nodiscard]] bool isCurrent() const override;
+    [[nodiscard]] bool isCurrent() const override { return m_isCurrent(); }
 
 private:
-    const std::weak_ptr<PasteboardThread> m_thread;
     const std::shared_ptr<const OfferedContents> m_contents;
-    const qint64 m_changeCount;
+    const std::function<bool()> m_isCurrent;
     bool m_wasLarger = false;
 };
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "linux/x11/selection/OfferedContents.h"
+#include "linux/pasteboard/OfferedContents.h"
 
 #include "foundation/UniformType.h"
-#include "linux/x11/selection/FileList.h"
-#include "linux/x11/selection/TargetCoding.h"
+#include "linux/pasteboard/FileList.h"
+#include "linux/pasteboard/TargetCoding.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "linux/x11/selection/FileList.h"
+#include "linux/pasteboard/FileList.h"
 
 #include "foundation/FileUrl.h"
 
