@@ -345,5 +345,57 @@
         <source>Copy what you need, then ⌘V</source>
         <translation>Copy what you need, then Ctrl+V</translation>
     </message>
+    <message>
+        <source>⌃⌥%1</source>
+        <translation>Super+Alt+%1</translation>
+    </message>
+    <message>
+        <source>⌘%1</source>
+        <translation>Ctrl+%1</translation>
+    </message>
+    <message>
+        <source>⌃⌘V</source>
+        <translation>Super+Ctrl+V</translation>
+    </message>
+    <message>
+        <source>⌃⌘S</source>
+        <translation>Super+Ctrl+S</translation>
+    </message>
+    <message>
+        <source>⌘,</source>
+        <translation>Ctrl+,</translation>
+    </message>
+    <message>
+        <source>⌘Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips · Capturing</source>
+        <translation>
+            <numerusform>%n clip · Capturing</numerusform>
+            <numerusform>%n clips · Capturing</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips · Paused</source>
+        <translation>
+            <numerusform>%n clip · Paused</numerusform>
+            <numerusform>%n clips · Paused</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips · Paused until %1</source>
+        <translation>
+            <numerusform>%n clip · Paused until %1</numerusform>
+            <numerusform>%n clips · Paused until %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stop Paste Stack (%n left)</source>
+        <translation>
+            <numerusform>Stop Paste Stack (%n left)</numerusform>
+            <numerusform>Stop Paste Stack (%n left)</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

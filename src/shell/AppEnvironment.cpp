@@ -81,6 +81,7 @@ AppEnvironment::AppEnvironment(Platform& platform)
                                                 m_views, panelHooks());
     m_panel->onShow = [this] { m_hasWorked = true; };
     makeStack();
+    makeStatusItem();
     wire();
 }
 

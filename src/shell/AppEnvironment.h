@@ -15,6 +15,7 @@
 #include "shell/ScreenshotSaving.h"
 #include "shell/SettingsWatch.h"
 #include "shell/StackHUDController.h"
+#include "shell/StatusItemController.h"
 #include "shell/TextReading.h"
 #include "shell/ToastController.h"
 #include "views/ViewEngine.h"
@@ -59,6 +60,8 @@ public:
     /// Clears the history, pins aside, once the user has said yes.
     void askToClear();
     [[nodiscard]] bool isPaused() const;
+    /// The program's menu as it stands now: the tray shows it, and the panel where there is no tray.
+    [[nodiscard]] std::vector<ActionMenuItem> statusMenu() const { return m_statusItem->menu(); }
     /// Registers the global shortcuts anew; one sentence for each that another program holds.
     QStringList reloadShortcuts();
     void suspendShortcuts(bool isSuspended);
@@ -92,6 +95,7 @@ private:
     void wireScreenshots();
     void makeStack();
     void wireStack();
+    void makeStatusItem();
     [[nodiscard]] std::vector<ClipRef> stackSeed();
     void startMaintenance();
     void runMaintenance();
@@ -122,6 +126,7 @@ private:
     std::unique_ptr<PanelController> m_panel;
     std::unique_ptr<StackWiring> m_stack;
     std::unique_ptr<StackHUDController> m_stackHUD;
+    std::unique_ptr<StatusItemController> m_statusItem;
     std::unique_ptr<ShortcutRegistrations> m_shortcuts;
     std::unique_ptr<SettingsWatch> m_settingsWatch;
     std::vector<ToastMessage> m_startMessages; ///< what is still to be told of the start, the next one last

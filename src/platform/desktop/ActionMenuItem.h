@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <vector>
 
@@ -16,6 +17,15 @@ struct ActionMenuItem {
     bool isEnabled = true;
     std::function<void()> handler{}; ///< called on the main thread when the entry is chosen; unset for what has entries
     std::vector<ActionMenuItem> items{}; ///< entries of a submenu
+
+    /// Whether the entry is a switch, and how it stands.
+    enum class Check : quint8 { none, off, on };
+    Check check = Check::none;
+    QString note{};   ///< what is told of the entry beside it, once the pointer rests; may be empty
+    QString swatch{}; ///< "#AARRGGBB", painted as a square in place of the symbol; may be empty
+    /// `keys` for those who draw keys their own way: "Control", "Alt", "Shift" and "Super", and last what is on the
+    /// key.
+    QStringList chord{};
 
     [[nodiscard]] static ActionMenuItem separator() { return {}; }
     [[nodiscard]] bool isSeparator() const { return text.isEmpty(); }

@@ -18,6 +18,8 @@ public:
     /// Waits, at most a moment, until the window that was in front has its focus back. False when it did not get it,
     /// has gone, or another window has the focus: then nothing may be typed.
     [[nodiscard]] virtual QCoro::Task<bool> regainFocus() = 0;
+    /// Waits, at most a moment, until no other program holds the keyboard: a menu that was chosen from is still going.
+    [[nodiscard]] virtual QCoro::Task<void> keyboardFree() { co_return; }
     /// Lets go of every key that is still down, then presses the target's own paste chord. Terminals get what they
     /// paste from as well (the primary selection).
     virtual void pressPaste() = 0;

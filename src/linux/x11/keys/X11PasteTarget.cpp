@@ -19,6 +19,10 @@ namespace vellumry {
 
 namespace {
 
+/// Menus let the keyboard go as they disappear; nothing tells of that.
+constexpr std::chrono::milliseconds keyboardLook{15};
+constexpr int mostKeyboardLooks = 40;
+
 constexpr quint32 placeOf(quint32 evdevCode) {
     return evdevCode + KeyCodes::xOffset;
 }
@@ -73,6 +77,15 @@ QCoro::Task<bool> X11PasteTarget::regainFocus() {
         QObject::disconnect(watching);
     }
     co_return false;
+}
+
+QCoro::Task<void> X11PasteTarget::keyboardFree() {
+    const QPointer<X11PasteTarget> guard(this);
+    for (int looks = 0; looks < mostKeyboardLooks && guard != nullptr && isKeyboardTaken(); ++looks) {
+        const OneShot<void> next;
+        next.deliverAfter(keyboardLook);
+        co_await next;
+    }
 }
 
 void X11PasteTarget::pressPaste() {

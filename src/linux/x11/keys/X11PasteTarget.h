@@ -34,6 +34,7 @@ public:
     void requestTrust() override {}
     [[nodiscard]] QCoro::Task<bool> isSecureInput() override;
     [[nodiscard]] QCoro::Task<bool> regainFocus() override;
+    [[nodiscard]] QCoro::Task<void> keyboardFree() override;
     void pressPaste() override;
     /// The program in front takes no notice of a paste key before it has looked at what is new on the clipboard.
     [[nodiscard]] bool looksFirst() const;

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The program's menu.
+#include "shell/AppEnvironment.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+
+namespace vellumry {
+
+void AppEnvironment::makeStatusItem() {
+    m_statusItem = std::make_unique<StatusItemController>(
+        StatusItemController::Parts{*m_store, *m_watcher, *m_paster, *m_platform->defaults, m_stack->stack(),
+                                    *m_platform->pasteboard, *m_platform->pasteTarget, m_platform->clock});
+    m_statusItem->onOpenPanel = [this] { openPanel(); };
+    m_statusItem->onToast = [this](const ToastMessage& message) { showToast(message); };
+    m_statusItem->onToggleStack = [this] { m_stack->toggle({}); };
+    m_statusItem->onPastePinned = [this](int number) { m_panel->model().pastePinned(number); };
+    m_statusItem->onToggleScreenshots = [this] { toggleScreenshots(); };
+    m_statusItem->onClearHistory = [this] { askToClear(); };
+    m_statusItem->onOpenLink = [](const QUrl& address) { QDesktopServices::openUrl(address); };
+    // Queued: the caller may be amid an answer over the bus.
+    m_statusItem->onQuit = [] { QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection); };
+}
+
+} // namespace vellumry
