@@ -23,6 +23,11 @@ constexpr int farFromGround = 60;
 /// Contrast below this is noise and stays faint.
 constexpr int leastContrast = 40;
 constexpr int tileSide = 24;
+/// So many pixels are looked at together, and so many rows above and below them, from where a ground reaches in:
+/// farther than `farFromGround` and `lineLength`.
+constexpr int slabArea = 2'000'000;
+constexpr int slabMargin = 128;
+constexpr int leastSlab = 128;
 constexpr double bestLetterHeight = 22;
 constexpr double largestEnlargement = 3;
 
@@ -234,17 +239,22 @@ private:
     Grid<quint8> m_isSeen;
 };
 
-} // namespace
-
-QImage cleaned(const QImage& picture) {
-    const QImage colours = picture.convertToFormat(QImage::Format_RGB32);
-    QImage result(colours.size(), QImage::Format_Grayscale8);
+/// How much each pixel of the rows from `top` to `end` differs from its ground. Only so many rows at a time, because
+/// finding the grounds takes ten bytes for a pixel.
+void findContrast(const QImage& picture, int top, int end, QImage& result) {
+    const int first = std::max(0, top - slabMargin);
+    const int height = std::min(end + slabMargin, picture.height()) - first;
+    const QImage colours = picture.copy(0, first, picture.width(), height).convertToFormat(QImage::Format_RGB32);
     Grounds grounds(colours);
-    for (int y = 0; y < result.height(); ++y) {
+    for (int y = top; y < end; ++y) {
         uchar* line = result.scanLine(y);
         for (int x = 0; x < result.width(); ++x)
-            line[x] = static_cast<uchar>(grounds.contrastAt(x, y));
+            line[x] = static_cast<uchar>(grounds.contrastAt(x, y - first));
     }
+}
+
+/// From contrast, dark on black, to ink on white.
+void darkenFaintText(QImage& result) {
     const int columns = (result.width() + tileSide - 1) / tileSide;
     const int rows = (result.height() + tileSide - 1) / tileSide;
     Grid<quint8> greatest = greatestAround(result, columns, rows);
@@ -253,6 +263,16 @@ QImage cleaned(const QImage& picture) {
         for (int x = 0; x < result.width(); ++x)
             line[x] = static_cast<uchar>(255 - std::min(255, line[x] * 255 / greatest.at(x / tileSide, y / tileSide)));
     }
+}
+
+} // namespace
+
+QImage cleaned(const QImage& picture) {
+    QImage result(picture.size(), QImage::Format_Grayscale8);
+    const int rows = std::max(leastSlab, slabArea / std::max(1, picture.width()));
+    for (int top = 0; top < picture.height(); top += rows)
+        findContrast(picture, top, std::min(top + rows, picture.height()), result);
+    darkenFaintText(result);
     return result;
 }
 

@@ -15,7 +15,8 @@ qint64 darkness(const QImage& page, int row) {
     return sum;
 }
 
-/// The row from `first` up to `last` with the least on it, the lowest of several.
+/// The row from `first` up to `last` with the least on it, the lowest of several. Of empty rows the middle one of the
+/// lowest run, so that letters on both sides keep some paper: an ascender at the very edge is not read.
 int emptiestRow(const QImage& page, int first, int last) {
     int best = last;
     qint64 least = darkness(page, last);
@@ -25,7 +26,10 @@ int emptiestRow(const QImage& page, int first, int last) {
             best = row;
         }
     }
-    return best;
+    int top = best;
+    while (least == 0 && top > first && darkness(page, top - 1) == 0)
+        --top;
+    return (top + best + 1) / 2;
 }
 
 } // namespace

@@ -9,9 +9,9 @@
 namespace vellumry::pagebands {
 
 /// A page with more pixels than this is cut.
-constexpr qint64 largestWhole = 20'000'000;
+constexpr qint64 largestWhole = 4'000'000;
 /// What the bands of such a page have at most.
-constexpr qint64 bandArea = 3'000'000;
+constexpr qint64 bandArea = 2'500'000;
 
 /// Bands of the whole width that cover `page` (Grayscale8, dark on white) from the top to the bottom, cut where least
 /// stands in the way: between lines, where there is such a place in the last third of a band. One for a page that is

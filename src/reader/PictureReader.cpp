@@ -3,12 +3,12 @@
 
 #include "reader/DarkOnWhite.h"
 #include "reader/LanguageData.h"
-#include "reader/PageBands.h"
 #include "reader/ReadLines.h"
 
 #include <QFile>
 #include <QLocale>
 #include <algorithm>
+#include <utility>
 
 namespace vellumry {
 
@@ -25,7 +25,8 @@ constexpr std::size_t samplesOfScript = 3;
 constexpr std::size_t samplesOfLanguage = 5;
 constexpr std::size_t scriptsTried = 12;
 constexpr qsizetype languagesTried = 4;
-constexpr std::size_t enginesKept = 6;
+/// Each has its language's data, some 15 MB, and what it read last.
+constexpr std::size_t enginesKept = 2;
 constexpr qint64 longestImproving = 40'000;
 
 /// Until when, from the beginning of a picture, its text is read. Whoever asks waits 30 s for a fast reading and 150 s
@@ -36,10 +37,6 @@ struct Limits {
 };
 constexpr Limits fastLimits{std::chrono::seconds(18), std::chrono::seconds(24)};
 constexpr Limits accurateLimits{std::chrono::seconds(90), std::chrono::seconds(130)};
-
-QImage enlarged(const QImage& page, const QSize& size) {
-    return page.size() == size ? page : page.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
 
 /// Grey, and turned round when most of it is dark: for what stands on no even ground.
 QImage plain(const QImage& picture) {
@@ -66,12 +63,15 @@ std::unique_ptr<PictureReader> PictureReader::create() {
     return nullptr;
 }
 
-std::optional<QString> PictureReader::read(const QImage& picture, Mode mode) {
+std::optional<QString> PictureReader::read(QImage picture, Mode mode) {
     m_elapsed.start();
     const QImage clean = darkonwhite::cleaned(picture);
+    const QImage ground = mode == Mode::accurate ? plain(picture) : QImage();
+    // In colour it takes as much memory as everything else.
+    picture = QImage();
     const double wanted = darkonwhite::enlargement(darkonwhite::letterHeight(clean), clean.size());
-    const QSize size = clean.size() * (mode == Mode::fast ? std::min(wanted, quickEnlargement) : wanted);
-    const QImage page = enlarged(clean, size);
+    const double enlargement = mode == Mode::fast ? std::min(wanted, quickEnlargement) : wanted;
+    const ReadingPage page(clean, enlargement);
 
     QByteArray language = m_scripts.front().languages.front();
     const Limits& limits = mode == Mode::fast ? fastLimits : accurateLimits;
@@ -90,53 +90,51 @@ std::optional<QString> PictureReader::read(const QImage& picture, Mode mode) {
         }
     }
     if (mode == Mode::accurate) {
-        readAgainPlain(picture, size, *lines, language);
+        readAgain(ReadingPage(ground, enlargement), *lines, language);
         rereadDoubtful(page, *lines, language, script);
     }
     return readlines::joined(*lines);
 }
 
 TextEngine* PictureReader::engine(const QByteArray& language) {
+    const QByteArray before = std::exchange(m_language, language);
     if (const auto found = m_engines.find(language); found != m_engines.end())
         return &found->second;
+    if (m_engines.size() >= enginesKept)
+        std::erase_if(m_engines, [&before](const auto& entry) { return entry.first != before; });
     std::optional<TextEngine> made = TextEngine::create(*m_library, m_data, language);
     if (!made)
         return nullptr;
-    if (m_engines.size() >= enginesKept)
-        m_engines.clear();
     return &m_engines.emplace(language, std::move(*made)).first->second;
 }
 
-std::optional<PictureReader::Lines> PictureReader::readPage(const QImage& page, const QByteArray& language,
+std::optional<PictureReader::Lines> PictureReader::readPage(const ReadingPage& page, const QByteArray& language,
                                                             std::chrono::milliseconds end) {
     TextEngine* reader = engine(language);
     std::optional<Lines> lines;
-    for (const QRect& band : pagebands::of(page)) {
+    for (const QRect& band : page.bands()) {
         const std::chrono::milliseconds left = end - std::chrono::milliseconds(m_elapsed.elapsed());
         if (!reader || left.count() <= 0)
             break;
-        // Its pixels stay the page's.
-        const QImage part(page.constScanLine(band.top()), band.width(), band.height(), page.bytesPerLine(),
-                          QImage::Format_Grayscale8);
-        const std::optional<Lines> found = reader->read(part, TextEngine::Layout::page, left);
+        const std::optional<Lines> found = reader->read(page.part(band), TextEngine::Layout::page, left);
         if (!found)
             return std::nullopt;
         if (!lines)
             lines.emplace();
         for (TextLine line : *found) {
-            line.box.translate(0, band.top());
+            line.box = page.onPage(line.box, band.topLeft());
             lines->push_back(std::move(line));
         }
     }
     return lines;
 }
 
-TextLine PictureReader::readLine(const QImage& page, const TextLine& line, const QByteArray& language) {
+TextLine PictureReader::readLine(const ReadingPage& page, const TextLine& line, const QByteArray& language) {
     TextLine result{{}, line.box, 0};
     TextEngine* reader = engine(language);
     const int margin = std::max(4, line.box.height() / 4);
     const QRect box = line.box.adjusted(-margin, -margin, margin, margin) & page.rect();
-    const auto found = reader ? reader->read(page.copy(box), TextEngine::Layout::line) : std::nullopt;
+    const auto found = reader ? reader->read(page.part(box), TextEngine::Layout::line) : std::nullopt;
     if (!found || found->empty())
         return result;
     result.text = readlines::joined(*found).trimmed();
@@ -144,14 +142,14 @@ TextLine PictureReader::readLine(const QImage& page, const TextLine& line, const
     return result;
 }
 
-double PictureReader::trial(const QImage& page, const Lines& samples, const QByteArray& language) {
+double PictureReader::trial(const ReadingPage& page, const Lines& samples, const QByteArray& language) {
     Lines found;
     for (const TextLine& sample : samples)
         found.push_back(readLine(page, sample, language));
     return readlines::confidence(found);
 }
 
-const languages::Script& PictureReader::chooseScript(const QImage& page, const Lines& lines) {
+const languages::Script& PictureReader::chooseScript(const ReadingPage& page, const Lines& lines) {
     if (lines.empty() || readlines::confidence(lines) >= wellRead)
         return m_scripts.front();
     const Lines samples = readlines::samples(lines, samplesOfScript);
@@ -167,7 +165,7 @@ const languages::Script& PictureReader::chooseScript(const QImage& page, const L
     return m_scripts[best];
 }
 
-QByteArray PictureReader::chooseLanguage(const QImage& page, const Lines& lines, const languages::Script& script) {
+QByteArray PictureReader::chooseLanguage(const ReadingPage& page, const Lines& lines, const languages::Script& script) {
     QByteArray best = script.languages.front();
     if (script.languages.size() == 1)
         return best;
@@ -183,17 +181,18 @@ QByteArray PictureReader::chooseLanguage(const QImage& page, const Lines& lines,
     return best;
 }
 
-void PictureReader::rereadDoubtful(const QImage& page, Lines& lines, const QByteArray& language,
+void PictureReader::rereadDoubtful(const ReadingPage& page, Lines& lines, const QByteArray& language,
                                    const languages::Script& script) {
     QByteArrayList others = script.languages.first(std::min(script.languages.size(), languagesTried));
     others.removeAll(language);
     // Names and commands in Latin letters stand in texts of every script.
     if (const QByteArray latin = m_scripts.front().languages.front(); latin != language && !others.contains(latin))
         others.append(latin);
-    for (TextLine& line : lines) {
-        if (line.confidence >= doubtful)
-            continue;
-        for (const QByteArray& other : others) {
+    // One language after the other: more than two are not in memory at once.
+    for (const QByteArray& other : others) {
+        for (TextLine& line : lines) {
+            if (line.confidence >= doubtful)
+                continue;
             if (m_elapsed.elapsed() > longestImproving)
                 return;
             const TextLine again = readLine(page, line, other);
@@ -203,11 +202,10 @@ void PictureReader::rereadDoubtful(const QImage& page, Lines& lines, const QByte
     }
 }
 
-void PictureReader::readAgainPlain(const QImage& picture, const QSize& size, Lines& lines, const QByteArray& language) {
+void PictureReader::readAgain(const ReadingPage& page, Lines& lines, const QByteArray& language) {
     if (m_elapsed.elapsed() > longestImproving)
         return;
-    if (const std::optional<Lines> others =
-            readPage(enlarged(plain(picture), size), language, accurateLimits.secondReading))
+    if (const std::optional<Lines> others = readPage(page, language, accurateLimits.secondReading))
         readlines::improve(lines, *others);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "reader/Languages.h"
+#include "reader/ReadingPage.h"
 #include "reader/TextEngine.h"
 
 #include <QElapsedTimer>
@@ -30,7 +31,7 @@ public:
 
     /// The text, a line feed behind each line; empty when there is none. Nothing when reading failed. Of a picture with
     /// so much text that the time does not suffice, what was read until then.
-    [[nodiscard]] std::optional<QString> read(const QImage& picture, Mode mode);
+    [[nodiscard]] std::optional<QString> read(QImage picture, Mode mode);
 
 private:
     using Lines = std::vector<TextLine>;
@@ -44,20 +45,24 @@ private:
     /// Loaded on first use. Null when the data cannot be read.
     [[nodiscard]] TextEngine* engine(const QByteArray& language);
     /// What could be read until `end`, counted from the beginning of the picture; nothing when it is past.
-    [[nodiscard]] std::optional<Lines> readPage(const QImage& page, const QByteArray& language,
+    [[nodiscard]] std::optional<Lines> readPage(const ReadingPage& page, const QByteArray& language,
                                                 std::chrono::milliseconds end);
-    [[nodiscard]] TextLine readLine(const QImage& page, const TextLine& line, const QByteArray& language);
+    [[nodiscard]] TextLine readLine(const ReadingPage& page, const TextLine& line, const QByteArray& language);
     /// The mean confidence of some lines, read in a language.
-    [[nodiscard]] double trial(const QImage& page, const Lines& samples, const QByteArray& language);
-    [[nodiscard]] const languages::Script& chooseScript(const QImage& page, const Lines& lines);
-    [[nodiscard]] QByteArray chooseLanguage(const QImage& page, const Lines& lines, const languages::Script& script);
-    void rereadDoubtful(const QImage& page, Lines& lines, const QByteArray& language, const languages::Script& script);
-    void readAgainPlain(const QImage& picture, const QSize& size, Lines& lines, const QByteArray& language);
+    [[nodiscard]] double trial(const ReadingPage& page, const Lines& samples, const QByteArray& language);
+    [[nodiscard]] const languages::Script& chooseScript(const ReadingPage& page, const Lines& lines);
+    [[nodiscard]] QByteArray chooseLanguage(const ReadingPage& page, const Lines& lines,
+                                            const languages::Script& script);
+    void rereadDoubtful(const ReadingPage& page, Lines& lines, const QByteArray& language,
+                        const languages::Script& script);
+    /// Takes over what is better in another view of the same picture.
+    void readAgain(const ReadingPage& page, Lines& lines, const QByteArray& language);
 
     std::unique_ptr<const TesseractLibrary> m_library;
     QByteArray m_data;
     std::vector<languages::Script> m_scripts;
     std::map<QByteArray, TextEngine> m_engines;
+    QByteArray m_language; ///< of the engine used last
     /// Runs since the present picture was begun: what is left to improve is left when it takes too long.
     QElapsedTimer m_elapsed;
 };

@@ -5,6 +5,9 @@
 #include "reader/ReaderSandbox.h"
 #include "reader/ReaderSocket.h"
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <new>
 #include <sys/mman.h>
 #include <sys/socket.h>
@@ -47,6 +50,13 @@ private:
     std::size_t m_size = 0;
 };
 
+/// What a large picture took is not kept for the next one, which may be small or never come.
+void giveMemoryBack() {
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}
+
 bool isAtEnd(int socket) {
     char byte = 0;
     return recv(socket, &byte, 1, MSG_PEEK | MSG_DONTWAIT) == 0;
@@ -66,6 +76,7 @@ ReaderService::End ReaderService::run() {
             return End::violation;
         if (!answer(*request, message->attached.get()))
             return End::violation;
+        giveMemoryBack();
     }
     return End::idle;
 }
@@ -76,12 +87,12 @@ readerprotocol::Reply ReaderService::read(QByteArrayView file, int longerSide, P
     reply.lacksEngine = !m_pictureReader;
     if (reply.lacksEngine)
         return reply;
-    const QImage picture = picturedecoder::imageForReading(file, longerSide);
+    QImage picture = picturedecoder::imageForReading(file, longerSide);
     if (picture.isNull())
         return reply;
     reply.pixelSize = picture.size();
     try {
-        reply.text = m_pictureReader->read(picture, mode);
+        reply.text = m_pictureReader->read(std::move(picture), mode);
     } catch (const std::bad_alloc&) {
         reply.text.reset();
     }

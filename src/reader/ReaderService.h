@@ -18,7 +18,7 @@ public:
 
     /// `socket` stays the caller's. Without a picture reader, reading fails.
     explicit ReaderService(int socket, std::unique_ptr<PictureReader> pictureReader = nullptr,
-                           std::chrono::milliseconds patience = std::chrono::seconds(10))
+                           std::chrono::milliseconds patience = std::chrono::seconds(5))
         : m_socket(socket)
         , m_patience(patience)
         , m_pictureReader(std::move(pictureReader)) {}

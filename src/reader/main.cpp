@@ -4,6 +4,9 @@
 
 #include <QCoreApplication>
 #include <fcntl.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <string_view>
 #include <unistd.h>
 
@@ -18,12 +21,22 @@ void silenceErrors() {
     close(nowhere);
 }
 
+/// A picture's pixels go back to the system as soon as they are freed; the allocator would come to keep blocks of up to
+/// 32 MiB.
+void giveLargeBlocksBack() {
+#ifdef __GLIBC__
+    constexpr int largeBlock = 512 * 1024;
+    mallopt(M_MMAP_THRESHOLD, largeBlock);
+#endif
+}
+
 } // namespace
 
 /// `vellumry-reader`: opens pictures; a copy is not kept before its thumbnail is made, so it is as urgent as any
 /// program. `vellumry-reader text`: reads the text in them too, behind everything else.
 int main(int argc, char** argv) {
     using readersandbox::Urgency;
+    giveLargeBlocksBack();
     const bool readsText = argc > 1 && std::string_view(argv[1]) == "text";
     readersandbox::enter(readsText ? Urgency::background : Urgency::awaited);
     // Tells Qt where its decoders are; there is no event loop.
