@@ -29,7 +29,7 @@ int emptiestRow(const QImage& page, int first, int last) {
     int top = best;
     while (least == 0 && top > first && darkness(page, top - 1) == 0)
         --top;
-    return (top + best + 1) / 2;
+    return (top + best) / 2;
 }
 
 } // namespace
