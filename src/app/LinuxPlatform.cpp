@@ -15,6 +15,7 @@
 #include "linux/reader/ReaderImageCodec.h"
 #include "linux/reader/ReaderTextReader.h"
 #include "linux/sound/ThemeSounds.h"
+#include "linux/tray/StatusNotifierTray.h"
 #include "linux/x11/keys/X11HotKeys.h"
 #include "linux/x11/keys/X11KeyboardLayout.h"
 #include "linux/x11/keys/X11PasteKeys.h"
@@ -26,6 +27,7 @@
 #include "linux/x11/windows/X11PanelSurface.h"
 #include "linux/x11/windows/XlibConnection.h"
 #include "settings/Preferences.h"
+#include "views/SymbolProvider.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -96,6 +98,7 @@ OrReason<Platform> makeLinuxPlatform() {
         return std::unexpected(std::move(*problem));
     platform.singleInstance = std::make_unique<DBusSingleInstance>();
     platform.sounds = std::make_unique<ThemeSounds>();
+    platform.statusItem = std::make_unique<StatusNotifierTray>(&symbolImage);
     platform.keyStore = std::make_unique<KeychainKeyStore>();
     const QString reader = readerPath();
     platform.findCapabilities = [reader] { return capabilities::ofSession(reader); };
