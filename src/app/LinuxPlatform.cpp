@@ -5,6 +5,7 @@
 #include "foundation/Logging.h"
 #include "linux/accessibility/PasswordFocus.h"
 #include "linux/applications/DesktopEntries.h"
+#include "linux/applications/DesktopOpener.h"
 #include "linux/applications/XdgInstalledApplications.h"
 #include "linux/files/InotifyFolderWatching.h"
 #include "linux/files/PosixFileBookmarks.h"
@@ -15,7 +16,6 @@
 #include "linux/reader/ReaderImageCodec.h"
 #include "linux/reader/ReaderTextReader.h"
 #include "linux/sound/ThemeSounds.h"
-#include "linux/tray/StatusNotifierTray.h"
 #include "linux/x11/keys/X11HotKeys.h"
 #include "linux/x11/keys/X11KeyboardLayout.h"
 #include "linux/x11/keys/X11PasteKeys.h"
@@ -27,7 +27,6 @@
 #include "linux/x11/windows/X11PanelSurface.h"
 #include "linux/x11/windows/XlibConnection.h"
 #include "settings/Preferences.h"
-#include "views/SymbolProvider.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -98,7 +97,7 @@ OrReason<Platform> makeLinuxPlatform() {
         return std::unexpected(std::move(*problem));
     platform.singleInstance = std::make_unique<DBusSingleInstance>();
     platform.sounds = std::make_unique<ThemeSounds>();
-    platform.statusItem = std::make_unique<StatusNotifierTray>(&symbolImage);
+    platform.opener = std::make_unique<DesktopOpener>();
     platform.keyStore = std::make_unique<KeychainKeyStore>();
     const QString reader = readerPath();
     platform.findCapabilities = [reader] { return capabilities::ofSession(reader); };

@@ -10,12 +10,12 @@
 #include "support/FakeHotKeyRegistrar.h"
 #include "support/FakeImageCodec.h"
 #include "support/FakeKeyboardLayout.h"
+#include "support/FakeOpener.h"
 #include "support/FakePanelSurface.h"
 #include "support/FakePasteKeys.h"
 #include "support/FakePasteTarget.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeSoundPlayer.h"
-#include "support/FakeStatusItem.h"
 #include "support/FakeTextReader.h"
 #include "support/FakeTime.h"
 #include "support/ShownTexts.h"
@@ -85,7 +85,7 @@ protected:
         put(platform.pasteTarget, target, std::make_unique<FakePasteTarget>());
         put(platform.pasteKeys, pasteKeys, std::make_unique<FakePasteKeys>());
         put(platform.sounds, sounds, std::make_unique<FakeSoundPlayer>());
-        put(platform.statusItem, statusItem, std::make_unique<FakeStatusItem>());
+        put(platform.opener, opener, std::make_unique<FakeOpener>());
         put(platform.panelSurface, surface, std::make_unique<FakePanelSurface>());
         put(platform.textReader, textReader, std::make_unique<FakeTextReader>());
         put(platform.images, images, std::make_unique<FakeImageCodec>());
@@ -147,7 +147,7 @@ protected:
     FakePasteTarget* target = nullptr;
     FakePasteKeys* pasteKeys = nullptr;
     FakeSoundPlayer* sounds = nullptr;
-    FakeStatusItem* statusItem = nullptr;
+    FakeOpener* opener = nullptr;
     FakePanelSurface* surface = nullptr;
     FakeTextReader* textReader = nullptr;
     FakeImageCodec* images = nullptr;
