@@ -77,6 +77,11 @@ ListView {
         noteView();
     }
 
+    function openMenu(x: real, y: real) {
+        const place = mapToItem(null, x, y);
+        panel.openRowMenu(indexAt(x, y + contentY), place, false);
+    }
+
     objectName: "clips"
     model: panel.rows
     clip: true
@@ -111,6 +116,12 @@ ListView {
             area.rest();
             list.reveal();
         }
+        function onRowMenuAsked() {
+            list.reveal();
+            const item = list.itemAtIndex(list.panel.primaryRow);
+            if (item !== null)
+                list.panel.openRowMenu(list.panel.primaryRow, item.mapToItem(null, Views.isRightToLeft ? list.width - Theme.inset : Theme.inset, item.height), true);
+        }
     }
 
     delegate: ClipRow {
@@ -138,6 +149,7 @@ ListView {
         parent: list
         anchors.fill: parent
         hoverEnabled: true
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
         onEntered: {
             restingAt = mapToGlobal(mouseX, mouseY);
             isKnown = true;
@@ -150,9 +162,20 @@ ListView {
             isKnown = true;
         }
         onExited: rest()
-        onPressed: mouse => list.panel.rowPressed(rowAt(mouse.x, mouse.y), mouse.modifiers)
-        onReleased: list.panel.rowReleased()
-        onDoubleClicked: mouse => list.panel.rowDoubleClicked(mouse.modifiers)
+        onPressed: mouse => {
+            if (mouse.button === Qt.RightButton)
+                list.openMenu(mouse.x, mouse.y);
+            else
+                list.panel.rowPressed(rowAt(mouse.x, mouse.y), mouse.modifiers);
+        }
+        onReleased: mouse => {
+            if (mouse.button === Qt.LeftButton)
+                list.panel.rowReleased();
+        }
+        onDoubleClicked: mouse => {
+            if (mouse.button === Qt.LeftButton)
+                list.panel.rowDoubleClicked(mouse.modifiers);
+        }
         onWheel: wheel => {
             // A notch is 120 and moves three rows; fine wheels and touchpads send parts of it.
             wheelRest += wheel.angleDelta.y;

@@ -10,6 +10,11 @@ Item {
 
     required property PanelFacade panel
 
+    /// Above its button, as high as it is.
+    function openMenu(isByKeys: bool) {
+        panel.openStatusMenu(menuButton.mapToItem(null, Views.isRightToLeft ? 0 : menuButton.width, 0), isByKeys);
+    }
+
     height: Theme.footerHeight
 
     Rectangle {
@@ -34,8 +39,8 @@ Item {
         id: hints
         objectName: "hints"
         visible: footer.panel.hasAccessibility
-        anchors.right: parent.right
-        anchors.rightMargin: Theme.inset
+        anchors.right: menuButton.left
+        anchors.rightMargin: menuButton.visible ? Theme.margin : 0
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.margin
 
@@ -65,8 +70,8 @@ Item {
         id: permission
         objectName: "permission"
         visible: !footer.panel.hasAccessibility
-        anchors.right: parent.right
-        anchors.rightMargin: Theme.inset
+        anchors.right: menuButton.left
+        anchors.rightMargin: menuButton.visible ? Theme.margin : 0
         anchors.verticalCenter: parent.verticalCenter
         width: offer.implicitWidth + 2 * Theme.margin
         height: Theme.chipHeight
@@ -87,6 +92,25 @@ Item {
             id: press
             anchors.fill: parent
             onClicked: footer.panel.requestAccessibility()
+        }
+    }
+    FooterButton {
+        id: menuButton
+        objectName: "menuButton"
+        visible: footer.panel.hasStatusMenu
+        width: visible ? implicitWidth : 0
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.inset
+        anchors.verticalCenter: parent.verticalCenter
+        text: Views.words("Menu")
+        symbol: "line.3.horizontal"
+        onAction: footer.openMenu(false)
+
+        Connections {
+            target: footer.panel
+            function onStatusMenuAsked() {
+                footer.openMenu(true);
+            }
         }
     }
 }

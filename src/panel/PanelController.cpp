@@ -41,6 +41,8 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, Pasteboa
     m_model.onClose = [this] { hide(); };
     m_model.onToast = m_hooks.showToast;
     m_facade.keyCodeOf = m_hooks.keyCodeOf;
+    if (m_hooks.statusMenu)
+        m_facade.statusMenu = [this] { return closingFirst(m_hooks.statusMenu()); };
     m_facade.onRequestAccessibility = [this] { m_hooks.requestAccessibility(); };
     m_facade.onGrabbed = [this] { grab(); };
     m_facade.onDragged = [this] { drag(); };
@@ -71,6 +73,19 @@ PanelController::~PanelController() {
     m_surface->onFocusLost = nullptr;
     if (m_view)
         m_views->engine().removeImageProvider(thumbnails);
+}
+
+/// Entries that paste need the keyboard back where the user was typing, and the others show what they did elsewhere.
+std::vector<ActionMenuItem> PanelController::closingFirst(std::vector<ActionMenuItem> items) {
+    for (ActionMenuItem& item : items) {
+        item.items = closingFirst(std::move(item.items));
+        if (item.handler)
+            item.handler = [this, handler = std::move(item.handler)] {
+                hide();
+                handler();
+            };
+    }
+    return items;
 }
 
 void PanelController::makeView() {

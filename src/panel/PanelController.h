@@ -41,6 +41,9 @@ public:
         std::function<std::optional<quint32>(quint32 scanCode)> keyCodeOf;
         /// Asks the desktop to let us press keys in other applications.
         std::function<void()> requestAccessibility = [] {};
+        /// The menu of the program for the button in the panel's footer, which is there only where this is set. The
+        /// panel closes before an entry does its work.
+        std::function<std::vector<ActionMenuItem>()> statusMenu;
         /// Shows a message on the display under the pointer.
         std::function<void(const ToastMessage&)> showToast;
         /// How long after the pointer let go the place is remembered.
@@ -73,6 +76,7 @@ public:
     std::function<void()> onShow = [] {};
 
 private:
+    [[nodiscard]] std::vector<ActionMenuItem> closingFirst(std::vector<ActionMenuItem> items);
     void makeView();
     void applyLook();
     void shapeInput();

@@ -4,11 +4,8 @@
 #include "foundation/Localisation.h"
 #include "foundation/Text.h"
 #include "history/clips/ClipStore.h"
-#include "panel/KeyTranslation.h"
 #include "paste/PasteStack.h"
-#include "paste/Shortcut.h"
 
-#include <QGuiApplication>
 #include <algorithm>
 #include <utility>
 
@@ -63,22 +60,6 @@ void PanelFacade::setFilter(int filter) {
     m_model->setFilterIndex(filter);
 }
 
-bool PanelFacade::keyPressed(int key, int modifiers, quint32 scanCode, bool hasTextSelection) {
-    const auto place = [this, scanCode] { return keyCodeOf ? keyCodeOf(scanCode) : std::nullopt; };
-    // Where words run from right to left, so do the filters.
-    if (QGuiApplication::isRightToLeft() && (key == Qt::Key_Left || key == Qt::Key_Right))
-        key = key == Qt::Key_Left ? Qt::Key_Right : Qt::Key_Left;
-    const KeyMeaning meaning = meaningOf(key, Qt::KeyboardModifiers(modifiers), query().isEmpty(), place);
-    // A command is meant for what was typed before it; a letter has time.
-    if (meaning.command || meaning.chord)
-        searchTyped();
-    if (meaning.command)
-        return m_model->handle(*meaning.command);
-    if (meaning.chord)
-        return m_model->keyEquivalent(meaning.chord->keyCode, meaning.chord->flags, hasTextSelection);
-    return false;
-}
-
 void PanelFacade::pasteIntoField() {
     // One at a time: keys pressed while an owner keeps silent shall not pile up.
     if (m_fetchedFor != m_showing)
@@ -117,6 +98,7 @@ void PanelFacade::toggleStack() {
 }
 
 void PanelFacade::present() {
+    m_menu.close();
     ++m_showing;
     Q_EMIT presented();
 }
@@ -125,7 +107,9 @@ void PanelFacade::setDormant(bool isDormant) {
     if (isDormant == m_rows.isDormant())
         return;
     m_rows.setDormant(isDormant);
-    if (!isDormant)
+    if (isDormant)
+        m_menu.close();
+    else
         catchUp();
 }
 
@@ -142,6 +126,7 @@ void PanelFacade::catchUp() {
 void PanelFacade::tellContent() {
     if (m_rows.isDormant())
         return;
+    closeStaleMenu();
     m_filters.refresh();
     Q_EMIT primaryRowChanged();
     Q_EMIT contentChanged();
@@ -155,79 +140,6 @@ void PanelFacade::tellSelection() {
     if (!m_isPointing)
         Q_EMIT revealed();
     tellHints();
-}
-
-void PanelFacade::rowHovered(int row) {
-    const ClipRef clip = m_rows.clipAt(row);
-    m_model->setHoveredID(clip ? std::optional(clip->id) : std::nullopt);
-}
-
-QString PanelFacade::helpOf(int row) const {
-    return m_rows.clipAt(row) ? m_rows.data(m_rows.index(row), PanelListModel::PinHintRole).toString() : QString();
-}
-
-void PanelFacade::rowPressed(int row, int modifiers) {
-    const ClipRef clip = m_rows.clipAt(row);
-    m_pressedID = clip ? std::optional(clip->id) : std::nullopt;
-    m_collapsesOnRelease = false;
-    if (!clip)
-        return;
-    m_isPointing = true;
-    m_collapsesOnRelease = m_model->click(clip->id, eventFlags(Qt::KeyboardModifiers(modifiers)));
-    m_isPointing = false;
-}
-
-void PanelFacade::rowReleased() {
-    if (!std::exchange(m_collapsesOnRelease, false) || !m_pressedID || m_rows.rowOf(*m_pressedID) < 0)
-        return;
-    m_isPointing = true;
-    m_model->selectOnly(*m_pressedID);
-    m_isPointing = false;
-}
-
-void PanelFacade::rowDoubleClicked(int modifiers) {
-    // With Ctrl or Shift held it is two single clicks, which have done their work.
-    if ((eventFlags(Qt::KeyboardModifiers(modifiers)) & (eventflag::command | eventflag::shift)) != 0)
-        return;
-    m_collapsesOnRelease = false;
-    if (m_pressedID)
-        m_model->pasteRow(*m_pressedID);
-}
-
-void PanelFacade::rowActivated(int row) {
-    if (const ClipRef clip = m_rows.clipAt(row))
-        m_model->pasteRow(clip->id);
-}
-
-QString PanelFacade::clipIDOfRow(int row) const {
-    const ClipRef clip = m_rows.clipAt(row);
-    return clip ? clip->id.toString() : QString();
-}
-
-int PanelFacade::rowOfClipID(const QString& id) const {
-    return m_rows.rowOf(QUuid::fromString(id));
-}
-
-void PanelFacade::requestAccessibility() {
-    onRequestAccessibility();
-}
-
-void PanelFacade::transformChosen(int index) {
-    const ClipRef clip = m_model->currentClip();
-    if (!clip || index < 0 || index >= static_cast<int>(PanelModel::transformList.size()))
-        return;
-    m_model->toggleTransforms();
-    m_model->pasteClip(clip, true, PanelModel::transformList[static_cast<std::size_t>(index)]);
-}
-
-void PanelFacade::grabbed() {
-    onGrabbed();
-}
-void PanelFacade::dragged() {
-    onDragged();
-}
-void PanelFacade::dropped() {
-    onDropped();
 }
 
 bool PanelFacade::hasQuery() const {

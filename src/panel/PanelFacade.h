@@ -5,7 +5,9 @@
 #include "panel/FilterListModel.h"
 #include "panel/HintListModel.h"
 #include "panel/PanelListModel.h"
+#include "panel/PanelMenu.h"
 #include "panel/PanelModel.h"
+#include "platform/desktop/ActionMenuItem.h"
 
 #include <QCoroTask>
 #include <QObject>
@@ -41,6 +43,8 @@ class PanelFacade : public QObject {
     Q_PROPERTY(int transformIndex READ transformIndex NOTIFY transformChanged)
     Q_PROPERTY(QStringList transforms READ transforms CONSTANT)
     Q_PROPERTY(bool isStackActive READ isStackActive NOTIFY stackChanged)
+    Q_PROPERTY(vellumry::PanelMenu* menu READ menu CONSTANT)
+    Q_PROPERTY(bool hasStatusMenu READ hasStatusMenu CONSTANT)
     Q_PROPERTY(int shadowMargin READ shadowMargin NOTIFY shadowMarginChanged)
 
 public:
@@ -66,6 +70,11 @@ public:
     /// The identity of that row's clip, empty for none; and the way back, -1 for a clip that is not listed.
     Q_INVOKABLE [[nodiscard]] QString clipIDOfRow(int row) const;
     Q_INVOKABLE [[nodiscard]] int rowOfClipID(const QString& id) const;
+    /// Opens the menu of that row, which becomes the chosen one unless it is one of several. `place` counts in the
+    /// view.
+    Q_INVOKABLE void openRowMenu(int row, QPointF place, bool isByKeys);
+    /// Opens the menu of the program.
+    Q_INVOKABLE void openStatusMenu(QPointF place, bool isByKeys);
     /// Asks the desktop to let us press keys in other applications.
     Q_INVOKABLE void requestAccessibility();
     Q_INVOKABLE void transformChosen(int index);
@@ -96,6 +105,8 @@ public:
     [[nodiscard]] bool isStackActive() const;
     /// The stack that the panel's button stands for; it need not outlive this.
     void setStack(PasteStack& stack);
+    [[nodiscard]] PanelMenu* menu() { return &m_menu; }
+    [[nodiscard]] bool hasStatusMenu() const { return bool(statusMenu); }
     [[nodiscard]] int shadowMargin() const { return m_shadowMargin; }
     void setShadowMargin(int shadowMargin);
 
@@ -107,6 +118,8 @@ public:
 
     /// The virtual key code of the key with that native scan code.
     std::function<std::optional<quint32>(quint32 scanCode)> keyCodeOf;
+    /// The menu of the program, as it is when it is asked for; unset where the panel offers none.
+    std::function<std::vector<ActionMenuItem>()> statusMenu;
     std::function<void()> onRequestAccessibility = [] {};
     /// The pointer took hold of an empty part, moved, let go.
     std::function<void()> onGrabbed = [] {};
@@ -123,6 +136,9 @@ Q_SIGNALS:
     /// The chosen row is to come into sight.
     void revealed();
     void focusTokenChanged();
+    /// A key asks for the menu of the chosen row, or for that of the program; the views know the place.
+    void rowMenuAsked();
+    void statusMenuAsked();
     void transformChanged();
     void stackChanged();
     void shadowMarginChanged();
@@ -132,6 +148,8 @@ Q_SIGNALS:
 
 private:
     void searchTyped();
+    void askForMenu(int key, Qt::KeyboardModifiers modifiers);
+    void closeStaleMenu();
     void tellHints();
     void catchUp();
     void tellContent();
@@ -145,6 +163,8 @@ private:
     PanelListModel m_rows;
     FilterListModel m_filters;
     HintListModel m_hints;
+    PanelMenu m_menu;
+    std::optional<QUuid> m_menuClip; ///< that the open menu is about
     QTimer m_catchUp;
     QPointer<PasteStack> m_stack;
     std::optional<QString> m_typed; ///< and not yet searched for

@@ -132,4 +132,13 @@ Item {
             anchors.bottom: parent.bottom
         }
     }
+    PopupMenu {
+        panel: root.panel
+        anchors.fill: board
+        onPressedBeside: (x, y) => {
+            const place = mapToItem(list, x, y);
+            if (list.visible && list.contains(place))
+                list.openMenu(place.x, place.y);
+        }
+    }
 }

@@ -30,6 +30,8 @@ TextInput {
     selectByMouse: true
     clip: true
     focus: true
+    // Keys are the menu's while one is open, those of an input method too.
+    readOnly: panel.menu.isOpen
     renderType: TextInput.NativeRendering
     Accessible.role: Accessible.EditableText
     Accessible.name: Views.words("Search clips")

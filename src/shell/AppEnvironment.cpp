@@ -79,7 +79,7 @@ AppEnvironment::AppEnvironment(Platform& platform)
     m_screenshotSaving = std::make_unique<ScreenshotSaving>(*m_screenshots, *platform.defaults);
     m_panel = std::make_unique<PanelController>(*m_store, *m_paster, *platform.pasteboard, *platform.panelSurface,
                                                 m_views, panelHooks());
-    m_panel->onShow = [this] { m_hasWorked = true; };
+    wirePanel();
     makeStack();
     makeStatusItem();
     wire();
@@ -94,19 +94,6 @@ SystemHooks AppEnvironment::systemHooks() {
     const FilePlaces places = FilePlaces::ofUser(m_platform->home);
     hooks.fileStatus = [bookmarks, places](const FileRef& file) { return FileStatus::check(file, *bookmarks, places); };
     hooks.checkFileAccess = [places](QStringList paths) { return FileAccess::check(std::move(paths), places); };
-    return hooks;
-}
-
-PanelController::Hooks AppEnvironment::panelHooks() {
-    PanelController::Hooks hooks;
-    hooks.position = [this](const QString& display) { return m_preferences->panelPosition(display); };
-    hooks.setPosition = [this](std::optional<placement::Fractions> position, const QString& display) {
-        m_preferences->setPanelPosition(position, display);
-    };
-    hooks.openPanelKeys = [this] { return openPanelKeys(); };
-    hooks.keyCodeOf = [this](quint32 scanCode) { return m_platform->keyboard->keyCodeOfScanCode(scanCode); };
-    hooks.requestAccessibility = [this] { m_platform->pasteTarget->requestTrust(); };
-    hooks.showToast = [this](const ToastMessage& message) { showToast(message); };
     return hooks;
 }
 
@@ -158,7 +145,6 @@ void AppEnvironment::wireScreenshots() {
 
 void AppEnvironment::start() {
     m_panel->setAppearance(panelAppearance(m_preferences->appearance()));
-    installStatusItem();
     m_watcher->start();
     tellOfStart(reloadShortcuts());
     watchSettings();

@@ -2,42 +2,17 @@
 """The panel through real keys and the real pointer: what each does to the history, and to the editor below."""
 
 import os
-import re
 
 from clients import GtkEditor
-from desktop import (Process, Vellumry, accessible, active_window, clipboard, copy_text, focus_under_new_manager, focused_window,
-                     fresh, key, main, open_panel, panel_is_open, run, same, text_of, unsealed, wait_for_clip,
-                     wait_panel_closed, wait_until, windows)
+from desktop import (Process, Vellumry, accessible, active_window, clipboard, focus_under_new_manager, focused_window, fresh, key,
+                     main, open_panel, panel_is_open, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until,
+                     windows)
+from panel_rows import click, point_at, remember, row, texts_kept
 
 FOLLOWING_MOUSE = """<?xml version="1.0"?>
 <openbox_config xmlns="http://openbox.org/3.4/rc"><focus><followMouse>yes</followMouse><focusDelay>0</focusDelay></focus>
 </openbox_config>
 """
-
-
-def remember(*texts):
-    for text in texts:
-        copy_text(text)
-        wait_for_clip(lambda row: text_of(row) == text, "the copy of " + text)
-
-
-def row(title):
-    return wait_until(lambda: accessible("vellumry", "list item", f"^{re.escape(title)}$"), f"the row {title}")
-
-
-def point_at(title):
-    """Moves the real pointer onto a row."""
-    box = row(title).queryComponent().getExtents(0)
-    run("xdotool", "mousemove", str(box.x + 200), str(box.y + box.height // 2))
-
-
-def click(title, *held):
-    point_at(title)
-    for name in held:
-        run("xdotool", "keydown", name)
-    run("xdotool", "click", "1")
-    for name in held:
-        run("xdotool", "keyup", name)
 
 
 def selected(*titles):
@@ -47,10 +22,6 @@ def selected(*titles):
         return all(row(title).getState().contains(pyatspi.STATE_SELECTED) for title in titles)
 
     wait_until(are, "selected: " + ", ".join(titles))
-
-
-def texts_kept():
-    return [text_of(kept) for kept in unsealed()]
 
 
 def pins_and_unpins():

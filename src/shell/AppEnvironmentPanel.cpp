@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the panel needs of the program.
+#include "foundation/Localisation.h"
+#include "shell/AppEnvironment.h"
+
+namespace vellumry {
+
+PanelController::Hooks AppEnvironment::panelHooks() {
+    PanelController::Hooks hooks;
+    hooks.position = [this](const QString& display) { return m_preferences->panelPosition(display); };
+    hooks.setPosition = [this](std::optional<placement::Fractions> position, const QString& display) {
+        m_preferences->setPanelPosition(position, display);
+    };
+    hooks.openPanelKeys = [this] { return openPanelKeys(); };
+    hooks.keyCodeOf = [this](quint32 scanCode) { return m_platform->keyboard->keyCodeOfScanCode(scanCode); };
+    hooks.requestAccessibility = [this] { m_platform->pasteTarget->requestTrust(); };
+    hooks.statusMenu = [this] { return statusMenu(); };
+    hooks.showToast = [this](const ToastMessage& message) { showToast(message); };
+    return hooks;
+}
+
+void AppEnvironment::wirePanel() {
+    m_panel->onShow = [this] { m_hasWorked = true; };
+    m_panel->model().onOpenLink = [this](const QString& address) { openLink(address); };
+    m_panel->model().onShowFiles = [this](const QStringList& paths) { m_platform->opener->showFiles(paths); };
+}
+
+void AppEnvironment::openLink(const QString& address) {
+    if (!m_platform->opener->openAddress(address))
+        showToast(
+            {QStringLiteral("xmark.circle.fill"), localised("This link can't be opened"), ToastMessage::Tone::warning});
+}
+
+} // namespace vellumry
