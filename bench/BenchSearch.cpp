@@ -9,6 +9,7 @@
 #include "history/search/ClipSearch.h"
 #include "history/search/LookAlike.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -131,6 +132,18 @@ void printAfterUse(ClipSearch& search, std::vector<ClipRef> clips, const QString
     std::printf("  \"%s\" after a clip has moved to the top: %.2f ms\n", qPrintable(word), median(times));
 }
 
+/// What a store does while nothing else is to be done, and the search behind it.
+void printPrepared(const std::vector<ClipRef>& clips) {
+    ClipSearch search;
+    std::vector<double> slices;
+    bool isDone = false;
+    while (!isDone)
+        slices.push_back(milliseconds([&] { isDone = search.prepare(clips, revision, std::chrono::milliseconds(3)); }));
+    std::printf("  prepared in %zu slices, the longest %.1f ms, the last %.1f ms; the first search then: %.1f ms\n",
+                slices.size(), *std::max_element(slices.begin(), slices.end() - 1), slices.back(),
+                milliseconds([&] { keep(search.search(clips, QStringLiteral("e"), ClipFilter::all, revision)); }));
+}
+
 void benchHistory(std::size_t count) {
     Corpus corpus(42);
     const std::vector<ClipRef> clips = corpus.clips(count);
@@ -141,6 +154,7 @@ void benchHistory(std::size_t count) {
     ClipSearch search;
     std::printf("  first search, which folds everything: %.1f ms\n",
                 milliseconds([&] { keep(search.search(clips, QStringLiteral("☃"), ClipFilter::all, revision)); }));
+    printPrepared(clips);
     printHeading();
     for (const std::size_t length : {1, 2, 3, 8, 16}) {
         for (const bool isCommon : {true, false}) {

@@ -9,6 +9,18 @@
 
 namespace vellumry {
 
+namespace {
+
+using namespace std::chrono_literals;
+
+/// The first search finds everything folded already; what comes at once, as a start or a burst of copies does, goes
+/// first.
+constexpr auto restBeforeFolding = 1000ms;
+constexpr auto foldingTime = 3ms;
+constexpr auto foldingPause = 20ms;
+
+} // namespace
+
 QCoro::Task<std::unique_ptr<ClipStore>> ClipStore::open(std::shared_ptr<ClipDatabase> database, RetentionPolicy policy,
                                                         bool recoveredFromDamage) {
     auto loading = database->loadAll();
@@ -22,6 +34,7 @@ ClipStore::ClipStore(std::shared_ptr<ClipDatabase> database, RetentionPolicy pol
     : d(std::make_unique<Private>(database->crypto(), policy, this)) {
     d->recoveredFromDamage = recoveredFromDamage;
     d->list.assign(std::move(clips));
+    d->folding.start(restBeforeFolding);
     d->writer.setDatabase(std::move(database));
     d->writer.onBehindChanged = [this] { Q_EMIT storageChanged(); };
 }
@@ -122,7 +135,17 @@ void ClipStore::changed() {
     ++d->revision;
     if (d->autoExpire)
         d->expiry.arm(nextExpiry());
+    if (!d->folding.isActive())
+        d->folding.start(restBeforeFolding);
     Q_EMIT clipsChanged();
+}
+
+/// A little at a time, so that no key and no copy waits for it.
+void ClipStore::prepareSearch() {
+    if (d->search->prepare(clips(), d->revision, foldingTime))
+        d->folding.stop();
+    else
+        d->folding.start(foldingPause);
 }
 
 const std::vector<ClipRef>& ClipStore::clips() const {

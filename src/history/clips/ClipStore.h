@@ -103,6 +103,7 @@ private:
               std::vector<ClipRef> clips);
     /// Tells everybody who looks at `clips`, the timer first.
     void changed();
+    void prepareSearch();
     void forget(const QUuid& id);
     void join(std::shared_ptr<ClipDatabase> database, std::vector<ClipRef> rows,
               const QHash<QUuid, Fingerprint>& fingerprints);

@@ -10,6 +10,8 @@
 #include "history/file/ClipDatabase.h"
 #include "history/search/ClipSearch.h"
 
+#include <QTimer>
+
 namespace vellumry {
 
 struct ClipStore::Private {
@@ -17,7 +19,9 @@ struct ClipStore::Private {
         : crypto(std::make_shared<const ClipCrypto>(std::move(historyCrypto)))
         , policy(limits)
         , expiry(currentDate, [this, store] { store->enforceRetention(clock()); })
-        , writer([this](const QUuid& id) { return list.find(id); }) {}
+        , writer([this](const QUuid& id) { return list.find(id); }) {
+        QObject::connect(&folding, &QTimer::timeout, store, [store] { store->prepareSearch(); });
+    }
 
     /// Replaced as a whole when the history joins, so that a hash under way keeps the one it began with.
     std::shared_ptr<const ClipCrypto> crypto;
@@ -30,6 +34,7 @@ struct ClipStore::Private {
     double sensitiveLifetime = 60;
     bool autoExpire = false;
     std::unique_ptr<ClipSearch> search = std::make_unique<ClipSearch>();
+    QTimer folding; ///< runs while the search has something to prepare
     Clock clock = currentDate;
     ExpiryTimer expiry;
     ClipHasher hasher;

@@ -69,7 +69,12 @@ struct ClipSearch::Private {
     ClipSearchOrder order;
     bool orderHasKeys = false;  ///< some of its pictures share their keys with `lookAlikes`
     std::optional<Found> found; ///< by the last search, while no clip has changed
+    std::size_t prepared = 0;   ///< so many of the first clips of `preparedRevision` are folded
+    std::size_t foldedAhead = 0;
+    bool isOrderBegun = false; ///< the order has the first `prepared` clips and no more
+    std::optional<qint64> preparedRevision;
 
+    Slot slotOfClip(const Clip& clip);
     void follow(const std::vector<ClipRef>& clips, std::optional<qint64> revision);
     [[nodiscard]] std::optional<std::vector<Slot>> candidates(const QByteArray& needle, ClipFilter filter) const;
     [[nodiscard]] bool isWorthwhile(const std::vector<Slot>& slots) const;
@@ -105,6 +110,38 @@ std::vector<ClipRef> ClipSearch::search(const std::vector<ClipRef>& clips, const
     return gathered(clips, isMatch);
 }
 
+bool ClipSearch::prepare(const std::vector<ClipRef>& clips, qint64 revision, std::chrono::microseconds budget) {
+    // Asking for the time costs as much as looking a clip up.
+    constexpr std::size_t clipsAtOnce = 16;
+    const auto end = std::chrono::steady_clock::now() + budget;
+    const auto slotOfClip = [this](const Clip& clip) { return d->slotOfClip(clip); };
+    if (std::exchange(d->preparedRevision, revision) != revision) {
+        d->prepared = 0;
+        if (d->isOrderBegun)
+            d->order = ClipSearchOrder();
+        d->isOrderBegun = d->order.size() == 0;
+    }
+    const std::size_t slotsBefore = d->index.slotCount();
+    while (d->prepared < clips.size() && std::chrono::steady_clock::now() < end) {
+        const std::size_t next = std::min(d->prepared + clipsAtOnce, clips.size());
+        // Later changes of the order are cheap enough for a keystroke, and most of them no search will ever see.
+        if (d->isOrderBegun)
+            d->order.begin(clips, next - d->prepared, slotOfClip);
+        for (; d->prepared < next; ++d->prepared) {
+            if (const Clip& clip = *clips[d->prepared]; !clip.isSensitive())
+                (void)d->slotOfClip(clip);
+        }
+    }
+    d->foldedAhead += d->index.slotCount() - slotsBefore;
+    if (d->prepared < clips.size())
+        return false;
+    if (std::exchange(d->isOrderBegun, false))
+        d->order.finish(revision);
+    if (std::exchange(d->foldedAhead, 0) > manyTexts)
+        giveBackUnusedMemory();
+    return true;
+}
+
 void ClipSearch::forgetQuery() {
     d->found.reset();
 }
@@ -125,15 +162,19 @@ void ClipSearch::forgetLookAlikes(const QUuid& id) {
         d->order.forgetPictures();
 }
 
+Slot ClipSearch::Private::slotOfClip(const Clip& clip) {
+    const auto known = slotOf.constFind(clip.id);
+    if (known != slotOf.constEnd())
+        return *known;
+    return *slotOf.insert(clip.id, index.append(haystackOf(clip)));
+}
+
 void ClipSearch::Private::follow(const std::vector<ClipRef>& clips, std::optional<qint64> revision) {
-    const auto slotOfClip = [this](const Clip& clip) {
-        const auto known = slotOf.constFind(clip.id);
-        if (known != slotOf.constEnd())
-            return *known;
-        return *slotOf.insert(clip.id, index.append(haystackOf(clip)));
-    };
     const std::size_t slotsBefore = index.slotCount();
-    const bool hasChanged = order.follow(clips, index, slotOfClip, revision);
+    isOrderBegun = false;
+    preparedRevision.reset();
+    const bool hasChanged = order.follow(
+        clips, index, [this](const Clip& clip) { return slotOfClip(clip); }, revision);
     if (!hasChanged)
         return;
     found.reset();
@@ -145,7 +186,7 @@ void ClipSearch::Private::follow(const std::vector<ClipRef>& clips, std::optiona
 
 /// The only texts that the needle can be in, where that is known without looking into them.
 std::optional<std::vector<Slot>> ClipSearch::Private::candidates(const QByteArray& needle, ClipFilter filter) const {
-    // Who goes on typing can only lose hits.
+    // A longer query can only match fewer texts.
     if (found && needle.contains(found->needle) && (found->filter == filter || found->filter == ClipFilter::all))
         return found->slots;
     if (filter == ClipFilter::all)

@@ -6,6 +6,7 @@
 
 #include <QString>
 #include <QUuid>
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -28,6 +29,10 @@ public:
     /// Whoever numbers the states of `clips`, so that equal numbers mean equal clips, spares the search a look at each.
     [[nodiscard]] std::vector<ClipRef> search(const std::vector<ClipRef>& clips, const QString& query,
                                               ClipFilter filter, std::optional<qint64> revision = std::nullopt);
+
+    /// Does what the first search would have to, for about `budget`: folds texts and gets to know the clips' order.
+    /// True when nothing is left to do. `revision` as for `search`.
+    [[nodiscard]] bool prepare(const std::vector<ClipRef>& clips, qint64 revision, std::chrono::microseconds budget);
 
     /// Wipes the last query. What was folded stays.
     void forgetQuery();

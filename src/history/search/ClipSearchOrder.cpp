@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/search/ClipSearchOrder.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vellumry {
@@ -49,6 +50,23 @@ bool ClipSearchOrder::follow(const std::vector<ClipRef>& clips, const FoldedInde
     notePositions();
     m_revision = revision;
     return true;
+}
+
+void ClipSearchOrder::begin(const std::vector<ClipRef>& clips, std::size_t count,
+                            const std::function<Slot(const Clip&)>& slotOf) {
+    if (m_known.empty()) {
+        m_known.reserve(clips.size());
+        m_slots.reserve(clips.size());
+        m_traits.reserve(clips.size());
+    }
+    const std::size_t end = std::min(clips.size(), m_known.size() + count);
+    while (m_known.size() < end)
+        append(clips[m_known.size()], slotOf);
+}
+
+void ClipSearchOrder::finish(std::optional<qint64> revision) {
+    notePositions();
+    m_revision = revision;
 }
 
 void ClipSearchOrder::notePositions() {

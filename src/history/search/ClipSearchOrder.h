@@ -35,6 +35,11 @@ public:
     /// True when anything differs from the last time.
     bool follow(const std::vector<ClipRef>& clips, const FoldedIndex& index,
                 const std::function<Slot(const Clip&)>& slotOf, std::optional<qint64> revision = std::nullopt);
+    /// The same a few clips at a time, for the first time that there are any: the next `count` of `clips`, whose first
+    /// are here already. What was begun may be left as it is; `follow` completes it.
+    void begin(const std::vector<ClipRef>& clips, std::size_t count, const std::function<Slot(const Clip&)>& slotOf);
+    /// All of `clips` are here.
+    void finish(std::optional<qint64> revision);
     /// The slots of some clips have gone: the next `follow` looks at each.
     void invalidate() { m_isStale = true; }
     /// Lets go of all keys; whoever else has them keeps them.

@@ -225,5 +225,48 @@ TEST(ClipSearch, FollowsAClipThatMovesToTheTopAndOneThatGoes) {
     EXPECT_EQ(search.search(clips, u"number 30"_s, ClipFilter::all), Clips{used});
 }
 
+/// Prepares until all is done; the number of slices that it took.
+int prepared(ClipSearch& search, const Clips& clips, qint64 revision, std::chrono::microseconds budget) {
+    int slices = 1;
+    while (!search.prepare(clips, revision, budget))
+        ++slices;
+    return slices;
+}
+
+TEST(ClipSearch, WhatWasPreparedIsFoundAsIfItHadNotBeen) {
+    const Clips clips{textClip(u"Strasse"_s), pictureOf(u"invoice"_s), secretFrom(u"Terminal"_s, u"hunter2"_s)};
+    ClipSearch search;
+    (void)prepared(search, clips, 1, std::chrono::seconds(1));
+    EXPECT_EQ(search.search(clips, u"STRASSE"_s, ClipFilter::all, 1), Clips{clips[0]});
+    EXPECT_EQ(search.search(clips, u"lnvoice"_s, ClipFilter::all, 1), Clips{clips[1]});
+    EXPECT_EQ(search.search(clips, u"hunter2"_s, ClipFilter::all, 1), Clips());
+    EXPECT_EQ(search.search(clips, u"termi"_s, ClipFilter::all, 1), Clips{clips[2]});
+}
+
+TEST(ClipSearch, PreparingGoesOnWhereTheLastSliceEnded) {
+    Clips clips;
+    for (int number = 0; number < 5000; ++number)
+        clips.push_back(textClip(u"text %1 "_s.arg(number).repeated(40)));
+    ClipSearch search;
+    EXPECT_GT(prepared(search, clips, 1, std::chrono::microseconds(200)), 1);
+    EXPECT_EQ(search.search(clips, u"text 4999 "_s, ClipFilter::all, 1), Clips{clips.back()});
+}
+
+TEST(ClipSearch, WhatChangesWhileTheRestIsPreparedIsFoundAsItIsNow) {
+    Clips clips;
+    for (int number = 0; number < 500; ++number)
+        clips.push_back(textClip(u"old %1 "_s.arg(number).repeated(100)));
+    ClipSearch search;
+    EXPECT_FALSE(search.prepare(clips, 1, std::chrono::microseconds(1)) && clips.size() > 16);
+    const ClipRef gone = clips.front();
+    search.forgetText(gone->id);
+    clips.erase(clips.begin());
+    search.forgetText(clips.front()->id);
+    clips.front() = changed(clips.front(), [](Clip& clip) { clip.searchText = u"new"_s; });
+    (void)prepared(search, clips, 2, std::chrono::microseconds(100));
+    EXPECT_EQ(search.search(clips, u"new"_s, ClipFilter::all, 2), Clips{clips.front()});
+    EXPECT_EQ(search.search(clips, u"old 0 "_s, ClipFilter::all, 2), Clips());
+}
+
 } // namespace
 } // namespace vellumry
