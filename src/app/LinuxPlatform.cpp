@@ -16,6 +16,7 @@
 #include "linux/reader/ReaderImageCodec.h"
 #include "linux/reader/ReaderTextReader.h"
 #include "linux/sound/ThemeSounds.h"
+#include "linux/tray/StatusNotifierTray.h"
 #include "linux/x11/keys/X11HotKeys.h"
 #include "linux/x11/keys/X11KeyboardLayout.h"
 #include "linux/x11/keys/X11PasteKeys.h"
@@ -27,6 +28,7 @@
 #include "linux/x11/windows/X11PanelSurface.h"
 #include "linux/x11/windows/XlibConnection.h"
 #include "settings/Preferences.h"
+#include "views/SymbolProvider.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -98,6 +100,7 @@ OrReason<Platform> makeLinuxPlatform() {
     platform.singleInstance = std::make_unique<DBusSingleInstance>();
     platform.sounds = std::make_unique<ThemeSounds>();
     platform.opener = std::make_unique<DesktopOpener>();
+    platform.statusItem = std::make_unique<StatusNotifierTray>(&symbolImage);
     platform.keyStore = std::make_unique<KeychainKeyStore>();
     const QString reader = readerPath();
     platform.findCapabilities = [reader] { return capabilities::ofSession(reader); };

@@ -145,6 +145,7 @@ void AppEnvironment::wireScreenshots() {
 
 void AppEnvironment::start() {
     m_panel->setAppearance(panelAppearance(m_preferences->appearance()));
+    installStatusItem();
     m_watcher->start();
     tellOfStart(reloadShortcuts());
     watchSettings();

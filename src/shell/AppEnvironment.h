@@ -62,6 +62,8 @@ public:
     [[nodiscard]] bool isPaused() const;
     /// The program's menu as it stands now: the tray shows it, and the panel where there is no tray.
     [[nodiscard]] std::vector<ActionMenuItem> statusMenu() const { return m_statusItem->menu(); }
+    /// The desktop's panel shows the program's icon; without it the panel of clips is the way to the menu.
+    [[nodiscard]] bool isInTray() const { return m_platform->statusItem->isShown(); }
     /// Registers the global shortcuts anew; one sentence for each that another program holds.
     QStringList reloadShortcuts();
     void suspendShortcuts(bool isSuspended);
@@ -97,6 +99,7 @@ private:
     void wireStack();
     void wirePanel();
     void makeStatusItem();
+    void installStatusItem();
     [[nodiscard]] std::vector<ClipRef> stackSeed();
     void startMaintenance();
     void runMaintenance();

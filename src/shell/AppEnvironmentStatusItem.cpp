@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDesktopServices>
+#include <QPointer>
 
 namespace vellumry {
 
@@ -20,6 +21,13 @@ void AppEnvironment::makeStatusItem() {
     m_statusItem->onOpenLink = [](const QUrl& address) { QDesktopServices::openUrl(address); };
     // Queued: the caller may be amid an answer over the bus.
     m_statusItem->onQuit = [] { QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection); };
+}
+
+void AppEnvironment::installStatusItem() {
+    StatusItem& item = *m_platform->statusItem;
+    item.menu = [self = QPointer(this)] { return self ? self->statusMenu() : std::vector<ActionMenuItem>(); };
+    connect(m_store.get(), &ClipStore::clipsChanged, this, [&item] { item.menuChanged(); });
+    item.install();
 }
 
 } // namespace vellumry

@@ -11,6 +11,7 @@
 #include "platform/desktop/Opener.h"
 #include "platform/desktop/SingleInstance.h"
 #include "platform/desktop/SoundPlayer.h"
+#include "platform/desktop/StatusItem.h"
 #include "platform/display/HotKeyRegistrar.h"
 #include "platform/display/KeyboardLayout.h"
 #include "platform/display/PanelSurface.h"
@@ -45,6 +46,7 @@ struct Platform {
     std::unique_ptr<PasteKeys> pasteKeys;
     std::unique_ptr<SoundPlayer> sounds;
     std::unique_ptr<Opener> opener;
+    std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<PanelSurface> panelSurface;
     std::unique_ptr<ImageCodec> images;
     std::unique_ptr<TextReader> textReader;

@@ -18,8 +18,10 @@ QString pathOf(const QString& name) {
     return QStringLiteral(":/vellumry/symbols/") + name + QStringLiteral(".svg");
 }
 
-/// The drawing in black, recoloured through its coverage.
-QImage drawn(const QString& name, const QColor& tint, const QSize& size) {
+} // namespace
+
+// The drawing in black, recoloured through its coverage.
+QImage symbolImage(const QString& name, const QColor& tint, const QSize& size) {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QSvgRenderer renderer(pathOf(name));
@@ -33,8 +35,6 @@ QImage drawn(const QString& name, const QColor& tint, const QSize& size) {
     painter.fillRect(image.rect(), tint);
     return image;
 }
-
-} // namespace
 
 // A Gaussian blur of a rectangle is the product of the blurs of its two spans.
 QImage panelShadow() {
@@ -78,7 +78,7 @@ QImage SymbolProvider::requestImage(const QString& id, QSize* size, const QSize&
         image = panelShadow();
     } else {
         const qsizetype slash = id.lastIndexOf(QLatin1Char('/'));
-        image = drawn(id.left(slash), QColor(QLatin1Char('#') + id.mid(slash + 1)), wanted);
+        image = symbolImage(id.left(slash), QColor(QLatin1Char('#') + id.mid(slash + 1)), wanted);
     }
     m_cache.insert(key, new QImage(image));
     if (size)

@@ -21,6 +21,9 @@ private:
     QCache<QString, QImage> m_cache{256};
 };
 
+/// The symbol of that name in one colour; empty of paint when there is none.
+[[nodiscard]] QImage symbolImage(const QString& name, const QColor& tint, const QSize& size);
+
 /// A soft shadow around a rounded rectangle, made to be stretched from its middle; borders of 86, room of 40 around the
 /// panel.
 [[nodiscard]] QImage panelShadow();

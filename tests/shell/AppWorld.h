@@ -16,6 +16,7 @@
 #include "support/FakePasteTarget.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeSoundPlayer.h"
+#include "support/FakeStatusItem.h"
 #include "support/FakeTextReader.h"
 #include "support/FakeTime.h"
 #include "support/ShownTexts.h"
@@ -86,6 +87,7 @@ protected:
         put(platform.pasteKeys, pasteKeys, std::make_unique<FakePasteKeys>());
         put(platform.sounds, sounds, std::make_unique<FakeSoundPlayer>());
         put(platform.opener, opener, std::make_unique<FakeOpener>());
+        put(platform.statusItem, statusItem, std::make_unique<FakeStatusItem>());
         put(platform.panelSurface, surface, std::make_unique<FakePanelSurface>());
         put(platform.textReader, textReader, std::make_unique<FakeTextReader>());
         put(platform.images, images, std::make_unique<FakeImageCodec>());
@@ -148,6 +150,7 @@ protected:
     FakePasteKeys* pasteKeys = nullptr;
     FakeSoundPlayer* sounds = nullptr;
     FakeOpener* opener = nullptr;
+    FakeStatusItem* statusItem = nullptr;
     FakePanelSurface* surface = nullptr;
     FakeTextReader* textReader = nullptr;
     FakeImageCodec* images = nullptr;

@@ -157,5 +157,19 @@ TEST_F(StatusItemControllerTest, ClearingAsksFirst) {
     EXPECT_EQ(store().clips().size(), 1U);
 }
 
+TEST_F(StatusItemControllerTest, TheIconIsThereBeforeTheHistoryAndAsksForTheMenuAtEachOpening) {
+    launch();
+    EXPECT_FALSE(statusItem->isInstalled);
+    environment->start();
+    EXPECT_TRUE(statusItem->isInstalled);
+    runUntil([this] { return environment->opening()->hasSettled(); }, 60'000);
+    const int before = statusItem->changes;
+    copyText("shown at the next opening");
+    EXPECT_GT(statusItem->changes, before);
+    EXPECT_EQ(entryOf(statusItem->menu(), "shown at the next opening").symbol, QStringLiteral("text.alignleft"));
+    environment.reset();
+    EXPECT_TRUE(statusItem->menu().empty()) << "the icon outlives the program's inside by a moment";
+}
+
 } // namespace
 } // namespace vellumry
