@@ -10,9 +10,11 @@
 #include "linux/process/TerminationSignals.h"
 #include "linux/x11/windows/XlibConnection.h"
 #include "shell/AppDelegate.h"
+#include "shell/Ending.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 
@@ -21,6 +23,8 @@ using namespace vellumry;
 namespace {
 
 constexpr int usageError = 2;
+/// Everything that was acknowledged is on the disk by then; what waits longer waits for a disk or a keyring that hangs.
+constexpr std::chrono::seconds longestEnding{20};
 
 /// Qt's defaults for this program: a third of the memory of the GL renderer, and quicker to its first frame.
 void chooseQtDefaults() {
@@ -61,8 +65,10 @@ int runProgram(int& argc, char** argv) {
     if (!delegate.applicationDidFinishLaunching())
         return 0;
     QObject::connect(&application, &QGuiApplication::aboutToQuit, &delegate, &AppDelegate::applicationShouldTerminate);
-    const TerminationSignals signals([] { QCoreApplication::quit(); });
-    return QGuiApplication::exec();
+    const TerminationSignals signals(&endProgram);
+    const int status = QGuiApplication::exec();
+    endProcessWithin(longestEnding);
+    return status;
 }
 
 } // namespace

@@ -4,9 +4,11 @@
 #include "foundation/Logging.h"
 #include "foundation/SerialExecutor.h"
 #include "shell/AppEnvironment.h"
+#include "shell/Ending.h"
 #include "shell/StatusReport.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QHash>
 #include <QPointer>
 #include <algorithm>
@@ -29,7 +31,9 @@ void logLines(const std::vector<Capability>& capabilities) {
 } // namespace
 
 AppDelegate::AppDelegate(Platform platform)
-    : m_platform(std::move(platform)) {}
+    : m_platform(std::move(platform)) {
+    QCoreApplication::instance()->installEventFilter(this);
+}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -43,6 +47,13 @@ bool AppDelegate::applicationDidFinishLaunching() {
     findCapabilities();
     launch();
     return true;
+}
+
+/// Qt closes all windows when it is told to quit, by a session's end for one. None of them was closed by the user then.
+bool AppDelegate::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Quit)
+        applicationShouldTerminate();
+    return QObject::eventFilter(watched, event);
 }
 
 void AppDelegate::applicationShouldTerminate() {
@@ -97,7 +108,7 @@ void AppDelegate::perform(const QString& action) {
     if (const auto wanted = actions.value(action))
         (m_environment.get()->*wanted)();
     else if (action == QLatin1String("quit"))
-        QCoreApplication::quit();
+        endProgram();
     else
         qCWarning(logging::shell) << "an unknown action was asked for";
 }

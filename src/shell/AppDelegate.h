@@ -24,7 +24,7 @@ public:
 
     /// False when another copy runs in this session: then nothing was built and the process is to end.
     [[nodiscard]] bool applicationDidFinishLaunching();
-    /// The process is about to end.
+    /// The process is about to end: no answer of a window counts any more.
     void applicationShouldTerminate();
 
     /// Called once, when the clipboard is watched and the history is there, or is known not to be.
@@ -32,6 +32,9 @@ public:
 
     /// Null before the launch.
     [[nodiscard]] AppEnvironment* environment() const { return m_environment.get(); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void launch();

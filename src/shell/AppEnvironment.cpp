@@ -275,6 +275,8 @@ void AppEnvironment::showBackupAlert() {
     if (!alert)
         return;
     showAlert(*alert, [this, key, all] {
+        if (m_isQuitting)
+            return;
         QStringList names;
         for (const QString& path : all)
             names.append(QFileInfo(path).fileName());

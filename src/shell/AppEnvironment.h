@@ -77,6 +77,7 @@ public:
     /// Null before `start`.
     [[nodiscard]] const HistoryOpening* opening() const { return m_opening.get(); }
     [[nodiscard]] bool isQuitting() const { return m_isQuitting; }
+    /// From now on a window that closes was not closed by the user.
     void setQuitting() { m_isQuitting = true; }
 
     [[nodiscard]] ClipStore& store() { return *m_store; }

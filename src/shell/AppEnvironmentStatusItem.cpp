@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program's menu.
 #include "shell/AppEnvironment.h"
+#include "shell/Ending.h"
 
-#include <QCoreApplication>
-#include <QDesktopServices>
 #include <QPointer>
 
 namespace vellumry {
@@ -18,9 +17,8 @@ void AppEnvironment::makeStatusItem() {
     m_statusItem->onPastePinned = [this](int number) { m_panel->model().pastePinned(number); };
     m_statusItem->onToggleScreenshots = [this] { toggleScreenshots(); };
     m_statusItem->onClearHistory = [this] { askToClear(); };
-    m_statusItem->onOpenLink = [](const QUrl& address) { QDesktopServices::openUrl(address); };
-    // Queued: the caller may be amid an answer over the bus.
-    m_statusItem->onQuit = [] { QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection); };
+    m_statusItem->onOpenLink = [this](const QString& address) { openLink(address); };
+    m_statusItem->onQuit = &endProgram;
 }
 
 void AppEnvironment::installStatusItem() {

@@ -125,7 +125,7 @@ void StatusItemController::toggleIgnoreNext() {
 void StatusItemController::openLink(const QString& address) {
     const QUrl url(address, QUrl::StrictMode);
     if (url.isValid() && !url.scheme().isEmpty())
-        onOpenLink(url);
+        onOpenLink(address);
 }
 
 } // namespace vellumry

@@ -62,7 +62,7 @@ public:
     std::function<void(int number)> onPastePinned = [](int) {};
     /// Asks whether the history is to be cleared.
     std::function<void()> onClearHistory = [] {};
-    std::function<void(const QUrl& address)> onOpenLink = [](const QUrl&) {};
+    std::function<void(const QString& address)> onOpenLink = [](const QString&) {};
     std::function<void()> onQuit = [] {};
     /// What is known of a newer version; the entries of updates, while there is something to check them with.
     std::function<std::optional<PendingUpdate>()> pendingUpdate = [] { return std::nullopt; };

@@ -8,7 +8,7 @@ import signal
 import subprocess
 import time
 
-from desktop import (DATA, HISTORY, PROGRAM, QUIET, Failure, Vellumry, accessible, copy_text, fresh, key, main, open_panel, own_tests,
+from desktop import (DATA, HISTORY, PROGRAM, QUIET, SETTINGS, Failure, Vellumry, accessible, copy_text, focus, fresh, key, main, open_panel, own_tests,
                      picture, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until, windows)
 
 
@@ -45,6 +45,24 @@ def a_random_file_is_put_aside():
             same(file.read(), damaged, "the file put aside")
         copy_text("in the new history")
         wait_for_clip(lambda row: text_of(row) == "in the new history", "the copy")
+
+
+def an_alert_that_nobody_answered_comes_again():
+    os.makedirs(DATA, exist_ok=True)
+    with open(HISTORY, "wb") as file:
+        file.write(random.Random(8).randbytes(20_000))
+    for how in (lambda program: program.stop(signal.SIGTERM), lambda program: run(PROGRAM, "--action", "quit")):
+        with Vellumry() as program:
+            wait_until(lambda: windows("^Vellumry$"), "the alert")
+            how(program)
+            wait_until(lambda: not program.alive(), "the program's end")
+    with Vellumry():
+        window = wait_until(lambda: windows("^Vellumry$"), "the alert once more")[0]
+        focus(window)
+        key("Return")
+        wait_until(lambda: not windows("^Vellumry$"), "the alert to close")
+    with open(SETTINGS, encoding="utf-8") as file:
+        same("dismissedBackups=" in file.read(), True, "the answer is kept")
 
 
 def a_history_of_another_key_is_put_aside():

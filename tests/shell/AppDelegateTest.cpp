@@ -3,6 +3,8 @@
 
 #include "shell/AppWorld.h"
 
+#include <QDir>
+#include <QEvent>
 #include <QFile>
 
 namespace vellumry {
@@ -74,6 +76,20 @@ TEST_F(AppDelegateTest, TheEnvironmentKnowsThatTheProgramEnds) {
     EXPECT_FALSE(delegate.environment()->isQuitting());
     delegate.applicationShouldTerminate();
     EXPECT_TRUE(delegate.environment()->isQuitting());
+}
+
+TEST_F(AppDelegateTest, AnAlertThatTheEndTakesAwayCountsAsUnread) {
+    ASSERT_TRUE(QDir().mkpath(disk.filePath(QStringLiteral("data/Vellumry"))));
+    QFile file(historyFile());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(20'000, 'x'));
+    file.close();
+    run();
+    ASSERT_TRUE(sees("Vellumry started a fresh history"));
+    QEvent quit(QEvent::Quit); // as at the end of a session: Qt closes all windows
+    QCoreApplication::sendEvent(QCoreApplication::instance(), &quit);
+    EXPECT_FALSE(sees("Vellumry started a fresh history"));
+    EXPECT_FALSE(defaults->stringArray(QStringLiteral("dismissedBackups")));
 }
 
 } // namespace

@@ -24,7 +24,8 @@ Result KeychainKeyStore::inSession(Asking asking, Work work) {
         result = std::unexpected(error.failure);
     }
     const std::lock_guard guard(m_mutex);
-    if (m_stop.stop_requested())
+    // One that went well was not ended: the word was for what would come next.
+    if (!result && m_stop.stop_requested())
         m_stop = std::stop_source();
     return result;
 }

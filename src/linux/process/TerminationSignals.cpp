@@ -60,4 +60,10 @@ TerminationSignals::~TerminationSignals() {
     close(writeEnd.exchange(-1));
 }
 
+// The kernel ends it: no thread is needed that could hang as well.
+void endProcessWithin(std::chrono::seconds limit) {
+    (void)std::signal(SIGALRM, SIG_DFL);
+    alarm(static_cast<unsigned int>(limit.count()));
+}
+
 } // namespace vellumry

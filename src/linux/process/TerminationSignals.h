@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QSocketNotifier>
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -21,5 +22,9 @@ private:
     int m_readEnd = -1;
     std::unique_ptr<QSocketNotifier> m_notifier;
 };
+
+/// Ends the process when it has not ended by itself by then, whatever its threads wait for: with SIGALRM, which a
+/// service manager reports. Once, at the end.
+void endProcessWithin(std::chrono::seconds limit);
 
 } // namespace vellumry

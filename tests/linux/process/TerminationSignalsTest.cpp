@@ -5,6 +5,7 @@
 
 #include <csignal>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace vellumry {
 namespace {
@@ -41,6 +42,16 @@ TEST(TerminationSignals, NothingIsCaughtAfterwards) {
             std::raise(SIGINT);
         },
         ::testing::KilledBySignal(SIGINT), "");
+}
+
+TEST(TerminationSignals, AProcessThatHangsAtItsEndIsEnded) {
+    EXPECT_EXIT(
+        {
+            endProcessWithin(std::chrono::seconds(1));
+            for (;;)
+                pause();
+        },
+        ::testing::KilledBySignal(SIGALRM), "");
 }
 
 } // namespace

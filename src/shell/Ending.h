@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace vellumry {
+
+/// Ends the program with the next turn of the event loop. Unlike `QCoreApplication::quit` it asks no window: one that
+/// is open neither keeps the program nor counts as answered. Any thread.
+void endProgram();
+
+} // namespace vellumry
