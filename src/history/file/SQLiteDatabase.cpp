@@ -74,8 +74,10 @@ void SQLiteDatabase::execute(const char* sql) {
 
 SQLiteDatabase::Statement SQLiteDatabase::prepare(const char* sql) {
     sqlite3_stmt* pointer = nullptr;
-    if (sqlite3_prepare_v2(m_handle, sql, -1, &pointer, nullptr) != SQLITE_OK || !pointer)
+    if (sqlite3_prepare_v2(m_handle, sql, -1, &pointer, nullptr) != SQLITE_OK)
         throw error(SQLiteError::Case::prepare);
+    if (!pointer)
+        throw SQLiteError(SQLiteError::Case::prepare, SQLITE_MISUSE, "an empty statement");
     return {*this, pointer};
 }
 

@@ -125,6 +125,21 @@ TEST(ClipMeta, KeysOfALaterVersionArePassedOver) {
     EXPECT_TRUE(decodeRecord(record).has_value());
 }
 
+/// A key that the short way does not know leaves the whole record to the general reader.
+TEST(ClipMeta, TheGeneralReaderGivesEveryFieldAsItWasWritten) {
+    QRandomGenerator random(3);
+    for (int i = 0; i < 300; ++i) {
+        const ClipMeta meta = randomMeta(random);
+        const auto list = PropertyList::fromBytes(meta.encoded());
+        ASSERT_TRUE(list.has_value());
+        PropertyList::Dictionary record = *list->dictionary();
+        record[u"later"_s] = PropertyList::Array{true};
+        const QByteArray bytes = written(record);
+        ASSERT_EQ(readPlainMeta(bytes, nullptr), std::nullopt);
+        ASSERT_EQ(decodeMeta(bytes), meta);
+    }
+}
+
 TEST(ClipMeta, OtherListsAndOtherBytesAreNoRecord) {
     EXPECT_EQ(decodeMeta(written(PropertyList::Array())), std::nullopt);
     EXPECT_EQ(decodeMeta(QByteArrayView()), std::nullopt);
