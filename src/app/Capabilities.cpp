@@ -40,7 +40,7 @@ QDBusMessage asked(const QDBusConnection& bus, const QString& method, const QVar
     return bus.call(call, QDBus::Block, busMilliseconds);
 }
 
-/// Whether the service runs or the bus would start it; nobody is started here.
+/// Whether the service runs or the bus would start it; nothing is started here.
 Capability keyring(const QDBusConnection& bus) {
     const QString name = QStringLiteral("keyring");
     const QString service = QStringLiteral("org.freedesktop.secrets");

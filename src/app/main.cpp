@@ -37,7 +37,7 @@ void chooseQtDefaults() {
 }
 
 /// Text fields of Qt look at the clipboard on every change of it, on the main thread and for as long as the owner keeps
-/// silent: ten seconds without a panel. We read it through the pasteboard alone, so that nobody misses the notice.
+/// silent: ten seconds without a panel. We read it through the pasteboard alone, so that the notice is not needed.
 void keepTextFieldsOffTheClipboard() {
     QGuiApplication::clipboard()->blockSignals(true);
 }

@@ -49,7 +49,7 @@ void ClipboardWatcher::start() {
         if (self)
             self->look(self->clock());
     };
-    // A change between construction and now was told to nobody.
+    // A change between construction and now was not notified.
     look(clock());
 }
 

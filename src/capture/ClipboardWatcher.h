@@ -66,7 +66,7 @@ public:
     std::function<void()> onLowDisk;
     /// The store took a clip. `changeCount` is the pasteboard's count of the copy it came from.
     std::function<void(const ClipRef& clip, qint64 changeCount)> onStored;
-    /// The same, for those who need no more than the clip.
+    /// The same, without the count.
     std::function<void(const ClipRef& clip)> onCapture;
     /// A draft survived the checks; called before it goes to the store, for a duplicate of an older clip too.
     std::function<void(const ClipDraft& draft)> onRead;
@@ -84,7 +84,7 @@ private:
         Date now;
         qint64 noticedAt = 0;  ///< on the monotonic clock, in milliseconds
         qint64 copyCount = 0;  ///< the pasteboard's when it was noticed
-        bool isUrgent = false; ///< somebody waits for it
+        bool isUrgent = false; ///< it is awaited
         bool isRead = false;
         std::optional<ClipDraft> draft;
     };

@@ -42,7 +42,7 @@ bool isRefused(const QStringList& types, const SnapshotRequest& request) {
     return true;
 }
 
-/// One more rendering of a picture, in a format that nobody needs who takes the usual ones.
+/// One more rendering of a picture, in a format that is not needed beside the usual ones.
 bool isFurtherRendering(const Wanted& wanted) {
     return !wanted.isEssential && (wanted.type.startsWith(u"image/") || wanted.type.endsWith(u"/ico"));
 }
@@ -181,7 +181,7 @@ QCoro::Task<Snapshot> takeSnapshot(std::shared_ptr<PasteboardReading> reading, D
 struct Attempt {
     std::optional<ClipPayload> payload;
     bool hasGivenNothing = false; ///< of what the owner offered nothing came in time
-    bool mayRetry = false;        ///< because of that, or because nobody said in time what is offered
+    bool mayRetry = false;        ///< because of that, or because its offer did not come in time
 };
 
 QCoro::Task<Attempt> attempt(Pasteboard* pasteboard, DraftBuilder builder, SnapshotRequest request) {

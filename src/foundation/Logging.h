@@ -11,7 +11,7 @@
 /// a window, a file, a folder or a host, no value of a setting that is free text, and no error text of a library that
 /// may quote one of them. What may: types, counts, sizes, durations, error numbers, identifiers of applications and
 /// formats, names of settings, and reasons in words of our own. The log is read by others: in bug reports, and in the
-/// journal by whoever administers the machine.
+/// journal by the machine's administrators.
 ///
 /// Levels: a warning is a refusal or a fallback that the user would want explained (a shortcut that is taken, a history
 /// that is kept in memory only); info is what the program found and did. Only warnings and worse are written unless the

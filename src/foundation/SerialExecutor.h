@@ -20,7 +20,7 @@ public:
     SerialExecutor(const SerialExecutor&) = delete;
     SerialExecutor& operator=(const SerialExecutor&) = delete;
 
-    /// Queues `job`, which must not throw: nobody waits for it.
+    /// Queues `job`, which must not throw: its outcome is not awaited.
     void post(std::function<void()> job);
 
     /// Runs `job` on the executor, which destroys it too. To be awaited on the main thread, which suspends and resumes

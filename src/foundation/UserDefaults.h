@@ -24,7 +24,7 @@ public:
     UserDefaults(const UserDefaults&) = delete;
     UserDefaults& operator=(const UserDefaults&) = delete;
 
-    /// Values that a read gives for keys nobody has set. Adds to what was registered before.
+    /// Values that a read gives for keys that are not set. Adds to what was registered before.
     void registerDefaults(const QVariantMap& values);
 
     /// The stored value, else the registered one, else an invalid variant. Integers are qint64, fractions double, data

@@ -123,7 +123,7 @@ QCoro::Task<PasteOutcome> PasteEngine::deliver() {
     if (!m_system.isTrusted())
         co_return copiedOnly(PasteReason::notTrusted);
     const std::weak_ptr<bool> life = m_life;
-    // The field's application is asked while the panel goes; where it answers late, nobody waits for both.
+    // The field's application is asked while the panel goes; the two waits overlap.
     const auto settling = m_system.sleep(m_system.settleDelay);
     auto asking = m_system.isSecureInput();
     const bool isSecureInput = co_await asking;

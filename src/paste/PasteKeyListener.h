@@ -10,7 +10,7 @@ namespace vellumry {
 
 class KeyboardLayout;
 
-/// Tells when the user is about to paste, and holds the key until whoever listens is done with the pasteboard. All
+/// Tells when the user is about to paste, and holds the key until the listener is done with the pasteboard. All
 /// other presses go on their way at once. Main thread.
 class PasteKeyListener {
 public:

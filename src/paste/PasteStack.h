@@ -23,7 +23,7 @@ class PasteStack : public QObject {
     Q_PROPERTY(bool isReversed READ isReversed WRITE setReversed NOTIFY changed)
 
 public:
-    /// Everything needed to write it, so that `pasteNext` waits for nobody.
+    /// Everything needed to write it, so that `pasteNext` never waits.
     struct Item {
         QUuid id = QUuid::createUuid(); ///< its own for each item, also when one clip is added twice
         std::optional<QUuid> clipID;    ///< absent for a live copy

@@ -34,7 +34,7 @@ struct SystemHooks {
     std::function<QCoro::Task<FileAccess::Result>(QStringList paths)> checkFileAccess;
     /// May block; called through `runFileJob` only, so on any thread.
     std::function<FileStatus(const FileRef&)> fileStatus;
-    /// Runs a job that may block where that holds nobody up. Nothing when it took too long.
+    /// Runs a job that may block where that blocks nothing. Nothing when it took too long.
     std::function<QCoro::Task<std::optional<std::vector<FileStatus>>>(FileJob)> runFileJob;
     Clock now = currentDate;
 

@@ -30,7 +30,7 @@ struct HeifLibrary {
     decltype(&heif_image_get_height) height = nullptr;
     decltype(&heif_image_get_plane_readonly) plane = nullptr;
 
-    /// Nothing when the system has no libheif, or one that lacks a function. It stays loaded: whoever opens it before
+    /// Nothing when the system has no libheif, or one that lacks a function. It stays loaded: opening it before
     /// the process is sealed can open it again behind that.
     [[nodiscard]] static std::optional<HeifLibrary> open();
 };

@@ -54,7 +54,7 @@ std::optional<HeifPicture> HeifPicture::open(const HeifLibrary& library, QByteAr
     Context context(library.allocate(), ContextDeleter{library.free});
     if (!context)
         return std::nullopt;
-    // Nobody waits for a thumbnail so much that all processors should make it.
+    // A thumbnail is not urgent enough to take all processors.
     library.setMaxThreads(context.get(), 0);
     if (library.readFromMemory(context.get(), file.data(), static_cast<std::size_t>(file.size()), nullptr).code !=
         heif_error_Ok)

@@ -29,7 +29,7 @@ constexpr qsizetype languagesTried = 4;
 constexpr std::size_t enginesKept = 2;
 constexpr qint64 longestImproving = 40'000;
 
-/// Until when, from the beginning of a picture, its text is read. Whoever asks waits 30 s for a fast reading and 150 s
+/// Until when, from the beginning of a picture, its text is read. The caller waits 30 s for a fast reading and 150 s
 /// for an accurate one, and gets nothing after that; part of a picture full of small text is better.
 struct Limits {
     std::chrono::milliseconds firstReading;

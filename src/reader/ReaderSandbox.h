@@ -5,7 +5,7 @@
 
 namespace vellumry::readersandbox {
 
-/// Whether somebody waits for what the reader does.
+/// Whether the user waits for what the reader does.
 enum class Urgency { awaited, background };
 
 /// Gives up what the reader process does not need, for good: in the background all priority, memory beyond 2 GiB,

@@ -17,7 +17,7 @@ namespace vellumry {
 
 namespace {
 
-/// The asking side ends a slower reader by the clock; these end one that nobody watches any more.
+/// The asking side ends a slower reader by the clock; these end one that is no longer watched.
 constexpr unsigned processorSeconds = 20;
 constexpr unsigned processorSecondsForReading = 180;
 constexpr std::chrono::seconds transferTime{10};

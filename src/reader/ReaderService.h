@@ -8,7 +8,7 @@
 
 namespace vellumry {
 
-/// Answers requests on one socket until nobody asks any more. One thread.
+/// Answers requests on one socket until none has come for a while. One thread.
 class ReaderService {
 public:
     enum class End {

@@ -14,7 +14,7 @@ using namespace vellumry;
 
 namespace {
 
-/// The recognition library says on the error output what it makes of a picture; that is nobody's business.
+/// The recognition library says on the error output what it makes of a picture; that must not reach a log.
 void silenceErrors() {
     const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
     dup2(nowhere, STDERR_FILENO);

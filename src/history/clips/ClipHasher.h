@@ -10,7 +10,7 @@
 
 namespace vellumry {
 
-/// Computes fingerprints where it holds nobody up: at once for what is small, on a thread of its own for payloads of
+/// Computes fingerprints where it blocks nothing: at once for what is small, on a thread of its own for payloads of
 /// many bytes. Main thread. Its end waits for the hash under way.
 class ClipHasher {
 public:

@@ -61,7 +61,7 @@ private:
 
     std::vector<ClipRef> m_clips;
     ClipsBy<&Clip::id> m_byId;
-    /// A file written by nobody but us holds no fingerprint twice. If one does, this has fewer entries than there are
+    /// A file that only we wrote holds no fingerprint twice. If one does, this has fewer entries than there are
     /// clips.
     ClipsBy<&Clip::fingerprint> m_byFingerprint;
     std::set<std::pair<Date, QUuid>> m_expiries;

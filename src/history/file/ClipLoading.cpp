@@ -87,7 +87,7 @@ struct ClipLoading::Private {
         : key(historyKey)
         , decoder(key) {}
 
-    /// Whoever comes first decodes the batch.
+    /// Decodes the batch unless another thread has begun it.
     void decode(Batch& batch, Decoder& with) {
         if (batch.isClaimed.test_and_set())
             return;

@@ -26,7 +26,7 @@ public:
 
     /// Those of `clips` that pass `filter` and match `query`, in the order of `clips`. A blank query matches
     /// everything. A sensitive clip is found by the name of its application only; none of its text is kept here.
-    /// Whoever numbers the states of `clips`, so that equal numbers mean equal clips, spares the search a look at each.
+    /// With `revision`, a number that changes with every change of `clips`, unchanged clips need not be compared.
     [[nodiscard]] std::vector<ClipRef> search(const std::vector<ClipRef>& clips, const QString& query,
                                               ClipFilter filter, std::optional<qint64> revision = std::nullopt);
 

@@ -42,7 +42,7 @@ public:
     void finish(std::optional<qint64> revision);
     /// The slots of some clips have gone: the next `follow` looks at each.
     void invalidate() { m_isStale = true; }
-    /// Lets go of all keys; whoever else has them keeps them.
+    /// Drops this order's references to all keys.
     void forgetPictures();
 
     [[nodiscard]] std::size_t size() const { return m_slots.size(); }

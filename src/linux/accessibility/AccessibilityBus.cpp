@@ -61,7 +61,7 @@ QByteArray AccessibilityBus::busAddress() const {
     return address;
 }
 
-// Asking somebody who is not there must not start them.
+// Asking must not start a service that is not running.
 GVariantPointer AccessibilityBus::call(GDBusConnection* connection, const Node& node, const char* interface,
                                        const char* method, GVariant* arguments, const char* answer) const {
     const GVariantPointer owned(arguments != nullptr ? g_variant_ref_sink(arguments) : nullptr);

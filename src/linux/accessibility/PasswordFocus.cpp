@@ -60,7 +60,7 @@ QCoro::Task<bool> PasswordFocus::isIn(qint64 process) {
         co_return false;
     if (m_executor == nullptr)
         m_executor = std::make_shared<SerialExecutor>("Password focus");
-    // Held here too: whoever asked may go meanwhile.
+    // Held here too: the caller may go meanwhile.
     const std::shared_ptr<SerialExecutor> executor = m_executor;
     auto asking = executor->run([process, limit = m_deadline] { return hasPasswordFocus(process, limit); });
     co_return co_await asking;

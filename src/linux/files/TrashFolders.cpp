@@ -12,7 +12,7 @@ namespace vellumry {
 
 namespace {
 
-/// A shared Trash counts only with the sticky bit, so that nobody can plant another's files in it.
+/// A shared Trash counts only with the sticky bit, so that no user can plant files in another's name.
 bool isSharedTrash(const QByteArray& path) {
     struct stat status {};
     return lstat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode) && (status.st_mode & S_ISVTX);

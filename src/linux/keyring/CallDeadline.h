@@ -12,7 +12,7 @@
 
 namespace vellumry {
 
-/// Cancels blocking GIO calls that take longer than allowed, or that nobody waits for any more. Lives on the stack
+/// Cancels blocking GIO calls that take longer than allowed, or that are no longer awaited. Lives on the stack
 /// around the calls that are given `cancellable()`; one thread makes the calls, a second one watches the time.
 class CallDeadline {
 public:

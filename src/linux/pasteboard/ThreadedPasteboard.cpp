@@ -118,7 +118,7 @@ void ThreadedPasteboard::markSecret(qint64 changeCount) {
     m_secretChangeCount = changeCount;
 }
 
-/// A secret that was pasted into a terminal would stay on the primary selection until somebody marks a text.
+/// A secret that was pasted into a terminal would stay on the primary selection until the user selects a text.
 void ThreadedPasteboard::dropOldSecret() {
     if (m_primaryChangeCount != m_secretChangeCount || m_primaryChangeCount == changeCount())
         return;
@@ -182,7 +182,7 @@ void ThreadedPasteboard::announceChange() {
 }
 
 void ThreadedPasteboard::announceOwnerGone(qint64 held, qint64 since) {
-    // Somebody took the pasteboard while the notice was on its way.
+    // Another program took the pasteboard while the notice was on its way.
     if (since != changeCount())
         return;
     if (onOwnerGone)

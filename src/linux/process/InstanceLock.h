@@ -16,7 +16,7 @@ public:
     /// `com.vellumry.Vellumry.lock` in the session's runtime folder, else in the folder that the history lies in.
     [[nodiscard]] static QString defaultPath();
 
-    /// False when another process, or another lock of this one, holds it. A file that cannot be made keeps nobody out.
+    /// False when another process, or another lock of this one, holds it. A file that cannot be made locks nothing.
     [[nodiscard]] bool acquire();
 
 private:

@@ -18,7 +18,7 @@ namespace {
 bool hasWrittenCode(const dl_phdr_info& library, std::span<const ElfW(Phdr)> segments) {
     const auto dynamic = std::ranges::find(segments, ElfW(Word)(PT_DYNAMIC), &ElfW(Phdr)::p_type);
     if (dynamic == segments.end())
-        return true; // nobody knows
+        return true; // unknown
     const auto* entry = reinterpret_cast<const ElfW(Dyn)*>(library.dlpi_addr + dynamic->p_vaddr);
     for (; entry->d_tag != DT_NULL; ++entry) {
         if (entry->d_tag == DT_TEXTREL || (entry->d_tag == DT_FLAGS && (entry->d_un.d_val & DF_TEXTREL) != 0))

@@ -14,7 +14,7 @@ namespace {
 
 /// Never before the date, and never zero, which would mean "no date".
 itimerspec at(Date date) {
-    // Within what every kernel can hold; nobody waits that long.
+    // Within what every kernel can hold; no wait is that long.
     const double seconds = std::clamp(date, 1.0, distantFuture);
     itimerspec setting{};
     setting.it_value.tv_sec = static_cast<time_t>(std::floor(seconds));

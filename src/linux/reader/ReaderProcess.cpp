@@ -21,7 +21,7 @@ namespace {
 
 using readersocket::Descriptor;
 
-/// The picture as a memory file that nobody can change any more; invalid when there is no memory for it.
+/// The picture as a memory file that is sealed against changes; invalid when there is no memory for it.
 Descriptor memoryFileOf(const QByteArray& picture) {
     Descriptor file(memfd_create("picture", MFD_CLOEXEC | MFD_ALLOW_SEALING));
     qsizetype written = 0;

@@ -57,7 +57,7 @@ private:
     QByteArray m_argument;
     readersocket::Descriptor m_socket;
     std::atomic<bool> m_isInterrupted{false};
-    /// Held while the process is collected: until then its number is nobody else's.
+    /// Held while the process is collected: until then its number is not reused.
     std::mutex m_mutex;
     pid_t m_process = 0;
     quint64 m_lastId = 0;

@@ -6,7 +6,7 @@
 
 namespace vellumry {
 
-/// Has text read by a `vellumry-reader` that is kept apart from the one for thumbnails, which nobody waits minutes for.
+/// Has text read by a `vellumry-reader` that is kept apart from the one for thumbnails, which must not wait minutes.
 /// A picture that ends the reader gives `failed`; one that is still being read at the time limit gives `tooSlow`, and
 /// its reader is ended, so that it takes no processor any more. Main thread.
 class ReaderTextReader : public TextReader {

@@ -25,7 +25,7 @@ struct Capability {
     [[nodiscard]] static Capability missing(QString name, QString reason) {
         return {std::move(name), false, std::move(reason)};
     }
-    /// As `missing`, for what most users do without and nobody needs to be warned of.
+    /// As `missing`, for what most users do without: no warning.
     [[nodiscard]] static Capability without(QString name, QString reason) {
         return {std::move(name), false, std::move(reason), true};
     }

@@ -23,7 +23,7 @@ struct KeyPress {
     QString characters;
     /// `ownEventMark` for keys that the program pressed itself.
     qint64 sourceUserData = 0;
-    /// The process that the key is meant for, 0 where nobody knows.
+    /// The process that the key is meant for, 0 where it is unknown.
     qint64 targetPID = 0;
 
     bool operator==(const KeyPress&) const = default;

@@ -49,7 +49,7 @@ public:
     /// Replaces the contents with `items`. True when the pasteboard is ours with them; false when it refused, and then
     /// the contents are empty or another owner's.
     virtual bool write(std::vector<PasteboardItem> items) = 0;
-    /// As `write`, but only as long as nobody has owned the pasteboard since its owner went: a copy that another
+    /// As `write`, but only as long as the pasteboard has had no other owner since its owner went: a copy that another
     /// program makes meanwhile stands, and this is false.
     virtual bool takeOver(std::vector<PasteboardItem> items) = 0;
     /// Empties the pasteboard and lets go of the bytes if we wrote what it held at `changeCount` and nothing has come
@@ -73,7 +73,7 @@ public:
     std::function<void()> onChanged;
     /// Called when the owner went away and left the pasteboard without one; `changeCount` is the count of what it held.
     std::function<void(qint64 changeCount)> onOwnerGone;
-    /// True when `onChanged` is called for each change, so that nobody needs to poll.
+    /// True when `onChanged` is called for each change, so that polling is not needed.
     [[nodiscard]] virtual bool notifiesChanges() const = 0;
 };
 

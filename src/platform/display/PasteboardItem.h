@@ -13,7 +13,7 @@ namespace vellumry {
 /// name where no identifier exists.
 struct PasteboardItem {
     std::map<QString, QByteArray> representations;
-    /// The types in the order in which the source offered them; absent where nobody knew it.
+    /// The types in the order in which the source offered them; absent where it is unknown.
     std::optional<QStringList> order;
 
     bool operator==(const PasteboardItem&) const = default;

@@ -20,7 +20,7 @@ public:
     void announce(Instant now);
     /// A key came that a program pressed. True when it was us; true once for each that was announced.
     [[nodiscard]] bool claim(Instant now);
-    /// Nothing that was announced so far will come: nobody listened when it was pressed.
+    /// Nothing that was announced so far will come: the listening had ended when it was pressed.
     void forget();
 
 private:

@@ -116,8 +116,8 @@ bool X11PasteKeyGrab::isTheUsual(const passivegrabs::Combination& combination) c
     return combination.mask == ControlMask && combination.keycode == m_keymap.keycodeTyping(u'v', placeOfV);
 }
 
-/// Ctrl+V must be had; without another of them the rest still works. Where somebody's core grab is in the way is looked
-/// at once: it would be found taken for good where the layout changes back and forth.
+/// Ctrl+V must be had; without another of them the rest still works. Where another client's core grab is in the way is
+/// looked at once: it would be found taken for good where the layout changes back and forth.
 bool X11PasteKeyGrab::grabAll(bool isFirst) {
     for (const auto& combination : wanted()) {
         const bool isFree = !isFirst || passivegrabs::isFreeOfCoreGrabs(*m_connection, combination);
@@ -172,7 +172,7 @@ void X11PasteKeyGrab::handleKey(XEvent* event) {
     m_heldTime = press->time;
     m_heldSince = now;
     m_held = heldFor(quint32(press->detail), unsigned(press->mods.effective), unsigned(press->group.effective));
-    // Both are nobody's business, and nobody is to wait for the main thread on their account.
+    // Neither is a paste, and neither may wait for the main thread.
     const bool isRepeat = (press->flags & XIKeyRepeat) != 0;
     const bool isOurs = !isRepeat && isOwn(press->sourceid);
     if (isRepeat || isOurs) {

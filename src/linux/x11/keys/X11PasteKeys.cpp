@@ -104,7 +104,7 @@ void X11PasteKeys::stop() {
         Qt::QueuedConnection);
     m_grab = nullptr;
     m_retired = std::move(m_thread);
-    // The keys are free when this returns; whoever starts next wants them.
+    // The keys are free when this returns; the next start needs them.
     (void)isReleased.wait_for(serverLimit);
 }
 
@@ -121,7 +121,7 @@ void X11PasteKeys::endRetired() {
 void X11PasteKeys::receive(const X11PasteKeyGrab::Held& held) {
     if (m_grab == nullptr || !held.isHeld->load())
         return;
-    const auto told = onPress; // whoever is told may stop listening
+    const auto told = onPress; // the callback may stop the listening
     auto key = std::make_shared<Key>(m_link, held);
     if (told)
         told(held.press, std::move(key));

@@ -23,14 +23,14 @@ public:
         std::chrono::milliseconds focusDeadline{400};
         /// Called before the paste chord is pressed.
         std::function<void()> willPress = [] {};
-        /// Tells whether a password field of the process has the focus; unset where nobody can tell.
+        /// Tells whether a password field of the process has the focus; unset where that cannot be known.
         std::function<QCoro::Task<bool>(qint64 process)> isPasswordField = nullptr;
     };
 
     X11PasteTarget(std::shared_ptr<XlibConnection> connection, std::shared_ptr<X11Focus> focus, Options options);
 
     [[nodiscard]] bool isTrusted() const override { return m_connection->hasTestExtension(); }
-    /// There is nobody to ask on X11.
+    /// X11 has no such permission to ask for.
     void requestTrust() override {}
     [[nodiscard]] QCoro::Task<bool> isSecureInput() override;
     [[nodiscard]] QCoro::Task<bool> regainFocus() override;

@@ -27,15 +27,15 @@ public:
         , m_askForServerTime(std::move(askForServerTime))
         , m_limit(limit) {}
 
-    /// Takes the part when nobody has it. Called with the `selection` that stands for it.
+    /// Takes the part when it is free. Called with the `selection` that stands for it.
     void start(xcb_atom_t selection);
-    /// Nobody has the part any more.
+    /// The part is free again.
     void takePart();
     [[nodiscard]] bool isPart(xcb_atom_t selection) const { return selection == m_selection; }
     /// Told when the part has become ours.
     std::function<void(xcb_timestamp_t)> onPartTaken = [](xcb_timestamp_t) {};
 
-    /// The clipboard has another owner: what is waited for concerns nobody any more. `isSafe` when that is us, who keep
+    /// The clipboard has another owner: what is waited for no longer matters. `isSafe` when that is us, who keep
     /// what we have.
     void ownerChanged(bool isSafe);
     /// Capture has done with what the present owner offers.

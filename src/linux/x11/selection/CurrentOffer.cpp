@@ -54,7 +54,7 @@ void CurrentOffer::askForTargets(xcb_timestamp_t time, Instant answerDeadline, I
     request.silence = m_limits.targetList;
     request.deadline = answerDeadline;
     request.done = [=, this, count = m_ownership->changeCount](std::optional<XcbProperty> targets) {
-        // The reading of an owner that was replaced is ended when nobody waits for it any more.
+        // The reading of an owner that was replaced is ended when it is no longer awaited.
         if (!m_ownership || m_ownership->changeCount != count)
             return;
         const Instant answeredAt = std::chrono::steady_clock::now();

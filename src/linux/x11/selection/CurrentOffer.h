@@ -30,14 +30,14 @@ public:
         , m_reader(reader)
         , m_limits(limits) {}
 
-    /// Another program owns `selection`, or has done so since before we looked: it is asked when somebody wants to
-    /// know.
+    /// Another program owns `selection`, or has done so since before we looked: it is asked when its offer is
+    /// read.
     void setOwner(xcb_atom_t selection, Ownership ownership);
     /// The same, and it is asked at once.
     void ask(xcb_atom_t selection, Ownership ownership, Instant now);
-    /// Nobody owns it whom we could ask; those who wait get nothing.
+    /// There is no owner that could be asked; pending reads get nothing.
     void reset();
-    /// Null when there is nobody to be asked or the owner does not say in time what it offers.
+    /// Null when there is no owner or it does not say in time what it offers.
     void read(Result result, Instant now);
 
 private:

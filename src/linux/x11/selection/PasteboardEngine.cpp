@@ -233,7 +233,7 @@ void PasteboardEngine::handleRequest(const xcb_selection_request_event_t& reques
     noteReader(request, tookContent);
 }
 
-/// Whoever takes the primary selection takes the same thing, as long as it was offered there too.
+/// A reader of PRIMARY takes the same contents as long as they are offered there too.
 void PasteboardEngine::noteReader(const xcb_selection_request_event_t& request, bool tookContent) {
     const auto contents = m_owner.contents(request.selection);
     if (!contents || contents != m_owner.contents(m_clipboard) || (m_wasServed && m_wasListed))

@@ -51,7 +51,7 @@ public:
     /// Gives up the clipboard and the primary selection where they are still ours with `contents`. A program that takes
     /// them meanwhile keeps them.
     void disown(const std::shared_ptr<const OfferedContents>& contents);
-    /// Null when nobody owns the clipboard or the owner does not say in time what it offers.
+    /// Null when the clipboard has no owner or it does not say in time what it offers.
     void readOffer(CurrentOffer::Result result, Instant now);
     /// Capture has done with what was on the clipboard at `count`.
     void settle(qint64 count, bool wasKept);
@@ -98,7 +98,7 @@ private:
     xcb_atom_t m_saveTargets = XCB_ATOM_NONE;
     xcb_atom_t m_timeProperty = XCB_ATOM_NONE;
     xcb_window_t m_currentOwner = XCB_NONE;
-    /// When the last owner went, while nobody has come after it.
+    /// When the last owner went, while there is no new one.
     std::optional<xcb_timestamp_t> m_goneSince;
     std::deque<TimeWaiter> m_timeWaiters;
     std::optional<Claim> m_unconfirmed; ///< set, the server's notice outstanding

@@ -23,7 +23,7 @@ public:
         , m_stalledLimit(stalledLimit) {}
 
     /// Serves `contents` for `selection` from now on; `since` is the server's time of the ownership. Null contents
-    /// stand for a selection that has none, that of the clipboard manager, whose SAVE_TARGETS somebody else answers.
+    /// stand for a selection that has none, that of the clipboard manager, whose SAVE_TARGETS is answered elsewhere.
     void hold(xcb_atom_t selection, std::shared_ptr<const OfferedContents> contents, xcb_timestamp_t since);
     void release(xcb_atom_t selection);
     /// What is served for `selection`; null when nothing is.

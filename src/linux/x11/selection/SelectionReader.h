@@ -17,7 +17,7 @@ namespace vellumry {
 /// Owners answer one request after the other: the silence of one counts from when the request before it was answered.
 /// An owner that is busy with a large table is not silent about the text that was asked for next.
 ///
-/// An answer that nobody waits for any more is still taken off the owner's hands for a while, unread, so that it is not
+/// An answer that is no longer awaited is still taken off the owner's hands for a while, unread, so that it is not
 /// left hanging in the middle of a transfer.
 class SelectionReader {
 public:

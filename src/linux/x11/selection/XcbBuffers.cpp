@@ -31,7 +31,7 @@ void waitForABufferful(int descriptor) {
 
 void overwriteBuffers(XcbConnection& connection) {
     xcb_connection_t* const handle = connection.handle();
-    // Nobody listens to a window of our own making.
+    // No client selects events on a window of our own.
     const xcb_window_t window = xcb_generate_id(handle);
     xcb_create_window(handle, XCB_COPY_FROM_PARENT, window, connection.root(), 0, 0, 1, 1, 0,
                       XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);

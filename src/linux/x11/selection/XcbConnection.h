@@ -73,7 +73,7 @@ public:
     [[nodiscard]] quint32 clientOf(xcb_window_t window) const;
     /// The window that has the keyboard; XCB_NONE where that is no window.
     [[nodiscard]] xcb_window_t focusWindow();
-    /// Who owns a selection now; XCB_NONE for nobody.
+    /// The present owner of a selection; XCB_NONE without one.
     [[nodiscard]] xcb_window_t selectionOwner(xcb_atom_t selection);
 
 private:

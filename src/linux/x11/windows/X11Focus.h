@@ -10,7 +10,8 @@
 
 namespace vellumry {
 
-/// Who had the keyboard before a panel of ours took it, and whether it is back there. Main thread.
+/// Remembers the window that had the keyboard before a panel of ours took it, and tells whether it is back there. Main
+/// thread.
 class X11Focus : public QObject {
     Q_OBJECT
 public:
@@ -28,11 +29,11 @@ public:
     /// Remembers the window that has the keyboard now, unless one is remembered already.
     void remember();
     /// Gives the keyboard back to the remembered window, if `ours` still has it; where that window is gone, asks the
-    /// window manager to activate the one that was active. Who has it otherwise keeps it.
+    /// window manager to activate the one that was active. Any other window that has it keeps it.
     void giveBack(XWindow ours);
     void forget();
 
-    /// Where the keyboard is. Without a remembered window, and a while after it was given back, whoever has it will do:
+    /// Where the keyboard is. Without a remembered window, and a while after it was given back, any window will do:
     /// the user may have gone on to another window, and a key of ours pressed there is meant for it.
     [[nodiscard]] Standing standing();
 

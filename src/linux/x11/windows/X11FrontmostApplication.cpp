@@ -125,7 +125,7 @@ SourceApp X11FrontmostApplication::applicationOf(const ApplicationHints& hints) 
     return source;
 }
 
-// Toolkits own selections with a window that nobody sees and that says nothing of itself; the program's other windows
+// Toolkits own selections with an unmapped window that says nothing of itself; the program's other windows
 // do, be they hidden or iconified by now.
 
 SourceApp X11FrontmostApplication::pasteboardOwner() const {

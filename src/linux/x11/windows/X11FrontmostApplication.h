@@ -10,7 +10,7 @@
 namespace vellumry {
 
 /// Follows the window manager's active window. What the window says of itself is read when it becomes active: it may be
-/// gone when somebody asks. While no window is active (our panel has the keyboard, the window manager is between two
+/// gone when it is asked for. While no window is active (our panel has the keyboard, the window manager is between two
 /// windows) the last application counts as long as its window exists. Windows of this process never count.
 class X11FrontmostApplication : public QObject, public FrontmostApplication {
     Q_OBJECT
