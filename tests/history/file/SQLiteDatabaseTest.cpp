@@ -108,7 +108,8 @@ TEST_F(SQLiteDatabaseTest, EachFailureSaysWhatSQLiteSays) {
               "History file error: near \"SELEKT\": syntax error");
     EXPECT_EQ(failureOf([&] { database.execute("SELEKT 1;"); }, SQLiteError::Case::step),
               "History file error: near \"SELEKT\": syntax error");
-    EXPECT_EQ(failureOf([&] { (void)database.prepare(""); }, SQLiteError::Case::prepare), "History file error: an empty statement");
+    EXPECT_EQ(failureOf([&] { (void)database.prepare(""); }, SQLiteError::Case::prepare),
+              "History file error: an empty statement");
     auto insertion = database.prepare("INSERT INTO t VALUES (?);");
     EXPECT_EQ(failureOf(
                   [&] {
