@@ -13,6 +13,7 @@
 #include "linux/process/DBusSingleInstance.h"
 #include "linux/process/MemoryReturn.h"
 #include "linux/process/TimerfdDateTimer.h"
+#include "linux/process/XdgLoginItem.h"
 #include "linux/reader/ReaderImageCodec.h"
 #include "linux/reader/ReaderTextReader.h"
 #include "linux/sound/ThemeSounds.h"
@@ -25,6 +26,7 @@
 #include "linux/x11/windows/WaylandSession.h"
 #include "linux/x11/windows/X11Focus.h"
 #include "linux/x11/windows/X11FrontmostApplication.h"
+#include "linux/x11/windows/X11IdleTime.h"
 #include "linux/x11/windows/X11PanelSurface.h"
 #include "linux/x11/windows/XlibConnection.h"
 #include "settings/Preferences.h"
@@ -75,6 +77,7 @@ std::optional<Reason> addDisplay(Platform& platform) {
     pasteKeys.looksFirst = [front = target.get()] { return front->looksFirst(); };
     platform.pasteTarget = std::move(target);
     platform.pasteKeys = std::make_unique<X11PasteKeys>(std::move(pasteKeys));
+    platform.idleSeconds = [idle = std::make_shared<X11IdleTime>(connection)] { return idle->seconds(); };
     platform.panelSurface = std::make_unique<X11PanelSurface>(connection, focus);
     return std::nullopt;
 }
@@ -113,6 +116,12 @@ OrReason<Platform> makeLinuxPlatform() {
     platform.bookmarks = std::make_unique<PosixFileBookmarks>();
     platform.folders = std::make_unique<InotifyFolderWatching>();
     platform.isConfined = QFile::exists(QStringLiteral("/.flatpak-info")) || qEnvironmentVariableIsSet("SNAP");
+    // A confined package sees an autostart folder of its own.
+    if (!platform.isConfined) {
+        auto loginItem = std::make_unique<XdgLoginItem>();
+        loginItem->follow();
+        platform.loginItem = std::move(loginItem);
+    }
     platform.returnMemory = &returnCode;
     return platform;
 }

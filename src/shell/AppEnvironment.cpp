@@ -82,6 +82,7 @@ AppEnvironment::AppEnvironment(Platform& platform)
     wirePanel();
     makeStack();
     makeStatusItem();
+    makeUpdates();
     wire();
 }
 
@@ -238,6 +239,7 @@ void AppEnvironment::runMaintenance() {
     m_settingsWatch->look();
     m_store->setPolicy(m_preferences->retentionPolicy());
     m_store->enforceRetention(m_platform->clock());
+    m_updates->installIfQuiet();
     if (!m_panel->isVisible() && std::exchange(m_hasWorked, false))
         m_platform->returnMemory();
 }

@@ -18,6 +18,7 @@
 #include "shell/StatusItemController.h"
 #include "shell/TextReading.h"
 #include "shell/ToastController.h"
+#include "shell/UpdateController.h"
 #include "views/ViewEngine.h"
 
 #include <QObject>
@@ -83,6 +84,7 @@ public:
     [[nodiscard]] ClipStore& store() { return *m_store; }
     [[nodiscard]] ClipboardWatcher& watcher() { return *m_watcher; }
     [[nodiscard]] ScreenshotSaving& screenshotSaving() { return *m_screenshotSaving; }
+    [[nodiscard]] UpdateController& updates() { return *m_updates; }
     [[nodiscard]] PanelController& panel() { return *m_panel; }
     [[nodiscard]] PasteStack& stack() { return m_stack->stack(); }
     [[nodiscard]] TextReadingQueue& textReader() { return m_textReading->queue(); }
@@ -101,6 +103,8 @@ private:
     void wirePanel();
     void makeStatusItem();
     void installStatusItem();
+    void makeUpdates();
+    [[nodiscard]] bool isInUse() const;
     [[nodiscard]] std::vector<ClipRef> stackSeed();
     void startMaintenance();
     void runMaintenance();
@@ -133,6 +137,7 @@ private:
     std::unique_ptr<StackWiring> m_stack;
     std::unique_ptr<StackHUDController> m_stackHUD;
     std::unique_ptr<StatusItemController> m_statusItem;
+    std::unique_ptr<UpdateController> m_updates;
     std::unique_ptr<ShortcutRegistrations> m_shortcuts;
     std::unique_ptr<SettingsWatch> m_settingsWatch;
     std::vector<ToastMessage> m_startMessages; ///< what is still to be told of the start, the next one last

@@ -10,6 +10,7 @@
 #include "platform/desktop/LoginItem.h"
 #include "platform/desktop/Opener.h"
 #include "platform/desktop/SingleInstance.h"
+#include "platform/desktop/SoftwareUpdater.h"
 #include "platform/desktop/SoundPlayer.h"
 #include "platform/desktop/StatusItem.h"
 #include "platform/display/HotKeyRegistrar.h"
@@ -24,6 +25,7 @@
 #include "platform/files/ImageCodec.h"
 #include "platform/files/TextReader.h"
 #include "shell/HistoryFolder.h"
+#include "shell/UpdateController.h"
 
 #include <QString>
 #include <functional>
@@ -55,6 +57,11 @@ struct Platform {
     std::unique_ptr<InstalledApplications> applications;
     /// Null where nothing starts programs at login: the choice is refused then.
     std::unique_ptr<LoginItem> loginItem;
+    /// Null where the program cannot replace itself.
+    std::unique_ptr<SoftwareUpdater> updater;
+    UpdateConfiguration updateConfiguration;
+    /// Since the last key or movement of the pointer; 0 where the system does not say.
+    std::function<double()> idleSeconds = [] { return 0.0; };
     /// What punctual expiry waits with; null where the system has nothing better than an interval.
     std::unique_ptr<DateTimer> expiryTimer;
     /// What the session offers and lacks, as far as the start has found out.
