@@ -120,7 +120,7 @@ function(vellumry_qml_module target uri)
     RESOURCE_PREFIX /vellumry
     OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/${folder}
     IMPORT_PATH ${PROJECT_BINARY_DIR}/qml
-    DEPENDENCIES QtQml.Models
+    DEPENDENCIES QtQml.Models QtQuick
     NO_PLUGIN
     QML_FILES ${ARG_SINGLETONS} ${ARG_FILES})
   # The registration of the types includes their headers by name alone.

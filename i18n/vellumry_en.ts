@@ -397,5 +397,67 @@
             <numerusform>Stop Paste Stack (%n left)</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n more password managers (Bitwarden, LastPass, Dashlane…) are skipped too as soon as they're installed.</source>
+        <translation>
+            <numerusform>%n more password manager (such as Bitwarden, LastPass or Dashlane) is skipped too as soon as it's installed.</numerusform>
+            <numerusform>%n more password managers (Bitwarden, LastPass, Dashlane…) are skipped too as soon as they're installed.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n day</numerusform>
+            <numerusform>%n days</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips</source>
+        <translation>
+            <numerusform>%n clip</numerusform>
+            <numerusform>%n clips</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>After %n seconds</source>
+        <translation>
+            <numerusform>After %n second</numerusform>
+            <numerusform>After %n seconds</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>After %n minutes</source>
+        <translation>
+            <numerusform>After %n minute</numerusform>
+            <numerusform>After %n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>After %n hours</source>
+        <translation>
+            <numerusform>After %n hour</numerusform>
+            <numerusform>After %n hours</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Click a shortcut, then press the new keys. ⌫ puts the original back, Esc cancels.</source>
+        <translation>Click a shortcut, then press the new keys. Backspace puts the original back, Esc cancels.</translation>
+    </message>
+    <message>
+        <source>macOS asks once per folder. Vellumry only opens a file when you paste or copy it.</source>
+        <translation>Vellumry only opens a file when you paste or copy it.</translation>
+    </message>
+    <message>
+        <source>macOS keeps %1 closed to Vellumry. Turn it on in Files and Folders.</source>
+        <translation>%1 is closed to Vellumry. Give yourself permission to read that folder.</translation>
+    </message>
+    <message>
+        <source>⇧↑  ⇧↓</source>
+        <translation>Shift+↑  Shift+↓</translation>
+    </message>
+    <message>
+        <source>⌘1 … ⌘9</source>
+        <translation>Ctrl+1 … Ctrl+9</translation>
+    </message>
 </context>
 </TS>

@@ -20,7 +20,7 @@ struct Options {
     QCommandLineOption action{
         QStringLiteral("action"),
         QStringLiteral("Ask the running program for open-panel, toggle-stack, pause, ignore-next, toggle-screenshots, "
-                       "clear or quit."),
+                       "clear, open-settings or quit."),
         QStringLiteral("name")};
     /// What a session manager starts programs with that ran when the session was saved (XSMP).
     QCommandLineOption session{QStringLiteral("session"), QString(), QStringLiteral("id")};
@@ -35,8 +35,8 @@ QString refusal(const QCommandLineParser& parser, const QString& problem) {
 CommandLine understood(QCommandLineParser& parser, const QStringList& arguments) {
     const Options options;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.setApplicationDescription(QStringLiteral("Clipboard history: runs in the background; a second start shows "
-                                                    "the panel of the first."));
+    parser.setApplicationDescription(QStringLiteral("Clipboard history: runs in the background; a second start opens "
+                                                    "the settings of the first."));
     parser.addOptions(
         {options.help, options.version, options.status, options.verbose, options.action, options.session});
     using Wish = CommandLine::Wish;

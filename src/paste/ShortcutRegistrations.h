@@ -6,6 +6,7 @@
 #include <QSet>
 #include <QStringList>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace vellumry {
@@ -24,6 +25,13 @@ public:
         std::function<void(int number)> pastePinned;
     };
 
+    /// A free shortcut in place of one that another program holds.
+    struct Offer {
+        QString key; ///< of the setting
+        Shortcut shortcut;
+        bool operator==(const Offer&) const = default;
+    };
+
     /// The references must outlive the registrations.
     ShortcutRegistrations(const UserDefaults& preferences, HotKeyCenter& center, const KeyboardLayout& layout,
                           Actions actions);
@@ -39,6 +47,8 @@ public:
 
     /// The settings whose shortcut another program holds.
     [[nodiscard]] const QStringList& takenKeys() const { return m_takenKeys; }
+    /// For the first of `takenKeys`; nothing when none is taken, or all that would do are.
+    [[nodiscard]] std::optional<Offer> offer();
     /// The digits of the pinned clips' shortcuts that are registered now.
     [[nodiscard]] const QSet<int>& availablePinnedNumbers() const { return m_pinnedNumbers; }
     [[nodiscard]] const std::vector<quint32>& hotKeyIDs() const { return m_hotKeyIDs; }

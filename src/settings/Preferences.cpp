@@ -10,30 +10,22 @@ namespace vellumry {
 namespace {
 
 constexpr qint64 mostDays = 1'000'000;
+constexpr qint64 mostSeconds = 1'000'000'000;
+constexpr qint64 shortestSensitiveSeconds = 10;
+constexpr qint64 mostInMenu = 1000;
 /// More would not fit into the number of their bytes.
 constexpr qint64 mostMegabytes = std::numeric_limits<qint64>::max() >> 20;
 
 const QString panelPositionsKey = QStringLiteral("panelPositions");
 
 QVariantMap registeredDefaults() {
-    const QStringList secretStores{
-        QStringLiteral("com.1password.1password"),
-        QStringLiteral("com.agilebits.onepassword7"),
-        QStringLiteral("com.bitwarden.desktop"),
-        QStringLiteral("com.apple.keychainaccess"),
-        QStringLiteral("com.apple.Passwords"),
-        QStringLiteral("com.lastpass.lastpassmacdesktop"),
-        QStringLiteral("com.dashlane.dashlanephonefinal"),
-        QStringLiteral("in.sinew.Enpass-Desktop"),
-        QStringLiteral("org.keepassxc.keepassxc"),
-    };
     return {
         {QStringLiteral("recentInMenu"), 10},
         {QStringLiteral("keepForDays"), 0},
         {QStringLiteral("keepAtMost"), 5000},
         {QStringLiteral("mediaLimitMB"), 1024},
         {QStringLiteral("sensitiveSeconds"), 60},
-        {QStringLiteral("ignoredApps"), secretStores},
+        {QStringLiteral("ignoredApps"), Preferences::defaultIgnoredApps()},
         {QStringLiteral("pasteDirectly"), true},
         {QStringLiteral("plainTextByDefault"), false},
         {QStringLiteral("saveNewScreenshots"), false},
@@ -82,15 +74,54 @@ Preferences::Preferences(UserDefaults& defaults)
     m_defaults->registerDefaults(registeredDefaults());
 }
 
+const QStringList& Preferences::defaultIgnoredApps() {
+    static const QStringList secretStores{
+        QStringLiteral("com.1password.1password"),
+        QStringLiteral("com.agilebits.onepassword7"),
+        QStringLiteral("com.bitwarden.desktop"),
+        QStringLiteral("com.apple.keychainaccess"),
+        QStringLiteral("com.apple.Passwords"),
+        QStringLiteral("com.lastpass.lastpassmacdesktop"),
+        QStringLiteral("com.dashlane.dashlanephonefinal"),
+        QStringLiteral("in.sinew.Enpass-Desktop"),
+        QStringLiteral("org.keepassxc.keepassxc"),
+    };
+    return secretStores;
+}
+
 RetentionPolicy Preferences::retentionPolicy() const {
     RetentionPolicy policy;
-    const qint64 days = m_defaults->integer(QStringLiteral("keepForDays"), -mostDays, mostDays);
-    if (days >= 1)
+    if (const qint64 days = keepForDays(); days >= 1)
         policy.maxAge = static_cast<double>(days) * 86'400.0;
-    // A value that is none must not cost the user the history: it is the default, not the floor.
-    policy.maxCount = m_defaults->integer(QStringLiteral("keepAtMost"), 1, std::numeric_limits<qint64>::max());
-    policy.maxMediaBytes = m_defaults->integer(QStringLiteral("mediaLimitMB"), 1, mostMegabytes) << 20;
+    policy.maxCount = keepAtMost();
+    policy.maxMediaBytes = mediaLimitMB() << 20;
     return policy;
+}
+
+qint64 Preferences::keepForDays() const {
+    return std::max<qint64>(0, m_defaults->integer(QStringLiteral("keepForDays"), -mostDays, mostDays));
+}
+
+// A value that is none must not cost the user the history: it is the default, not the floor.
+qint64 Preferences::keepAtMost() const {
+    return m_defaults->integer(QStringLiteral("keepAtMost"), 1, std::numeric_limits<qint64>::max());
+}
+
+qint64 Preferences::mediaLimitMB() const {
+    return m_defaults->integer(QStringLiteral("mediaLimitMB"), 1, mostMegabytes);
+}
+
+qint64 Preferences::sensitiveSeconds() const {
+    return std::max(shortestSensitiveSeconds,
+                    m_defaults->integer(QStringLiteral("sensitiveSeconds"), -mostSeconds, mostSeconds));
+}
+
+qint64 Preferences::recentInMenu() const {
+    return m_defaults->integer(QStringLiteral("recentInMenu"), 0, mostInMenu);
+}
+
+QStringList Preferences::ignoredApps() const {
+    return m_defaults->stringArray(QStringLiteral("ignoredApps")).value_or(QStringList());
 }
 
 Preferences::Appearance Preferences::appearance() const {
@@ -137,6 +168,10 @@ void Preferences::setPanelPosition(std::optional<PanelPosition> position, const 
         m_defaults->removeObject(panelPositionsKey);
     else
         m_defaults->setObject(panelPositionsKey, positions);
+}
+
+bool Preferences::hasPanelPositions() const {
+    return !storedPositions(*m_defaults).isEmpty();
 }
 
 void Preferences::resetPanelPositions() {

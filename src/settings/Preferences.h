@@ -25,10 +25,23 @@ public:
     [[nodiscard]] UserDefaults& defaults() const { return *m_defaults; }
 
     [[nodiscard]] RetentionPolicy retentionPolicy() const;
+    /// Days; 0 for no limit.
+    [[nodiscard]] qint64 keepForDays() const;
+    [[nodiscard]] qint64 keepAtMost() const;
+    /// Mebibytes.
+    [[nodiscard]] qint64 mediaLimitMB() const;
+    /// Seconds that a sensitive clip lives, at least 10.
+    [[nodiscard]] qint64 sensitiveSeconds() const;
+    /// How many clips the menu lists; 0 for none.
+    [[nodiscard]] qint64 recentInMenu() const;
+    /// The applications whose copies are never saved; the password managers among them unless the user chose.
+    [[nodiscard]] QStringList ignoredApps() const;
+    [[nodiscard]] static const QStringList& defaultIgnoredApps();
     [[nodiscard]] Appearance appearance() const;
     /// The user's own list of terminals, which paste on another key (TerminalApps.h).
     [[nodiscard]] static QStringList terminalApps(const UserDefaults& defaults);
     void setIgnoredApps(const QStringList& identifiers);
+    [[nodiscard]] bool hasPanelPositions() const;
 
     /// The stored shortcut; nothing when none was chosen or it cannot be read.
     [[nodiscard]] std::optional<Shortcut> shortcut(const QString& key) const;

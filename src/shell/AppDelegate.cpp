@@ -91,7 +91,7 @@ QString AppDelegate::status() const {
 
 void AppDelegate::reopen() {
     if (m_environment)
-        m_environment->openPanel();
+        m_environment->openSettings();
 }
 
 void AppDelegate::perform(const QString& action) {
@@ -104,6 +104,7 @@ void AppDelegate::perform(const QString& action) {
         {QStringLiteral("ignore-next"), &AppEnvironment::toggleIgnoreNext},
         {QStringLiteral("toggle-screenshots"), &AppEnvironment::toggleScreenshots},
         {QStringLiteral("clear"), &AppEnvironment::askToClear},
+        {QStringLiteral("open-settings"), &AppEnvironment::openSettings},
     };
     if (const auto wanted = actions.value(action))
         (m_environment.get()->*wanted)();

@@ -83,6 +83,7 @@ AppEnvironment::AppEnvironment(Platform& platform)
     makeStack();
     makeStatusItem();
     makeUpdates();
+    makeSettings();
     wire();
 }
 
@@ -145,7 +146,7 @@ void AppEnvironment::wireScreenshots() {
 }
 
 void AppEnvironment::start() {
-    m_panel->setAppearance(panelAppearance(m_preferences->appearance()));
+    applyAppearance();
     installStatusItem();
     m_watcher->start();
     tellOfStart(reloadShortcuts());
@@ -158,13 +159,18 @@ void AppEnvironment::start() {
     QTimer::singleShot(warmUpDelay, this, [this] { m_panel->warmUp(); });
 }
 
+void AppEnvironment::applyAppearance() {
+    m_panel->setAppearance(panelAppearance(m_preferences->appearance()));
+}
+
 void AppEnvironment::watchSettings() {
     SettingsWatch::Reactions reactions;
     reactions.shortcuts = [this] {
         for (const QString& problem : reloadShortcuts())
             showToast({QStringLiteral("exclamationmark.triangle.fill"), problem, ToastMessage::Tone::warning});
     };
-    reactions.appearance = [this] { m_panel->setAppearance(panelAppearance(m_preferences->appearance())); };
+    reactions.appearance = [this] { applyAppearance(); };
+    reactions.anything = [this] { m_settingsModel->refresh(); };
     reactions.screenshots = [this] { m_screenshotSaving->follow(); };
     m_settingsWatch = std::make_unique<SettingsWatch>(*m_platform->defaults, std::move(reactions));
     m_settingsWatch->start(*m_platform->folders, m_platform->settingsFolder);
@@ -213,6 +219,10 @@ void AppEnvironment::showToast(const ToastMessage& message) {
 QStringList AppEnvironment::reloadShortcuts() {
     const QStringList problems = m_shortcuts->reload();
     m_panel->model().setAvailablePinnedNumbers(m_shortcuts->availablePinnedNumbers());
+    m_settingsModel->setShortcutProblems(problems);
+    // What the settings say is what is registered: the watch of their file has nothing to add.
+    if (m_settingsWatch)
+        m_settingsWatch->acknowledge();
     return problems;
 }
 

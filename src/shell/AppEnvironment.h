@@ -3,6 +3,7 @@
 
 #include "capture/ClipboardWatcher.h"
 #include "history/clips/ClipStore.h"
+#include "panel/FieldPasteboard.h"
 #include "panel/PanelController.h"
 #include "paste/HotKeyCenter.h"
 #include "paste/PasteEngine.h"
@@ -10,6 +11,8 @@
 #include "paste/StackWiring.h"
 #include "paste/SurvivingCopy.h"
 #include "settings/Preferences.h"
+#include "settings/SettingsModel.h"
+#include "settings/SettingsWindowController.h"
 #include "shell/HistoryOpening.h"
 #include "shell/Platform.h"
 #include "shell/ScreenshotSaving.h"
@@ -50,6 +53,8 @@ public:
 
     void openPanel();
     void togglePanel();
+    /// The settings window comes to the front with its first pane.
+    void openSettings();
     void showToast(const ToastMessage& message);
     /// Stops the Paste Stack when it runs, else starts it, with the clips that are selected in the open panel when they
     /// are several.
@@ -86,6 +91,8 @@ public:
     [[nodiscard]] ScreenshotSaving& screenshotSaving() { return *m_screenshotSaving; }
     [[nodiscard]] UpdateController& updates() { return *m_updates; }
     [[nodiscard]] PanelController& panel() { return *m_panel; }
+    [[nodiscard]] SettingsModel& settingsModel() { return *m_settingsModel; }
+    [[nodiscard]] SettingsWindowController& settings() { return *m_settings; }
     [[nodiscard]] PasteStack& stack() { return m_stack->stack(); }
     [[nodiscard]] TextReadingQueue& textReader() { return m_textReading->queue(); }
 
@@ -105,6 +112,10 @@ private:
     void installStatusItem();
     void makeUpdates();
     [[nodiscard]] bool isInUse() const;
+    void makeSettings();
+    [[nodiscard]] SettingsActions settingsActions();
+    QCoro::Task<void> readFieldText(ViewEngine::Deliver deliver);
+    void applyAppearance();
     [[nodiscard]] std::vector<ClipRef> stackSeed();
     void startMaintenance();
     void runMaintenance();
@@ -139,6 +150,9 @@ private:
     std::unique_ptr<StatusItemController> m_statusItem;
     std::unique_ptr<UpdateController> m_updates;
     std::unique_ptr<ShortcutRegistrations> m_shortcuts;
+    std::unique_ptr<FieldPasteboard> m_fieldPasteboard;
+    std::unique_ptr<SettingsModel> m_settingsModel;
+    std::unique_ptr<SettingsWindowController> m_settings;
     std::unique_ptr<SettingsWatch> m_settingsWatch;
     std::vector<ToastMessage> m_startMessages; ///< what is still to be told of the start, the next one last
     std::unique_ptr<AlertWindow> m_alert;

@@ -17,6 +17,7 @@ void AppEnvironment::makeStatusItem() {
     m_statusItem->onPastePinned = [this](int number) { m_panel->model().pastePinned(number); };
     m_statusItem->onToggleScreenshots = [this] { toggleScreenshots(); };
     m_statusItem->onClearHistory = [this] { askToClear(); };
+    m_statusItem->onSettings = [this] { openSettings(); };
     m_statusItem->onOpenLink = [this](const QString& address) { openLink(address); };
     m_statusItem->onQuit = &endProgram;
 }

@@ -15,7 +15,8 @@ SettingsWatch::SettingsWatch(const UserDefaults& defaults, Reactions reactions)
                 std::move(reactions.shortcuts),
                 {}},
                {{QStringLiteral("appearance")}, std::move(reactions.appearance), {}},
-               {{QStringLiteral("saveNewScreenshots")}, std::move(reactions.screenshots), {}}} {
+               {{QStringLiteral("saveNewScreenshots")}, std::move(reactions.screenshots), {}}}
+    , m_anything(std::move(reactions.anything)) {
     for (Group& group : m_groups)
         group.values = valuesOf(group);
 }
@@ -47,6 +48,12 @@ void SettingsWatch::look() {
         if (group.reaction)
             group.reaction();
     }
+    if (m_anything)
+        m_anything();
+}
+
+void SettingsWatch::acknowledge() {
+    m_groups.front().values = valuesOf(m_groups.front());
 }
 
 } // namespace vellumry

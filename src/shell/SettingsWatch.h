@@ -21,9 +21,10 @@ class SettingsWatch : public QObject {
 public:
     /// What is done when one of a group has another value than at the last look.
     struct Reactions {
-        std::function<void()> shortcuts;
-        std::function<void()> appearance;
-        std::function<void()> screenshots;
+        std::function<void()> shortcuts{};
+        std::function<void()> appearance{};
+        std::function<void()> screenshots{};
+        std::function<void()> anything{}; ///< at each look, behind the others
     };
 
     /// What the settings say now is taken as done. `defaults` must outlive this.
@@ -33,6 +34,8 @@ public:
     void start(FolderWatching& watching, const QString& folder);
     /// Compares and reacts.
     void look();
+    /// What the settings say of the shortcuts now has been done already.
+    void acknowledge();
 
 private:
     struct Group {
@@ -45,6 +48,7 @@ private:
 
     const UserDefaults* m_defaults;
     std::vector<Group> m_groups;
+    std::function<void()> m_anything;
     std::unique_ptr<FolderWatch> m_watch;
 };
 

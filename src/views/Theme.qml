@@ -26,6 +26,9 @@ QtObject {
     readonly property color warning: dark ? "#ffb454" : "#8a5000"
     readonly property color button: dark ? "#7db0ff" : "#1654c4"
     readonly property color pressedButton: dark ? "#a3c8ff" : "#10409a"
+    readonly property color danger: dark ? "#ff8f87" : "#b3261e"
+    readonly property color card: dark ? "#26272c" : "#ffffff"
+    readonly property color shade: dark ? "#99000000" : "#66202024"
     readonly property color buttonText: dark ? "#10203c" : "#ffffff"
 
     readonly property int titleSize: 14
@@ -37,6 +40,8 @@ QtObject {
     readonly property int emptyTitleSize: 16
     readonly property int emptySize: 13
     readonly property int alertTitleSize: 17
+    readonly property int formSize: 13
+    readonly property int headingSize: 24
 
     readonly property int thin: 1
     readonly property int grid: 4
@@ -64,6 +69,15 @@ QtObject {
     readonly property int alertWidth: 440
     readonly property int messageWidth: 560
     readonly property int buttonWidth: 96
+    readonly property int controlWidth: 220
+    readonly property int pickerWidth: 150
+    readonly property int tabWidth: 84
+    readonly property int switchWidth: 40
+    readonly property int switchHeight: 22
+    readonly property int applicationIcon: 24
+    readonly property int logoSize: 96
+    readonly property int settingsWidth: 540
+    readonly property int welcomeWidth: 640
 
     // The line heights of the fonts in use.
     readonly property int titleLine: Math.ceil(titleFont.height)
@@ -77,6 +91,8 @@ QtObject {
     readonly property int fieldHeight: Math.max(28, onGrid(fieldLine))
     readonly property int menuRowHeight: Math.max(28, onGrid(titleLine + 12))
     readonly property int buttonHeight: Math.max(28, onGrid(smallLine + 12))
+    readonly property int formRowHeight: Math.max(44, onGrid(titleLine + 20))
+    readonly property int controlHeight: Math.max(28, onGrid(titleLine + 8))
     readonly property int barHeight: Math.max(40, onGrid(titleLine + 20))
 
     readonly property FontMetrics titleFont: FontMetrics {

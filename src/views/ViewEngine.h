@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QString>
+#include <functional>
 #include <memory>
 
 class QQmlEngine;
@@ -26,6 +27,13 @@ public:
     [[nodiscard]] QQmlEngine& engine();
 
     void setAppearance(Appearance appearance);
+    /// The clipboard as the fields of all windows use it: Qt's own would wait for its owner. Set by the owner.
+    std::function<void(const QString& text)> copyText = [](const QString&) {};
+    using Deliver = std::function<void(const QString& text)>;
+    std::function<void(Deliver deliver)> readText = [](const Deliver&) {};
+    /// The user wants less motion.
+    std::function<bool()> reducesMotion = [] { return false; };
+
     /// The user's choice, else the desktop's.
     [[nodiscard]] bool isDark() const { return m_isDark; }
 

@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 #include <QGuiApplication>
+#include <QPointer>
 #include <QQmlEngine>
 #include <algorithm>
 
@@ -28,6 +29,10 @@ bool Views::isRightToLeft() const {
     return QGuiApplication::isRightToLeft();
 }
 
+bool Views::reducesMotion() const {
+    return m_engine->reducesMotion();
+}
+
 QString Views::words(const QString& key) const {
     return localised(key.toUtf8().constData());
 }
@@ -37,6 +42,18 @@ void Views::tellSelected(QQuickItem* item) const {
         return;
     QAccessibleEvent event(item, QAccessible::Selection);
     QAccessible::updateAccessibility(&event);
+}
+
+void Views::copy(const QString& text) const {
+    if (!text.isEmpty())
+        m_engine->copyText(text);
+}
+
+void Views::pasteInto(QQuickItem* field) {
+    m_engine->readText([self = QPointer(this), into = QPointer(field)](const QString& text) {
+        if (self && into && !text.isEmpty())
+            Q_EMIT self->pasted(into, text);
+    });
 }
 
 void Views::orderForReading(QQuickItem* content) const {

@@ -29,15 +29,22 @@ public:
     [[nodiscard]] bool isDark() const;
     /// Our words are written from right to left, so all is laid out that way.
     [[nodiscard]] bool isRightToLeft() const;
+    /// The user wants less motion; asked anew at each use.
+    Q_INVOKABLE [[nodiscard]] bool reducesMotion() const;
     /// `key` in the user's language.
     Q_INVOKABLE [[nodiscard]] QString words(const QString& key) const;
     /// Tells screen readers that `item` was selected, or is not any more: Qt tells no change of that state by itself.
     Q_INVOKABLE void tellSelected(QQuickItem* item) const;
     /// Lets screen readers find the children of `content`, which a list made in any order, from top to bottom.
     Q_INVOKABLE void orderForReading(QQuickItem* content) const;
+    /// Copies the text that is selected in a field, as any application does; nothing when there is none.
+    Q_INVOKABLE void copy(const QString& text) const;
+    /// Asks for the text on the clipboard; `pasted` brings it, if there is any.
+    Q_INVOKABLE void pasteInto(QQuickItem* field);
 
 Q_SIGNALS:
     void darkChanged();
+    void pasted(QQuickItem* into, const QString& text);
 
 private:
     const ViewEngine* m_engine;

@@ -107,4 +107,25 @@ TEST(ShortcutRegistrations, LeavesAKeyWithoutAnActionToOthers) {
     EXPECT_EQ(keys.registrar.grabbed.size(), 1u);
 }
 
+TEST(ShortcutRegistrations, AFreeShortcutIsOfferedForTheFirstThatIsTaken) {
+    Keys keys;
+    EXPECT_TRUE(keys.registrations.reload().isEmpty());
+    EXPECT_EQ(keys.registrations.offer(), std::nullopt);
+    keys.registrar.taken = {stackKey, {1, 0x1800}, {1, 0x900}};
+    EXPECT_EQ(keys.registrations.reload().size(), 1);
+    const auto offer = keys.registrations.offer();
+    ASSERT_TRUE(offer);
+    EXPECT_EQ(offer->key, QStringLiteral("pasteStackShortcut"));
+    EXPECT_EQ(offer->shortcut, (Shortcut{1, 0x1200}));
+    EXPECT_FALSE(keys.registrar.holds({1, 0x1200})) << "it was only tried";
+}
+
+TEST(ShortcutRegistrations, WhereAllAreTakenNothingIsOffered) {
+    Keys keys;
+    for (const quint32 modifiers : {0x1100, 0x900, 0x1800, 0x1200, 0x1900, 0xb00})
+        keys.registrar.taken.insert({9, modifiers});
+    EXPECT_EQ(keys.registrations.reload().size(), 1);
+    EXPECT_EQ(keys.registrations.offer(), std::nullopt);
+}
+
 } // namespace vellumry

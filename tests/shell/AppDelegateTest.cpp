@@ -43,10 +43,19 @@ TEST_F(AppDelegateTest, TheEnvironmentComesUpStartedAndIsAnnouncedOnce) {
     EXPECT_TRUE(QFile::exists(historyFile()));
 }
 
-TEST_F(AppDelegateTest, StartingItAgainBringsThePanel) {
+TEST_F(AppDelegateTest, StartingItAgainBringsTheSettings) {
     run();
     instance->onReopen();
-    EXPECT_TRUE(delegate.environment()->panel().isVisible());
+    EXPECT_TRUE(delegate.environment()->settings().isVisible());
+    EXPECT_FALSE(delegate.environment()->panel().isVisible());
+}
+
+TEST_F(AppDelegateTest, TheSettingsComeInPlaceOfThePanel) {
+    run();
+    instance->onAction(QStringLiteral("open-panel"));
+    instance->onAction(QStringLiteral("open-settings"));
+    EXPECT_TRUE(delegate.environment()->settings().isVisible());
+    EXPECT_FALSE(delegate.environment()->panel().isVisible());
 }
 
 TEST_F(AppDelegateTest, TheDesktopsKeyBindingsDoWhatTheShortcutsDo) {
@@ -67,7 +76,7 @@ TEST_F(AppDelegateTest, TheDesktopsKeyBindingsDoWhatTheShortcutsDo) {
 TEST_F(AppDelegateTest, ThePanelDoesNotWaitForTheHistory) {
     ASSERT_TRUE(delegate.applicationDidFinishLaunching());
     ASSERT_EQ(starts, 0);
-    instance->onReopen();
+    instance->onAction(QStringLiteral("open-panel"));
     EXPECT_TRUE(delegate.environment()->panel().isVisible());
 }
 

@@ -57,6 +57,44 @@ TEST_F(AppSettingsTest, AnotherShortcutThatIsTakenIsTold) {
     EXPECT_FALSE(seenTexts().filter(QStringLiteral("is already used by another app")).isEmpty());
 }
 
+TEST_F(AppSettingsTest, WhatAnotherProgramWritesIsShownInTheSettings) {
+    startWatched();
+    environment->openSettings();
+    set("plainTextByDefault", true);
+    EXPECT_TRUE(environment->settingsModel().plainTextByDefault());
+}
+
+TEST_F(AppSettingsTest, AShortcutFromTheSettingsCountsAtOnceAndIsToldThereAlone) {
+    startWatched();
+    const Shortcut other{11, 0x1100};
+    hotKeys->taken.insert({other.keyCode, other.modifiers});
+    defaults->setObject(QStringLiteral("openPanelShortcut"), other.toJson());
+    environment->settingsModel().setPinnedShortcutsEnabled(false);
+    EXPECT_EQ(environment->settingsModel().shortcutProblems().size(), 1);
+    notice();
+    EXPECT_TRUE(seenTexts().filter(QStringLiteral("is already used by another app")).isEmpty());
+    environment->settingsModel().takeOfferedShortcut();
+    EXPECT_EQ(environment->settingsModel().shortcutProblems(), QStringList());
+    EXPECT_TRUE(environment->settingsModel().openPanelShortcut()->title().size() > 0);
+}
+
+TEST_F(AppSettingsTest, WhileOneIsRecordedNoShortcutFires) {
+    startWatched();
+    environment->settingsModel().openPanelShortcut()->toggle();
+    EXPECT_FALSE(press(Shortcut::openPanelDefault()));
+    environment->settingsModel().stopRecording();
+    EXPECT_TRUE(press(Shortcut::openPanelDefault()));
+}
+
+TEST_F(AppSettingsTest, FewerClipsAreKeptAtOnce) {
+    startWatched();
+    for (int index = 0; index < 210; ++index)
+        copyText(qPrintable(QString::number(index)));
+    EXPECT_EQ(store().clips().size(), 210U);
+    environment->settingsModel().keepAtMost()->choose(0);
+    EXPECT_EQ(store().clips().size(), 200U);
+}
+
 TEST_F(AppSettingsTest, ScreenshotsAreWatchedAndLeftAloneAtOnce) {
     startWatched();
     EXPECT_EQ(folders->activeCount, 1) << "the settings' alone";

@@ -48,6 +48,25 @@ TEST_F(SettingsWatchTest, OtherSettingsAreReadWhereTheyAreUsed) {
     EXPECT_EQ(done, QStringList());
 }
 
+TEST_F(SettingsWatchTest, EachLookIsToldBehindTheReactions) {
+    SettingsWatch::Reactions all = reactions();
+    all.anything = [this] { done.append(QStringLiteral("anything")); };
+    SettingsWatch watch(defaults, std::move(all));
+    defaults.setObject(QStringLiteral("appearance"), QStringLiteral("dark"));
+    watch.look();
+    watch.look();
+    EXPECT_EQ(done,
+              QStringList({QStringLiteral("appearance"), QStringLiteral("anything"), QStringLiteral("anything")}));
+}
+
+TEST_F(SettingsWatchTest, AShortcutThatWasRegisteredAlreadyIsNotRegisteredAgain) {
+    SettingsWatch watch(defaults, reactions());
+    defaults.setObject(QStringLiteral("openPanelShortcut"), QByteArray("{}"));
+    watch.acknowledge();
+    watch.look();
+    EXPECT_EQ(done, QStringList());
+}
+
 TEST_F(SettingsWatchTest, SeveralChangesOfOneGroupAreOneReaction) {
     SettingsWatch watch(defaults, reactions());
     defaults.setObject(QStringLiteral("openPanelShortcut"), QByteArray("{}"));

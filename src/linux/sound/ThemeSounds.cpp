@@ -15,6 +15,8 @@ constexpr const char* eventOf(Sound sound) {
     switch (sound) {
     case Sound::pop:
         return "audio-volume-change";
+    case Sound::refusal:
+        return "bell";
     }
     return "";
 }

@@ -5,7 +5,8 @@ namespace vellumry {
 
 /// What the program may be heard with.
 enum class Sound {
-    pop ///< something was pasted
+    pop,    ///< something was pasted
+    refusal ///< a key that does not do
 };
 
 /// The desktop's sounds. Main thread.

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <memory>
+
+class QQuickView;
+
+namespace vellumry {
+
+class SettingsModel;
+class ViewEngine;
+
+/// The window "Vellumry Settings": made when it is first shown, kept hidden after closing. Main thread.
+class SettingsWindowController : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both must outlive this.
+    SettingsWindowController(SettingsModel& model, ViewEngine& views);
+    ~SettingsWindowController() override;
+
+    /// Brings the window to the front with that pane, 0 to 4.
+    void show(int pane);
+    void close();
+    [[nodiscard]] bool isVisible() const;
+    /// Null before it is first shown.
+    [[nodiscard]] QQuickView* window() const { return m_view.get(); }
+
+protected:
+    /// A recording ends when the window loses the keyboard or goes.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void make();
+
+    SettingsModel* m_model;
+    ViewEngine* m_views;
+    std::unique_ptr<QQuickView> m_view;
+};
+
+} // namespace vellumry

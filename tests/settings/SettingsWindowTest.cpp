@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The settings window as it is shown, worked by keys alone.
+#include "settings/SettingsWindowController.h"
+
+#include "settings/SettingsModel.h"
+#include "support/AccessibleItems.h"
+#include "support/Awaited.h"
+#include "support/FakeKeyboardLayout.h"
+#include "support/ShownTexts.h"
+#include "views/ViewEngine.h"
+
+#include <QQuickItem>
+#include <QQuickView>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace vellumry {
+namespace {
+
+class SettingsWindowTest : public ::testing::Test {
+protected:
+    SettingsWindowTest() {
+        model.actions.installedApplications = []() -> QCoro::Task<std::vector<InstalledApplication>> {
+            co_return std::vector<InstalledApplication>{
+                {QStringLiteral("org.example.Editor"), QStringLiteral("Editor"), {}, QStringLiteral("Editor")},
+                {QStringLiteral("org.example.Viewer"), QStringLiteral("Viewer"), {}, QStringLiteral("Viewer")}};
+        };
+        model.actions.isTrusted = [] { return true; };
+        controller.show(0);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(controller.window(), 60'000));
+    }
+    [[nodiscard]] QQuickView& window() const { return *controller.window(); }
+    [[nodiscard]] QQuickItem* root() const { return window().rootObject(); }
+    [[nodiscard]] QStringList texts() const { return shownTexts(root()); }
+    [[nodiscard]] bool shows(const char* text) const { return texts().contains(QString::fromUtf8(text)); }
+    [[nodiscard]] QQuickItem* item(QAccessible::Role role, const char* name) const {
+        return accessibleItem(window().contentItem(), role, QString::fromUtf8(name));
+    }
+    [[nodiscard]] QString focused() const {
+        const QQuickItem* item = window().activeFocusItem();
+        return item ? accessibleName(item) : QString();
+    }
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(controller.window(), static_cast<Qt::Key>(key), modifiers);
+    }
+    /// Tab until that control has the keyboard.
+    void tabTo(const char* name) {
+        for (int step = 0; step < 60 && focused() != QString::fromUtf8(name); ++step)
+            press(Qt::Key_Tab);
+        ASSERT_EQ(focused(), QString::fromUtf8(name));
+    }
+    void goTo(int pane) { root()->setProperty("pane", pane); }
+
+    UserDefaults defaults;
+    Preferences preferences{defaults};
+    FakeKeyboardLayout layout;
+    ViewEngine views;
+    SettingsModel model{preferences, layout};
+    SettingsWindowController controller{model, views};
+};
+
+TEST_F(SettingsWindowTest, IsAnOrdinaryWindowWithItsTitleAndWidth) {
+    EXPECT_EQ(window().title(), QStringLiteral("Vellumry Settings"));
+    EXPECT_EQ(window().width(), 540);
+    EXPECT_EQ(window().type(), Qt::Window);
+    EXPECT_FALSE(window().flags().testFlag(Qt::FramelessWindowHint));
+}
+
+TEST_F(SettingsWindowTest, LeftAndRightGoThroughThePanes) {
+    EXPECT_EQ(focused(), QStringLiteral("General"));
+    const char* const contents[]{"Panel position", "Start / stop Paste Stack", "Keep at most", "Always on",
+                                 "Copy once. Find it anytime."};
+    for (int pane = 0; pane < 5; ++pane) {
+        EXPECT_TRUE(shows(contents[pane])) << contents[pane];
+        press(Qt::Key_Right);
+    }
+    EXPECT_EQ(focused(), QStringLiteral("About")) << "there is none behind the last";
+    press(Qt::Key_Left);
+    EXPECT_EQ(focused(), QStringLiteral("Privacy"));
+    EXPECT_TRUE(shows("Always on"));
+    press(Qt::Key_Home);
+    EXPECT_EQ(focused(), QStringLiteral("General"));
+}
+
+TEST_F(SettingsWindowTest, SpaceWorksASwitchAtOnce) {
+    tabTo("Paste as plain text by default");
+    press(Qt::Key_Space);
+    EXPECT_TRUE(defaults.boolean(QStringLiteral("plainTextByDefault")));
+    QQuickItem* control = item(QAccessible::CheckBox, "Paste as plain text by default");
+    ASSERT_NE(control, nullptr);
+    EXPECT_TRUE(accessibleState(control).checked);
+    press(Qt::Key_Space);
+    EXPECT_FALSE(defaults.boolean(QStringLiteral("plainTextByDefault")));
+}
+
+TEST_F(SettingsWindowTest, ASwitchFollowsTheFile) {
+    defaults.setObject(QStringLiteral("soundWhenPasting"), true);
+    model.refresh();
+    EXPECT_TRUE(accessibleState(item(QAccessible::CheckBox, "Sound when pasting")).checked);
+}
+
+TEST_F(SettingsWindowTest, APickerIsWorkedByArrowsAndByItsList) {
+    tabTo("Recent clips in the menu");
+    press(Qt::Key_Down);
+    EXPECT_EQ(preferences.recentInMenu(), 20);
+    press(Qt::Key_Up);
+    EXPECT_EQ(preferences.recentInMenu(), 10);
+    press(Qt::Key_Space);
+    ASSERT_NE(item(QAccessible::PopupMenu, "Recent clips in the menu"), nullptr);
+    EXPECT_EQ(focused(), QStringLiteral("10")) << "a screen reader hears where it is";
+    press(Qt::Key_End);
+    press(Qt::Key_Up);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(preferences.recentInMenu(), 10);
+    EXPECT_TRUE(window().isVisible()) << "Escape closed the list alone";
+    EXPECT_EQ(focused(), QStringLiteral("Recent clips in the menu"));
+    press(Qt::Key_Space);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(preferences.recentInMenu(), 20);
+    EXPECT_EQ(item(QAccessible::PopupMenu, "Recent clips in the menu"), nullptr);
+}
+
+TEST_F(SettingsWindowTest, TheRowOfThePermissionFollowsTheSwitchAboveIt) {
+    EXPECT_TRUE(shows("Allowed in Privacy & Security → Accessibility"));
+    model.setPasteDirectly(false);
+    EXPECT_FALSE(shows("Allowed in Privacy & Security → Accessibility"));
+    model.actions.isTrusted = [] { return false; };
+    model.setPasteDirectly(true);
+    model.refreshAll();
+    EXPECT_TRUE(shows("Needs your OK in Privacy & Security → Accessibility"));
+    EXPECT_TRUE(shows("Allow…"));
+}
+
+TEST_F(SettingsWindowTest, AShortcutIsRecordedFromTheKeyboardAlone) {
+    goTo(1);
+    tabTo("Open Vellumry");
+    press(Qt::Key_Space);
+    EXPECT_TRUE(shows("Press new shortcut…"));
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(model.openPanelShortcut()->isRecording()) << "no key leaves the recorder";
+    EXPECT_TRUE(shows("Hold Ctrl, Alt or Super with the key."));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_FALSE(model.openPanelShortcut()->isRecording());
+    press(Qt::Key_Return);
+    EXPECT_TRUE(model.openPanelShortcut()->isRecording());
+    press(Qt::Key_Backspace);
+    EXPECT_FALSE(model.openPanelShortcut()->isRecording());
+}
+
+TEST_F(SettingsWindowTest, ARecordingEndsWithItsWindow) {
+    model.pasteStackShortcut()->toggle();
+    controller.close();
+    EXPECT_FALSE(model.pasteStackShortcut()->isRecording());
+}
+
+TEST_F(SettingsWindowTest, ATakenShortcutIsShownWithAnotherOffered) {
+    model.actions.offerShortcut = [] {
+        return std::optional(ShortcutRegistrations::Offer{QStringLiteral("openPanelShortcut"), {9, 0x1800}});
+    };
+    goTo(1);
+    EXPECT_FALSE(shows("Use It"));
+    model.setShortcutProblems({QStringLiteral("X is already used by another app. Pick another shortcut.")});
+    EXPECT_TRUE(shows("X is already used by another app. Pick another shortcut."));
+    tabTo("Use It");
+    press(Qt::Key_Return);
+    EXPECT_EQ(preferences.shortcut(QStringLiteral("openPanelShortcut")), (Shortcut{9, 0x1800}));
+}
+
+TEST_F(SettingsWindowTest, ClearingAsksFirstAndTheWayOutHasTheKeyboard) {
+    int cleared = 0;
+    int deleted = 0;
+    model.actions.clearHistory = [&cleared]() -> QCoro::Task<void> {
+        ++cleared;
+        co_return;
+    };
+    model.actions.deleteEverything = [&deleted]() -> QCoro::Task<void> {
+        ++deleted;
+        co_return;
+    };
+    goTo(2);
+    tabTo("Clear…");
+    press(Qt::Key_Space);
+    EXPECT_TRUE(shows("Clear your clipboard history?"));
+    EXPECT_EQ(focused(), QStringLiteral("Cancel"));
+    for (int step = 0; step < 6; ++step) {
+        press(Qt::Key_Tab);
+        EXPECT_NE(focused(), QStringLiteral("Keep at most")) << "the window behind is out of reach";
+    }
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(shows("Clear your clipboard history?"));
+    EXPECT_EQ(cleared + deleted, 0);
+    EXPECT_EQ(focused(), QStringLiteral("Clear…"));
+    press(Qt::Key_Space);
+    tabTo("Clear History, Keep Pinned");
+    press(Qt::Key_Return);
+    EXPECT_EQ(cleared, 1);
+    press(Qt::Key_Space);
+    tabTo("Delete Everything");
+    press(Qt::Key_Return);
+    EXPECT_EQ(deleted, 1);
+}
+
+TEST_F(SettingsWindowTest, ApplicationsAreChosenByKeysAlone) {
+    goTo(3);
+    tabTo("Add Apps…");
+    press(Qt::Key_Return);
+    EXPECT_EQ(focused(), QStringLiteral("Search apps"));
+    for (const char letter : {'v', 'i', 'e', 'w'})
+        QTest::keyClick(controller.window(), letter);
+    runUntil([this] { return !shows("Editor"); });
+    EXPECT_TRUE(shows("Viewer"));
+    press(Qt::Key_Down);
+    EXPECT_EQ(focused(), QStringLiteral("Viewer"));
+    press(Qt::Key_Space);
+    EXPECT_TRUE(accessibleState(item(QAccessible::CheckBox, "Viewer")).checked);
+    tabTo("Never Save");
+    press(Qt::Key_Return);
+    EXPECT_TRUE(preferences.ignoredApps().contains(QStringLiteral("org.example.Viewer")));
+    EXPECT_TRUE(shows("Viewer")) << "in the list now";
+    tabTo("Save clips from this app again");
+    press(Qt::Key_Space);
+    EXPECT_FALSE(preferences.ignoredApps().contains(QStringLiteral("org.example.Viewer")));
+    EXPECT_FALSE(shows("Viewer"));
+}
+
+TEST_F(SettingsWindowTest, WhatWorksOnThisDesktopIsOnePage) {
+    model.actions.desktopState = [] {
+        DesktopState state;
+        state.capabilities = {
+            Capability::missing(QStringLiteral("XTest"), QStringLiteral("none")).serving({Feature::paste})};
+        return state;
+    };
+    model.refreshAll();
+    tabTo("Show…");
+    press(Qt::Key_Return);
+    EXPECT_TRUE(shows("Pasting for you"));
+    EXPECT_TRUE(shows("XTest: none"));
+    EXPECT_EQ(focused(), QStringLiteral("Done"));
+    press(Qt::Key_Return);
+    EXPECT_FALSE(shows("Pasting for you"));
+}
+
+TEST_F(SettingsWindowTest, TheKeyboardBringsWhatItReachesIntoView) {
+    window().resize(540, 320);
+    tabTo("Save new screenshots");
+    const QQuickItem* control = window().activeFocusItem();
+    const QRectF place = control->mapRectToScene(QRectF(0, 0, control->width(), control->height()));
+    EXPECT_TRUE(QRectF(0, 60, 540, 260).contains(place)) << place.y();
+}
+
+TEST_F(SettingsWindowTest, ClosesByItsKeysAndComesBackWithTheFirstPane) {
+    goTo(3);
+    press(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(controller.isVisible());
+    controller.show(0);
+    EXPECT_TRUE(shows("Panel position"));
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(controller.isVisible());
+}
+
+TEST_F(SettingsWindowTest, EveryControlHasANameForScreenReaders) {
+    for (int pane = 0; pane < 5; ++pane) {
+        goTo(pane);
+        EXPECT_EQ(namelessControls(root()), QStringList()) << pane;
+    }
+}
+
+} // namespace
+} // namespace vellumry
