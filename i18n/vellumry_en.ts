@@ -47,6 +47,13 @@
         </translation>
     </message>
     <message numerus="yes">
+        <source>%n clips deleted</source>
+        <translation>
+            <numerusform>%n clip deleted</numerusform>
+            <numerusform>%n clips deleted</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%n clips selected</source>
         <translation>
             <numerusform>%n clip selected</numerusform>

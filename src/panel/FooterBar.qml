@@ -26,7 +26,7 @@ Item {
     Label {
         anchors.left: parent.left
         anchors.leftMargin: Theme.inset
-        anchors.right: footer.panel.hasAccessibility ? hints.left : permission.left
+        anchors.right: undoButton.left
         anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
         text: footer.panel.countText
@@ -34,6 +34,17 @@ Item {
         font.pixelSize: Theme.footerSize
         Accessible.role: Accessible.StaticText
         Accessible.name: text
+    }
+    FooterButton {
+        id: undoButton
+        objectName: "undoButton"
+        visible: footer.panel.canUndo
+        width: visible ? implicitWidth : 0
+        anchors.right: footer.panel.hasAccessibility ? hints.left : permission.left
+        anchors.rightMargin: visible ? Theme.margin : 0
+        anchors.verticalCenter: parent.verticalCenter
+        text: Views.words("Undo")
+        onAction: footer.panel.undoDeletion()
     }
     Row {
         id: hints

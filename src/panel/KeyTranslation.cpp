@@ -20,6 +20,8 @@ std::optional<quint16> chordKeyCode(int key) {
         return 51;
     case Qt::Key_Delete:
         return 117;
+    case Qt::Key_Z:
+        return 6;
     case Qt::Key_P:
         return 35;
     case Qt::Key_M:
@@ -140,7 +142,11 @@ KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty
         meaning.command = controlledCommand(key);
     else if (flags == eventflag::option && (key == Qt::Key_Return || key == Qt::Key_Enter))
         meaning.command = Command::enterPlain;
-    if (!meaning.command && (flags & eventflag::command) != 0) {
+    constexpr quint16 forwardDelete = 117;
+    if (flags == 0 && key == Qt::Key_Delete && isFieldEmpty)
+        meaning.chord = KeyMeaning::Chord{forwardDelete, eventflag::command};
+    const bool rubsOutWord = key == Qt::Key_Backspace && !isFieldEmpty;
+    if (!meaning.command && !rubsOutWord && (flags & eventflag::command) != 0) {
         std::optional<quint16> keyCode = chordKeyCode(key);
         if (!keyCode)
             keyCode = placedKeyCode(key, place);

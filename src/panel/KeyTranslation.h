@@ -24,7 +24,8 @@ struct KeyMeaning {
 };
 
 /// With Super held, Super and Ctrl count as left over from the shortcut that opened the panel. `isFieldEmpty`: nothing
-/// is typed, so the arrows to the sides choose filters instead of moving the caret. `place` answers the virtual key
+/// is typed, so the arrows to the sides choose filters instead of moving the caret, and Delete and Ctrl+Backspace mean
+/// the clip instead of the text. `place` answers the virtual key
 /// code of the key; it is asked for keys only whose letter no chord has.
 [[nodiscard]] KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty,
                                    const std::function<std::optional<quint32>()>& place = nullptr);

@@ -40,6 +40,8 @@ PanelFacade::PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::functio
     connect(&m_rows, &PanelListModel::fellBehind, &m_catchUp, qOverload<>(&QTimer::start));
     connect(m_model, &PanelModel::focusTokenChanged, this, &PanelFacade::focusTokenChanged);
     connect(m_model, &PanelModel::transformChanged, this, &PanelFacade::transformChanged);
+    connect(m_model, &PanelModel::undoChanged, this, &PanelFacade::undoChanged);
+    connect(m_model, &PanelModel::undoChanged, this, &PanelFacade::countTextChanged);
     connect(m_model, &PanelModel::hasAccessibilityChanged, this, &PanelFacade::hasAccessibilityChanged);
 }
 
@@ -154,6 +156,8 @@ QStringList PanelFacade::emptyLines() const {
 }
 
 QString PanelFacade::countText() const {
+    if (const int deleted = m_model->undoCount(); deleted > 0)
+        return localised("%n clips deleted", deleted);
     if (const int chosen = m_model->selectedCount(); chosen > 1)
         return localised("%n clips selected", chosen);
     const auto count = static_cast<int>(m_model->count(ClipFilter::all));

@@ -43,6 +43,7 @@ class PanelFacade : public QObject {
     Q_PROPERTY(int transformIndex READ transformIndex NOTIFY transformChanged)
     Q_PROPERTY(QStringList transforms READ transforms CONSTANT)
     Q_PROPERTY(bool isStackActive READ isStackActive NOTIFY stackChanged)
+    Q_PROPERTY(bool canUndo READ canUndo NOTIFY undoChanged)
     Q_PROPERTY(vellumry::PanelMenu* menu READ menu CONSTANT)
     Q_PROPERTY(bool hasStatusMenu READ hasStatusMenu CONSTANT)
     Q_PROPERTY(int shadowMargin READ shadowMargin NOTIFY shadowMarginChanged)
@@ -51,8 +52,11 @@ public:
     /// `openPanelKeys` answers the words for the shortcut that opens the panel.
     PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::function<QString()> openPanelKeys);
 
-    /// True when the key was the panel's. `scanCode`: the native one.
-    Q_INVOKABLE bool keyPressed(int key, int modifiers, quint32 scanCode, bool hasTextSelection);
+    /// True when the key was the panel's. `scanCode`: the native one; `isRepeated`: it is held down.
+    Q_INVOKABLE bool keyPressed(int key, int modifiers, quint32 scanCode, bool hasTextSelection, bool isRepeated);
+    /// Where the word before the caret begins, the blanks before it included.
+    Q_INVOKABLE [[nodiscard]] int startOfWordToRubOut(const QString& text, int caret) const;
+    Q_INVOKABLE void undoDeletion();
     /// Asks for what was copied; `pasted` tells it, now or later, or never.
     Q_INVOKABLE void pasteIntoField();
     Q_INVOKABLE void copyFromField(const QString& text);
@@ -105,6 +109,7 @@ public:
     [[nodiscard]] bool isStackActive() const;
     /// The stack that the panel's button stands for; it need not outlive this.
     void setStack(PasteStack& stack);
+    [[nodiscard]] bool canUndo() const { return m_model->undoCount() > 0; }
     [[nodiscard]] PanelMenu* menu() { return &m_menu; }
     [[nodiscard]] bool hasStatusMenu() const { return bool(statusMenu); }
     [[nodiscard]] int shadowMargin() const { return m_shadowMargin; }
@@ -141,6 +146,7 @@ Q_SIGNALS:
     void statusMenuAsked();
     void transformChanged();
     void stackChanged();
+    void undoChanged();
     void shadowMarginChanged();
     void presented();
     /// What is to take the place of the field's selection.

@@ -4,6 +4,7 @@
 
 #include "foundation/Localisation.h"
 #include "history/clips/ClipStore.h"
+#include "panel/FieldEditing.h"
 #include "panel/KeyTranslation.h"
 #include "panel/PanelFacade.h"
 #include "panel/RowMenu.h"
@@ -22,7 +23,7 @@ bool isMenuKey(int key, Qt::KeyboardModifiers modifiers) {
 
 } // namespace
 
-bool PanelFacade::keyPressed(int key, int modifiers, quint32 scanCode, bool hasTextSelection) {
+bool PanelFacade::keyPressed(int key, int modifiers, quint32 scanCode, bool hasTextSelection, bool isRepeated) {
     if (m_menu.isOpen()) {
         m_menu.keyPressed(key, Qt::KeyboardModifiers(modifiers));
         return true;
@@ -41,9 +42,20 @@ bool PanelFacade::keyPressed(int key, int modifiers, quint32 scanCode, bool hasT
         searchTyped();
     if (meaning.command)
         return m_model->handle(*meaning.command);
+    // Held down, a key that was rubbing out text would go on with the history.
+    if (meaning.chord && isRepeated && (key == Qt::Key_Backspace || key == Qt::Key_Delete))
+        return true;
     if (meaning.chord)
         return m_model->keyEquivalent(meaning.chord->keyCode, meaning.chord->flags, hasTextSelection);
     return false;
+}
+
+int PanelFacade::startOfWordToRubOut(const QString& text, int caret) const {
+    return int(vellumry::startOfWordToRubOut(text, caret));
+}
+
+void PanelFacade::undoDeletion() {
+    m_model->undoDeletion();
 }
 
 /// The Menu key and Shift+F10 open the row's menu, F10 alone that of the program.

@@ -13,6 +13,13 @@ PanelModel::PanelModel(ClipStore& store, PasteEngine& paster, PanelModelCalendar
     , d(std::make_unique<Private>(store, paster, std::move(calendar))) {
     d->hasAccessibility = paster.isTrusted();
     connect(&store, &ClipStore::clipsChanged, this, &PanelModel::followStore);
+    connect(&d->undo, &DeletionUndo::changed, this, &PanelModel::undoChanged);
+    connect(&d->undo, &DeletionUndo::tookBack, this, [this](const RemovedClips& clips) {
+        QSet<QUuid> ids;
+        for (const RemovedClips::Entry& entry : *clips.entries)
+            ids.insert(entry.clip->id);
+        selectAll(ids);
+    });
 }
 
 PanelModel::~PanelModel() = default;
@@ -75,6 +82,7 @@ void PanelModel::setQuery(const QString& query) {
     if (query == d->query)
         return;
     d->query = query;
+    ++d->edits;
     Q_EMIT queryChanged();
     Q_EMIT sectionsChanged();
 }
@@ -106,6 +114,8 @@ void PanelModel::setHoveredID(std::optional<QUuid> id) {
 }
 
 void PanelModel::setPresented(bool value) {
+    if (!value)
+        d->undo.forget();
     if (std::exchange(d->isPresented, value) != value)
         Q_EMIT isPresentedChanged();
 }

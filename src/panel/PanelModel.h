@@ -13,6 +13,7 @@
 #include <QSet>
 #include <QUuid>
 #include <array>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -130,7 +131,15 @@ public:
     void copyClip(const ClipRef& clip);
     /// Pins the selected clips, or unpins them when all are pinned.
     void togglePin();
+    /// For some seconds, while the panel is shown, `undoDeletion` brings the clips back; not sensitive ones, nor more
+    /// than fits in memory.
     void deleteSelected();
+    /// Brings the clips of the last deletion back, with their pins and places, and selects them. False without one.
+    bool undoDeletion();
+    /// How many clips that would bring back; 0 for none.
+    [[nodiscard]] int undoCount() const;
+    /// How long a deletion can be undone; 8 seconds at first.
+    void setUndoTime(std::chrono::milliseconds time);
     void merge(MergeAction action);
     void toggleTransforms();
     /// Pastes the names of a clip's files, one a line.
@@ -195,6 +204,7 @@ Q_SIGNALS:
     void fileStatusesChanged();
     void transformChanged();
     void availablePinnedNumbersChanged();
+    void undoChanged();
 
 private:
     [[nodiscard]] qsizetype visibleIndex(const std::optional<QUuid>& id) const;
@@ -217,6 +227,8 @@ private:
     QCoro::Task<void> runCopy(ClipRef clip);
     QCoro::Task<void> runPin(std::vector<ClipRef> clips, bool isPinned);
     QCoro::Task<void> runDelete(QSet<QUuid> ids);
+    QCoro::Task<void> runTakeOut(QSet<QUuid> ids);
+    void selectAll(const QSet<QUuid>& ids);
     QCoro::Task<void> runMerge(std::vector<ClipRef> clips, MergeAction action);
     QCoro::Task<ClipRef> addMerged(std::vector<ClipRef> clips);
 

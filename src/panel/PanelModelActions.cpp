@@ -5,9 +5,17 @@
 
 #include <algorithm>
 #include <ranges>
+#include <utility>
 #include <variant>
 
 namespace vellumry {
+
+namespace {
+
+/// What is held in memory of one deletion until it can no longer be undone.
+constexpr qint64 mostUndoableBytes = 256LL * 1024 * 1024;
+
+} // namespace
 
 void PanelModel::showToast(const std::optional<ToastMessage>& message) {
     if (message)
@@ -126,10 +134,45 @@ void PanelModel::deleteSelected() {
     if (doomed.empty())
         return;
     selectAfterDeleting(doomed);
-    QSet<QUuid> ids;
-    for (const auto& clip : doomed)
-        ids.insert(clip->id);
-    runDelete(std::move(ids));
+    QSet<QUuid> forGood;
+    QSet<QUuid> undoable;
+    qint64 bytes = 0;
+    for (const auto& clip : doomed) {
+        bytes += clip->byteSize;
+        const bool comesBack = d->isPresented && !clip->isSensitive() && bytes <= mostUndoableBytes;
+        (comesBack ? undoable : forGood).insert(clip->id);
+    }
+    if (bytes > mostUndoableBytes) // all or none: half of a selection back would surprise
+        forGood.unite(std::exchange(undoable, {}));
+    if (!undoable.isEmpty())
+        runTakeOut(std::move(undoable));
+    if (!forGood.isEmpty())
+        runDelete(std::move(forGood));
+}
+
+QCoro::Task<void> PanelModel::runTakeOut(QSet<QUuid> ids) {
+    const QPointer<PanelModel> self(this);
+    const auto deletion = d->undo.begin(int(ids.size()), d->edits);
+    auto taking = d->store.takeOut(std::move(ids));
+    auto removed = co_await taking;
+    if (self)
+        d->undo.arrive(deletion, std::move(removed));
+}
+
+bool PanelModel::undoDeletion() {
+    if (undoCount() == 0)
+        return false;
+    d->undo.takeBack();
+    return true;
+}
+
+int PanelModel::undoCount() const {
+    const auto last = d->undo.last();
+    return last ? last->count : 0;
+}
+
+void PanelModel::setUndoTime(std::chrono::milliseconds time) {
+    d->undo.setTime(time);
 }
 
 /// The next clip that stays, else the nearest one before.

@@ -14,6 +14,7 @@ constexpr int lastTransform = int(PanelModel::transformList.size()) - 1;
 
 /// Virtual key codes of the keys that do something together with Command.
 namespace keycode {
+constexpr quint16 z = 6;
 constexpr quint16 c = 8;
 constexpr quint16 q = 12;
 constexpr quint16 w = 13;
@@ -174,6 +175,11 @@ bool PanelModel::keyEquivalent(quint16 keyCode, quint32 flags, bool hasTextSelec
     case keycode::forwardDelete:
         deleteSelected();
         return true;
+    case keycode::z: {
+        // What was typed since is what the user means to undo.
+        const auto last = d->undo.last();
+        return last && last->edits == d->edits && undoDeletion();
+    }
     case keycode::p:
         togglePin();
         return true;

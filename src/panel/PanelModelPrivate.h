@@ -3,6 +3,7 @@
 
 #include "capture/FileStatus.h"
 #include "history/clips/ClipStore.h"
+#include "panel/DeletionUndo.h"
 #include "panel/PanelModel.h"
 #include "panel/PanelModelDayFormat.h"
 #include "paste/PasteEngine.h"
@@ -37,7 +38,8 @@ struct PanelModel::Private {
     Private(ClipStore& clipStore, PasteEngine& engine, PanelModelCalendar userCalendar)
         : store(clipStore)
         , paster(engine)
-        , calendar(std::move(userCalendar)) {}
+        , calendar(std::move(userCalendar))
+        , undo(clipStore) {}
 
     [[nodiscard]] bool isPlainList() const;
     [[nodiscard]] CacheKey key();
@@ -62,6 +64,9 @@ struct PanelModel::Private {
     std::optional<QUuid> transformClipID;
     int transformIndex = 0;
     QSet<int> availablePinnedNumbers{1, 2, 3, 4, 5, 6, 7, 8, 9};
+
+    DeletionUndo undo;
+    quint64 edits = 0; ///< of the search field
 
     std::optional<SectionCache> sectionCache;
     std::optional<CountCache> countCache;

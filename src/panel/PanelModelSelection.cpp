@@ -72,6 +72,21 @@ void PanelModel::select(std::optional<QUuid> id) {
     setSelection(id, {}, id);
 }
 
+/// Those of `ids` that are visible; nothing changes without any.
+void PanelModel::selectAll(const QSet<QUuid>& ids) {
+    QSet<QUuid> several;
+    std::optional<QUuid> first;
+    for (const ClipRef& clip : visibleClips()) {
+        if (!ids.contains(clip->id))
+            continue;
+        if (!first)
+            first = clip->id;
+        several.insert(clip->id);
+    }
+    if (first)
+        setSelection(first, several.size() < 2 ? QSet<QUuid>() : several, first);
+}
+
 void PanelModel::selectOnly(const QUuid& id) {
     select(id);
 }

@@ -20,6 +20,16 @@ TextInput {
         replaceSelection("");
     }
 
+    function rubOutWord() {
+        if (selectionStart === selectionEnd) {
+            const end = cursorPosition;
+            // A moved caret begins a new step for undo: the typing before it is another.
+            cursorPosition = panel.startOfWordToRubOut(text, end);
+            select(cursorPosition, end);
+        }
+        replaceSelection("");
+    }
+
     verticalAlignment: TextInput.AlignVCenter
     horizontalAlignment: TextInput.AlignLeft
     text: panel.query
@@ -41,7 +51,7 @@ TextInput {
     // The clipboard is ours to ask: the field itself would wait for its owner, and the panel with it.
     Keys.onPressed: event => {
         event.accepted = true;
-        if (panel.keyPressed(event.key, event.modifiers, event.nativeScanCode, selectedText.length > 0))
+        if (panel.keyPressed(event.key, event.modifiers, event.nativeScanCode, selectedText.length > 0, event.isAutoRepeat))
             return;
         if (event.matches(StandardKey.Paste))
             panel.pasteIntoField();
@@ -49,6 +59,8 @@ TextInput {
             panel.copyFromField(selectedText);
         else if (event.matches(StandardKey.Cut))
             cutSelection();
+        else if (event.key === Qt.Key_Backspace && event.modifiers === Qt.ControlModifier)
+            rubOutWord();
         else
             event.accepted = false;
     }

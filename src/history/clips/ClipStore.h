@@ -4,6 +4,7 @@
 #include "foundation/Date.h"
 #include "history/clips/Clip.h"
 #include "history/clips/ClipFilter.h"
+#include "history/clips/RemovedClips.h"
 #include "history/clips/RetentionPolicy.h"
 #include "platform/desktop/DateTimer.h"
 
@@ -79,6 +80,13 @@ public:
     QCoro::Task<void> setImageText(QUuid id, std::optional<QString> text, bool isAccurate);
     /// `thorough` gives the space back even for little.
     QCoro::Task<void> remove(QSet<QUuid> ids, bool thorough);
+    /// Removes clips as `remove` does, from memory and from the file, and hands them over whole.
+    QCoro::Task<RemovedClips> takeOut(QSet<QUuid> ids);
+    /// Clips that were taken out are there again as they were: identity, dates, pins and place. Not those of a content
+    /// that was copied again meanwhile, and none when the history was cleared or joined another since.
+    QCoro::Task<void> putBack(RemovedClips removed);
+    /// What was taken out is not to come back: nothing of it is left, neither here nor in the file or its log.
+    QCoro::Task<void> letGo(RemovedClips removed);
     QCoro::Task<void> clearHistory(bool keepPinned);
     QCoro::Task<void> enforceRetention(Date now);
 

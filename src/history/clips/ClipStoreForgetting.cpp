@@ -28,6 +28,7 @@ QCoro::Task<void> ClipStore::clearHistory(bool keepPinned) {
     // the database's thread instead, which asks it for the ids and throws it away.
     if (!d->writer.hasDatabase() && d->cleared != ClearedBefore::everything)
         d->cleared = keepPinned ? ClearedBefore::unpinned : ClearedBefore::everything;
+    ++d->era;
     std::shared_ptr<ClipList> gone = d->list.takeAll(keepPinned);
     if (!gone)
         co_return;

@@ -64,6 +64,7 @@ void ClipStore::join(std::shared_ptr<ClipDatabase> database, std::vector<ClipRef
     d->list.assign(std::move(joined.clips));
     d->writer.setDatabase(std::move(database), joined.replaced, joined.unwanted);
     d->isOpening = false;
+    ++d->era;
     changed();
     Q_EMIT storageChanged();
 }

@@ -43,6 +43,7 @@ QCoro::Task<void> HistoryWriter::insert(QUuid id, ClipPayload payload) {
     Unsaved& unsaved = m_unsaved[id];
     release(std::exchange(unsaved.payload, std::make_shared<ClipPayload>(std::move(payload))));
     ++unsaved.version;
+    m_doomed.remove(id); // put back before its row could be deleted
     if (!m_database)
         co_return;
     auto writing = write(id);
@@ -188,8 +189,12 @@ QCoro::Task<bool> HistoryWriter::deleteRows(std::vector<QUuid> ids) {
     const bool isDeleted = co_await deleting;
     if (!self)
         co_return isDeleted;
-    for (const QUuid& id : ids)
-        isDeleted ? (void)m_doomed.remove(id) : (void)m_doomed.insert(id);
+    for (const QUuid& id : ids) {
+        if (isDeleted || m_find(id)) // or it was put back meanwhile
+            m_doomed.remove(id);
+        else
+            m_doomed.insert(id);
+    }
     isDeleted ? settle() : failed();
     co_return isDeleted;
 }
@@ -209,6 +214,14 @@ QCoro::Task<bool> HistoryWriter::reclaim() {
             m_timer.start(m_delay);
     }
     co_return isReclaimed;
+}
+
+QCoro::Task<void> HistoryWriter::letGo(std::shared_ptr<const void> thing) {
+    if (!m_database)
+        co_return;
+    m_database->dispose(std::move(thing));
+    auto reclaiming = reclaim();
+    co_await reclaiming;
 }
 
 void HistoryWriter::forgetGone() {

@@ -55,6 +55,8 @@ public:
     QCoro::Task<void> remove(std::vector<QUuid> ids, bool mustReclaim);
     /// The same for so many that listing them takes a while: `ids` is asked on the history's own thread.
     QCoro::Task<void> removeAllOf(std::function<std::vector<QUuid>()> ids);
+    /// Lets go of what was removed, and leaves nothing of removed rows in the file or its log.
+    QCoro::Task<void> letGo(std::shared_ptr<const void> thing);
     /// Drops the payloads of clips that have gone.
     void forgetGone();
     /// Tries all that waits, now.
