@@ -466,5 +466,34 @@
         <source>⌘1 … ⌘9</source>
         <translation>Ctrl+1 … Ctrl+9</translation>
     </message>
+    <message numerus="yes">
+        <source>Last checked %n minutes ago</source>
+        <translation>
+            <numerusform>Last checked %n minute ago</numerusform>
+            <numerusform>Last checked %n minutes ago</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Last checked %n hours ago</source>
+        <translation>
+            <numerusform>Last checked %n hour ago</numerusform>
+            <numerusform>Last checked %n hours ago</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Last checked %n days ago</source>
+        <translation>
+            <numerusform>Last checked %n day ago</numerusform>
+            <numerusform>Last checked %n days ago</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pick a clip and it lands right where you were typing. macOS asks you to allow this once.</source>
+        <translation>Pick a clip and it lands right where you were typing. Some desktops ask you to allow this once.</translation>
+    </message>
+    <message>
+        <source>macOS keeps %1 closed. Allow it in Files and Folders.</source>
+        <translation>%1 is closed to Vellumry. Give yourself permission to read that folder.</translation>
+    </message>
 </context>
 </TS>

@@ -57,6 +57,15 @@ Capability keyring(const QDBusConnection& bus) {
     return without("no Secret Service on the bus");
 }
 
+Capability tray(const QDBusConnection& bus) {
+    const QString name = QStringLiteral("tray");
+    const QString watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
+    if (bus.isConnected() && asked(bus, QStringLiteral("NameHasOwner"), {watcher}).arguments().value(0).toBool())
+        return Capability::found(name);
+    return Capability::without(name, QStringLiteral("no StatusNotifierWatcher: the menu is reached from the panel, or "
+                                                    "in a tray of the older kind"));
+}
+
 Capability reader(const QString& path) {
     const QString name = QStringLiteral("picture reader");
     if (QFileInfo(path).isExecutable())
@@ -112,8 +121,11 @@ std::vector<Capability> ofSession(const QString& readerPath) {
     return {bus.isConnected() ? Capability::found(busName)
                               : Capability::missing(busName, QStringLiteral("none: a second start is told by a lock "
                                                                             "alone, no actions from outside")),
-            keyring(bus).serving({Feature::keyring}), reader(readerPath).serving({Feature::reading}),
-            languages().serving({Feature::reading}), sounds()};
+            keyring(bus).serving({Feature::keyring}),
+            tray(bus).serving({Feature::tray}),
+            reader(readerPath).serving({Feature::reading}),
+            languages().serving({Feature::reading}),
+            sounds()};
 }
 
 } // namespace vellumry::capabilities

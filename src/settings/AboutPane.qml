@@ -48,15 +48,40 @@ ScrollPane {
         }
     }
     FormSection {
-        FormRow {
-            title: Views.words("Updates")
+        title: Views.words("Updates")
 
-            Label {
-                text: Views.words("Off in developer builds")
-                color: Theme.secondary
-                font.pixelSize: Theme.formSize
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
+        FormRow {
+            visible: !pane.settings.hasUpdates
+            title: Views.words("Off in developer builds")
+            help: Views.words("Where a package manager keeps Vellumry, it updates it too.")
+        }
+        SwitchRow {
+            visible: pane.settings.hasUpdates
+            title: Views.words("Install updates automatically")
+            help: Views.words("Vellumry updates itself while you're away from your Mac. Off = it asks first.")
+            isOn: pane.settings.installsUpdates
+            onToggled: value => pane.settings.installsUpdates = value
+        }
+        FormRow {
+            visible: pane.settings.hasUpdates
+            title: Views.words("Checks once a day")
+            help: pane.settings.lastChecked
+
+            PushButton {
+                text: Views.words("Check Now")
+                onPressed: pane.settings.checkForUpdates()
+            }
+        }
+        FormRow {
+            visible: pane.settings.updateReady !== ""
+            symbol: "arrow.down.circle.fill"
+            symbolColour: Theme.accent
+            title: pane.settings.updateReady
+
+            PushButton {
+                isChief: true
+                text: Views.words("Restart Now")
+                onPressed: pane.settings.installUpdate()
             }
         }
     }

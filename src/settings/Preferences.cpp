@@ -29,7 +29,6 @@ QVariantMap registeredDefaults() {
         {QStringLiteral("pasteDirectly"), true},
         {QStringLiteral("plainTextByDefault"), false},
         {QStringLiteral("saveNewScreenshots"), false},
-        {QStringLiteral("greeted"), false},
         {QStringLiteral("onboardingDone"), false},
         {QStringLiteral("pinnedShortcutsEnabled"), true},
         {QStringLiteral("soundWhenPasting"), false},

@@ -13,6 +13,16 @@
 
 namespace vellumry {
 
+/// What there is to say of newer versions.
+struct UpdateState {
+    bool isEnabled = false;
+    bool automaticallyInstalls = false;
+    std::optional<QString> readyVersion{};
+    std::optional<double> secondsSinceCheck{};
+
+    bool operator==(const UpdateState&) const = default;
+};
+
 /// How the settings reach everything outside the preferences. What is not set does nothing. Main thread.
 struct SettingsActions {
     std::function<bool()> isLaunchedAtLogin = [] { return false; };
@@ -43,6 +53,10 @@ struct SettingsActions {
     std::function<QCoro::Task<std::vector<InstalledApplication>>()> installedApplications =
         []() -> QCoro::Task<std::vector<InstalledApplication>> { co_return std::vector<InstalledApplication>(); };
     std::function<DesktopState()> desktopState = [] { return DesktopState(); };
+    std::function<UpdateState()> updates = [] { return UpdateState(); };
+    std::function<void(bool isOn)> setAutomaticUpdates = [](bool) {};
+    std::function<void()> checkForUpdates = [] {};
+    std::function<void()> installUpdate = [] {};
     std::function<void()> beep = [] {};
 };
 

@@ -12,6 +12,7 @@ namespace {
 
 constexpr qint64 minute = 60;
 constexpr qint64 hour = 3600;
+constexpr qint64 day = 86'400;
 
 /// The words count with an int; nothing sensible is larger.
 QString counted(const char* key, qint64 count) {
@@ -59,6 +60,17 @@ QString lifetime(qint64 seconds) {
 
 QString recent(qint64 count) {
     return count == 0 ? localised("None") : QString::number(count);
+}
+
+QString lastChecked(double secondsAgo) {
+    const auto seconds = static_cast<qint64>(std::clamp(secondsAgo, 0.0, 1e12));
+    if (seconds < minute)
+        return localised("Last checked just now");
+    if (seconds < hour)
+        return counted("Last checked %n minutes ago", seconds / minute);
+    if (seconds < day)
+        return counted("Last checked %n hours ago", seconds / hour);
+    return counted("Last checked %n days ago", seconds / day);
 }
 
 QString appearance(qint64 value) {

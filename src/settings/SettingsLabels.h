@@ -16,6 +16,8 @@ namespace vellumry::settingslabels {
 [[nodiscard]] QString lifetime(qint64 seconds);
 /// How many clips the menu lists; 0 hides them.
 [[nodiscard]] QString recent(qint64 count);
+/// When it was looked for updates, that many seconds ago.
+[[nodiscard]] QString lastChecked(double secondsAgo);
 /// 0 to 2: as the desktop, light, dark.
 [[nodiscard]] QString appearance(qint64 value);
 

@@ -72,6 +72,7 @@ void SettingsModel::refreshAll() {
     m_hasAccessibility = actions.isTrusted();
     m_report.setLines(desktopReport(actions.desktopState()));
     m_offer = m_shortcutProblems.isEmpty() ? std::nullopt : actions.offerShortcut();
+    m_updates = actions.updates();
     readHistorySize();
     refresh();
     Q_EMIT changed();
@@ -204,6 +205,25 @@ void SettingsModel::setSheet(const QString& sheet) {
         return;
     m_sheet = sheet;
     Q_EMIT sheetChanged();
+}
+
+void SettingsModel::setInstallsUpdates(bool isOn) {
+    actions.setAutomaticUpdates(isOn);
+    noteUpdates();
+}
+
+void SettingsModel::noteUpdates() {
+    m_updates = actions.updates();
+    Q_EMIT changed();
+}
+
+QString SettingsModel::updateReady() const {
+    return m_updates.readyVersion ? localised("Vellumry %1 is ready to install").arg(*m_updates.readyVersion)
+                                  : QString();
+}
+
+QString SettingsModel::lastChecked() const {
+    return m_updates.secondsSinceCheck ? settingslabels::lastChecked(*m_updates.secondsSinceCheck) : QString();
 }
 
 QString SettingsModel::version() const {

@@ -49,6 +49,10 @@ class SettingsModel : public QObject {
     Q_PROPERTY(vellumry::FormListModel* offeredApps READ offeredApps CONSTANT)
     Q_PROPERTY(vellumry::FormListModel* report READ report CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
+    Q_PROPERTY(bool hasUpdates READ hasUpdates NOTIFY changed)
+    Q_PROPERTY(bool installsUpdates READ installsUpdates WRITE setInstallsUpdates NOTIFY changed)
+    Q_PROPERTY(QString updateReady READ updateReady NOTIFY changed)
+    Q_PROPERTY(QString lastChecked READ lastChecked NOTIFY changed)
     /// What is asked over the panes: "clear", "applications", "report", or nothing.
     Q_PROPERTY(QString sheet READ sheet WRITE setSheet NOTIFY sheetChanged)
 
@@ -99,6 +103,14 @@ public:
     [[nodiscard]] int chosenCount() const { return static_cast<int>(m_chosen.size()); }
     [[nodiscard]] bool isForTerminals() const { return m_isForTerminals; }
     [[nodiscard]] QString version() const;
+    [[nodiscard]] bool hasUpdates() const { return m_updates.isEnabled; }
+    [[nodiscard]] bool installsUpdates() const { return m_updates.automaticallyInstalls; }
+    void setInstallsUpdates(bool isOn);
+    /// A sentence on the version that waits to be installed; empty when there is none.
+    [[nodiscard]] QString updateReady() const;
+    [[nodiscard]] QString lastChecked() const;
+    /// The updater has something new to say.
+    void noteUpdates();
     [[nodiscard]] const QString& sheet() const { return m_sheet; }
     void setSheet(const QString& sheet);
 
@@ -116,6 +128,8 @@ public:
     [[nodiscard]] FormListModel* report() { return &m_report; }
 
     Q_INVOKABLE void allowPasting();
+    Q_INVOKABLE void checkForUpdates() { actions.checkForUpdates(); }
+    Q_INVOKABLE void installUpdate() { actions.installUpdate(); }
     Q_INVOKABLE void centerPanel();
     Q_INVOKABLE void takeOfferedShortcut();
     Q_INVOKABLE void clearHistory() { runClearing(false); }
@@ -168,6 +182,7 @@ private:
     std::optional<ShortcutRegistrations::Offer> m_offer;
     QString m_historySize;
     std::optional<FileAccess::Result> m_fileAccess;
+    UpdateState m_updates;
     std::vector<InstalledApplication> m_applications;
     bool m_isForTerminals = false; ///< what applications are being chosen for; else those never saved from
     QString m_words;

@@ -91,7 +91,7 @@ QString AppDelegate::status() const {
 
 void AppDelegate::reopen() {
     if (m_environment)
-        m_environment->openSettings();
+        m_environment->reopen();
 }
 
 void AppDelegate::perform(const QString& action) {

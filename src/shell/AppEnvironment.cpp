@@ -10,7 +10,6 @@
 #include "shell/AlertWindow.h"
 #include "shell/HistoryFolder.h"
 #include "shell/PasteSound.h"
-#include "shell/StartMessages.h"
 #include "shell/StartupAlert.h"
 
 #include <QFileInfo>
@@ -84,6 +83,7 @@ AppEnvironment::AppEnvironment(Platform& platform)
     makeStatusItem();
     makeUpdates();
     makeSettings();
+    makeOnboarding();
     wire();
 }
 
@@ -149,7 +149,11 @@ void AppEnvironment::start() {
     applyAppearance();
     installStatusItem();
     m_watcher->start();
-    tellOfStart(reloadShortcuts());
+    const QStringList shortcutProblems = reloadShortcuts();
+    if (!m_platform->defaults->boolean(QStringLiteral("onboardingDone")))
+        m_onboarding->show();
+    else
+        tellOfStart(shortcutProblems);
     watchSettings();
     startMaintenance();
     m_store->enforceRetention(m_platform->clock());
@@ -177,15 +181,10 @@ void AppEnvironment::watchSettings() {
 }
 
 void AppEnvironment::tellOfStart(const QStringList& shortcutProblems) {
-    StartNews news;
-    news.isFirstStart = !m_platform->defaults->boolean(QStringLiteral("greeted"));
-    news.isWaylandSession = m_platform->isWaylandSession;
-    news.openPanelKeys = openPanelKeys();
-    news.shortcutProblems = shortcutProblems;
-    m_startMessages = startMessages(news);
+    for (const QString& problem : shortcutProblems)
+        m_startMessages.push_back(
+            {QStringLiteral("exclamationmark.triangle.fill"), problem, ToastMessage::Tone::warning});
     std::ranges::reverse(m_startMessages);
-    if (news.isFirstStart)
-        m_platform->defaults->setObject(QStringLiteral("greeted"), true);
     showNextStartMessage();
 }
 
@@ -220,6 +219,7 @@ QStringList AppEnvironment::reloadShortcuts() {
     const QStringList problems = m_shortcuts->reload();
     m_panel->model().setAvailablePinnedNumbers(m_shortcuts->availablePinnedNumbers());
     m_settingsModel->setShortcutProblems(problems);
+    m_onboardingModel->noteShortcuts();
     // What the settings say is what is registered: the watch of their file has nothing to add.
     if (m_settingsWatch)
         m_settingsWatch->acknowledge();
@@ -258,7 +258,13 @@ void AppEnvironment::openHistory() {
     m_opening = std::make_unique<HistoryOpening>(*m_store, *m_platform->keyStore,
                                                  [home = m_platform->dataHome] { return historyFolder(home); });
     m_opening->onOpened = [this] { historyOpened(); };
+    m_opening->mayAsk = [this] { return mayKeyringAsk(); };
     m_opening->onFailed = [this](HistoryFailure failure) {
+        // The first run says it in its own place.
+        if (m_onboardingModel->isKeyringClosed()) {
+            tellReady();
+            return;
+        }
         showAlert(memoryOnlyAlert(failure, m_platform->dataHome + QStringLiteral("/Vellumry")), [] {});
         tellReady();
     };
@@ -269,6 +275,7 @@ void AppEnvironment::openHistory() {
 
 void AppEnvironment::historyOpened() {
     m_alert.reset();
+    m_onboardingModel->setKeyringClosed(false);
     // Its pictures may have been waiting for their text since the last run.
     m_textReading->scheduleBacklog();
     showBackupAlert();

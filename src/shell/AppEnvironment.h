@@ -3,6 +3,8 @@
 
 #include "capture/ClipboardWatcher.h"
 #include "history/clips/ClipStore.h"
+#include "onboarding/OnboardingModel.h"
+#include "onboarding/OnboardingWindowController.h"
 #include "panel/FieldPasteboard.h"
 #include "panel/PanelController.h"
 #include "paste/HotKeyCenter.h"
@@ -55,6 +57,8 @@ public:
     void togglePanel();
     /// The settings window comes to the front with its first pane.
     void openSettings();
+    /// The user started the program again: the first run comes forward, or the settings.
+    void reopen();
     void showToast(const ToastMessage& message);
     /// Stops the Paste Stack when it runs, else starts it, with the clips that are selected in the open panel when they
     /// are several.
@@ -93,6 +97,8 @@ public:
     [[nodiscard]] PanelController& panel() { return *m_panel; }
     [[nodiscard]] SettingsModel& settingsModel() { return *m_settingsModel; }
     [[nodiscard]] SettingsWindowController& settings() { return *m_settings; }
+    [[nodiscard]] OnboardingModel& onboardingModel() { return *m_onboardingModel; }
+    [[nodiscard]] OnboardingWindowController& onboarding() { return *m_onboarding; }
     [[nodiscard]] PasteStack& stack() { return m_stack->stack(); }
     [[nodiscard]] TextReadingQueue& textReader() { return m_textReading->queue(); }
 
@@ -113,6 +119,11 @@ private:
     void makeUpdates();
     [[nodiscard]] bool isInUse() const;
     void makeSettings();
+    void makeOnboarding();
+    void onboardingClosed();
+    [[nodiscard]] bool mayKeyringAsk();
+    [[nodiscard]] bool setLaunchAtLogin(bool isWanted);
+    [[nodiscard]] QCoro::Task<FileAccess::Result> checkPersonalFolders() const;
     [[nodiscard]] SettingsActions settingsActions();
     QCoro::Task<void> readFieldText(ViewEngine::Deliver deliver);
     void applyAppearance();
@@ -153,6 +164,8 @@ private:
     std::unique_ptr<FieldPasteboard> m_fieldPasteboard;
     std::unique_ptr<SettingsModel> m_settingsModel;
     std::unique_ptr<SettingsWindowController> m_settings;
+    std::unique_ptr<OnboardingModel> m_onboardingModel;
+    std::unique_ptr<OnboardingWindowController> m_onboarding;
     std::unique_ptr<SettingsWatch> m_settingsWatch;
     std::vector<ToastMessage> m_startMessages; ///< what is still to be told of the start, the next one last
     std::unique_ptr<AlertWindow> m_alert;

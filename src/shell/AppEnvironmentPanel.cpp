@@ -20,7 +20,11 @@ PanelController::Hooks AppEnvironment::panelHooks() {
 }
 
 void AppEnvironment::wirePanel() {
-    m_panel->onShow = [this] { m_hasWorked = true; };
+    m_panel->onShow = [this] {
+        m_hasWorked = true;
+        if (m_onboarding->isVisible())
+            m_onboardingModel->notePanelOpened();
+    };
     m_panel->model().onOpenLink = [this](const QString& address) { openLink(address); };
     m_panel->model().onShowFiles = [this](const QStringList& paths) { m_platform->opener->showFiles(paths); };
 }

@@ -24,6 +24,7 @@ void AppEnvironment::makeSettings() {
     m_settingsModel = std::make_unique<SettingsModel>(*m_preferences, *m_platform->keyboard);
     m_settingsModel->actions = settingsActions();
     m_settings = std::make_unique<SettingsWindowController>(*m_settingsModel, m_views);
+    connect(m_updates.get(), &UpdateController::changed, m_settingsModel.get(), &SettingsModel::noteUpdates);
     m_fieldPasteboard = std::make_unique<FieldPasteboard>(*m_platform->pasteboard);
     m_views.copyText = [this](const QString& text) { m_fieldPasteboard->setText(text); };
     m_views.readText = [this](const ViewEngine::Deliver& deliver) { readFieldText(deliver); };
@@ -40,9 +41,7 @@ SettingsActions AppEnvironment::settingsActions() {
     SettingsActions actions;
     PasteTarget* target = m_platform->pasteTarget.get();
     actions.isLaunchedAtLogin = [this] { return m_platform->loginItem && m_platform->loginItem->isEnabled(); };
-    actions.setLaunchAtLogin = [this](bool isWanted) {
-        return m_platform->loginItem && m_platform->loginItem->setEnabled(isWanted);
-    };
+    actions.setLaunchAtLogin = [this](bool isWanted) { return setLaunchAtLogin(isWanted); };
     actions.setScreenshotSaving = [this](bool isWanted) { return m_screenshotSaving->setSaving(isWanted); };
     actions.reloadShortcuts = [this] { return reloadShortcuts(); };
     actions.suspendShortcuts = [this](bool isSuspended) { suspendShortcuts(isSuspended); };
@@ -56,12 +55,7 @@ SettingsActions AppEnvironment::settingsActions() {
     actions.allowPasting = [target] { target->requestTrust(); };
     actions.clearHistory = [this] { return m_store->clearHistory(true); };
     actions.deleteEverything = [this] { return m_store->clearHistory(false); };
-    actions.allowFileFolders = [places = FilePlaces::ofUser(m_platform->home)] {
-        QStringList folders;
-        for (const FilePlaces::Folder& folder : places.personal)
-            folders.append(folder.path);
-        return FileAccess::check(folders, places);
-    };
+    actions.allowFileFolders = [this] { return checkPersonalFolders(); };
     actions.historySize = [this] { return isMemoryOnly() ? QString() : historySize(); };
     actions.clipCount = [this] { return static_cast<qint64>(m_store->clips().size()); };
     actions.installedApplications = [this] { return listOf(m_platform->applications.get()); };
@@ -69,8 +63,29 @@ SettingsActions AppEnvironment::settingsActions() {
         return DesktopState{m_platform->capabilities, m_settingsModel->shortcutProblems(), isMemoryOnly(),
                             m_platform->isWaylandSession};
     };
+    actions.updates = [this] {
+        UpdateState state{m_updates->isEnabled(), m_updates->automaticallyInstalls(), m_updates->readyVersion()};
+        if (const auto checked = m_updates->lastChecked())
+            state.secondsSinceCheck = m_platform->clock() - *checked;
+        return state;
+    };
+    actions.setAutomaticUpdates = [this](bool isOn) { m_updates->setAutomaticallyInstalls(isOn); };
+    actions.checkForUpdates = [this] { m_updates->checkNow(); };
+    actions.installUpdate = [this] { m_updates->requestInstall(); };
     actions.beep = [this] { m_platform->sounds->play(Sound::refusal); };
     return actions;
+}
+
+bool AppEnvironment::setLaunchAtLogin(bool isWanted) {
+    return m_platform->loginItem && m_platform->loginItem->setEnabled(isWanted);
+}
+
+QCoro::Task<FileAccess::Result> AppEnvironment::checkPersonalFolders() const {
+    const FilePlaces places = FilePlaces::ofUser(m_platform->home);
+    QStringList folders;
+    for (const FilePlaces::Folder& folder : places.personal)
+        folders.append(folder.path);
+    return FileAccess::check(folders, places);
 }
 
 void AppEnvironment::openSettings() {

@@ -70,6 +70,13 @@ void HistoryOpening::start() {
         if (self && !self->m_isOpen)
             self->m_change.start();
     });
+    attempt(KeyStore::Asking::forbidden);
+}
+
+void HistoryOpening::ask() {
+    m_isToAsk = false;
+    if (!m_isTrying)
+        m_failure.reset();
     attempt(KeyStore::Asking::allowed);
 }
 
@@ -139,6 +146,12 @@ QCoro::Task<void> HistoryOpening::join(OpenedHistory opened) {
 
 void HistoryOpening::fail(HistoryFailure failure) {
     m_isTrying = false;
+    const bool isForWantOfAPassword =
+        failure == HistoryFailure::keyringLocked || failure == HistoryFailure::keyringRefused;
+    if (isForWantOfAPassword && std::exchange(m_isToAsk, false) && mayAsk()) {
+        attempt(KeyStore::Asking::allowed);
+        return;
+    }
     if (std::exchange(m_isWorthAnother, false))
         m_change.start();
     m_retry.start(m_delay);

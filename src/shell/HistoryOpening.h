@@ -30,13 +30,17 @@ public:
     /// Ends a question that the keyring may be asking.
     ~HistoryOpening() override;
 
-    /// The first try; only this one may ask the user for a password.
+    /// The first try. Where it takes a password, and `mayAsk` agrees, the user is asked for it, once.
     void start();
+    /// Tries again and may ask the user for a password; what becomes of it is told anew.
+    void ask();
     /// Why it did not go well so far; nothing before the first outcome and once the history is there.
     [[nodiscard]] std::optional<HistoryFailure> failure() const { return m_failure; }
     /// The first try has ended, one way or the other.
     [[nodiscard]] bool hasSettled() const { return m_isOpen || m_failure; }
 
+    /// The keyring is about to ask the user; false puts that off until `ask`.
+    std::function<bool()> mayAsk = [] { return true; };
     std::function<void()> onOpened = [] {};
     /// Called when there is a reason, and when it has become another.
     std::function<void(HistoryFailure failure)> onFailed = [](HistoryFailure) {};
@@ -57,6 +61,7 @@ private:
     bool m_isOpen = false;
     bool m_isTrying = false;
     bool m_isWorthAnother = false;
+    bool m_isToAsk = true; ///< the user was not asked for a password yet
     int m_busyTries = 0;
     std::chrono::milliseconds m_delay;
     QTimer m_retry;

@@ -10,7 +10,7 @@ Rectangle {
     property bool inverted: false
     property int size: Theme.capSize
 
-    width: Math.max(height, label.implicitWidth + Theme.gap)
+    width: Math.max(height, label.implicitWidth + (size > Theme.capSize ? Theme.inset : Theme.gap))
     height: Theme.capHeight
     radius: Theme.smallRadius
     color: inverted ? "transparent" : Theme.cap

@@ -54,7 +54,8 @@ void drawBird(QPainter& painter, const LogoMotion::Frame& frame) {
     body.moveTo(118, 60);
     body.cubicTo(124, 30, 116, 8, 98, 8);
     body.cubicTo(84, 8, 78, 18, 80, 28);
-    body.cubicTo(82, 38, 92, 42, 96, 60);
+    body.cubicTo(82, 38, 90, 42, 92, 58);
+    body.cubicTo(94, 70, 116, 72, 118, 60);
     body.closeSubpath();
     painter.fillPath(body, feathers);
     QPainterPath beak(QPointF(81, 19));

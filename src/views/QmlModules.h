@@ -6,6 +6,7 @@
 
 void qml_register_types_Vellumry_Views();
 void qml_register_types_Vellumry_Panel();
+void qml_register_types_Vellumry_Onboarding();
 void qml_register_types_Vellumry_Settings();
 void qml_register_types_Vellumry_Shell();
 

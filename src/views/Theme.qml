@@ -76,8 +76,9 @@ QtObject {
     readonly property int switchHeight: 22
     readonly property int applicationIcon: 24
     readonly property int logoSize: 96
+    readonly property int welcomeLogo: 128
+    readonly property int tryFieldWidth: 280
     readonly property int settingsWidth: 540
-    readonly property int welcomeWidth: 640
 
     // The line heights of the fonts in use.
     readonly property int titleLine: Math.ceil(titleFont.height)

@@ -115,15 +115,15 @@ class Process:
 
 
 def forgo_greeting():
-    """The message of a first start stands in the way of tests that have nothing to do with it."""
+    """The first run stands in the way of tests that have nothing to do with it."""
     text = "[General]\n"
     if os.path.isfile(SETTINGS):
         with open(SETTINGS, encoding="utf-8") as file:
             text = file.read()
-    if "greeted=" not in text:
+    if "onboardingDone=" not in text:
         os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
         with open(SETTINGS, "w", encoding="utf-8") as file:
-            file.write(text.replace("[General]\n", "[General]\ngreeted=true\n", 1))
+            file.write(text.replace("[General]\n", "[General]\nonboardingDone=true\n", 1))
 
 
 class Vellumry(Process):

@@ -19,7 +19,7 @@ CONTROL, SUPER = 0x4, 0x40
 def write(*lines):
     os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
     with open(SETTINGS, "w", encoding="utf-8") as file:
-        file.write("\n".join(("[General]", "greeted=true", *lines)) + "\n")
+        file.write("\n".join(("[General]", "onboardingDone=true", *lines)) + "\n")
 
 
 def forget_settings():
@@ -106,24 +106,6 @@ def a_shortcut_that_is_taken_is_told_on_the_screen_in_the_log_and_in_the_status(
     forget_settings()
 
 
-def the_first_start_names_the_shortcut_and_no_other_does():
-    forget_settings()
-    with Vellumry(greeted=False):
-        told("Press Super+Ctrl+V to see it")
-    with Vellumry(greeted=False):
-        remember("a copy")
-        same(windows(MESSAGE), [], "messages of the second start")
-    forget_settings()
-
-
-def under_xwayland_the_first_start_says_what_works():
-    forget_settings()
-    with Vellumry(greeted=False, environment={"WAYLAND_DISPLAY": "wayland-0", "XDG_SESSION_TYPE": "wayland"}):
-        told("This is a Wayland session")
-        same("found: X11 display (Xwayland" in status(), True, status())
-    forget_settings()
-
-
 def a_value_that_is_none_costs_no_clips():
     write()
     with Vellumry():
@@ -188,6 +170,5 @@ if __name__ == "__main__":
     main([fresh(test) for test in (
         another_shortcut_written_by_hand_counts_at_once, screenshots_and_pinned_keys_follow_at_once,
         a_shortcut_that_is_taken_is_told_on_the_screen_in_the_log_and_in_the_status,
-        the_first_start_names_the_shortcut_and_no_other_does, under_xwayland_the_first_start_says_what_works,
         a_value_that_is_none_costs_no_clips, a_settings_file_that_is_none_does_not_hold_the_start_up,
         the_actions_from_outside_do_what_they_say)])

@@ -64,6 +64,10 @@ TEST(SettingsLabels, EachValueHasWords) {
                                 {settingslabels::appearance, 0, "System"},
                                 {settingslabels::appearance, 2, "Dark"}})
         EXPECT_EQ(row.label(row.value), QString::fromUtf8(row.words));
+    EXPECT_EQ(settingslabels::lastChecked(-5), QStringLiteral("Last checked just now"));
+    EXPECT_EQ(settingslabels::lastChecked(300), QStringLiteral("Last checked 5 minutes ago"));
+    EXPECT_EQ(settingslabels::lastChecked(7200), QStringLiteral("Last checked 2 hours ago"));
+    EXPECT_EQ(settingslabels::lastChecked(900'000), QStringLiteral("Last checked 10 days ago"));
 }
 
 } // namespace

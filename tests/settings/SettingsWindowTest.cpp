@@ -242,6 +242,30 @@ TEST_F(SettingsWindowTest, WhatWorksOnThisDesktopIsOnePage) {
     EXPECT_FALSE(shows("Pasting for you"));
 }
 
+TEST_F(SettingsWindowTest, UpdatesAreShownWhereThereAreAny) {
+    UpdateState state;
+    int installs = 0;
+    model.actions.updates = [&state] { return state; };
+    model.actions.setAutomaticUpdates = [&state](bool isOn) { state.automaticallyInstalls = isOn; };
+    model.actions.installUpdate = [&installs] { ++installs; };
+    goTo(4);
+    EXPECT_TRUE(shows("Off in developer builds"));
+    state.isEnabled = true;
+    state.secondsSinceCheck = 10;
+    model.noteUpdates();
+    EXPECT_FALSE(shows("Off in developer builds"));
+    EXPECT_TRUE(shows("Last checked just now"));
+    tabTo("Install updates automatically");
+    press(Qt::Key_Space);
+    EXPECT_TRUE(state.automaticallyInstalls);
+    state.readyVersion = QStringLiteral("2.0");
+    model.noteUpdates();
+    EXPECT_TRUE(shows("Vellumry 2.0 is ready to install"));
+    tabTo("Restart Now");
+    press(Qt::Key_Return);
+    EXPECT_EQ(installs, 1);
+}
+
 TEST_F(SettingsWindowTest, TheKeyboardBringsWhatItReachesIntoView) {
     window().resize(540, 320);
     tabTo("Save new screenshots");

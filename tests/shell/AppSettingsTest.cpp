@@ -115,12 +115,72 @@ TEST_F(AppSettingsTest, WithoutAWatchTheyCountWithTheNextMaintenance) {
     EXPECT_TRUE(press(other));
 }
 
-TEST_F(AppSettingsTest, TheFirstStartNamesTheShortcutOnce) {
+TEST_F(AppSettingsTest, TheFirstRunComesUntilItWasClosed) {
     isFirstStart = true;
     start();
-    EXPECT_FALSE(seenTexts().filter(QStringLiteral("to see it")).isEmpty());
+    EXPECT_TRUE(sees("Welcome to Vellumry"));
+    environment->setQuitting();
+    start();
+    EXPECT_TRUE(environment->onboarding().isVisible()) << "the end of the program is no answer";
+    environment->onboarding().close();
     start();
     EXPECT_EQ(seenTexts(), QStringList());
+}
+
+TEST_F(AppSettingsTest, TheLastStepOfTheFirstRunEndsIt) {
+    isFirstStart = true;
+    start();
+    for (int step = 0; step < 4; ++step)
+        environment->onboardingModel().advance();
+    EXPECT_FALSE(environment->onboarding().isVisible());
+    EXPECT_TRUE(defaults->boolean(QStringLiteral("onboardingDone")));
+}
+
+TEST_F(AppSettingsTest, ThePanelCountsInTheFirstRunHoweverItIsOpened) {
+    isFirstStart = true;
+    start();
+    EXPECT_TRUE(press(Shortcut::openPanelDefault()));
+    EXPECT_TRUE(environment->onboardingModel().panelOpened());
+}
+
+TEST_F(AppSettingsTest, TheSampleOfTheFirstRunIsACopyLikeAnyOther) {
+    isFirstStart = true;
+    start();
+    environment->onboardingModel().copySample();
+    environment->watcher().tick(time.clock()());
+    ASSERT_EQ(store().clips().size(), 1U);
+    EXPECT_EQ(store().clips().front()->title, OnboardingModel::sample());
+}
+
+TEST_F(AppSettingsTest, InTheFirstRunATakenShortcutIsToldThereAndNowhereElse) {
+    isFirstStart = true;
+    const Shortcut panel = Shortcut::openPanelDefault();
+    takenKeys = {{panel.keyCode, panel.modifiers}};
+    start();
+    EXPECT_TRUE(seenTexts().filter(QStringLiteral("is already used by another app")).isEmpty());
+    EXPECT_FALSE(environment->onboardingModel().shortcutProblem().isEmpty());
+    environment->onboardingModel().takeOfferedShortcut();
+    EXPECT_EQ(environment->onboardingModel().shortcutProblem(), QString());
+}
+
+TEST_F(AppSettingsTest, TheKeyringDoesNotAskDuringTheFirstRunBeforeTheUserWantsIt) {
+    isFirstStart = true;
+    keyring.refuses = true;
+    start();
+    EXPECT_TRUE(environment->onboardingModel().isKeyringClosed());
+    EXPECT_TRUE(seenTexts().filter(QStringLiteral("Your keyring is locked")).isEmpty())
+        << "no alert over the first run";
+    keyring.refuses = false;
+    environment->onboardingModel().unlockKeyring();
+    runUntil([this] { return !environment->isMemoryOnly(); });
+    EXPECT_FALSE(environment->onboardingModel().isKeyringClosed());
+}
+
+TEST_F(AppSettingsTest, AtALaterStartTheKeyringsQuestionIsExplained) {
+    keyring.refuses = true;
+    launch();
+    environment->start();
+    runUntil([] { return !seenTexts().filter(QStringLiteral("keyring's password")).isEmpty(); });
 }
 
 TEST_F(AppSettingsTest, AShortcutThatIsTakenIsToldAtTheStart) {

@@ -93,7 +93,7 @@ protected:
         put(platform.images, images, std::make_unique<FakeImageCodec>());
         put(platform.folders, folders, std::make_unique<FakeFolderWatching>());
         if (!isFirstStart)
-            defaults->setObject(QStringLiteral("greeted"), true);
+            defaults->setObject(QStringLiteral("onboardingDone"), true);
         platform.settingsFolder = settingsFolder;
         platform.isWaylandSession = isWaylandSession;
         for (const auto& combination : takenKeys)

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <memory>
+
+class QQuickView;
+
+namespace vellumry {
+
+class OnboardingModel;
+class ViewEngine;
+
+/// The window "Welcome to Vellumry". Main thread.
+class OnboardingWindowController : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both must outlive this.
+    OnboardingWindowController(OnboardingModel& model, ViewEngine& views);
+    ~OnboardingWindowController() override;
+
+    /// Brings the window to the front.
+    void show();
+    void close();
+    [[nodiscard]] bool isVisible() const;
+    /// Null before it is first shown.
+    [[nodiscard]] QQuickView* window() const { return m_view.get(); }
+
+    /// Called when the window was closed, by the user or by `close`, but not by the end of the program.
+    std::function<void()> onClose = [] {};
+    std::function<bool()> isQuitting = [] { return false; };
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void make();
+
+    OnboardingModel* m_model;
+    ViewEngine* m_views;
+    std::unique_ptr<QQuickView> m_view;
+};
+
+} // namespace vellumry
