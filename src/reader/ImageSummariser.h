@@ -18,6 +18,8 @@ public:
     /// The size as stored, an upright thumbnail that is never larger than the picture, and the marks. Empty for bytes
     /// that are no picture. `file` must stay where it is meanwhile; it is not copied. The reply carries no identity.
     [[nodiscard]] readerprotocol::Reply summarise(QByteArrayView file, int thumbnailPixels) const;
+    /// The picture at a size to look at; no size, no marks. Empty as above.
+    [[nodiscard]] readerprotocol::Reply preview(QByteArrayView file, int longerSide) const;
 };
 
 } // namespace vellumry

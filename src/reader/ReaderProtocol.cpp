@@ -55,8 +55,7 @@ std::optional<Request> decodeRequest(const QByteArray& message) {
     stream >> request.id >> operation >> request.pixels;
     if (stream.status() != QDataStream::Ok || !stream.atEnd())
         return std::nullopt;
-    if (operation < static_cast<quint8>(Operation::summarise) ||
-        operation > static_cast<quint8>(Operation::readAccurately))
+    if (operation < static_cast<quint8>(Operation::summarise) || operation > static_cast<quint8>(Operation::preview))
         return std::nullopt;
     if (request.pixels < 1 || request.pixels > maxPixels)
         return std::nullopt;

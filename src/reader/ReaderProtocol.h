@@ -13,7 +13,8 @@
 namespace vellumry::readerprotocol {
 
 /// What is asked for. The numbers go over the wire; further operations take further numbers.
-enum class Operation : quint8 { summarise = 1, readFast = 2, readAccurately = 3 };
+/// `preview` is answered with a thumbnail alone, which is packed quickly.
+enum class Operation : quint8 { summarise = 1, readFast = 2, readAccurately = 3, preview = 4 };
 
 struct Request {
     quint64 id = 0;

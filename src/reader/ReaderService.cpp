@@ -106,6 +106,9 @@ readerprotocol::Reply ReaderService::replyTo(const readerprotocol::Request& requ
         return read(file, request.pixels, PictureReader::Mode::fast);
     case Operation::readAccurately:
         return read(file, request.pixels, PictureReader::Mode::accurate);
+    case Operation::preview:
+        readersandbox::allowProcessorSeconds(processorSeconds);
+        return m_summariser.preview(file, request.pixels);
     case Operation::summarise:
         break;
     }

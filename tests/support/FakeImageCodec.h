@@ -19,6 +19,8 @@ public:
 
     ImageSummary summary;          ///< the answer; empty at first, as for bytes that are no picture
     std::vector<Request> requests; ///< in the order in which they came
+    QByteArray picture;            ///< what every preview looks like
+    std::vector<Request> previews; ///< the same for previews
 
     int preparations = 0; ///< how often it was told that a picture comes
 
@@ -26,6 +28,11 @@ public:
     [[nodiscard]] QCoro::Task<ImageSummary> summarise(QByteArray image, int thumbnailPixels) override {
         requests.push_back({std::move(image), thumbnailPixels});
         const ImageSummary answer = summary; // what is returned is moved from
+        co_return answer;
+    }
+    [[nodiscard]] QCoro::Task<QByteArray> preview(QByteArray image, int longerSide) override {
+        previews.push_back({std::move(image), longerSide});
+        const QByteArray answer = picture;
         co_return answer;
     }
 };

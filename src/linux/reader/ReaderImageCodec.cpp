@@ -16,4 +16,14 @@ QCoro::Task<ImageSummary> ReaderImageCodec::summarise(QByteArray image, int thum
     co_return summary;
 }
 
+QCoro::Task<QByteArray> ReaderImageCodec::preview(QByteArray image, int longerSide) {
+    auto asking = m_worker.ask(std::move(image), readerprotocol::Operation::preview, longerSide, m_deadline);
+    // Behind this the codec may be gone.
+    const ReaderProcess::Answer answer = co_await asking;
+    QByteArray png;
+    if (answer.reply)
+        png = answer.reply->thumbnail.value_or(QByteArray());
+    co_return png;
+}
+
 } // namespace vellumry

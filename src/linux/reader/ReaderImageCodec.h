@@ -18,6 +18,7 @@ public:
 
     void prepare() override { m_worker.prepare(); }
     [[nodiscard]] QCoro::Task<ImageSummary> summarise(QByteArray image, int thumbnailPixels) override;
+    [[nodiscard]] QCoro::Task<QByteArray> preview(QByteArray image, int longerSide) override;
 
 private:
     /// Its end ends the reader; pictures not yet answered give empty summaries.

@@ -30,6 +30,9 @@ public:
     virtual void prepare() {}
     /// An empty summary for bytes that are no picture, and when the decoder died or took too long.
     [[nodiscard]] virtual QCoro::Task<ImageSummary> summarise(QByteArray image, int thumbnailPixels) = 0;
+    /// The picture to look at: a PNG, upright, at most `longerSide` pixels on its longer side and never larger than it
+    /// is, packed quickly rather than tightly. Empty where `summarise` has no thumbnail.
+    [[nodiscard]] virtual QCoro::Task<QByteArray> preview(QByteArray image, int longerSide) = 0;
 };
 
 } // namespace vellumry
