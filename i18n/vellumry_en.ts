@@ -4,6 +4,10 @@
 <context>
     <name>Vellumry</name>
     <message>
+        <source>So search can find it by its words. macOS may ask you to allow access to this folder once.</source>
+        <translation>So search can find it by its words. The system may ask you to allow access to this folder once.</translation>
+    </message>
+    <message>
         <source>⌘M</source>
         <translation>Ctrl+M</translation>
     </message>

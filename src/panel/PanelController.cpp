@@ -21,6 +21,7 @@ constexpr int cornerRadius = 14;
 constexpr int fadeIn = 120;   // milliseconds
 constexpr int settleIn = 160; // milliseconds
 const QString thumbnails = QStringLiteral("thumbnail");
+const QString previews = QStringLiteral("preview");
 
 /// Round corners for windows that cannot blend.
 QRegion roundedMask(const QSize& size) {
@@ -35,6 +36,7 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, Pasteboa
                                  ViewEngine& views, Hooks hooks)
     : m_model(store, paster)
     , m_facade(m_model, pasteboard, hooks.openPanelKeys)
+    , m_preview(m_model, hooks.preview)
     , m_surface(&surface)
     , m_views(&views)
     , m_hooks(std::move(hooks)) {
@@ -88,6 +90,11 @@ std::vector<ActionMenuItem> PanelController::closingFirst(std::vector<ActionMenu
     return items;
 }
 
+void PanelController::setStack(PasteStack& stack) {
+    m_facade.setStack(stack);
+    m_preview.setStack(stack);
+}
+
 void PanelController::makeView() {
     keepQmlModule(&qml_register_types_Vellumry_Panel);
     m_view = m_views->makeWindow(QStringLiteral("Vellumry"));
@@ -98,13 +105,17 @@ void PanelController::makeView() {
                                            const ClipRef clip = m_model.store().find(id);
                                            return clip ? clip->thumbnail : std::nullopt;
                                        }));
+    if (QQuickImageProvider* provider = m_preview.makePictureProvider())
+        m_views->engine().addImageProvider(previews, provider);
     m_surface->adopt(m_view.get());
     m_fade.setTargetObject(m_view.get());
     connect(m_view.get(), &QWindow::screenChanged, this, [this] { shapeInput(); });
     applyLook();
-    m_view->setInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&m_facade)}});
+    m_view->setInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&m_facade)},
+                                  {QStringLiteral("preview"), QVariant::fromValue(&m_preview)}});
     m_view->setSource(QUrl(QStringLiteral("qrc:/vellumry/Vellumry/Panel/PanelView.qml")));
     m_facade.setDormant(true);
+    m_preview.setDormant(true);
 }
 
 void PanelController::warmUp() {
@@ -157,6 +168,7 @@ void PanelController::show() {
     warmUp();
     applyLook();
     m_facade.setDormant(false);
+    m_preview.setDormant(false);
     m_facade.present();
     std::optional<QRect> frame;
     if (const std::optional<ScreenPlace> screen = m_surface->screenUnderPointer()) {
@@ -175,6 +187,7 @@ void PanelController::show() {
 
 void PanelController::hide() {
     m_facade.setDormant(true);
+    m_preview.setDormant(true);
     if (!isVisible())
         return;
     m_model.setPresented(false);

@@ -4,6 +4,7 @@
 #include "panel/PanelFacade.h"
 #include "panel/PanelModel.h"
 #include "panel/PanelPlacement.h"
+#include "panel/PreviewModel.h"
 #include "platform/display/PanelSurface.h"
 #include "views/ViewEngine.h"
 
@@ -46,6 +47,8 @@ public:
         std::function<std::vector<ActionMenuItem>()> statusMenu;
         /// Shows a message on the display under the pointer.
         std::function<void(const ToastMessage&)> showToast;
+        /// What the preview needs.
+        PreviewModel::Hooks preview{};
         /// How long after the pointer let go the place is remembered.
         std::chrono::milliseconds settleDelay{120};
         /// How long after closing the panel lets go of what was typed into it.
@@ -70,7 +73,9 @@ public:
     void warmUp();
     void setAppearance(Appearance appearance) { m_views->setAppearance(appearance); }
     /// The stack that the panel's button starts and stops.
-    void setStack(PasteStack& stack) { m_facade.setStack(stack); }
+    void setStack(PasteStack& stack);
+    /// Whether the words of a picture are being read may have changed.
+    void readingChanged() { m_preview.refresh(); }
 
     /// Called after the panel came up.
     std::function<void()> onShow = [] {};
@@ -91,6 +96,7 @@ private:
 
     PanelModel m_model;
     PanelFacade m_facade;
+    PreviewModel m_preview;
     PanelSurface* m_surface;
     ViewEngine* m_views;
     Hooks m_hooks;

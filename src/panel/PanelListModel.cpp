@@ -157,9 +157,7 @@ QVariant PanelListModel::clipValue(const Clip& clip, int role) const {
     case SymbolRole:
         return row::symbolOf(clip);
     case ThumbnailRole:
-        return clip.thumbnail && !clip.isSensitive()
-                   ? QStringLiteral("image://thumbnail/") + clip.id.toString(QUuid::WithoutBraces)
-                   : QString();
+        return row::thumbnailOf(clip);
     case SwatchRole:
         return row::swatchOf(clip);
     case PillRole:

@@ -9,6 +9,7 @@ Item {
     id: root
 
     required property PanelFacade panel
+    required property PreviewModel preview
     readonly property int shadowMargin: panel.shadowMargin
     readonly property color cornerColour: Theme.edge
 
@@ -94,9 +95,8 @@ Item {
             id: list
             panel: root.panel
             anchors.left: parent.left
-            anchors.right: parent.right
+            anchors.right: pane.visible ? pane.left : parent.right
             anchors.leftMargin: Theme.thin
-            anchors.rightMargin: Theme.thin
             anchors.top: chips.bottom
             anchors.topMargin: Theme.grid
             anchors.bottom: footer.top
@@ -107,13 +107,17 @@ Item {
             anchors.centerIn: list
             visible: !root.panel.hasRows
         }
-        TransformList {
+        PreviewPane {
+            id: pane
             panel: root.panel
+            preview: root.preview
             anchors.right: parent.right
-            anchors.rightMargin: Theme.inset
+            anchors.rightMargin: Theme.thin
+            anchors.top: chips.bottom
+            anchors.topMargin: Theme.grid
             anchors.bottom: footer.top
-            anchors.bottomMargin: Theme.gap
-            visible: root.panel.isTransformListOpen
+            width: Theme.previewWidth
+            visible: root.panel.hasRows
         }
         Tooltip {
             anchors.right: stackButton.right

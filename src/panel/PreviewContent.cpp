@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/PreviewContent.h"
 
+#include "foundation/FileUrl.h"
 #include "foundation/Localisation.h"
 #include "foundation/Text.h"
 #include "panel/PreviewButtons.h"
 #include "panel/RowAppearance.h"
+#include "views/Language.h"
 
 #include <QColor>
 #include <QDir>
 #include <QFileInfo>
+#include <QSet>
+#include <QUrl>
 #include <algorithm>
 #include <cmath>
 
@@ -89,8 +93,21 @@ QString placeOf(const QString& path) {
     return folder == home || folder.startsWith(home + u'/') ? u'~' + folder.mid(home.size()) : folder;
 }
 
-PreviewContent::File fileOf(const FileRef& ref, const FileStatus* status) {
-    PreviewContent::File file{.name = ref.name, .symbol = QStringLiteral("doc")};
+QString symbolOfFile(const FileRef& ref, const FileFacts* facts) {
+    static const QSet<QString> pictures{QStringLiteral("png"),  QStringLiteral("jpg"),  QStringLiteral("jpeg"),
+                                        QStringLiteral("gif"),  QStringLiteral("webp"), QStringLiteral("heic"),
+                                        QStringLiteral("heif"), QStringLiteral("tif"),  QStringLiteral("tiff"),
+                                        QStringLiteral("bmp"),  QStringLiteral("svg"),  QStringLiteral("avif")};
+    if (facts && facts->isFolder)
+        return QStringLiteral("folder");
+    return pictures.contains(fileurl::pathExtension(ref.name).toLower()) ? QStringLiteral("photo")
+                                                                         : QStringLiteral("doc");
+}
+
+PreviewContent::Entry fileOf(const FileRef& ref, const FileStatus* status, const FileFacts* facts) {
+    PreviewContent::Entry file{.name = ref.name, .symbol = symbolOfFile(ref, facts), .isFile = true};
+    if (facts && facts->size)
+        file.size = interfaceLocale().formattedDataSize(*facts->size, 1, QLocale::DataSizeSIFormat);
     if (!status)
         return file;
     switch (status->kind) {
@@ -120,9 +137,11 @@ QString moreOf(qsizetype count) {
 
 void describeFiles(PreviewContent& content, const Clip& clip, const PreviewSources& sources) {
     const auto statuses = sources.files ? sources.files(clip.id) : std::vector<FileStatus>();
+    const auto facts = sources.facts ? sources.facts(clip.id) : std::vector<FileFacts>();
     const auto listed = std::min<std::size_t>(clip.files.size(), std::size_t(previewListLength));
     for (std::size_t index = 0; index < listed; ++index)
-        content.files.push_back(fileOf(clip.files[index], index < statuses.size() ? &statuses[index] : nullptr));
+        content.entries.push_back(fileOf(clip.files[index], index < statuses.size() ? &statuses[index] : nullptr,
+                                         index < facts.size() ? &facts[index] : nullptr));
     content.more = moreOf(qsizetype(clip.files.size()));
     const auto isMissing = [](const FileStatus& status) { return status.kind == FileStatus::Case::missing; };
     if (std::ranges::any_of(statuses, isMissing))
@@ -151,6 +170,8 @@ PreviewContent previewOfOne(const Clip& clip, const PreviewSources& sources) {
     case Body::text:
     case Body::link:
         content.text = clip.searchText.toString();
+        if (content.body == Body::link)
+            content.host = QUrl(content.text.trimmed()).host();
         content.isFixedWidth = clip.sourceBundleID && row::isCodeApp(*clip.sourceBundleID);
         if (content.body == Body::text && !characters && content.text.size() <= countedAtOnce)
             characters = text::characterCount(content.text);
@@ -185,13 +206,20 @@ QString mergeNote(const std::vector<ClipRef>& clips) {
     return localised("Merge joins them into one clip, one per line, in the order you copied them.");
 }
 
+PreviewContent::Entry entryOf(const Clip& clip) {
+    return {.name = row::titleOf(clip),
+            .symbol = row::symbolOf(clip),
+            .thumbnail = row::thumbnailOf(clip),
+            .swatch = row::swatchOf(clip)};
+}
+
 PreviewContent previewOfSeveral(const PreviewSources& sources) {
     const auto& clips = sources.clips;
     PreviewContent content{.body = Body::several};
     for (const ClipRef& clip : clips) {
         content.ids.push_back(clip->id);
-        if (qsizetype(content.titles.size()) < previewListLength)
-            content.titles.push_back(row::titleOf(*clip));
+        if (qsizetype(content.entries.size()) < previewListLength)
+            content.entries.push_back(entryOf(*clip));
     }
     content.heading = localised("%n clips selected", int(clips.size()));
     content.more = moreOf(qsizetype(clips.size()));

@@ -44,13 +44,18 @@ struct PreviewContent {
         bool operator==(const Button&) const = default;
     };
 
-    struct File {
+    /// One of the files, or one of several clips.
+    struct Entry {
         QString name{};
-        QString symbol{}; ///< "arrow.turn.down.right" for a moved file, else that of a file
-        QString place{};  ///< the folder of a moved file, its name abbreviated
-        QString note{};   ///< what is wrong with it; may be empty
+        QString symbol{};    ///< "arrow.turn.down.right" for a moved file, else that of its kind
+        QString thumbnail{}; ///< where QML finds it; empty without one
+        QString swatch{};    ///< "#aarrggbb" of a colour
+        QString place{};     ///< the folder of a moved file, its name abbreviated
+        QString size{};      ///< of a file, where it is known
+        QString note{};      ///< what is wrong with it; may be empty
         bool isMissing = false;
-        bool operator==(const File&) const = default;
+        bool isFile = false;
+        bool operator==(const Entry&) const = default;
     };
 
     /// A colour in the ways in which it is written.
@@ -67,12 +72,12 @@ struct PreviewContent {
     std::vector<QUuid> ids{}; ///< the clips that are shown
     QString heading{};        ///< of several: how many
     QString text{};           ///< text, link: what was copied; sensitive: the line beneath the lock
+    QString host{};           ///< of a link; empty for one without
     bool isFixedWidth = false;
     Color color{};
-    std::vector<File> files{};
-    std::vector<QString> titles{}; ///< of several, the first few
-    QString more{};                ///< "3 more" behind a list that was cut
-    QString note{};                ///< what merging does, or why a file cannot be pasted
+    std::vector<Entry> entries{}; ///< the first few files, or the first few of several clips
+    QString more{};               ///< "3 more" behind a list that was cut
+    QString note{};               ///< what merging does, or why a file cannot be pasted
     QString details{};
     QString textInImage{};
     bool isReadingText = false;
@@ -84,10 +89,18 @@ struct PreviewContent {
     bool operator==(const PreviewContent&) const = default;
 };
 
+/// What a look at the disk told of a file.
+struct FileFacts {
+    std::optional<qint64> size{}; ///< absent for a folder and for what is not there
+    bool isFolder = false;
+    bool operator==(const FileFacts&) const = default;
+};
+
 /// What is known beyond the clips.
 struct PreviewSources {
     std::vector<ClipRef> clips{};                               ///< the selection in display order
     std::function<std::vector<FileStatus>(const QUuid&)> files; ///< empty while they are looked at
+    std::function<std::vector<FileFacts>(const QUuid&)> facts;  ///< empty while they are looked at
     std::function<bool(const QUuid&)> isReading;                ///< the picture waits to be read
     bool isStackActive = false;
     bool showsTransforms = false;

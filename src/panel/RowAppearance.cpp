@@ -98,6 +98,12 @@ QString swatchOf(const Clip& clip) {
     return color.isValid() ? color.name(QColor::HexArgb) : QString();
 }
 
+QString thumbnailOf(const Clip& clip) {
+    return clip.thumbnail && !clip.isSensitive()
+               ? QStringLiteral("image://thumbnail/") + clip.id.toString(QUuid::WithoutBraces)
+               : QString();
+}
+
 bool isCodeApp(const QString& identifier) {
     static const QSet<QString> codeApps{
         QStringLiteral("com.apple.Terminal"),

@@ -15,6 +15,8 @@ namespace vellumry::row {
 [[nodiscard]] QString symbolOf(const Clip& clip);
 /// A colour clip's colour in the form "#AARRGGBB" or "#RRGGBB"; empty for any other and for what cannot be read.
 [[nodiscard]] QString swatchOf(const Clip& clip);
+/// Where QML finds its small picture; empty without one, and for a sensitive clip.
+[[nodiscard]] QString thumbnailOf(const Clip& clip);
 /// The application it came from, "Unknown app" without one.
 [[nodiscard]] QString sourceOf(const Clip& clip);
 /// The application with that identifier is a terminal or a code editor.

@@ -10,7 +10,6 @@ Rectangle {
 
     required property PanelFacade panel
 
-    width: Theme.transformWidth
     height: entries.implicitHeight + 2 * Theme.gap
     radius: Theme.rowRadius
     color: Theme.ground

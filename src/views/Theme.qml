@@ -29,6 +29,8 @@ QtObject {
     readonly property color danger: dark ? "#ff8f87" : "#b3261e"
     readonly property color card: dark ? "#26272c" : "#ffffff"
     readonly property color shade: dark ? "#99000000" : "#66202024"
+    // What pictures with clear parts lie on.
+    readonly property color paper: dark ? "#d9d9de" : "#ffffff"
     readonly property color buttonText: dark ? "#10203c" : "#ffffff"
 
     readonly property int titleSize: 14
@@ -42,6 +44,11 @@ QtObject {
     readonly property int alertTitleSize: 17
     readonly property int formSize: 13
     readonly property int headingSize: 24
+    readonly property int textSize: 13
+    readonly property int codeSize: 12
+    readonly property real readingLine: 1.15
+    readonly property string family: Views.family
+    readonly property string fixedFamily: Views.fixedFamily
 
     readonly property int thin: 1
     readonly property int grid: 4
@@ -64,7 +71,6 @@ QtObject {
     readonly property int lensSize: 20
     readonly property int emptySymbolSize: 36
     readonly property int emptyWidth: 420
-    readonly property int transformWidth: 232
     readonly property int tooltipWidth: 360
     readonly property int alertWidth: 440
     readonly property int messageWidth: 560
@@ -79,6 +85,13 @@ QtObject {
     readonly property int welcomeLogo: 128
     readonly property int tryFieldWidth: 280
     readonly property int settingsWidth: 540
+    readonly property int welcomeWidth: 640
+    readonly property int previewWidth: 372
+    readonly property int largeTile: 44
+    readonly property int largeSymbol: 24
+    readonly property int smallTile: 24
+    readonly property int swatchHeight: 140
+    readonly property int wordsHeight: 92
 
     // The line heights of the fonts in use.
     readonly property int titleLine: Math.ceil(titleFont.height)
@@ -94,6 +107,7 @@ QtObject {
     readonly property int buttonHeight: Math.max(28, onGrid(smallLine + 12))
     readonly property int formRowHeight: Math.max(44, onGrid(titleLine + 20))
     readonly property int controlHeight: Math.max(28, onGrid(titleLine + 8))
+    readonly property int entryHeight: Math.max(36, onGrid(2 * smallLine + 4))
     readonly property int barHeight: Math.max(40, onGrid(titleLine + 20))
 
     readonly property FontMetrics titleFont: FontMetrics {

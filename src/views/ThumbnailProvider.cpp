@@ -8,6 +8,8 @@ namespace vellumry {
 
 namespace {
 
+constexpr QLatin1String wholeSuffix{"/whole"};
+
 QImage roundedSquare(const QImage& picture, const QSize& size) {
     const QImage scaled = picture.scaled(size, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
     QImage result(size, QImage::Format_ARGB32_Premultiplied);
@@ -32,7 +34,10 @@ QImage ThumbnailProvider::requestImage(const QString& id, QSize* size, const QSi
     const QSize wanted = requested.isValid() && !requested.isEmpty() ? requested : QSize(32, 32);
     const QString key = id + QLatin1Char('@') + QString::number(wanted.width());
     QImage image;
-    if (const QImage* known = m_cache.object(key)) {
+    if (id.endsWith(wholeSuffix)) {
+        const std::optional<QByteArray> bytes = m_source(QUuid::fromString(id.chopped(wholeSuffix.size())));
+        image = bytes ? QImage::fromData(*bytes, "PNG") : QImage();
+    } else if (const QImage* known = m_cache.object(key)) {
         image = *known;
     } else {
         const std::optional<QByteArray> bytes = m_source(QUuid::fromString(id));

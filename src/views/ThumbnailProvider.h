@@ -10,8 +10,8 @@
 
 namespace vellumry {
 
-/// The small picture of a clip ("UUID"), rounded and cropped to a square, from the PNG that our own helper made. Keeps
-/// only what is on the screen. Main thread.
+/// The small picture of a clip ("UUID"), rounded and cropped to a square, or as it is ("UUID/whole"), from the PNG that
+/// our own helper made. Keeps only what is on the screen. Main thread.
 class ThumbnailProvider : public QQuickImageProvider {
 public:
     using Source = std::function<std::optional<QByteArray>(const QUuid&)>;

@@ -5,6 +5,7 @@
 #include "views/ViewEngine.h"
 
 #include <QAccessible>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QPointer>
 #include <QQmlEngine>
@@ -31,6 +32,14 @@ bool Views::isRightToLeft() const {
 
 bool Views::reducesMotion() const {
     return m_engine->reducesMotion();
+}
+
+QString Views::family() const {
+    return QGuiApplication::font().family();
+}
+
+QString Views::fixedFamily() const {
+    return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
 }
 
 QString Views::words(const QString& key) const {

@@ -21,6 +21,8 @@ class Views : public QObject {
     QML_SINGLETON
     Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
     Q_PROPERTY(bool isRightToLeft READ isRightToLeft CONSTANT)
+    Q_PROPERTY(QString family READ family CONSTANT)
+    Q_PROPERTY(QString fixedFamily READ fixedFamily CONSTANT)
 
 public:
     explicit Views(const ViewEngine& engine);
@@ -31,6 +33,10 @@ public:
     [[nodiscard]] bool isRightToLeft() const;
     /// The user wants less motion; asked anew at each use.
     Q_INVOKABLE [[nodiscard]] bool reducesMotion() const;
+    /// The font of the desktop's windows.
+    [[nodiscard]] QString family() const;
+    /// The font whose letters are all as wide, as the desktop has it.
+    [[nodiscard]] QString fixedFamily() const;
     /// `key` in the user's language.
     Q_INVOKABLE [[nodiscard]] QString words(const QString& key) const;
     /// Tells screen readers that `item` was selected, or is not any more: Qt tells no change of that state by itself.

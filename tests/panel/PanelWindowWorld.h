@@ -2,6 +2,7 @@
 #pragma once
 
 #include "panel/PanelController.h"
+#include "support/FakeImageCodec.h"
 #include "support/FakePanelSurface.h"
 #include "support/PasteWorld.h"
 #include "support/ShownTexts.h"
@@ -38,6 +39,9 @@ protected:
         hooks.openPanelKeys = [] { return QStringLiteral("Super+V"); };
         hooks.requestAccessibility = [this] { ++accessRequests; };
         hooks.showToast = [this](const ToastMessage& toast) { toasts.push_back(toast); };
+        hooks.preview.images = &codec;
+        hooks.preview.isReadingText = [this](const QUuid& id) { return beingRead.contains(id); };
+        hooks.preview.readText = [this](const QUuid& id) { beingRead.insert(id); };
         hooks.settleDelay = std::chrono::milliseconds(0);
         hooks.forgetDelay = std::chrono::milliseconds(0);
         return hooks;
@@ -62,6 +66,8 @@ protected:
     }
 
     FakePanelSurface surface;
+    FakeImageCodec codec;
+    QSet<QUuid> beingRead; ///< pictures whose words are being read
     ViewEngine views;
     QMap<QString, placement::Fractions> positions;
     int savings = 0;

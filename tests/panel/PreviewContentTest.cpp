@@ -143,14 +143,14 @@ TEST(PreviewContent, FilesSayWhereTheyAreNow) {
         preview({clip}, {FileStatus::available(QStringLiteral("/a/1")), FileStatus::moved(QStringLiteral("/b/2")),
                          FileStatus::inTrash(QStringLiteral("/t/3")),
                          FileStatus::volumeUnavailable(QStringLiteral("Stick")), FileStatus::missing()});
-    ASSERT_EQ(content.files.size(), 5U);
-    EXPECT_EQ(content.files[0].symbol, QStringLiteral("doc"));
-    EXPECT_TRUE(content.files[0].note.isEmpty());
-    EXPECT_EQ(content.files[1].symbol, QStringLiteral("arrow.turn.down.right"));
-    EXPECT_EQ(content.files[1].place, QStringLiteral("/b"));
-    EXPECT_EQ(content.files[2].note, QStringLiteral("In the Trash. Pastes until the Trash is emptied"));
-    EXPECT_TRUE(content.files[3].note.contains(QStringLiteral("Stick")));
-    EXPECT_TRUE(content.files[4].isMissing);
+    ASSERT_EQ(content.entries.size(), 5U);
+    EXPECT_EQ(content.entries[0].symbol, QStringLiteral("doc"));
+    EXPECT_TRUE(content.entries[0].note.isEmpty());
+    EXPECT_EQ(content.entries[1].symbol, QStringLiteral("arrow.turn.down.right"));
+    EXPECT_EQ(content.entries[1].place, QStringLiteral("/b"));
+    EXPECT_EQ(content.entries[2].note, QStringLiteral("In the Trash. Pastes until the Trash is emptied"));
+    EXPECT_TRUE(content.entries[3].note.contains(QStringLiteral("Stick")));
+    EXPECT_TRUE(content.entries[4].isMissing);
     EXPECT_TRUE(content.note.startsWith(QStringLiteral("Vellumry keeps a link to files you copy")));
     EXPECT_TRUE(button(content, Action::showFiles));
 }
@@ -166,7 +166,7 @@ TEST(PreviewContent, ALongListOfFilesIsCut) {
     for (int index = 0; index < previewListLength + 3; ++index)
         paths.append(QStringLiteral("/a/%1").arg(index));
     const auto content = preview({filesOf(paths)});
-    EXPECT_EQ(qsizetype(content.files.size()), previewListLength);
+    EXPECT_EQ(qsizetype(content.entries.size()), previewListLength);
     EXPECT_EQ(content.more, QStringLiteral("3 more"));
 }
 
@@ -218,7 +218,7 @@ TEST(PreviewContent, SeveralTextsCanBeMerged) {
     const auto content = preview(clips);
     EXPECT_EQ(content.body, Body::several);
     EXPECT_EQ(content.heading, QStringLiteral("10 clips selected"));
-    EXPECT_EQ(qsizetype(content.titles.size()), previewListLength);
+    EXPECT_EQ(qsizetype(content.entries.size()), previewListLength);
     EXPECT_EQ(content.more, QStringLiteral("2 more"));
     EXPECT_EQ(content.note,
               QStringLiteral("Merge joins them into one clip, one per line, in the order you copied them."));
@@ -256,5 +256,5 @@ TEST(PreviewContent, ASecretAmongSeveralIsNotShown) {
     const auto secret = clipOf(ClipKind::text, "ghp_secret");
     secret->expiresAt = 10;
     const auto content = preview({secret, clipOf(ClipKind::text, "b")});
-    EXPECT_EQ(content.titles.front(), QStringLiteral("Hidden"));
+    EXPECT_EQ(content.entries.front().name, QStringLiteral("Hidden"));
 }

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vellumry.Panel
+import Vellumry.Views
+
+// The right-hand side of the panel: what is chosen in full, where it came from, and what can be done with it.
+Item {
+    id: pane
+
+    required property PanelFacade panel
+    required property PreviewModel preview
+    property Item askingButton: null
+
+    objectName: "preview"
+    Accessible.role: Accessible.Grouping
+    Accessible.name: Views.words("Preview")
+
+    Rectangle {
+        anchors.left: parent.left
+        width: Theme.thin
+        height: parent.height
+        color: Theme.line
+    }
+    ClipPreview {
+        visible: pane.preview.body !== PreviewModel.Several
+        preview: pane.preview
+        anchors.fill: stage
+    }
+    MultiPreview {
+        visible: pane.preview.body === PreviewModel.Several
+        preview: pane.preview
+        anchors.fill: stage
+    }
+    Item {
+        id: stage
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.inset
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.inset
+        anchors.top: parent.top
+        anchors.topMargin: Theme.gap
+        anchors.bottom: words.top
+        anchors.bottomMargin: Theme.gap
+    }
+    Column {
+        id: words
+        anchors.left: stage.left
+        anchors.right: stage.right
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Theme.margin
+        spacing: Theme.gap
+
+        Label {
+            objectName: "note"
+            visible: text !== ""
+            width: parent.width
+            text: pane.preview.note
+            color: Theme.secondary
+            wrapMode: Text.Wrap
+            elide: Text.ElideNone
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+        Label {
+            objectName: "details"
+            visible: text !== ""
+            width: parent.width
+            text: pane.preview.details
+            color: Theme.secondary
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+        TransformList {
+            visible: pane.preview.showsTransforms
+            panel: pane.panel
+            width: parent.width
+        }
+        Flow {
+            id: actions
+            width: parent.width
+            spacing: Theme.gap
+
+            Repeater {
+                model: pane.preview.buttons
+
+                PreviewButton {
+                    id: button
+                    widest: actions.width
+                    onPressed: pane.preview.perform(button.action)
+                    onIsAskingChanged: pane.askingButton = button.isAsking ? button : null
+                }
+            }
+        }
+    }
+    Tooltip {
+        readonly property Item button: pane.askingButton
+        // Above the button and within the pane.
+        readonly property point place: button === null ? Qt.point(0, 0) : button.mapToItem(pane, button.width / 2, 0)
+
+        visible: button !== null
+        text: pane.askingButton === null ? "" : (pane.askingButton as PreviewButton).help
+        x: Math.max(Theme.gap, Math.min(place.x - width / 2, pane.width - width - Theme.gap))
+        y: place.y - height - Theme.grid
+    }
+}

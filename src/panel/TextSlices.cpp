@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/TextSlices.h"
+
+#include <QTextBoundaryFinder>
+#include <algorithm>
+#include <cstring>
+
+namespace vellumry::textslices {
+
+namespace {
+
+constexpr qsizetype nearEnd = 400;
+
+/// The end of the line that goes on at `start`, its break included. Not looked for beyond what fits into a slice.
+qsizetype lineEnd(QByteArrayView text, qsizetype start) {
+    const qsizetype room = std::min(text.size() - start, longestSlice + 1);
+    const void* found = std::memchr(text.data() + start, '\n', static_cast<std::size_t>(room));
+    return found ? static_cast<const char*>(found) - text.data() + 1 : start + room;
+}
+
+bool isWithinCharacter(QByteArrayView text, qsizetype place) {
+    return place < text.size() && (static_cast<quint8>(text[place]) & 0xC0) == 0x80;
+}
+
+/// Where a line that is too long is cut: behind a blank near the end of the room, else between two characters.
+qsizetype cutOf(QByteArrayView text, qsizetype start) {
+    qsizetype end = start + longestSlice;
+    for (qsizetype place = end; place > end - nearEnd; --place) {
+        if (text[place - 1] == ' ')
+            return place;
+    }
+    while (isWithinCharacter(text, end))
+        --end;
+    qsizetype before = end - nearEnd;
+    while (isWithinCharacter(text, before))
+        --before;
+    // The last boundary of this piece may be one only because the piece ends there.
+    const QString tail = QString::fromUtf8(text.sliced(before, end - before));
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, tail);
+    finder.toEnd();
+    const qsizetype boundary = finder.toPreviousBoundary();
+    if (boundary <= 0)
+        return end;
+    return before + QStringView(tail).left(boundary).toUtf8().size();
+}
+
+} // namespace
+
+std::vector<quint32> startsOf(QByteArrayView text) {
+    std::vector<quint32> starts;
+    qsizetype start = 0;
+    while (start < text.size()) {
+        starts.push_back(static_cast<quint32>(start));
+        qsizetype end = start;
+        for (int lines = 0; lines < mostLines && end < text.size() && end - start < fullSlice; ++lines) {
+            const qsizetype next = lineEnd(text, end);
+            if (next - start > longestSlice) {
+                // Behind whole lines, the long one begins a slice of its own.
+                end = end > start ? end : cutOf(text, start);
+                break;
+            }
+            end = next;
+        }
+        start = end;
+    }
+    return starts;
+}
+
+QString shown(QByteArrayView slice, int tabWidth) {
+    QString text = QString::fromUtf8(slice);
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    if (text.endsWith(QLatin1Char('\n')))
+        text.chop(1);
+    text.replace(QChar(u'\0'), QChar(0x2400));
+    if (tabWidth <= 0 || !text.contains(QLatin1Char('\t')))
+        return text;
+    QString expanded;
+    int column = 0;
+    for (const QChar character : std::as_const(text)) {
+        if (character == QLatin1Char('\t')) {
+            const int blanks = tabWidth - column % tabWidth;
+            expanded.append(QString(blanks, QLatin1Char(' ')));
+            column += blanks;
+            continue;
+        }
+        expanded.append(character);
+        column = character == QLatin1Char('\n') ? 0 : column + (character.isLowSurrogate() ? 0 : 1);
+    }
+    return expanded;
+}
+
+} // namespace vellumry::textslices
