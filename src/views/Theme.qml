@@ -85,7 +85,6 @@ QtObject {
     readonly property int welcomeLogo: 128
     readonly property int tryFieldWidth: 280
     readonly property int settingsWidth: 540
-    readonly property int welcomeWidth: 640
     readonly property int previewWidth: 372
     readonly property int largeTile: 44
     readonly property int largeSymbol: 24
