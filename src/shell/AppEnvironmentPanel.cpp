@@ -14,6 +14,10 @@ PanelController::Hooks AppEnvironment::panelHooks() {
     hooks.openPanelKeys = [this] { return openPanelKeys(); };
     hooks.keyCodeOf = [this](quint32 scanCode) { return m_platform->keyboard->keyCodeOfScanCode(scanCode); };
     hooks.requestAccessibility = [this] { m_platform->pasteTarget->requestTrust(); };
+    hooks.preview.images = m_platform->images.get();
+    hooks.preview.isReadingText = [this](const QUuid& id) { return m_textReading->queue().isReading(id); };
+    hooks.preview.readText = [this](const QUuid& id) { m_textReading->queue().readFile(id); };
+    hooks.preview.clock = m_platform->clock;
     hooks.statusMenu = [this] { return statusMenu(); };
     hooks.showToast = [this](const ToastMessage& message) { showToast(message); };
     return hooks;
@@ -25,6 +29,7 @@ void AppEnvironment::wirePanel() {
         if (m_onboarding->isVisible())
             m_onboardingModel->notePanelOpened();
     };
+    connect(&m_textReading->queue(), &TextReadingQueue::changed, m_panel.get(), &PanelController::readingChanged);
     m_panel->model().onOpenLink = [this](const QString& address) { openLink(address); };
     m_panel->model().onShowFiles = [this](const QStringList& paths) { m_platform->opener->showFiles(paths); };
 }
