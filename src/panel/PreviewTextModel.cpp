@@ -16,7 +16,7 @@ QVariant PreviewTextModel::data(const QModelIndex& index, int role) const {
         return {};
     const auto row = static_cast<std::size_t>(index.row());
     const qsizetype start = m_starts[row];
-    const qsizetype end = row + 1 < m_starts.size() ? qsizetype(m_starts[row + 1]) : m_text.size();
+    const qsizetype end = row + 1 < m_starts.size() ? qsizetype(m_starts[row + 1]) : m_end;
     return textslices::shown(QByteArrayView(m_text).sliced(start, end - start), m_tabWidth);
 }
 
@@ -30,6 +30,7 @@ void PreviewTextModel::setText(QByteArray text, std::vector<quint32> starts, int
     beginResetModel();
     m_text = std::move(text);
     m_starts = std::move(starts);
+    m_end = m_text.size();
     m_tabWidth = tabWidth;
     endResetModel();
 }
@@ -41,14 +42,17 @@ void PreviewTextModel::extendTo(QByteArray text, std::vector<quint32> starts) {
         setText(std::move(text), std::move(starts), m_tabWidth);
         return;
     }
+    // The last row is completed before others join it.
     const bool grows = after > before;
-    if (grows)
-        beginInsertRows({}, before, after - 1);
     m_text = std::move(text);
-    m_starts = std::move(starts);
-    if (grows)
-        endInsertRows();
+    m_end = grows ? qsizetype(starts[static_cast<std::size_t>(before)]) : m_text.size();
     Q_EMIT dataChanged(index(before - 1), index(before - 1));
+    if (!grows)
+        return;
+    beginInsertRows({}, before, after - 1);
+    m_starts = std::move(starts);
+    m_end = m_text.size();
+    endInsertRows();
 }
 
 } // namespace vellumry

@@ -31,6 +31,7 @@ public:
 private:
     QByteArray m_text;
     std::vector<quint32> m_starts;
+    qsizetype m_end = 0; ///< of the last row
     int m_tabWidth = 0;
 };
 

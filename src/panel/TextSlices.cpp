@@ -18,8 +18,14 @@ qsizetype lineEnd(QByteArrayView text, qsizetype start) {
     return found ? static_cast<const char*>(found) - text.data() + 1 : start + room;
 }
 
-bool isWithinCharacter(QByteArrayView text, qsizetype place) {
-    return place < text.size() && (static_cast<quint8>(text[place]) & 0xC0) == 0x80;
+/// Where the character begins that `place` lies in; bytes that are no text have none, and are cut anywhere.
+qsizetype characterStart(QByteArrayView text, qsizetype place) {
+    constexpr int mostFollowing = 3;
+    for (int back = 0; back <= mostFollowing; ++back) {
+        if ((static_cast<quint8>(text[place - back]) & 0xC0) != 0x80)
+            return place - back;
+    }
+    return place;
 }
 
 /// Where a line that is too long is cut: behind a blank near the end of the room, else between two characters.
@@ -29,19 +35,15 @@ qsizetype cutOf(QByteArrayView text, qsizetype start) {
         if (text[place - 1] == ' ')
             return place;
     }
-    while (isWithinCharacter(text, end))
-        --end;
-    qsizetype before = end - nearEnd;
-    while (isWithinCharacter(text, before))
-        --before;
-    // The last boundary of this piece may be one only because the piece ends there.
-    const QString tail = QString::fromUtf8(text.sliced(before, end - before));
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, tail);
+    end = characterStart(text, end);
+    // From the beginning: which scalars of a row of flags belong together is told by counting.
+    const QString piece = QString::fromUtf8(text.sliced(start, end - start));
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, piece);
     finder.toEnd();
+    // The boundary at the end may be one only because the piece ends there.
     const qsizetype boundary = finder.toPreviousBoundary();
-    if (boundary <= 0)
-        return end;
-    return before + QStringView(tail).left(boundary).toUtf8().size();
+    const qsizetype kept = boundary <= 0 ? 0 : QStringView(piece).left(boundary).toUtf8().size();
+    return kept > 0 && start + kept < end ? start + kept : end;
 }
 
 } // namespace

@@ -71,6 +71,7 @@ QtObject {
     readonly property int lensSize: 20
     readonly property int emptySymbolSize: 36
     readonly property int emptyWidth: 420
+    readonly property int transformWidth: 232
     readonly property int tooltipWidth: 360
     readonly property int alertWidth: 440
     readonly property int messageWidth: 560
