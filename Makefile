@@ -6,7 +6,7 @@ DESTDIR ?=
 export CCACHE_NOHASHDIR = 1
 export CCACHE_BASEDIR = $(CURDIR)
 
-.PHONY: help run install uninstall package test test-trixie sanitize torture bench matrix lint build asan clean
+.PHONY: help run install uninstall package test test-trixie sanitize torture bench gallery matrix lint build asan clean
 
 help: ## list the tasks
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:.*## /\t/' | expand -t 14
@@ -48,6 +48,10 @@ bench: ## build, run the benchmarks and the side-by-side runs, print figures and
 	@scripts/install-deps --test
 	@$(MAKE) --no-print-directory build
 	@bench/run
+
+gallery: ## draw the panel in each of its states into docs/gallery
+	@scripts/install-deps --unit
+	@scripts/gallery
 
 matrix: ## install large applications too, try them all, write what was seen into docs/
 	@scripts/install-deps --matrix
