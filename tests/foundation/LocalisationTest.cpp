@@ -86,6 +86,58 @@ TEST(Localisation, NoWordingShownSpeaksOfAnotherSystem) {
     QCoreApplication::removeTranslator(&catalogue);
 }
 
+struct LanguageCase {
+    const char* name;
+    const char* language;
+    const char* all;
+    const char* messages;
+    const char* lang;
+    QStringList wanted;
+};
+
+class WantedLanguages : public ::testing::TestWithParam<LanguageCase> {
+protected:
+    WantedLanguages() {
+        for (const char* variable : variables)
+            before.append(qgetenv(variable));
+    }
+    ~WantedLanguages() override {
+        for (std::size_t index = 0; index < std::size(variables); ++index)
+            set(variables[index], before[qsizetype(index)]);
+    }
+    static void set(const char* variable, const QByteArray& value) {
+        if (value.isEmpty())
+            qunsetenv(variable);
+        else
+            qputenv(variable, value);
+    }
+
+    static constexpr const char* variables[] = {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"};
+    QByteArrayList before;
+};
+
+TEST_P(WantedLanguages, AreThoseOfTheEnvironmentInItsOrder) {
+    const LanguageCase& given = GetParam();
+    set("LANGUAGE", given.language);
+    set("LC_ALL", given.all);
+    set("LC_MESSAGES", given.messages);
+    set("LANG", given.lang);
+    EXPECT_EQ(wantedLanguages(), given.wanted);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Each, WantedLanguages,
+    ::testing::Values(LanguageCase{"Nothing", "", "", "", "", {}},
+                      LanguageCase{"LangAlone", "", "", "", "de_AT.UTF-8", {"de_AT"}},
+                      LanguageCase{"MessagesBeforeLang", "", "", "fr_FR.UTF-8", "de_DE.UTF-8", {"fr_FR"}},
+                      LanguageCase{"AllBeforeMessages", "", "es_ES.UTF-8", "fr_FR", "de_DE", {"es_ES"}},
+                      LanguageCase{"LanguageBeforeAll", "pt_BR:ja", "es_ES.UTF-8", "", "", {"pt_BR", "ja", "es_ES"}},
+                      LanguageCase{"CodingAndCurrencyAreNoLanguage", "", "", "", "de_DE.ISO-8859-15@euro", {"de_DE"}},
+                      LanguageCase{"CIsUntranslatedWhateverLanguageSays", "de", "C", "", "de_DE", {}},
+                      LanguageCase{"CWithACodingToo", "de", "", "", "C.UTF-8", {}},
+                      LanguageCase{"ALocaleThatDoesNotExist", "", "", "", "tlh_XX.UTF-8", {"tlh_XX"}}),
+    [](const auto& each) { return std::string(each.param.name); });
+
 TEST(Localisation, InstallingTakesTheLinuxWordingAsTheLastResort) {
     installCatalogue();
     EXPECT_EQ(localised("⌘"), QStringLiteral("Ctrl+"));
