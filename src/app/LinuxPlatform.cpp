@@ -10,6 +10,7 @@
 #include "linux/files/InotifyFolderWatching.h"
 #include "linux/files/PosixFileBookmarks.h"
 #include "linux/keyring/KeychainKeyStore.h"
+#include "linux/process/AppImage.h"
 #include "linux/process/DBusSingleInstance.h"
 #include "linux/process/MemoryReturn.h"
 #include "linux/process/TimerfdDateTimer.h"
@@ -18,6 +19,7 @@
 #include "linux/reader/ReaderTextReader.h"
 #include "linux/sound/ThemeSounds.h"
 #include "linux/tray/StatusNotifierTray.h"
+#include "linux/update/AppImageUpdater.h"
 #include "linux/x11/keys/X11HotKeys.h"
 #include "linux/x11/keys/X11KeyboardLayout.h"
 #include "linux/x11/keys/X11PasteKeys.h"
@@ -30,6 +32,7 @@
 #include "linux/x11/windows/X11PanelSurface.h"
 #include "linux/x11/windows/XlibConnection.h"
 #include "settings/Preferences.h"
+#include "shell/Ending.h"
 #include "views/SymbolProvider.h"
 
 #include <QCoreApplication>
@@ -82,6 +85,26 @@ std::optional<Reason> addDisplay(Platform& platform) {
     return std::nullopt;
 }
 
+/// Only an AppImage of the user's own replaces itself: everything else belongs to a package manager.
+void addUpdater(Platform& platform) {
+#ifndef NDEBUG
+    platform.updateConfiguration.isDebugBuild = true;
+#endif
+    platform.updateConfiguration.feedURL = QUrl(QStringLiteral(VELLUMRY_FEED_URL), QUrl::StrictMode);
+    platform.updateConfiguration.publicKey = QStringLiteral(VELLUMRY_UPDATE_KEY);
+    const QString program = runningAppImage();
+    if (!platform.updateConfiguration.allowsUpdates() || !ProgramFile(program).isReplaceable())
+        return;
+    AppImageUpdater::Options options;
+    options.program = program;
+    options.version = QCoreApplication::applicationVersion();
+    options.feed = platform.updateConfiguration.feedURL;
+    options.publicKey = QByteArray::fromBase64(platform.updateConfiguration.publicKey.trimmed().toLatin1());
+    options.defaults = platform.defaults.get();
+    options.endProgram = &endProgram;
+    platform.updater = std::make_unique<AppImageUpdater>(std::move(options));
+}
+
 } // namespace
 
 QString readerPath() {
@@ -122,6 +145,7 @@ OrReason<Platform> makeLinuxPlatform() {
         loginItem->follow();
         platform.loginItem = std::move(loginItem);
     }
+    addUpdater(platform);
     platform.returnMemory = &returnCode;
     return platform;
 }

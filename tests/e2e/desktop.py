@@ -129,7 +129,7 @@ def forgo_greeting():
 class Vellumry(Process):
     """The program under test, started and watching the clipboard."""
 
-    def __init__(self, *arguments, ready=True, greeted=True, **options):
+    def __init__(self, *arguments, ready=True, greeted=True, program=PROGRAM, **options):
         if greeted:
             forgo_greeting()
         self.folder = tempfile.mkdtemp(prefix="notify")
@@ -140,7 +140,7 @@ class Vellumry(Process):
         environment.update(options.pop("environment", {}))
         self.started = time.monotonic()
         options.setdefault("stderr", None)
-        super().__init__(PROGRAM, *arguments, env=environment, **options)
+        super().__init__(program, *arguments, env=environment, **options)
         if ready:
             self.wait_ready()
 

@@ -15,6 +15,7 @@
 #include "support/FakePasteKeys.h"
 #include "support/FakePasteTarget.h"
 #include "support/FakePasteboard.h"
+#include "support/FakeSoftwareUpdater.h"
 #include "support/FakeSoundPlayer.h"
 #include "support/FakeStatusItem.h"
 #include "support/FakeTextReader.h"
@@ -111,6 +112,12 @@ protected:
             askedFolder = folder;
             return hasRoom;
         };
+        if (hasUpdates) {
+            put(platform.updater, updater, std::make_unique<FakeSoftwareUpdater>());
+            platform.updateConfiguration.feedURL = QUrl(QStringLiteral("https://updates.example.org/feed"));
+            platform.updateConfiguration.publicKey = QString::fromLatin1(QByteArray(32, 'k').toBase64());
+        }
+        platform.idleSeconds = [this] { return idleSeconds; };
         platform.returnMemory = [this] { ++memoryReturns; };
         platform.dataHome = disk.filePath(QStringLiteral("data"));
         platform.home = disk.path();
@@ -137,6 +144,8 @@ protected:
     bool isWaylandSession = false;                           ///< with Xwayland
     QString settingsFolder;                                  ///< that is watched
     std::vector<FakeHotKeyRegistrar::Combination> takenKeys; ///< by other programs
+    bool hasUpdates = false;                                 ///< the program may replace itself
+    double idleSeconds = 0;                                  ///< since the user did anything
     bool hasRoom = true;
     QString askedFolder; ///< whose volume was asked for room last
     int memoryReturns = 0;
@@ -151,6 +160,7 @@ protected:
     FakeSoundPlayer* sounds = nullptr;
     FakeOpener* opener = nullptr;
     FakeStatusItem* statusItem = nullptr;
+    FakeSoftwareUpdater* updater = nullptr;
     FakePanelSurface* surface = nullptr;
     FakeTextReader* textReader = nullptr;
     FakeImageCodec* images = nullptr;

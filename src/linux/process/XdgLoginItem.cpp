@@ -2,6 +2,7 @@
 #include "linux/process/XdgLoginItem.h"
 
 #include "foundation/Logging.h"
+#include "linux/process/AppImage.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -83,7 +84,7 @@ XdgLoginItem::Places XdgLoginItem::Places::ofUser() {
     for (const QString& folder : folders)
         places.systemFolders.append(folder + QStringLiteral("/autostart"));
     places.userFolder = places.systemFolders.takeFirst();
-    const QString appImage = qEnvironmentVariable("APPIMAGE");
+    const QString appImage = runningAppImage();
     places.program = appImage.isEmpty() ? QCoreApplication::applicationFilePath() : appImage;
     return places;
 }
