@@ -10,6 +10,8 @@ ScrollPane {
 
     required property SettingsModel settings
 
+    Component.onCompleted: settings.refreshAll()
+
     FormSection {
         PickerRow {
             title: Views.words("Keep clips for")

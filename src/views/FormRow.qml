@@ -41,6 +41,7 @@ Item {
 
         Symbol {
             visible: row.symbol !== "" && image.status !== Image.Ready
+            anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             name: row.symbol
             tint: row.symbolColour
@@ -49,6 +50,7 @@ Item {
         Image {
             id: image
             visible: row.showsPicture
+            anchors.left: parent.left
             width: Theme.applicationIcon
             height: Theme.applicationIcon
             sourceSize.width: Theme.applicationIcon

@@ -58,6 +58,8 @@ void drawBird(QPainter& painter, const LogoMotion::Frame& frame) {
     body.cubicTo(94, 70, 116, 72, 118, 60);
     body.closeSubpath();
     painter.fillPath(body, feathers);
+    // Seen on dark ground too.
+    painter.strokePath(body, QPen(farClip, 1.5));
     QPainterPath beak(QPointF(81, 19));
     beak.lineTo(62, 30);
     beak.lineTo(82, 31);

@@ -17,7 +17,8 @@ Row {
     function go(choice: int): void {
         const next = Math.max(0, Math.min(titles.length - 1, choice));
         pages.itemAt(next).forceActiveFocus(Qt.TabFocusReason);
-        tabs.chosen(next);
+        if (index !== next)
+            tabs.chosen(next);
     }
     function takeFocus(): void {
         pages.itemAt(index).forceActiveFocus(Qt.TabFocusReason);
@@ -54,6 +55,11 @@ Row {
             Accessible.focused: activeFocus
             Accessible.onPressAction: tabs.chosen(page.index)
             onIsCurrentChanged: Views.tellSelected(page)
+            // Assistive technology may move the keyboard alone.
+            onActiveFocusChanged: {
+                if (activeFocus && !isCurrent)
+                    tabs.chosen(page.index);
+            }
             Keys.onLeftPressed: tabs.go(page.index + (Views.isRightToLeft ? 1 : -1))
             Keys.onRightPressed: tabs.go(page.index + (Views.isRightToLeft ? -1 : 1))
             Keys.onPressed: event => {

@@ -40,7 +40,7 @@ Rectangle {
             picker.chosen(next);
     }
 
-    width: Theme.pickerWidth
+    width: Math.min(Theme.controlWidth, Math.max(Theme.pickerWidth, words.implicitWidth + Theme.margin + Theme.smallSymbolSize + 2 * Theme.gap))
     height: Theme.controlHeight
     radius: Theme.rowRadius
     color: area.containsMouse ? Theme.tile : Theme.cap
@@ -67,6 +67,7 @@ Rectangle {
     Keys.onEnterPressed: open()
 
     Label {
+        id: words
         anchors.left: parent.left
         anchors.leftMargin: Theme.margin
         anchors.right: arrows.left

@@ -19,7 +19,7 @@ Rectangle {
     implicitHeight: Math.max(Theme.controlHeight, label.implicitHeight + Theme.margin)
     radius: Theme.rowRadius
     color: !enabled ? Theme.ground : isChief ? (area.containsPress ? Theme.pressedButton : Theme.button) : area.containsPress ? Theme.edge : area.containsMouse ? Theme.tile : Theme.cap
-    border.width: activeFocus ? 2 : isChief ? 0 : Theme.thin
+    border.width: activeFocus ? 2 : isChief && enabled ? 0 : Theme.thin
     border.color: activeFocus ? (isChief ? Theme.text : Theme.accent) : Theme.capEdge
     activeFocusOnTab: true
     Accessible.role: Accessible.Button

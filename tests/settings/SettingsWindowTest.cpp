@@ -12,6 +12,7 @@
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTest>
+#include <QTranslator>
 #include <gtest/gtest.h>
 
 namespace vellumry {
@@ -80,6 +81,14 @@ TEST_F(SettingsWindowTest, LeftAndRightGoThroughThePanes) {
     EXPECT_TRUE(shows("Always on"));
     press(Qt::Key_Home);
     EXPECT_EQ(focused(), QStringLiteral("General"));
+}
+
+TEST_F(SettingsWindowTest, AssistiveTechnologyReachesAPaneByItsTab) {
+    item(QAccessible::PageTab, "Privacy")->forceActiveFocus();
+    EXPECT_TRUE(shows("Always on"));
+    QAccessibleInterface* tab = QAccessible::queryAccessibleInterface(item(QAccessible::PageTab, "History"));
+    tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(shows("Keep at most"));
 }
 
 TEST_F(SettingsWindowTest, SpaceWorksASwitchAtOnce) {
@@ -282,6 +291,78 @@ TEST_F(SettingsWindowTest, ClosesByItsKeysAndComesBackWithTheFirstPane) {
     EXPECT_TRUE(shows("Panel position"));
     press(Qt::Key_Escape);
     EXPECT_FALSE(controller.isVisible());
+}
+
+/// The texts that are shown cut.
+QStringList cutTexts(QQuickItem* item) {
+    QStringList found;
+    if (!item->isVisible())
+        return found;
+    if (item->inherits("QQuickText") && item->property("truncated").toBool())
+        found.append(item->property("text").toString());
+    for (QQuickItem* child : item->childItems())
+        found += cutTexts(child);
+    return found;
+}
+
+/// A language that needs two fifths more room than English.
+class LongWords : public QTranslator {
+public:
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char*, const char* key, const char*, int) const override {
+        const QString text = QString::fromUtf8(key);
+        return text == QLatin1String("en") ? text : text + text.left(text.size() * 2 / 5);
+    }
+};
+
+class SettingsWindowInAnotherLanguageTest : public SettingsWindowTest {
+protected:
+    SettingsWindowInAnotherLanguageTest() { QCoreApplication::installTranslator(&words); }
+    ~SettingsWindowInAnotherLanguageTest() override {
+        QCoreApplication::removeTranslator(&words);
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+    LongWords words;
+};
+
+TEST_F(SettingsWindowInAnotherLanguageTest, LongTextsAreNotCut) {
+    // The pane is made anew with the words of that language.
+    for (const int pane : {1, 2, 3, 4, 0}) {
+        goTo(pane);
+        EXPECT_EQ(cutTexts(root()), QStringList()) << pane;
+    }
+}
+
+class SettingsWindowMirroredTest : public ::testing::Test {
+protected:
+    SettingsWindowMirroredTest() { QGuiApplication::setLayoutDirection(Qt::RightToLeft); }
+    ~SettingsWindowMirroredTest() override { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+    [[nodiscard]] QQuickItem* item(QAccessible::Role role, const char* name) const {
+        return accessibleItem(controller.window()->contentItem(), role, QString::fromUtf8(name));
+    }
+    [[nodiscard]] static double left(const QQuickItem* item) { return item->mapToScene(QPointF()).x(); }
+
+    UserDefaults defaults;
+    Preferences preferences{defaults};
+    FakeKeyboardLayout layout;
+    ViewEngine views;
+    SettingsModel model{preferences, layout};
+    SettingsWindowController controller{model, views};
+};
+
+TEST_F(SettingsWindowMirroredTest, AllRunsFromRightToLeft) {
+    // What the language decides was decided when the views began.
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    controller.show(0);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(controller.window(), 60'000));
+    const QString pictures = qEnvironmentVariable("VELLUMRY_PICTURES");
+    if (!pictures.isEmpty())
+        controller.window()->grabWindow().save(pictures + QStringLiteral("/settings-mirrored.png"));
+    EXPECT_GT(left(item(QAccessible::PageTab, "General")), left(item(QAccessible::PageTab, "About")));
+    EXPECT_LT(left(item(QAccessible::CheckBox, "Open Vellumry at login")), 270);
+    EXPECT_GT(left(item(QAccessible::StaticText, "Open Vellumry at login")), 60);
+    QTest::keyClick(controller.window(), Qt::Key_Left);
+    EXPECT_NE(item(QAccessible::Button, "Start / stop Paste Stack"), nullptr) << "the next pane lies to the left";
 }
 
 TEST_F(SettingsWindowTest, EveryControlHasANameForScreenReaders) {
