@@ -21,10 +21,10 @@ Item {
         anchors.fill: parent
         source: root.shadowMargin > 0 ? "image://symbol/shadow" : ""
         border {
-            left: 86
-            right: 86
-            top: 86
-            bottom: 86
+            left: Theme.shadowBorder
+            right: Theme.shadowBorder
+            top: Theme.shadowBorder
+            bottom: Theme.shadowBorder
         }
     }
     Rectangle {

@@ -10,12 +10,10 @@ Rectangle {
 
     required property StackHUDModel stack
     readonly property color cornerColour: Theme.edge
-    // 13.5 pixels: only points may be fractions.
-    readonly property real textSize: 13.5 * 72 / (Screen.logicalPixelDensity * 25.4)
     // What the button under the resting pointer does; the window has no room for it.
     readonly property string help: order.isAsking ? order.help : end.isAsking ? end.help : ""
     readonly property real helpCentre: (order.isAsking ? order.x : end.x) + end.width / 2
-    property int askingTime: 600
+    property int askingTime: Theme.askingTime
 
     width: Theme.inset + Math.ceil(words.implicitWidth) + Theme.margin + order.width + Theme.grid + end.width + Theme.gap
     height: Theme.barHeight
@@ -37,7 +35,7 @@ Rectangle {
         text: bar.stack.sentence
         textFormat: Text.StyledText
         color: bar.stack.isOver ? Theme.text : Theme.secondary
-        font.pointSize: bar.textSize
+        font.pixelSize: Theme.hudSize
         Accessible.role: Accessible.StaticText
         Accessible.name: bar.stack.spoken
     }

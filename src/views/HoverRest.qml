@@ -8,7 +8,7 @@ Timer {
     required property bool isHovered
     property bool isAsking: false
 
-    interval: 600
+    interval: Theme.askingTime
     running: isHovered
     onTriggered: isAsking = true
     onIsHoveredChanged: {

@@ -5,7 +5,7 @@ import QtQuick
 Image {
     property string name
     property color tint: Theme.secondary
-    property int size: 18
+    property int size: Theme.symbolSize
 
     width: size
     height: size

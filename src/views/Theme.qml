@@ -44,6 +44,7 @@ QtObject {
     readonly property int alertTitleSize: 17
     readonly property int formSize: 13
     readonly property int headingSize: 24
+    readonly property int hudSize: 14
     readonly property int textSize: 13
     readonly property int codeSize: 12
     readonly property real readingLine: 1.15
@@ -88,6 +89,10 @@ QtObject {
     readonly property int settingsWidth: 540
     readonly property int previewWidth: 372
     readonly property int largeTile: 44
+    // What of the shadow's picture is not stretched.
+    readonly property int shadowBorder: 86
+    // Milliseconds that the pointer rests until it is taken for a question.
+    readonly property int askingTime: 600
     readonly property int largeSymbol: 24
     readonly property int smallTile: 24
     readonly property int swatchHeight: 140
