@@ -136,5 +136,14 @@ TEST(ImageSummariser, AMarkedPictureIsAScreenshot) {
         << "marks without a picture";
 }
 
+TEST(ImageSummariser, APreviewIsThePictureAtItsSizeAndNothingElse) {
+    const ImageSummariser summariser;
+    const auto reply = summariser.preview(encode(twoColours(400, 200), "PNG"), 100);
+    EXPECT_EQ(reply.pixelSize, std::nullopt);
+    EXPECT_EQ(thumbnailOf(reply), thumbnailOf(summarise(encode(twoColours(400, 200), "PNG"), 100)));
+    EXPECT_EQ(thumbnailOf(summariser.preview(encode(twoColours(40, 20), "PNG"), 100)).size(), QSize(40, 20));
+    EXPECT_EQ(summariser.preview("no picture", 100).thumbnail, std::nullopt);
+}
+
 } // namespace
 } // namespace vellumry

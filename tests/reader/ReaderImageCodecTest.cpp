@@ -28,6 +28,13 @@ TEST(ReaderImageCodec, SummarisesAPicture) {
     EXPECT_FALSE(summary.isScreenshot);
 }
 
+TEST(ReaderImageCodec, OpensAPictureToBeLookedAt) {
+    ReaderImageCodec codec(realReader);
+    const QByteArray png = awaited(codec.preview(encode(twoColours(640, 320), "JPEG"), 320));
+    EXPECT_EQ(QImage::fromData(png, "PNG").size(), QSize(320, 160));
+    EXPECT_TRUE(awaited(codec.preview("no picture", 320)).isEmpty());
+}
+
 TEST(ReaderImageCodec, EveryDecoderWorksInTheSealedReader) {
     ReaderImageCodec codec(realReader);
     for (const char* format : {"PNG", "JPEG", "TIFF", "WEBP", "BMP"}) {
