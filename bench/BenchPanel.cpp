@@ -21,6 +21,7 @@
 
 #include <QCoroTask>
 #include <QGuiApplication>
+#include <QQuickItem>
 #include <QQuickView>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -61,6 +62,7 @@ public:
         print("first showing, until painted", {milliseconds([&] { show(); })});
         print("later showings, each with a new clip", measureShowing());
         measureTyping();
+        measurePreviews();
     }
 
 private:
@@ -125,6 +127,49 @@ private:
         print("a letter: search, sections, selection", searches);
         print("a letter: all of it, until painted", letters);
         print("a letter: rows, views, painting alone", ours);
+    }
+
+    /// From the choice until the preview is painted, and how long the main thread was busy at one go until the text was
+    /// there as a whole and counted.
+    void measurePreviews() {
+        ClipDraft other;
+        other.title = other.searchText = QStringLiteral("a short text");
+        const ClipRef shortText = QCoro::waitFor(m_store->add(std::move(other), currentDate()));
+        ClipDraft copied;
+        const QByteArray text =
+            QByteArray("All work and no play makes a long text of short lines.\n").repeated(190'000);
+        copied.title = QStringLiteral("ten megabytes");
+        copied.searchText = QString::fromUtf8(text.left(200'000));
+        copied.payload.items = {{{{QStringLiteral("public.utf8-plain-text"), text}}, std::nullopt}};
+        const ClipRef longText = QCoro::waitFor(m_store->add(std::move(copied), currentDate()));
+        m_panel->model().setQuery({});
+        auto* preview = m_view->rootObject()->property("preview").value<PreviewModel*>();
+        std::vector<double> painted;
+        std::vector<double> whole;
+        std::vector<double> busy;
+        for (int round = 0; round < rounds; ++round) {
+            m_panel->model().selectOnly(shortText->id);
+            (void)m_view->grabWindow();
+            double longest = 0;
+            painted.push_back(milliseconds([&] {
+                longest = milliseconds([&] { m_panel->model().selectOnly(longText->id); });
+                m_isPainted = false;
+                m_view->update();
+                untilPainted();
+            }));
+            const QString count = QString::number(text.size());
+            whole.push_back(painted.back() + milliseconds([&] {
+                                while (!preview->content().details.contains(count)) {
+                                    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 1);
+                                    longest =
+                                        std::max(longest, milliseconds([] { QCoreApplication::processEvents(); }));
+                                }
+                            }));
+            busy.push_back(longest);
+        }
+        print("10 MB of text: chosen, until painted", painted);
+        print("10 MB of text: whole and counted", whole);
+        print("10 MB of text: main thread at one go", busy);
     }
 
     QTemporaryDir m_folder;
