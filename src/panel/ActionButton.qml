@@ -14,7 +14,8 @@ Rectangle {
     property real widest: 0
     readonly property alias isAsking: rest.isAsking
     readonly property color ink: isProminent ? Theme.buttonText : Theme.text
-    readonly property real wanted: words.x + Math.ceil(words.implicitWidth) + Theme.margin
+    readonly property real lead: symbol === "" ? Theme.margin : Theme.gap + picture.width + Theme.grid
+    readonly property real wanted: lead + Math.ceil(words.implicitWidth) + Theme.margin
     signal pressed
 
     width: widest > 0 ? Math.min(wanted, widest) : wanted
@@ -42,7 +43,7 @@ Rectangle {
     Label {
         id: words
         anchors.left: parent.left
-        anchors.leftMargin: button.symbol === "" ? Theme.margin : Theme.gap + picture.width + Theme.grid
+        anchors.leftMargin: button.lead
         anchors.right: parent.right
         anchors.rightMargin: Theme.margin
         anchors.verticalCenter: parent.verticalCenter

@@ -149,6 +149,21 @@ TEST_F(PreviewButtonsViewTest, APressLeavesTheKeyboardInTheSearchField) {
     EXPECT_EQ(panel.model().query(), QStringLiteral("w"));
 }
 
+TEST_F(PreviewButtonsViewTest, FromRightToLeftTheirWordsAreWhole) {
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    addText("words");
+    open();
+    layOut();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    QQuickItem* button = node(QAccessible::Button, localised("Paste"));
+    ASSERT_TRUE(button);
+    const auto isLabel = [](const QQuickItem* item) { return item->inherits("QQuickText"); };
+    const auto labels = button->childItems();
+    const auto label = std::ranges::find_if(labels, isLabel);
+    ASSERT_NE(label, labels.end());
+    EXPECT_FALSE((*label)->property("truncated").toBool());
+}
+
 TEST_F(PreviewButtonsViewTest, AScreenReaderFindsAndPressesThem) {
     const ClipRef clip = addText("words");
     open();
