@@ -83,7 +83,7 @@ void AppDelegate::findCapabilities() {
 QString AppDelegate::status() const {
     StatusReport report;
     report.process = QCoreApplication::applicationPid();
-    report.capabilities = m_platform.capabilities;
+    report.capabilities = m_environment ? m_environment->capabilities() : m_platform.capabilities;
     if (m_environment)
         m_environment->describe(report);
     return report.text();

@@ -74,6 +74,8 @@ public:
     [[nodiscard]] std::vector<ActionMenuItem> statusMenu() const { return m_statusItem->menu(); }
     /// The desktop's panel shows the program's icon; without it the panel of clips is the way to the menu.
     [[nodiscard]] bool isInTray() const { return m_platform->statusItem->isShown(); }
+    /// What the session offers and lacks, as far as it is known now.
+    [[nodiscard]] std::vector<Capability> capabilities() const;
     /// Registers the global shortcuts anew; one sentence for each that another program holds.
     QStringList reloadShortcuts();
     void suspendShortcuts(bool isSuspended);

@@ -60,7 +60,7 @@ SettingsActions AppEnvironment::settingsActions() {
     actions.clipCount = [this] { return static_cast<qint64>(m_store->clips().size()); };
     actions.installedApplications = [this] { return listOf(m_platform->applications.get()); };
     actions.desktopState = [this] {
-        return DesktopState{m_platform->capabilities, m_settingsModel->shortcutProblems(), isMemoryOnly(),
+        return DesktopState{capabilities(), m_settingsModel->shortcutProblems(), isMemoryOnly(),
                             m_platform->isWaylandSession};
     };
     actions.updates = [this] {

@@ -22,6 +22,18 @@ void AppEnvironment::makeStatusItem() {
     m_statusItem->onQuit = &endProgram;
 }
 
+// A panel comes and goes, so that this one is looked at anew each time.
+std::vector<Capability> AppEnvironment::capabilities() const {
+    const QString tray = QStringLiteral("tray");
+    std::vector<Capability> capabilities = m_platform->capabilities;
+    capabilities.push_back(
+        (isInTray() ? Capability::found(tray, QStringLiteral("StatusNotifierItem"))
+                    : Capability::without(tray, QStringLiteral("no panel that shows icons over the session bus: the "
+                                                               "menu is behind a button of the panel of clips")))
+            .serving({Feature::tray}));
+    return capabilities;
+}
+
 void AppEnvironment::installStatusItem() {
     StatusItem& item = *m_platform->statusItem;
     item.menu = [self = QPointer(this)] { return self ? self->statusMenu() : std::vector<ActionMenuItem>(); };

@@ -109,6 +109,12 @@ TEST_F(AppActionsTest, TheStatusTellsWhatTheyDid) {
     EXPECT_FALSE(status.contains(QStringLiteral("canary")));
 }
 
+TEST_F(AppActionsTest, TheStatusTellsWhetherThereIsATrayNow) {
+    EXPECT_TRUE(instance->onStatus().contains(QStringLiteral("found: tray")));
+    statusItem->hasPlace = false;
+    EXPECT_TRUE(instance->onStatus().contains(QStringLiteral("missing: tray")));
+}
+
 TEST_F(AppActionsTest, QuitLeavesTheEventLoop) {
     QTimer::singleShot(0, &delegate, [this] { ask("quit"); });
     QCoreApplication::exec();
