@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "linux/x11/keys/KeyPositions.h"
+#include "linux/keys/KeyPositions.h"
 #include "linux/x11/windows/XlibConnection.h"
 
 #include <QString>

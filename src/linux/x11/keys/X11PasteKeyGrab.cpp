@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/keys/X11PasteKeyGrab.h"
 
-#include "linux/x11/keys/KeyCodes.h"
+#include "linux/keys/KeyCodes.h"
 #include "platform/display/EventFlags.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #include "linux/x11/keys/X11PasteTarget.h"
 
 #include "foundation/OneShot.h"
-#include "linux/x11/keys/TerminalApps.h"
+#include "linux/keys/TerminalApps.h"
 #include "linux/x11/keys/X11Keymap.h"
 #include "linux/x11/windows/XErrorTrap.h"
 #include "linux/x11/windows/XWindowProperties.h"

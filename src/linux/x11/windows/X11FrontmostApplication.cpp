@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/windows/X11FrontmostApplication.h"
 
-#include "linux/applications/ApplicationIdentifiers.h"
+#include "linux/applications/SourceApps.h"
 #include "linux/x11/windows/XWindowProperties.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 
 #include <X11/Xlib.h>
@@ -15,18 +14,6 @@ namespace vellumry {
 namespace {
 
 constexpr long windowEvents = StructureNotifyMask | PropertyChangeMask;
-
-/// A sandbox writes its application's id where the process sees its root folder.
-QString sandboxedID(qint64 process) {
-    QFile info(QStringLiteral("/proc/%1/root/.flatpak-info").arg(process));
-    if (process <= 0 || !info.open(QIODevice::ReadOnly))
-        return {};
-    for (const QByteArray& line : info.read(64 * 1024).split('\n')) {
-        if (line.startsWith("name="))
-            return QString::fromUtf8(line.mid(5).trimmed());
-    }
-    return {};
-}
 
 QString firstOf(std::initializer_list<QString> candidates) {
     for (const QString& candidate : candidates) {
@@ -107,22 +94,7 @@ SourceApp X11FrontmostApplication::current() const {
 }
 
 SourceApp X11FrontmostApplication::applicationOf(const ApplicationHints& hints) const {
-    if (hints == ApplicationHints())
-        return {};
-    const auto entry = entryOf(hints);
-    const QString id = entry.has_value() ? entry->id : firstOf({hints.applicationID, hints.className, hints.program});
-    SourceApp source;
-    for (const QString& name : {id, hints.applicationID, hints.className, hints.instanceName}) {
-        source.bundleID = ApplicationIdentifiers::standing(name);
-        if (source.bundleID.has_value())
-            break;
-    }
-    if (!source.bundleID.has_value() && !id.isEmpty())
-        source.bundleID = id;
-    const QString name = entry.has_value() ? entry->name : firstOf({hints.className, hints.program, id});
-    if (!name.isEmpty())
-        source.name = name;
-    return source;
+    return hints == ApplicationHints() ? SourceApp() : sourceAppOf(hints, *m_entries->index());
 }
 
 // Toolkits own selections with an unmapped window that says nothing of itself; the program's other windows

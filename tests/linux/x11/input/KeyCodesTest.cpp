@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "linux/x11/keys/KeyCodes.h"
-#include "linux/x11/keys/KeyPositions.h"
+#include "linux/keys/KeyCodes.h"
+#include "linux/keys/KeyPositions.h"
 
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>

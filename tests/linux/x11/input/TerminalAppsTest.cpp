@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "linux/x11/keys/TerminalApps.h"
+#include "linux/keys/TerminalApps.h"
 
 #include <gtest/gtest.h>
 

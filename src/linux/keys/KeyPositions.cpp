@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "linux/x11/keys/KeyPositions.h"
+#include "linux/keys/KeyPositions.h"
 
 #include <algorithm>
 #include <set>

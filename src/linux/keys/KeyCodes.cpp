@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "linux/x11/keys/KeyCodes.h"
+#include "linux/keys/KeyCodes.h"
 
 #include <array>
 #include <linux/input-event-codes.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "linux/x11/keys/KeyCodes.h"
+#include "linux/keys/KeyCodes.h"
 
 #include <array>
 #include <functional>
