@@ -16,6 +16,10 @@ HotKeyCenter::~HotKeyCenter() {
         m_registrar.release(action.key());
 }
 
+bool HotKeyCenter::hasKeys() const {
+    return m_registrar.hasKeys();
+}
+
 std::optional<quint32> HotKeyCenter::registerShortcut(const Shortcut& shortcut, Action action) {
     const auto id = m_nextID++;
     if (!m_registrar.grab(id, shortcut.keyCode, shortcut.modifiers))

@@ -23,6 +23,8 @@ public:
     HotKeyCenter(const HotKeyCenter&) = delete;
     HotKeyCenter& operator=(const HotKeyCenter&) = delete;
 
+    /// False where no program can hold keys.
+    [[nodiscard]] bool hasKeys() const;
     /// The id of the registration; nothing when the combination is taken. An id is never used twice in a run, that of a
     /// failed registration included, so that a late key press cannot reach a newer action.
     [[nodiscard]] std::optional<quint32> registerShortcut(const Shortcut& shortcut, Action action);

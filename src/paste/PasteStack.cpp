@@ -2,6 +2,7 @@
 #include "paste/PasteStack.h"
 
 #include "paste/PasteboardWriter.h"
+#include "platform/display/Pasteboard.h"
 
 #include <iterator>
 #include <utility>
@@ -57,7 +58,8 @@ bool PasteStack::pasteNext() {
 
     while (!m_items.empty()) {
         const Item item = takeNext();
-        if (write(item)) {
+        auto contents = contentsOf(item);
+        if (contents && m_pasteboard->write(std::move(*contents))) {
             ++m_pastedCount;
             if (onWritten)
                 onWritten(item);
@@ -85,13 +87,22 @@ PasteStack::Item PasteStack::takeNext() {
     return item;
 }
 
-bool PasteStack::write(const Item& item) {
+std::optional<std::vector<PasteboardItem>> PasteStack::contentsOf(const Item& item) const {
     const bool hasPlainForm =
         item.kind == ClipKind::text || item.kind == ClipKind::richText || item.kind == ClipKind::link;
     if (item.kind != ClipKind::file)
-        return PasteboardWriter::write(item.payload.items, hasPlainForm && m_plainText(), *m_pasteboard);
+        return PasteboardWriter::prepared(item.payload.items, hasPlainForm && m_plainText());
     const auto items = m_resolvingFiles(item.payload.items, item.files);
-    return items && PasteboardWriter::write(*items, false, *m_pasteboard);
+    return items ? PasteboardWriter::prepared(*items, false) : std::nullopt;
+}
+
+std::optional<std::vector<PasteboardItem>> PasteStack::nextContents() const {
+    const auto count = m_items.size();
+    for (std::size_t i = 0; m_isActive && i < count; ++i) {
+        if (auto contents = contentsOf(m_items[m_isReversed ? count - 1 - i : i]))
+            return contents;
+    }
+    return std::nullopt;
 }
 
 void PasteStack::finish() {

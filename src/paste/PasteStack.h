@@ -64,6 +64,9 @@ public:
     /// What `pasteNext` would take now; null when there is nothing. Good until the next call that changes the stack.
     [[nodiscard]] const Item* nextItem() const;
 
+    /// What `pasteNext` would write now; absent when there is nothing that can be written.
+    [[nodiscard]] std::optional<std::vector<PasteboardItem>> nextContents() const;
+
     /// The stack ended by itself.
     std::function<void()> onFinish;
     /// An item was written to the pasteboard, before its key goes on its way.
@@ -76,7 +79,7 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] Item takeNext();
-    [[nodiscard]] bool write(const Item& item);
+    [[nodiscard]] std::optional<std::vector<PasteboardItem>> contentsOf(const Item& item) const;
     void finish();
 
     Pasteboard* m_pasteboard;

@@ -46,10 +46,10 @@ std::optional<QByteArray> plainBytes(const std::vector<PasteboardItem>& items) {
     return text ? std::optional(text->toUtf8()) : std::nullopt;
 }
 
-bool writeBytes(const QByteArray& utf8, Pasteboard& pasteboard) {
+std::vector<PasteboardItem> textItems(const QByteArray& utf8) {
     PasteboardItem item{{{uniformtype::utf8PlainText, utf8}}, QStringList{uniformtype::utf8PlainText}};
     addMarker(item);
-    return pasteboard.write({item});
+    return {item};
 }
 
 std::vector<PasteboardItem> makePasteboardItems(const std::vector<PasteboardItem>& items) {
@@ -82,12 +82,17 @@ PasteboardItem PasteboardWriter::makePasteboardItem(const PasteboardItem& item, 
     return result;
 }
 
+std::optional<std::vector<PasteboardItem>> PasteboardWriter::prepared(const std::vector<PasteboardItem>& items,
+                                                                      bool asPlainText) {
+    if (!asPlainText)
+        return makePasteboardItems(items);
+    const auto bytes = plainBytes(items);
+    return bytes ? std::optional(textItems(*bytes)) : std::nullopt;
+}
+
 bool PasteboardWriter::write(const std::vector<PasteboardItem>& items, bool asPlainText, Pasteboard& pasteboard) {
-    if (asPlainText) {
-        const auto bytes = plainBytes(items);
-        return bytes && writeBytes(*bytes, pasteboard);
-    }
-    return pasteboard.write(makePasteboardItems(items));
+    auto made = prepared(items, asPlainText);
+    return made && pasteboard.write(std::move(*made));
 }
 
 bool PasteboardWriter::takeOver(const std::vector<PasteboardItem>& items, Pasteboard& pasteboard) {
@@ -95,7 +100,7 @@ bool PasteboardWriter::takeOver(const std::vector<PasteboardItem>& items, Pasteb
 }
 
 bool PasteboardWriter::writeText(const QString& text, Pasteboard& pasteboard) {
-    return writeBytes(text.toUtf8(), pasteboard);
+    return pasteboard.write(textItems(text.toUtf8()));
 }
 
 } // namespace vellumry

@@ -4,6 +4,7 @@
 #include "platform/display/PasteboardItem.h"
 
 #include <QString>
+#include <optional>
 #include <vector>
 
 namespace vellumry {
@@ -18,6 +19,10 @@ public:
     /// something to the program copied from; a refusal leaves the pasteboard empty. As plain text: the text that stands
     /// for the items; without any, false, and the pasteboard keeps what it held.
     [[nodiscard]] static bool write(const std::vector<PasteboardItem>& items, bool asPlainText, Pasteboard& pasteboard);
+
+    /// What `write` would write; nothing where there is no text to write as such.
+    [[nodiscard]] static std::optional<std::vector<PasteboardItem>> prepared(const std::vector<PasteboardItem>& items,
+                                                                             bool asPlainText);
 
     /// As `write`, but false where another program has copied since the last owner of the pasteboard went.
     [[nodiscard]] static bool takeOver(const std::vector<PasteboardItem>& items, Pasteboard& pasteboard);

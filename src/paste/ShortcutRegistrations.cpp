@@ -67,7 +67,8 @@ void ShortcutRegistrations::addChosen(const QString& key, const Shortcut& standa
     if (stored.isValid() && !chosen)
         m_preferences.refuse(key);
     const Shortcut shortcut = chosen.value_or(standard);
-    if (add(shortcut, action))
+    // Where nobody can hold keys, none is taken.
+    if (!m_center.hasKeys() || add(shortcut, action))
         return;
     qCWarning(logging::paste).noquote() << "the shortcut of" << key << "is held by another program or has no key";
     m_takenKeys.append(key);

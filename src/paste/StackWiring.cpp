@@ -48,6 +48,7 @@ StackWiring::StackWiring(Parts parts, Hooks hooks, QObject* parent)
         if (self)
             self->pasteNow();
     };
+    connect(&m_stack, &PasteStack::changed, this, &StackWiring::expectNext);
     // This runs inside the press that took the last item, whose key is still to go on its way.
     m_stack.onFinish = [this] { QMetaObject::invokeMethod(this, &StackWiring::finish, Qt::QueuedConnection); };
     // So does this, and the message needs a window.
@@ -230,6 +231,14 @@ void StackWiring::pasteNow() {
     m_fileLimit = std::clamp(key->timeLeft() - writingTime, 0ms, std::chrono::milliseconds(longestFileLook));
     const bool isFresh = m_stack.pasteNext();
     key->letGo(isFresh ? HeldKey::Contents::fresh : HeldKey::Contents::same);
+}
+
+/// Where a press is told of when it has been served: the next item goes ahead of its key.
+void StackWiring::expectNext() {
+    if (!m_parts.keys.wantsNext() || !m_listener.isListening())
+        return;
+    m_fileLimit = longestFileLook;
+    m_parts.keys.expect(m_stack.nextContents());
 }
 
 } // namespace vellumry

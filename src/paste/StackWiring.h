@@ -77,6 +77,7 @@ private:
     void handlePaste(std::shared_ptr<HeldKey> key);
     QCoro::Task<void> lookForCopies();
     void pasteNow();
+    void expectNext();
     void finish();
     void tellOfSkipped();
     [[nodiscard]] PasteStack::ResolvingFiles resolvingFiles();

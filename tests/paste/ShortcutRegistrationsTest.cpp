@@ -64,6 +64,14 @@ TEST(ShortcutRegistrations, ReportsEachChosenKeyThatIsTaken) {
     EXPECT_EQ(keys.registrations.availablePinnedNumbers().size(), 9);
 }
 
+TEST(ShortcutRegistrations, WhereNoProgramCanHoldKeysNoneIsReportedAsTaken) {
+    Keys keys;
+    keys.registrar.anyKeys = false;
+    EXPECT_EQ(keys.registrations.reload(), QStringList());
+    EXPECT_EQ(keys.registrations.takenKeys(), QStringList());
+    EXPECT_TRUE(keys.registrations.availablePinnedNumbers().isEmpty());
+}
+
 TEST(ShortcutRegistrations, ATakenPinKeyIsNoProblemAndDoesNotCount) {
     Keys keys;
     keys.registrar.taken = {thirdPinKey};

@@ -269,4 +269,34 @@ TEST(StackWiring, WhatTheWatcherTellsAfterItHasGoneIsDropped) {
     EXPECT_FALSE(world.keys.isStarted);
 }
 
+TEST(StackWiring, WherePressesAreToldOfLateTheNextItemGoesAheadOfItsKey) {
+    StackWorld world;
+    world.keys.servesAhead = true;
+    const auto ahead = [&world]() -> std::optional<QString> {
+        const auto& items = world.keys.expected.back();
+        return items ? plainText(*items) : std::nullopt;
+    };
+    world.wiring->toggle({});
+    world.copy("one");
+    EXPECT_EQ(ahead(), QStringLiteral("one"));
+    world.copy("two");
+    EXPECT_EQ(ahead(), QStringLiteral("one"));
+    EXPECT_TRUE(world.press());
+    EXPECT_EQ(world.onBoard(), QStringLiteral("one"));
+    EXPECT_EQ(ahead(), QStringLiteral("two"));
+    world.stack().setReversed(true);
+    world.copy("three");
+    EXPECT_EQ(ahead(), QStringLiteral("three"));
+    world.wiring->stop();
+    EXPECT_EQ(ahead(), std::nullopt);
+}
+
+TEST(StackWiring, WherePressesAreHeldNothingGoesAheadOfThem) {
+    StackWorld world;
+    world.wiring->toggle({});
+    world.copy("one");
+    EXPECT_TRUE(world.press());
+    EXPECT_TRUE(world.keys.expected.empty());
+}
+
 } // namespace vellumry

@@ -19,12 +19,14 @@ public:
 
     std::set<Combination> taken;            ///< `grab` refuses these
     std::map<quint32, Combination> grabbed; ///< by id, what is held now
+    bool anyKeys = true;                    ///< false: no program can hold keys
     std::vector<quint32> askedIDs;          ///< of each `grab`, refused ones included
 
+    [[nodiscard]] bool hasKeys() const override { return anyKeys; }
     [[nodiscard]] bool grab(quint32 id, quint32 keyCode, quint32 modifiers) override {
         askedIDs.push_back(id);
         const Combination combination{keyCode, modifiers};
-        if (taken.contains(combination) || holds(combination))
+        if (!anyKeys || taken.contains(combination) || holds(combination))
             return false;
         grabbed.emplace(id, combination);
         return true;

@@ -23,6 +23,9 @@ public:
     bool available = true; ///< false: `start` fails
     bool isStarted = false;
     int startCalls = 0;
+    bool servesAhead = false; ///< true: a press is told of when it has been served
+    /// What `expect` was called with, in its order.
+    std::vector<std::optional<std::vector<PasteboardItem>>> expected;
 
     [[nodiscard]] bool start() override {
         ++startCalls;
@@ -30,6 +33,8 @@ public:
         return available;
     }
     void stop() override { isStarted = false; }
+    [[nodiscard]] bool wantsNext() const override { return servesAhead; }
+    void expect(std::optional<std::vector<PasteboardItem>> items) override { expected.push_back(std::move(items)); }
 
     /// The fate changes as the press goes its way. A press that nobody listens to goes at once.
     std::shared_ptr<Fate> press(const KeyPress& press = controlV()) {

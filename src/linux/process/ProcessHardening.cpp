@@ -15,4 +15,13 @@ void hardenProcess() {
 #endif
 }
 
+VisibleProcess::VisibleProcess()
+    : m_before(prctl(PR_GET_DUMPABLE, 0, 0, 0, 0)) {
+    prctl(PR_SET_DUMPABLE, 1, 0, 0, 0);
+}
+
+VisibleProcess::~VisibleProcess() {
+    prctl(PR_SET_DUMPABLE, m_before, 0, 0, 0);
+}
+
 } // namespace vellumry

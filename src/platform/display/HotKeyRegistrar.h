@@ -11,6 +11,8 @@ namespace vellumry {
 class HotKeyRegistrar {
 public:
     virtual ~HotKeyRegistrar() = default;
+    /// False where no program can hold keys: the user binds them to the program's actions.
+    [[nodiscard]] virtual bool hasKeys() const { return true; }
     /// False when another program holds the combination, or the platform has no global keys.
     [[nodiscard]] virtual bool grab(quint32 id, quint32 keyCode, quint32 modifiers) = 0;
     virtual void release(quint32 id) = 0;

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/display/PasteboardItem.h"
+
 #include <QString>
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <vector>
 
 namespace vellumry {
 
@@ -57,6 +61,11 @@ public:
     [[nodiscard]] virtual bool start() = 0;
     /// A key that waits goes on its way. Does nothing when not started.
     virtual void stop() = 0;
+    /// True where a press cannot be held back, and is told of when it has been served: what it is to paste must stand
+    /// on the pasteboard before. False where it can.
+    [[nodiscard]] virtual bool wantsNext() const { return false; }
+    /// What the next press is to paste; absent for nothing new. For those who want it, while started.
+    virtual void expect(std::optional<std::vector<PasteboardItem>> items) { Q_UNUSED(items) }
     /// Called on the main thread for each press of such a key; the next comes when this one was let go of. A press that
     /// follows a paste comes when the program in front has fetched what it was to paste, or is taken not to want it.
     std::function<void(const KeyPress& press, std::shared_ptr<HeldKey> key)> onPress;

@@ -29,5 +29,22 @@ TEST(ProcessHardening, LeavesNoCoreDump) {
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
 }
 
+TEST(ProcessHardening, TheProcessCanBeSeenForAMomentAndIsClosedAgain) {
+    const pid_t child = fork();
+    if (child == 0) {
+        hardenProcess();
+        const int closed = prctl(PR_GET_DUMPABLE);
+        bool wasOpen = false;
+        {
+            const VisibleProcess visible;
+            wasOpen = prctl(PR_GET_DUMPABLE) == 1;
+        }
+        _exit(wasOpen && prctl(PR_GET_DUMPABLE) == closed ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+}
+
 } // namespace
 } // namespace vellumry
