@@ -6,7 +6,7 @@ DESTDIR ?=
 export CCACHE_NOHASHDIR = 1
 export CCACHE_BASEDIR = $(CURDIR)
 
-.PHONY: help run install uninstall package test test-trixie sanitize torture bench gallery matrix lint build asan clean
+.PHONY: help run install uninstall package test test-trixie test-wayland sanitize torture bench gallery matrix lint build asan clean
 
 help: ## list the tasks
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:.*## /\t/' | expand -t 14
@@ -28,6 +28,10 @@ package: ## build the Debian package (build/release/package)
 test-trixie: ## build and run the unit tests in a bare Debian 13
 	@scripts/install-deps --test
 	@scripts/in-root --keep build trixie scripts/build-and-test
+
+test-wayland: ## build in a Debian 13, run the tests in headless sessions of sway, labwc and KWin
+	@scripts/install-deps --test
+	@tests/wayland/run
 
 test: ## install what is missing, build, run every test
 	@scripts/install-deps --test

@@ -3,6 +3,7 @@
 
 #include "app/Capabilities.h"
 #include "app/LinuxPlatform.h"
+#include "app/WaylandDisplay.h"
 #include "foundation/Localisation.h"
 #include "linux/process/DBusSingleInstance.h"
 #include "linux/process/StatusInterface.h"
@@ -52,7 +53,11 @@ std::optional<qint64> bytesOnDisk() {
 QString statusFromOutside(NoStatus why) {
     StatusReport report;
     report.notAsked = whyNotAsked(why);
-    report.capabilities = capabilities::ofDisplay(XlibConnection::create());
+    report.capabilities = waylanddisplay::capabilities();
+    if (!waylanddisplay::isWanted()) {
+        for (Capability& capability : capabilities::ofDisplay(XlibConnection::create()))
+            report.capabilities.push_back(std::move(capability));
+    }
     for (Capability& capability : capabilities::ofSession(readerPath()))
         report.capabilities.push_back(std::move(capability));
     report.bytesOnDisk = bytesOnDisk();

@@ -2,6 +2,7 @@
 #include "app/LinuxPlatform.h"
 
 #include "app/Capabilities.h"
+#include "app/WaylandDisplay.h"
 #include "foundation/Logging.h"
 #include "linux/accessibility/PasswordFocus.h"
 #include "linux/applications/DesktopEntries.h"
@@ -39,18 +40,22 @@
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
+#include <algorithm>
+#include <iterator>
 
 namespace vellumry {
 
 namespace {
 
 /// One connection for keys, focus and windows; the pasteboard has its own, with its own thread.
-std::optional<Reason> addDisplay(Platform& platform) {
+std::optional<Reason> addX11Display(Platform& platform) {
     auto created = X11Pasteboard::create(qgetenv("DISPLAY"));
     if (!created)
         return created.error();
     const auto opened = XlibConnection::create();
     platform.capabilities = capabilities::ofDisplay(opened);
+    // Why not natively.
+    std::ranges::copy(waylanddisplay::capabilities(), std::back_inserter(platform.capabilities));
     if (!opened)
         return opened.error();
     std::unique_ptr<X11Pasteboard> pasteboard = std::move(*created);
@@ -114,14 +119,14 @@ QString readerPath() {
     return QFile::exists(installed) ? QDir::cleanPath(installed) : here + QStringLiteral("/vellumry-reader");
 }
 
-OrReason<Platform> makeLinuxPlatform() {
+OrReason<Platform> makeLinuxPlatform(DisplayKind display) {
     Platform platform;
     platform.home = QDir::homePath();
     platform.dataHome = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     const QString settings = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     platform.settingsFolder = settings + QStringLiteral("/Vellumry");
     platform.defaults = std::make_unique<UserDefaults>(platform.settingsFolder + QStringLiteral("/Vellumry.conf"));
-    if (auto problem = addDisplay(platform))
+    if (auto problem = display == DisplayKind::wayland ? waylanddisplay::add(platform) : addX11Display(platform))
         return std::unexpected(std::move(*problem));
     platform.singleInstance = std::make_unique<DBusSingleInstance>();
     platform.sounds = std::make_unique<ThemeSounds>();

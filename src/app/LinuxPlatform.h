@@ -6,9 +6,12 @@
 
 namespace vellumry {
 
+/// The kinds of display that the program works on.
+enum class DisplayKind : quint8 { x11, wayland };
+
 /// The implementations for this session. Fails when the display lacks what the program cannot do without. Main thread,
 /// after the application object.
-[[nodiscard]] OrReason<Platform> makeLinuxPlatform();
+[[nodiscard]] OrReason<Platform> makeLinuxPlatform(DisplayKind display);
 
 /// Where the program that opens pictures stands: beside this one.
 [[nodiscard]] QString readerPath();

@@ -3,6 +3,7 @@
 #include "app/Errands.h"
 #include "app/LinuxPlatform.h"
 #include "app/ReadyNotice.h"
+#include "app/WaylandDisplay.h"
 #include "foundation/Localisation.h"
 #include "foundation/Logging.h"
 #include "linux/process/MemoryReturn.h"
@@ -27,13 +28,24 @@ constexpr int usageError = 2;
 constexpr std::chrono::seconds longestEnding{20};
 
 /// Qt's defaults for this program: a third of the memory of the GL renderer, and quicker to its first frame.
-void chooseQtDefaults() {
+DisplayKind chooseQtDefaults() {
     setenv("QT_QUICK_BACKEND", "software", 0);
     setenv("QT_ENABLE_HIGHDPI_SCALING", "1", 0);
     // A change is painted with the next turn of the event loop; Qt would wait 5 ms for more.
     setenv("QT_QPA_UPDATE_IDLE_TIME", "0", 0);
-    // The panel's place and focus are handled on X11; under a Wayland session Xwayland serves it.
+    if (waylanddisplay::isWanted()) {
+        // The second where Qt's plugin for the first is not installed.
+        setenv("QT_QPA_PLATFORM", "wayland;xcb", 1);
+        // Our surfaces do have places: Qt is to remember them.
+        setenv("QT_WAYLAND_DISABLE_FIXED_POSITIONS", "1", 1);
+        return DisplayKind::wayland;
+    }
+    // Where the compositor lacks what we need, Xwayland serves the panel: whoever asks all programs for Wayland did not
+    // mean this one.
+    if (qgetenv("QT_QPA_PLATFORM").startsWith("wayland"))
+        unsetenv("QT_QPA_PLATFORM");
     setenv("QT_QPA_PLATFORM", "xcb", 0);
+    return DisplayKind::x11;
 }
 
 /// Text fields of Qt look at the clipboard on every change of it, on the main thread and for as long as the owner keeps
@@ -44,9 +56,9 @@ void keepTextFieldsOffTheClipboard() {
 
 /// The program as the session's running copy.
 int runProgram(int& argc, char** argv) {
-    chooseQtDefaults();
+    DisplayKind display = chooseQtDefaults();
     // Qt would abort without a word that a user sees.
-    if (!XlibConnection::canOpenDisplay())
+    if (display == DisplayKind::x11 && !XlibConnection::canOpenDisplay())
         return errands::tellOfMissingDisplay(argc, argv);
 
     QGuiApplication application(argc, argv);
@@ -54,8 +66,10 @@ int runProgram(int& argc, char** argv) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
     keepTextFieldsOffTheClipboard();
     installCatalogue();
+    if (!QGuiApplication::platformName().startsWith(u"wayland"))
+        display = DisplayKind::x11;
 
-    auto platform = makeLinuxPlatform();
+    auto platform = makeLinuxPlatform(display);
     if (!platform) {
         qCCritical(logging::app).noquote() << "cannot work on this display:" << platform.error().text;
         return 1;

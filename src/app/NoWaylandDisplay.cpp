@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// For systems without what the Wayland part is built from.
+#include "app/WaylandDisplay.h"
+
+#include "platform/desktop/Capability.h"
+
+namespace vellumry::waylanddisplay {
+
+bool isWanted() {
+    return false;
+}
+
+std::vector<Capability> capabilities() {
+    return {};
+}
+
+std::optional<Reason> add(Platform&) {
+    return Reason{QStringLiteral("this build has no Wayland part")};
+}
+
+} // namespace vellumry::waylanddisplay

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/WaylandDisplay.h"
+
+#include "linux/accessibility/PasswordFocus.h"
+#include "linux/applications/DesktopEntries.h"
+#include "linux/applications/XdgInstalledApplications.h"
+#include "linux/wayland/WaylandSurvey.h"
+#include "linux/wayland/keys/BoundElsewhere.h"
+#include "linux/wayland/keys/GlobalAccelHotKeys.h"
+#include "linux/wayland/keys/WaylandKeyboardLayout.h"
+#include "linux/wayland/keys/WaylandPasteKeys.h"
+#include "linux/wayland/keys/WaylandPasteTarget.h"
+#include "linux/wayland/selection/WaylandPasteboard.h"
+#include "linux/wayland/windows/LayerPanelSurface.h"
+#include "linux/wayland/windows/WaylandFrontmostApplication.h"
+#include "settings/Preferences.h"
+#include "shell/Platform.h"
+
+namespace vellumry::waylanddisplay {
+
+namespace {
+
+std::unique_ptr<HotKeyRegistrar> hotKeys(const std::shared_ptr<WaylandKeymap>& keymap, bool isPlasma) {
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (isPlasma && GlobalAccelHotKeys::isThere(bus))
+        return std::make_unique<GlobalAccelHotKeys>(bus, keymap);
+    return std::make_unique<BoundElsewhere>();
+}
+
+} // namespace
+
+bool isWanted() {
+    const QString chosen = qEnvironmentVariable("QT_QPA_PLATFORM");
+    if (!chosen.isEmpty() && !chosen.startsWith(u"wayland"))
+        return false;
+    const auto survey = WaylandSurvey::take();
+    return survey && survey->isEnough();
+}
+
+std::vector<Capability> capabilities() {
+    const auto survey = WaylandSurvey::take();
+    return survey ? survey->capabilities() : std::vector<Capability>();
+}
+
+/// One connection for keys, focus and windows; the pasteboard has its own, with its own thread, and Qt one for ours.
+std::optional<Reason> add(Platform& platform) {
+    const auto survey = WaylandSurvey::take();
+    if (!survey)
+        return survey.error();
+    platform.capabilities = survey->capabilities();
+    auto created = WaylandPasteboard::create({});
+    if (!created)
+        return created.error();
+    const auto opened = WaylandConnection::create();
+    if (!opened)
+        return opened.error();
+    std::unique_ptr<WaylandPasteboard> pasteboard = std::move(*created);
+    const std::shared_ptr<WaylandConnection>& connection = *opened;
+    const auto keymap = std::make_shared<WaylandKeymap>(connection);
+    const std::shared_ptr<WaylandWindows> windows = WaylandWindows::create(connection);
+    const auto focus = std::make_shared<WaylandFocus>(windows);
+    WaylandPasteTarget::Options options;
+    options.offerAsPrimary = [board = pasteboard.get()] { return board->offerAsPrimary(); };
+    options.terminalApps = [defaults = platform.defaults.get()] { return Preferences::terminalApps(*defaults); };
+    options.isPasswordField = [password = std::make_shared<PasswordFocus>()](qint64 process) {
+        return password->isIn(process);
+    };
+    platform.pasteKeys = std::make_unique<WaylandPasteKeys>(pasteboard->thread());
+    platform.pasteboard = std::move(pasteboard);
+    const auto entries = std::make_shared<DesktopEntries>();
+    platform.frontmost = std::make_unique<WaylandFrontmostApplication>(windows, entries);
+    platform.applications = std::make_unique<XdgInstalledApplications>(entries, iconFoldersOfSession());
+    platform.hotKeys = hotKeys(keymap, survey->isPlasma);
+    platform.keyboard = std::make_unique<WaylandKeyboardLayout>(keymap);
+    platform.pasteTarget = std::make_unique<WaylandPasteTarget>(focus, keymap, KeyInjector::create(connection, keymap),
+                                                                std::move(options));
+    platform.panelSurface = std::make_unique<LayerPanelSurface>(focus);
+    return std::nullopt;
+}
+
+} // namespace vellumry::waylanddisplay

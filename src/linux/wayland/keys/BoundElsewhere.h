@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/display/HotKeyRegistrar.h"
+
+namespace vellumry {
+
+/// For compositors that let no program hold keys: the user binds a key to `vellumry --action …` in their settings.
+class BoundElsewhere final : public HotKeyRegistrar {
+public:
+    [[nodiscard]] bool hasKeys() const override { return false; }
+    [[nodiscard]] bool grab(quint32, quint32, quint32) override { return false; }
+    void release(quint32) override {}
+};
+
+} // namespace vellumry

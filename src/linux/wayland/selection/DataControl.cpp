@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "linux/wayland/selection/DataControl.h"
+
+#include <algorithm>
+#include <fcntl.h>
+
+namespace vellumry {
+
+namespace {
+
+const QString extName = QStringLiteral("ext_data_control_manager_v1");
+const QString wlrName = QStringLiteral("zwlr_data_control_manager_v1");
+constexpr quint32 wlrPrimaryVersion = 2;
+/// As for the targets of an X11 selection: the longest lists that were seen have some fifty.
+constexpr qsizetype mostTypes = 32 * 1024;
+constexpr int pipeBytes = 1024 * 1024;
+
+/// The manager under its older name. All else that is said is the same, message for message.
+wl_interface wlrManager() {
+    wl_interface interface = ext_data_control_manager_v1_interface;
+    interface.name = "zwlr_data_control_manager_v1";
+    interface.version = wlrPrimaryVersion;
+    return interface;
+}
+
+} // namespace
+
+/// What libwayland calls, as far as it is not said in a lambda at the place.
+struct DataControl::Listeners {
+    static DataControl& self(void* data) { return *static_cast<DataControl*>(data); }
+
+    static void global(void* data, wl_registry*, quint32 name, const char* interface, quint32 version) {
+        self(data).addGlobal(name, QString::fromLatin1(interface), version);
+    }
+    static void globalRemove(void* data, wl_registry*, quint32 name) { self(data).removeGlobal(name); }
+    static void dataOffer(void* data, ext_data_control_device_v1*, ext_data_control_offer_v1* offer) {
+        self(data).takeOffer(offer);
+    }
+    static void selection(void* data, ext_data_control_device_v1*, ext_data_control_offer_v1* offer) {
+        DataControl& control = self(data);
+        std::unique_ptr<Offer> taken = control.offerOf(offer);
+        if (control.onSelection)
+            control.onSelection(std::move(taken));
+    }
+    static void primarySelection(void* data, ext_data_control_device_v1*, ext_data_control_offer_v1* offer) {
+        // Marked text is not looked at; the offer is kept as long as it stands.
+        self(data).m_primary = self(data).offerOf(offer);
+    }
+    static void finished(void* data, ext_data_control_device_v1*) {
+        DataControl& control = self(data);
+        control.m_device.reset();
+        if (control.onSelection)
+            control.onSelection(nullptr);
+    }
+    static void offered(void* data, ext_data_control_offer_v1*, const char* type) {
+        auto& offer = *static_cast<Offer*>(data);
+        const QString name = QString::fromUtf8(type);
+        if (offer.m_mimeTypes.size() == mostTypes)
+            offer.m_isTooLong = true;
+        else if (!name.isEmpty())
+            offer.m_mimeTypes.append(name);
+    }
+    static void send(void* data, ext_data_control_source_v1*, const char* type, int pipe) {
+        Descriptor descriptor(pipe);
+        const auto& source = *static_cast<Source*>(data);
+        if (source.onSend)
+            source.onSend(QString::fromUtf8(type), std::move(descriptor));
+    }
+    static void cancelled(void* data, ext_data_control_source_v1*) {
+        // The callee may destroy the source, and the function with it.
+        const auto told = static_cast<Source*>(data)->onCancelled;
+        if (told)
+            told();
+    }
+    static void done(void* data, wl_callback* callback, quint32) {
+        auto node = self(data).m_syncs.extract(callback);
+        wl_callback_destroy(callback);
+        if (!node.empty() && node.mapped())
+            node.mapped()();
+    }
+
+    static constexpr wl_registry_listener registry{global, globalRemove};
+    static constexpr ext_data_control_device_v1_listener device{dataOffer, selection, finished, primarySelection};
+    static constexpr ext_data_control_offer_v1_listener offer{offered};
+    static constexpr ext_data_control_source_v1_listener source{send, cancelled};
+    static constexpr wl_callback_listener callback{done};
+};
+
+Descriptor DataControl::Offer::receive(const QString& mimeType) const {
+    int ends[2] = {-1, -1};
+    if (pipe2(ends, O_CLOEXEC) != 0)
+        return Descriptor();
+    Descriptor reading(ends[0]);
+    const Descriptor writing(ends[1]);
+    // Our end alone: owners need not expect that writing fails for a moment.
+    fcntl(reading.get(), F_SETFL, O_NONBLOCK);
+    (void)fcntl(reading.get(), F_SETPIPE_SZ, pipeBytes);
+    ext_data_control_offer_v1_receive(m_proxy.get(), mimeType.toUtf8().constData(), writing.get());
+    return reading;
+}
+
+OrReason<std::unique_ptr<DataControl>> DataControl::create(const QByteArray& displayName) {
+    wl_display* display = wl_display_connect(displayName.isEmpty() ? nullptr : displayName.constData());
+    if (display == nullptr)
+        return std::unexpected(Reason{QStringLiteral("no Wayland display")});
+    std::unique_ptr<DataControl> control(new DataControl(display));
+    if (!control->roundTrip())
+        return std::unexpected(Reason{QStringLiteral("the compositor does not answer")});
+    control->bindManager();
+    if (!control->m_manager)
+        return std::unexpected(Reason{
+            QStringLiteral("the compositor offers no data control (ext_data_control_v1, zwlr_data_control_v1)")});
+    control->followSeat();
+    return control;
+}
+
+DataControl::DataControl(wl_display* display)
+    : m_display(owned(display, &wl_display_disconnect))
+    , m_registry(owned(wl_display_get_registry(display), &wl_registry_destroy)) {
+    wl_registry_add_listener(m_registry.get(), &Listeners::registry, this);
+}
+
+DataControl::~DataControl() {
+    for (const auto& [callback, done] : m_syncs)
+        wl_callback_destroy(callback);
+}
+
+void DataControl::addGlobal(quint32 name, const QString& interface, quint32 version) {
+    if (interface == extName || interface == wlrName) {
+        m_globals[interface] = Global{name, version};
+        return;
+    }
+    if (interface != QLatin1String(wl_seat_interface.name))
+        return;
+    auto* seat = static_cast<wl_seat*>(wl_registry_bind(m_registry.get(), name, &wl_seat_interface, 1));
+    m_seats.push_back(Seat{name, owned(seat, &wl_seat_destroy)});
+    followSeat();
+}
+
+void DataControl::removeGlobal(quint32 name) {
+    if (m_seats.empty())
+        return;
+    const bool isFollowed = m_seats.front().name == name;
+    std::erase_if(m_seats, [name](const Seat& seat) { return seat.name == name; });
+    if (!isFollowed)
+        return;
+    m_device.reset();
+    if (onSelection)
+        onSelection(nullptr);
+    followSeat();
+}
+
+void DataControl::bindManager() {
+    static const wl_interface wlr = wlrManager();
+    const bool isExt = m_globals.contains(extName);
+    if (!isExt && !m_globals.contains(wlrName))
+        return;
+    const Global& global = m_globals.at(isExt ? extName : wlrName);
+    const quint32 version = isExt ? 1U : std::min(global.version, wlrPrimaryVersion);
+    m_hasPrimary = isExt || version >= wlrPrimaryVersion;
+    void* manager =
+        wl_registry_bind(m_registry.get(), global.name, isExt ? &ext_data_control_manager_v1_interface : &wlr, version);
+    m_manager = owned(static_cast<ext_data_control_manager_v1*>(manager), &ext_data_control_manager_v1_destroy);
+}
+
+void DataControl::followSeat() {
+    if (!m_manager || m_device || m_seats.empty())
+        return;
+    m_device = owned(ext_data_control_manager_v1_get_data_device(m_manager.get(), m_seats.front().proxy.get()),
+                     &ext_data_control_device_v1_destroy);
+    ext_data_control_device_v1_add_listener(m_device.get(), &Listeners::device, this);
+}
+
+void DataControl::takeOffer(ext_data_control_offer_v1* proxy) {
+    auto offer = std::make_unique<Offer>(proxy);
+    ext_data_control_offer_v1_add_listener(proxy, &Listeners::offer, offer.get());
+    m_announced[proxy] = std::move(offer);
+}
+
+std::unique_ptr<DataControl::Offer> DataControl::offerOf(ext_data_control_offer_v1* proxy) {
+    auto node = m_announced.extract(proxy);
+    return node.empty() ? nullptr : std::move(node.mapped());
+}
+
+std::unique_ptr<DataControl::Source> DataControl::makeSource(const QStringList& mimeTypes) const {
+    auto source = std::make_unique<Source>();
+    source->m_proxy =
+        owned(ext_data_control_manager_v1_create_data_source(m_manager.get()), &ext_data_control_source_v1_destroy);
+    ext_data_control_source_v1_add_listener(source->m_proxy.get(), &Listeners::source, source.get());
+    for (const QString& type : mimeTypes)
+        ext_data_control_source_v1_offer(source->m_proxy.get(), type.toUtf8().constData());
+    return source;
+}
+
+void DataControl::setSelection(const Source* source) {
+    if (m_device)
+        ext_data_control_device_v1_set_selection(m_device.get(), source != nullptr ? source->m_proxy.get() : nullptr);
+}
+
+void DataControl::setPrimarySelection(const Source* source) {
+    if (m_device && m_hasPrimary)
+        ext_data_control_device_v1_set_primary_selection(m_device.get(),
+                                                         source != nullptr ? source->m_proxy.get() : nullptr);
+}
+
+void DataControl::sync(std::function<void()> done) {
+    wl_callback* callback = wl_display_sync(m_display.get());
+    m_syncs[callback] = std::move(done);
+    wl_callback_add_listener(callback, &Listeners::callback, this);
+}
+
+} // namespace vellumry

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "linux/pasteboard/PasteboardLimits.h"
+#include "linux/pasteboard/PasteboardService.h"
+#include "linux/wayland/selection/DataControl.h"
+#include "linux/wayland/selection/PipeReader.h"
+#include "linux/wayland/selection/PipeWriter.h"
+
+#include <atomic>
+#include <optional>
+#include <vector>
+
+namespace vellumry {
+
+/// The pasteboard's side of the conversation with a compositor: follows the clipboard, reads it, owns it. Pasteboard
+/// thread, but for what says "any thread".
+///
+/// Data control tells of every selection, our own included, and never who set it: one that offers what our source
+/// offers, while that has not been cancelled, is ours.
+class DataControlEngine {
+public:
+    using Instant = std::chrono::steady_clock::time_point;
+
+    /// What another program offered at one change count. A value.
+    struct OfferedTypes {
+        qint64 changeCount = 0;
+        Instant deadline; ///< for the whole copy
+        QStringList targets;
+    };
+    using OfferResult = PendingResult<std::shared_ptr<const OfferedTypes>>;
+    using BytesResult = PendingResult<std::shared_ptr<const GivenBytes>>;
+
+    DataControlEngine(std::unique_ptr<DataControl> control, PasteboardLimits limits, PasteboardNotices notices);
+
+    [[nodiscard]] DataControl& control() { return *m_control; }
+    /// Any thread.
+    [[nodiscard]] qint64 changeCount() const { return m_changeCount.load(std::memory_order_acquire); }
+    /// How many times another program has taken the clipboard. Any thread.
+    [[nodiscard]] qint64 copyCount() const { return m_copyCount.load(std::memory_order_acquire); }
+    /// True once content of what we hold on the clipboard was taken, by whomever. Any thread.
+    [[nodiscard]] bool wasServed() const { return m_wasServed.load(std::memory_order_acquire); }
+
+    /// Learns what is on the clipboard already. Waits for the compositor; on any one thread, before the engine is used.
+    void start();
+    void claim(PasteboardClaim claim);
+    void catchUp(PendingResult<bool> result);
+    void disown(const std::shared_ptr<const OfferedContents>& contents);
+    void readOffer(const OfferResult& result, Instant now) const;
+    /// See `ForeignOffer::read`.
+    void read(const OfferedTypes& offer, const QString& target, const QString& uniformType, qint64 maxBytes,
+              const BytesResult& result, Instant now);
+
+    /// From now on what is on the clipboard is one item of several, each for one paste: `onPaste` is called, on the
+    /// pasteboard thread, when a program has come for it as for a paste. Compositors show nobody the keys of others, so
+    /// the reading of our content is what tells of a paste. Not counted: readings right after a change of owner, which
+    /// are those of clipboard managers; further readings of the same paste; and readings of marks.
+    void startCounting(std::function<void()> onPaste);
+    void stopCounting();
+    /// What the next paste is to get. Offered at once, or when the paste under way is over; in place, without a change
+    /// of owner, where it comes in the same types as what is there.
+    void expect(std::shared_ptr<const OfferedContents> contents, Instant now);
+
+    void addDescriptors(std::vector<pollfd>& descriptors) const;
+    void handle(const std::vector<pollfd>& descriptors, Instant now);
+    void expire(Instant now);
+    [[nodiscard]] std::optional<Instant> nextDeadline() const;
+    /// Answers everything that is still open with nothing; from then on every question is answered so.
+    void end();
+
+private:
+    /// One of the selections, as long as it is ours.
+    struct Holding {
+        std::unique_ptr<DataControl::Source> source;
+        QStringList types;
+        std::shared_ptr<const OfferedContents> contents;
+    };
+
+    void handleSelection(std::unique_ptr<DataControl::Offer> offer);
+    void noteChange(bool isForeign);
+    void settleClaim(const PasteboardClaim& claim);
+    void finishClaim(std::optional<qint64> count);
+    /// Answers the source that stood there before. It must outlive the change: a selection whose source goes is empty
+    /// for a moment, and told of as such.
+    [[nodiscard]] std::unique_ptr<DataControl::Source> hold(Holding& holding,
+                                                            std::shared_ptr<const OfferedContents> contents);
+    void serve(const Holding& holding, const QString& mimeType, Descriptor pipe);
+    void noteReading(const QString& mimeType, Instant now);
+    [[nodiscard]] QStringList offeredTypes(const OfferedContents& contents) const;
+    [[nodiscard]] bool canSwap(const OfferedContents& contents) const;
+    void offerExpected(Instant now);
+    void takeClipboard(std::shared_ptr<const OfferedContents> contents);
+
+    const std::unique_ptr<DataControl> m_control;
+    const PasteboardLimits m_limits;
+    const PasteboardNotices m_notices;
+    PipeReader m_reader;
+    PipeWriter m_writer;
+    std::atomic<qint64> m_changeCount{1};
+    std::atomic<qint64> m_copyCount{0};
+    std::atomic<bool> m_wasServed{false};
+    bool m_hasStarted = false;
+    bool m_ended = false;
+
+    std::unique_ptr<DataControl::Offer> m_offer; ///< another program's
+    QStringList m_targets;                       ///< of `m_offer`, those that are looked at
+    Holding m_clipboard;
+    Holding m_primary;
+    bool m_wasAnnounced = false; ///< the compositor has told of `m_clipboard`
+    /// The change count since which nobody owns the clipboard, when its last owner was another program.
+    std::optional<qint64> m_goneSince;
+    std::optional<PasteboardClaim> m_unconfirmed;
+    std::function<void()> m_onPaste;                   ///< set while readings are counted
+    std::shared_ptr<const OfferedContents> m_expected; ///< not yet offered
+    Instant m_takenAt;                                 ///< when the clipboard was last made ours
+    Instant m_pasteOver;                               ///< until then a reading belongs to the paste before
+    quint64 m_claimNumber = 0;
+    std::vector<PendingResult<bool>> m_catchUps; ///< answered in their order
+};
+
+} // namespace vellumry

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "foundation/Reason.h"
+#include "linux/pasteboard/ThreadedPasteboard.h"
+
+#include <QByteArray>
+#include <memory>
+
+namespace vellumry {
+
+class DataControlThread;
+
+/// The clipboard of a Wayland compositor as the general pasteboard, by one of the two data-control protocols: seen and
+/// owned in the background, whoever has the keyboard.
+///
+/// An emptied clipboard and one whose owner has died look alike: `onOwnerGone` tells of both.
+class WaylandPasteboard final : public ThreadedPasteboard {
+public:
+    /// Fails when there is no such display or it has no data control. An empty name stands for $WAYLAND_DISPLAY.
+    [[nodiscard]] static OrReason<std::unique_ptr<WaylandPasteboard>> create(const QByteArray& displayName,
+                                                                             const PasteboardLimits& limits = {});
+
+    /// For the Paste Stack, which counts who reads what.
+    [[nodiscard]] std::weak_ptr<DataControlThread> thread() const { return m_conversation; }
+
+private:
+    using ThreadedPasteboard::ThreadedPasteboard;
+
+    std::weak_ptr<DataControlThread> m_conversation;
+};
+
+} // namespace vellumry

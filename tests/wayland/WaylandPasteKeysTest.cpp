@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "linux/wayland/keys/WaylandPasteKeys.h"
+
+#include "foundation/UniformType.h"
+#include "linux/wayland/selection/DataControlThread.h"
+#include "linux/wayland/selection/WaylandPasteboard.h"
+#include "wayland/WaylandPeer.h"
+
+#include <QDeadlineTimer>
+#include <gtest/gtest.h>
+
+namespace vellumry {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+const QString hint = QStringLiteral("x-kde-passwordManagerHint");
+
+std::vector<PasteboardItem> text(const QByteArray& utf8) {
+    return {PasteboardItem{{{uniformtype::utf8PlainText, utf8}}, QStringList{uniformtype::utf8PlainText}}};
+}
+
+/// A Paste Stack of texts and the clipboard it is pasted from.
+struct World {
+    World() {
+        board = std::move(*WaylandPasteboard::create({}));
+        keys = std::make_unique<WaylandPasteKeys>(board->thread());
+        keys->onPress = [this](const KeyPress&, const std::shared_ptr<HeldKey>& key) {
+            ++pastes;
+            if (!waiting.empty()) {
+                EXPECT_TRUE(board->write(text(waiting.front())));
+                waiting.erase(waiting.begin());
+            }
+            key->letGo(HeldKey::Contents::fresh);
+            expectNext();
+        };
+    }
+    void start(std::vector<QByteArray> items) {
+        waiting = std::move(items);
+        ASSERT_TRUE(keys->start());
+        expectNext();
+        peer.until([this] { return peer.types().contains(hint); });
+        pass(150ms); // the clipboard managers have read by then
+    }
+    void expectNext() { keys->expect(waiting.empty() ? std::nullopt : std::optional(text(waiting.front()))); }
+    /// Lets time pass in which nobody pastes.
+    void pass(std::chrono::milliseconds time) {
+        const QDeadlineTimer deadline(time);
+        peer.until([&] { return deadline.hasExpired(); });
+    }
+
+    WaylandPeer peer;
+    std::unique_ptr<WaylandPasteboard> board;
+    std::unique_ptr<WaylandPasteKeys> keys;
+    std::vector<QByteArray> waiting;
+    int pastes = 0;
+};
+
+TEST(WaylandPasteKeys, EachPasteGetsTheNextItem) {
+    World world;
+    world.start({"one", "two", "three"});
+    const int changes = world.peer.changes();
+    for (const char* item : {"one", "two", "three"}) {
+        EXPECT_EQ(world.peer.paste(), QByteArray(item));
+        world.pass(200ms);
+    }
+    EXPECT_EQ(world.pastes, 3);
+    EXPECT_EQ(world.peer.changes(), changes) << "the owner changed between the items, and managers read them";
+}
+
+TEST(WaylandPasteKeys, SeveralFormsReadForOnePasteCountOnce) {
+    World world;
+    world.start({"one", "two"});
+    EXPECT_EQ(world.peer.paste(), QByteArray("one"));
+    EXPECT_EQ(world.peer.paste(QStringLiteral("UTF8_STRING")), QByteArray("one"));
+    EXPECT_EQ(world.peer.paste(QStringLiteral("text/plain")), QByteArray("one"));
+    world.pass(200ms);
+    EXPECT_EQ(world.pastes, 1);
+    EXPECT_EQ(world.peer.paste(), QByteArray("two"));
+}
+
+TEST(WaylandPasteKeys, AManagerThatReadsWhatIsNewTakesNoItem) {
+    World world;
+    world.waiting = {"one", "two"};
+    ASSERT_TRUE(world.keys->start());
+    world.expectNext();
+    world.peer.until([&] { return world.peer.types().contains(hint); });
+    EXPECT_EQ(world.peer.paste(), QByteArray("one"));
+    EXPECT_EQ(world.peer.paste(hint), QByteArray("secret"));
+    world.pass(200ms);
+    EXPECT_EQ(world.pastes, 0);
+    EXPECT_EQ(world.peer.paste(), QByteArray("one"));
+    world.pass(200ms);
+    EXPECT_EQ(world.pastes, 1);
+}
+
+TEST(WaylandPasteKeys, TheLastItemStaysWhenTheStackHasEnded) {
+    World world;
+    world.start({"one"});
+    EXPECT_EQ(world.peer.paste(), QByteArray("one"));
+    world.peer.until([&] { return world.pastes == 1; });
+    world.keys->stop();
+    world.pass(200ms);
+    EXPECT_EQ(world.peer.paste(), QByteArray("one"));
+    world.pass(200ms);
+    EXPECT_EQ(world.pastes, 1);
+}
+
+} // namespace
+
+} // namespace vellumry

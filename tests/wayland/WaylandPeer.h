@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "linux/wayland/selection/DataControl.h"
+#include "support/Awaited.h"
+
+#include <map>
+
+namespace vellumry {
+
+/// Another program of the session, which copies and pastes by data control, well-behaved or not.
+class WaylandPeer {
+public:
+    WaylandPeer();
+
+    /// Takes the clipboard with these contents. A type without bytes is offered and never given.
+    void copy(const std::map<QString, std::optional<QByteArray>>& contents);
+    void copyText(const QByteArray& text) { copy({{QStringLiteral("text/plain;charset=utf-8"), text}}); }
+    /// Copies, and ends before anybody has asked.
+    void letGo();
+
+    /// What the clipboard offers now.
+    [[nodiscard]] QStringList types();
+    /// The bytes of a type of the clipboard, as another program's paste gets them.
+    [[nodiscard]] QByteArray paste(const QString& type = QStringLiteral("text/plain;charset=utf-8"));
+    /// Asks for a type and never reads it.
+    [[nodiscard]] Descriptor askOnly(const QString& type);
+    /// How often the clipboard has changed its owner since this program began.
+    [[nodiscard]] int changes();
+    /// Lets the main thread and this program run until it is true; throws when it does not come true.
+    void until(const std::function<bool()>& isDone);
+    [[nodiscard]] int sends() const { return m_sends; }
+
+private:
+    void turn();
+
+    std::unique_ptr<DataControl> m_control;
+    std::unique_ptr<DataControl::Offer> m_offer;
+    std::unique_ptr<DataControl::Source> m_source;
+    std::vector<Descriptor> m_unanswered;
+    int m_changes = 0;
+    int m_sends = 0;
+};
+
+} // namespace vellumry
