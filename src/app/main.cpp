@@ -40,8 +40,8 @@ DisplayKind chooseQtDefaults() {
         setenv("QT_WAYLAND_DISABLE_FIXED_POSITIONS", "1", 1);
         return DisplayKind::wayland;
     }
-    // Where the compositor lacks what we need, Xwayland serves the panel: whoever asks all programs for Wayland did not
-    // mean this one.
+    // Where the compositor lacks what we need, Xwayland serves the panel: a wish for Wayland
+    // that is meant for all programs does not count.
     if (qgetenv("QT_QPA_PLATFORM").startsWith("wayland"))
         unsetenv("QT_QPA_PLATFORM");
     setenv("QT_QPA_PLATFORM", "xcb", 0);

@@ -9,7 +9,7 @@ namespace vellumry {
 
 class DataControlThread;
 
-/// The user's pastes on Wayland, where no program sees the keys of others: told by who reads what we hold on the
+/// The user's pastes on Wayland, where no program sees the keys of others: told by the readings of what we hold on the
 /// clipboard. What a paste is to get stands there before its key is pressed (`expect`), and is fetched by the time it
 /// is told of. Main thread.
 class WaylandPasteKeys final : public PasteKeys {

@@ -23,7 +23,7 @@ public:
         std::function<QStringList()> terminalApps;
         /// How long the keyboard's return is waited for.
         std::chrono::milliseconds focusDeadline{400};
-        /// Tells whether a password field of the process has the focus; unset where nobody can tell.
+        /// Tells whether a password field of the process has the focus; unset where that cannot be told.
         std::function<QCoro::Task<bool>(qint64 process)> isPasswordField = nullptr;
     };
 

@@ -38,7 +38,7 @@ public:
     [[nodiscard]] qint64 changeCount() const { return m_changeCount.load(std::memory_order_acquire); }
     /// How many times another program has taken the clipboard. Any thread.
     [[nodiscard]] qint64 copyCount() const { return m_copyCount.load(std::memory_order_acquire); }
-    /// True once content of what we hold on the clipboard was taken, by whomever. Any thread.
+    /// True once content of what we hold on the clipboard was taken, by any program. Any thread.
     [[nodiscard]] bool wasServed() const { return m_wasServed.load(std::memory_order_acquire); }
 
     /// Learns what is on the clipboard already. Waits for the compositor; on any one thread, before the engine is used.
@@ -52,7 +52,7 @@ public:
               const BytesResult& result, Instant now);
 
     /// From now on what is on the clipboard is one item of several, each for one paste: `onPaste` is called, on the
-    /// pasteboard thread, when a program has come for it as for a paste. Compositors show nobody the keys of others, so
+    /// pasteboard thread, when a program has come for it as for a paste. Compositors do not show the keys of others, so
     /// the reading of our content is what tells of a paste. Not counted: readings right after a change of owner, which
     /// are those of clipboard managers; further readings of the same paste; and readings of marks.
     void startCounting(std::function<void()> onPaste);
@@ -107,7 +107,7 @@ private:
     Holding m_clipboard;
     Holding m_primary;
     bool m_wasAnnounced = false; ///< the compositor has told of `m_clipboard`
-    /// The change count since which nobody owns the clipboard, when its last owner was another program.
+    /// The change count since which the clipboard has no owner, when its last owner was another program.
     std::optional<qint64> m_goneSince;
     std::optional<PasteboardClaim> m_unconfirmed;
     std::function<void()> m_onPaste;                   ///< set while readings are counted

@@ -17,13 +17,13 @@ public:
     [[nodiscard]] qint64 changeCount() const override { return m_thread->engine().changeCount(); }
     [[nodiscard]] qint64 copyCount() const override { return m_thread->engine().copyCount(); }
     [[nodiscard]] bool wasServed() const override { return m_thread->engine().wasServed(); }
-    /// A list of types is part of every selection: nobody needs to ask for it.
+    /// The list of types is part of every selection and is not asked for.
     [[nodiscard]] bool wasListed() const override { return wasServed(); }
     void claim(PasteboardClaim claim) override;
     void catchUp(PendingResult<bool> result) override;
     void disown(std::shared_ptr<const OfferedContents> contents) override;
     [[nodiscard]] QCoro::Task<std::shared_ptr<const ForeignOffer>> readOffer() override;
-    /// Programs that quit ask nobody to keep their copy.
+    /// Wayland has no request to keep a copy.
     void settle(qint64, bool) override {}
 
     /// For what is asked of a pasteboard on Wayland alone.

@@ -12,7 +12,7 @@ namespace vellumry {
 class DataControlThread;
 
 /// The clipboard of a Wayland compositor as the general pasteboard, by one of the two data-control protocols: seen and
-/// owned in the background, whoever has the keyboard.
+/// owned in the background, whichever window has the keyboard.
 ///
 /// An emptied clipboard and one whose owner has died look alike: `onOwnerGone` tells of both.
 class WaylandPasteboard final : public ThreadedPasteboard {
@@ -21,7 +21,7 @@ public:
     [[nodiscard]] static OrReason<std::unique_ptr<WaylandPasteboard>> create(const QByteArray& displayName,
                                                                              const PasteboardLimits& limits = {});
 
-    /// For the Paste Stack, which counts who reads what.
+    /// For the Paste Stack, which counts readings.
     [[nodiscard]] std::weak_ptr<DataControlThread> thread() const { return m_conversation; }
 
 private:

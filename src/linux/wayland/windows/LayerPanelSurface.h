@@ -16,7 +16,7 @@ namespace vellumry {
 /// keyboard while it is open: some compositors give a layer that asks for less none at all. Needs Qt's Wayland
 /// platform. Main thread.
 ///
-/// A compositor tells nobody where the pointer is, so the display under it is that of the pointer's last visit to one
+/// A compositor does not tell where the pointer is, so the display under it is that of the pointer's last visit to one
 /// of our windows, else the primary one.
 class LayerPanelSurface final : public QObject, public PanelSurface {
     Q_OBJECT

@@ -8,13 +8,13 @@
 
 namespace vellumry {
 
-/// Who had the keyboard before a panel of ours took it, and whether it is back there. The compositor gives it back by
-/// itself. Main thread.
+/// The window that had the keyboard before a panel of ours took it, and whether it is back there. The compositor gives
+/// it back by itself. Main thread.
 class WaylandFocus final : public QObject {
     Q_OBJECT
 public:
     enum class Standing {
-        away,     ///< nobody, we or somebody else has it
+        away,     ///< it is in another window, one of ours, or none
         returned, ///< it is in the remembered window
         gone,     ///< the remembered window does not exist any more
     };
@@ -27,10 +27,10 @@ public:
     /// The panel has gone.
     void giveBack();
     /// The compositor has been told that our windows are gone. Without a remembered window, and a while after the
-    /// keyboard was given back, whoever has it will do: the user may have gone on, and a key of ours is meant for that
-    /// window.
+    /// keyboard was given back, any window that has it will do: the user may have gone on, and a key of ours is meant
+    /// for that one.
     [[nodiscard]] Standing standing();
-    /// The window that has the keyboard, or had it last; null when nobody knows.
+    /// The window that has the keyboard, or had it last; null when that is not known.
     [[nodiscard]] const WaylandWindows::Window* inFront() const;
 
 Q_SIGNALS:

@@ -29,7 +29,8 @@ void WaylandFrontmostApplication::follow() {
     m_hints.applicationID = sandboxed.isEmpty() ? window->applicationID : sandboxed;
     // Programs of Xwayland give their window class for it.
     m_hints.className = window->applicationID;
-    if (window->process > 0)
+    // An interpreter's own program says less than the name that its window bears.
+    if (window->applicationID.isEmpty() && window->process > 0)
         m_hints.program =
             QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/%1/exe").arg(window->process))).fileName();
     m_entries->refresh();

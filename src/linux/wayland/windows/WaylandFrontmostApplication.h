@@ -9,12 +9,12 @@
 
 namespace vellumry {
 
-/// The application whose window is active, or was before a panel took the keyboard. Who owns the clipboard, a
-/// compositor tells nobody. Main thread.
+/// The application whose window is active, or was before a panel took the keyboard. The owner of the
+/// clipboard is not known on Wayland. Main thread.
 class WaylandFrontmostApplication final : public QObject, public FrontmostApplication {
     Q_OBJECT
 public:
-    /// `windows` may be null: then nobody is in front.
+    /// `windows` may be null: then no application is in front.
     WaylandFrontmostApplication(std::shared_ptr<WaylandWindows> windows, std::shared_ptr<DesktopEntries> entries);
 
     [[nodiscard]] SourceApp current() const override;
