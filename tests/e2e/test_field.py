@@ -4,8 +4,8 @@ holds up nobody."""
 
 import time
 
-from desktop import (Failure, Vellumry, clipboard, copy_text, key, main, open_panel, own_tests, same, text_of, text_shown, type_text,
-                     wait_for_clip, wait_panel_closed, wait_until)
+from desktop import (Failure, Vellumry, clipboard, copy_text, key, main, open_panel, own_tests, run, same, text_of, text_shown,
+                     type_text, wait_for_clip, wait_panel_closed, wait_until)
 from hostile_owner import HostileOwner, Silence
 
 ANSWER_LIMIT = 0.5
@@ -68,6 +68,31 @@ def does_not_wait_for_a_silent_owner():
         if time.monotonic() - began > ANSWER_LIMIT:
             raise Failure("the panel was slow to close")
         same(program.alive(), True, "the program runs")
+
+
+def takes_dead_keys_and_compose_sequences():
+    """An accent waits for its letter, and a compose sequence for its end; the list is searched for what came of them."""
+    layout = ("setxkbmap", "-layout", "us", "-variant", "intl", "-option", "compose:menu")
+    try:
+        run(*layout)
+        with Vellumry():
+            for text in ("café", "plain"):
+                copy_text(text)
+                wait_for_clip(lambda row: text_of(row) == text, "the copy")
+            open_panel()
+            type_text("caf")
+            key("dead_acute", "e")
+            field_becomes("café")
+            key("Return")
+            wait_panel_closed()
+            wait_until(lambda: clipboard() == "café".encode(), "the clip that was found")
+            open_panel()
+            key("Multi_key", "s", "s")
+            field_becomes("ß")
+            key("ctrl+BackSpace")
+            field_becomes("")
+    finally:
+        run("setxkbmap", "-layout", "us", "-option", "")
 
 
 if __name__ == "__main__":
