@@ -21,6 +21,7 @@
 #include "linux/sound/ThemeSounds.h"
 #include "linux/tray/StatusNotifierTray.h"
 #include "linux/update/AppImageUpdater.h"
+#include "linux/x11/drag/X11DragSource.h"
 #include "linux/x11/keys/X11HotKeys.h"
 #include "linux/x11/keys/X11KeyboardLayout.h"
 #include "linux/x11/keys/X11PasteKeys.h"
@@ -87,6 +88,7 @@ std::optional<Reason> addX11Display(Platform& platform) {
     platform.pasteKeys = std::make_unique<X11PasteKeys>(std::move(pasteKeys));
     platform.idleSeconds = [idle = std::make_shared<X11IdleTime>(connection)] { return idle->seconds(); };
     platform.panelSurface = std::make_unique<X11PanelSurface>(connection, focus);
+    platform.drags = std::make_unique<X11DragSource>();
     return std::nullopt;
 }
 

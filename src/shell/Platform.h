@@ -13,6 +13,7 @@
 #include "platform/desktop/SoftwareUpdater.h"
 #include "platform/desktop/SoundPlayer.h"
 #include "platform/desktop/StatusItem.h"
+#include "platform/display/DragSource.h"
 #include "platform/display/HotKeyRegistrar.h"
 #include "platform/display/KeyboardLayout.h"
 #include "platform/display/PanelSurface.h"
@@ -50,6 +51,7 @@ struct Platform {
     std::unique_ptr<Opener> opener;
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<PanelSurface> panelSurface;
+    std::unique_ptr<DragSource> drags; ///< null where nothing can be dragged out of our windows
     std::unique_ptr<ImageCodec> images;
     std::unique_ptr<TextReader> textReader;
     std::unique_ptr<FileBookmarks> bookmarks;
