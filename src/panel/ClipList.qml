@@ -116,6 +116,11 @@ ListView {
             area.rest();
             list.reveal();
         }
+        function onGapClosed(row: int, clips: int, headers: int) {
+            list.gapRow = row;
+            list.gap = Math.min(list.height, list.gap + clips * Theme.rowHeight + headers * Theme.headerHeight);
+            closing.restart();
+        }
         function onRowMenuAsked() {
             list.reveal();
             const item = list.itemAtIndex(list.panel.primaryRow);
@@ -124,7 +129,22 @@ ListView {
         }
     }
 
+    // Rows below a gap glide up to close it.
+    property int gapRow: 0
+    property real gap: 0
+    NumberAnimation {
+        id: closing
+        target: list
+        property: "gap"
+        to: 0
+        duration: Theme.glide
+        easing.type: Easing.OutCubic
+    }
+
     delegate: ClipRow {
+        transform: Translate {
+            y: index >= list.gapRow ? list.gap : 0
+        }
         width: list.width
         isHovered: list.hoveredRow === index
         isPrimary: list.panel.primaryRow === index
@@ -149,12 +169,15 @@ ListView {
         parent: list
         anchors.fill: parent
         hoverEnabled: true
+        preventStealing: true
         acceptedButtons: Qt.LeftButton | Qt.RightButton
         onEntered: {
             restingAt = mapToGlobal(mouseX, mouseY);
             isKnown = true;
         }
         onPositionChanged: mouse => {
+            if (mouse.buttons & Qt.LeftButton)
+                list.panel.pressMoved(mapToItem(null, mouse.x, mouse.y));
             const place = mapToGlobal(mouse.x, mouse.y);
             if (isKnown && !pressed && (place.x !== restingAt.x || place.y !== restingAt.y))
                 list.hoveredRow = rowAt(mouse.x, mouse.y);
@@ -166,12 +189,13 @@ ListView {
             if (mouse.button === Qt.RightButton)
                 list.openMenu(mouse.x, mouse.y);
             else
-                list.panel.rowPressed(rowAt(mouse.x, mouse.y), mouse.modifiers);
+                list.panel.rowPressed(rowAt(mouse.x, mouse.y), mouse.modifiers, mapToItem(null, mouse.x, mouse.y));
         }
         onReleased: mouse => {
             if (mouse.button === Qt.LeftButton)
                 list.panel.rowReleased();
         }
+        onCanceled: list.panel.pressCancelled()
         onDoubleClicked: mouse => {
             if (mouse.button === Qt.LeftButton)
                 list.panel.rowDoubleClicked(mouse.modifiers);

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int shadowRoom = 40;
 constexpr int cornerRadius = 14;
-constexpr int fadeIn = 120;   // milliseconds
+constexpr int draggedRadius = 8;
 constexpr int settleIn = 160; // milliseconds
 const QString thumbnails = QStringLiteral("thumbnail");
 const QString previews = QStringLiteral("preview");
@@ -39,13 +39,20 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, Pasteboa
     , m_preview(m_model, hooks.preview)
     , m_surface(&surface)
     , m_views(&views)
-    , m_hooks(std::move(hooks)) {
+    , m_hooks(std::move(hooks))
+    , m_dragged(surface, views,
+                {QStringLiteral("Vellumry drag"),
+                 QStringLiteral("qrc:/vellumry/Vellumry/Panel/DragPreview.qml"),
+                 {},
+                 true,
+                 draggedRadius}) {
     m_model.onClose = [this] { hide(); };
     m_model.onToast = m_hooks.showToast;
     m_facade.keyCodeOf = m_hooks.keyCodeOf;
     if (m_hooks.statusMenu)
         m_facade.statusMenu = [this] { return closingFirst(m_hooks.statusMenu()); };
     m_facade.onRequestAccessibility = [this] { m_hooks.requestAccessibility(); };
+    wireDrags();
     m_facade.onGrabbed = [this] { grab(); };
     m_facade.onDragged = [this] { drag(); };
     m_facade.onDropped = [this] { drop(); };
@@ -66,7 +73,11 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, Pasteboa
     m_forget.setInterval(m_hooks.forgetDelay);
     connect(&m_forget, &QTimer::timeout, this, &PanelController::forgetTyped);
     m_surface->onFocusLost = [this](QWindow* window) {
-        if (m_view && window == m_view.get())
+        if (!m_view || window != m_view.get())
+            return;
+        if (m_facade.drag().isActive())
+            m_lostFocus = true;
+        else
             hide();
     };
 }
@@ -167,6 +178,7 @@ void PanelController::show() {
     m_model.prepareForShow();
     warmUp();
     applyLook();
+    m_facade.setStill(m_surface->reducesMotion());
     m_facade.setDormant(false);
     m_preview.setDormant(false);
     m_facade.present();

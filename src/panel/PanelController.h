@@ -5,7 +5,9 @@
 #include "panel/PanelModel.h"
 #include "panel/PanelPlacement.h"
 #include "panel/PreviewModel.h"
+#include "platform/display/DragSource.h"
 #include "platform/display/PanelSurface.h"
+#include "views/PassiveWindow.h"
 #include "views/ViewEngine.h"
 
 #include <QObject>
@@ -45,6 +47,8 @@ public:
         /// The menu of the program for the button in the panel's footer, which is there only where this is set. The
         /// panel closes before an entry does its work.
         std::function<std::vector<ActionMenuItem>()> statusMenu;
+        /// Drags clips into other programs; null where that cannot be. Outlives the controller.
+        DragSource* dragSource = nullptr;
         /// Shows a message on the display under the pointer.
         std::function<void(const ToastMessage&)> showToast;
         /// What the preview needs.
@@ -81,6 +85,8 @@ public:
     std::function<void()> onShow = [] {};
 
 private:
+    static constexpr int fadeIn = 120; ///< milliseconds
+
     [[nodiscard]] std::vector<ActionMenuItem> closingFirst(std::vector<ActionMenuItem> items);
     void makeView();
     void applyLook();
@@ -88,6 +94,11 @@ private:
     [[nodiscard]] bool fades() const;
     [[nodiscard]] QRect windowFrame(const QRectF& panel) const;
     [[nodiscard]] QRectF panelFrame() const;
+    void wireDrags();
+    void dragPhase(PanelDrag::Phase phase);
+    void stepAside();
+    void comeBack();
+    void showDragged();
     void grab();
     void drag();
     void drop();
@@ -103,6 +114,8 @@ private:
     std::unique_ptr<QQuickView> m_view;
     QVariantAnimation m_slide; ///< of the panel to the place where it settles
     QPropertyAnimation m_fade; ///< of the view's opacity, which the compositor applies: nothing is drawn anew for it
+    PassiveWindow m_dragged;   ///< what the pointer carries
+    bool m_lostFocus = false;  ///< while something was dragged
     int m_shadowMargin = 0;
     /// Saves the place a moment after the pointer let go.
     QTimer m_settle;

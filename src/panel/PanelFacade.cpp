@@ -25,7 +25,8 @@ PanelFacade::PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::functio
     , m_pasteboard(pasteboard)
     , m_openPanelKeys(std::move(openPanelKeys))
     , m_rows(model, localised("⌃") + localised("⌥") + QStringLiteral("%1"))
-    , m_filters(model) {
+    , m_filters(model)
+    , m_drag(model) {
     tellHints();
     connect(m_model, &PanelModel::queryChanged, this, [this] {
         m_typed.reset();
@@ -37,6 +38,10 @@ PanelFacade::PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::functio
     m_catchUp.setSingleShot(true);
     m_catchUp.setInterval(catchUpDelay);
     connect(&m_catchUp, &QTimer::timeout, this, &PanelFacade::catchUp);
+    connect(&m_rows, &PanelListModel::gapClosed, this, [this](int row, int clips, int headers) {
+        if (!m_isStill)
+            Q_EMIT gapClosed(row, clips, headers);
+    });
     connect(&m_rows, &PanelListModel::fellBehind, &m_catchUp, qOverload<>(&QTimer::start));
     connect(m_model, &PanelModel::focusTokenChanged, this, &PanelFacade::focusTokenChanged);
     connect(m_model, &PanelModel::transformChanged, this, &PanelFacade::transformChanged);
@@ -101,6 +106,8 @@ void PanelFacade::toggleStack() {
 
 void PanelFacade::present() {
     m_menu.close();
+    m_drag.forget();
+    m_followsDrag = false;
     ++m_showing;
     Q_EMIT presented();
 }
@@ -108,6 +115,8 @@ void PanelFacade::present() {
 void PanelFacade::setDormant(bool isDormant) {
     if (isDormant == m_rows.isDormant())
         return;
+    if (isDormant)
+        m_drag.cancel();
     m_rows.setDormant(isDormant);
     if (isDormant)
         m_menu.close();
@@ -126,7 +135,7 @@ void PanelFacade::catchUp() {
 }
 
 void PanelFacade::tellContent() {
-    if (m_rows.isDormant())
+    if (m_rows.isDormant() || m_rows.isHeld())
         return;
     closeStaleMenu();
     m_filters.refresh();

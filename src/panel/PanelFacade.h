@@ -4,6 +4,7 @@
 #include "panel/FieldPasteboard.h"
 #include "panel/FilterListModel.h"
 #include "panel/HintListModel.h"
+#include "panel/PanelDrag.h"
 #include "panel/PanelListModel.h"
 #include "panel/PanelMenu.h"
 #include "panel/PanelModel.h"
@@ -66,8 +67,12 @@ public:
     Q_INVOKABLE [[nodiscard]] QString helpOf(int row) const;
     /// A button went down on that row, and up again. What follows is about the clip that was pressed, whatever moved to
     /// its place meanwhile.
-    Q_INVOKABLE void rowPressed(int row, int modifiers);
+    /// Pressed, what the row stands for can be dragged. `place` counts in the view.
+    Q_INVOKABLE void rowPressed(int row, int modifiers, QPointF place);
+    Q_INVOKABLE void pressMoved(QPointF place);
     Q_INVOKABLE void rowReleased();
+    /// The press was taken away.
+    Q_INVOKABLE void pressCancelled();
     Q_INVOKABLE void rowDoubleClicked(int modifiers);
     /// Pastes that row, for those who have no pointer.
     Q_INVOKABLE void rowActivated(int row);
@@ -110,11 +115,14 @@ public:
     /// The stack that the panel's button stands for; it need not outlive this.
     void setStack(PasteStack& stack);
     [[nodiscard]] bool canUndo() const { return m_model->undoCount() > 0; }
+    [[nodiscard]] PanelDrag& drag() { return m_drag; }
     [[nodiscard]] PanelMenu* menu() { return &m_menu; }
     [[nodiscard]] bool hasStatusMenu() const { return bool(statusMenu); }
     [[nodiscard]] int shadowMargin() const { return m_shadowMargin; }
     void setShadowMargin(int shadowMargin);
 
+    /// The user wants no motion.
+    void setStill(bool isStill) { m_isStill = isStill; }
     /// To be called when the panel comes up.
     void present();
     /// While the panel is hidden its rows are drawn for nobody: they follow a burst of changes together, shortly after.
@@ -138,6 +146,8 @@ Q_SIGNALS:
     void primaryRowChanged();
     void countTextChanged();
     void hasAccessibilityChanged();
+    /// Rows above that one are gone, as many of clips and headers, and it has moved up to their place.
+    void gapClosed(int row, int clips, int headers);
     /// The chosen row is to come into sight.
     void revealed();
     void focusTokenChanged();
@@ -160,6 +170,8 @@ private:
     void catchUp();
     void tellContent();
     void tellSelection();
+    void endPress();
+    void collapse();
 
     QCoro::Task<void> fetchPasted(int showing);
 
@@ -170,6 +182,9 @@ private:
     FilterListModel m_filters;
     HintListModel m_hints;
     PanelMenu m_menu;
+    PanelDrag m_drag;
+    bool m_isStill = false;
+    bool m_followsDrag = false;      ///< the last press that is over became a drag
     std::optional<QUuid> m_menuClip; ///< that the open menu is about
     QTimer m_catchUp;
     QPointer<PasteStack> m_stack;

@@ -24,6 +24,11 @@ bool isMenuKey(int key, Qt::KeyboardModifiers modifiers) {
 } // namespace
 
 bool PanelFacade::keyPressed(int key, int modifiers, quint32 scanCode, bool hasTextSelection, bool isRepeated) {
+    if (m_drag.isActive()) {
+        if (key == Qt::Key_Escape)
+            m_drag.cancel();
+        return true;
+    }
     if (m_menu.isOpen()) {
         m_menu.keyPressed(key, Qt::KeyboardModifiers(modifiers));
         return true;
@@ -105,7 +110,7 @@ QString PanelFacade::helpOf(int row) const {
     return m_rows.clipAt(row) ? m_rows.data(m_rows.index(row), PanelListModel::PinHintRole).toString() : QString();
 }
 
-void PanelFacade::rowPressed(int row, int modifiers) {
+void PanelFacade::rowPressed(int row, int modifiers, QPointF place) {
     const ClipRef clip = m_rows.clipAt(row);
     m_pressedID = clip ? std::optional(clip->id) : std::nullopt;
     m_collapsesOnRelease = false;
@@ -114,9 +119,38 @@ void PanelFacade::rowPressed(int row, int modifiers) {
     m_isPointing = true;
     m_collapsesOnRelease = m_model->click(clip->id, eventFlags(Qt::KeyboardModifiers(modifiers)));
     m_isPointing = false;
+    m_rows.setHeld(true);
+    m_drag.press(clip->id, place);
+}
+
+void PanelFacade::pressMoved(QPointF place) {
+    m_drag.move(place);
+}
+
+void PanelFacade::pressCancelled() {
+    m_drag.cancel();
+    m_followsDrag = m_drag.hasStarted();
+    m_collapsesOnRelease = false;
+    endPress();
+}
+
+/// What changed while a finger was down moves now.
+void PanelFacade::endPress() {
+    if (!m_rows.isHeld())
+        return;
+    m_rows.setHeld(false);
+    tellContent();
 }
 
 void PanelFacade::rowReleased() {
+    m_drag.release();
+    m_followsDrag = m_drag.hasStarted();
+    m_collapsesOnRelease = m_collapsesOnRelease && !m_followsDrag;
+    collapse();
+    endPress();
+}
+
+void PanelFacade::collapse() {
     if (!std::exchange(m_collapsesOnRelease, false) || !m_pressedID || m_rows.rowOf(*m_pressedID) < 0)
         return;
     m_isPointing = true;
@@ -128,7 +162,11 @@ void PanelFacade::rowDoubleClicked(int modifiers) {
     // With Ctrl or Shift held it is two single clicks, which have done their work.
     if ((eventFlags(Qt::KeyboardModifiers(modifiers)) & (eventflag::command | eventflag::shift)) != 0)
         return;
+    // A press that ended as a drag is not the first half of a double click.
+    if (m_followsDrag)
+        return;
     m_collapsesOnRelease = false;
+    m_drag.cancel();
     if (m_pressedID)
         m_model->pasteRow(*m_pressedID);
 }

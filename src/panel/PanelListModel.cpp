@@ -25,6 +25,7 @@ PanelListModel::PanelListModel(PanelModel& model, QString pinKeys, QObject* pare
 
 void PanelListModel::setDormant(bool isDormant) {
     m_isDormant = isDormant;
+    m_isHeld = false;
     if (!isDormant)
         catchUp();
 }
@@ -34,8 +35,16 @@ void PanelListModel::catchUp() {
         rebuild();
 }
 
+void PanelListModel::setHeld(bool isHeld) {
+    m_isHeld = isHeld;
+    if (!isHeld && !m_isDormant)
+        catchUp();
+}
+
 void PanelListModel::follow() {
-    if (!m_isDormant)
+    if (m_isHeld)
+        m_isBehind = true;
+    else if (!m_isDormant)
         rebuild();
     else if (!std::exchange(m_isBehind, true))
         Q_EMIT fellBehind();
@@ -59,7 +68,29 @@ void PanelListModel::rebuild() {
     m_rowNumbers = m_model->rowNumbers();
     m_pinNumbers = m_model->pinNumbers();
 
+    const bool isSameSearch = m_model->query() == m_shownQuery && m_model->filter() == m_shownFilter;
+    m_shownQuery = m_model->query();
+    m_shownFilter = m_model->filter();
+    const auto gap = isSameSearch && !m_isDormant ? gapTo(rows) : std::nullopt;
     replaceRows(std::move(rows));
+    if (gap)
+        Q_EMIT gapClosed(gap->row, gap->clips, gap->headers);
+}
+
+std::optional<PanelListModel::Gap> PanelListModel::gapTo(const std::vector<Row>& rows) const {
+    const auto isSame = [](const Row& one, const Row& other) {
+        return one.header == other.header && bool(one.clip) == bool(other.clip) &&
+               (!one.clip || one.clip->id == other.clip->id);
+    };
+    if (rows.size() >= m_rows.size())
+        return std::nullopt;
+    const auto first = std::ranges::mismatch(m_rows, rows, isSame).in1;
+    const auto last = first + std::ptrdiff_t(m_rows.size() - rows.size());
+    const auto place = first - m_rows.begin();
+    if (!std::equal(last, m_rows.end(), rows.begin() + place, rows.end(), isSame))
+        return std::nullopt;
+    const auto headers = std::count_if(first, last, [](const Row& row) { return !row.clip; });
+    return Gap{int(place), int(last - first - headers), int(headers)};
 }
 
 /// Rows that stay are rebound before any are added and after any are removed: views may look at them in between.
@@ -105,6 +136,8 @@ int PanelListModel::rowOf(const QUuid& id) const {
 }
 
 int PanelListModel::primaryRow() const {
+    if (m_isBehind) // the model's places are of rows to come
+        return m_model->selectedID() ? rowOf(*m_model->selectedID()) : -1;
     const int index = m_model->selectedIndex();
     if (index < 0)
         return -1;

@@ -5,6 +5,7 @@
 
 #include <QAbstractListModel>
 #include <QHash>
+#include <optional>
 #include <vector>
 
 namespace vellumry {
@@ -53,12 +54,17 @@ public:
     /// Waking up catches up.
     void setDormant(bool isDormant);
     [[nodiscard]] bool isDormant() const { return m_isDormant; }
+    /// While a finger is down nothing moves; what changed meanwhile is followed when it is up. Selection shows at once.
+    void setHeld(bool isHeld);
+    [[nodiscard]] bool isHeld() const { return m_isHeld; }
     /// Follows once what has changed since it lay dormant; deleted clips are held until then.
     void catchUp();
 
 Q_SIGNALS:
     /// The first change since it was last up to date came while dormant.
     void fellBehind();
+    /// Rows went from above that one while the user looked at the same search: so many of clips and of headers.
+    void gapClosed(int row, int clips, int headers);
 
 private:
     struct Row {
@@ -69,6 +75,13 @@ private:
     void follow();
     void rebuild();
     void replaceRows(std::vector<Row> rows);
+    /// What `gapClosed` is to tell; nothing unless one run of rows went and nothing else changed.
+    struct Gap {
+        int row = 0;
+        int clips = 0;
+        int headers = 0;
+    };
+    [[nodiscard]] std::optional<Gap> gapTo(const std::vector<Row>& rows) const;
     void repaintSelection();
     [[nodiscard]] QVariant headerValue(const Row& row, int role) const;
     [[nodiscard]] QVariant clipValue(const Clip& clip, int role) const;
@@ -86,6 +99,9 @@ private:
     QHash<QUuid, int> m_pinNumbers;
     bool m_isDormant = false;
     bool m_isBehind = false;
+    bool m_isHeld = false;
+    QString m_shownQuery;
+    ClipFilter m_shownFilter = ClipFilter::all;
 };
 
 } // namespace vellumry

@@ -18,6 +18,7 @@ PanelController::Hooks AppEnvironment::panelHooks() {
     hooks.preview.isReadingText = [this](const QUuid& id) { return m_textReading->queue().isReading(id); };
     hooks.preview.readText = [this](const QUuid& id) { m_textReading->queue().readFile(id); };
     hooks.preview.clock = m_platform->clock;
+    hooks.dragSource = m_platform->drags.get();
     hooks.statusMenu = [this] { return statusMenu(); };
     hooks.showToast = [this](const ToastMessage& message) { showToast(message); };
     return hooks;

@@ -98,6 +98,9 @@ QtObject {
     readonly property int swatchHeight: 140
     readonly property int wordsHeight: 92
 
+    // Milliseconds.
+    readonly property int glide: 140
+
     // The line heights of the fonts in use.
     readonly property int titleLine: Math.ceil(titleFont.height)
     readonly property int smallLine: Math.ceil(smallFont.height)

@@ -1,0 +1,138 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Clips dragged with the real pointer out of the panel into windows of other programs, and what these hold then."""
+
+import glob
+import os
+import subprocess
+
+from clients import FileManager, GtkEditor, QtEditor
+from desktop import (Vellumry, clipboard, copy_bytes, key, main, open_panel, own_tests, panel_is_open, picture, run, same,
+                     wait_for_clip, wait_panel_closed, wait_until)
+from panel_rows import middle, remember, row, texts_kept
+
+RUNTIME = os.environ["XDG_RUNTIME_DIR"]
+
+
+def place(window, x=0, y=0, width=500, height=400):
+    """Puts a window beside the panel; the middle of it."""
+    run("xdotool", "windowmove", window, str(x), str(y), "windowsize", window, str(width), str(height))
+
+    def stands():
+        text = run("xdotool", "getwindowgeometry", "--shell", window).decode()
+        values = dict(line.split("=") for line in text.split())
+        return abs(int(values["WIDTH"]) - width) < 60 and abs(int(values["X"]) - x) < 60
+
+    wait_until(stands, "the window in its place")
+    return x + width // 2, y + height // 2
+
+
+def carry(title, where, drop=True):
+    """Presses a row, carries it there and lets go."""
+    x, y = middle(row(title))
+    run("xdotool", "mousemove", str(x), str(y), "mousedown", "1")
+    steps = 12
+    for step in range(1, steps + 1):
+        run("xdotool", "mousemove", str(x + (where[0] - x) * step // steps), str(y + (where[1] - y) * step // steps))
+    if drop:
+        run("xdotool", "mouseup", "1")
+
+
+def leftovers():
+    return glob.glob(os.path.join(RUNTIME, "vellumry-drag-*"))
+
+
+def png():
+    return subprocess.run(["convert", "-size", "60x40", "gradient:red-blue", "png:-"], stdout=subprocess.PIPE, check=True).stdout
+
+
+def a_text_into_a_gtk_editor():
+    """The text stands in the editor, the panel has gone, and the clipboard holds what it held."""
+    with Vellumry(), GtkEditor() as editor:
+        remember("dragged", "newer")
+        target = place(editor.window)
+        open_panel()
+        carry("dragged", target, drop=False)
+        picture("drag")
+        run("xdotool", "mouseup", "1")
+        wait_panel_closed()
+        wait_until(lambda: editor.content() == "dragged", "the text in the editor")
+        same(clipboard(), b"newer", "the clipboard")
+
+
+def a_text_into_a_qt_editor():
+    """The same into an editor of the other toolkit."""
+    with Vellumry(), QtEditor() as editor:
+        remember("dragged", "newer")
+        target = place(editor.window)
+        open_panel()
+        carry("dragged", target)
+        wait_panel_closed()
+        wait_until(lambda: editor.content() == "dragged", "the text in the editor")
+
+
+def several_texts_are_joined():
+    """Three chosen texts, pressed on one of them, come in the order of their copying."""
+    with Vellumry(), GtkEditor() as editor:
+        remember("one", "two", "three")
+        target = place(editor.window)
+        open_panel()
+        key("shift+Down", "shift+Down")
+        carry("two", target)
+        wait_panel_closed()
+        wait_until(lambda: editor.content() == "one\ntwo\nthree", "the texts in the editor")
+
+
+def files_into_a_file_manager():
+    """The file is copied into the folder on which it was dropped, and stays where it was."""
+    with Vellumry(), FileManager() as manager:
+        source = os.path.join(os.environ["HOME"], "a file.txt")
+        with open(source, "w", encoding="utf-8") as file:
+            file.write("of the file")
+        copy_bytes(("file://" + source.replace(" ", "%20") + "\r\n").encode(), "text/uri-list")
+        wait_for_clip(lambda entry: entry["title"] == "a file.txt", "the copy of the file")
+        target = place(manager.window)
+        open_panel()
+        carry("a file.txt", target)
+        wait_panel_closed()
+        copied = os.path.join(manager.folder, "a file.txt")
+        wait_until(lambda: os.path.exists(copied) and os.path.getsize(copied) == 11, "the file in the folder")
+        same(os.path.exists(source), True, "the file where it was")
+
+
+def a_picture_into_a_file_manager():
+    """A copied picture becomes a file in the folder."""
+    with Vellumry(), FileManager() as manager:
+        data = png()
+        copy_bytes(data, "image/png")
+        title = wait_for_clip(lambda entry: entry["kind"] == 3, "the copy of the picture")["title"]
+        target = place(manager.window)
+        open_panel()
+        carry(title, target)
+        wait_panel_closed()
+        wait_until(lambda: glob.glob(os.path.join(manager.folder, "*.png")), "a file in the folder")
+        saved = glob.glob(os.path.join(manager.folder, "*.png"))[0]
+        wait_until(lambda: open(saved, "rb").read() == data, "the picture whole")
+    same(leftovers(), [], "files left behind")
+
+
+def what_nobody_takes_comes_back():
+    """Dropped on the bare desktop, or ended by Escape, nothing happens: the panel is there and hears keys."""
+    with Vellumry():
+        data = png()
+        copy_bytes(data, "image/png")
+        title = wait_for_clip(lambda entry: entry["kind"] == 3, "the copy of the picture")["title"]
+        open_panel()
+        carry(title, (60, 1000))
+        wait_until(lambda: not leftovers(), "the picture's file to be gone")
+        same(panel_is_open(), True, "the panel is open")
+        carry(title, (60, 1000), drop=False)
+        run("xdotool", "key", "Escape")  # to clear modifiers would let go of the button as well
+        run("xdotool", "mouseup", "1")
+        wait_until(lambda: not leftovers(), "the picture's file to be gone")
+        same(panel_is_open(), True, "the panel is open")
+        key("ctrl+Delete")
+        wait_until(lambda: texts_kept() == [], "the panel to hear keys")
+
+
+if __name__ == "__main__":
+    main(own_tests())
