@@ -38,7 +38,7 @@ Item {
             required property bool isMissing
             required property bool isFile
 
-            width: scrolled.width - Theme.scrollArea
+            width: scrolled.width
             height: Theme.entryHeight
             Accessible.role: Accessible.ListItem
             Accessible.name: name
@@ -57,6 +57,7 @@ Item {
                 anchors.left: icon.right
                 anchors.leftMargin: Theme.gap
                 anchors.right: parent.right
+                anchors.rightMargin: Theme.scrollArea
                 anchors.verticalCenter: parent.verticalCenter
 
                 Label {

@@ -52,6 +52,8 @@ ListView {
         flickable: scrolled
     }
     ScrollBar {
+        // Beside the text, which is not mirrored.
+        LayoutMirroring.enabled: false
         parent: scrolled
         view: scrolled
         anchors.right: parent.right

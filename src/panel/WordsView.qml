@@ -35,6 +35,8 @@ Flickable {
         flickable: scrolled
     }
     ScrollBar {
+        // Beside the text, which is not mirrored.
+        LayoutMirroring.enabled: false
         parent: scrolled
         view: scrolled
         anchors.right: parent.right
