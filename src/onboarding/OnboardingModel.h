@@ -117,7 +117,7 @@ private:
     bool m_launchAtLogin = true;
     bool m_isKeyringClosed = false;
     std::optional<FileAccess::Result> m_fileAccess;
-    QTimer m_trustPoll; ///< while its step shows: the desktop tells nobody of a permission
+    QTimer m_trustPoll; ///< while its step shows: the desktop does not notify of a permission
 };
 
 } // namespace vellumry

@@ -22,7 +22,7 @@ class PanelModel;
 class PasteStack;
 
 /// The right-hand side of the panel as its QML sees it: what `previewContent` makes of the selection, what is loaded
-/// for it, and the buttons handed back to the panel model. While nobody sees the panel it lies dormant and holds
+/// for it, and the buttons handed back to the panel model. While the panel is hidden it lies dormant and holds
 /// nothing. Main thread.
 class PreviewModel : public QObject {
     Q_OBJECT

@@ -67,7 +67,7 @@ void ShortcutRegistrations::addChosen(const QString& key, const Shortcut& standa
     if (stored.isValid() && !chosen)
         m_preferences.refuse(key);
     const Shortcut shortcut = chosen.value_or(standard);
-    // Where nobody can hold keys, none is taken.
+    // Where keys cannot be held, none is taken.
     if (!m_center.hasKeys() || add(shortcut, action))
         return;
     qCWarning(logging::paste).noquote() << "the shortcut of" << key << "is held by another program or has no key";

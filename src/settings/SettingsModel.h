@@ -13,7 +13,7 @@
 namespace vellumry {
 
 /// What the settings window shows. It always says what the settings file says: each change is written at once, and what
-/// is shown follows the file, whoever wrote it. Main thread.
+/// is shown follows the file, also when another program wrote it. Main thread.
 class SettingsModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -91,7 +91,7 @@ public:
     [[nodiscard]] bool pinnedShortcutsEnabled() const { return m_values.pinnedShortcutsEnabled; }
     void setPinnedShortcutsEnabled(bool isOn);
     [[nodiscard]] const QStringList& shortcutProblems() const { return m_shortcutProblems; }
-    /// Told by whoever registered the shortcuts last.
+    /// Set by the last registration of the shortcuts.
     void setShortcutProblems(const QStringList& problems);
     /// The words of a free shortcut in place of one that is taken; empty when there is none to offer.
     [[nodiscard]] QString shortcutOffer() const;

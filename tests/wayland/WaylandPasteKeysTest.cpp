@@ -44,7 +44,7 @@ struct World {
         pass(150ms); // the clipboard managers have read by then
     }
     void expectNext() { keys->expect(waiting.empty() ? std::nullopt : std::optional(text(waiting.front()))); }
-    /// Lets time pass in which nobody pastes.
+    /// Lets time pass without a paste.
     void pass(std::chrono::milliseconds time) {
         const QDeadlineTimer deadline(time);
         peer.until([&] { return deadline.hasExpired(); });

@@ -23,7 +23,7 @@ struct PasteboardNotices {
 struct PasteboardClaim {
     std::shared_ptr<const OfferedContents> contents;
     bool isPrimary = false;  ///< the primary selection instead of the clipboard
-    bool isTakeover = false; ///< only if nobody has owned the clipboard since its owner went
+    bool isTakeover = false; ///< only if the clipboard has had no owner since its owner went
     std::shared_ptr<std::atomic<bool>> isWithdrawn = std::make_shared<std::atomic<bool>>(false);
     /// The change count of our ownership; nothing when it did not become ours.
     PendingResult<std::optional<qint64>> result;

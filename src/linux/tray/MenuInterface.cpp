@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Nobody opens a menu twice in this time. A peer that asks without end is answered from the last look.
+/// Shorter than it takes to open a menu twice. A peer that asks without end is answered from the last look.
 constexpr qint64 restMilliseconds = 30;
 constexpr auto tellingDelay = 1s;
 

@@ -125,7 +125,7 @@ void StatusNotifierTray::registerWith(const QString& owner) {
     });
 }
 
-/// A watcher without a host keeps icons that nobody shows.
+/// A watcher without a host keeps icons that are not shown.
 void StatusNotifierTray::hostsChanged() {
     const QDBusMessage call = watcherCall(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"),
                                           {watcherService(), QStringLiteral("IsStatusNotifierHostRegistered")});

@@ -12,7 +12,7 @@
 namespace vellumry {
 
 /// The icon in a panel that keeps its icons over the session bus. It registers with the watcher that is there, with one
-/// that comes later, and with one that comes anew, once with each. Main thread; waits for nobody.
+/// that comes later, and with one that comes anew, once with each. Main thread; never waits.
 class StatusNotifierTray : public QObject, public StatusItem {
     Q_OBJECT
 

@@ -76,7 +76,7 @@ void WaylandPasteKeys::receive() {
     press.keyCode = letterV;
     press.flags = eventflag::command;
     press.characters = QStringLiteral("v");
-    const auto told = onPress; // whoever is told may stop listening
+    const auto told = onPress; // the callback may stop the listening
     if (told)
         told(press, std::make_shared<Key>());
 }
