@@ -298,7 +298,8 @@ void XdndSession::handleMessage(const xcb_client_message_event_t& message) {
         finish();
 }
 
-/// The target has written where it wants the file, and asks us to put it there (Direct Save Protocol 0).
+/// The target has written where it wants the file, and asks us to put it there (Direct Save Protocol 0). Any client
+/// could write that and ask: only the one that was dropped on is obeyed, and no file is replaced.
 bool XdndSession::handleDirectSave(const xcb_selection_request_event_t& request) {
     if (!m_saved || request.target != m_connection->atom(directSave))
         return false;
@@ -306,8 +307,11 @@ bool XdndSession::handleDirectSave(const xcb_selection_request_event_t& request)
         m_connection->property(m_connection->window(), m_connection->atom(directSave), longestAddress, false);
     const QString path = address ? fileurl::pathOf(address->bytes).value_or(QString()) : QString();
     QFile file(path);
-    const bool isSaved =
-        !path.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(m_saved->bytes) == m_saved->bytes.size();
+    const bool isTarget = m_connection->isSameClient(request.requestor, m_target.receiver) ||
+                          m_connection->isSameClient(request.requestor, m_target.window);
+    const bool isSaved = m_isDecided && isTarget && !path.isEmpty() &&
+                         file.open(QIODevice::WriteOnly | QIODevice::NewOnly) &&
+                         file.write(m_saved->bytes) == m_saved->bytes.size();
     m_connection->setProperty(request.requestor, request.property, XCB_ATOM_STRING, 8, isSaved ? "S" : "F");
     m_connection->notifyRequestor(request, request.property);
     return true;

@@ -97,6 +97,11 @@ void DropTarget::askToSave(const QByteArray& address) {
     xcb_flush(m_connection);
 }
 
+void DropTarget::askToSaveFrom(const DropTarget& other, const QByteArray& address) {
+    m_source = other.m_source;
+    askToSave(address);
+}
+
 void DropTarget::setProxy(const DropTarget& proxy) {
     set({m_window, atom("XdndProxy")}, XCB_ATOM_WINDOW, 32, bytesOf(proxy.m_window));
     set({proxy.m_window, atom("XdndProxy")}, XCB_ATOM_WINDOW, 32, bytesOf(proxy.m_window));

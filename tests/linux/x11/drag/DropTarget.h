@@ -30,6 +30,8 @@ public:
     [[nodiscard]] bool hears(const QByteArray& name) const { return heard.contains(name); }
     /// Where a file is to be saved; then asks for it. What was answered comes with `work`.
     void askToSave(const QByteArray& address);
+    /// The same in the drag that `other` heard of.
+    void askToSaveFrom(const DropTarget& other, const QByteArray& address);
     [[nodiscard]] QByteArray saveAnswer() const { return m_saveAnswer; }
     [[nodiscard]] QByteArray offeredName();
     /// Messages for this window go to that one.

@@ -203,6 +203,47 @@ TEST_F(X11DragSourceTest, AFileThatCannotBeSavedIsToldSo) {
     EXPECT_EQ(left->saveAnswer(), "F");
 }
 
+TEST_F(X11DragSourceTest, NothingIsSavedBeforeTheDrop) {
+    ASSERT_TRUE(begin(picture()));
+    pointAt(50, 50);
+    ASSERT_TRUE(until([&] { return left->hears("XdndPosition"); }));
+    const QString wanted = runtime.filePath(QStringLiteral("too soon.png"));
+    left->askToSave(QUrl::fromLocalFile(wanted).toEncoded());
+    ASSERT_TRUE(until([&] { return !left->saveAnswer().isEmpty(); }));
+    EXPECT_EQ(left->saveAnswer(), "F");
+    EXPECT_FALSE(QFile::exists(wanted));
+}
+
+TEST_F(X11DragSourceTest, AWindowThatWasNotDroppedOnHasNothingSaved) {
+    ASSERT_TRUE(begin(picture()));
+    pointAt(50, 50);
+    ASSERT_TRUE(until([&] { return left->hears("XdndPosition"); }));
+    source->release();
+    ASSERT_TRUE(until([&] { return left->hears("XdndDrop"); }));
+    const QString wanted = runtime.filePath(QStringLiteral("not yours.png"));
+    right->askToSaveFrom(*left, QUrl::fromLocalFile(wanted).toEncoded());
+    ASSERT_TRUE(until([&] { return !right->saveAnswer().isEmpty(); }));
+    EXPECT_EQ(right->saveAnswer(), "F");
+    EXPECT_FALSE(QFile::exists(wanted));
+}
+
+TEST_F(X11DragSourceTest, AFileThatIsThereIsNotReplaced) {
+    ASSERT_TRUE(begin(picture()));
+    pointAt(50, 50);
+    ASSERT_TRUE(until([&] { return left->hears("XdndPosition"); }));
+    source->release();
+    ASSERT_TRUE(until([&] { return left->hears("XdndDrop"); }));
+    QFile file(runtime.filePath(QStringLiteral("mine.txt")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("mine");
+    file.close();
+    left->askToSave(QUrl::fromLocalFile(file.fileName()).toEncoded());
+    ASSERT_TRUE(until([&] { return !left->saveAnswer().isEmpty(); }));
+    EXPECT_EQ(left->saveAnswer(), "F");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "mine");
+}
+
 TEST_F(X11DragSourceTest, ANewDragEndsTheOneBefore) {
     ASSERT_TRUE(beginText("first"));
     ASSERT_TRUE(beginText("second"));
