@@ -142,8 +142,9 @@ ListView {
     }
 
     delegate: ClipRow {
+        id: row
         transform: Translate {
-            y: index >= list.gapRow ? list.gap : 0
+            y: row.index >= list.gapRow ? list.gap : 0
         }
         width: list.width
         isHovered: list.hoveredRow === index

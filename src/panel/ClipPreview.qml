@@ -2,7 +2,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vellumry.Panel
-import Vellumry.Views
 
 // One clip: its body, by what it is.
 Item {

@@ -2,7 +2,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vellumry.Panel
-import Vellumry.Views
 
 // A button of the preview: with words, or a symbol alone.
 Item {
