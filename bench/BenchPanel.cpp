@@ -159,11 +159,9 @@ private:
             }));
             const QString count = QString::number(text.size());
             whole.push_back(painted.back() + milliseconds([&] {
-                                while (!preview->content().details.contains(count)) {
-                                    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 1);
+                                while (!preview->content().details.contains(count))
                                     longest =
                                         std::max(longest, milliseconds([] { QCoreApplication::processEvents(); }));
-                                }
                             }));
             busy.push_back(longest);
         }

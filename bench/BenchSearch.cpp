@@ -132,7 +132,7 @@ void printAfterUse(ClipSearch& search, std::vector<ClipRef> clips, const QString
     std::printf("  \"%s\" after a clip has moved to the top: %.2f ms\n", qPrintable(word), median(times));
 }
 
-/// What a store does while nothing else is to be done, and the search behind it.
+/// Prints the idle-time folding of the store, slice by slice, and the first search after it.
 void printPrepared(const std::vector<ClipRef>& clips) {
     ClipSearch search;
     std::vector<double> slices;

@@ -29,8 +29,8 @@ public:
         quint64 edits = 0;  ///< of the search field when it was made
         QDeadlineTimer end; ///< of the offer
         std::optional<RemovedClips> clips;
-        bool isWanted = false; ///< taken back before the clips had arrived
-        bool isOver = false;   ///< let go of before they had
+        bool isWanted = false; ///< undone before the clips had arrived
+        bool isOver = false;   ///< expired or dropped before the clips had arrived
     };
 
     /// `store` must outlive this.

@@ -78,7 +78,7 @@ public:
         SymbolRole,
         ThumbnailRole,
         SwatchRole,
-        ToldRole, ///< what is to be said of it beside its name
+        ToldRole, ///< accessible description, without the name
         HasNoteRole,
         IsMissingRole,
         IsFileRole

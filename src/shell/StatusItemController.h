@@ -60,7 +60,7 @@ public:
     std::function<void(const ToastMessage& message)> onToast = [](const ToastMessage&) {};
     /// Pastes the pinned clip of that number, from 1.
     std::function<void(int number)> onPastePinned = [](int) {};
-    /// Asks whether the history is to be cleared.
+    /// Clears the history after a confirmation dialog.
     std::function<void()> onClearHistory = [] {};
     std::function<void(const QString& address)> onOpenLink = [](const QString&) {};
     std::function<void()> onQuit = [] {};

@@ -111,7 +111,7 @@ bool XdgLoginItem::isEnabled() const {
 }
 
 bool XdgLoginItem::write(const QByteArray& text) const {
-    // The specification has the folder made when it is needed, for the user alone.
+    // On a new account the autostart folder does not exist yet.
     if (!QDir().exists(m_places.userFolder) && !QDir().mkpath(m_places.userFolder))
         return false;
     QSaveFile entry(file());

@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -24,6 +26,17 @@ protected:
     [[nodiscard]] static QByteArray read(const QString& path) {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    /// Returns when the only child of this process blocks in read(2) on its standard input, or has ended: one that does
+    /// not wait for us never reads.
+    static void awaitReadingChild() {
+        const QByteArray own = QByteArray::number(getpid());
+        const pid_t child = read("/proc/" + own + "/task/" + own + "/children").trimmed().toInt();
+        const QByteArray reading = QByteArray::number(SYS_read) + " 0x0 ";
+        while (waitpid(child, nullptr, WNOHANG) == 0 &&
+               !read("/proc/" + QByteArray::number(child) + "/syscall").startsWith(reading))
+            sched_yield();
     }
 
     QTemporaryDir disk;
@@ -83,7 +96,7 @@ TEST_F(ProgramFileTest, TheNewerStartsWhenThisProcessHasEnded) {
         qputenv("OLD", QByteArray::number(getpid()));
         qputenv("APPIMAGE", "/old");
         const bool isArranged = file.startAfterThisProcess();
-        usleep(200'000); // time enough for one that does not wait
+        awaitReadingChild();
         _exit(isArranged ? 0 : 1);
     }
     int status = 0;

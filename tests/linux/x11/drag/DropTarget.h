@@ -28,7 +28,7 @@ public:
     /// Says that it has all that it wants.
     void finish();
     [[nodiscard]] bool hears(const QByteArray& name) const { return heard.contains(name); }
-    /// Where a file is to be saved; then asks for it. What was answered comes with `work`.
+    /// Sets the destination of the direct save and requests it; `work` receives the answer.
     void askToSave(const QByteArray& address);
     /// The same in the drag that `other` heard of.
     void askToSaveFrom(const DropTarget& other, const QByteArray& address);
