@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/OneShot.h"
 #include "linux/pasteboard/ForeignOffer.h"
 #include "linux/pasteboard/OfferedContents.h"
-#include "linux/pasteboard/PendingResult.h"
 
 #include <atomic>
 #include <functional>
@@ -26,7 +26,7 @@ struct PasteboardClaim {
     bool isTakeover = false; ///< only if the clipboard has had no owner since its owner went
     std::shared_ptr<std::atomic<bool>> isWithdrawn = std::make_shared<std::atomic<bool>>(false);
     /// The change count of our ownership; nothing when it did not become ours.
-    PendingResult<std::optional<qint64>> result;
+    OneShot<std::optional<qint64>> result;
 };
 
 /// The conversation with a display server about its clipboard, on a thread and a connection of its own. What is asked
@@ -46,7 +46,7 @@ public:
 
     virtual void claim(PasteboardClaim claim) = 0;
     /// Delivers once all that the server has to tell of the time before the call was handled; false without a server.
-    virtual void catchUp(PendingResult<bool> result) = 0;
+    virtual void catchUp(OneShot<bool> result) = 0;
     /// Gives up the clipboard and the primary selection where they are still ours with `contents`. A program that takes
     /// them meanwhile keeps them.
     virtual void disown(std::shared_ptr<const OfferedContents> contents) = 0;

@@ -65,7 +65,7 @@ bool ThreadedPasteboard::wasListed() const {
 }
 
 QCoro::Task<void> ThreadedPasteboard::catchUp() {
-    const PendingResult<bool> result;
+    const OneShot<bool> result;
     m_service->catchUp(result);
     (void)co_await result;
 }

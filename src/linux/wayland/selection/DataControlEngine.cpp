@@ -60,7 +60,7 @@ void DataControlEngine::start() {
 void DataControlEngine::end() {
     m_ended = true;
     finishClaim(std::nullopt);
-    for (const PendingResult<bool>& waiting : std::exchange(m_catchUps, {}))
+    for (const OneShot<bool>& waiting : std::exchange(m_catchUps, {}))
         waiting.deliver(false);
     m_offer.reset();
     m_reader.endAll();
@@ -215,14 +215,14 @@ void DataControlEngine::disown(const std::shared_ptr<const OfferedContents>& con
     }
 }
 
-void DataControlEngine::catchUp(PendingResult<bool> result) {
+void DataControlEngine::catchUp(OneShot<bool> result) {
     if (m_ended) {
         result.deliver(false);
         return;
     }
     m_catchUps.push_back(std::move(result));
     m_control->sync([this] {
-        const PendingResult<bool> waiting = m_catchUps.front();
+        const OneShot<bool> waiting = m_catchUps.front();
         m_catchUps.erase(m_catchUps.begin());
         waiting.deliver(true);
     });

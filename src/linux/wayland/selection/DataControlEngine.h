@@ -28,8 +28,8 @@ public:
         Instant deadline; ///< for the whole copy
         QStringList targets;
     };
-    using OfferResult = PendingResult<std::shared_ptr<const OfferedTypes>>;
-    using BytesResult = PendingResult<std::shared_ptr<const GivenBytes>>;
+    using OfferResult = OneShot<std::shared_ptr<const OfferedTypes>>;
+    using BytesResult = OneShot<std::shared_ptr<const GivenBytes>>;
 
     DataControlEngine(std::unique_ptr<DataControl> control, PasteboardLimits limits, PasteboardNotices notices);
 
@@ -44,7 +44,7 @@ public:
     /// Learns what is on the clipboard already. Waits for the compositor; on any one thread, before the engine is used.
     void start();
     void claim(PasteboardClaim claim);
-    void catchUp(PendingResult<bool> result);
+    void catchUp(OneShot<bool> result);
     void disown(const std::shared_ptr<const OfferedContents>& contents);
     void readOffer(const OfferResult& result, Instant now) const;
     /// See `ForeignOffer::read`.
@@ -115,7 +115,7 @@ private:
     Instant m_takenAt;                                 ///< when the clipboard was last made ours
     Instant m_pasteOver;                               ///< until then a reading belongs to the paste before
     quint64 m_claimNumber = 0;
-    std::vector<PendingResult<bool>> m_catchUps; ///< answered in their order
+    std::vector<OneShot<bool>> m_catchUps; ///< answered in their order
 };
 
 } // namespace vellumry

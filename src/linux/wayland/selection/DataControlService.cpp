@@ -58,7 +58,7 @@ void DataControlService::claim(PasteboardClaim claim) {
     m_thread->post([claim = std::move(claim)](DataControlEngine& engine, auto) { engine.claim(claim); });
 }
 
-void DataControlService::catchUp(PendingResult<bool> result) {
+void DataControlService::catchUp(OneShot<bool> result) {
     m_thread->post([result](DataControlEngine& engine, auto) { engine.catchUp(result); });
 }
 

@@ -20,7 +20,7 @@ public:
     /// The list of types is part of every selection and is not asked for.
     [[nodiscard]] bool wasListed() const override { return wasServed(); }
     void claim(PasteboardClaim claim) override;
-    void catchUp(PendingResult<bool> result) override;
+    void catchUp(OneShot<bool> result) override;
     void disown(std::shared_ptr<const OfferedContents> contents) override;
     [[nodiscard]] QCoro::Task<std::shared_ptr<const ForeignOffer>> readOffer() override;
     /// Wayland has no request to keep a copy.

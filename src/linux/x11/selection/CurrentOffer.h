@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/OneShot.h"
 #include "linux/pasteboard/PasteboardLimits.h"
-#include "linux/pasteboard/PendingResult.h"
 #include "linux/x11/selection/SelectionOffer.h"
 #include "linux/x11/selection/SelectionReader.h"
 
@@ -18,7 +18,7 @@ namespace vellumry {
 class CurrentOffer {
 public:
     using Instant = SelectionReader::Instant;
-    using Result = PendingResult<std::shared_ptr<const SelectionOffer>>;
+    using Result = OneShot<std::shared_ptr<const SelectionOffer>>;
 
     struct Ownership {
         qint64 changeCount = 0;

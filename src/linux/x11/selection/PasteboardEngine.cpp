@@ -97,7 +97,7 @@ void PasteboardEngine::claim(Claim claim) {
     });
 }
 
-void PasteboardEngine::catchUp(PendingResult<bool> result) {
+void PasteboardEngine::catchUp(OneShot<bool> result) {
     if (m_ended) {
         result.deliver(false);
         return;
@@ -162,7 +162,7 @@ void PasteboardEngine::settle(qint64 count, bool wasKept) {
 
 void PasteboardEngine::read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target,
                             const QString& uniformType, qint64 maxBytes,
-                            PendingResult<std::shared_ptr<const GivenBytes>> result, Instant now) {
+                            OneShot<std::shared_ptr<const GivenBytes>> result, Instant now) {
     if (m_ended || offer->moment.changeCount != changeCount() || offer->moment.deadline <= now ||
         !offer->atoms.contains(target)) {
         result.deliver(nullptr);

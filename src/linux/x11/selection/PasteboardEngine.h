@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/OneShot.h"
 #include "linux/pasteboard/PasteboardLimits.h"
 #include "linux/pasteboard/PasteboardService.h"
-#include "linux/pasteboard/PendingResult.h"
 #include "linux/x11/selection/ClipboardManager.h"
 #include "linux/x11/selection/CurrentOffer.h"
 #include "linux/x11/selection/SelectionOffer.h"
@@ -47,7 +47,7 @@ public:
     void start();
     void claim(Claim claim);
     /// Delivers once all that the server has to tell of the time before the call was handled; false without a server.
-    void catchUp(PendingResult<bool> result);
+    void catchUp(OneShot<bool> result);
     /// Gives up the clipboard and the primary selection where they are still ours with `contents`. A program that takes
     /// them meanwhile keeps them.
     void disown(const std::shared_ptr<const OfferedContents>& contents);
@@ -59,7 +59,7 @@ public:
     /// With a `uniformType` the bytes are what that has for the target's, else as they came. What programs render only
     /// when they are asked for it is given more time than private types.
     void read(const std::shared_ptr<const SelectionOffer>& offer, const QString& target, const QString& uniformType,
-              qint64 maxBytes, PendingResult<std::shared_ptr<const GivenBytes>> result, Instant now);
+              qint64 maxBytes, OneShot<std::shared_ptr<const GivenBytes>> result, Instant now);
 
     void handleEvent(const xcb_generic_event_t& event, Instant now);
     void expire(Instant now);

@@ -22,7 +22,7 @@ public:
     }
     [[nodiscard]] QCoro::Task<std::shared_ptr<const GivenBytes>> read(QString target, QString uniformType,
                                                                       qint64 maxBytes) const override {
-        const PendingResult<std::shared_ptr<const GivenBytes>> result;
+        const OneShot<std::shared_ptr<const GivenBytes>> result;
         if (const std::shared_ptr<PasteboardThread> thread = m_thread.lock()) {
             thread->post([offer = m_offer, target, uniformType, maxBytes, result](PasteboardEngine& engine, auto now) {
                 engine.read(offer, target, uniformType, maxBytes, result, now);
@@ -57,7 +57,7 @@ void X11PasteboardService::claim(PasteboardClaim claim) {
     m_thread->post([claim = std::move(claim)](PasteboardEngine& engine, auto) { engine.claim(claim); });
 }
 
-void X11PasteboardService::catchUp(PendingResult<bool> result) {
+void X11PasteboardService::catchUp(OneShot<bool> result) {
     m_thread->post([result](PasteboardEngine& engine, auto) { engine.catchUp(result); });
 }
 
@@ -67,7 +67,7 @@ void X11PasteboardService::disown(std::shared_ptr<const OfferedContents> content
 
 QCoro::Task<std::shared_ptr<const ForeignOffer>> X11PasteboardService::readOffer() {
     const std::weak_ptr<PasteboardThread> thread = m_thread;
-    const PendingResult<std::shared_ptr<const SelectionOffer>> result;
+    const OneShot<std::shared_ptr<const SelectionOffer>> result;
     m_thread->post([result](PasteboardEngine& engine, auto now) { engine.readOffer(result, now); });
     const std::shared_ptr<const SelectionOffer> offer = co_await result;
     std::shared_ptr<const ForeignOffer> wrapped;

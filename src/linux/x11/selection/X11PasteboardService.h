@@ -19,7 +19,7 @@ public:
     [[nodiscard]] bool wasServed() const override { return m_thread->engine().wasServed(); }
     [[nodiscard]] bool wasListed() const override { return m_thread->engine().wasListed(); }
     void claim(PasteboardClaim claim) override;
-    void catchUp(PendingResult<bool> result) override;
+    void catchUp(OneShot<bool> result) override;
     void disown(std::shared_ptr<const OfferedContents> contents) override;
     [[nodiscard]] QCoro::Task<std::shared_ptr<const ForeignOffer>> readOffer() override;
     void settle(qint64 count, bool wasKept) override;
