@@ -1,9 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reader/LanguageData.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 namespace vellumry::languagedata {
+
+namespace {
+
+/// Where an AppImage has it: by the prefix that the program, or the reader in its own folder, stands in.
+QString ownFolder() {
+    const QString here = QCoreApplication::applicationDirPath();
+    const bool isReader = here.endsWith(QLatin1String("/libexec/vellumry"));
+    return QDir::cleanPath(here + QLatin1String(isReader ? "/../../share/tessdata" : "/../share/tessdata"));
+}
+
+} // namespace
 
 QStringList folders() {
     QStringList result;
@@ -11,7 +23,7 @@ QStringList folders() {
         result << chosen;
     return result << QStringLiteral("/usr/share/tesseract-ocr/5/tessdata")
                   << QStringLiteral("/usr/share/tesseract/tessdata") << QStringLiteral("/usr/share/tessdata")
-                  << QStringLiteral("/usr/local/share/tessdata");
+                  << QStringLiteral("/usr/local/share/tessdata") << ownFolder();
 }
 
 QStringList languagesIn(const QString& folder) {

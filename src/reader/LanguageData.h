@@ -6,7 +6,8 @@
 /// Where the language data of Tesseract lies. Looks at the disk; any thread.
 namespace vellumry::languagedata {
 
-/// Where the packages of the distributions put it, the user's choice ($TESSDATA_PREFIX) first.
+/// Where the packages of the distributions put it, the user's choice ($TESSDATA_PREFIX) first; last what is installed
+/// with the program, as in an AppImage: the system may have more languages. Needs a QCoreApplication.
 [[nodiscard]] QStringList folders();
 
 /// The languages whose data is in `folder`, as the library names them: "eng", "deu", …

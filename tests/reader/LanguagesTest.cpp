@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reader/Languages.h"
 
+#include "reader/LanguageData.h"
+
+#include <QCoreApplication>
+#include <QDir>
 #include <gtest/gtest.h>
 
 namespace vellumry {
@@ -29,6 +33,13 @@ TEST(Languages, TheUsersOwnComeFirstInTheirScriptAndTheirScriptBehindLatin) {
 TEST(Languages, WhatIsNoLanguageIsLeftOut) {
     const Scripts expected{{{"eng"}}, {{"jpn"}}};
     EXPECT_EQ(byScript(names({"osd", "equ", "snum", "eng", "jpn", "jpn_vert"}), {}), expected);
+}
+
+TEST(Languages, DataInstalledWithTheProgramIsLookedForBehindThatOfTheSystem) {
+    const QString own = QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/tessdata"));
+    const QStringList folders = languagedata::folders();
+    EXPECT_EQ(folders.last(), own);
+    EXPECT_LT(folders.indexOf(QStringLiteral("/usr/share/tessdata")), folders.size() - 1);
 }
 
 TEST(Languages, AnUnknownNameIsTakenForLatin) {

@@ -77,6 +77,14 @@ TEST(ReaderTextReader, ACrashCostsOnePicture) {
     EXPECT_EQ(awaited(reader.read("words", Mode::fast, usual, 60s)).text, QStringLiteral("words"));
 }
 
+TEST(ReaderTextReader, TheReaderFindsItsLibrariesWhereTheProgramFoundThem) {
+    qputenv("LD_LIBRARY_PATH", "/there/lib");
+    ReaderTextReader reader(QStringLiteral(VELLUMRY_FAKE_READER));
+    const QString text = awaited(reader.read("environment", Mode::fast, usual, 60s)).text;
+    qunsetenv("LD_LIBRARY_PATH");
+    EXPECT_TRUE(text.contains(QStringLiteral("LD_LIBRARY_PATH=/there/lib"))) << text.toStdString();
+}
+
 TEST(ReaderTextReader, TheReaderIsToldNoMoreOfTheEnvironmentThanItNeeds) {
     qputenv("VELLUMRY_TEST_TOKEN", "secret of the session");
     ReaderTextReader reader(fakeReader);

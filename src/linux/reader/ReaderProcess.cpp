@@ -40,10 +40,10 @@ Descriptor memoryFileOf(const QByteArray& picture) {
 }
 
 /// What a decoder may know of the user's environment, in which names of hosts, files and secrets stand: where programs
-/// are, the languages, and where the language data is. Sanitizers take their options from it.
+/// and libraries are, the languages, and where the language data is. Sanitizers take their options from it.
 bool isForReader(QByteArrayView variable) {
-    constexpr std::array<QByteArrayView, 8> names{
-        "PATH=", "LANG=", "LANGUAGE=", "LC_", "TZ=", "TESSDATA_PREFIX=", "ASAN_OPTIONS=", "UBSAN_OPTIONS="};
+    constexpr std::array<QByteArrayView, 9> names{"PATH=", "LD_LIBRARY_PATH=", "LANG=",         "LANGUAGE=",     "LC_",
+                                                  "TZ=",   "TESSDATA_PREFIX=", "ASAN_OPTIONS=", "UBSAN_OPTIONS="};
     return std::ranges::any_of(names, [variable](QByteArrayView name) { return variable.startsWith(name); });
 }
 
