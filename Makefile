@@ -6,7 +6,7 @@ DESTDIR ?=
 export CCACHE_NOHASHDIR = 1
 export CCACHE_BASEDIR = $(CURDIR)
 
-.PHONY: help run install uninstall package test test-trixie test-wayland sanitize torture bench gallery matrix lint build asan clean
+.PHONY: help run install uninstall package appimage test test-trixie test-appimage test-wayland sanitize torture bench gallery matrix lint build asan clean
 
 help: ## list the tasks
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:.*## /\t/' | expand -t 14
@@ -24,6 +24,14 @@ uninstall: ## remove what `make install` installed
 package: ## build the Debian package (build/release/package)
 	@scripts/install-deps --package
 	@scripts/package
+
+appimage: ## build the AppImage (build/release/appimage)
+	@scripts/install-deps --appimage
+	@scripts/appimage
+
+test-appimage: ## build AppImages, try one in a bare Debian 13 and update one to the next
+	@scripts/install-deps --test --appimage
+	@tests/appimage/run
 
 test-trixie: ## build and run the unit tests in a bare Debian 13
 	@scripts/install-deps --test
@@ -62,7 +70,7 @@ matrix: ## install large applications too, try them all, write what was seen int
 	@$(MAKE) --no-print-directory build
 	@scripts/matrix
 
-lint: ## formatting, clang-tidy, qmllint
+lint: ## formatting, clang-tidy, qmllint, texts, links of the documents
 	@scripts/install-deps --test
 	@scripts/lint
 

@@ -154,4 +154,5 @@ def a_program_that_is_no_appimage_has_no_updates():
         same(watcher.item().open().entry("Help").labels(), ["Vellumry Website", "Email Support", "Privacy Policy"], "the help")
 
 
-main(own_tests())
+if __name__ == "__main__":
+    main(own_tests())
