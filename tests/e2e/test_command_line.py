@@ -2,12 +2,13 @@
 """What the program says without its panel: the command line, the status, the log, and how it ends when it is told to."""
 
 import os
+import re
 import signal
 import subprocess
 import tempfile
 
 from clients import GtkEditor
-from desktop import (DATA, HISTORY, PROGRAM, Process, Vellumry, copy_bytes, copy_text, focus, key, main, open_panel, own_tests,
+from desktop import (DATA, HISTORY, PROGRAM, ROOT, Process, Vellumry, copy_bytes, copy_text, focus, key, main, open_panel, own_tests,
                      representation, run, same, text_of, type_text, wait_for_clip, wait_panel_closed, wait_until, window_of_class)
 
 CANARY = "canary7319"
@@ -36,6 +37,17 @@ def version_and_help_are_printed_without_a_display():
     same((done.returncode, done.stdout.startswith(b"Vellumry "), done.stderr), (0, True, b""), "--version")
     done = vellumry("--help", environment=bare)
     same((done.returncode, b"--status" in done.stdout, done.stderr), (0, True, b""), "--help")
+
+
+def the_manual_has_every_option_and_action():
+    told = " ".join(vellumry("--help").stdout.decode().split())
+    with open(os.path.join(ROOT, "packaging", "vellumry.1"), encoding="utf-8") as file:
+        manual = file.read()
+    options = re.findall(r" --([a-z]+)", told)
+    actions = re.split(r", | or ", re.search(r"Ask the running program for (.+?)\.", told).group(1))
+    same((len(options), len(actions)), (5, 8), "options and actions of the help")
+    same([option for option in options if f"Fl -{option}" not in manual], [], "options that the manual lacks")
+    same([action for action in actions if f".Cm {action}" not in manual], [], "actions that the manual lacks")
 
 
 def what_is_not_understood_ends_with_the_usage():
