@@ -26,7 +26,7 @@ static bool make_mount_point(char* folder) {
     return (wanted && make_folder(wanted, ".mount_Vellum", folder)) || make_folder("/tmp", ".mount_Vellum", folder);
 }
 
-/* A running copy holds a lock on its folder; what nobody locks was left behind by a power cut or a kill. */
+/* A running copy holds a lock on its folder; one without was left behind by a power cut or a kill. */
 static void remove_leftovers(const char* parent) {
     DIR* entries = opendir(parent);
     if (!entries)

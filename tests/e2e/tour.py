@@ -50,6 +50,9 @@ def main():
             type_text("Pasted here: ")
             open_panel()
             wait_until(lambda: accessible("vellumry", "list item", "^The quick"), "the rows")
+            for _ in range(3):
+                key("Down")
+            wait_until(lambda: accessible("vellumry", "label", "the roof is going"), "the letter in the preview")
             picture("2-panel")
             type_text("ro")
             wait_until(lambda: accessible("vellumry", "list item", "^Dear"), "the row that matches inside")
