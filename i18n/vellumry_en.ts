@@ -101,10 +101,6 @@
         <translation>To paste files from %1, give Vellumry permission to read that folder</translation>
     </message>
     <message>
-        <source>, allow Vellumry in Privacy &amp; Security → Files and Folders</source>
-        <translation>, give Vellumry permission to read that folder</translation>
-    </message>
-    <message>
         <source>Paste Stack couldn't start. Turn Vellumry on in Privacy &amp; Security → Accessibility</source>
         <translation>Paste Stack couldn't start. Another program keeps Ctrl+V to itself</translation>
     </message>
@@ -137,24 +133,12 @@
         <translation>Nothing pinned at Super+Alt+%1 yet. Pin a clip with Ctrl+P</translation>
     </message>
     <message>
-        <source>Nothing pinned at ⌃⌥</source>
-        <translation>Nothing pinned at Super+Alt+</translation>
-    </message>
-    <message>
-        <source> yet. Pin a clip with ⌘P</source>
-        <translation> yet. Pin a clip with Ctrl+P</translation>
-    </message>
-    <message>
         <source>Press %1 anytime to open Vellumry.</source>
         <translation>Press %1 anytime to open Vellumry.</translation>
     </message>
     <message>
         <source>↩</source>
         <translation>Enter</translation>
-    </message>
-    <message>
-        <source>⌅</source>
-        <translation>Keypad Enter</translation>
     </message>
     <message>
         <source>⇥</source>
@@ -209,10 +193,6 @@
         <translation>Ctrl+C</translation>
     </message>
     <message>
-        <source>⌘V</source>
-        <translation>Ctrl+V</translation>
-    </message>
-    <message>
         <source>Paste Stack: copy several things, every ⌘V pastes the next (⌃⌘S)</source>
         <translation>Paste Stack: copy several things, every Ctrl+V pastes the next (Super+Ctrl+S)</translation>
     </message>
@@ -235,10 +215,6 @@
     <message>
         <source>Unpin (⌘P)</source>
         <translation>Unpin (Ctrl+P)</translation>
-    </message>
-    <message>
-        <source>Pin all (⌘P)</source>
-        <translation>Pin all (Ctrl+P)</translation>
     </message>
     <message>
         <source>Unpin all (⌘P)</source>
@@ -269,14 +245,6 @@
         <translation>Vellumry can't reach your keyring</translation>
     </message>
     <message>
-        <source>Your clipboard history will only be kept until you quit Vellumry. Restarting your Mac usually fixes this.</source>
-        <translation>Your clipboard history will only be kept until you quit Vellumry. Logging in again usually fixes this.</translation>
-    </message>
-    <message>
-        <source>Your previous history couldn't be read on this Mac, so it was kept as a backup in Vellumry's folder and a new one was started.</source>
-        <translation>Your previous history couldn't be read on this computer, so it was kept as a backup in Vellumry's folder and a new one was started.</translation>
-    </message>
-    <message>
         <source>Screenshots you save with ⌘⇧3 or ⌘⇧4 are added to Vellumry too, and their text becomes searchable.</source>
         <translation>Screenshots you save are added to Vellumry too, and their text becomes searchable.</translation>
     </message>
@@ -303,10 +271,6 @@
     <message>
         <source>Paste pinned clips with ⌃⌥1 … ⌃⌥9</source>
         <translation>Paste pinned clips with Super+Alt+1 … Super+Alt+9</translation>
-    </message>
-    <message>
-        <source>⌘P  ⌘⌫  ⌘C</source>
-        <translation>Ctrl+P  Ctrl+Del  Ctrl+C</translation>
     </message>
     <message>
         <source>Vellumry updates itself while you're away from your Mac. Off = it asks first.</source>
@@ -498,6 +462,31 @@
     <message>
         <source>macOS keeps %1 closed. Allow it in Files and Folders.</source>
         <translation>%1 is closed to Vellumry. Give yourself permission to read that folder.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n pasted</source>
+        <translation>
+            <numerusform>All %n pasted</numerusform>
+            <numerusform>All %n pasted</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Merged %n clips into one</source>
+        <translation>
+            <numerusform>Merged %n clip into one</numerusform>
+            <numerusform>Merged %n clips into one</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pinned clip</source>
+        <translation>Pinned</translation>
     </message>
 </context>
 </TS>

@@ -49,7 +49,7 @@ QString screenshotTitle(Date date) {
 QString filesTitle(const std::vector<FileRef>& files) {
     if (files.size() == 1)
         return files.front().name;
-    return localised("%1 and %2 more").arg(files.front().name, QString::number(files.size() - 1));
+    return localised("%1 and %n more", int(files.size() - 1)).arg(files.front().name);
 }
 
 } // namespace vellumry

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/FilterListModel.h"
 
+#include "foundation/InterfaceLocale.h"
 #include "foundation/Localisation.h"
 #include "panel/PanelModel.h"
-#include "views/Language.h"
 
 #include <utility>
 

@@ -253,7 +253,7 @@ QString PanelListModel::descriptionOf(const Clip& clip) const {
     const QString number = digitOf(m_rowNumbers, clip);
     QStringList parts{row::sourceOf(clip), imageMatchOf(clip), pillOf(clip)};
     if (clip.isPinned)
-        parts.append(localised("Pinned"));
+        parts.append(localised("Pinned clip"));
     parts.append(hintOf(clip));
     if (!number.isEmpty())
         parts.append(localised("⌘") + number);

@@ -237,7 +237,7 @@ QCoro::Task<void> PanelModel::runMerge(std::vector<ClipRef> clips, MergeAction a
     select(merged->id);
     switch (action) {
     case MergeAction::stay:
-        onToast({QStringLiteral("square.stack.fill"), localised("Merged %1 clips into one").arg(count),
+        onToast({QStringLiteral("square.stack.fill"), localised("Merged %n clips into one", int(count)),
                  ToastMessage::Tone::success});
         break;
     case MergeAction::paste:

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "foundation/Date.h"
-#include "views/Language.h"
+#include "foundation/InterfaceLocale.h"
 
 #include <QDate>
 #include <QLocale>

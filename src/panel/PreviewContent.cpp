@@ -2,11 +2,11 @@
 #include "panel/PreviewContent.h"
 
 #include "foundation/FileUrl.h"
+#include "foundation/InterfaceLocale.h"
 #include "foundation/Localisation.h"
 #include "foundation/Text.h"
 #include "panel/PreviewButtons.h"
 #include "panel/RowAppearance.h"
-#include "views/Language.h"
 
 #include <QColor>
 #include <QDir>
@@ -31,7 +31,7 @@ QString detailsOf(const Clip& clip, std::optional<qsizetype> characters) {
     if (characters)
         parts.append(localised("%n characters", int(std::min<qsizetype>(*characters, INT_MAX))));
     if (clip.isPinned)
-        parts.append(localised("Pinned"));
+        parts.append(localised("Pinned clip"));
     return parts.join(QStringLiteral(" · "));
 }
 
@@ -240,8 +240,11 @@ PreviewContent previewContent(const PreviewSources& sources) {
 
 QString countdownText(double secondsLeft) {
     const auto seconds = qint64(std::ceil(std::max(0.0, secondsLeft)));
-    const QString left = seconds < 60 ? localised("%1 s").arg(seconds)
-                                      : QStringLiteral("%1:%2").arg(seconds / 60).arg(seconds % 60, 2, 10, QChar(u'0'));
+    const QLocale locale = interfaceLocale();
+    const QString rest = locale.toString(seconds % 60);
+    const QString left =
+        seconds < 60 ? localised("%1 s").arg(rest)
+                     : locale.toString(seconds / 60) + u':' + (seconds % 60 < 10 ? locale.zeroDigit() + rest : rest);
     return localised("Hidden. Deletes itself in %1").arg(left);
 }
 

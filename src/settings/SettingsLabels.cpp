@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/SettingsLabels.h"
 
+#include "foundation/InterfaceLocale.h"
 #include "foundation/Localisation.h"
 
 #include <algorithm>
@@ -46,8 +47,8 @@ QString clips(qint64 count) {
 
 QString megabytes(qint64 count) {
     if (count % 1024 == 0)
-        return localised("%1 GB").arg(count / 1024);
-    return localised("%1 MB").arg(count);
+        return localised("%1 GB").arg(interfaceLocale().toString(count / 1024));
+    return localised("%1 MB").arg(interfaceLocale().toString(count));
 }
 
 QString lifetime(qint64 seconds) {
@@ -59,7 +60,7 @@ QString lifetime(qint64 seconds) {
 }
 
 QString recent(qint64 count) {
-    return count == 0 ? localised("None") : QString::number(count);
+    return count == 0 ? localised("None") : interfaceLocale().toString(count);
 }
 
 QString lastChecked(double secondsAgo) {

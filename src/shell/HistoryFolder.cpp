@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/HistoryFolder.h"
 
+#include "foundation/InterfaceLocale.h"
 #include "foundation/Localisation.h"
 
 #include <QDir>
@@ -38,7 +39,7 @@ QString fileSizeText(qint64 bytes) {
     if (bytes == 1)
         return localised("1 byte");
     if (bytes < 1000)
-        return localised("%1 bytes").arg(QLocale().toString(bytes));
+        return localised("%1 bytes").arg(interfaceLocale().toString(bytes));
     const std::array units{localised("%1 KB"), localised("%1 MB"), localised("%1 GB"), localised("%1 TB")};
     constexpr std::array<double, units.size()> steps{1, 10, 100, 100}; // in which each unit is rounded
     double amount = static_cast<double>(bytes) / 1000;
@@ -49,7 +50,7 @@ QString fileSizeText(qint64 bytes) {
         ++unit;
     }
     const double rounded = std::round(amount * steps[unit]) / steps[unit];
-    return units[unit].arg(QLocale().toString(rounded, 'f', QLocale::FloatingPointShortest));
+    return units[unit].arg(interfaceLocale().toString(rounded, 'f', QLocale::FloatingPointShortest));
 }
 
 qint64 historyBytes(const QString& folder) {

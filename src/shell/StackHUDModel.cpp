@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/StackHUDModel.h"
 
+#include "foundation/InterfaceLocale.h"
 #include "foundation/Localisation.h"
 #include "paste/PasteStack.h"
-#include "views/Language.h"
 
 namespace vellumry {
 
@@ -36,7 +36,7 @@ QString StackHUDModel::said(const QString& number) const {
         return localised("Copy what you need, then ⌘V");
     if (m_stack->pastedCount() == 1)
         return localised("Pasted");
-    return localised("All %1 pasted").arg(interfaceLocale().toString(m_stack->pastedCount()));
+    return localised("All %n pasted", m_stack->pastedCount());
 }
 
 QString StackHUDModel::orderHelp() const {

@@ -2,11 +2,11 @@
 #include "shell/StatusItemController.h"
 
 #include "capture/ClipboardWatcher.h"
+#include "foundation/InterfaceLocale.h"
 #include "foundation/Localisation.h"
 #include "paste/PasteEngine.h"
 #include "paste/PasteStack.h"
 #include "platform/display/PasteTarget.h"
-#include "views/Language.h"
 
 #include <QPointer>
 #include <QUrl>

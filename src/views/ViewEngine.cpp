@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/ViewEngine.h"
 
-#include "views/Language.h"
+#include "foundation/InterfaceLocale.h"
 #include "views/QmlModules.h"
 #include "views/SymbolProvider.h"
 

@@ -57,7 +57,7 @@ TEST(PreviewContent, OfATextSaysWhereItCameFromAndHowLongItIs) {
     const auto content = preview({clip});
     EXPECT_EQ(content.body, Body::text);
     EXPECT_EQ(content.text, QString::fromUtf8("grün"));
-    EXPECT_EQ(content.details, QString::fromUtf8("Copied from Writer · 4 characters · Pinned"));
+    EXPECT_EQ(content.details, QString::fromUtf8("Copied from Writer · 4 characters · Pinned clip"));
 }
 
 TEST(PreviewContent, OfAnUnknownSourceSaysSo) {

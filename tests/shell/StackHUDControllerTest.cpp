@@ -64,7 +64,7 @@ TEST_F(StackHUDControllerTest, SaysThatAllIsPasted) {
     stack.start({item("one"), item("two"), item("three")});
     while (stack.pasteNext()) {
     }
-    EXPECT_EQ(texts(), QStringList{localised("All %1 pasted").arg(3)});
+    EXPECT_EQ(texts(), QStringList{localised("All %n pasted", 3)});
 }
 
 TEST_F(StackHUDControllerTest, StandsInTheMiddleOfTheTopAndFollowsItsContents) {

@@ -124,7 +124,7 @@ std::variant<ClipDraft, Failure> fileMerge(const std::vector<ClipRef>& clips, co
         return Failure::notEnoughClips;
     draft.title = draft.files.front().name;
     if (draft.files.size() > 1)
-        draft.title = localised("%1 and %2 more").arg(draft.title, QString::number(draft.files.size() - 1));
+        draft.title = localised("%1 and %n more", int(draft.files.size() - 1)).arg(draft.title);
     QStringList lines;
     for (const FileRef& file : draft.files)
         lines << file.name + u' ' + file.path;
