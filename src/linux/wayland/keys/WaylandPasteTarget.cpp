@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/wayland/keys/WaylandPasteTarget.h"
 
-#include "foundation/OneShot.h"
+#include "linux/keys/FocusReturn.h"
 #include "linux/keys/TerminalApps.h"
 
-#include <QCoreApplication>
-#include <QPointer>
 #include <linux/input-event-codes.h>
 
 #include <xkbcommon/xkbcommon-names.h>
@@ -35,28 +33,8 @@ QCoro::Task<bool> WaylandPasteTarget::isSecureInput() {
 }
 
 QCoro::Task<bool> WaylandPasteTarget::regainFocus() {
-    const QPointer<WaylandPasteTarget> guard(this);
-    const std::shared_ptr<WaylandFocus> focus = m_focus;
-    const auto deadline = std::chrono::steady_clock::now() + m_options.focusDeadline;
     settleQt();
-    while (guard != nullptr) {
-        const WaylandFocus::Standing standing = focus->standing();
-        if (standing != WaylandFocus::Standing::away)
-            co_return standing == WaylandFocus::Standing::returned;
-        const auto left =
-            std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
-        if (left.count() <= 0)
-            co_return false;
-        const OneShot<void> moved;
-        moved.deliverAfter(left);
-        // Queued: the wait does not end amid the focus's own doings.
-        const auto watching = QObject::connect(
-            focus.get(), &WaylandFocus::moved, QCoreApplication::instance(), [moved] { moved.deliver(); },
-            Qt::QueuedConnection);
-        co_await moved;
-        QObject::disconnect(watching);
-    }
-    co_return false;
+    return focusReturned(m_focus, QPointer<QObject>(this), m_options.focusDeadline);
 }
 
 void WaylandPasteTarget::pressPaste() {

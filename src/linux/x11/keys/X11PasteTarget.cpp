@@ -2,6 +2,7 @@
 #include "linux/x11/keys/X11PasteTarget.h"
 
 #include "foundation/OneShot.h"
+#include "linux/keys/FocusReturn.h"
 #include "linux/keys/TerminalApps.h"
 #include "linux/x11/keys/X11Keymap.h"
 #include "linux/x11/windows/XErrorTrap.h"
@@ -56,27 +57,7 @@ bool X11PasteTarget::isKeyboardTaken() const {
 }
 
 QCoro::Task<bool> X11PasteTarget::regainFocus() {
-    const QPointer<X11PasteTarget> guard(this);
-    const std::shared_ptr<X11Focus> focus = m_focus;
-    const auto deadline = std::chrono::steady_clock::now() + m_options.focusDeadline;
-    while (guard != nullptr) {
-        const X11Focus::Standing standing = focus->standing();
-        if (standing != X11Focus::Standing::away)
-            co_return standing == X11Focus::Standing::returned;
-        const auto left =
-            std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
-        if (left.count() <= 0)
-            co_return false;
-        const OneShot<void> moved;
-        moved.deliverAfter(left);
-        // Queued: the wait does not end amid the focus's own doings.
-        const auto watching = QObject::connect(
-            focus.get(), &X11Focus::moved, QCoreApplication::instance(), [moved] { moved.deliver(); },
-            Qt::QueuedConnection);
-        co_await moved;
-        QObject::disconnect(watching);
-    }
-    co_return false;
+    return focusReturned(m_focus, QPointer<QObject>(this), m_options.focusDeadline);
 }
 
 QCoro::Task<void> X11PasteTarget::keyboardFree() {
