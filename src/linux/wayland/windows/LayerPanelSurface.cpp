@@ -51,6 +51,7 @@ void LayerPanelSurface::adopt(QWindow* window) {
     // Docks and bars do not push it aside: its place was chosen with them in mind.
     layer->setExclusiveZone(-1);
     layer->setCloseOnDismissed(false);
+    m_earlyKeys.follow(window);
     connect(window, &QWindow::xChanged, this, [this, window] { follow(window); });
     connect(window, &QWindow::yChanged, this, [this, window] { follow(window); });
 }
@@ -69,6 +70,7 @@ void LayerPanelSurface::present(QWindow* window, std::optional<QRect> frame) {
 void LayerPanelSurface::dismiss(QWindow* window) {
     if (window == m_presented) {
         m_presented = nullptr;
+        m_earlyKeys.forget();
         m_focus->giveBack();
     }
     window->hide();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "linux/wayland/windows/EarlyKeys.h"
 #include "linux/wayland/windows/WaylandFocus.h"
 #include "platform/display/PanelSurface.h"
 
@@ -43,6 +44,7 @@ private:
     std::shared_ptr<WaylandFocus> m_focus;
     QPointer<QWindow> m_presented; ///< the panel that has or wants the keyboard
     bool m_hadKeyboard = false;
+    EarlyKeys m_earlyKeys;
 };
 
 } // namespace vellumry
