@@ -11,6 +11,7 @@
 #include "linux/wayland/keys/WaylandPasteKeys.h"
 #include "linux/wayland/keys/WaylandPasteTarget.h"
 #include "linux/wayland/selection/WaylandPasteboard.h"
+#include "linux/wayland/windows/CopiedWindow.h"
 #include "linux/wayland/windows/LayerPanelSurface.h"
 #include "linux/wayland/windows/WaylandFrontmostApplication.h"
 #include "settings/Preferences.h"
@@ -67,6 +68,7 @@ std::optional<Reason> add(Platform& platform) {
     };
     platform.pasteKeys = std::make_unique<WaylandPasteKeys>(pasteboard->thread());
     platform.pasteboard = std::move(pasteboard);
+    pasteboard->setOwnerWatch(std::make_shared<CopiedWindow>(windows));
     const auto entries = std::make_shared<DesktopEntries>();
     platform.frontmost = std::make_unique<WaylandFrontmostApplication>(windows, entries);
     platform.applications = std::make_unique<XdgInstalledApplications>(entries, iconFoldersOfSession());

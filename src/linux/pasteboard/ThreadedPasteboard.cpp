@@ -177,15 +177,22 @@ void ThreadedPasteboard::announceChange() {
     if (m_ownChangeCount != changeCount())
         m_ownContents.reset();
     dropOldSecret();
+    if (const qint64 copies = copyCount(); std::exchange(m_copiesNoted, copies) != copies && m_ownerWatch)
+        m_ownerWatch->noteCopy();
     if (onChanged)
         onChanged();
 }
 
-void ThreadedPasteboard::announceOwnerGone(qint64 held, qint64 since) {
+QCoro::Task<void> ThreadedPasteboard::announceOwnerGone(qint64 held, qint64 since) {
+    const std::shared_ptr<Link> link = m_link;
+    if (const std::shared_ptr<OwnerWatch> watch = m_ownerWatch) {
+        auto asking = watch->hasEnded();
+        const bool hasEnded = co_await asking;
+        if (!hasEnded)
+            co_return;
+    }
     // Another program took the pasteboard while the notice was on its way.
-    if (since != changeCount())
-        return;
-    if (onOwnerGone)
+    if (link->pasteboard != nullptr && since == changeCount() && onOwnerGone)
         onOwnerGone(held);
 }
 

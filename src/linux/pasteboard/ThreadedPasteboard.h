@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "linux/pasteboard/OwnerWatch.h"
 #include "linux/pasteboard/PasteboardLimits.h"
 #include "linux/pasteboard/PasteboardService.h"
 #include "platform/display/Pasteboard.h"
@@ -40,6 +41,9 @@ public:
     [[nodiscard]] bool wasServed() const;
     /// The same for anything of it, be it the list of types. Any thread.
     [[nodiscard]] bool wasListed() const;
+    /// Asked before `onOwnerGone` is called, where the display server's word is not enough. Once, before the first
+    /// copy.
+    void setOwnerWatch(std::shared_ptr<OwnerWatch> watch) { m_ownerWatch = std::move(watch); }
 
 protected:
     explicit ThreadedPasteboard(const PasteboardLimits& limits);
@@ -54,7 +58,7 @@ private:
     [[nodiscard]] bool own(PasteboardClaim claim);
     void announceChange();
     void dropOldSecret();
-    void announceOwnerGone(qint64 held, qint64 since);
+    QCoro::Task<void> announceOwnerGone(qint64 held, qint64 since);
 
     const PasteboardLimits m_limits;
     std::shared_ptr<Link> m_link; ///< how the service's notices find back to us
@@ -65,6 +69,8 @@ private:
     /// What is on the primary selection, as long as the service serves it there, and when it was written.
     std::weak_ptr<const OfferedContents> m_primaryContents;
     qint64 m_primaryChangeCount = 0;
+    std::shared_ptr<OwnerWatch> m_ownerWatch; ///< null where the service's word is enough
+    qint64 m_copiesNoted = 0;
 };
 
 } // namespace vellumry
