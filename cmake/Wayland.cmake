@@ -25,6 +25,7 @@ if(NOT LayerShellQt_FOUND)
   list(APPEND VELLUMRY_WAYLAND_LACKS "LayerShellQt for Qt 6")
 endif()
 vellumry_find_protocol(EXT_DATA_CONTROL_XML ext-data-control ${WAYLAND_PROTOCOLS}/staging/ext-data-control/ext-data-control-v1.xml)
+vellumry_find_protocol(EXT_IDLE_NOTIFY_XML ext-idle-notify ${WAYLAND_PROTOCOLS}/staging/ext-idle-notify/ext-idle-notify-v1.xml)
 # No other package of Debian's holds these two.
 set(crates /usr/share/cargo/registry)
 vellumry_find_protocol(FOREIGN_TOPLEVEL_XML wlr-foreign-toplevel-management

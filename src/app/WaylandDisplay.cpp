@@ -14,6 +14,7 @@
 #include "linux/wayland/windows/CopiedWindow.h"
 #include "linux/wayland/windows/LayerPanelSurface.h"
 #include "linux/wayland/windows/WaylandFrontmostApplication.h"
+#include "linux/wayland/windows/WaylandIdleTime.h"
 #include "settings/Preferences.h"
 #include "shell/Platform.h"
 
@@ -76,6 +77,7 @@ std::optional<Reason> add(Platform& platform) {
     platform.keyboard = std::make_unique<WaylandKeyboardLayout>(keymap);
     platform.pasteTarget = std::make_unique<WaylandPasteTarget>(focus, keymap, KeyInjector::create(connection, keymap),
                                                                 std::move(options));
+    platform.idleSeconds = [idle = std::make_shared<WaylandIdleTime>(connection)] { return idle->seconds(); };
     platform.panelSurface = std::make_unique<LayerPanelSurface>(focus);
     return std::nullopt;
 }
