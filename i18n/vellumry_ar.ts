@@ -629,6 +629,14 @@
         <translation>لمدة خمس دقائق</translation>
     </message>
     <message>
+        <source>For the shortcut, add this to %1</source>
+        <translation>للاختصار، أضف هذا إلى ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>For the shortcut, bind these in your desktop's settings</source>
+        <translation>للاختصار، اربط هذه الأوامر في إعدادات سطح المكتب</translation>
+    </message>
+    <message>
         <source>Forever</source>
         <translation>إلى الأبد</translation>
     </message>

@@ -553,6 +553,14 @@
         <translation>Für 5 Minuten</translation>
     </message>
     <message>
+        <source>For the shortcut, add this to %1</source>
+        <translation>Fügen Sie für das Tastenkürzel dies in %1 ein</translation>
+    </message>
+    <message>
+        <source>For the shortcut, bind these in your desktop's settings</source>
+        <translation>Belegen Sie für das Tastenkürzel dies in den Einstellungen Ihres Desktops</translation>
+    </message>
+    <message>
         <source>Forever</source>
         <translation>Für immer</translation>
     </message>

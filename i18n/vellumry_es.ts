@@ -553,6 +553,14 @@
         <translation>Durante 5 minutos</translation>
     </message>
     <message>
+        <source>For the shortcut, add this to %1</source>
+        <translation>Para el atajo, añada esto a %1</translation>
+    </message>
+    <message>
+        <source>For the shortcut, bind these in your desktop's settings</source>
+        <translation>Para el atajo, asigne esto en los ajustes de su escritorio</translation>
+    </message>
+    <message>
         <source>Forever</source>
         <translation>Siempre</translation>
     </message>

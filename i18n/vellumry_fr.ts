@@ -553,6 +553,14 @@
         <translation>Pendant 5 minutes</translation>
     </message>
     <message>
+        <source>For the shortcut, add this to %1</source>
+        <translation>Pour le raccourci, ajoutez ceci à %1</translation>
+    </message>
+    <message>
+        <source>For the shortcut, bind these in your desktop's settings</source>
+        <translation>Pour le raccourci, associez ceci dans les paramètres de votre bureau</translation>
+    </message>
+    <message>
         <source>Forever</source>
         <translation>Pour toujours</translation>
     </message>

@@ -534,6 +534,14 @@
         <translation>5 分間</translation>
     </message>
     <message>
+        <source>For the shortcut, add this to %1</source>
+        <translation>ショートカットを使うには、これを %1 に加えてください</translation>
+    </message>
+    <message>
+        <source>For the shortcut, bind these in your desktop's settings</source>
+        <translation>ショートカットを使うには、デスクトップの設定でこれらを割り当ててください</translation>
+    </message>
+    <message>
         <source>Forever</source>
         <translation>無期限</translation>
     </message>

@@ -553,6 +553,14 @@
         <translation>Por 5 minutos</translation>
     </message>
     <message>
+        <source>For the shortcut, add this to %1</source>
+        <translation>Para o atalho, acrescente isto a %1</translation>
+    </message>
+    <message>
+        <source>For the shortcut, bind these in your desktop's settings</source>
+        <translation>Para o atalho, associe isto nas configurações do seu ambiente de trabalho</translation>
+    </message>
+    <message>
         <source>Forever</source>
         <translation>Para sempre</translation>
     </message>

@@ -534,6 +534,14 @@
         <translation>5 分钟</translation>
     </message>
     <message>
+        <source>For the shortcut, add this to %1</source>
+        <translation>要使用快捷键，请将这些内容加入 %1</translation>
+    </message>
+    <message>
+        <source>For the shortcut, bind these in your desktop's settings</source>
+        <translation>要使用快捷键，请在桌面设置中绑定这些命令</translation>
+    </message>
+    <message>
         <source>Forever</source>
         <translation>永久</translation>
     </message>

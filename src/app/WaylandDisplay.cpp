@@ -26,7 +26,7 @@ std::unique_ptr<HotKeyRegistrar> hotKeys(const std::shared_ptr<WaylandKeymap>& k
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (isPlasma && GlobalAccelHotKeys::isThere(bus))
         return std::make_unique<GlobalAccelHotKeys>(bus, keymap);
-    return std::make_unique<BoundElsewhere>();
+    return std::make_unique<BoundElsewhere>(ownBindingsOfSession());
 }
 
 } // namespace
@@ -68,8 +68,8 @@ std::optional<Reason> add(Platform& platform) {
         return password->isIn(process);
     };
     platform.pasteKeys = std::make_unique<WaylandPasteKeys>(pasteboard->thread());
-    platform.pasteboard = std::move(pasteboard);
     pasteboard->setOwnerWatch(std::make_shared<CopiedWindow>(windows));
+    platform.pasteboard = std::move(pasteboard);
     const auto entries = std::make_shared<DesktopEntries>();
     platform.frontmost = std::make_unique<WaylandFrontmostApplication>(windows, entries);
     platform.applications = std::make_unique<XdgInstalledApplications>(entries, iconFoldersOfSession());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "capture/FileAccess.h"
+#include "platform/display/HotKeyRegistrar.h"
 
 #include <QCoroTask>
 #include <QObject>
@@ -32,6 +33,8 @@ class OnboardingModel : public QObject {
     Q_PROPERTY(QString shortcutOffer READ shortcutOffer NOTIFY changed)
     Q_PROPERTY(bool isKeyringClosed READ isKeyringClosed NOTIFY changed)
     Q_PROPERTY(bool isWaylandSession READ isWaylandSession CONSTANT)
+    Q_PROPERTY(QString bindingsFile READ bindingsFile CONSTANT)
+    Q_PROPERTY(QString bindings READ bindings CONSTANT)
     Q_PROPERTY(QString sample READ sample CONSTANT)
 
 public:
@@ -56,6 +59,8 @@ public:
         /// The last step is over, with the user's choice.
         std::function<void(bool launchAtLogin)> finish = [](bool) {};
         bool isWaylandSession = false;
+        /// Where no program can hold keys.
+        OwnBindings ownBindings;
     };
 
     explicit OnboardingModel(Hooks hooks);
@@ -79,6 +84,10 @@ public:
     [[nodiscard]] QString shortcutOffer() const { return m_hooks.shortcutOffer(); }
     [[nodiscard]] bool isKeyringClosed() const { return m_isKeyringClosed; }
     [[nodiscard]] bool isWaylandSession() const { return m_hooks.isWaylandSession; }
+    /// The file that `bindings` go into; empty where the desktop has a window for them.
+    [[nodiscard]] const QString& bindingsFile() const { return m_hooks.ownBindings.file; }
+    /// The lines by which the user binds the program's keys; empty where the program holds them itself.
+    [[nodiscard]] QString bindings() const { return m_hooks.ownBindings.lines.join(u'\n'); }
     /// What is copied and pasted for a try.
     [[nodiscard]] static QString sample();
 
@@ -93,6 +102,7 @@ public:
     Q_INVOKABLE void advance();
     Q_INVOKABLE void requestTrust();
     Q_INVOKABLE void copySample();
+    Q_INVOKABLE void copyBindings() { m_hooks.copy(bindings()); }
     Q_INVOKABLE void openPanel() { m_hooks.openPanel(); }
     Q_INVOKABLE void takeOfferedShortcut();
     Q_INVOKABLE void unlockKeyring() { m_hooks.unlockKeyring(); }

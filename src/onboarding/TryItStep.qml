@@ -82,6 +82,18 @@ FocusScope {
                 }
             }
             FormRow {
+                visible: step.onboarding.bindings !== ""
+                title: step.onboarding.bindingsFile !== "" ? Views.words("For the shortcut, add this to %1").arg(step.onboarding.bindingsFile)
+                                                           : Views.words("For the shortcut, bind these in your desktop's settings")
+                help: step.onboarding.bindings
+
+                PushButton {
+                    text: Views.words("Copy")
+                    help: step.onboarding.bindings
+                    onPressed: step.onboarding.copyBindings()
+                }
+            }
+            FormRow {
                 visible: step.onboarding.shortcutProblem !== ""
                 warning: step.onboarding.shortcutProblem
                 symbol: "exclamationmark.triangle.fill"

@@ -27,6 +27,7 @@ void AppEnvironment::makeOnboarding() {
             (void)setLaunchAtLogin(launchAtLogin);
         m_onboarding->close();
     };
+    hooks.ownBindings = m_platform->hotKeys->ownBindings();
     hooks.isWaylandSession = m_platform->isWaylandSession;
     m_onboardingModel = std::make_unique<OnboardingModel>(std::move(hooks));
     m_onboarding = std::make_unique<OnboardingWindowController>(*m_onboardingModel, m_views);

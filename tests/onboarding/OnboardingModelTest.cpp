@@ -76,6 +76,16 @@ TEST_F(OnboardingModelTest, TheThreeStagesStandAloneAndBeginAnew) {
     EXPECT_EQ(model.typedText(), QString());
 }
 
+TEST_F(OnboardingModelTest, TheLinesForTheUsersOwnKeysAreCopiedAsTheyStand) {
+    OnboardingModel::Hooks asked = hooks();
+    asked.ownBindings = {QStringLiteral("~/.config/wm"), {QStringLiteral("bind v"), QStringLiteral("bind s")}};
+    OnboardingModel model(asked);
+    EXPECT_EQ(model.bindingsFile(), QStringLiteral("~/.config/wm"));
+    model.copyBindings();
+    EXPECT_EQ(copies, QStringList{QStringLiteral("bind v\nbind s")});
+    EXPECT_FALSE(model.copied()) << "that is told of the sample alone";
+}
+
 TEST_F(OnboardingModelTest, AFolderThatIsClosedIsNamedAndHoldsNothingUp) {
     OnboardingModel::Hooks withFolder = hooks();
     withFolder.askFileAccess = []() -> QCoro::Task<FileAccess::Result> {

@@ -166,6 +166,22 @@ TEST_F(OnboardingWindowTest, ClosingItIsToldAndTheEndOfTheProgramIsNot) {
     EXPECT_EQ(closings, 1);
 }
 
+TEST_F(OnboardingWindowTest, WhereNoProgramCanHoldKeysTheLinesThatBindThemAreThereToCopy) {
+    model.advance();
+    model.advance();
+    EXPECT_FALSE(texts().join(u' ').contains(QStringLiteral("For the shortcut")));
+    OnboardingModel::Hooks asked = hooks();
+    asked.ownBindings = {QStringLiteral("~/.config/wm"), {QStringLiteral("bind v"), QStringLiteral("bind s")}};
+    OnboardingModel bound(asked);
+    OnboardingWindowController window(bound, views);
+    window.show();
+    bound.advance();
+    bound.advance();
+    const QStringList shown = shownTexts(window.window()->rootObject());
+    EXPECT_TRUE(shown.contains(QStringLiteral("For the shortcut, add this to ~/.config/wm")));
+    EXPECT_TRUE(shown.contains(QStringLiteral("bind v\nbind s")));
+}
+
 TEST_F(OnboardingWindowTest, EveryControlHasANameForScreenReaders) {
     for (int step = 0; step < 4; ++step) {
         EXPECT_EQ(namelessControls(controller.window()->rootObject()), QStringList()) << step;

@@ -32,19 +32,28 @@ QStringList globalsOf(wl_display* display) {
 
 } // namespace
 
-QString bindingFor(const QString& action, const QString& key) {
-    const QString command = QStringLiteral("vellumry --action ") + action;
+OwnBindings ownBindingsOfSession() {
     const QString desktop = desktopName();
-    if (desktop == u"sway")
-        return QStringLiteral("~/.config/sway/config: bindsym Ctrl+Mod4+%1 exec %2").arg(key, command);
-    if (desktop == u"labwc" || desktop.startsWith(u"labwc"))
-        return QStringLiteral("~/.config/labwc/rc.xml: <keybind key=\"C-W-%1\"><action name=\"Execute\" "
-                              "command=\"%2\"/></keybind>")
-            .arg(key, command);
-    if (desktop == u"hyprland")
-        return QStringLiteral("~/.config/hypr/hyprland.conf: bind = CTRL SUPER, %1, exec, %2")
-            .arg(key.toUpper(), command);
-    return QStringLiteral("in the compositor's settings, Ctrl+Super+%1 to the command: %2").arg(key.toUpper(), command);
+    QString pattern = QStringLiteral("Ctrl+Super+%1: %2");
+    OwnBindings bindings;
+    if (desktop == u"sway") {
+        bindings.file = QStringLiteral("~/.config/sway/config");
+        pattern = QStringLiteral("bindsym Ctrl+Mod4+%1 exec %2");
+    } else if (desktop.startsWith(u"labwc")) {
+        bindings.file = QStringLiteral("~/.config/labwc/rc.xml");
+        pattern = QStringLiteral("<keybind key=\"C-W-%1\"><action name=\"Execute\" command=\"%2\"/></keybind>");
+    } else if (desktop == u"hyprland") {
+        bindings.file = QStringLiteral("~/.config/hypr/hyprland.conf");
+        pattern = QStringLiteral("bind = CTRL SUPER, %1, exec, %2");
+    }
+    // Configurations name the keys by their lower-case letters, windows of settings show what is on the caps.
+    const auto line = [&](const char* key, const char* action) {
+        const QString name = QLatin1String(key);
+        return pattern.arg(bindings.file.isEmpty() ? name.toUpper() : name,
+                           QStringLiteral("vellumry --action ") + QLatin1String(action));
+    };
+    bindings.lines = {line("v", "open-panel"), line("s", "toggle-stack")};
+    return bindings;
 }
 
 OrReason<WaylandSurvey> WaylandSurvey::take() {
@@ -91,13 +100,16 @@ std::vector<Capability> WaylandSurvey::capabilities() const {
              QStringLiteral("the compositor does not tell which window is in front: ignored applications are not "
                             "known, terminals get Ctrl+V") +
                  permission)};
-    if (isPlasma && GlobalAccelHotKeys::isThere(QDBusConnection::sessionBus()))
+    if (isPlasma && GlobalAccelHotKeys::isThere(QDBusConnection::sessionBus())) {
         lines.push_back(Capability::found(QStringLiteral("hot keys"), QStringLiteral("KGlobalAccel")));
-    else
+    } else {
+        const OwnBindings bindings = ownBindingsOfSession();
         lines.push_back(Capability::without(
             QStringLiteral("hot keys"),
-            QStringLiteral("yours to bind: ") + bindingFor(QStringLiteral("open-panel"), QStringLiteral("v")) +
-                QStringLiteral("; ") + bindingFor(QStringLiteral("toggle-stack"), QStringLiteral("s"))));
+            QStringLiteral("yours to bind, ") +
+                (bindings.file.isEmpty() ? QStringLiteral("in the compositor's settings") : bindings.file) +
+                QStringLiteral(": ") + bindings.lines.join(u"; ")));
+    }
     return lines;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "foundation/Reason.h"
+#include "platform/display/HotKeyRegistrar.h"
 
 #include <QString>
 #include <vector>
@@ -28,7 +29,7 @@ struct WaylandSurvey {
     [[nodiscard]] std::vector<Capability> capabilities() const;
 };
 
-/// The line of configuration that binds a key to the program's action, for the compositor of this session.
-[[nodiscard]] QString bindingFor(const QString& action, const QString& key);
+/// What binds keys to the program's actions in the configuration of this session's compositor.
+[[nodiscard]] OwnBindings ownBindingsOfSession();
 
 } // namespace vellumry

@@ -1,10 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
+#include <QStringList>
 #include <QtGlobal>
 #include <functional>
 
 namespace vellumry {
+
+/// What the user writes where, for a key to reach the program. A value.
+struct OwnBindings {
+    QString file; ///< empty where the desktop has a window for it
+    QStringList lines;
+};
 
 /// Keys that reach the program whatever application is in front. Key codes are virtual key codes (physical positions),
 /// modifiers the mask of `Shortcut`. Main thread.
@@ -13,6 +21,8 @@ public:
     virtual ~HotKeyRegistrar() = default;
     /// False where no program can hold keys: the user binds them to the program's actions.
     [[nodiscard]] virtual bool hasKeys() const { return true; }
+    /// How the user does that; nothing where `hasKeys`.
+    [[nodiscard]] virtual OwnBindings ownBindings() const { return {}; }
     /// False when another program holds the combination, or the platform has no global keys.
     [[nodiscard]] virtual bool grab(quint32 id, quint32 keyCode, quint32 modifiers) = 0;
     virtual void release(quint32 id) = 0;
