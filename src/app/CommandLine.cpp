@@ -20,7 +20,7 @@ struct Options {
     QCommandLineOption action{
         QStringLiteral("action"),
         QStringLiteral("Ask the running program for open-panel, toggle-stack, pause, ignore-next, toggle-screenshots, "
-                       "clear, open-settings or quit."),
+                       "clear, open-settings, quit, or paste-pin-1 to paste-pin-9."),
         QStringLiteral("name")};
     /// What a session manager starts programs with that ran when the session was saved (XSMP).
     QCommandLineOption session{QStringLiteral("session"), QString(), QStringLiteral("id")};

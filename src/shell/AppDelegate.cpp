@@ -106,8 +106,11 @@ void AppDelegate::perform(const QString& action) {
         {QStringLiteral("clear"), &AppEnvironment::askToClear},
         {QStringLiteral("open-settings"), &AppEnvironment::openSettings},
     };
+    const QLatin1String pin("paste-pin-");
     if (const auto wanted = actions.value(action))
         (m_environment.get()->*wanted)();
+    else if (const int number = action.startsWith(pin) ? action.mid(pin.size()).toInt() : 0; number >= 1 && number <= 9)
+        m_environment->pastePinned(number);
     else if (action == QLatin1String("quit"))
         endProgram();
     else

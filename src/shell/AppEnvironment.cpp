@@ -108,7 +108,7 @@ void AppEnvironment::wire() {
     ShortcutRegistrations::Actions actions;
     actions.togglePanel = [this] { togglePanel(); };
     actions.toggleStack = [this] { toggleStack(); };
-    actions.pastePinned = [this](int number) { m_panel->model().pastePinned(number); };
+    actions.pastePinned = [this](int number) { pastePinned(number); };
     m_shortcuts = std::make_unique<ShortcutRegistrations>(*m_platform->defaults, *m_hotKeyCenter, *m_platform->keyboard,
                                                           std::move(actions));
     m_store->setClock(m_platform->clock);

@@ -63,6 +63,8 @@ public:
     /// Stops the Paste Stack when it runs, else starts it, with the clips that are selected in the open panel when they
     /// are several.
     void toggleStack();
+    /// Pastes one of the first nine pinned clips, by its number from 1 on, into the window in front.
+    void pastePinned(int number);
     /// No capture until it is called again; what was copied meanwhile stays out.
     void togglePause();
     void toggleIgnoreNext();

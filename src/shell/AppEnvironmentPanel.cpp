@@ -41,4 +41,8 @@ void AppEnvironment::openLink(const QString& address) {
             {QStringLiteral("xmark.circle.fill"), localised("This link can't be opened"), ToastMessage::Tone::warning});
 }
 
+void AppEnvironment::pastePinned(int number) {
+    m_panel->model().pastePinned(number);
+}
+
 } // namespace vellumry

@@ -73,6 +73,27 @@ TEST_F(AppDelegateTest, TheDesktopsKeyBindingsDoWhatTheShortcutsDo) {
     EXPECT_FALSE(environment.isQuitting());
 }
 
+TEST_F(AppDelegateTest, APinIsPastedByItsNumberWhereNoProgramCanHoldKeys) {
+    run();
+    ClipStore& store = delegate.environment()->store();
+    for (const char* text : {"first", "second"}) {
+        pasteboard->copy(uniformtype::utf8PlainText, text);
+        delegate.environment()->watcher().tick(time.clock()());
+        awaited(store.markUsed(store.clips().front()->id, time.clock()()));
+        awaited(store.setPinned(store.clips().front()->id, true, time.clock()()));
+    }
+    for (const char* unknown : {"paste-pin-0", "paste-pin-3", "paste-pin-10", "paste-pin-", "paste-pin-1x"})
+        instance->onAction(QString::fromLatin1(unknown));
+    EXPECT_EQ(target->presses, 0);
+    instance->onAction(QStringLiteral("paste-pin-2"));
+    runUntil([&] { return target->presses == 1; });
+    const QString pasted = plainText(pasteboard->items()).value_or(QString());
+    instance->onAction(QStringLiteral("paste-pin-1"));
+    runUntil([&] { return target->presses == 2; });
+    const QStringList both{pasted, plainText(pasteboard->items()).value_or(QString())};
+    EXPECT_EQ(both, QStringList({QStringLiteral("second"), QStringLiteral("first")}));
+}
+
 TEST_F(AppDelegateTest, ThePanelDoesNotWaitForTheHistory) {
     ASSERT_TRUE(delegate.applicationDidFinishLaunching());
     ASSERT_EQ(starts, 0);
