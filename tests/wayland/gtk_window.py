@@ -4,6 +4,7 @@ copies the text with the hint that password managers give."""
 
 import json
 import sys
+import time
 
 import gi
 
@@ -14,7 +15,7 @@ from gi.repository import Gdk, GLib, Gtk  # noqa: E402
 
 def tell(window, buffer):
     text = buffer.get_text(buffer.get_start_iter(), buffer.get_end_iter(), True)
-    print(json.dumps({"text": text, "active": window.is_active()}), flush=True)
+    print(json.dumps({"text": text, "active": window.is_active(), "at": time.monotonic()}), flush=True)
 
 
 def copy_secret(window, buffer):

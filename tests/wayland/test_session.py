@@ -1,96 +1,21 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The program's main jobs in a headless Wayland session, from outside, as a user would. Run inside scripts/wayland-session."""
 
-import json
 import os
-import shlex
+import signal
 import subprocess
 import sys
 import tempfile
-import threading
 import time
 
-HERE = os.path.dirname(os.path.abspath(__file__))
-os.environ["VELLUMRY"] = os.environ["VELLUMRY_BINARY"]
-sys.path.insert(0, os.path.join(HERE, "..", "e2e"))
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
-import signal  # noqa: E402
+from session import (HERE, HINT, PROGRAM, SESSION, Klipper, Window, copy, offered, open_panel, pasted, picture, press,  # noqa: E402
+                     search_field_has_focus, settle, shown_query, stays, type_text)
 
 import desktop  # noqa: E402
-from desktop import (Process, Vellumry, representation, run, same, text_of, unsealed, wait_for_clip, wait_until)  # noqa: E402
-
-TYPE = shlex.split(os.environ["VELLUMRY_TYPE"])
-SESSION = os.environ["VELLUMRY_SESSION"]
-QUIET = dict(stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-
-
-def press(*chords):
-    run(*TYPE, *chords)
-
-
-def type_text(text):
-    run(*TYPE, "text", text)
-
-
-def picture(name):
-    """Leaves a picture of the screen where the compositor gives any."""
-    if SESSION != "kwin":
-        run(*shlex.split(os.environ["VELLUMRY_SHOT"]), f"{SESSION}-{name}.png")
-
-
-desktop.picture = lambda name: subprocess.run([os.environ["VELLUMRY_SHOT"], f"{SESSION}-{name}.png"], **QUIET)
-
-
-def copy(data, kind="text/plain;charset=utf-8"):
-    """wl-copy answers once it owns the clipboard, and serves it in the background."""
-    subprocess.run(["wl-copy", "-t", kind], input=data if isinstance(data, bytes) else data.encode(), check=True, timeout=20, **QUIET)
-
-
-def pasted(kind="text/plain;charset=utf-8"):
-    return subprocess.run(["wl-paste", "-n", "-t", kind], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=20).stdout
-
-
-def offered():
-    return subprocess.run(["wl-paste", "-l"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=20).stdout.decode().split("\n")
-
-
-class Window(Process):
-    """A window of another program, with the keyboard."""
-
-    def __init__(self):
-        super().__init__("/usr/bin/python3", os.path.join(HERE, "gtk_window.py"), stdout=subprocess.PIPE, text=True)
-        self.state = {"text": "", "active": False}
-        threading.Thread(target=self.follow, daemon=True).start()
-        wait_until(lambda: self.state["active"], "the foreign window to have the keyboard")
-
-    def follow(self):
-        for line in self.handle.stdout:
-            self.state = json.loads(line)
-
-    @property
-    def text(self):
-        return self.state["text"]
-
-    def wait_text(self, text):
-        try:
-            wait_until(lambda: self.text == text, f"the text {text!r} in the foreign window")
-        except desktop.Failure as failure:
-            picture("failed")
-            raise desktop.Failure(f"{failure}, which has {self.state}") from None
-
-
-def search_field_has_focus():
-    """As the accessibility tree tells; the keyboard is the panel's a moment before."""
-    import pyatspi
-
-    field = desktop.accessible("vellumry", "text")
-    return field is not None and field.getState().contains(pyatspi.STATE_FOCUSED)
-
-
-def open_panel(window):
-    press("ctrl+super+v")
-    wait_until(lambda: not window.state["active"], "the panel to take the keyboard")
-    wait_until(search_field_has_focus, "the search field to have the focus")
+from desktop import (Process, Vellumry, forgo_greeting, representation, run, same, text_of, unsealed, wait_for_clip,  # noqa: E402
+                     wait_until)
 
 
 def test_copy_find_paste():
@@ -131,6 +56,23 @@ def test_escape_gives_the_keyboard_back():
             wait_until(lambda: window.state["active"], "the keyboard back in the window")
         type_text("typed")
         window.wait_text("typed")
+
+
+def test_typing_through_the_opening():
+    """No letter is lost while the panel opens: the first go to the window, from one on all to the search field."""
+    letters = "abcdefghijklmnopqrstuvwxyz0123456789"
+    with Vellumry(), Window() as window:
+        copy("words")
+        wait_for_clip(lambda row: text_of(row) == "words", "the copy in the history")
+        for turn in range(15):
+            before = window.text
+            press("ctrl+super+v", *letters)
+            try:
+                wait_until(lambda: window.text + (shown_query() or "") == before + letters, "all letters, in their order", 20)
+            except desktop.Failure as failure:
+                raise desktop.Failure(f"{failure}: turn {turn}, {window.text[len(before):]!r} and {shown_query()!r}") from None
+            press("escape", "escape")
+            wait_until(lambda: window.state["active"], "the keyboard back in the window")
 
 
 def test_files():
@@ -202,6 +144,75 @@ def test_survives_its_program():
         wait_until(lambda: pasted() == b"outlives its program", "the copy on the clipboard, its program gone")
 
 
+def copied_in(window, text):
+    type_text(text)
+    window.wait_text(text)
+    press("ctrl+a")
+    press("ctrl+c")
+    wait_for_clip(lambda row: text_of(row) == text, "the copy in the history")
+
+
+def test_survives_its_window():
+    """A copy outlives the window that it was made in, whose program is killed."""
+    with Vellumry():
+        with Window() as window:
+            copied_in(window, "outlives its window")
+            window.stop(signal.SIGKILL)
+            wait_until(lambda: pasted() == b"outlives its window", "the copy on the clipboard, its window gone")
+        assert len([row for row in unsealed() if text_of(row) == "outlives its window"]) == 1, "kept once"
+
+
+def test_cleared():
+    """A clipboard that was emptied stays empty: the program of the copy is still there."""
+    with Vellumry(), Window() as window:
+        copied_in(window, "to be forgotten")
+        wait_until(lambda: pasted() == b"to be forgotten", "the copy on the clipboard")
+        run("wl-copy", "--clear")
+        stays(lambda: pasted() == b"", "the empty clipboard")
+        assert [row for row in unsealed() if text_of(row) == "to be forgotten"], "the history has it all the same"
+
+
+def test_secret_expires():
+    """A card number leaves the history and the clipboard at its time."""
+    card = "4242 4242 4242 4242"
+    forgo_greeting()
+    with open(desktop.SETTINGS, "a", encoding="utf-8") as file:
+        file.write("sensitiveSeconds=10\n")
+    try:
+        with Vellumry():
+            owner = Process("wl-copy", "--foreground", card)
+            wait_for_clip(lambda row: text_of(row) == card, "the card in the history")
+            owner.stop(signal.SIGKILL)
+            wait_until(lambda: pasted() == card.encode(), "the card on the clipboard, its program gone")
+            wait_until(lambda: not [row for row in unsealed() if text_of(row) == card], "the card to leave the history")
+            wait_until(lambda: pasted() == b"", "the card to leave the clipboard")
+    finally:
+        os.remove(desktop.SETTINGS)
+
+
+def test_locked():
+    """A screen that is locked in the middle of a stack costs no item: keys pressed there are the locker's."""
+    if SESSION != "sway":
+        return
+    with Vellumry(), Window() as window:
+        run(PROGRAM, "--action", "toggle-stack")
+        for word in ("before ", "after "):
+            copy(word)
+            wait_for_clip(lambda row, word=word: text_of(row) == word, f"the copy {word!r}")
+        wait_until(lambda: HINT in offered(), "the stack on the clipboard")
+        settle()
+        press("ctrl+v")
+        window.wait_text("before ")
+        with Process("swaylock", "--color", "203040") as locker:
+            wait_until(lambda: not window.state["active"], "the lock screen to have the keyboard")
+            press("ctrl+v", "ctrl+v")
+            stays(lambda: window.text == "before ", "the text in the window", 0.5)
+            os.kill(locker.pid, signal.SIGUSR1)
+            wait_until(lambda: window.state["active"], "the keyboard back in the window")
+        press("ctrl+v")
+        window.wait_text("before after ")
+
+
 def test_terminal():
     """A terminal gets its own paste key."""
     folder = tempfile.mkdtemp()
@@ -229,27 +240,47 @@ def test_terminal():
             wait_until(content, "the text in the terminal")
 
 
+def paste_in_order(window, words):
+    """Copies the words, pastes each by the user's own key, and once more the last."""
+    run(PROGRAM, "--action", "toggle-stack")
+    for word in words:
+        copy(word + " ")
+        wait_for_clip(lambda row, word=word: text_of(row) == word + " ", f"the copy {word!r}")
+    picture("stack")
+    wait_until(lambda: HINT in offered(), "the stack on the clipboard")
+    expected = ""
+    for word in words:
+        expected += word + " "
+        settle()
+        press("ctrl+v")
+        window.wait_text(expected)
+    settle()
+    press("ctrl+v")
+    window.wait_text(expected + words[-1] + " ")
+
+
 def test_stack():
     """Five copies are pasted in their order, each once, by the user's own paste key."""
-    words = ["alpha", "beta", "gamma", "delta", "epsilon"]
     with Vellumry(), Window() as window:
-        run(os.environ["VELLUMRY_BINARY"], "--action", "toggle-stack")
-        for word in words:
-            copy(word + " ")
-            wait_for_clip(lambda row, word=word: text_of(row) == word + " ", f"the copy {word!r}")
-        picture("stack")
-        wait_until(lambda: "x-kde-passwordManagerHint" in offered(), "the stack on the clipboard")
-        expected = ""
-        for word in words:
-            expected += word + " "
-            pace = time.monotonic() + 0.2  # five a second, as a quick user
-            wait_until(lambda pace=pace: time.monotonic() >= pace, "the next key")
-            press("ctrl+v")
-            window.wait_text(expected)
-        pace = time.monotonic() + 0.2
-        wait_until(lambda: time.monotonic() >= pace, "the next key")
-        press("ctrl+v")
-        window.wait_text(expected + "epsilon ")
+        paste_in_order(window, ["alpha", "beta", "gamma", "delta", "epsilon"])
+
+
+def test_stack_beside_klipper():
+    """Plasma's clipboard manager, which reads what is new, takes no item of a stack."""
+    if SESSION != "kwin":
+        return
+    with Vellumry(), Klipper(), Window() as window:
+        paste_in_order(window, ["one", "two", "three", "four", "five"])
+
+
+def test_bindings_are_told():
+    """Where no program can hold keys, the status tells the lines that bind them, as this session's compositor understood them."""
+    status = subprocess.run([PROGRAM, "--status"], stdout=subprocess.PIPE, timeout=desktop.LIMIT, check=False).stdout.decode()
+    lines = {"sway": "bindsym Ctrl+Mod4+v exec vellumry --action open-panel",
+             "labwc": '<keybind key="C-W-v"><action name="Execute" command="vellumry --action open-panel"/></keybind>',
+             "kwin": "KGlobalAccel"}
+    if SESSION in lines:
+        assert lines[SESSION] in status, status
 
 
 desktop.main(desktop.own_tests())
