@@ -6,7 +6,8 @@ DESTDIR ?=
 export CCACHE_NOHASHDIR = 1
 export CCACHE_BASEDIR = $(CURDIR)
 
-.PHONY: help run install uninstall package appimage test test-trixie test-appimage test-wayland sanitize torture bench gallery matrix lint build asan clean
+.PHONY: help run install uninstall package appimage test test-trixie test-appimage test-wayland wayland-next bench-wayland sanitize torture bench gallery \
+	matrix lint build asan clean
 
 help: ## list the tasks
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:.*## /\t/' | expand -t 14
@@ -40,6 +41,15 @@ test-trixie: ## build and run the unit tests in a bare Debian 13
 test-wayland: ## build in a Debian 13, run the tests in headless sessions of sway, labwc and KWin
 	@scripts/install-deps --test
 	@tests/wayland/run
+
+wayland-next: ## the same in Debian 13 and in Debian testing, written into docs/desktops.md
+	@scripts/install-deps --test
+	@scripts/wayland-results trixie "Debian 13"
+	@scripts/wayland-results forky "Debian testing"
+
+bench-wayland: ## figures of the program in sessions of sway and KWin, with a Paste Stack of 300
+	@scripts/install-deps --test
+	@bench/wayland
 
 test: ## install what is missing, build, run every test
 	@scripts/install-deps --test
