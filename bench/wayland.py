@@ -1,0 +1,205 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What the program costs in a Wayland session: copies until they are durable, the panel, a paste, memory, and a Paste Stack of 300.
+
+Run by bench/wayland inside scripts/wayland-session. Prints a table; exits with 1 when a stack's paste was lost or doubled, or a copy
+of the burst. VELLUMRY_BENCH_CLIPS and VELLUMRY_BENCH_STACK are how many clips and stack pastes there are.
+"""
+
+import os
+import random
+import sqlite3
+import statistics
+import sys
+import time
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+sys.path.insert(0, os.path.join(os.path.dirname(HERE), "tests", "wayland"))
+
+from gi.repository import Gio, GLib  # noqa: E402
+from session import (HINT, PROGRAM, SESSION, Clipper, Klipper, Window, offered, press, search_field_has_focus)  # noqa: E402
+
+import desktop  # noqa: E402
+from desktop import HISTORY, Vellumry, run, wait_until  # noqa: E402
+
+CLIPS = int(os.environ.get("VELLUMRY_BENCH_CLIPS", "5000"))
+COPIES = 500
+ROUNDS = 15
+STACKED = int(os.environ.get("VELLUMRY_BENCH_STACK", "300"))
+BUS = Gio.bus_get_sync(Gio.BusType.SESSION)
+
+
+class History:
+    """The rows of the file, as another process sees them."""
+
+    def __init__(self):
+        self.connection = sqlite3.connect(f"file:{HISTORY}?mode=ro", uri=True)
+
+    def count(self):
+        return self.connection.execute("SELECT count(*) FROM clips").fetchone()[0]
+
+    def wait(self, count, timeout=60.0):
+        """When there were so many, by time.monotonic(); looked at every half millisecond."""
+        end = time.monotonic() + timeout
+        while self.count() < count:
+            if time.monotonic() > end:
+                raise desktop.Failure(f"{self.count()} rows in place of {count}")
+            time.sleep(0.0005)
+        return time.monotonic()
+
+
+def pss_megabytes(pid):
+    """Of the program and what it has started."""
+    pids = [pid]
+    for process in pids:
+        try:
+            with open(f"/proc/{process}/task/{process}/children", encoding="ascii") as file:
+                pids += [int(child) for child in file.read().split()]
+        except FileNotFoundError:
+            continue
+    total = 0
+    for process in pids:
+        try:
+            with open(f"/proc/{process}/smaps_rollup", encoding="ascii") as file:
+                total += sum(int(line.split()[1]) for line in file if line.startswith("Pss:"))
+        except (FileNotFoundError, PermissionError):
+            continue
+    return total / 1024
+
+
+def texts(count, seed=5):
+    """Made-up clips of one line: median 18 characters, mean about 720, a few very long."""
+    chance = random.Random(seed)
+    for index in range(count):
+        length = min(int(chance.lognormvariate(2.9, 2.7)) + 1, 100_000)
+        yield (f"{index} " + "".join(chance.choice("abcdefghij klmnopqrstuvwxyz ") for _ in range(length)))[:max(length, 6)].strip()
+
+
+def copies(clipper, history):
+    delays = []
+    for index in range(20):
+        before = history.count()
+        delays.append(-clipper.copy(f"one measured copy {index}") + history.wait(before + 1))
+    before = history.count()
+    following = time.monotonic()
+    for index in range(COPIES):
+        clipper.copy(f"copy {index} of a burst")
+        following += 0.05
+        time.sleep(max(0.0, following - time.monotonic()))
+    try:
+        history.wait(before + COPIES, 5)
+    except desktop.Failure:
+        pass
+    return statistics.median(delays) * 1000, COPIES - (history.count() - before)
+
+
+def open_by_action():
+    BUS.call_sync("com.vellumry.Vellumry", "/com/vellumry/Vellumry", "org.freedesktop.Application", "ActivateAction",
+                  GLib.Variant("(sava{sv})", ("open-panel", [], {})), None, 0, 20000, None)
+
+
+def seconds_to_panel(window, action):
+    """Until the panel has the keyboard, which the compositor gives it with its first picture."""
+    began = time.monotonic()
+    action()
+    wait_until(lambda: not window.state["active"], "the panel to take the keyboard")
+    took = window.state["at"] - began
+    wait_until(search_field_has_focus, "the search field to have the focus")
+    press("escape")
+    wait_until(lambda: window.state["active"], "the keyboard back in the window")
+    return took
+
+
+def return_to_text(window, clipper, history):
+    delays = []
+    for index in range(ROUNDS):
+        text = f"pasted text {index}"
+        before = history.count()
+        clipper.copy(text)
+        history.wait(before + 1)
+        press("ctrl+a", "delete")
+        window.wait_text("")
+        press("ctrl+super+v")
+        wait_until(search_field_has_focus, "the search field to have the focus")
+        began = time.monotonic()
+        press("return")
+        window.wait_text(text)
+        wait_until(lambda: window.state["active"], "the keyboard back in the window")
+        delays.append(window.state["at"] - began)
+    return delays
+
+
+def stack(window, clipper, history, count):
+    """Pastes five a second, without a look at what has arrived; the items that are lost, doubled or out of their order."""
+    press("ctrl+a", "delete")
+    window.wait_text("")
+    run(PROGRAM, "--action", "toggle-stack")
+    items = [f"{count}.{index};" for index in range(count)]
+    for item in items:
+        before = history.count()
+        clipper.copy(item)
+        history.wait(before + 1)
+    wait_until(lambda: HINT in offered(), "the stack on the clipboard")
+    following = time.monotonic() + 0.2
+    for _ in items:
+        time.sleep(max(0.0, following - time.monotonic()))
+        following += 0.2
+        press("ctrl+v")
+    try:
+        wait_until(lambda: window.text.count(";") >= count, "the last item", 10)
+    except desktop.Failure:
+        pass
+    arrived = [item + ";" for item in window.text.split(";")[:-1]]
+    lost = len(set(items) - set(arrived))
+    return lost, len(arrived) - len(set(arrived)), arrived == sorted(arrived, key=items.index)
+
+
+def middle(delays):
+    return f"{statistics.median(delays) * 1000:.1f} ({max(delays) * 1000:.1f})"
+
+
+def tell(name, value):
+    print(f"{name:52} {value}", flush=True)
+
+
+def stack_is_whole(name, window, clipper, history):
+    lost, doubled, in_order = stack(window, clipper, history, STACKED)
+    tell(f"{name}, lost, doubled", f"{lost}, {doubled}{'' if in_order else ', out of order'}")
+    return lost == 0 and doubled == 0 and in_order
+
+
+def settings():
+    os.makedirs(os.path.dirname(desktop.SETTINGS), exist_ok=True)
+    with open(desktop.SETTINGS, "w", encoding="utf-8") as file:
+        file.write("[General]\nkeepAtMost=10000\nonboardingDone=true\n")
+
+
+def main():
+    settings()
+    tell("session, load at the start", f"{SESSION}, {os.getloadavg()[0]:.1f}")
+    with Vellumry() as program, Clipper() as clipper, Window() as window:
+        clipper.copy("the first of them")
+        desktop.wait_for_clip(lambda row: desktop.text_of(row) == "the first of them", "the first copy")
+        history = History()
+        for index, text in enumerate(texts(CLIPS - 1)):
+            clipper.copy(text)
+            history.wait(index + 2)
+        delay, lost = copies(clipper, history)
+        tell("copy to the durable row, median ms", f"{delay:.1f}")
+        tell(f"lost of {COPIES} copies at 20 a second", lost)
+        seconds_to_panel(window, open_by_action)
+        tell("D-Bus action to painted panel, median (most) ms",
+             middle([seconds_to_panel(window, open_by_action) for _ in range(ROUNDS)]))
+        tell("key to painted panel, median (most) ms",
+             middle([seconds_to_panel(window, lambda: press("ctrl+super+v")) for _ in range(ROUNDS)]))
+        tell("Return to text in a GTK editor, median (most) ms", middle(return_to_text(window, clipper, history)))
+        tell("PSS after use, MB", f"{pss_megabytes(program.pid):.1f}")
+        is_whole = stack_is_whole(f"{STACKED} stack pastes at 5 a second", window, clipper, history)
+        if SESSION == "kwin":
+            with Klipper(), Window() as second:
+                is_whole = stack_is_whole("the same with Klipper running", second, clipper, history) and is_whole
+    tell("load at the end", f"{os.getloadavg()[0]:.1f}")
+    sys.exit(0 if is_whole and lost == 0 else 1)
+
+
+if __name__ == "__main__":
+    main()
