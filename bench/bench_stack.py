@@ -11,7 +11,7 @@ sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."
 
 from desktop import Vellumry, copy_text, key, wait_until, windows  # noqa: E402
 from history_probe import ids  # noqa: E402
-from key_window import KeyWindow  # noqa: E402
+from clients import KeyWindow  # noqa: E402
 
 PRESSES = int(os.environ.get("VELLUMRY_STACK_PRESSES", "200"))
 

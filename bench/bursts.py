@@ -8,7 +8,7 @@ import sys
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tests", "e2e"))
 
 from desktop import Vellumry, key, open_panel, text_of, unsealed, wait_panel_closed, wait_until  # noqa: E402
-from hostile_owner import copy_in_a_row  # noqa: E402
+from clients.owners import copy_in_a_row  # noqa: E402
 
 COPIES = 300
 

@@ -16,7 +16,7 @@ sys.path.insert(0, os.path.join(os.path.dirname(HERE), "tests", "e2e"))
 
 from side_by_side import CopyQ, Ours, press_shortcut  # noqa: E402
 
-from clients import GtkEditor  # noqa: E402
+from clients import Mousepad  # noqa: E402
 from desktop import QUIET, Failure, accessible, active_window, copy_text, focus, wait_until, window_title, windows  # noqa: E402
 
 SETTLE = 0.070
@@ -60,7 +60,7 @@ def measure(tool, is_open):
     tool.start()
     tool.wait_ready()
     delays = []
-    with GtkEditor() as editor:
+    with Mousepad() as editor:
         field = accessible("mousepad", "text").queryText()
         for index in range(ROUNDS):
             text = f"pasted text {index}"

@@ -240,6 +240,13 @@ def clipboard(target="UTF8_STRING", selection="clipboard"):
     return done.stdout if done.returncode == 0 else None
 
 
+def remember(*texts):
+    """Copies the texts, each when the one before is in the history; the last one is the newest."""
+    for text in texts:
+        copy_text(text)
+        wait_for_clip(lambda row: text_of(row) == text, f"the copy of {text!r:.80}")
+
+
 # --- windows and keys
 
 

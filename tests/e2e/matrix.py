@@ -11,7 +11,7 @@ import re
 import signal
 
 from desktop import Failure, Vellumry, copy_text, same, text_of, unsealed, wait_for_clip, wait_until
-from matrix_clients import CLIENTS
+from matrix_rows import ROWS
 from record_offer import HOUSEKEEPING, Reader, offer
 
 OURS = "com.vellumry.marker"
@@ -90,7 +90,7 @@ def compare(client, before, again, kept, after):
 
 def row_of(name):
     """The whole way of one client's copy."""
-    client = CLIENTS[name]
+    client = ROWS[name]
     with Vellumry() as program, client.started() as running:
         client.copy(running)
         if client.kind is None:
@@ -119,7 +119,7 @@ def write_table(name, lines):
     path = os.environ.get("VELLUMRY_MATRIX")
     if not path:
         return
-    client = CLIENTS[name]
+    client = ROWS[name]
     with open(path, "a", encoding="utf-8") as file:
         file.write(f"\n### {client.program}: {client.what}\n\n| offered | comes back |\n|---|---|\n")
         for target, outcome in lines:

@@ -3,7 +3,7 @@
 
 from desktop import fresh, main
 from matrix import tests
-from matrix_clients import CLIENTS
+from matrix_rows import ROWS
 
 if __name__ == "__main__":
-    main([fresh(test) for test in tests([name for name, client in CLIENTS.items() if client.heavy])])
+    main([fresh(test) for test in tests([name for name, row in ROWS.items() if row.heavy])])

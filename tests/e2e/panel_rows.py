@@ -3,14 +3,7 @@
 
 import re
 
-from desktop import accessible, copy_text, run, text_of, unsealed, wait_for_clip, wait_until
-
-
-def remember(*texts):
-    """Copies the texts, the last one the newest."""
-    for text in texts:
-        copy_text(text)
-        wait_for_clip(lambda kept: text_of(kept) == text, "the copy of " + text)
+from desktop import accessible, run, text_of, unsealed, wait_until
 
 
 def texts_kept():

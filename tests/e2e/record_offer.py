@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Records what the owner of the clipboard offers: each target with the type and the bytes it is given as.
 
-    scripts/headless-session /usr/bin/python3 tests/e2e/record_offer.py NAME…     (names of matrix_clients.py; --all for every one)
+    scripts/headless-session /usr/bin/python3 tests/e2e/record_offer.py NAME…     (names of matrix_rows.py; --all for every one)
 
 starts the clients one after the other, lets each copy, and leaves one fixture a client in tests/capture/fixtures. Together with the
-expectations of matrix_clients.py these are what the unit tests replay.
+expectations of matrix_rows.py these are what the unit tests replay.
 """
 
 import base64
@@ -125,11 +125,11 @@ def save(name, client, recorded):
 
 
 def main(names):
-    import matrix_clients
+    import matrix_rows
 
-    wanted = list(matrix_clients.CLIENTS) if names == ["--all"] else names
+    wanted = list(matrix_rows.ROWS) if names == ["--all"] else names
     for name in wanted:
-        client = matrix_clients.CLIENTS[name]
+        client = matrix_rows.ROWS[name]
         with client.started() as running:
             client.copy(running)
             recorded = offer()

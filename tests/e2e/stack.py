@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Starting, filling and emptying a Paste Stack as a user does."""
 
-from desktop import copy_text, key, text_of, wait_for_clip, wait_until, windows
+from desktop import key, wait_until, windows
 
 TOGGLE = "super+ctrl+s"
 HUD = "^Paste Stack$"
@@ -18,12 +18,6 @@ def start_stack():
 
 def wait_ended():
     wait_until(lambda: not is_running(), "the stack's bar to go", 60)
-
-
-def remember(*texts):
-    for text in texts:
-        copy_text(text)
-        wait_for_clip(lambda row: text_of(row) == text, "the copy of " + text)
 
 
 def paste_each(client, combination, expected):

@@ -7,7 +7,7 @@ import signal
 import subprocess
 import tempfile
 
-from clients import GtkEditor
+from clients import Mousepad
 from desktop import (DATA, HISTORY, PROGRAM, ROOT, Process, Vellumry, copy_bytes, copy_text, focus, key, main, open_panel, own_tests,
                      representation, run, same, text_of, type_text, wait_for_clip, wait_panel_closed, wait_until, window_of_class)
 
@@ -95,7 +95,7 @@ def the_log_never_quotes_the_user():
             wait_for_clip(lambda row: text_of(row) == "text of the " + CANARY, "the copy")
             copy_bytes(("file://" + name + "\r\n").encode(), "text/uri-list")
             wait_for_clip(lambda row: representation(row, "public.file-url"), "the copied file")
-            with GtkEditor() as client:
+            with Mousepad() as client:
                 open_panel()
                 type_text(CANARY)
                 key("Return")

@@ -6,17 +6,16 @@ import signal
 import sqlite3
 import time
 
-from clients import Browser, FileManager, GtkEditor, PasswordManager, QtEditor, XTerminal
-from desktop import (HISTORY, Failure, Vellumry, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests,
-                     representation, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until)
-from hostile_owner import BusyOwner
-from owner import LoggingOwner
+from clients import Chromium, FeatherPad, KeePassXC, Mousepad, Pcmanfm, XTerm, store_and_quit
+from clients.owners import BusyOwner, Owner
+from desktop import (HISTORY, Failure, Vellumry, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests, representation,
+                     run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until)
 
 TEXT = "public.utf8-plain-text"
 
 
 def a_terminal_copies():
-    with Vellumry(), XTerminal() as client:
+    with Vellumry(), XTerm() as client:
         text = client.copy_first_line()
         row = wait_for_clip(lambda row: text_of(row) == text, "the terminal's line")
         same(row["kind"], 0, "its kind")
@@ -25,21 +24,21 @@ def a_terminal_copies():
 
 
 def a_gtk_editor_copies():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         client.type_and_copy("words of a gtk editor")
         row = wait_for_clip(lambda row: text_of(row) == "words of a gtk editor", "the editor's text")
         same(row["sourceAppName"], "Mousepad", "the source application")
 
 
 def a_qt_editor_copies():
-    with Vellumry(), QtEditor() as client:
+    with Vellumry(), FeatherPad() as client:
         client.type_and_copy("words of a qt editor")
         row = wait_for_clip(lambda row: text_of(row) == "words of a qt editor", "the editor's text")
         same(row["sourceAppName"], "FeatherPad", "the source application")
 
 
 def a_browser_copies_styled_text():
-    with Vellumry(), Browser() as client:
+    with Vellumry(), Chromium() as client:
         text = client.copy_words()
         row = wait_for_clip(lambda row: text_of(row) == text, "the page's words", 20)
         same(row["kind"], 1, "styled text is its kind")
@@ -47,7 +46,7 @@ def a_browser_copies_styled_text():
 
 
 def a_file_manager_copies_files():
-    with Vellumry(), FileManager("a letter.txt", "b ü.txt") as client:
+    with Vellumry(), Pcmanfm("a letter.txt", "b ü.txt") as client:
         client.copy_all()
         row = wait_for_clip(lambda row: row["kind"] == 4, "the files")
         same(sorted(reference["path"] for reference in row["files"]), sorted(client.paths), "the paths")
@@ -79,7 +78,7 @@ def a_bitmap_alone_is_kept_for_all():
 
 
 def a_password_is_never_kept():
-    with Vellumry(), PasswordManager() as client:
+    with Vellumry(), KeePassXC() as client:
         client.copy_password()
         wait_until(lambda: b"x-kde-passwordManagerHint" in (clipboard("TARGETS") or b""), "the password on the clipboard")
         client.stop()  # nothing that is copied while it is in front is kept
@@ -91,7 +90,7 @@ def a_password_is_never_kept():
 def what_is_refused_is_never_asked_for():
     with Vellumry() as program:
         for hint in ("x-kde-passwordManagerHint", "com.vellumry.marker", "org.nspasteboard.TransientType"):
-            with LoggingOwner({"UTF8_STRING": b"kept secret", hint: b"1"}) as owner:
+            with Owner({"UTF8_STRING": b"kept secret", hint: b"1"}) as owner:
                 wait_until(lambda: "TARGETS" in owner.requests(), "the program to look at what is offered")
                 copy_text("after " + hint)
                 wait_for_clip(lambda row: text_of(row) == "after " + hint, "the copy after it")
@@ -101,7 +100,7 @@ def what_is_refused_is_never_asked_for():
 
 def what_was_copied_outlives_the_application():
     with Vellumry():
-        with XTerminal() as client:
+        with XTerm() as client:
             text = client.copy_first_line()
             wait_for_clip(lambda row: text_of(row) == text, "the terminal's line")
             before = len(unsealed())
@@ -132,7 +131,7 @@ def a_program_that_has_its_copy_kept_and_quits_at_once_loses_nothing():
     with Vellumry():
         for index in range(5):
             text = f"stored {index}"
-            run("/usr/bin/python3", os.path.join(os.path.dirname(os.path.abspath(__file__)), "storing_program.py"), text)
+            store_and_quit(text)
             wait_for_clip(lambda row: text_of(row) == text, "the copy of a program that has quit", 60)
             wait_until(lambda: clipboard() == text.encode(), "the clipboard to hold it", 60)
 

@@ -5,10 +5,10 @@ import glob
 import os
 import subprocess
 
-from clients import FileManager, GtkEditor, QtEditor
-from desktop import (Vellumry, clipboard, copy_bytes, key, main, open_panel, own_tests, panel_is_open, picture, run, same,
+from clients import FeatherPad, Mousepad, Pcmanfm
+from desktop import (Vellumry, clipboard, copy_bytes, key, main, open_panel, own_tests, panel_is_open, picture, remember, run, same,
                      wait_for_clip, wait_panel_closed, wait_until)
-from panel_rows import middle, remember, row, texts_kept
+from panel_rows import middle, row, texts_kept
 
 RUNTIME = os.environ["XDG_RUNTIME_DIR"]
 
@@ -47,7 +47,7 @@ def png():
 
 def a_text_into_a_gtk_editor():
     """The text stands in the editor, the panel has gone, and the clipboard holds what it held."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("dragged", "newer")
         target = place(editor.window)
         open_panel()
@@ -61,7 +61,7 @@ def a_text_into_a_gtk_editor():
 
 def a_text_into_a_qt_editor():
     """The same into an editor of the other toolkit."""
-    with Vellumry(), QtEditor() as editor:
+    with Vellumry(), FeatherPad() as editor:
         remember("dragged", "newer")
         target = place(editor.window)
         open_panel()
@@ -72,7 +72,7 @@ def a_text_into_a_qt_editor():
 
 def several_texts_are_joined():
     """Three chosen texts, pressed on one of them, come in the order of their copying."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("one", "two", "three")
         target = place(editor.window)
         open_panel()
@@ -84,7 +84,7 @@ def several_texts_are_joined():
 
 def files_into_a_file_manager():
     """The file is copied into the folder on which it was dropped, and stays where it was."""
-    with Vellumry(), FileManager() as manager:
+    with Vellumry(), Pcmanfm() as manager:
         source = os.path.join(os.environ["HOME"], "a file.txt")
         with open(source, "w", encoding="utf-8") as file:
             file.write("of the file")
@@ -101,7 +101,7 @@ def files_into_a_file_manager():
 
 def a_picture_into_a_file_manager():
     """A copied picture becomes a file in the folder."""
-    with Vellumry(), FileManager() as manager:
+    with Vellumry(), Pcmanfm() as manager:
         data = png()
         copy_bytes(data, "image/png")
         title = wait_for_clip(lambda entry: entry["kind"] == 3, "the copy of the picture")["title"]

@@ -8,10 +8,9 @@ import sqlite3
 import time
 
 import desktop
-from clients import GtkEditor, XTerminal
+from clients import Mousepad, XTerm
 from desktop import (DATA, HISTORY, SETTINGS, Failure, Vellumry, accessible, clipboard, copy_text, focus, fresh, key, main,
-                     open_panel, own_tests,
-                     owner_of, panel_is_open, same, wait_panel_closed, wait_until)
+                     open_panel, own_tests, owner_of, panel_is_open, same, wait_panel_closed, wait_until)
 from history_probe import HistoryProbe, ids
 from memory_probe import can_look_into, found_in, spread_in
 
@@ -107,7 +106,7 @@ def with_lifetime(test):
 
 def a_card_is_gone_from_everywhere_at_its_time():
     card = card_number()
-    with Vellumry() as program, GtkEditor() as editor:
+    with Vellumry() as program, Mousepad() as editor:
         probe = HistoryProbe()
         editor.type_and_copy(card)
         ends, sealed = stored_card(probe, card)
@@ -162,7 +161,7 @@ def a_card_whose_time_came_while_the_program_stood_still_goes_at_once():
 
 def offered_by_us(probe, card):
     """Copies the card in an editor that is killed, so that the program offers it in its place; answers as `stored_card`."""
-    with GtkEditor() as editor:
+    with Mousepad() as editor:
         editor.type_and_copy(card)
         stored = stored_card(probe, card)
         editor.stop(signal.SIGKILL)
@@ -185,7 +184,7 @@ def a_card_that_was_pasted_goes_from_the_clipboard_at_its_time():
     card = card_number()
     with Vellumry():
         offered_by_us(HistoryProbe(), card)
-        with GtkEditor() as editor:
+        with Mousepad() as editor:
             open_panel()
             key("Return")
             wait_until(lambda: editor.content() == card, "the card in the editor", 60)
@@ -195,7 +194,7 @@ def a_card_that_was_pasted_goes_from_the_clipboard_at_its_time():
 
 def a_card_that_was_pasted_into_a_terminal_goes_from_the_primary_selection():
     card = card_number()
-    with Vellumry(), XTerminal() as terminal:
+    with Vellumry(), XTerm() as terminal:
         for ends_by in ("its time", "the next copy"):
             offered_by_us(HistoryProbe(), card)
             focus(terminal.window)

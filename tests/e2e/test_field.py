@@ -6,7 +6,7 @@ import time
 
 from desktop import (Failure, Vellumry, clipboard, copy_text, key, main, open_panel, own_tests, run, same, text_of, text_shown,
                      type_text, wait_for_clip, wait_panel_closed, wait_until)
-from hostile_owner import HostileOwner, Silence
+from clients.owners import HostileOwner, Silence
 
 ANSWER_LIMIT = 0.5
 

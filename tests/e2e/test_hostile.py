@@ -3,10 +3,10 @@
 
 import time
 
-from desktop import (Failure, Vellumry, copy_bytes, key, main, open_panel, own_tests, representation, run, same,
-                     wait_panel_closed, wait_until)
+from desktop import (Failure, Vellumry, copy_bytes, key, main, open_panel, own_tests, representation, run, same, wait_panel_closed,
+                     wait_until)
 from history_probe import HistoryProbe, ids
-from hostile_owner import HostileOwner, Pieces, Silence
+from clients.owners import HostileOwner, Pieces, Silence
 
 PANEL_LIMIT = 3  # a program that waits for an owner waits longer
 MIB = 1024 * 1024
@@ -131,8 +131,7 @@ def ten_thousand_kinds():
             watched.probe.wait_for("one among many")
             owner.targets = owner.atoms(names)
             owner.offers[owner.targets[0]] = b"one among ten thousand"
-            owner.window.set_selection_owner(owner.selection, 0)
-            owner.display.flush()
+            owner.own()
             watched.probe.wait_for("one among ten thousand")
         watched.probe.copy_is_prompt("after it")
 

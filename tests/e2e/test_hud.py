@@ -2,9 +2,9 @@
 """What shows while a Paste Stack runs and messages that come and go: neither takes the keyboard nor, but for two buttons, the
 pointer."""
 
-from clients import GtkEditor
-from desktop import (Vellumry, accessible, active_window, copy_text, focused_window, key, main, open_panel, own_tests, run, same, text_of,
-                     wait_for_clip, wait_panel_closed, wait_until, windows)
+from clients import Mousepad
+from desktop import (Vellumry, accessible, active_window, copy_text, focused_window, key, main, open_panel, own_tests, run, same,
+                     text_of, wait_for_clip, wait_panel_closed, wait_until, windows)
 
 BAR = "^Paste Stack$"
 MESSAGE = "^Vellumry message$"
@@ -28,7 +28,7 @@ def press_at(x, y):
 
 def the_bar_stops_the_stack_and_the_editor_keeps_the_keyboard():
     """A click on the cross acts at once while another application is active, and that one stays active."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         before = active_window(), focused_window()
         key("super+ctrl+s")
         window = wait_until(bar, "the bar")
@@ -47,7 +47,7 @@ def the_bar_stops_the_stack_and_the_editor_keeps_the_keyboard():
 
 def a_finished_stack_takes_its_bar_along():
     """The last paste leaves the bar up for a moment only."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         key("super+ctrl+s")
         wait_until(bar, "the bar")
         copy_text("the only one")
@@ -59,7 +59,7 @@ def a_finished_stack_takes_its_bar_along():
 
 def the_panels_button_starts_a_stack():
     """The panel makes room for what is to be copied, and the editor has the keyboard."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         open_panel()
         button = wait_until(lambda: accessible("vellumry", "push button", "^Stack$"), "the button")
         area = button.queryComponent().getExtents(0)
@@ -75,7 +75,7 @@ def the_panels_button_starts_a_stack():
 
 def the_bar_tells_what_its_buttons_do():
     """Below the bar, as long as the pointer rests on a button; the editor keeps the keyboard."""
-    with Vellumry(), GtkEditor():
+    with Vellumry(), Mousepad():
         before = active_window(), focused_window()
         key("super+ctrl+s")
         x, y, width, height = geometry(wait_until(bar, "the bar"))
@@ -91,7 +91,7 @@ def the_bar_tells_what_its_buttons_do():
 
 def a_message_lets_clicks_through():
     """The pointer is over what lies under a message."""
-    with Vellumry(), GtkEditor():
+    with Vellumry(), Mousepad():
         key("super+alt+3")
         window = wait_until(lambda: (windows(MESSAGE) or [None])[0], "the message")
         x, y, width, height = geometry(window)

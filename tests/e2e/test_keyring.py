@@ -7,9 +7,9 @@ import subprocess
 import tempfile
 
 import keyring
-from clients import QtEditor
-from desktop import (DATA, QUIET, Process, Vellumry, copy_text, key, main, open_panel, own_tests, picture,
-                     run, same, wait_panel_closed, wait_until, windows)
+from clients import FeatherPad
+from desktop import (DATA, QUIET, Process, Vellumry, copy_text, key, main, open_panel, own_tests, picture, run, same,
+                     wait_panel_closed, wait_until, windows)
 from history_probe import HistoryProbe, ids
 
 ITEM = ("service", "com.vellumry.Vellumry.history", "account", "history-key-v1")
@@ -67,7 +67,7 @@ def works_in_memory(name):
     subprocess.run(["xdotool", "windowactivate", "--sync", windows("^Vellumry$")[0]], **QUIET)
     key("Return")
     wait_panel_closed()
-    with QtEditor() as editor:
+    with FeatherPad() as editor:
         for text in ("held in memory, first", "held in memory, second"):
             copy_text(text)
             wait_until(lambda: pasted(editor) == text, "the copy on top of the panel")

@@ -12,12 +12,11 @@ import urllib.parse
 
 from Xlib import X, display
 
-from clients import GtkEditor
-from desktop import (QUIET, SETTINGS, Vellumry, accessible, active_window, clipboard, copy_bytes, copy_text, focus,
-                     key, main, open_panel, own_tests, picture, representation, same, text_of, unsealed, wait_for_clip,
-                     wait_panel_closed, wait_until, windows)
-from owner import LoggingOwner
-from password_fields import FieldWindow, LockedVault
+from clients import FieldWindow, LockedKeePassXC, Mousepad
+from clients.owners import Owner
+from desktop import (QUIET, SETTINGS, Vellumry, accessible, active_window, clipboard, copy_bytes, focus, key, main, open_panel,
+                     own_tests, picture, remember, representation, same, text_of, unsealed, wait_for_clip, wait_panel_closed,
+                     wait_until, windows)
 
 COPIED = "Copied. Press Ctrl+V to paste"
 SECURE = "This field blocks pasting from apps. Press Ctrl+V"
@@ -50,11 +49,6 @@ def told(expected):
 
 def told_nothing():
     same(windows(MESSAGE), [], "messages")
-
-
-def remember(text):
-    copy_text(text)
-    wait_for_clip(lambda row: text_of(row) == text, "the copy of " + text)
 
 
 def choose(*keys):
@@ -104,7 +98,7 @@ def listed_file():
 
 
 def pasting_presses_the_key_and_says_nothing():
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("plain words")
         choose()
         wait_until(lambda: editor.content() == "plain words", "the paste")
@@ -114,7 +108,7 @@ def pasting_presses_the_key_and_says_nothing():
 def without_direct_paste_it_copies_and_says_so():
     settings("pasteDirectly=false")
     try:
-        with Vellumry(), GtkEditor() as editor:
+        with Vellumry(), Mousepad() as editor:
             remember("older")
             remember("newer")
             choose("Down", "Return")
@@ -128,7 +122,7 @@ def without_direct_paste_it_copies_and_says_so():
 
 
 def a_keyboard_that_another_program_holds_gets_nothing():
-    with Vellumry() as program, GtkEditor() as editor:
+    with Vellumry() as program, Mousepad() as editor:
         remember("a secret place")
         other = display.Display()
         open_panel_with_a_row()
@@ -154,7 +148,7 @@ def a_password_field_gets_nothing():
 def a_password_field_of_a_qt_program_gets_nothing():
     with Vellumry():
         remember("not a password")
-        with LockedVault():
+        with LockedKeePassXC():
             choose()
             told(SECURE)
             same(clipboard(), b"not a password", "the clipboard")
@@ -169,8 +163,8 @@ def a_common_field_beside_a_password_field_gets_its_paste():
 
 
 def plain_text_goes_without_its_style():
-    with Vellumry(), GtkEditor() as editor:
-        LoggingOwner({"UTF8_STRING": b"styled", "text/html": b"<b>styled</b>"})
+    with Vellumry(), Mousepad() as editor:
+        Owner({"UTF8_STRING": b"styled", "text/html": b"<b>styled</b>"})
         row = wait_for_clip(lambda row: text_of(row) == "styled", "the styled copy")
         same(representation(row, "public.html"), b"<b>styled</b>", "the style of the clip")
         choose("shift+Return")
@@ -180,7 +174,7 @@ def plain_text_goes_without_its_style():
 
 
 def a_transform_changes_the_words():
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("Words OF a Clip")
         choose("ctrl+t", "Return")
         wait_until(lambda: editor.content() == "words of a clip", "lower case in the editor")
@@ -188,7 +182,7 @@ def a_transform_changes_the_words():
 
 
 def a_moved_file_pastes_from_its_new_place():
-    with Vellumry(), GtkEditor():
+    with Vellumry(), Mousepad():
         path = copied_file()
         moved = os.path.join(os.path.dirname(path), "renamed.txt")
         os.rename(path, moved)
@@ -198,7 +192,7 @@ def a_moved_file_pastes_from_its_new_place():
 
 
 def a_file_in_the_trash_still_pastes():
-    with Vellumry(), GtkEditor():
+    with Vellumry(), Mousepad():
         path = copied_file()
         trash = os.path.join(os.environ["XDG_DATA_HOME"], "Trash")
         for folder in ("files", "info"):
@@ -216,7 +210,7 @@ def a_file_in_the_trash_still_pastes():
 
 
 def a_deleted_file_is_told_and_leaves_the_clipboard_alone():
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         path = copied_file()
         os.remove(path)
         choose()
@@ -232,7 +226,7 @@ def without_the_right_to_read_anything():
 
 
 def a_file_that_may_not_be_read_is_told_by_its_folder():
-    with Vellumry(preexec_fn=without_the_right_to_read_anything), GtkEditor() as editor:
+    with Vellumry(preexec_fn=without_the_right_to_read_anything), Mousepad() as editor:
         path = copied_file("Documents")
         os.chmod(path, 0)
         choose()
@@ -244,7 +238,7 @@ def a_file_that_may_not_be_read_is_told_by_its_folder():
 
 
 def a_target_that_closes_under_the_panel_leaves_its_text_to_nobody():
-    with Vellumry(), FieldWindow("name") as neighbour, GtkEditor() as editor:
+    with Vellumry(), FieldWindow("name") as neighbour, Mousepad() as editor:
         remember("meant for the editor")
         open_panel_with_a_row()
         editor.stop()
@@ -260,7 +254,7 @@ def a_target_that_closes_under_the_panel_leaves_its_text_to_nobody():
 
 def a_window_that_opens_over_the_panel_gets_nothing():
     """It takes the keyboard, so the panel goes; a Return is the new window's own."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("meant for the editor")
         open_panel_with_a_row()
         with FieldWindow("name") as newcomer:
@@ -273,7 +267,7 @@ def a_window_that_opens_over_the_panel_gets_nothing():
 
 def a_window_that_takes_the_keyboard_after_return_gets_nothing():
     """The user clicks on between Return and the press: what was meant for the editor is copied only."""
-    with Vellumry() as program, FieldWindow("name") as neighbour, GtkEditor() as editor:
+    with Vellumry() as program, FieldWindow("name") as neighbour, Mousepad() as editor:
         remember("meant for the editor")
         open_panel_with_a_row()
         other = display.Display()

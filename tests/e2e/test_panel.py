@@ -3,11 +3,11 @@
 
 import os
 
-from clients import GtkEditor
+from clients import Mousepad
 from desktop import (Process, Vellumry, accessible, active_window, clipboard, focus_under_new_manager, focused_window, fresh, key,
-                     main, open_panel, panel_is_open, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until,
-                     windows)
-from panel_rows import click, point_at, remember, row, texts_kept
+                     main, open_panel, panel_is_open, remember, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed,
+                     wait_until, windows)
+from panel_rows import click, point_at, row, texts_kept
 
 FOLLOWING_MOUSE = """<?xml version="1.0"?>
 <openbox_config xmlns="http://openbox.org/3.4/rc"><focus><followMouse>yes</followMouse><focusDelay>0</focusDelay></focus>
@@ -45,7 +45,7 @@ def pins_and_unpins():
 
 def deletes_the_chosen_clip():
     """Ctrl+Backspace deletes; the next one is chosen, and Return pastes it."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("keep me", "delete me", "newest")
         open_panel()
         key("Down")
@@ -69,7 +69,7 @@ def merges_and_stays():
 
 def copies_a_merge_and_a_clip():
     """Ctrl+C copies the chosen clip, or the merge of several, and presses nothing."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("first", "second")
         open_panel()
         key("Down")
@@ -105,7 +105,7 @@ def clicks_choose_ranges_and_single_clips():
 
 def a_double_click_with_ctrl_pastes_nothing():
     """Two quick clicks with Ctrl held choose and leave; without it they paste."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("older", "newer")
         open_panel()
         point_at("older")
@@ -139,7 +139,7 @@ def pastes_where_the_focus_follows_the_mouse():
     settings = os.path.join(os.environ["HOME"], "following.xml")
     with open(settings, "w", encoding="utf-8") as file:
         file.write(FOLLOWING_MOUSE)
-    with Vellumry(), GtkEditor() as editor, Process("xterm", "-geometry", "60x20+700+300") as terminal:
+    with Vellumry(), Mousepad() as editor, Process("xterm", "-geometry", "60x20+700+300") as terminal:
         wait_until(lambda: windows("xterm|sh"), "the terminal")
         other = run("xdotool", "search", "--onlyvisible", "--class", "XTerm").decode().split()[-1]
         with Process("openbox", "--replace", "--config-file", settings):

@@ -4,16 +4,15 @@
 import os
 import stat
 
-from clients import GtkEditor
-from desktop import (Vellumry, accessible, active_window, clipboard, key, main, open_panel, own_tests, panel_is_open, picture, run,
-                     same, text_of, text_shown, type_text, wait_for_clip, wait_panel_closed, wait_until)
-from panel_rows import (choose, menu_entries, menu_entry, middle, open_row_menu, remember, row, texts_kept,
-                        wait_menu_closed)
+from clients import Mousepad
+from desktop import (Vellumry, accessible, active_window, clipboard, key, main, open_panel, own_tests, panel_is_open, picture,
+                     remember, run, same, text_of, text_shown, type_text, wait_for_clip, wait_panel_closed, wait_until)
+from panel_rows import choose, menu_entries, menu_entry, middle, open_row_menu, row, texts_kept, wait_menu_closed
 
 
 def pastes_a_clip():
     """Paste."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("older", "newer")
         open_panel()
         open_row_menu("older")
@@ -27,7 +26,7 @@ def pastes_a_clip():
 
 def pastes_plain_and_transformed():
     """Paste as Plain Text, and an entry of the submenu, which opens where the pointer rests."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("Some Words")
         open_panel()
         open_row_menu("Some Words")
@@ -48,7 +47,7 @@ def pastes_plain_and_transformed():
 
 def copies_a_clip():
     """Copy puts the clip on the clipboard and presses nothing."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("older", "newer")
         open_panel()
         open_row_menu("older")
@@ -78,7 +77,7 @@ def pins_unpins_and_deletes():
 
 def adds_to_the_stack():
     """Add to Paste Stack starts a stack with the clip, which the next paste key gives."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("stacked", "newer")
         open_panel()
         open_row_menu("stacked")
@@ -92,7 +91,7 @@ def adds_to_the_stack():
 
 def works_on_several():
     """The menu of several clips merges, stacks, pins and deletes all of them."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("one", "two", "three")
         open_panel()
         key("shift+Down")
@@ -120,7 +119,7 @@ def works_on_several():
 
 def pastes_one_by_one():
     """Paste One by One: the paste keys that follow give the clips in the order of their copying."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("first ", "second ")
         open_panel()
         key("shift+Down")
@@ -158,7 +157,7 @@ def opens_a_link():
 
 def is_worked_by_keys_alone():
     """Menu key and Shift+F10 open it; arrows, a letter, Right and Return work it; typing reaches no field meanwhile."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("a clip")
         for opener in ("Menu", "shift+F10"):
             open_panel()

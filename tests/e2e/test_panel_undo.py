@@ -4,9 +4,9 @@
 import os
 import signal
 
-from desktop import (HISTORY, Vellumry, accessible, key, main, open_panel, own_tests, panel_is_open, picture, run, same, text_of,
-                     text_shown, type_text, unsealed, wait_for_clip, wait_panel_closed, wait_until)
-from panel_rows import middle, remember, row, texts_kept
+from desktop import (HISTORY, Vellumry, accessible, key, main, open_panel, own_tests, panel_is_open, picture, remember, run, same,
+                     text_of, text_shown, type_text, unsealed, wait_for_clip, wait_panel_closed, wait_until)
+from panel_rows import middle, row, texts_kept
 
 
 def undo_button():

@@ -3,17 +3,11 @@
 
 import os
 
-from clients import GtkEditor
+from clients import Mousepad
 from desktop import (Vellumry, accessible, clipboard, copy_bytes, copy_text, fresh, key, main, open_panel, own_tests, panel_is_open,
-                     run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until)
+                     remember, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until)
 
 TEN_MEGABYTES = "".join(f"line {number:07d} of a long text that nobody reads to its end\n" for number in range(180_000))
-
-
-def remember(*texts):
-    for text in texts:
-        copy_text(text)
-        wait_for_clip(lambda row: text_of(row) == text, "the copy")
 
 
 def shows(text, role="label"):
@@ -29,7 +23,7 @@ def press(name):
 
 def pastes_what_it_shows():
     """The chosen text is there in full with where it came from; its button pastes it."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("the first line\nand the second")
         open_panel()
         shows("^the first line\nand the second$")
@@ -56,7 +50,7 @@ def pins_and_deletes():
 
 def transforms_as_it_shows():
     """Ctrl+T opens the list, Down shows the next rewriting, the button pastes it."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("Some Words")
         open_panel()
         key("ctrl+t")
@@ -70,7 +64,7 @@ def transforms_as_it_shows():
 
 def several_are_merged():
     """Several chosen clips are counted, and merged by the button."""
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         remember("first", "second")
         open_panel()
         key("shift+Down")
@@ -82,7 +76,7 @@ def several_are_merged():
 
 def a_picture_is_shown():
     """A picture is opened and shown, and its button puts it back on the clipboard."""
-    with Vellumry(), GtkEditor():
+    with Vellumry(), Mousepad():
         picture = run("convert", "-size", "1600x900", "gradient:navy-orange", "png:-")
         copy_bytes(picture, "image/png")
         wait_for_clip(lambda row: row["kind"] == 3, "the picture")

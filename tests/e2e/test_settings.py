@@ -8,8 +8,8 @@ import tempfile
 
 from Xlib import X, display
 
-from desktop import (PROGRAM, SETTINGS, Vellumry, accessible, copy_text, fresh, key, main, open_panel, panel_is_open, same, text_of,
-                     unsealed, wait_for_clip, wait_panel_closed, wait_until, windows)
+from desktop import (PROGRAM, SETTINGS, Vellumry, accessible, copy_text, fresh, key, main, open_panel, panel_is_open, remember,
+                     same, text_of, unsealed, wait_panel_closed, wait_until, windows)
 
 MESSAGE = "^Vellumry message$"
 KEYCODE_OF_V = 55
@@ -44,11 +44,6 @@ def act(action):
 
 def status():
     return subprocess.run([PROGRAM, "--status"], stdout=subprocess.PIPE, timeout=60).stdout.decode()
-
-
-def remember(text):
-    copy_text(text)
-    wait_for_clip(lambda row: text_of(row) == text, "the copy of " + text)
 
 
 def clear_button():

@@ -3,7 +3,7 @@
 
 from Xlib import X, display
 
-from clients import GtkEditor
+from clients import Mousepad
 from desktop import (Failure, Process, Vellumry, accessible, copy_text, focus_under_new_manager, key, main, open_panel, own_tests,
                      run, same, text_of, type_text, wait_for_clip, wait_panel_closed, wait_until, windows)
 
@@ -45,7 +45,7 @@ def numbers_of(client, texts):
 
 
 def each_digit_pastes_its_pinned_clip():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         texts = ["alpha", "beta", "gamma"]
         pin(*texts)
         numbers_of(client, texts)
@@ -64,7 +64,7 @@ def paste_under_new_layout(client, text, layout):
 
 
 def they_follow_the_layout():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         pin("alpha")
         try:
             for layout in ("de", "dvorak", "ru,us", "us"):
@@ -83,7 +83,7 @@ def what_another_program_holds_is_left_to_it():
         other.screen().root.grab_key(KEYCODE_OF_3, ALT | SUPER | locks, True, X.GrabModeAsync, X.GrabModeAsync)
     other.sync()
     try:
-        with Vellumry(), GtkEditor() as client:
+        with Vellumry(), Mousepad() as client:
             texts = ["alpha", "beta", "gamma", "delta"]
             pin(*texts)
             found = {}
@@ -103,7 +103,7 @@ def what_another_program_holds_is_left_to_it():
 
 
 def a_pinned_clip_does_not_advance_a_running_stack():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         pin("pinned")
         key("super+ctrl+s")
         wait_until(lambda: windows("^Paste Stack$"), "the stack")
@@ -122,7 +122,7 @@ def a_pinned_clip_does_not_advance_a_running_stack():
 
 # The last one: it takes the desktop's window manager away.
 def they_outlive_the_window_manager():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         pin("alpha")
         before = run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
         with Process("openbox", "--replace"):

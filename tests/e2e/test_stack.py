@@ -4,15 +4,16 @@
 import os
 import shutil
 
-from clients import GtkEditor, QtEditor, XTerminal
-from desktop import (DATA, Vellumry, accessible, active_window, clipboard, copy_text, key, main, open_panel, own_tests, panel_is_open,
-                     picture, run, same, type_text, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until)
+from clients import FeatherPad, Mousepad, XTerm
+from desktop import (DATA, Vellumry, accessible, active_window, clipboard, copy_text, key, main, open_panel, own_tests,
+                     panel_is_open, picture, remember, run, same, text_of, type_text, unsealed, wait_for_clip, wait_panel_closed,
+                     wait_until)
 from history_probe import ids
-from stack import TOGGLE, is_running, paste_each, remember, start_stack, wait_ended
+from stack import TOGGLE, is_running, paste_each, start_stack, wait_ended
 
 
 def copies_come_back_in_a_gtk_editor():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
         remember("one ", "two ", "three ")
         picture("stack")
@@ -23,7 +24,7 @@ def copies_come_back_in_a_gtk_editor():
 
 
 def copies_come_back_in_a_qt_editor():
-    with Vellumry(), QtEditor() as client:
+    with Vellumry(), FeatherPad() as client:
         start_stack()
         remember("one ", "two ", "three ")
         paste_each(client, "ctrl+v", ["one ", "two ", "three "])
@@ -31,7 +32,7 @@ def copies_come_back_in_a_qt_editor():
 
 
 def what_is_copied_in_the_client_itself_is_taken():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
         for word in ("red", "green", "blue"):
             client.type_and_copy(word)
@@ -42,7 +43,7 @@ def what_is_copied_in_the_client_itself_is_taken():
 
 
 def a_terminal_pastes_with_its_own_keys():
-    with Vellumry(), XTerminal() as client:
+    with Vellumry(), XTerm() as client:
         start_stack()
         remember("alpha\n", "beta\n", "gamma\n")
         paste_each(client, "shift+Insert", ["alpha\n", "beta\n", "gamma\n"])
@@ -50,7 +51,7 @@ def a_terminal_pastes_with_its_own_keys():
 
 
 def with_shift_held_it_pastes_too():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
         remember("one ", "two ")
         key("ctrl+shift+v")
@@ -61,7 +62,7 @@ def with_shift_held_it_pastes_too():
 
 
 def other_keys_do_not_advance_it():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
         remember("one ", "two ")
         key("super+ctrl+v")
@@ -80,7 +81,7 @@ def other_keys_do_not_advance_it():
 
 
 def holding_the_keys_down_advances_once():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
         remember("a", "b", "c")
         try:
@@ -97,7 +98,7 @@ def holding_the_keys_down_advances_once():
 
 
 def an_empty_one_leaves_the_clipboard_alone():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         remember("mine")
         start_stack()
         key("ctrl+v")
@@ -108,7 +109,7 @@ def an_empty_one_leaves_the_clipboard_alone():
 
 
 def reversed_the_newest_goes_first():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
         remember("one ", "two ", "three ")
         key("ctrl+v")
@@ -126,7 +127,7 @@ def reversed_the_newest_goes_first():
 
 
 def stopped_by_hand_the_last_item_stays():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
         remember("one", "two")
         key("ctrl+v")
@@ -139,7 +140,7 @@ def stopped_by_hand_the_last_item_stays():
 
 
 def a_copy_of_a_moment_ago_comes_first():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
         for number in range(10):
             # Nothing is waited for between the copy and the key.
@@ -155,7 +156,7 @@ def a_copy_of_a_moment_ago_comes_first():
 
 
 def selected_clips_are_pasted_oldest_first():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         remember("one ", "two ", "three ")
         open_panel()
         key("shift+Down", "shift+Down")
@@ -169,7 +170,7 @@ def selected_clips_are_pasted_oldest_first():
 
 def ten_a_second_lose_and_double_nothing():
     rounds = int(os.environ.get("VELLUMRY_STACK_PASTES", "60"))
-    for make in (GtkEditor, QtEditor):
+    for make in (Mousepad, FeatherPad):
         shutil.rmtree(DATA, ignore_errors=True)
         with Vellumry(), make() as client:
             start_stack()

@@ -2,30 +2,14 @@
 """Quick paste keys: each item once and in its order, however slow the program and whoever else reads the clipboard."""
 
 import os
-import subprocess
 
-from clients import GtkEditor
-from desktop import Process, Vellumry, focus, main, own_tests, run, same, wait_until, window_of_class
-from stack import remember, start_stack, wait_ended
+from clients import ClipboardReader, Mousepad, SlowWindow
+from desktop import Vellumry, main, own_tests, remember, run, same, wait_until
+from stack import start_stack, wait_ended
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 WORDS = [f"item {number}" for number in range(1, 7)]
 ROUNDS = 3
-
-
-class SlowWindow(Process):
-    def __init__(self, delay):
-        super().__init__("/usr/bin/python3", os.path.join(HERE, "slow_window.py"), str(delay), stdout=subprocess.PIPE)
-        focus(window_of_class("Slow"))
-
-    def pasted(self, count):
-        return [self.handle.stdout.readline().decode().rstrip("\n") for _ in range(count)]
-
-
-class Reader(Process):
-    def __init__(self):
-        super().__init__("/usr/bin/python3", os.path.join(HERE, "clipboard_reader.py"), stdout=subprocess.PIPE)
-        self.handle.stdout.readline()
 
 
 def press_paste(milliseconds):
@@ -44,11 +28,11 @@ def keys_150_milliseconds_apart_into_a_slow_program():
 
 
 def quick_keys_beside_a_program_that_reads_everything():
-    with Vellumry(), Reader():
+    with Vellumry(), ClipboardReader():
         for _ in range(ROUNDS):
             start_stack()
             remember(*[word + " " for word in WORDS])
-            with GtkEditor() as editor:
+            with Mousepad() as editor:
                 press_paste(12)
                 wait_until(lambda: editor.content() == "".join(word + " " for word in WORDS), "each item once, in its order")
             wait_ended()

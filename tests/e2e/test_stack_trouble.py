@@ -4,25 +4,23 @@
 import os
 import shutil
 import signal
-import subprocess
 import tempfile
 
 from Xlib import X, display
 
-from clients import GtkEditor, QtEditor, XTerminal
+from clients import FeatherPad, HangingOwner, KeyWindow, Mousepad, XTerm
 from desktop import (DATA, SETTINGS, Process, Vellumry, accessible, copy_bytes, copy_text, focus, focus_under_new_manager, key,
-                     main, own_tests, run, same, text_of, type_text, unsealed, wait_for_clip, wait_until)
+                     main, own_tests, remember, run, same, text_of, type_text, unsealed, wait_for_clip, wait_until)
 from history_probe import ids
-from key_window import KeyWindow
-from stack import TOGGLE, is_running, paste_each, remember, start_stack, wait_ended
+from stack import TOGGLE, is_running, paste_each, start_stack, wait_ended
 
 LARGE = 100_000_000
 
 
 def an_owner_that_ends_does_not_take_its_copies_along():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
-        owner = QtEditor()
+        owner = FeatherPad()
         owner.type_and_copy("from the other editor")
         wait_for_clip(lambda row: text_of(row) == "from the other editor", "the copy")
         owner.stop(signal.SIGKILL)
@@ -34,12 +32,10 @@ def an_owner_that_ends_does_not_take_its_copies_along():
 
 
 def an_owner_that_hangs_does_not_hold_the_keyboard():
-    here = os.path.dirname(os.path.abspath(__file__))
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
         remember("one ", "two ")
-        with Process("/usr/bin/python3", os.path.join(here, "hostile_owner.py"), "hang", stdout=subprocess.PIPE) as owner:
-            owner.handle.stdout.readline()
+        with HangingOwner():
             focus(client.window)
             paste_each(client, "ctrl+v", ["one "])
             type_text("x")
@@ -52,7 +48,7 @@ def an_owner_that_hangs_does_not_hold_the_keyboard():
 def a_program_that_keeps_copying_meanwhile_mixes_nothing_up():
     """Its copies fall before, between and behind the stack's own writing; those that were noticed wait their turn all the same."""
     presses = 6
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
         remember("one ", "two ", "three ", "four ", "five ", "six ", "seven ")
         copies = [f"copy {number} " for number in range(30)]
@@ -78,7 +74,7 @@ def a_program_that_keeps_copying_meanwhile_mixes_nothing_up():
 
 
 def a_stopped_program_in_front_does_not_hold_the_keyboard():
-    with Vellumry(), XTerminal() as client, GtkEditor() as stopped:
+    with Vellumry(), XTerm() as client, Mousepad() as stopped:
         start_stack()
         remember("one\n", "two\n", "three\n")
         focus(stopped.window)
@@ -96,7 +92,7 @@ def deleted_files_are_passed_over():
     path = os.path.join(folder, "doomed.txt")
     with open(path, "w", encoding="utf-8") as file:
         file.write("content")
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
         copy_bytes(("file://" + path + "\r\n").encode(), "text/uri-list")
         wait_for_clip(lambda row: row["kind"] == 4, "the file")
@@ -109,7 +105,7 @@ def deleted_files_are_passed_over():
 
 def a_grabbed_keyboard_is_left_alone():
     """A screen locker has the keyboard: keys go to it, the stack waits."""
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
         remember("one ", "two ")
         locker = display.Display()
@@ -171,7 +167,7 @@ def large_texts_hold_no_key_and_arrive_whole():
 
 # The last one: it takes the desktop's window manager away.
 def a_new_window_manager_changes_nothing():
-    with Vellumry(), GtkEditor() as client:
+    with Vellumry(), Mousepad() as client:
         start_stack()
         remember("one ", "two ", "three ")
         paste_each(client, "ctrl+v", ["one "])

@@ -7,7 +7,7 @@ import signal
 import sqlite3
 import time
 
-from clients import GtkEditor, QtEditor
+from clients import FeatherPad, Mousepad
 from desktop import (HISTORY, SETTINGS, Failure, Vellumry, accessible, clipboard, copy_text, key, main, open_panel, own_tests,
                      panel_is_open, run, same, wait_panel_closed, wait_until)
 from history_probe import HistoryProbe, ids, integrity
@@ -154,7 +154,7 @@ def restart_the_window_manager():
 
 
 def the_shortcut_outlives_the_window_manager():
-    with Vellumry(), GtkEditor() as editor:
+    with Vellumry(), Mousepad() as editor:
         probe = HistoryProbe()
         probe.copy_is_prompt("pasted after the restart")
         restart_the_window_manager()
@@ -182,7 +182,7 @@ def press_until_open(keys):
 
 
 def the_shortcut_and_the_paste_follow_the_layout():
-    with Vellumry(), QtEditor() as editor:
+    with Vellumry(), FeatherPad() as editor:
         probe = HistoryProbe()
         try:
             for layout in ("de", "dvorak", "ru,us", "us"):

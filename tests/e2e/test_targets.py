@@ -7,18 +7,17 @@
 import os
 import sys
 
-from desktop import (Failure, Vellumry, copy_text, fresh, key, main, open_panel, text_of, type_text, wait_for_clip, wait_panel_closed,
-                     wait_until, windows)
-from targets import HEAVY, LIGHT
+from clients import (Chromium, FeatherPad, Firefox, Geany, GnomeTerminal, GnomeTextEditor, Kate, Kitty, Konsole, LxTerminal, Mousepad,
+                     Rxvt, SwingWindow, Writer, XfceTerminal, XTerm)
+from desktop import Failure, Vellumry, fresh, key, main, open_panel, remember, type_text, wait_panel_closed, wait_until
+from stack import start_stack, wait_ended
+
+LIGHT = (XTerm, Rxvt, LxTerminal, Mousepad, GnomeTextEditor, FeatherPad, Chromium)
+HEAVY = (Konsole, Kitty, XfceTerminal, GnomeTerminal, Geany, Kate, Firefox, Writer, SwingWindow)
 
 PINNED = "pinned Größe 5 €"
 CHOSEN = "chosen words 漢字"
 STACKED = ("first öne;", "second twö")
-
-
-def remember(text):
-    copy_text(text)
-    wait_for_clip(lambda row: text_of(row) == text, "the copy of " + text)
 
 
 def shows(target, text):
@@ -26,7 +25,7 @@ def shows(target, text):
     for _ in range(6):
         target.settle()
         try:
-            return wait_until(lambda: text in target.content().replace("\n", ""), text, 2)
+            return wait_until(lambda: text in (target.content() or "").replace("\n", ""), text, 2)
         except Failure:
             continue
     raise Failure(f"waited in vain for {text!r} in {target.title}; it holds {target.content()!r:.200}")
@@ -46,18 +45,12 @@ def by_pin_key(target):
 
 
 def by_stack(target):
-    key("super+ctrl+s")
-    wait_until(stack_is_shown, "the display of the stack")
-    for text in STACKED:
-        remember(text)
+    start_stack()
+    remember(*STACKED)
     for text in STACKED:
         key(target.paste_key)
         shows(target, text)
-    wait_until(lambda: not stack_is_shown(), "the stack to end")
-
-
-def stack_is_shown():
-    return windows("^Paste Stack$")
+    wait_ended()
 
 
 WAYS = (by_return, by_pin_key, by_stack)
@@ -73,13 +66,13 @@ def tell(target, results):
 def pastes_into(kind):
     def test():
         with Vellumry():
-            remember(CHOSEN)
-            remember(PINNED)
+            remember(CHOSEN, PINNED)
             open_panel()
             key("ctrl+p")
             key("Escape")
             wait_panel_closed()
             with kind() as target:
+                target.get_ready()
                 results = []
                 for way in WAYS:
                     try:

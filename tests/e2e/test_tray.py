@@ -6,9 +6,9 @@ import time
 
 from gi.repository import GLib
 
-from clients import GtkEditor
-from desktop import (Failure, Vellumry, clipboard, copy_text, focus, main, open_panel, own_tests, panel_is_open, same, text_of, unsealed,
-                     wait_for_clip, wait_until, windows)
+from clients import Mousepad
+from desktop import (Failure, Vellumry, clipboard, copy_text, focus, main, open_panel, own_tests, panel_is_open, same, text_of,
+                     unsealed, wait_for_clip, wait_until, windows)
 from tray import MENU, Watcher, connect
 
 FIXED = ["Open Vellumry", "Start Paste Stack", "Pause Capture", "Ignore Next Copy", "Save New Screenshots", "Clear History…", "-"]
@@ -49,7 +49,7 @@ def the_menu_is_made_anew_at_each_opening():
 
 
 def a_row_is_pasted_into_the_window_in_front():
-    with Watcher() as watcher, Vellumry(), GtkEditor() as editor:
+    with Watcher() as watcher, Vellumry(), Mousepad() as editor:
         item = watcher.item()
         keep("from the menu")
         keep("copied later")
@@ -59,7 +59,7 @@ def a_row_is_pasted_into_the_window_in_front():
 
 
 def a_row_shown_a_while_ago_pastes_what_it_showed():
-    with Watcher() as watcher, Vellumry(), GtkEditor() as editor:
+    with Watcher() as watcher, Vellumry(), Mousepad() as editor:
         item = watcher.item()
         keep("shown first")
         shown = item.open_until(lambda menu: "shown first" in menu.labels(), "the row").entry("shown first")

@@ -1,12 +1,11 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The main job, played once for people to see: copies in several applications, two letters, Return, a paste; a picture of each step."""
 
-import subprocess
 
 
-from clients import GtkEditor, QtEditor
-from desktop import (QUIET, Vellumry, accessible, copy_bytes, copy_text, key, open_panel, picture, run, text_of, type_text,
-                     wait_for_clip, wait_panel_closed, wait_until, windows)
+from clients import FeatherPad, Mousepad
+from desktop import (Vellumry, accessible, copy_bytes, copy_text, key, open_panel, picture, run, text_of, type_text, wait_for_clip,
+                     wait_panel_closed, wait_until, windows)
 
 COPIES = (
     "Meeting moved to Thursday, 14:30, room Curie",
@@ -35,7 +34,7 @@ def show_what_comes_and_goes():
 
 
 def main():
-    with Vellumry(), QtEditor() as source:
+    with Vellumry(), FeatherPad() as source:
         run("xdotool", "windowmove", source.window, "60", "60")
         for text in COPIES:
             copy_text(text)
@@ -45,7 +44,7 @@ def main():
         source.type_and_copy("The quick brown fox jumps over the lazy dog")
         picture("1-copy")
         wait_for_clip(lambda row: (text_of(row) or "").startswith("The quick"), "the copy in the editor")
-        with GtkEditor() as target:
+        with Mousepad() as target:
             run("xdotool", "windowmove", target.window, "180", "160")
             type_text("Pasted here: ")
             open_panel()
