@@ -9,10 +9,11 @@ import time
 
 import desktop
 from clients import Mousepad, XTerm
-from desktop import (DATA, HISTORY, SETTINGS, Failure, Vellumry, accessible, clipboard, copy_text, focus, fresh, key, main,
-                     open_panel, own_tests, owner_of, panel_is_open, same, wait_panel_closed, wait_until)
+from desktop import (DATA, HISTORY, Failure, Vellumry, accessible, clipboard, copy_text, focus, fresh, key, main, open_panel,
+                     own_tests, owner_of, panel_is_open, same, wait_panel_closed, wait_until)
 from history_probe import HistoryProbe, ids
 from memory_probe import can_look_into, found_in, spread_in
+from settings_file import forget_settings, write_settings
 
 LIFETIME = 10
 # The program itself lets nobody look into its memory; beside it stands one that does and is the same otherwise.
@@ -92,13 +93,11 @@ def nothing_is_left(program, needles):
 
 def with_lifetime(test):
     def whole():
-        os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
-        with open(SETTINGS, "w", encoding="utf-8") as file:
-            file.write(f"[General]\nsensitiveSeconds={LIFETIME}\n")
+        write_settings(f"sensitiveSeconds={LIFETIME}")
         try:
             test()
         finally:
-            os.remove(SETTINGS)
+            forget_settings()
 
     whole.__name__ = test.__name__
     return fresh(whole)

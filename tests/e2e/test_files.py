@@ -4,13 +4,12 @@
 import ctypes
 import glob
 import os
-import shutil
 import sqlite3
 import subprocess
 
-from desktop import (DATA, HISTORY, SETTINGS, QUIET, Failure, Vellumry, accessible, copy_text, key, main, open_panel, own_tests, panel_is_open,
-                     picture, run, same, wait_panel_closed, wait_until, windows)
-from history_probe import HistoryProbe, ids, integrity
+from desktop import (DATA, HISTORY, QUIET, SETTINGS, Vellumry, accessible, copy_text, key, main, open_panel, own_tests,
+                     panel_is_open, picture, run, same, wait_panel_closed, wait_until, windows)
+from history_probe import HistoryProbe, integrity
 
 NEW_MOUNT_NAMESPACE = 0x00020000
 NEW_USER_NAMESPACE = 0x10000000

@@ -1,31 +1,16 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The first run, from an empty home to the first paste, by keys alone and through the accessibility tree."""
 
-import os
-import shutil
 import signal
 
-from Xlib import X, display
-
-from desktop import (SETTINGS, Vellumry, accessible, focus, key, main, own_tests, picture, panel_is_open, same, text_of, text_shown,
+from clients import ShortcutHolder
+from desktop import (Vellumry, accessible, focus, key, main, own_tests, panel_is_open, picture, same, text_of, text_shown,
                      wait_for_clip, wait_panel_closed, wait_until, windows)
+from settings_file import forget_settings, settings
 
 WELCOME = "^Welcome to Vellumry$"
 SAMPLE = "Hello from Vellumry"
 FIELD = "Press Return to paste here"
-KEYCODE_OF_V = 55
-CONTROL, SUPER = 0x4, 0x40
-
-
-def forget_settings():
-    shutil.rmtree(os.path.dirname(SETTINGS), ignore_errors=True)
-
-
-def settings():
-    if not os.path.exists(SETTINGS):
-        return ""
-    with open(SETTINGS, encoding="utf-8") as file:
-        return file.read()
 
 
 def shown(role, name):
@@ -104,11 +89,7 @@ def an_end_of_the_program_brings_it_back_and_closing_it_does_not():
 
 def a_taken_shortcut_is_shown_with_another_that_works():
     forget_settings()
-    other = display.Display()
-    for locks in (0, X.LockMask, X.Mod2Mask, X.LockMask | X.Mod2Mask):
-        other.screen().root.grab_key(KEYCODE_OF_V, CONTROL | SUPER | locks, True, X.GrabModeAsync, X.GrabModeAsync)
-    other.sync()
-    try:
+    with ShortcutHolder():
         with Vellumry(greeted=False):
             welcomed()
             key("Return")
@@ -121,8 +102,6 @@ def a_taken_shortcut_is_shown_with_another_that_works():
             key("ctrl+alt+v")
             wait_until(panel_is_open, "the panel by the other shortcut")
             key("Escape")
-    finally:
-        other.close()
     forget_settings()
 
 

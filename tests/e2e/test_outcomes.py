@@ -14,9 +14,10 @@ from Xlib import X, display
 
 from clients import FieldWindow, LockedKeePassXC, Mousepad
 from clients.owners import Owner
-from desktop import (QUIET, SETTINGS, Vellumry, accessible, active_window, clipboard, copy_bytes, focus, key, main, open_panel,
-                     own_tests, picture, remember, representation, same, text_of, unsealed, wait_for_clip, wait_panel_closed,
-                     wait_until, windows)
+from desktop import (QUIET, Vellumry, accessible, active_window, clipboard, copy_bytes, focus, key, main, open_panel, own_tests,
+                     picture, remember, representation, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until,
+                     windows)
+from settings_file import forget_settings, write_settings
 
 COPIED = "Copied. Press Ctrl+V to paste"
 SECURE = "This field blocks pasting from apps. Press Ctrl+V"
@@ -26,12 +27,6 @@ BLOCKED = "To paste files from Documents, give Vellumry permission to read that 
 DROP_CAPABILITY = 24
 CAPABILITIES_TO_READ_ANYTHING = (1, 2)
 MESSAGE = "^Vellumry message$"
-
-
-def settings(line):
-    os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
-    with open(SETTINGS, "w", encoding="utf-8") as file:
-        file.write(f"[General]\n{line}\n")
 
 
 def message():
@@ -106,7 +101,7 @@ def pasting_presses_the_key_and_says_nothing():
 
 
 def without_direct_paste_it_copies_and_says_so():
-    settings("pasteDirectly=false")
+    write_settings("pasteDirectly=false")
     try:
         with Vellumry(), Mousepad() as editor:
             remember("older")
@@ -118,7 +113,7 @@ def without_direct_paste_it_copies_and_says_so():
             key("ctrl+v")
             wait_until(lambda: editor.content() == "older", "the paste by hand")
     finally:
-        os.remove(SETTINGS)
+        forget_settings()
 
 
 def a_keyboard_that_another_program_holds_gets_nothing():

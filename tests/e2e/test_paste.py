@@ -119,7 +119,7 @@ def escape_gives_the_keyboard_back():
 
 
 def a_click_elsewhere_closes_the_panel():
-    with Vellumry(), Mousepad() as client:
+    with Vellumry(), Mousepad():
         remember(*WORDS)
         open_panel()
         run("xdotool", "mousemove", "5", "1000", "click", "1")

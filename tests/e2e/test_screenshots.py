@@ -5,16 +5,15 @@ import os
 import subprocess
 import time
 
-from desktop import QUIET, SETTINGS, Vellumry, copy_text, main, own_tests, representation, run, same, text_of, unsealed, wait_for_clip
+from desktop import QUIET, Vellumry, copy_text, main, own_tests, representation, run, same, text_of, unsealed, wait_for_clip
+from settings_file import write_settings
 
 PICTURES = os.path.join(os.environ["HOME"], "Pictures")
 SHOTS = os.path.join(PICTURES, "Screenshots")
 
 
 def want_screenshots(wanted):
-    os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
-    with open(SETTINGS, "w", encoding="utf-8") as file:
-        file.write(f"[General]\nsaveNewScreenshots={'true' if wanted else 'false'}\n")
+    write_settings(f"saveNewScreenshots={'true' if wanted else 'false'}")
 
 
 def emptied(folder):

@@ -2,28 +2,15 @@
 """Settings written by hand while the program runs, values that cannot be used, what a start tells, and the actions from outside."""
 
 import os
-import shutil
 import subprocess
 import tempfile
 
-from Xlib import X, display
-
+from clients import ShortcutHolder
 from desktop import (PROGRAM, SETTINGS, Vellumry, accessible, copy_text, fresh, key, main, open_panel, panel_is_open, remember,
                      same, text_of, unsealed, wait_panel_closed, wait_until, windows)
+from settings_file import forget_settings, write_settings
 
 MESSAGE = "^Vellumry message$"
-KEYCODE_OF_V = 55
-CONTROL, SUPER = 0x4, 0x40
-
-
-def write(*lines):
-    os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
-    with open(SETTINGS, "w", encoding="utf-8") as file:
-        file.write("\n".join(("[General]", "onboardingDone=true", *lines)) + "\n")
-
-
-def forget_settings():
-    shutil.rmtree(os.path.dirname(SETTINGS), ignore_errors=True)
 
 
 def message():
@@ -57,12 +44,12 @@ def kept_again():
 
 
 def another_shortcut_written_by_hand_counts_at_once():
-    write()
+    write_settings()
     with Vellumry():
         open_panel()
         key("Escape")
         wait_panel_closed()
-        write(r'openPanelShortcut="{\"keyCode\":11,\"modifiers\":4352}"')
+        write_settings(r'openPanelShortcut="{\"keyCode\":11,\"modifiers\":4352}"')
 
         def opens():
             key("super+ctrl+b")
@@ -73,41 +60,35 @@ def another_shortcut_written_by_hand_counts_at_once():
 
 
 def screenshots_and_pinned_keys_follow_at_once():
-    write()
+    write_settings()
     with Vellumry():
         same("screenshots are not saved" in status(), True, status())
-        write("saveNewScreenshots=true")
+        write_settings("saveNewScreenshots=true")
         wait_until(lambda: "screenshots are saved" in status(), "the watch of the screenshots", 60)
-        write("saveNewScreenshots=false")
+        write_settings("saveNewScreenshots=false")
         wait_until(lambda: "screenshots are not saved" in status(), "no watch", 60)
     forget_settings()
 
 
 def a_shortcut_that_is_taken_is_told_on_the_screen_in_the_log_and_in_the_status():
-    write()
-    other = display.Display()
-    for locks in (0, X.LockMask, X.Mod2Mask, X.LockMask | X.Mod2Mask):
-        other.screen().root.grab_key(KEYCODE_OF_V, CONTROL | SUPER | locks, True, X.GrabModeAsync, X.GrabModeAsync)
-    other.sync()
-    try:
+    write_settings()
+    with ShortcutHolder():
         with tempfile.TemporaryFile() as log:
             with Vellumry(stderr=log):
                 told("Super+Ctrl+V is already used by another app")
                 same("shortcuts: held by another program: openPanelShortcut" in status(), True, status())
             log.seek(0)
             same(b"openPanelShortcut is held by another program" in log.read(), True, "the log")
-    finally:
-        other.close()
     forget_settings()
 
 
 def a_value_that_is_none_costs_no_clips():
-    write()
+    write_settings()
     with Vellumry():
         for text in ("one", "two", "three"):
             remember(text)
     for value in ("keepAtMost=many", "keepAtMost=-5", "mediaLimitMB=8796093022208"):
-        write(value)
+        write_settings(value)
         with tempfile.TemporaryFile() as log:
             with Vellumry(stderr=log):
                 remember("with " + value)
@@ -129,7 +110,7 @@ def a_settings_file_that_is_none_does_not_hold_the_start_up():
 
 
 def the_actions_from_outside_do_what_they_say():
-    write()
+    write_settings()
     with Vellumry() as program:
         remember("before the pause")
         act("pause")

@@ -1,29 +1,13 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The settings window: worked by real keys and through the accessibility tree; what it says counts at once."""
 
-import os
-import shutil
 import subprocess
 
-from desktop import (PROGRAM, SETTINGS, Vellumry, accessible, copy_text, focus, key, main, own_tests, panel_is_open, picture, same,
-                     text_of, wait_for_clip, wait_panel_closed, wait_until, windows)
+from desktop import (PROGRAM, Vellumry, accessible, copy_text, focus, key, main, own_tests, panel_is_open, picture, same, text_of,
+                     wait_for_clip, wait_panel_closed, wait_until, windows)
+from settings_file import forget_settings, settings, write_settings
 
 WINDOW = "^Vellumry Settings$"
-
-
-def write(*lines):
-    os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
-    with open(SETTINGS, "w", encoding="utf-8") as file:
-        file.write("\n".join(("[General]", "onboardingDone=true", *lines)) + "\n")
-
-
-def forget_settings():
-    shutil.rmtree(os.path.dirname(SETTINGS), ignore_errors=True)
-
-
-def settings():
-    with open(SETTINGS, encoding="utf-8") as file:
-        return file.read()
 
 
 def open_settings():
@@ -62,7 +46,7 @@ def tab_to(name):
 
 
 def a_switch_counts_at_once_and_follows_the_file():
-    write()
+    write_settings()
     with Vellumry():
         open_settings()
         shown("page tab", "General")
@@ -70,14 +54,14 @@ def a_switch_counts_at_once_and_follows_the_file():
         key("space")
         wait_until(lambda: "plainTextByDefault=true" in settings(), "the setting")
         wait_until(lambda: is_checked("Paste as plain text by default"), "the switch")
-        write("soundWhenPasting=true")
+        write_settings("soundWhenPasting=true")
         wait_until(lambda: is_checked("Sound when pasting"), "the switch that the file turned")
         wait_until(lambda: not is_checked("Paste as plain text by default"), "the switch that the file turned back")
     forget_settings()
 
 
 def a_shortcut_is_recorded_and_works_at_once():
-    write()
+    write_settings()
     with Vellumry():
         open_settings()
         shown("page tab", "General")
@@ -100,7 +84,7 @@ def a_shortcut_is_recorded_and_works_at_once():
 
 
 def clearing_asks_and_then_clears():
-    write()
+    write_settings()
     with Vellumry():
         copy_text("to be cleared")
         wait_for_clip(lambda row: text_of(row) == "to be cleared", "the copy")
@@ -126,7 +110,7 @@ def clearing_asks_and_then_clears():
 
 
 def a_second_start_brings_the_settings():
-    write()
+    write_settings()
     with Vellumry():
         same(subprocess.run([PROGRAM], timeout=60).returncode, 0, "the second start")
         wait_until(lambda: windows(WINDOW), "the settings")

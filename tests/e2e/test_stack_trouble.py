@@ -9,9 +9,10 @@ import tempfile
 from Xlib import X, display
 
 from clients import FeatherPad, HangingOwner, KeyWindow, Mousepad, XTerm
-from desktop import (DATA, SETTINGS, Process, Vellumry, accessible, copy_bytes, copy_text, focus, focus_under_new_manager, key,
-                     main, own_tests, remember, run, same, text_of, type_text, unsealed, wait_for_clip, wait_until)
+from desktop import (DATA, Process, Vellumry, accessible, copy_bytes, copy_text, focus, focus_under_new_manager, key, main,
+                     own_tests, remember, run, same, text_of, type_text, unsealed, wait_for_clip, wait_until)
 from history_probe import ids
+from settings_file import forget_settings, write_settings
 from stack import TOGGLE, is_running, paste_each, start_stack, wait_ended
 
 LARGE = 100_000_000
@@ -142,9 +143,7 @@ def large_texts_hold_no_key_and_arrive_whole():
     texts = [b"a" * 99 + b"\n", "é漢".encode() * 20]
     contents = [texts[0] * (LARGE // len(texts[0])), b"in between", texts[1] * (LARGE // len(texts[1])), b"last"]
     for plain in ("false", "true"):
-        os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
-        with open(SETTINGS, "w", encoding="utf-8") as file:
-            file.write(f"[General]\nplainTextByDefault={plain}\n")
+        write_settings("plainTextByDefault=" + plain)
         shutil.rmtree(DATA, ignore_errors=True)
         try:
             with Vellumry():
@@ -162,7 +161,7 @@ def large_texts_hold_no_key_and_arrive_whole():
                         same(pasted == content, True, f"{len(content)} bytes arrived, plain: {plain}")
                 wait_ended()
         finally:
-            os.remove(SETTINGS)
+            forget_settings()
 
 
 # The last one: it takes the desktop's window manager away.

@@ -8,8 +8,8 @@ import signal
 import subprocess
 import time
 
-from desktop import (DATA, HISTORY, PROGRAM, QUIET, SETTINGS, Failure, Vellumry, accessible, copy_text, focus, fresh, key, main, open_panel, own_tests,
-                     picture, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until, windows)
+from desktop import (DATA, HISTORY, PROGRAM, QUIET, SETTINGS, Failure, Vellumry, accessible, copy_text, focus, key, main,
+                     open_panel, own_tests, picture, run, same, text_of, unsealed, wait_for_clip, wait_until, windows)
 
 
 def a_second_start_ends_silently():

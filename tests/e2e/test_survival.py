@@ -8,10 +8,11 @@ import sqlite3
 import time
 
 from clients import FeatherPad, Mousepad
-from desktop import (HISTORY, SETTINGS, Failure, Vellumry, accessible, clipboard, copy_text, key, main, open_panel, own_tests,
-                     panel_is_open, run, same, wait_panel_closed, wait_until)
+from desktop import (HISTORY, Failure, Vellumry, accessible, clipboard, copy_text, key, main, open_panel, own_tests, panel_is_open,
+                     run, same, wait_panel_closed, wait_until)
 from history_probe import HistoryProbe, ids, integrity
 from physical_keys import PhysicalKeys
+from settings_file import forget_settings, write_settings
 
 CARD = "4111 1111 1111 1111"
 LIVES = 25
@@ -56,9 +57,7 @@ def stopped_and_continued():
 
 
 def with_ten_seconds_for_secrets():
-    os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
-    with open(SETTINGS, "w", encoding="utf-8") as file:
-        file.write("[General]\nsensitiveSeconds=10\n")
+    write_settings("sensitiveSeconds=10")
 
 
 def sealed_marks():
@@ -117,7 +116,7 @@ def a_card_number_deletes_itself():
             wait_until(lambda: time.monotonic() > began + 10.5, "its time", 12)
             gone_from_everywhere(marks)
     finally:
-        os.remove(SETTINGS)
+        forget_settings()
 
 
 def a_card_number_deletes_itself_after_a_stop_past_its_time():
@@ -131,7 +130,7 @@ def a_card_number_deletes_itself_after_a_stop_past_its_time():
             os.kill(program.pid, signal.SIGCONT)
             gone_from_everywhere(marks)
     finally:
-        os.remove(SETTINGS)
+        forget_settings()
 
 
 def a_card_number_is_gone_after_a_kill_past_its_time():
@@ -144,7 +143,7 @@ def a_card_number_is_gone_after_a_kill_past_its_time():
         with Vellumry():
             gone_from_everywhere(marks)
     finally:
-        os.remove(SETTINGS)
+        forget_settings()
 
 
 def restart_the_window_manager():

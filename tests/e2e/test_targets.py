@@ -7,8 +7,8 @@
 import os
 import sys
 
-from clients import (Chromium, FeatherPad, Firefox, Geany, GnomeTerminal, GnomeTextEditor, Kate, Kitty, Konsole, LxTerminal, Mousepad,
-                     Rxvt, SwingWindow, Writer, XfceTerminal, XTerm)
+from clients import (Chromium, FeatherPad, Firefox, Geany, GnomeTerminal, GnomeTextEditor, Kate, Kitty, Konsole, LxTerminal,
+                     Mousepad, Rxvt, SwingWindow, Writer, XTerm, XfceTerminal)
 from desktop import Failure, Vellumry, fresh, key, main, open_panel, remember, type_text, wait_panel_closed, wait_until
 from stack import start_stack, wait_ended
 

@@ -9,9 +9,10 @@ from .helpers import ClipboardReader, HangingOwner, SlowWindow, store_and_quit
 from .key_window import KeyWindow
 from .passwords import FieldWindow, KeePassXC, LockedKeePassXC
 from .programs import ClawsMail, Gcolor3, Gimp, LibreOffice, Pcmanfm, SwingWindow
+from .shortcut_holder import ShortcutHolder
 from .terminals import GnomeTerminal, Kitty, Konsole, LxTerminal, Rxvt, XfceTerminal, XTerm
 
 __all__ = ["Chromium", "ClawsMail", "Client", "ClipboardReader", "FeatherPad", "FieldWindow", "Firefox", "Gcolor3", "Geany", "Gimp",
            "GnomeTerminal", "GnomeTextEditor", "HangingOwner", "Kate", "KeePassXC", "KeyWindow", "Kitty", "Konsole", "LibreOffice",
-           "LockedKeePassXC", "LxTerminal", "Mousepad", "Pcmanfm", "Rxvt", "SlowWindow", "SwingWindow", "Writer", "XTerm",
-           "XfceTerminal", "fresh_home", "store_and_quit", "until_copied"]
+           "LockedKeePassXC", "LxTerminal", "Mousepad", "Pcmanfm", "Rxvt", "ShortcutHolder", "SlowWindow", "SwingWindow", "Writer",
+           "XTerm", "XfceTerminal", "fresh_home", "store_and_quit", "until_copied"]
