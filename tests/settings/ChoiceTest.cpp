@@ -58,7 +58,7 @@ TEST(SettingsLabels, EachValueHasWords) {
                                 {settingslabels::clips, 5000, "5000 clips"},
                                 {settingslabels::megabytes, 250, "250 MB"},
                                 {settingslabels::megabytes, 1024, "1 GB"},
-                                {settingslabels::megabytes, 1500, "1500 MB"},
+                                {settingslabels::megabytes, 1500, "1,500 MB"},
                                 {settingslabels::recent, 0, "None"},
                                 {settingslabels::recent, 20, "20"},
                                 {settingslabels::appearance, 0, "System"},
