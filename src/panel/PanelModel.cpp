@@ -1,20 +1,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/PanelModel.h"
 
-#include "panel/PanelModelPrivate.h"
+#include "capture/FileStatus.h"
+#include "history/clips/ClipStore.h"
+#include "panel/PanelModelExcerpt.h"
+#include "paste/PasteEngine.h"
+#include "paste/Shortcut.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace vellumry {
 
 PanelModel::PanelModel(ClipStore& store, PasteEngine& paster, PanelModelCalendar calendar, QObject* parent)
     : QObject(parent)
-    , d(std::make_unique<Private>(store, paster, std::move(calendar))) {
-    d->hasAccessibility = paster.isTrusted();
+    , m_store(store)
+    , m_paster(paster)
+    , m_sections(store, calendar)
+    , m_actions(store, paster, calendar.now)
+    , m_hasAccessibility(paster.isTrusted()) {
+    m_actions.onClose = [this] { onClose(); };
+    m_actions.onToast = [this](const ToastMessage& message) { onToast(message); };
+    m_actions.onMerged = [this](const ClipRef& merged) { select(merged->id); };
+    connect(&m_actions, &PanelActions::fileStatusesChanged, this, &PanelModel::fileStatusesChanged);
     connect(&store, &ClipStore::clipsChanged, this, &PanelModel::followStore);
-    connect(&d->undo, &DeletionUndo::changed, this, &PanelModel::undoChanged);
-    connect(&d->undo, &DeletionUndo::tookBack, this, [this](const RemovedClips& clips) {
+    connect(&m_actions.undo(), &DeletionUndo::changed, this, &PanelModel::undoChanged);
+    connect(&m_actions.undo(), &DeletionUndo::tookBack, this, [this](const RemovedClips& clips) {
         QSet<QUuid> ids;
         for (const RemovedClips::Entry& entry : *clips.entries)
             ids.insert(entry.clip->id);
@@ -22,82 +34,42 @@ PanelModel::PanelModel(ClipStore& store, PasteEngine& paster, PanelModelCalendar
     });
 }
 
-PanelModel::~PanelModel() = default;
-
 void PanelModel::prepareForShow() {
-    const auto shownDay = d->today.start;
-    d->today = {}; // asked anew: the user may have travelled
+    const bool isOtherDay = m_sections.updateDay();
     setQuery({});
     setFilter(ClipFilter::all);
-    if (const bool isTrusted = d->paster.isTrusted(); std::exchange(d->hasAccessibility, isTrusted) != isTrusted)
+    if (const bool isTrusted = m_paster.isTrusted(); std::exchange(m_hasAccessibility, isTrusted) != isTrusted)
         Q_EMIT hasAccessibilityChanged();
-    refreshFileStatuses();
+    m_actions.refreshFileStatuses();
     closeTransformList();
-    if (d->sectionCache && d->key().day != shownDay)
+    if (isOtherDay)
         Q_EMIT sectionsChanged();
 
     const auto& clips = visibleClips();
     const auto newest = std::ranges::find_if(clips, [](const ClipRef& clip) { return !clip->isPinned; });
-    if (newest != clips.end())
-        select((*newest)->id);
-    else
-        select(clips.empty() ? std::nullopt : std::optional(clips.front()->id));
-    ++d->focusToken;
+    select(newest == clips.end() ? rows().first() : std::optional((*newest)->id));
+    ++m_focusToken;
     Q_EMIT focusTokenChanged();
 }
 
-QCoro::Task<void> PanelModel::refreshFileStatuses() {
-    const quint64 refresh = ++d->statusRefresh;
-    std::vector<ClipRef> clips;
-    std::vector<FileRef> files;
-    for (const auto& clip : d->store.clips()) {
-        if (clip->kind != ClipKind::file)
-            continue;
-        clips.push_back(clip);
-        files.insert(files.end(), clip->files.begin(), clip->files.end());
-    }
-    if (clips.empty()) {
-        if (!std::exchange(d->fileStatuses, {}).isEmpty())
-            Q_EMIT fileStatusesChanged();
-        co_return;
-    }
-
-    const QPointer<PanelModel> self(this);
-    auto asking = d->paster.fileStatuses(std::move(files));
-    const auto statuses = co_await asking;
-    if (!self || refresh != d->statusRefresh || !statuses)
-        co_return;
-    FileStatuses byClip;
-    auto status = statuses->begin();
-    for (const auto& clip : clips) {
-        const auto end = status + std::ptrdiff_t(clip->files.size());
-        byClip.insert(clip->id, {status, end});
-        status = end;
-    }
-    if (byClip != std::exchange(d->fileStatuses, byClip))
-        Q_EMIT fileStatusesChanged();
-}
-
 void PanelModel::setQuery(const QString& query) {
-    if (query == d->query)
+    if (!m_sections.setQuery(query))
         return;
-    d->query = query;
-    ++d->edits;
+    ++m_edits;
     Q_EMIT queryChanged();
     Q_EMIT sectionsChanged();
 }
 
 void PanelModel::searchTextEdited(const QString& text) {
-    if (text == d->query)
+    if (text == query())
         return;
     setQuery(text);
     resetSelection();
 }
 
 void PanelModel::setFilter(ClipFilter filter) {
-    if (filter == d->filter)
+    if (!m_sections.setFilter(filter))
         return;
-    d->filter = filter;
     Q_EMIT filterChanged();
     Q_EMIT sectionsChanged();
     resetSelection();
@@ -108,64 +80,161 @@ void PanelModel::setFilterIndex(int index) {
         setFilter(allClipFilters[std::size_t(index)]);
 }
 
+void PanelModel::cycleFilter(int delta) {
+    const auto count = int(allClipFilters.size());
+    setFilterIndex((filterIndex() + delta + count) % count);
+}
+
 void PanelModel::setHoveredID(std::optional<QUuid> id) {
-    if (std::exchange(d->hoveredID, id) != id)
+    if (std::exchange(m_hoveredID, id) != id)
         Q_EMIT hoveredIDChanged();
 }
 
 void PanelModel::setPresented(bool value) {
     if (!value)
-        d->undo.forget();
-    if (std::exchange(d->isPresented, value) != value)
+        m_actions.undo().forget();
+    if (std::exchange(m_isPresented, value) != value)
         Q_EMIT isPresentedChanged();
 }
 
 void PanelModel::setAvailablePinnedNumbers(const QSet<int>& numbers) {
-    if (std::exchange(d->availablePinnedNumbers, numbers) != numbers)
+    if (std::exchange(m_availablePinnedNumbers, numbers) != numbers)
         Q_EMIT availablePinnedNumbersChanged();
 }
 
-ClipStore& PanelModel::store() const {
-    return d->store;
+std::optional<QString> PanelModel::imageMatch(const Clip& clip) const {
+    if (!clip.imageText)
+        return std::nullopt;
+    return imageTextExcerpt(query(), clip.title, *clip.imageText);
 }
-const QString& PanelModel::query() const {
-    return d->query;
+
+ClipRef PanelModel::currentClip() const {
+    const auto index = selectedIndex();
+    return index < 0 ? nullptr : visibleClips()[std::size_t(index)];
 }
-ClipFilter PanelModel::filter() const {
-    return d->filter;
+
+std::vector<ClipRef> PanelModel::selectedClipsInCopyOrder() const {
+    auto clips = selectedClips();
+    std::ranges::stable_sort(clips, {},
+                             [](const ClipRef& clip) { return std::tuple(clip->lastUsedAt, clip->createdAt); });
+    return clips;
 }
-std::optional<QUuid> PanelModel::hoveredID() const {
-    return d->hoveredID;
+
+std::vector<ClipRef> PanelModel::stackSeed() const {
+    // One clip is always selected: it says nothing of what the user wants.
+    return m_selection.isSeveral() ? selectedClipsInCopyOrder() : std::vector<ClipRef>();
 }
-int PanelModel::focusToken() const {
-    return d->focusToken;
+
+void PanelModel::setSelection(PanelSelection selection) {
+    const bool isSame = selection.selectsAs(m_selection);
+    m_selection = std::move(selection);
+    if (m_transformClipID && m_transformClipID != selectedID())
+        closeTransformList();
+    if (!isSame)
+        Q_EMIT selectionChanged();
 }
-bool PanelModel::isPresented() const {
-    return d->isPresented;
+
+void PanelModel::selectAll(const QSet<QUuid>& ids) {
+    if (auto selection = PanelSelection::of(ids, rows()))
+        setSelection(std::move(*selection));
 }
-bool PanelModel::hasAccessibility() const {
-    return d->hasAccessibility;
+
+void PanelModel::resetSelection() {
+    closeTransformList();
+    select(rows().first());
 }
-const PanelModel::FileStatuses& PanelModel::fileStatuses() const {
-    return d->fileStatuses;
+
+bool PanelModel::click(const QUuid& id, quint32 flags) {
+    if (flags & eventflag::command) {
+        toggleSelection(id);
+        return false;
+    }
+    if (flags & eventflag::shift) {
+        extendSelection(id);
+        return false;
+    }
+    if (m_selection.isSeveral() && m_selection.contains(id)) {
+        // All of them may be dragged from here; the selection collapses once the button is released without a drag.
+        setSelection(m_selection.withPrimary(id));
+        return true;
+    }
+    select(id);
+    return false;
 }
-std::optional<QUuid> PanelModel::transformClipID() const {
-    return d->transformClipID;
+
+void PanelModel::followStore() {
+    const auto before = m_isPresented ? m_sections.outdatedClips() : std::vector<ClipRef>();
+    Q_EMIT sectionsChanged();
+    if (!before.empty())
+        setSelection(m_selection.following(before, rows()));
 }
-int PanelModel::transformIndex() const {
-    return d->transformIndex;
+
+void PanelModel::move(int offset) {
+    setSelection(m_selection.moved(offset, rows()));
 }
-const QSet<int>& PanelModel::availablePinnedNumbers() const {
-    return d->availablePinnedNumbers;
+
+void PanelModel::extend(int delta) {
+    setSelection(m_selection.extended(delta, rows()));
 }
-std::optional<QUuid> PanelModel::selectedID() const {
-    return d->selectedID;
+
+void PanelModel::extendSelection(const QUuid& id) {
+    setSelection(m_selection.extendedTo(id, rows()));
 }
-const QSet<QUuid>& PanelModel::selectedIDs() const {
-    return d->selectedIDs;
+
+void PanelModel::toggleSelection(const QUuid& id) {
+    setSelection(m_selection.toggled(id, rows()));
 }
-std::optional<QUuid> PanelModel::anchorID() const {
-    return d->anchorID;
+
+void PanelModel::pasteRow(const QUuid& id) {
+    if (const auto clip = m_store.find(id))
+        pasteClip(clip, false);
+}
+
+void PanelModel::openLink(const ClipRef& clip) {
+    if (clip->kind != ClipKind::link)
+        return;
+    onClose();
+    onOpenLink(clip->searchText.toString().trimmed());
+}
+
+void PanelModel::showFiles(const ClipRef& clip) {
+    QStringList paths;
+    for (const FileStatus& status : fileStatuses().value(clip->id)) {
+        if (const auto path = status.path())
+            paths.append(*path);
+    }
+    if (paths.isEmpty())
+        return;
+    onClose();
+    onShowFiles(paths);
+}
+
+void PanelModel::togglePin() {
+    m_actions.togglePin(selectedClipsInCopyOrder());
+}
+
+void PanelModel::deleteSelected() {
+    const auto doomed = selectedClips();
+    if (doomed.empty())
+        return;
+    setSelection(PanelSelection::withoutRows(doomed, rows()));
+    m_actions.remove(doomed, m_isPresented, m_edits);
+}
+
+bool PanelModel::undoDeletion() {
+    if (undoCount() == 0)
+        return false;
+    m_actions.undo().takeBack();
+    return true;
+}
+
+int PanelModel::undoCount() const {
+    const auto last = m_actions.undo().last();
+    return last ? last->count : 0;
+}
+
+void PanelModel::merge(MergeAction action) {
+    m_actions.merge(selectedClipsInCopyOrder(), action);
 }
 
 } // namespace vellumry

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "history/clips/Clip.h"
-#include "history/clips/ClipFilter.h"
-#include "history/clips/TextTransform.h"
-#include "panel/PanelModelCalendar.h"
-#include "paste/ToastMessage.h"
+#include "panel/PanelActions.h"
+#include "panel/PanelSections.h"
+#include "panel/PanelSelection.h"
 
-#include <QCoroTask>
 #include <QHash>
 #include <QObject>
 #include <QSet>
@@ -15,20 +12,13 @@
 #include <array>
 #include <chrono>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <vector>
 
 namespace vellumry {
 
-class ClipStore;
-class PasteEngine;
-struct CopyOutcome;
-struct FileStatus;
-struct PasteOutcome;
-
-/// What the panel shows and what its keys do: the list in its sections, the selection, the numbers on the rows, and the
-/// actions on clips. The views read it and decide nothing.
+/// What the panel shows and what its keys do: binds the sections of the list, the selection and the actions on clips.
+/// The views read it and decide nothing.
 ///
 /// Main thread. Actions that wait (paste, copy, pin, delete, merge) run on by themselves; they survive the panel being
 /// closed, and end quietly when the model goes. Closures must not delete the model.
@@ -36,11 +26,9 @@ class PanelModel : public QObject {
     Q_OBJECT
 
 public:
-    struct Section {
-        QString id;
-        QString title; ///< may be empty
-        std::vector<ClipRef> clips;
-    };
+    using Section = PanelSections::Section;
+    using MergeAction = PanelActions::MergeAction;
+    using FileStatuses = vellumry::FileStatuses;
 
     enum class Command : quint8 {
         enter,
@@ -58,49 +46,43 @@ public:
         previousFilter
     };
 
-    /// What follows a merge.
-    enum class MergeAction : quint8 { stay, paste, copy };
-
     /// The rows of the transform list, from the top.
     static constexpr std::array transformList{TextTransform::lowercase,      TextTransform::uppercase,
                                               TextTransform::titleCase,      TextTransform::sentenceCase,
                                               TextTransform::trimWhitespace, TextTransform::removeLineBreaks};
 
-    using FileStatuses = QHash<QUuid, std::vector<FileStatus>>;
-
     /// `store` and `paster` must outlive the model.
     PanelModel(ClipStore& store, PasteEngine& paster, PanelModelCalendar calendar = {}, QObject* parent = nullptr);
-    ~PanelModel() override;
 
-    [[nodiscard]] ClipStore& store() const;
+    [[nodiscard]] ClipStore& store() const { return m_store; }
 
     // The list. References stay good until the next call that changes the model or the store.
 
     /// The visible clips in their sections; a second read without a change computes nothing. No section is empty.
-    [[nodiscard]] const std::vector<Section>& sections() const;
+    [[nodiscard]] const std::vector<Section>& sections() const { return m_sections.sections(); }
     /// The clips of all sections in display order.
-    [[nodiscard]] const std::vector<ClipRef>& visibleClips() const;
+    [[nodiscard]] const std::vector<ClipRef>& visibleClips() const { return m_sections.clips(); }
     /// Clip id to the digit, 1 to 9, that pastes it from the open panel.
-    [[nodiscard]] QHash<QUuid, int> rowNumbers() const;
+    [[nodiscard]] QHash<QUuid, int> rowNumbers() const { return m_sections.rowNumbers(fileStatuses()); }
     /// Clip id to the digit of its pinned hot key.
-    [[nodiscard]] QHash<QUuid, int> pinNumbers() const;
-    [[nodiscard]] qsizetype count(ClipFilter filter) const;
+    [[nodiscard]] QHash<QUuid, int> pinNumbers() const { return m_sections.pinNumbers(m_availablePinnedNumbers); }
+    [[nodiscard]] qsizetype count(ClipFilter filter) const { return m_sections.count(filter); }
     /// An excerpt of an image's text around the hit, where the query was found there and not in the title.
     [[nodiscard]] std::optional<QString> imageMatch(const Clip& clip) const;
 
     // The selection: one primary row, and a set that is empty or holds at least two.
 
-    [[nodiscard]] std::optional<QUuid> selectedID() const;
-    [[nodiscard]] const QSet<QUuid>& selectedIDs() const;
-    [[nodiscard]] std::optional<QUuid> anchorID() const;
+    [[nodiscard]] std::optional<QUuid> selectedID() const { return m_selection.primary(); }
+    [[nodiscard]] const QSet<QUuid>& selectedIDs() const { return m_selection.several(); }
+    [[nodiscard]] std::optional<QUuid> anchorID() const { return m_selection.anchor(); }
     /// Null without one, and when it is not visible.
     [[nodiscard]] ClipRef currentClip() const;
     /// In display order; what is not visible is left out.
-    [[nodiscard]] std::vector<ClipRef> selectedClips() const;
-    [[nodiscard]] bool isSelected(const QUuid& id) const;
-    [[nodiscard]] int selectedCount() const;
+    [[nodiscard]] std::vector<ClipRef> selectedClips() const { return m_selection.clipsOf(rows()); }
+    [[nodiscard]] bool isSelected(const QUuid& id) const { return m_selection.contains(id); }
+    [[nodiscard]] int selectedCount() const { return m_selection.count(); }
     /// Index of the primary row in `visibleClips`, -1 when it is not there.
-    [[nodiscard]] int selectedIndex() const;
+    [[nodiscard]] int selectedIndex() const { return int(rows().indexOf(selectedID())); }
 
     /// Called before each show: everything back to its start, the newest unpinned clip selected.
     void prepareForShow();
@@ -113,7 +95,7 @@ public:
     void extend(int delta);
     void toggleSelection(const QUuid& id);
     void extendSelection(const QUuid& id);
-    void selectOnly(const QUuid& id);
+    void selectOnly(const QUuid& id) { select(id); }
     void cycleFilter(int delta);
 
     // Keys and actions.
@@ -124,11 +106,13 @@ public:
     /// selected. False leaves the key to the search field.
     bool keyEquivalent(quint16 keyCode, quint32 flags, bool hasTextSelection);
     /// Closes the panel, then pastes. `isPlain` false means the user's default.
-    void pasteClip(const ClipRef& clip, bool isPlain, std::optional<TextTransform> transform = std::nullopt);
+    void pasteClip(const ClipRef& clip, bool isPlain, std::optional<TextTransform> transform = std::nullopt) {
+        m_actions.paste(clip, isPlain, transform);
+    }
     /// For the row under a double click; an unknown id does nothing.
     void pasteRow(const QUuid& id);
-    void pastePinned(int number);
-    void copyClip(const ClipRef& clip);
+    void pastePinned(int number) { m_actions.pastePinned(number); }
+    void copyClip(const ClipRef& clip) { m_actions.copy(clip); }
     /// Pins the selected clips, or unpins them when all are pinned.
     void togglePin();
     /// For some seconds, while the panel is shown, `undoDeletion` brings the clips back; not sensitive ones, nor more
@@ -139,20 +123,20 @@ public:
     /// How many clips that would bring back; 0 for none.
     [[nodiscard]] int undoCount() const;
     /// How long a deletion can be undone; 8 seconds at first.
-    void setUndoTime(std::chrono::milliseconds time);
+    void setUndoTime(std::chrono::milliseconds time) { m_actions.undo().setTime(time); }
     void merge(MergeAction action);
     void toggleTransforms();
     /// Pastes the names of a clip's files, one a line.
-    void pasteFileNames(const ClipRef& clip);
+    void pasteFileNames(const ClipRef& clip) { m_actions.pasteFileNames(clip); }
     /// Pastes the words read in a picture, or in a clip of picture files; does nothing without any.
-    void pasteTextInImage(const ClipRef& clip);
+    void pasteTextInImage(const ClipRef& clip) { m_actions.pasteTextInImage(clip); }
     /// Closes the panel and opens the address of a link with the user's program for it.
     void openLink(const ClipRef& clip);
     /// Closes the panel and shows the files that still exist in the file manager.
     void showFiles(const ClipRef& clip);
     /// Hands the selected clips, oldest copy first, to the Paste Stack.
-    void pasteSelectedOneByOne();
-    void addSelectedToStack();
+    void pasteSelectedOneByOne() { onToggleStack(selectedClipsInCopyOrder()); }
+    void addSelectedToStack() { onAddToStack(selectedClipsInCopyOrder()); }
     /// The selected clips by their last use, oldest first.
     [[nodiscard]] std::vector<ClipRef> selectedClipsInCopyOrder() const;
     /// What a Paste Stack begins with that nobody named clips for: several selected clips, or nothing.
@@ -160,24 +144,24 @@ public:
 
     // Observed fields.
 
-    [[nodiscard]] const QString& query() const;
+    [[nodiscard]] const QString& query() const { return m_sections.query(); }
     void setQuery(const QString& query);
-    [[nodiscard]] ClipFilter filter() const;
+    [[nodiscard]] ClipFilter filter() const { return m_sections.filter(); }
     /// Resets the selection when it really changes.
     void setFilter(ClipFilter filter);
-    [[nodiscard]] std::optional<QUuid> hoveredID() const;
+    [[nodiscard]] std::optional<QUuid> hoveredID() const { return m_hoveredID; }
     void setHoveredID(std::optional<QUuid> id);
     /// Grows to send the keyboard back to the search field.
-    [[nodiscard]] int focusToken() const;
-    [[nodiscard]] bool isPresented() const;
+    [[nodiscard]] int focusToken() const { return m_focusToken; }
+    [[nodiscard]] bool isPresented() const { return m_isPresented; }
     void setPresented(bool value);
     /// We may press keys in other applications; read at each show.
-    [[nodiscard]] bool hasAccessibility() const;
-    [[nodiscard]] const FileStatuses& fileStatuses() const;
-    [[nodiscard]] std::optional<QUuid> transformClipID() const;
+    [[nodiscard]] bool hasAccessibility() const { return m_hasAccessibility; }
+    [[nodiscard]] const FileStatuses& fileStatuses() const { return m_actions.fileStatuses(); }
+    [[nodiscard]] std::optional<QUuid> transformClipID() const { return m_transformClipID; }
     [[nodiscard]] bool isTransformListOpen() const;
-    [[nodiscard]] int transformIndex() const;
-    [[nodiscard]] const QSet<int>& availablePinnedNumbers() const;
+    [[nodiscard]] int transformIndex() const { return m_transformIndex; }
+    [[nodiscard]] const QSet<int>& availablePinnedNumbers() const { return m_availablePinnedNumbers; }
     void setAvailablePinnedNumbers(const QSet<int>& numbers);
 
     /// The filter's place in `allClipFilters`. Setting one that is none does nothing.
@@ -207,33 +191,31 @@ Q_SIGNALS:
     void undoChanged();
 
 private:
-    [[nodiscard]] qsizetype visibleIndex(const std::optional<QUuid>& id) const;
-    void setSelection(std::optional<QUuid> primary, QSet<QUuid> several, std::optional<QUuid> anchor);
-    void select(std::optional<QUuid> id);
-    void closeTransformList();
+    [[nodiscard]] PanelRows rows() const { return m_sections.rows(); }
+    void setSelection(PanelSelection selection);
+    void select(std::optional<QUuid> id) { setSelection(PanelSelection(id)); }
+    void selectAll(const QSet<QUuid>& ids);
     void followStore();
-    void selectNeighbour(const std::vector<ClipRef>& before);
+    void closeTransformList();
     void setTransform(std::optional<QUuid> clipID, int index);
     bool handleInTransformList(Command command);
     void handleEnter(bool isPlain);
     void handleEscape();
     void copySelected();
-    void selectAfterDeleting(const std::vector<ClipRef>& doomed);
-    void showToast(const std::optional<ToastMessage>& message);
 
-    QCoro::Task<void> refreshFileStatuses();
-    QCoro::Task<void> runPaste(ClipRef clip, std::optional<bool> isPlain, std::optional<TextTransform> transform);
-    QCoro::Task<void> runPasteText(QString text);
-    QCoro::Task<void> runCopy(ClipRef clip);
-    QCoro::Task<void> runPin(std::vector<ClipRef> clips, bool isPinned);
-    QCoro::Task<void> runDelete(QSet<QUuid> ids);
-    QCoro::Task<void> runTakeOut(QSet<QUuid> ids);
-    void selectAll(const QSet<QUuid>& ids);
-    QCoro::Task<void> runMerge(std::vector<ClipRef> clips, MergeAction action);
-    QCoro::Task<ClipRef> addMerged(std::vector<ClipRef> clips);
-
-    struct Private;
-    std::unique_ptr<Private> d;
+    ClipStore& m_store;
+    PasteEngine& m_paster;
+    PanelSections m_sections;
+    PanelSelection m_selection;
+    PanelActions m_actions;
+    quint64 m_edits = 0; ///< of the search field
+    std::optional<QUuid> m_hoveredID;
+    int m_focusToken = 0;
+    bool m_isPresented = false;
+    bool m_hasAccessibility = false;
+    std::optional<QUuid> m_transformClipID;
+    int m_transformIndex = 0;
+    QSet<int> m_availablePinnedNumbers{1, 2, 3, 4, 5, 6, 7, 8, 9};
 };
 
 } // namespace vellumry

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "foundation/Localisation.h"
 #include "foundation/Text.h"
-#include "panel/PanelModelPrivate.h"
+#include "panel/PanelModel.h"
 #include "paste/Shortcut.h"
 
 #include <algorithm>
@@ -44,19 +45,33 @@ int moveOffset(PanelModel::Command command) {
 } // namespace
 
 bool PanelModel::isTransformListOpen() const {
-    return d->transformClipID && d->transformClipID == d->selectedID && d->selectedIDs.size() < 2;
+    return m_transformClipID && m_transformClipID == selectedID() && !m_selection.isSeveral();
 }
 
 void PanelModel::setTransform(std::optional<QUuid> clipID, int index) {
-    if (clipID == d->transformClipID && index == d->transformIndex)
+    if (clipID == m_transformClipID && index == m_transformIndex)
         return;
-    d->transformClipID = clipID;
-    d->transformIndex = index;
+    m_transformClipID = clipID;
+    m_transformIndex = index;
     Q_EMIT transformChanged();
 }
 
 void PanelModel::closeTransformList() {
-    setTransform(std::nullopt, d->transformIndex);
+    setTransform(std::nullopt, m_transformIndex);
+}
+
+void PanelModel::toggleTransforms() {
+    if (isTransformListOpen()) {
+        closeTransformList();
+        return;
+    }
+    const auto clip = m_selection.isSeveral() ? nullptr : currentClip();
+    if (!clip)
+        return;
+    if (clip->canBeTransformed())
+        setTransform(clip->id, 0);
+    else
+        onToast({QStringLiteral("textformat"), localised("Transforms work on text clips"), ToastMessage::Tone::info});
 }
 
 bool PanelModel::handle(Command command) {
@@ -66,19 +81,18 @@ bool PanelModel::handle(Command command) {
         move(offset);
         return true;
     }
-    const auto& clips = visibleClips();
     switch (command) {
     case Command::enter:
     case Command::enterPlain:
         handleEnter(command == Command::enterPlain);
         break;
     case Command::home:
-        if (!clips.empty())
-            select(clips.front()->id);
+        if (const auto id = rows().first())
+            select(id);
         break;
     case Command::end:
-        if (!clips.empty())
-            select(clips.back()->id);
+        if (const auto id = rows().last())
+            select(id);
         break;
     case Command::extendUp:
         extend(-1);
@@ -107,18 +121,18 @@ bool PanelModel::handle(Command command) {
 bool PanelModel::handleInTransformList(Command command) {
     switch (command) {
     case Command::up:
-        setTransform(d->transformClipID, std::max(d->transformIndex - 1, 0));
+        setTransform(m_transformClipID, std::max(m_transformIndex - 1, 0));
         return true;
     case Command::down:
-        setTransform(d->transformClipID, std::min(d->transformIndex + 1, lastTransform));
+        setTransform(m_transformClipID, std::min(m_transformIndex + 1, lastTransform));
         return true;
     case Command::home:
     case Command::pageUp:
-        setTransform(d->transformClipID, 0);
+        setTransform(m_transformClipID, 0);
         return true;
     case Command::end:
     case Command::pageDown:
-        setTransform(d->transformClipID, lastTransform);
+        setTransform(m_transformClipID, lastTransform);
         return true;
     case Command::escape:
         closeTransformList();
@@ -128,7 +142,7 @@ bool PanelModel::handleInTransformList(Command command) {
         const auto clip = currentClip();
         closeTransformList();
         if (clip)
-            pasteClip(clip, true, transformList[std::size_t(d->transformIndex)]);
+            pasteClip(clip, true, transformList[std::size_t(m_transformIndex)]);
         return true;
     }
     case Command::extendUp:
@@ -141,16 +155,16 @@ bool PanelModel::handleInTransformList(Command command) {
 }
 
 void PanelModel::handleEnter(bool isPlain) {
-    if (d->selectedIDs.size() >= 2)
+    if (m_selection.isSeveral())
         merge(MergeAction::paste);
     else if (const auto clip = currentClip())
         pasteClip(clip, isPlain);
 }
 
 void PanelModel::handleEscape() {
-    if (d->selectedIDs.size() >= 2) {
-        select(d->selectedID);
-    } else if (text::isBlank(d->query)) {
+    if (m_selection.isSeveral()) {
+        select(selectedID());
+    } else if (text::isBlank(query())) {
         onClose();
     } else {
         setQuery({});
@@ -177,8 +191,8 @@ bool PanelModel::keyEquivalent(quint16 keyCode, quint32 flags, bool hasTextSelec
         return true;
     case keycode::z: {
         // What was typed since is what the user means to undo.
-        const auto last = d->undo.last();
-        return last && last->edits == d->edits && undoDeletion();
+        const auto last = m_actions.undo().last();
+        return last && last->edits == m_edits && undoDeletion();
     }
     case keycode::p:
         togglePin();
@@ -204,7 +218,7 @@ bool PanelModel::keyEquivalent(quint16 keyCode, quint32 flags, bool hasTextSelec
 }
 
 void PanelModel::copySelected() {
-    if (d->selectedIDs.size() >= 2) {
+    if (m_selection.isSeveral()) {
         merge(MergeAction::copy);
     } else if (const auto clip = currentClip()) {
         onClose();
