@@ -76,8 +76,11 @@ void ClipboardWatcher::look(Date now) {
         return;
     }
 
-    auto copy =
-        std::make_shared<Copy>(Copy{changeCount, now, m_monotonic.elapsed(), m_copyCount, false, false, std::nullopt});
+    auto copy = std::make_shared<Copy>();
+    copy->changeCount = changeCount;
+    copy->now = now;
+    copy->noticedAt = m_monotonic.elapsed();
+    copy->copyCount = m_copyCount;
     m_copies.push_back(copy);
     SnapshotRequest request = requestFor(*copy);
     read(std::move(copy), std::move(request));
@@ -161,10 +164,10 @@ void ClipboardWatcher::deliverRead() {
         onSettled();
 }
 
-/// True while the program of the first copy may write it once more; the timer then looks again.
+/// True while the program of the first copy may write it once more and that matters; the timer then looks again.
 bool ClipboardWatcher::isHeld() {
     const Copy& copy = *m_copies.front();
-    if (!m_isStarted || !m_pasteboard->notifiesChanges() || copy.isUrgent || !copy.draft)
+    if (!needsWholeCopies() || !m_isStarted || !m_pasteboard->notifiesChanges() || copy.isUrgent || !copy.draft)
         return false;
     RewriteWindow window(copy.noticedAt);
     if (m_copies.size() > 1)
@@ -176,7 +179,7 @@ bool ClipboardWatcher::isHeld() {
     return true;
 }
 
-/// True when the copy behind the first is the same once more: it then stands for both.
+/// True when the copy behind the first, which was held back, is the same once more: it then stands for both.
 bool ClipboardWatcher::isWrittenAgain() const {
     if (m_copies.size() < 2 || !m_copies[0]->draft || !m_copies[1]->draft)
         return false;
@@ -188,6 +191,24 @@ bool ClipboardWatcher::isWrittenAgain() const {
     return text && text == plainText(second.draft->payload.items);
 }
 
+/// Finds out whether the history has this copy already, from a moment ago and perhaps with fewer formats.
+void ClipboardWatcher::recognise(Copy& copy) {
+    const auto before = std::exchange(m_delivered, std::nullopt);
+    const auto text = plainText(copy.draft->payload.items);
+    if (!text || !m_isStarted || !m_pasteboard->notifiesChanges()) {
+        copy.identity = std::make_shared<CopyIdentity>();
+        return;
+    }
+    // A hash, so that no text is kept for it.
+    const std::size_t hash = qHash(*text, static_cast<std::size_t>(text->size()));
+    copy.isRewrite = before && before->text == hash && RewriteWindow(before->noticedAt).covers(copy.noticedAt);
+    copy.identity = copy.isRewrite ? before->identity : std::make_shared<CopyIdentity>();
+    // Each write may have said it.
+    if (copy.isRewrite && before->isSensitive)
+        copy.draft->isSensitive = true;
+    m_delivered = Delivered{copy.noticedAt, hash, copy.draft->isSensitive, copy.identity};
+}
+
 void ClipboardWatcher::deliver(std::shared_ptr<Copy> copy) {
     if (copy->draft->kind == ClipKind::image && !hasRoomForImages()) {
         m_pasteboard->settle(copy->changeCount, false);
@@ -196,8 +217,9 @@ void ClipboardWatcher::deliver(std::shared_ptr<Copy> copy) {
             onLowDisk();
         return;
     }
+    recognise(*copy);
     const QPointer self(this);
-    if (onRead)
+    if (onRead && !copy->isRewrite)
         onRead(*copy->draft);
     if (!self)
         return;
@@ -217,13 +239,14 @@ QCoro::Task<void> ClipboardWatcher::add(std::shared_ptr<Copy> copy) {
     // The closures as they are now: the watcher may have gone when the clip is durable.
     const auto captured = onCapture;
     const auto stored = onStored;
-    auto adding = m_store->add(std::move(*copy->draft), copy->now);
+    auto adding = m_store->add(std::move(*copy->draft), copy->now, copy->identity);
     const ClipRef clip = co_await adding;
     if (!clip)
         co_return;
     if (stored)
         stored(clip, copy->changeCount);
-    if (captured)
+    const bool hasPicture = clip->kind == ClipKind::image || clip->kind == ClipKind::file;
+    if (captured && (!copy->isRewrite || hasPicture))
         captured(clip);
 }
 

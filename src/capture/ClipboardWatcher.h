@@ -35,8 +35,8 @@ public:
     ~ClipboardWatcher() override;
 
     /// From now on each change is looked at at once: `Pasteboard::onChanged`, which it takes, tells of it, or a poll
-    /// every quarter of a second where the pasteboard does not notify. What was read is held back for a moment, in case
-    /// its program writes the same copy once more with further formats. A second call does nothing.
+    /// every quarter of a second where the pasteboard does not notify. What was read goes to the history at once; when
+    /// its program writes the same copy again within `RewriteWindow`, the clip is replaced. A second call does nothing.
     void start();
     /// Looks at the pasteboard once, and holds back nothing of what was read. Returns without waiting for its owner,
     /// the disk or the store; a copy that was noticed reaches the store behind those noticed before it.
@@ -66,10 +66,15 @@ public:
     std::function<void()> onLowDisk;
     /// The store took a clip. `changeCount` is the pasteboard's count of the copy it came from.
     std::function<void(const ClipRef& clip, qint64 changeCount)> onStored;
-    /// The same, without the count.
+    /// The same, without the count, and not again for a copy that its program wrote twice, unless that made it a
+    /// picture or files.
     std::function<void(const ClipRef& clip)> onCapture;
-    /// A draft survived the checks; called before it goes to the store, for a duplicate of an older clip too.
+    /// A draft survived the checks; called before it goes to the store, for a duplicate of an older clip too. Not
+    /// called again for a copy that its program wrote twice.
     std::function<void(const ClipDraft& draft)> onRead;
+    /// True while a listener of `onRead` needs a copy with all its formats: what was read is then held back until its
+    /// program had time to write it again.
+    std::function<bool()> needsWholeCopies = [] { return false; };
     /// A copy was noticed and has neither reached `onRead` nor been dropped.
     [[nodiscard]] bool isReading() const { return !m_copies.empty(); }
     /// The last of those did.
@@ -87,6 +92,16 @@ private:
         bool isUrgent = false; ///< it is awaited
         bool isRead = false;
         std::optional<ClipDraft> draft;
+        bool isRewrite = false;                 ///< of the copy before, which the history has already
+        std::shared_ptr<CopyIdentity> identity; ///< shared by all rewrites of one copy
+    };
+
+    /// The copy that was handed to the history last, as far as a rewrite of it is recognised by it.
+    struct Delivered {
+        qint64 noticedAt;
+        std::size_t text; ///< its hash
+        bool isSensitive;
+        std::shared_ptr<CopyIdentity> identity;
     };
 
     void look(Date now);
@@ -97,6 +112,7 @@ private:
     void deliverRead();
     [[nodiscard]] bool isHeld();
     [[nodiscard]] bool isWrittenAgain() const;
+    void recognise(Copy& copy);
     void deliver(std::shared_ptr<Copy> copy);
     void refreshSensitiveLifetime();
     QCoro::Task<void> add(std::shared_ptr<Copy> copy);
@@ -107,6 +123,7 @@ private:
     DraftBuilder m_builder;
     Source m_source;
     std::deque<std::shared_ptr<Copy>> m_copies;
+    std::optional<Delivered> m_delivered;
     bool m_isStarted = false;
     qint64 m_copyCount = 0; ///< the pasteboard's, as far as it was looked at
     qint64 m_overtakenCopies = 0;

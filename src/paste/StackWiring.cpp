@@ -44,6 +44,7 @@ StackWiring::StackWiring(Parts parts, Hooks hooks, QObject* parent)
         if (self)
             self->take(draft);
     };
+    m_parts.watcher.needsWholeCopies = [self = QPointer(this)] { return self && self->m_stack.isActive(); };
     m_parts.watcher.onSettled = [self = QPointer(this)] {
         if (self)
             self->pasteNow();

@@ -48,7 +48,7 @@ public:
         std::chrono::milliseconds intakeLimit{30};
     };
 
-    /// Takes the watcher's `onRead` and `onSettled`.
+    /// Takes the watcher's `onRead`, `needsWholeCopies` and `onSettled`.
     StackWiring(Parts parts, Hooks hooks, QObject* parent = nullptr);
     ~StackWiring() override;
 

@@ -8,7 +8,11 @@ namespace vellumry {
 namespace {
 
 /// Copies that take their time: other ticks come while one is read.
-class ClipboardWatcherOrderTest : public WatcherFixture {};
+class ClipboardWatcherOrderTest : public WatcherFixture {
+protected:
+    const PasteboardItem twice{{{uniformtype::utf8PlainText, "twice"}, {uniformtype::html, "<b>twice</b>"}}, {}};
+    const PasteboardItem note{{{uniformtype::fileUrl, "file:///tmp/note.txt"}}, {}};
+};
 
 TEST_F(ClipboardWatcherOrderTest, ATickDoesNotWaitForAHangingOwner) {
     pasteboard.hangingTypes = {uniformtype::utf8PlainText};
@@ -80,10 +84,9 @@ TEST_F(ClipboardWatcherOrderTest, NotificationsLeadToATick) {
     watcher->start();
     pasteboard.copyText(QStringLiteral("one"));
     EXPECT_EQ(pasteboard.requests.size(), 1u) << "read at once";
-    EXPECT_TRUE(watcher->isReading());
-    ASSERT_TRUE(eventually([this] { return !captured.isEmpty(); }));
-    EXPECT_EQ(history(), QStringList{QStringLiteral("one")});
     EXPECT_FALSE(watcher->isReading());
+    EXPECT_EQ(history(), QStringList{QStringLiteral("one")}) << "and held back by nothing";
+    ASSERT_TRUE(eventually([this] { return !captured.isEmpty(); }));
 }
 
 TEST_F(ClipboardWatcherOrderTest, ABurstOfCopiesIsKeptWhole) {
@@ -102,15 +105,71 @@ TEST_F(ClipboardWatcherOrderTest, ABurstOfCopiesIsKeptWhole) {
 TEST_F(ClipboardWatcherOrderTest, ACopyThatIsWrittenTwiceIsOneClip) {
     watcher->start();
     pasteboard.copyText(QStringLiteral("twice"));
-    pasteboard.copy({PasteboardItem{{{uniformtype::utf8PlainText, "twice"}, {uniformtype::html, "<b>twice</b>"}}, {}}});
+    ASSERT_EQ(store.clips().size(), 1u) << "the history does not wait for the formats";
+    const QUuid id = store.clips().front()->id;
+    pasteboard.copy({twice});
     pasteboard.copyText(QStringLiteral("next"));
     ASSERT_TRUE(eventually([this] { return captured.size() == 2; }));
     EXPECT_EQ(readTitles, QStringList({QStringLiteral("twice"), QStringLiteral("next")}));
     ASSERT_EQ(store.clips().size(), 2u);
     EXPECT_EQ(store.clips()[1]->kind, ClipKind::richText);
+    EXPECT_EQ(store.clips()[1]->id, id);
+}
+
+TEST_F(ClipboardWatcherOrderTest, ATextThatItsProgramTurnsIntoFilesIsOneClip) {
+    watcher->start();
+    pasteboard.copyText(QStringLiteral("note.txt"));
+    ASSERT_EQ(store.clips().size(), 1u);
+    const QUuid id = store.clips().front()->id;
+    pasteboard.copy({note});
+    ASSERT_TRUE(eventually([this] { return captured.size() == 2; })) << "its files are heard of";
+    EXPECT_EQ(readTitles, QStringList{QStringLiteral("note.txt")});
+    ASSERT_EQ(store.clips().size(), 1u);
+    EXPECT_EQ(store.clips().front()->kind, ClipKind::file);
+    EXPECT_EQ(store.clips().front()->id, id);
+}
+
+TEST_F(ClipboardWatcherOrderTest, ACopyThatBecomesWhatTheHistoryHadIsThatClip) {
+    pasteboard.copy({note});
+    watcher->tick(100);
+    ASSERT_TRUE(eventually([this] { return store.clips().size() == 1; }));
+    const QUuid id = store.clips().front()->id;
+    watcher->start();
+    pasteboard.copyText(QStringLiteral("note.txt"));
+    ASSERT_EQ(store.clips().size(), 2u);
+    pasteboard.copy({note});
+    ASSERT_TRUE(eventually([this] { return store.clips().size() == 1; }));
+    EXPECT_EQ(store.clips().front()->id, id);
+    EXPECT_GT(store.clips().front()->lastUsedAt, 100);
+}
+
+TEST_F(ClipboardWatcherOrderTest, AClipOfLongAgoIsNotTurnedIntoAnotherContent) {
+    copyAndTick("note.txt", 100);
+    watcher->start();
+    pasteboard.copyText(QStringLiteral("note.txt"));
+    pasteboard.copy({note});
+    ASSERT_TRUE(eventually([this] { return store.clips().size() == 2; }));
+    EXPECT_EQ(store.clips()[0]->kind, ClipKind::file);
+    EXPECT_EQ(store.clips()[1]->kind, ClipKind::text);
+}
+
+/// It takes each copy once, so it must be the one with the formats.
+TEST_F(ClipboardWatcherOrderTest, WhereWholeCopiesAreNeededACopyIsHeldBackForItsFormats) {
+    watcher->needsWholeCopies = [] { return true; };
+    std::vector<ClipKind> kinds;
+    watcher->onRead = [&kinds](const ClipDraft& draft) { kinds.push_back(draft.kind); };
+    watcher->start();
+    pasteboard.copyText(QStringLiteral("twice"));
+    EXPECT_TRUE(watcher->isReading());
+    EXPECT_TRUE(store.clips().empty());
+    pasteboard.copy({twice});
+    ASSERT_TRUE(eventually([this] { return captured.size() == 1; }));
+    EXPECT_FALSE(watcher->isReading());
+    EXPECT_EQ(kinds, std::vector{ClipKind::richText});
 }
 
 TEST_F(ClipboardWatcherOrderTest, ALookAtOnceHoldsNothingBack) {
+    watcher->needsWholeCopies = [] { return true; };
     watcher->start();
     pasteboard.copyText(QStringLiteral("one"));
     int settled = 0;

@@ -23,7 +23,7 @@ Clip clipOfDraft(const ClipDraft& draft, const ClipRef& existing, const Fingerpr
     clip.files = draft.files;
     clip.thumbnail = draft.thumbnail;
     const bool isReadable = draft.kind == ClipKind::image || draft.kind == ClipKind::file;
-    if (existing && existing->kind == draft.kind && isReadable) {
+    if (existing && existing->kind == draft.kind && existing->fingerprint == fingerprint && isReadable) {
         clip.imageText = existing->imageText;
         clip.imageTextIsAccurate = existing->imageTextIsAccurate;
     }

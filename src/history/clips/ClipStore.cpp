@@ -46,7 +46,7 @@ ClipStore::ClipStore(RetentionPolicy policy)
 
 ClipStore::~ClipStore() = default;
 
-QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
+QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now, std::shared_ptr<CopyIdentity> copy) {
     const QPointer<ClipStore> self(this);
     Fingerprint fingerprint;
     std::shared_ptr<const ClipCrypto> crypto;
@@ -62,13 +62,15 @@ QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
             co_return ClipRef();
         // When the history joined meanwhile, the fingerprint is of another key.
     } while (crypto != d->crypto);
-    const ClipRef existing = d->list.findFingerprint(fingerprint);
+    const ClipRef existing = replacedBy(fingerprint, copy.get());
     const ClipRef clip =
         std::make_shared<const Clip>(clipOfDraft(draft, existing, fingerprint, now, d->sensitiveLifetime));
     if (existing)
         d->list.replace(existing, clip);
     else
         d->list.insert(clip);
+    if (copy && !existing)
+        copy->clip = clip->id;
     // The keys of its image text stay: that text was kept, or there is none.
     d->search->forgetText(clip->id);
     changed();
@@ -79,6 +81,19 @@ QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now) {
     auto retaining = enforceRetention(now);
     co_await retaining;
     co_return self ? d->list.find(clip->id) : ClipRef();
+}
+
+/// The clip whose place a draft of this content takes; null when there is none.
+ClipRef ClipStore::replacedBy(const Fingerprint& fingerprint, const CopyIdentity* copy) {
+    const ClipRef same = d->list.findFingerprint(fingerprint);
+    const ClipRef written = copy ? d->list.find(copy->clip) : nullptr;
+    if (!written || written == same)
+        return same;
+    if (!same)
+        return written;
+    // What the program wrote at last was in the history before, and stands for what it wrote first.
+    remove({written->id}, false);
+    return same;
 }
 
 QCoro::Task<std::optional<ClipPayload>> ClipStore::payload(QUuid id) {

@@ -18,6 +18,11 @@ namespace vellumry {
 
 class ClipDatabase;
 
+/// One copy of the user, several drafts of which may reach the store: its program wrote it more than once.
+struct CopyIdentity {
+    QUuid clip; ///< that it made; null when the content was known already
+};
+
 /// The one place that knows the history: every clip in memory, ordered by last use, newest first; every change goes
 /// through it. With a database, payloads lie sealed in the history file; without one, everything is in memory and gone
 /// at the end.
@@ -71,8 +76,9 @@ public:
     void setExpiryTimer(std::unique_ptr<DateTimer> timer);
 
     /// The stored clip; null if retention removed it at once. When the task is done, the clip is durable, or the file
-    /// has refused it: then it waits in memory (`isBehind`).
-    QCoro::Task<ClipRef> add(ClipDraft draft, Date now);
+    /// has refused it: then it waits in memory (`isBehind`). A later draft of the same `copy` replaces the clip that an
+    /// earlier one made, and keeps its identity unless another clip has the new content already.
+    QCoro::Task<ClipRef> add(ClipDraft draft, Date now, std::shared_ptr<CopyIdentity> copy = nullptr);
     /// Nothing for an unknown clip and for one that cannot be read.
     [[nodiscard]] QCoro::Task<std::optional<ClipPayload>> payload(QUuid id);
     QCoro::Task<void> markUsed(QUuid id, Date date);
@@ -112,6 +118,7 @@ private:
     /// Tells everybody who looks at `clips`, the timer first.
     void changed();
     void prepareSearch();
+    [[nodiscard]] ClipRef replacedBy(const Fingerprint& fingerprint, const CopyIdentity* copy);
     void forget(const QUuid& id);
     void join(std::shared_ptr<ClipDatabase> database, std::vector<ClipRef> rows,
               const QHash<QUuid, Fingerprint>& fingerprints);
