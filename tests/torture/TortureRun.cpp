@@ -80,6 +80,36 @@ std::map<int, TortureState> contentOf(ClipStore& store, std::string& wrong) {
     return found;
 }
 
+/// The status of a worker that opened another history than the one that is there.
+constexpr int openedOther = 3;
+
+std::size_t rowsIn(const QString& folder) {
+    SQLiteDatabase file(QDir(folder).filePath(historyfile::fileName), SQLiteDatabase::Access::recover);
+    auto counting = file.prepare("SELECT count(*) FROM clips;");
+    return counting.step() ? static_cast<std::size_t>(counting.integer(0)) : 0;
+}
+
+/// Opens the history on a disk that fails meanwhile, again until it opens. A failure may refuse it; never may it pass
+/// for damage, or leave clips out. Ends the process when it does.
+std::unique_ptr<ClipStore> openOnFailingDisk(const QString& folder, KeyStore& keyStore, FailingDisk& disk) {
+    const std::size_t rows = rowsIn(folder);
+    disk.setFailing(true);
+    for (int attempt = 0; attempt < 1000; ++attempt) {
+        try {
+            const auto history = ClipDatabase::openHistory(folder, keyStore);
+            if (!history)
+                continue;
+            auto store = awaited(ClipStore::open(history->database, unlimited(), false));
+            if (history->recoveredFromDamage || store->clips().size() != rows)
+                _exit(openedOther);
+            return store;
+        } catch (const SQLiteError&) {
+            continue;
+        }
+    }
+    _exit(1);
+}
+
 } // namespace
 
 TortureRun::TortureRun(std::string program, Torture torture, unsigned seed)
@@ -140,7 +170,9 @@ void TortureRun::runWorker() {
     while (left() > 0s && lines.fill(left()))
         takeAll();
     ::kill(worker, SIGKILL);
-    waitpid(worker, nullptr, 0);
+    int status = 0;
+    waitpid(worker, &status, 0);
+    m_hasOpenedOther = WIFEXITED(status) && WEXITSTATUS(status) == openedOther;
     while (lines.fill(0s)) {
     }
     takeAll();
@@ -161,7 +193,7 @@ void TortureRun::take(const QByteArray& line, std::optional<TortureStep>& open) 
 }
 
 std::string TortureRun::examine() {
-    std::string wrong;
+    std::string wrong = m_hasOpenedOther ? "a failing disk passed for damage, or hid clips\n" : "";
     const QString path = QDir(m_folder.path()).filePath(historyfile::fileName);
     {
         SQLiteDatabase file(path, SQLiteDatabase::Access::readWrite);
@@ -192,9 +224,11 @@ int TortureRun::work(int count, char** arguments) {
         installTestVfs([&](sqlite3_file* real) { return powerless.open(real); });
 
     MemoryKeyStore keyStore(SymmetricKey(QByteArray::fromHex(arguments[3])));
-    const OpenedHistory history = ClipDatabase::openHistory(QString::fromUtf8(arguments[2]), keyStore).value();
-    const auto store = awaited(ClipStore::open(history.database, unlimited(), false));
-    failing.setFailing(true);
+    const QString folder = QString::fromUtf8(arguments[2]);
+    const auto store = torture == Torture::disk
+                           ? openOnFailingDisk(folder, keyStore, failing)
+                           : awaited(ClipStore::open(ClipDatabase::openHistory(folder, keyStore).value().database,
+                                                     unlimited(), false));
     TortureWork work(*store, torture == Torture::disk ? &failing : nullptr,
                      {seed, std::stod(arguments[6]), std::stoi(arguments[7]), STDOUT_FILENO});
     work.run(100'000);

@@ -44,6 +44,7 @@ private:
     Date m_now = 1'000;
     int m_nextClip = 1;
     std::size_t m_clips = 0;
+    bool m_hasOpenedOther = false;
 };
 
 } // namespace vellumry
