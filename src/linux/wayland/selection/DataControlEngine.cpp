@@ -18,8 +18,10 @@ const QString managerHint = QStringLiteral("x-kde-passwordManagerHint");
 using namespace std::chrono_literals;
 
 /// Clipboard managers read what is new within 5 ms of its coming, measured with Plasma's and those that run
-/// `wl-paste --watch`; a user's hand takes longer.
+/// `wl-paste --watch`; a user's hand takes longer. The second is for the items behind the first one, where a manager
+/// was seen to read that: pastes may follow each other quickly.
 constexpr auto managersTime = 100ms;
+constexpr auto managersNextTime = 50ms;
 /// The forms of one paste are read within that of each other.
 constexpr auto onePaste = 100ms;
 
@@ -169,8 +171,15 @@ void DataControlEngine::serve(const Holding& holding, const QString& mimeType, D
 // Counting
 
 void DataControlEngine::noteReading(const QString& mimeType, Instant now) {
-    if (mimeType == managerHint || mimeType == uniformtype::ownMarker || now - m_takenAt < managersTime)
+    if (mimeType == managerHint || mimeType == uniformtype::ownMarker)
         return;
+    if (!m_hasPasted && now - m_takenAt < managersTime) {
+        m_isWatched = true;
+        return;
+    }
+    if (m_isWatched && now - m_takenAt < managersNextTime)
+        return;
+    m_hasPasted = true;
     const bool isNewPaste = now >= m_pasteOver;
     m_pasteOver = now + onePaste;
     if (isNewPaste)
@@ -180,6 +189,8 @@ void DataControlEngine::noteReading(const QString& mimeType, Instant now) {
 void DataControlEngine::startCounting(std::function<void()> onPaste) {
     m_onPaste = std::move(onPaste);
     m_pasteOver = Instant();
+    m_hasPasted = false;
+    m_isWatched = false;
 }
 
 void DataControlEngine::stopCounting() {
@@ -196,7 +207,8 @@ void DataControlEngine::offerExpected(Instant now) {
     if (m_ended || !m_expected || now < m_pasteOver || !m_control->hasDevice())
         return;
     auto contents = std::exchange(m_expected, nullptr);
-    if (canSwap(*contents))
+    // Many programs (Qt, GTK 3, Chromium) keep what they have read of an offer, and would paste it once more.
+    if (!wasServed() && canSwap(*contents))
         m_clipboard.contents = std::move(contents);
     else
         takeClipboard(std::move(contents));

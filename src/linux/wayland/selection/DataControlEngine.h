@@ -53,12 +53,12 @@ public:
 
     /// From now on what is on the clipboard is one item of several, each for one paste: `onPaste` is called, on the
     /// pasteboard thread, when a program has come for it as for a paste. Compositors do not show the keys of others, so
-    /// the reading of our content is what tells of a paste. Not counted: readings right after a change of owner, which
-    /// are those of clipboard managers; further readings of the same paste; and readings of marks.
+    /// the reading of our content is what tells of a paste. Not counted: readings right after a change of owner, where
+    /// clipboard managers were seen to read what is new; further readings of the same paste; and readings of marks.
     void startCounting(std::function<void()> onPaste);
     void stopCounting();
     /// What the next paste is to get. Offered at once, or when the paste under way is over; in place, without a change
-    /// of owner, where it comes in the same types as what is there.
+    /// of owner, where nothing was read of what is there and it has the same types.
     void expect(std::shared_ptr<const OfferedContents> contents, Instant now);
 
     void addDescriptors(std::vector<pollfd>& descriptors) const;
@@ -112,6 +112,8 @@ private:
     std::optional<PasteboardClaim> m_unconfirmed;
     std::function<void()> m_onPaste;                   ///< set while readings are counted
     std::shared_ptr<const OfferedContents> m_expected; ///< not yet offered
+    bool m_hasPasted = false;                          ///< a paste was counted
+    bool m_isWatched = false;                          ///< somebody read the first item as soon as it was there
     Instant m_takenAt;                                 ///< when the clipboard was last made ours
     Instant m_pasteOver;                               ///< until then a reading belongs to the paste before
     quint64 m_claimNumber = 0;
