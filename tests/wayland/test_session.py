@@ -75,6 +75,24 @@ def test_typing_through_the_opening():
             wait_until(lambda: window.state["active"], "the keyboard back in the window")
 
 
+def test_pin():
+    """A pinned clip is pasted without the panel: by its global key where programs can hold keys, else by the action that a key is bound to."""
+    with Vellumry(), Window() as window:
+        copy("pinned words")
+        wait_for_clip(lambda row: text_of(row) == "pinned words", "the copy in the history")
+        open_panel(window)
+        press("ctrl+p")
+        press("escape")
+        wait_until(lambda: window.state["active"], "the keyboard back in the window")
+        copy("something after it")
+        wait_for_clip(lambda row: text_of(row) == "something after it", "the next copy")
+        if SESSION == "kwin":
+            press("super+alt+1")
+        else:
+            run(PROGRAM, "--action", "paste-pin-1")
+        window.wait_text("pinned words")
+
+
 def test_files():
     """A list of files is kept as files and comes back as it was."""
     folder = tempfile.mkdtemp()
