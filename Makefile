@@ -6,8 +6,8 @@ DESTDIR ?=
 export CCACHE_NOHASHDIR = 1
 export CCACHE_BASEDIR = $(CURDIR)
 
-.PHONY: help run install uninstall package appimage test test-trixie test-appimage test-wayland wayland-next bench-wayland sanitize torture bench gallery \
-	matrix lint build asan clean
+.PHONY: help run install uninstall package appimage test test-trixie test-appimage test-wayland wayland-next bench-wayland sanitize torture bench \
+	bench-day gallery matrix lint build asan clean
 
 help: ## list the tasks
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:.*## /\t/' | expand -t 14
@@ -70,6 +70,11 @@ bench: ## build, run the benchmarks and the side-by-side runs, print figures and
 	@scripts/install-deps --test
 	@$(MAKE) --no-print-directory build
 	@bench/run
+
+bench-day: ## play a day of copies and pastes in twenty minutes, print memory, open files and threads by the hour
+	@scripts/install-deps --test
+	@$(MAKE) --no-print-directory build
+	@scripts/headless-session /usr/bin/python3 bench/a_day.py 2>/dev/null
 
 gallery: ## draw the panel in each of its states into docs/gallery
 	@scripts/install-deps --unit
