@@ -76,6 +76,7 @@ struct ClipSearch::Private {
 
     Slot slotOfClip(const Clip& clip);
     void follow(const std::vector<ClipRef>& clips, std::optional<qint64> revision);
+    bool giveBackWaste();
     [[nodiscard]] std::optional<std::vector<Slot>> candidates(const QByteArray& needle, ClipFilter filter) const;
     [[nodiscard]] bool isWorthwhile(const std::vector<Slot>& slots) const;
     void findExact(const ByteSearch& search, ClipFilter filter);
@@ -117,7 +118,8 @@ bool ClipSearch::prepare(const std::vector<ClipRef>& clips, qint64 revision, std
     const auto slotOfClip = [this](const Clip& clip) { return d->slotOfClip(clip); };
     if (std::exchange(d->preparedRevision, revision) != revision) {
         d->prepared = 0;
-        if (d->isOrderBegun)
+        const bool hasGivenBack = d->giveBackWaste();
+        if (d->isOrderBegun || hasGivenBack)
             d->order = ClipSearchOrder();
         d->isOrderBegun = d->order.size() == 0;
     }
@@ -140,6 +142,10 @@ bool ClipSearch::prepare(const std::vector<ClipRef>& clips, qint64 revision, std
     if (std::exchange(d->foldedAhead, 0) > manyTexts)
         giveBackUnusedMemory();
     return true;
+}
+
+std::size_t ClipSearch::capacity() const {
+    return d->index.capacity();
 }
 
 void ClipSearch::forgetQuery() {
@@ -182,6 +188,17 @@ void ClipSearch::Private::follow(const std::vector<ClipRef>& clips, std::optiona
     // Folding the whole history leaves as much behind as it makes.
     if (index.slotCount() - slotsBefore > manyTexts)
         giveBackUnusedMemory();
+}
+
+/// Searches take care of what removed texts leave behind. Where nothing is searched for, texts that are folded ahead
+/// would pile up. True when the order no longer fits: slots may now belong to other texts.
+bool ClipSearch::Private::giveBackWaste() {
+    constexpr std::size_t negligible = std::size_t{1} << 19;
+    if (index.removedBytes() <= index.byteCount() / 2 + negligible)
+        return false;
+    found.reset();
+    index.recycle();
+    return true;
 }
 
 /// The only texts that the needle can be in, where that is known without looking into them.

@@ -34,6 +34,9 @@ public:
     /// True when nothing is left to do. `revision` as for `search`.
     [[nodiscard]] bool prepare(const std::vector<ClipRef>& clips, qint64 revision, std::chrono::microseconds budget);
 
+    /// Bytes that are held for folded texts: at most a few times those of `clips`, however many have gone.
+    [[nodiscard]] std::size_t capacity() const;
+
     /// Wipes the last query. What was folded stays.
     void forgetQuery();
     /// Wipes what was folded of the clip. Call it when anything of its text changed, and when the clip went.

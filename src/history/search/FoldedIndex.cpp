@@ -93,6 +93,7 @@ void FoldedIndex::remove(Slot slot) {
     std::memset(chunk.bytes.get() + place.offset, separator, place.length);
     chunk.wasted += place.length + 1;
     m_byteCount -= place.length;
+    m_removedBytes += place.length;
     place.isAlive = false;
     m_removed.push_back(slot);
 }
@@ -110,6 +111,7 @@ void FoldedIndex::recycle() {
             empty(number);
     m_free.insert(m_free.end(), m_removed.begin(), m_removed.end());
     m_removed.clear();
+    m_removedBytes = 0;
 }
 
 void FoldedIndex::empty(std::uint32_t chunkNumber) {

@@ -39,6 +39,8 @@ public:
     [[nodiscard]] std::size_t slotCount() const { return m_places.size(); }
     /// Bytes of all living texts.
     [[nodiscard]] std::size_t byteCount() const { return m_byteCount; }
+    /// Bytes of the texts that were removed since `recycle`.
+    [[nodiscard]] std::size_t removedBytes() const { return m_removedBytes; }
     /// Bytes that are held, for living texts or not.
     [[nodiscard]] std::size_t capacity() const;
 
@@ -67,6 +69,7 @@ private:
     std::vector<Slot> m_removed;
     std::vector<Slot> m_free;
     std::size_t m_byteCount = 0;
+    std::size_t m_removedBytes = 0;
 };
 
 } // namespace vellumry

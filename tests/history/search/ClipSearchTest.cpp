@@ -268,5 +268,37 @@ TEST(ClipSearch, WhatChangesWhileTheRestIsPreparedIsFoundAsItIsNow) {
     EXPECT_EQ(search.search(clips, u"old 0 "_s, ClipFilter::all, 2), Clips());
 }
 
+TEST(ClipSearch, TextsThatWentDoNotPileUpWhereNothingIsSearchedFor) {
+    Clips clips;
+    ClipSearch search;
+    constexpr int kept = 50;
+    for (int number = 0; number < 2000; ++number) {
+        clips.push_back(textClip(u"text %1 "_s.arg(number).repeated(1000)));
+        if (clips.size() > kept) {
+            search.forgetText(clips.front()->id);
+            clips.erase(clips.begin());
+        }
+        (void)prepared(search, clips, number, std::chrono::seconds(1));
+    }
+    EXPECT_LT(search.capacity(), std::size_t{4} << 20); // all of them took 18 MB
+    EXPECT_EQ(search.search(clips, u"text 1999 "_s, ClipFilter::all, 1999), Clips{clips.back()});
+    EXPECT_EQ(search.search(clips, u"text 1949 "_s, ClipFilter::all, 1999), Clips());
+    EXPECT_EQ(search.search(clips, u"text"_s, ClipFilter::all, 1999), clips);
+}
+
+TEST(ClipSearch, ATextThatChangedIsFoundAsItIsNowWhenItsPlaceWasGivenToAnother) {
+    Clips clips{textClip(u"first "_s.repeated(200'000)), textClip(u"second"_s)};
+    ClipSearch search;
+    (void)prepared(search, clips, 1, std::chrono::seconds(1));
+    EXPECT_EQ(search.search(clips, u"first"_s, ClipFilter::all, 1), Clips{clips[0]});
+    search.forgetText(clips[0]->id);
+    clips[0] = changed(clips[0], [](Clip& clip) { clip.searchText = u"renewed"_s; });
+    clips.insert(clips.begin(), textClip(u"newcomer"_s));
+    (void)prepared(search, clips, 2, std::chrono::seconds(1));
+    EXPECT_EQ(search.search(clips, u"newcomer"_s, ClipFilter::all, 2), Clips{clips[0]});
+    EXPECT_EQ(search.search(clips, u"renewed"_s, ClipFilter::all, 2), Clips{clips[1]});
+    EXPECT_EQ(search.search(clips, u"second"_s, ClipFilter::all, 2), Clips{clips[2]});
+}
+
 } // namespace
 } // namespace vellumry
