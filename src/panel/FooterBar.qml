@@ -24,6 +24,8 @@ Item {
         color: Theme.line
     }
     Label {
+        id: tally
+        objectName: "count"
         anchors.left: parent.left
         anchors.leftMargin: Theme.inset
         anchors.right: undoButton.left
@@ -49,6 +51,21 @@ Item {
     Row {
         id: hints
         objectName: "hints"
+
+        /// What the count and the buttons leave; the count is never cut for a hint.
+        readonly property real room: footer.width - 2 * Theme.inset - Math.ceil(tally.implicitWidth) - Theme.gap - undoButton.width - undoButton.anchors.rightMargin - menuButton.width - anchors.rightMargin
+
+        /// How wide the hints are that stay at least as long as the one of `rank`.
+        function widthUpTo(rank: int): real {
+            let sum = 0;
+            for (let index = 0; all.isMade && index < all.count; ++index) {
+                const hint = all.itemAt(index) as FooterHint;
+                if (hint && hint.rank <= rank)
+                    sum += hint.implicitWidth + (sum > 0 ? spacing : 0);
+            }
+            return sum;
+        }
+
         visible: footer.panel.hasAccessibility
         anchors.right: menuButton.left
         anchors.rightMargin: menuButton.visible ? Theme.margin : 0
@@ -56,24 +73,18 @@ Item {
         spacing: Theme.margin
 
         Repeater {
+            id: all
+
+            /// The count is told before the items are there.
+            property int made: 0
+            readonly property bool isMade: made === count
+
             model: footer.panel.hints
+            onItemAdded: ++made
+            onItemRemoved: --made
 
-            Row {
-                id: hint
-                required property string keys
-                required property string text
-                spacing: Theme.grid
-
-                Keycap {
-                    anchors.verticalCenter: parent.verticalCenter
-                    text: hint.keys
-                }
-                Label {
-                    anchors.verticalCenter: parent.verticalCenter
-                    text: hint.text
-                    color: Theme.secondary
-                    font.pixelSize: Theme.footerSize
-                }
+            FooterHint {
+                visible: hints.widthUpTo(rank) <= hints.room
             }
         }
     }

@@ -19,13 +19,15 @@ QVariant HintListModel::data(const QModelIndex& index, int role) const {
     case TextRole:
     case Qt::DisplayRole:
         return hint.text;
+    case RankRole:
+        return hint.rank;
     default:
         return {};
     }
 }
 
 QHash<int, QByteArray> HintListModel::roleNames() const {
-    return {{KeysRole, "keys"}, {TextRole, "text"}};
+    return {{KeysRole, "keys"}, {TextRole, "text"}, {RankRole, "rank"}};
 }
 
 void HintListModel::setHints(std::vector<Hint> hints) {

@@ -12,11 +12,12 @@ class HintListModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    enum Role { KeysRole = Qt::UserRole + 1, TextRole };
+    enum Role { KeysRole = Qt::UserRole + 1, TextRole, RankRole };
 
     struct Hint {
         QString keys;
         QString text;
+        int rank = 0; ///< where room is short, the highest goes first
         bool operator==(const Hint&) const = default;
     };
 

@@ -180,22 +180,22 @@ void PanelFacade::tellHints() {
     const std::vector<ClipRef> chosen = m_model->selectedClips();
     std::vector<HintListModel::Hint> hints;
     if (!chosen.empty())
-        hints.push_back({QStringLiteral("↑↓"), localised("Choose")});
+        hints.push_back({QStringLiteral("↑↓"), localised("Choose"), 4});
     const bool hasImage =
         std::ranges::any_of(chosen, [](const ClipRef& clip) { return clip->kind == ClipKind::image; });
     if (chosen.size() > 1) {
         if (!hasImage)
-            hints.push_back({localised("↩"), localised("Merge & paste")});
+            hints.push_back({localised("↩"), localised("Merge & paste"), 0});
     } else if (chosen.size() == 1) {
         const Clip& clip = *chosen.front();
-        hints.push_back({localised("↩"), localised("Paste")});
+        hints.push_back({localised("↩"), localised("Paste"), 0});
         if (clip.kind == ClipKind::text || clip.kind == ClipKind::richText)
-            hints.push_back({localised("⇧↩"), localised("Plain text")});
+            hints.push_back({localised("⇧↩"), localised("Plain text"), 1});
         if (clip.canBeTransformed())
-            hints.push_back({localised("⌘") + QLatin1Char('T'), localised("Transform")});
+            hints.push_back({localised("⌘") + QLatin1Char('T'), localised("Transform"), 3});
     }
     if (!chosen.empty())
-        hints.push_back({localised("⌘⌫"), localised("Delete")});
+        hints.push_back({localised("⌘⌫"), localised("Delete"), 2});
     m_hints.setHints(std::move(hints));
 }
 

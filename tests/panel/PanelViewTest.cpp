@@ -4,10 +4,25 @@
 
 #include <QAccessible>
 #include <QClipboard>
+#include <QTranslator>
+#include <algorithm>
+#include <array>
+#include <string_view>
 
 using namespace vellumry;
 
 namespace {
+
+/// A language in which the footer's hints take much room.
+class LongHints : public QTranslator {
+public:
+    [[nodiscard]] static QString of(const char* key) { return QString(20, u'W') + QString::fromUtf8(key); }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char*, const char* key, const char*, int) const override {
+        constexpr std::array<std::string_view, 5> hints{"Choose", "Paste", "Plain text", "Transform", "Delete"};
+        return std::ranges::find(hints, key) == hints.end() ? QString() : of(key);
+    }
+};
 
 class PanelViewTest : public PanelWindowWorld {
 protected:
@@ -122,6 +137,22 @@ TEST_F(PanelViewTest, TheFooterCountsClipsAndNamesTheKeys) {
     press(Qt::Key_Down, Qt::ShiftModifier);
     EXPECT_TRUE(texts().contains(localised("Merge & paste")));
     EXPECT_FALSE(texts().contains(localised("Paste")));
+}
+
+TEST_F(PanelViewTest, InALanguageOfLongWordsHintsMakeRoomForTheCount) {
+    addText("Only");
+    LongHints words; // taken out again where it ends
+    QCoreApplication::installTranslator(&words);
+    open();
+    (void)view()->grabWindow();
+    const auto* count = view()->rootObject()->findChild<QQuickItem*>(QStringLiteral("count"));
+    EXPECT_FALSE(count->property("truncated").toBool());
+    EXPECT_TRUE(texts().contains(LongHints::of("Paste"))) << "what matters most stays";
+    EXPECT_FALSE(texts().contains(LongHints::of("Choose")));
+    EXPECT_FALSE(texts().contains(LongHints::of("Transform")));
+    addText("More");
+    press(Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_TRUE(texts().contains(localised("Merge & paste"))) << "other hints are measured anew";
 }
 
 TEST_F(PanelViewTest, AChipClickedFiltersTheRows) {
