@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capture/DraftTitles.h"
 
+#include "foundation/InterfaceLocale.h"
 #include "foundation/Localisation.h"
 #include "foundation/Text.h"
 
@@ -43,7 +44,7 @@ QString screenshotTitle(Date date, const QTimeZone& zone, const QLocale& locale)
 }
 
 QString screenshotTitle(Date date) {
-    return screenshotTitle(date, QTimeZone::systemTimeZone(), QLocale());
+    return screenshotTitle(date, QTimeZone::systemTimeZone(), interfaceLocale());
 }
 
 QString filesTitle(const std::vector<FileRef>& files) {
