@@ -77,8 +77,10 @@ bool Catalogue::open(const QString& name) {
 
 QString Catalogue::translate(const char* group, const char* key, const char* disambiguation, int count) const {
     QString text = QTranslator::translate(group, key, disambiguation, count);
-    if (count >= 0)
-        text.replace(QLatin1String("%n"), m_locale.toString(count));
+    if (count >= 0) {
+        const QString number = m_locale.toString(count);
+        text.replace(QLatin1String("%Ln"), number).replace(QLatin1String("%n"), number);
+    }
     return text;
 }
 
