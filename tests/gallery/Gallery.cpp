@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Draws the panel in each of its states, without a display: `panel_gallery FOLDER [--dark] [--rtl] [STATE…]`, all
-// states without one. QT_SCALE_FACTOR sets the scale.
+// Draws the panel in each of its states, in the language of the environment, without a display: `panel_gallery FOLDER
+// [--dark] [--rtl] [STATE…]`, all states without one. QT_SCALE_FACTOR sets the scale. Tells of texts that do not fit.
 
 #include "foundation/Localisation.h"
+#include "gallery/CutTexts.h"
 #include "panel/PanelController.h"
+#include "shell/StatusMenu.h"
 #include "support/FakeImageCodec.h"
 #include "support/FakePanelSurface.h"
 #include "support/PasteWorld.h"
@@ -12,6 +14,7 @@
 #include <QBuffer>
 #include <QCommandLineParser>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -113,6 +116,14 @@ public:
              }},
             {QStringLiteral("search"), [this] { panel.model().searchTextEdited(QStringLiteral("roof")); }},
             {QStringLiteral("in-vain"), [this] { panel.model().searchTextEdited(QStringLiteral("walrus")); }},
+            {QStringLiteral("deleted"),
+             [this] {
+                 choose("Meeting");
+                 panel.model().deleteSelected();
+             }},
+            {QStringLiteral("menu-of-a-clip"), [this] { press(Qt::Key_Menu, "offer", 0); }},
+            {QStringLiteral("menu-of-several"), [this] { press(Qt::Key_Menu, "Dear", 3); }},
+            {QStringLiteral("menu"), [this] { press(Qt::Key_F10, "Dear", 0); }},
             {QStringLiteral("no-keys"), [this] { choose("Meeting"); }},
             {QStringLiteral("empty"), [] {}},
         };
@@ -173,6 +184,38 @@ private:
             panel.model().selectOnly((*found)->id);
     }
 
+    /// A key, with that clip and so many below it chosen.
+    void press(Qt::Key key, const char* beginning, int below) {
+        choose(beginning);
+        for (int count = 0; count < below; ++count)
+            panel.model().handle(PanelModel::Command::extendDown);
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key, Qt::NoModifier);
+            QGuiApplication::sendEvent(surface.adopted.first(), &event);
+        }
+    }
+
+    /// The program's menu on an ordinary day.
+    std::vector<ActionMenuItem> programMenu() {
+        StatusMenuState state;
+        state.clipCount = store.clips().size();
+        state.isStackActive = true;
+        state.stackItems = 3;
+        state.canCheckForUpdates = true;
+        state.update = PendingUpdate{QStringLiteral("1.4.0"), PendingUpdate::State::ready};
+        StatusMenuActions actions;
+        actions.toggleStack = actions.toggleScreenshots = actions.openSettings = [] {};
+        return statusMenu(state, actions);
+    }
+
+    /// What of the texts is the user's: it may be cut.
+    QStringList ofClips() {
+        QStringList found;
+        for (const ClipRef& clip : store.clips())
+            found << clip->title << clip->sourceAppName.value_or(QString());
+        return found;
+    }
+
     void draw(const QString& name, const std::function<void()>& arrange) {
         target.trusted = name != QLatin1String("no-keys");
         if (name == QLatin1String("empty"))
@@ -193,6 +236,10 @@ private:
         const QString file = m_folder + QLatin1Char('/') + name + QStringLiteral(".png");
         if (!view->grabWindow().save(file))
             std::fprintf(stderr, "cannot write %s\n", qUtf8Printable(file));
+        for (const QString& trouble : textsThatDoNotFit(*view->contentItem(), ofClips())) {
+            if (!name.startsWith(QLatin1String("menu")) || !trouble.startsWith(QLatin1String("over another")))
+                std::fprintf(stderr, "%s: %s\n", qUtf8Printable(name), qUtf8Printable(trouble));
+        }
         panel.hide();
     }
 
@@ -200,9 +247,10 @@ private:
         PanelController::Hooks hooks;
         hooks.position = [](const QString&) { return std::nullopt; };
         hooks.setPosition = [](std::optional<placement::Fractions>, const QString&) {};
-        hooks.openPanelKeys = [] { return QStringLiteral("Ctrl+Super+V"); };
+        hooks.openPanelKeys = [] { return localised("⌃⌘V"); };
         hooks.showToast = [](const ToastMessage&) {};
         hooks.preview.images = &codec;
+        hooks.statusMenu = [this] { return programMenu(); };
         return hooks;
     }
 
