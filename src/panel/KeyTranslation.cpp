@@ -3,53 +3,49 @@
 
 #include "paste/Shortcut.h"
 
-#include <limits>
-
 namespace vellumry {
 
 namespace {
 
 using Command = PanelModel::Command;
 
-/// The key codes of the chords by what the key types: the letter counts, wherever the layout has it.
-std::optional<quint16> chordKeyCode(int key) {
+/// The keys of the chords by what they type: the letter counts, wherever the layout has it.
+std::optional<KeyCode> chordKeyCode(int key) {
     if (key >= Qt::Key_1 && key <= Qt::Key_9)
         return keyCodeOfDigit(key - Qt::Key_0);
     switch (key) {
     case Qt::Key_Backspace:
-        return 51;
+        return KeyCode::backspace;
     case Qt::Key_Delete:
-        return 117;
+        return KeyCode::forwardDelete;
     case Qt::Key_Z:
-        return 6;
+        return KeyCode::z;
     case Qt::Key_P:
-        return 35;
+        return KeyCode::p;
     case Qt::Key_M:
-        return 46;
+        return KeyCode::m;
     case Qt::Key_Q:
-        return 12;
+        return KeyCode::q;
     case Qt::Key_W:
-        return 13;
+        return KeyCode::w;
     case Qt::Key_C:
-        return 8;
+        return KeyCode::c;
     case Qt::Key_T:
-        return 17;
+        return KeyCode::t;
     default:
         return std::nullopt;
     }
 }
 
 /// French keyboards type digits with Shift only, and Russian ones no Latin letters: there the key's place counts.
-std::optional<quint16> placedKeyCode(int key, const std::function<std::optional<quint32>()>& place) {
+std::optional<KeyCode> placedKeyCode(int key, const std::function<std::optional<KeyCode>()>& place) {
     constexpr int lastOfLatin1 = 0xFF;
     if (!place || key >= Qt::Key_Escape) // from there on keys type nothing
         return std::nullopt;
-    const std::optional<quint32> keyCode = place();
-    if (!keyCode || *keyCode > std::numeric_limits<quint16>::max())
+    const std::optional<KeyCode> keyCode = place();
+    if (keyCode && key <= lastOfLatin1 && !digitOfKeyCode(*keyCode))
         return std::nullopt;
-    if (key <= lastOfLatin1 && !digitOfKeyCode(quint16(*keyCode)))
-        return std::nullopt;
-    return quint16(*keyCode);
+    return keyCode;
 }
 
 std::optional<Command> plainCommand(int key, bool isFieldEmpty) {
@@ -114,44 +110,30 @@ std::optional<Command> controlledCommand(int key) {
 
 } // namespace
 
-quint32 eventFlags(Qt::KeyboardModifiers modifiers) {
-    quint32 flags = 0;
-    if (modifiers & Qt::ControlModifier)
-        flags |= eventflag::command;
-    if (modifiers & Qt::MetaModifier)
-        flags |= eventflag::control;
-    if (modifiers & Qt::AltModifier)
-        flags |= eventflag::option;
-    if (modifiers & Qt::ShiftModifier)
-        flags |= eventflag::shift;
-    return flags;
-}
-
-KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty,
-                     const std::function<std::optional<quint32>()>& place) {
-    quint32 flags = eventFlags(modifiers);
+KeyMeaning meaningOf(int key, Qt::KeyboardModifiers held, bool isFieldEmpty,
+                     const std::function<std::optional<KeyCode>()>& place) {
+    Modifiers modifiers = modifiersOf(held);
     // Quick fingers choose while the keys of the shortcut that opened the panel are still down.
-    if ((flags & eventflag::control) != 0)
-        flags &= ~(eventflag::control | eventflag::command);
+    if (modifiers.testFlag(Modifier::control))
+        modifiers &= ~(Modifier::control | Modifier::command);
     KeyMeaning meaning;
-    if (flags == 0)
+    if (!modifiers)
         meaning.command = plainCommand(key, isFieldEmpty);
-    else if (flags == eventflag::shift)
+    else if (modifiers == Modifier::shift)
         meaning.command = shiftedCommand(key);
-    else if (flags == eventflag::command)
+    else if (modifiers == Modifier::command)
         meaning.command = controlledCommand(key);
-    else if (flags == eventflag::option && (key == Qt::Key_Return || key == Qt::Key_Enter))
+    else if (modifiers == Modifier::option && (key == Qt::Key_Return || key == Qt::Key_Enter))
         meaning.command = Command::enterPlain;
-    constexpr quint16 forwardDelete = 117;
-    if (flags == 0 && key == Qt::Key_Delete && isFieldEmpty)
-        meaning.chord = KeyMeaning::Chord{forwardDelete, eventflag::command};
+    if (!modifiers && key == Qt::Key_Delete && isFieldEmpty)
+        meaning.chord = KeyMeaning::Chord{KeyCode::forwardDelete, Modifier::command};
     const bool rubsOutWord = key == Qt::Key_Backspace && !isFieldEmpty;
-    if (!meaning.command && !rubsOutWord && (flags & eventflag::command) != 0) {
-        std::optional<quint16> keyCode = chordKeyCode(key);
+    if (!meaning.command && !rubsOutWord && modifiers.testFlag(Modifier::command)) {
+        std::optional<KeyCode> keyCode = chordKeyCode(key);
         if (!keyCode)
             keyCode = placedKeyCode(key, place);
         if (keyCode)
-            meaning.chord = KeyMeaning::Chord{*keyCode, flags};
+            meaning.chord = KeyMeaning::Chord{*keyCode, modifiers};
     }
     return meaning;
 }

@@ -10,11 +10,11 @@
 namespace vellumry {
 
 /// What a key pressed in the search field means to the panel: one of its commands, or a chord that the model knows by
-/// key code and flags. Neither: the key belongs to the text.
+/// key and modifiers. Neither: the key belongs to the text.
 struct KeyMeaning {
     struct Chord {
-        quint16 keyCode = 0;
-        quint32 flags = 0; ///< bits of `eventflag`
+        KeyCode keyCode{};
+        Modifiers modifiers;
         bool operator==(const Chord&) const = default;
     };
     std::optional<PanelModel::Command> command;
@@ -25,12 +25,9 @@ struct KeyMeaning {
 
 /// With Super held, Super and Ctrl count as left over from the shortcut that opened the panel. `isFieldEmpty`: nothing
 /// is typed, so the arrows to the sides choose filters instead of moving the caret, and Delete and Ctrl+Backspace mean
-/// the clip instead of the text. `place` answers the virtual key
-/// code of the key; it is asked for keys only whose letter no chord has.
-[[nodiscard]] KeyMeaning meaningOf(int key, Qt::KeyboardModifiers modifiers, bool isFieldEmpty,
-                                   const std::function<std::optional<quint32>()>& place = nullptr);
-
-/// Qt's modifiers as bits of `eventflag`: Ctrl is command, Super control, Alt option.
-[[nodiscard]] quint32 eventFlags(Qt::KeyboardModifiers modifiers);
+/// the clip instead of the text. `place` answers where the key
+/// is; it is asked for keys only whose letter no chord has.
+[[nodiscard]] KeyMeaning meaningOf(int key, Qt::KeyboardModifiers held, bool isFieldEmpty,
+                                   const std::function<std::optional<KeyCode>()>& place = nullptr);
 
 } // namespace vellumry

@@ -41,7 +41,7 @@ public:
         /// The words for the shortcut that opens the panel.
         std::function<QString()> openPanelKeys;
         /// The virtual key code of the key with that native scan code.
-        std::function<std::optional<quint32>(quint32 scanCode)> keyCodeOf;
+        std::function<std::optional<KeyCode>(quint32 scanCode)> keyCodeOf;
         /// Asks the desktop to let us press keys in other applications.
         std::function<void()> requestAccessibility = [] {};
         /// The menu of the program for the button in the panel's footer, which is there only where this is set. The

@@ -130,7 +130,7 @@ public:
     void setDormant(bool isDormant);
 
     /// The virtual key code of the key with that native scan code.
-    std::function<std::optional<quint32>(quint32 scanCode)> keyCodeOf;
+    std::function<std::optional<KeyCode>(quint32 scanCode)> keyCodeOf;
     /// The menu of the program, as it is when it is asked for; unset where the panel offers none.
     std::function<std::vector<ActionMenuItem>()> statusMenu;
     std::function<void()> onRequestAccessibility = [] {};

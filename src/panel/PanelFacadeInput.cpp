@@ -51,7 +51,7 @@ bool PanelFacade::keyPressed(int key, int modifiers, quint32 scanCode, bool hasT
     if (meaning.chord && isRepeated && (key == Qt::Key_Backspace || key == Qt::Key_Delete))
         return true;
     if (meaning.chord)
-        return m_model->keyEquivalent(meaning.chord->keyCode, meaning.chord->flags, hasTextSelection);
+        return m_model->keyEquivalent(meaning.chord->keyCode, meaning.chord->modifiers, hasTextSelection);
     return false;
 }
 
@@ -117,7 +117,7 @@ void PanelFacade::rowPressed(int row, int modifiers, QPointF place) {
     if (!clip)
         return;
     m_isPointing = true;
-    m_collapsesOnRelease = m_model->click(clip->id, eventFlags(Qt::KeyboardModifiers(modifiers)));
+    m_collapsesOnRelease = m_model->click(clip->id, modifiersOf(Qt::KeyboardModifiers(modifiers)));
     m_isPointing = false;
     m_rows.setHeld(true);
     m_drag.press(clip->id, place);
@@ -160,7 +160,7 @@ void PanelFacade::collapse() {
 
 void PanelFacade::rowDoubleClicked(int modifiers) {
     // With Ctrl or Shift held it is two single clicks, which have done their work.
-    if ((eventFlags(Qt::KeyboardModifiers(modifiers)) & (eventflag::command | eventflag::shift)) != 0)
+    if (modifiersOf(Qt::KeyboardModifiers(modifiers)) & (Modifier::command | Modifier::shift))
         return;
     // A press that ended as a drag is not the first half of a double click.
     if (m_followsDrag)

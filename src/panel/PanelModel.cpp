@@ -144,12 +144,12 @@ void PanelModel::resetSelection() {
     select(rows().first());
 }
 
-bool PanelModel::click(const QUuid& id, quint32 flags) {
-    if (flags & eventflag::command) {
+bool PanelModel::click(const QUuid& id, Modifiers modifiers) {
+    if (modifiers.testFlag(Modifier::command)) {
         toggleSelection(id);
         return false;
     }
-    if (flags & eventflag::shift) {
+    if (modifiers.testFlag(Modifier::shift)) {
         extendSelection(id);
         return false;
     }

@@ -4,6 +4,8 @@
 #include "panel/PanelActions.h"
 #include "panel/PanelSections.h"
 #include "panel/PanelSelection.h"
+#include "platform/display/KeyCode.h"
+#include "platform/display/Modifiers.h"
 
 #include <QHash>
 #include <QObject>
@@ -90,7 +92,7 @@ public:
     void searchTextEdited(const QString& text);
     void resetSelection();
     /// A press on a row. True when a selection of several is to collapse to `id` once the button is released.
-    bool click(const QUuid& id, quint32 flags);
+    bool click(const QUuid& id, Modifiers modifiers);
     void move(int offset);
     void extend(int delta);
     void toggleSelection(const QUuid& id);
@@ -102,9 +104,9 @@ public:
 
     /// True when the command was handled.
     bool handle(Command command);
-    /// A key with Command (Ctrl) held. `flags` are bits of `eventflag`; `hasTextSelection`: part of the search text is
+    /// A key with Command (Ctrl) held. `hasTextSelection`: part of the search text is
     /// selected. False leaves the key to the search field.
-    bool keyEquivalent(quint16 keyCode, quint32 flags, bool hasTextSelection);
+    bool keyEquivalent(KeyCode keyCode, Modifiers modifiers, bool hasTextSelection);
     /// Closes the panel, then pastes. `isPlain` false means the user's default.
     void pasteClip(const ClipRef& clip, bool isPlain, std::optional<TextTransform> transform = std::nullopt) {
         m_actions.paste(clip, isPlain, transform);

@@ -13,19 +13,6 @@ namespace {
 constexpr int pageRows = 8;
 constexpr int lastTransform = int(PanelModel::transformList.size()) - 1;
 
-/// Virtual key codes of the keys that do something together with Command.
-namespace keycode {
-constexpr quint16 z = 6;
-constexpr quint16 c = 8;
-constexpr quint16 q = 12;
-constexpr quint16 w = 13;
-constexpr quint16 t = 17;
-constexpr quint16 p = 35;
-constexpr quint16 m = 46;
-constexpr quint16 backspace = 51;
-constexpr quint16 forwardDelete = 117;
-} // namespace keycode
-
 /// How many rows a command moves the selection; 0 for one that does not.
 int moveOffset(PanelModel::Command command) {
     switch (command) {
@@ -172,9 +159,8 @@ void PanelModel::handleEscape() {
     }
 }
 
-bool PanelModel::keyEquivalent(quint16 keyCode, quint32 flags, bool hasTextSelection) {
-    constexpr quint32 deviceBits = 0xFFFF;
-    if ((flags & ~deviceBits) != eventflag::command)
+bool PanelModel::keyEquivalent(KeyCode keyCode, Modifiers modifiers, bool hasTextSelection) {
+    if (modifiers != Modifier::command)
         return false;
 
     if (const auto number = digitOfKeyCode(keyCode)) {
@@ -185,31 +171,31 @@ bool PanelModel::keyEquivalent(quint16 keyCode, quint32 flags, bool hasTextSelec
         return true;
     }
     switch (keyCode) {
-    case keycode::backspace:
-    case keycode::forwardDelete:
+    case KeyCode::backspace:
+    case KeyCode::forwardDelete:
         deleteSelected();
         return true;
-    case keycode::z: {
+    case KeyCode::z: {
         // What was typed since is what the user means to undo.
         const auto last = m_actions.undo().last();
         return last && last->edits == m_edits && undoDeletion();
     }
-    case keycode::p:
+    case KeyCode::p:
         togglePin();
         return true;
-    case keycode::m:
+    case KeyCode::m:
         merge(MergeAction::stay);
         return true;
-    case keycode::q:
-    case keycode::w:
+    case KeyCode::q:
+    case KeyCode::w:
         onClose();
         return true;
-    case keycode::c:
+    case KeyCode::c:
         if (hasTextSelection)
             return false;
         copySelected();
         return true;
-    case keycode::t:
+    case KeyCode::t:
         toggleTransforms();
         return true;
     default:

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "paste/PasteKeyListener.h"
 
-#include "platform/display/EventFlags.h"
 #include "platform/display/KeyboardLayout.h"
 
 #include <utility>
@@ -20,7 +19,7 @@ PasteKeyListener::~PasteKeyListener() {
 bool PasteKeyListener::start() {
     if (m_isListening)
         return true;
-    m_vKeyCode = m_layout->keyCodeFor(u'v').value_or(quint32(usualVKeyCode));
+    m_vKeyCode = m_layout->keyCodeFor(u'v').value_or(KeyCode::v);
     m_keys->onPress = [this](const KeyPress& press, std::shared_ptr<HeldKey> key) { handle(press, std::move(key)); };
     m_isListening = m_keys->start();
     if (!m_isListening)
@@ -44,7 +43,7 @@ void PasteKeyListener::handle(KeyPress press, std::shared_ptr<HeldKey> key) {
         key->letGo(HeldKey::Contents::same);
 }
 
-bool PasteKeyListener::shouldPaste(const KeyPress& press, qint64 vKeyCode, qint64 ownPID) {
+bool PasteKeyListener::shouldPaste(const KeyPress& press, KeyCode vKeyCode, qint64 ownPID) {
     // Holding the keys down pastes once.
     if (press.isRepeat)
         return false;
@@ -53,10 +52,9 @@ bool PasteKeyListener::shouldPaste(const KeyPress& press, qint64 vKeyCode, qint6
         return false;
     if (press.targetPID != 0 && press.targetPID == ownPID)
         return false;
-    const quint32 all = eventflag::command | eventflag::control | eventflag::option | eventflag::shift;
-    if (press.keyCode == insertKeyCode && (press.flags & all) == eventflag::shift)
+    if (press.keyCode == KeyCode::insert && press.modifiers == Modifier::shift)
         return true;
-    if ((press.flags & (eventflag::command | eventflag::control)) != eventflag::command)
+    if ((press.modifiers & (Modifier::command | Modifier::control)) != Modifier::command)
         return false;
     if (press.characters.toLower() == u"v")
         return true;

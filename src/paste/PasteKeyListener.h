@@ -14,10 +14,6 @@ class KeyboardLayout;
 /// other presses go on their way at once. Main thread.
 class PasteKeyListener {
 public:
-    /// Virtual key codes of the keys that paste, as on a US keyboard.
-    static constexpr qint64 usualVKeyCode = 9;
-    static constexpr qint64 insertKeyCode = 114;
-
     /// Both must outlive the listener. `ownPID`: this process.
     PasteKeyListener(PasteKeys& keys, const KeyboardLayout& layout, qint64 ownPID);
     ~PasteKeyListener();
@@ -32,7 +28,7 @@ public:
 
     /// Does this press paste, and is it the stack's concern? Ctrl must be down and Super up, Shift and Alt may be
     /// either; Shift+Insert pastes as well. A repeated press, one of our own, and one into our own windows is none.
-    [[nodiscard]] static bool shouldPaste(const KeyPress& press, qint64 vKeyCode, qint64 ownPID);
+    [[nodiscard]] static bool shouldPaste(const KeyPress& press, KeyCode vKeyCode, qint64 ownPID);
 
     /// The user pastes. The key waits as long as it is kept, within its own limit.
     std::function<void(std::shared_ptr<HeldKey> key)> onPaste;
@@ -45,7 +41,7 @@ private:
     PasteKeys* m_keys;
     const KeyboardLayout* m_layout;
     qint64 m_ownPID;
-    qint64 m_vKeyCode = usualVKeyCode;
+    KeyCode m_vKeyCode = KeyCode::v;
     bool m_isListening = false;
 };
 

@@ -15,26 +15,31 @@ namespace vellumry {
 
 namespace {
 
-constexpr std::array<quint16, 9> digitKeyCodes{18, 19, 20, 21, 23, 22, 26, 28, 25};
+constexpr std::array digitKeyCodes{KeyCode::digit1, KeyCode::digit2, KeyCode::digit3, KeyCode::digit4, KeyCode::digit5,
+                                   KeyCode::digit6, KeyCode::digit7, KeyCode::digit8, KeyCode::digit9};
 
-// Both Command, Shift, Option and Control keys, Caps Lock and Function.
-constexpr std::array<quint16, 10> modifierKeyCodes{55, 54, 56, 60, 58, 61, 59, 62, 57, 63};
+constexpr std::array modifierKeyCodes{KeyCode::command,  KeyCode::rightCommand, KeyCode::shift,   KeyCode::rightShift,
+                                      KeyCode::option,   KeyCode::rightOption,  KeyCode::control, KeyCode::rightControl,
+                                      KeyCode::capsLock, KeyCode::function};
 
-constexpr std::array<std::pair<quint32, const char*>, 26> keyNames{{
-    {36, "↩"},   {48, "⇥"},  {49, "Space"}, {51, "⌫"},   {53, "⎋"},    {96, "F5"},   {97, "F6"},
-    {98, "F7"},  {99, "F3"}, {100, "F8"},   {101, "F9"}, {103, "F11"}, {109, "F10"}, {111, "F12"},
-    {115, "↖"},  {116, "⇞"}, {117, "⌦"},    {118, "F4"}, {119, "↘"},   {120, "F2"},  {121, "⇟"},
-    {122, "F1"}, {123, "←"}, {124, "→"},    {125, "↓"},  {126, "↑"},
+constexpr std::array<std::pair<KeyCode, const char*>, 26> keyNames{{
+    {KeyCode::enter, "↩"},  {KeyCode::tab, "⇥"},      {KeyCode::space, "Space"}, {KeyCode::backspace, "⌫"},
+    {KeyCode::escape, "⎋"}, {KeyCode::f1, "F1"},      {KeyCode::f2, "F2"},       {KeyCode::f3, "F3"},
+    {KeyCode::f4, "F4"},    {KeyCode::f5, "F5"},      {KeyCode::f6, "F6"},       {KeyCode::f7, "F7"},
+    {KeyCode::f8, "F8"},    {KeyCode::f9, "F9"},      {KeyCode::f10, "F10"},     {KeyCode::f11, "F11"},
+    {KeyCode::f12, "F12"},  {KeyCode::home, "↖"},     {KeyCode::pageUp, "⇞"},    {KeyCode::forwardDelete, "⌦"},
+    {KeyCode::end, "↘"},    {KeyCode::pageDown, "⇟"}, {KeyCode::left, "←"},      {KeyCode::right, "→"},
+    {KeyCode::down, "↓"},   {KeyCode::up, "↑"},
 }};
 
-QString keyName(quint32 keyCode, const KeyboardLayout& layout) {
-    const auto named = std::ranges::find(keyNames, keyCode, &std::pair<quint32, const char*>::first);
+QString keyName(KeyCode keyCode, const KeyboardLayout& layout) {
+    const auto named = std::ranges::find(keyNames, keyCode, &std::pair<KeyCode, const char*>::first);
     if (named != keyNames.end())
         return localised(named->second);
     const auto characters = layout.charactersFor(keyCode);
     if (characters && !characters->trimmed().isEmpty())
         return characters->toUpper();
-    return u'#' + QString::number(keyCode);
+    return u'#' + QString::number(std::to_underlying(keyCode));
 }
 
 std::optional<quint32> unsigned32(const QJsonValue& value) {
@@ -46,40 +51,30 @@ std::optional<quint32> unsigned32(const QJsonValue& value) {
 
 } // namespace
 
-std::optional<Shortcut> Shortcut::create(quint16 keyCode, quint32 flags) {
+std::optional<Shortcut> Shortcut::create(KeyCode keyCode, Modifiers modifiers) {
     // Shift alone would take a letter away from typing.
-    if (!(flags & (eventflag::control | eventflag::option | eventflag::command)))
+    if (!(modifiers & (Modifier::control | Modifier::option | Modifier::command)))
         return std::nullopt;
     if (std::ranges::find(modifierKeyCodes, keyCode) != modifierKeyCodes.end())
         return std::nullopt;
-
-    Shortcut shortcut{keyCode, 0};
-    if (flags & eventflag::command)
-        shortcut.modifiers |= shortcutmodifier::command;
-    if (flags & eventflag::control)
-        shortcut.modifiers |= shortcutmodifier::control;
-    if (flags & eventflag::option)
-        shortcut.modifiers |= shortcutmodifier::option;
-    if (flags & eventflag::shift)
-        shortcut.modifiers |= shortcutmodifier::shift;
-    return shortcut;
+    return Shortcut{keyCode, modifiers};
 }
 
 Shortcut Shortcut::openPanelDefault() {
-    return {9, shortcutmodifier::control | shortcutmodifier::command};
+    return {KeyCode::v, Modifier::control | Modifier::command};
 }
 
 Shortcut Shortcut::pasteStackDefault() {
-    return {1, shortcutmodifier::control | shortcutmodifier::command};
+    return {KeyCode::s, Modifier::control | Modifier::command};
 }
 
 Shortcut Shortcut::pinned(int number) {
-    return {keyCodeOfDigit(number), shortcutmodifier::control | shortcutmodifier::option};
+    return {keyCodeOfDigit(number), Modifier::control | Modifier::option};
 }
 
 QByteArray Shortcut::toJson() const {
-    const QJsonObject object{{QStringLiteral("keyCode"), qint64(keyCode)},
-                             {QStringLiteral("modifiers"), qint64(modifiers)}};
+    const QJsonObject object{{QStringLiteral("keyCode"), qint64(std::to_underlying(keyCode))},
+                             {QStringLiteral("modifiers"), qint64(modifiers.toInt())}};
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
@@ -92,27 +87,28 @@ std::optional<Shortcut> Shortcut::fromStored(const QVariant& value) {
     const auto modifiers = unsigned32(object.value(u"modifiers"));
     if (!keyCode || !modifiers)
         return std::nullopt;
-    return Shortcut{*keyCode, *modifiers};
+    // Numbers that are no key and bits that are no modifier stay in it, and only do nothing.
+    return Shortcut{KeyCode(*keyCode), Modifiers::fromInt(*modifiers)};
 }
 
 QString Shortcut::display(const KeyboardLayout& layout) const {
     QString text;
-    if (modifiers & shortcutmodifier::control)
+    if (modifiers & Modifier::control)
         text += localised("⌃");
-    if (modifiers & shortcutmodifier::option)
+    if (modifiers & Modifier::option)
         text += localised("⌥");
-    if (modifiers & shortcutmodifier::shift)
+    if (modifiers & Modifier::shift)
         text += localised("⇧");
-    if (modifiers & shortcutmodifier::command)
+    if (modifiers & Modifier::command)
         text += localised("⌘");
     return text + keyName(keyCode, layout);
 }
 
-quint16 keyCodeOfDigit(int number) {
+KeyCode keyCodeOfDigit(int number) {
     return digitKeyCodes.at(std::size_t(number - 1));
 }
 
-std::optional<int> digitOfKeyCode(quint16 keyCode) {
+std::optional<int> digitOfKeyCode(KeyCode keyCode) {
     const auto found = std::ranges::find(digitKeyCodes, keyCode);
     if (found == digitKeyCodes.end())
         return std::nullopt;

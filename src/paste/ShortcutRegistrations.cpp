@@ -41,13 +41,13 @@ void ShortcutRegistrations::suspend() {
 std::optional<ShortcutRegistrations::Offer> ShortcutRegistrations::offer() {
     if (m_takenKeys.isEmpty())
         return std::nullopt;
-    using namespace shortcutmodifier;
+    using enum Modifier;
     const QString& key = m_takenKeys.front();
     const Shortcut standard =
         key == QLatin1String("openPanelShortcut") ? Shortcut::openPanelDefault() : Shortcut::pasteStackDefault();
     // The usual key with other modifiers; combinations with Shift last, as many layouts type with them.
-    for (const quint32 modifiers : {control | command, command | option, control | option, control | shift,
-                                    control | command | option, command | option | shift}) {
+    for (const Modifiers modifiers : {control | command, command | option, control | option, control | shift,
+                                      control | command | option, command | option | shift}) {
         const Shortcut candidate{standard.keyCode, modifiers};
         const auto id = m_center.registerShortcut(candidate, [] {});
         if (!id)

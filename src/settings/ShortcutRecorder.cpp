@@ -2,7 +2,6 @@
 #include "settings/ShortcutRecorder.h"
 
 #include "foundation/Localisation.h"
-#include "panel/KeyTranslation.h"
 #include "platform/display/KeyboardLayout.h"
 
 #include <algorithm>
@@ -79,10 +78,9 @@ bool ShortcutRecorder::press(int key, int modifiers, quint32 nativeScanCode) {
         stop();
         return true;
     }
-    const std::optional<quint32> keyCode = m_layout->keyCodeOfScanCode(nativeScanCode);
-    const auto shortcut = keyCode ? Shortcut::create(static_cast<quint16>(*keyCode),
-                                                     eventFlags(Qt::KeyboardModifiers::fromInt(modifiers)))
-                                  : std::nullopt;
+    const std::optional<KeyCode> keyCode = m_layout->keyCodeOfScanCode(nativeScanCode);
+    const auto shortcut =
+        keyCode ? Shortcut::create(*keyCode, modifiersOf(Qt::KeyboardModifiers::fromInt(modifiers))) : std::nullopt;
     if (shortcut) {
         take(*shortcut);
         return true;

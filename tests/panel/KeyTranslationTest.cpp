@@ -22,8 +22,8 @@ class KeyTranslation : public ::testing::TestWithParam<Row> {};
 KeyMeaning command(Command which) {
     return {which, std::nullopt};
 }
-KeyMeaning chord(quint16 keyCode, quint32 flags = eventflag::command) {
-    return {std::nullopt, KeyMeaning::Chord{keyCode, flags}};
+KeyMeaning chord(KeyCode keyCode, Modifiers modifiers = Modifier::command) {
+    return {std::nullopt, KeyMeaning::Chord{keyCode, modifiers}};
 }
 
 const Row rows[] = {
@@ -48,19 +48,19 @@ const Row rows[] = {
     {"AltReturnIsPlain", Qt::Key_Return, Qt::AltModifier, false, command(Command::enterPlain)},
     {"HomeInAnEmptyField", Qt::Key_Home, Qt::NoModifier, true, command(Command::home)},
     {"CtrlEnd", Qt::Key_End, Qt::ControlModifier, false, command(Command::end)},
-    {"CtrlDigit", Qt::Key_3, Qt::ControlModifier, false, chord(20)},
-    {"CtrlP", Qt::Key_P, Qt::ControlModifier, false, chord(35)},
-    {"CtrlC", Qt::Key_C, Qt::ControlModifier, false, chord(8)},
-    {"CtrlBackspaceInAnEmptyField", Qt::Key_Backspace, Qt::ControlModifier, true, chord(51)},
+    {"CtrlDigit", Qt::Key_3, Qt::ControlModifier, false, chord(KeyCode::digit3)},
+    {"CtrlP", Qt::Key_P, Qt::ControlModifier, false, chord(KeyCode::p)},
+    {"CtrlC", Qt::Key_C, Qt::ControlModifier, false, chord(KeyCode::c)},
+    {"CtrlBackspaceInAnEmptyField", Qt::Key_Backspace, Qt::ControlModifier, true, chord(KeyCode::backspace)},
     {"CtrlBackspaceWithTextRubsOutAWord", Qt::Key_Backspace, Qt::ControlModifier, false, {}},
-    {"CtrlDelete", Qt::Key_Delete, Qt::ControlModifier, false, chord(117)},
-    {"DeleteInAnEmptyField", Qt::Key_Delete, Qt::NoModifier, true, chord(117)},
+    {"CtrlDelete", Qt::Key_Delete, Qt::ControlModifier, false, chord(KeyCode::forwardDelete)},
+    {"DeleteInAnEmptyField", Qt::Key_Delete, Qt::NoModifier, true, chord(KeyCode::forwardDelete)},
     {"DeleteWithTextBelongsToTheText", Qt::Key_Delete, Qt::NoModifier, false, {}},
-    {"CtrlZ", Qt::Key_Z, Qt::ControlModifier, false, chord(6)},
+    {"CtrlZ", Qt::Key_Z, Qt::ControlModifier, false, chord(KeyCode::z)},
     {"CtrlShiftZKeepsItsFlags", Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier, false,
-     chord(6, eventflag::command | eventflag::shift)},
+     chord(KeyCode::z, Modifier::command | Modifier::shift)},
     {"CtrlShiftPKeepsItsFlags", Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier, false,
-     chord(35, eventflag::command | eventflag::shift)},
+     chord(KeyCode::p, Modifier::command | Modifier::shift)},
     {"CtrlVBelongsToTheText", Qt::Key_V, Qt::ControlModifier, false, {}},
     {"ALetterBelongsToTheText", Qt::Key_P, Qt::NoModifier, false, {}},
     {"ReturnWhileTheShortcutIsHeld", Qt::Key_Return, Qt::ControlModifier | Qt::MetaModifier, false,
@@ -77,29 +77,38 @@ TEST_P(KeyTranslation, GivesItsMeaning) {
 }
 
 TEST(KeyTranslationByPlace, DigitsThatNeedShiftCountByTheirPlace) {
-    const auto second = [] { return std::optional(19U); };
-    EXPECT_TRUE(meaningOf(Qt::Key_Eacute, Qt::ControlModifier, false, second) == chord(19));
+    const auto second = [] { return std::optional(KeyCode::digit2); };
+    EXPECT_TRUE(meaningOf(Qt::Key_Eacute, Qt::ControlModifier, false, second) == chord(KeyCode::digit2));
     EXPECT_TRUE(meaningOf(Qt::Key_Eacute, Qt::NoModifier, false, second) == KeyMeaning());
 }
 
 TEST(KeyTranslationByPlace, LettersOfOtherScriptsCountByTheirPlace) {
     constexpr int cyrillicZe = 0x0417;
-    EXPECT_TRUE(meaningOf(cyrillicZe, Qt::ControlModifier, false, [] { return std::optional(35U); }) == chord(35));
+    EXPECT_TRUE(meaningOf(cyrillicZe, Qt::ControlModifier, false, [] { return std::optional(KeyCode::p); }) ==
+                chord(KeyCode::p));
 }
 
 TEST(KeyTranslationByPlace, ALatinLetterCountsWhereverItIs) {
-    const auto placeOfP = [] { return std::optional(35U); };
+    const auto placeOfP = [] { return std::optional(KeyCode::p); };
     EXPECT_TRUE(meaningOf(Qt::Key_L, Qt::ControlModifier, false, placeOfP) == KeyMeaning());
-    EXPECT_TRUE(meaningOf(Qt::Key_C, Qt::ControlModifier, false, placeOfP) == chord(8));
+    EXPECT_TRUE(meaningOf(Qt::Key_C, Qt::ControlModifier, false, placeOfP) == chord(KeyCode::c));
 }
 
 TEST(KeyTranslationByPlace, KeysThatTypeNothingAreNotAskedForTheirPlace) {
-    const auto place = []() -> std::optional<quint32> {
+    const auto place = []() -> std::optional<KeyCode> {
         ADD_FAILURE();
-        return 18;
+        return KeyCode::digit1;
     };
     EXPECT_TRUE(meaningOf(Qt::Key_Control, Qt::ControlModifier, false, place) == KeyMeaning());
-    EXPECT_TRUE(meaningOf(Qt::Key_3, Qt::ControlModifier, false, place) == chord(20));
+    EXPECT_TRUE(meaningOf(Qt::Key_3, Qt::ControlModifier, false, place) == chord(KeyCode::digit3));
+}
+
+TEST(Modifiers, EachHasItsNameInQt) {
+    EXPECT_EQ(modifiersOf(Qt::ControlModifier), Modifiers(Modifier::command));
+    EXPECT_EQ(modifiersOf(Qt::MetaModifier), Modifiers(Modifier::control));
+    EXPECT_EQ(modifiersOf(Qt::AltModifier), Modifiers(Modifier::option));
+    EXPECT_EQ(modifiersOf(Qt::ShiftModifier | Qt::ControlModifier), Modifier::shift | Modifier::command);
+    EXPECT_EQ(modifiersOf(Qt::KeypadModifier | Qt::GroupSwitchModifier), Modifiers());
 }
 
 INSTANTIATE_TEST_SUITE_P(Keys, KeyTranslation, ::testing::ValuesIn(rows),

@@ -14,8 +14,8 @@ protected:
     std::vector<QUuid> ids = addTexts(12);
     PanelModelCommands() { model.prepareForShow(); }
 
-    bool press(quint16 keyCode, quint32 flags = eventflag::command, bool hasTextSelection = false) {
-        return model.keyEquivalent(keyCode, flags, hasTextSelection);
+    bool press(KeyCode keyCode, Modifiers modifiers = Modifier::command, bool hasTextSelection = false) {
+        return model.keyEquivalent(keyCode, modifiers, hasTextSelection);
     }
     void openTransforms() {
         model.toggleTransforms();
@@ -120,49 +120,51 @@ TEST_F(PanelModelCommands, EnterWithoutACurrentClipDoesNothing) {
 }
 
 TEST_F(PanelModelCommands, ADigitPastesTheRowWithThatNumber) {
-    EXPECT_TRUE(press(20));
+    EXPECT_TRUE(press(KeyCode::digit3));
     EXPECT_EQ(pastedText(), QStringLiteral("text 10"));
     EXPECT_EQ(closed, 1);
 }
 
 TEST_F(PanelModelCommands, ADigitWithoutARowIsSwallowed) {
     model.setQuery(QStringLiteral("text 12"));
-    EXPECT_TRUE(press(23));
+    EXPECT_TRUE(press(KeyCode::digit5));
     EXPECT_EQ(closed, 0);
     EXPECT_TRUE(pasteboard.writes.empty());
 }
 
 TEST_F(PanelModelCommands, OnlyCommandAloneCounts) {
-    EXPECT_FALSE(press(20, 0));
-    EXPECT_FALSE(press(20, eventflag::command | eventflag::shift));
-    EXPECT_FALSE(press(35, eventflag::command | eventflag::option));
-    EXPECT_FALSE(press(35, eventflag::control));
-    EXPECT_TRUE(press(35, eventflag::command | 0x108)); // the bits of the device are not looked at
+    EXPECT_FALSE(press(KeyCode::digit3, {}));
+    EXPECT_FALSE(press(KeyCode::digit3, Modifier::command | Modifier::shift));
+    EXPECT_FALSE(press(KeyCode::p, Modifier::command | Modifier::option));
+    EXPECT_FALSE(press(KeyCode::p, Modifier::control));
+    EXPECT_FALSE(model.currentClip()->isPinned);
+    EXPECT_TRUE(press(KeyCode::p));
     EXPECT_TRUE(model.currentClip()->isPinned);
 }
 
 TEST_F(PanelModelCommands, QAndWClose) {
-    EXPECT_TRUE(press(12));
-    EXPECT_TRUE(press(13));
+    EXPECT_TRUE(press(KeyCode::q));
+    EXPECT_TRUE(press(KeyCode::w));
     EXPECT_EQ(closed, 2);
 }
 
 TEST_F(PanelModelCommands, OtherKeysAreLeftToTheField) {
-    for (const quint16 keyCode : {0, 1, 7, 9, 29, 49, 126})
-        EXPECT_FALSE(press(keyCode)) << keyCode;
+    for (const KeyCode keyCode :
+         {KeyCode::a, KeyCode::s, KeyCode::x, KeyCode::v, KeyCode::digit0, KeyCode::space, KeyCode::up})
+        EXPECT_FALSE(press(keyCode)) << std::to_underlying(keyCode);
 }
 
 TEST_F(PanelModelCommands, BothDeleteKeysDelete) {
-    press(51);
-    press(117);
+    press(KeyCode::backspace);
+    press(KeyCode::forwardDelete);
     EXPECT_EQ(model.visibleClips().size(), 10u);
     EXPECT_EQ(model.selectedID(), ids[2]);
 }
 
 TEST_F(PanelModelCommands, CopyTakesTheClipUnlessSearchTextIsSelected) {
-    EXPECT_FALSE(press(8, eventflag::command, true));
+    EXPECT_FALSE(press(KeyCode::c, Modifier::command, true));
     EXPECT_TRUE(pasteboard.writes.empty());
-    EXPECT_TRUE(press(8));
+    EXPECT_TRUE(press(KeyCode::c));
     EXPECT_EQ(pastedText(), QStringLiteral("text 12"));
     EXPECT_EQ(target.presses, 0);
     EXPECT_EQ(closed, 1);
@@ -171,7 +173,7 @@ TEST_F(PanelModelCommands, CopyTakesTheClipUnlessSearchTextIsSelected) {
 
 TEST_F(PanelModelCommands, CopyOfSeveralMerges) {
     model.handle(Command::extendDown);
-    EXPECT_TRUE(press(8));
+    EXPECT_TRUE(press(KeyCode::c));
     EXPECT_EQ(pastedText(), QStringLiteral("text 11\ntext 12"));
     EXPECT_EQ(target.presses, 0);
     EXPECT_EQ(closed, 1);
@@ -180,16 +182,16 @@ TEST_F(PanelModelCommands, CopyOfSeveralMerges) {
 
 TEST_F(PanelModelCommands, MergeKeyKeepsThePanelOpen) {
     model.handle(Command::extendDown);
-    EXPECT_TRUE(press(46));
+    EXPECT_TRUE(press(KeyCode::m));
     EXPECT_EQ(closed, 0);
     EXPECT_EQ(model.currentClip()->title, QStringLiteral("text 11"));
     EXPECT_EQ(toasts, std::vector{toast("square.stack.fill", "Merged 2 clips into one", ToastMessage::Tone::success)});
 }
 
 TEST_F(PanelModelCommands, TransformKeyOpensAndCloses) {
-    EXPECT_TRUE(press(17));
+    EXPECT_TRUE(press(KeyCode::t));
     EXPECT_EQ(model.transformClipID(), ids[0]);
-    EXPECT_TRUE(press(17));
+    EXPECT_TRUE(press(KeyCode::t));
     EXPECT_EQ(model.transformClipID(), std::nullopt);
 }
 

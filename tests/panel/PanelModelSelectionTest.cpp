@@ -81,65 +81,65 @@ TEST_F(PanelModelSelection, ExtendGrowsAndShrinksFromTheSameRow) {
 }
 
 TEST_F(PanelModelSelection, ShiftClickMeasuresFromTheAnchor) {
-    model.click(ids[1], 0);
-    EXPECT_FALSE(model.click(ids[3], eventflag::shift));
+    model.click(ids[1], {});
+    EXPECT_FALSE(model.click(ids[3], Modifier::shift));
     EXPECT_EQ(model.selectedIDs(), (Ids{ids[1], ids[2], ids[3]}));
-    model.click(ids[0], eventflag::shift);
+    model.click(ids[0], Modifier::shift);
     EXPECT_EQ(model.selectedIDs(), (Ids{ids[0], ids[1]}));
     EXPECT_EQ(model.anchorID(), ids[1]);
     EXPECT_EQ(titles(model.selectedClips()), (QStringList{QStringLiteral("text 5"), QStringLiteral("text 4")}));
 }
 
 TEST_F(PanelModelSelection, ShiftClickWithAHiddenAnchorSelectsThatRowAlone) {
-    model.click(ids[4], 0);
+    model.click(ids[4], {});
     model.setQuery(QStringLiteral("text 3"));
-    model.click(ids[2], eventflag::shift);
+    model.click(ids[2], Modifier::shift);
     EXPECT_TRUE(model.selectedIDs().isEmpty());
     EXPECT_EQ(model.selectedID(), ids[2]);
     EXPECT_EQ(model.anchorID(), ids[2]);
 }
 
 TEST_F(PanelModelSelection, CommandClickAddsAndTakesAway) {
-    EXPECT_FALSE(model.click(ids[2], eventflag::command));
+    EXPECT_FALSE(model.click(ids[2], Modifier::command));
     EXPECT_EQ(model.selectedIDs(), (Ids{ids[0], ids[2]}));
     EXPECT_EQ(model.selectedID(), ids[2]);
-    model.click(ids[4], eventflag::command);
+    model.click(ids[4], Modifier::command);
     EXPECT_EQ(model.selectedCount(), 3);
-    model.click(ids[4], eventflag::command);
+    model.click(ids[4], Modifier::command);
     EXPECT_EQ(model.selectedID(), ids[0]);
     EXPECT_EQ(model.anchorID(), ids[4]);
 }
 
 TEST_F(PanelModelSelection, CommandClickDownToOneEndsTheMultiSelection) {
-    model.click(ids[2], eventflag::command);
-    model.click(ids[0], eventflag::command);
+    model.click(ids[2], Modifier::command);
+    model.click(ids[0], Modifier::command);
     EXPECT_TRUE(model.selectedIDs().isEmpty());
     EXPECT_EQ(model.selectedID(), ids[2]);
-    model.click(ids[2], eventflag::command);
+    model.click(ids[2], Modifier::command);
     EXPECT_EQ(model.selectedID(), std::nullopt);
     EXPECT_EQ(model.selectedCount(), 0);
 }
 
 TEST_F(PanelModelSelection, APressInsideTheSelectionWaitsForTheRelease) {
-    model.click(ids[2], eventflag::shift);
-    EXPECT_TRUE(model.click(ids[1], 0));
+    model.click(ids[2], Modifier::shift);
+    EXPECT_TRUE(model.click(ids[1], {}));
     EXPECT_EQ(model.selectedCount(), 3);
     EXPECT_EQ(model.selectedID(), ids[1]);
-    EXPECT_FALSE(model.click(ids[4], 0));
+    EXPECT_FALSE(model.click(ids[4], {}));
     EXPECT_TRUE(model.selectedIDs().isEmpty());
 }
 
 TEST_F(PanelModelSelection, IsSelectedTellsRowsApart) {
     EXPECT_TRUE(model.isSelected(ids[0]));
     EXPECT_FALSE(model.isSelected(ids[1]));
-    model.click(ids[1], eventflag::shift);
+    model.click(ids[1], Modifier::shift);
     EXPECT_TRUE(model.isSelected(ids[0]));
     EXPECT_TRUE(model.isSelected(ids[1]));
     EXPECT_FALSE(model.isSelected(ids[2]));
 }
 
 TEST_F(PanelModelSelection, WhatIsNotVisibleFallsOutOfTheSelectedClips) {
-    model.click(ids[4], eventflag::shift);
+    model.click(ids[4], Modifier::shift);
     model.setQuery(QStringLiteral("text 2"));
     EXPECT_EQ(titles(model.selectedClips()), QStringList{QStringLiteral("text 2")});
 }
@@ -180,7 +180,7 @@ TEST_F(PanelModelSelection, SaysOnceThatTheSelectionChanged) {
     EXPECT_EQ(spy.count(), 1);
     model.selectOnly(ids[1]);
     EXPECT_EQ(spy.count(), 1);
-    model.click(ids[3], eventflag::shift);
+    model.click(ids[3], Modifier::shift);
     EXPECT_EQ(spy.count(), 2);
 }
 

@@ -8,8 +8,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr quint16 z = 6;
-
 /// Deletions in the shown panel, and the way back.
 class PanelModelUndo : public PanelModelWorld {
 protected:
@@ -17,7 +15,7 @@ protected:
         model.prepareForShow();
         model.setPresented(true);
     }
-    bool pressUndo() { return model.keyEquivalent(z, eventflag::command, false); }
+    bool pressUndo() { return model.keyEquivalent(KeyCode::z, Modifier::command, false); }
     [[nodiscard]] QStringList visible() const { return titles(model.visibleClips()); }
 };
 

@@ -35,7 +35,9 @@ protected:
             if (position)
                 positions.insert(display, *position);
         };
-        hooks.keyCodeOf = [](quint32 scanCode) { return scanCode == placeOfTwo ? std::optional(19U) : std::nullopt; };
+        hooks.keyCodeOf = [](quint32 scanCode) {
+            return scanCode == placeOfTwo ? std::optional(KeyCode::digit2) : std::nullopt;
+        };
         hooks.openPanelKeys = [] { return QStringLiteral("Super+V"); };
         hooks.requestAccessibility = [this] { ++accessRequests; };
         hooks.showToast = [this](const ToastMessage& toast) { toasts.push_back(toast); };

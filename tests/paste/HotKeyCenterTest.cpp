@@ -13,23 +13,25 @@ TEST(HotKeyCenter, CallsTheActionOfTheKeyThatWasPressed) {
     FakeHotKeyRegistrar registrar;
     HotKeyCenter center(registrar);
     QStringList called;
-    EXPECT_TRUE(center.registerShortcut({9, 0x1100}, [&] { called.append(QStringLiteral("panel")); }));
-    EXPECT_TRUE(center.registerShortcut({1, 0x1100}, [&] { called.append(QStringLiteral("stack")); }));
-    EXPECT_TRUE(registrar.press({1, 0x1100}));
-    EXPECT_TRUE(registrar.press({9, 0x1100}));
+    EXPECT_TRUE(center.registerShortcut({KeyCode::v, Modifier::control | Modifier::command},
+                                        [&] { called.append(QStringLiteral("panel")); }));
+    EXPECT_TRUE(center.registerShortcut({KeyCode::s, Modifier::control | Modifier::command},
+                                        [&] { called.append(QStringLiteral("stack")); }));
+    EXPECT_TRUE(registrar.press({KeyCode::s, Modifier::control | Modifier::command}));
+    EXPECT_TRUE(registrar.press({KeyCode::v, Modifier::control | Modifier::command}));
     EXPECT_EQ(called, (QStringList{QStringLiteral("stack"), QStringLiteral("panel")}));
 }
 
 TEST(HotKeyCenter, GivesNoIdForATakenKeyAndNeverUsesAnIdTwice) {
     FakeHotKeyRegistrar registrar;
     HotKeyCenter center(registrar);
-    registrar.taken.insert({9, 0x1100});
-    EXPECT_EQ(center.registerShortcut({9, 0x1100}, [] {}), std::nullopt);
-    const auto id = center.registerShortcut({1, 0x1100}, [] {});
+    registrar.taken.insert({KeyCode::v, Modifier::control | Modifier::command});
+    EXPECT_EQ(center.registerShortcut({KeyCode::v, Modifier::control | Modifier::command}, [] {}), std::nullopt);
+    const auto id = center.registerShortcut({KeyCode::s, Modifier::control | Modifier::command}, [] {});
     ASSERT_TRUE(id);
     center.unregister(*id);
     center.unregister(*id);
-    EXPECT_TRUE(center.registerShortcut({1, 0x1100}, [] {}));
+    EXPECT_TRUE(center.registerShortcut({KeyCode::s, Modifier::control | Modifier::command}, [] {}));
     EXPECT_EQ(registrar.askedIDs, (std::vector<quint32>{1, 2, 3}));
 }
 
@@ -37,9 +39,9 @@ TEST(HotKeyCenter, ALatePressOfAnOldRegistrationReachesNobody) {
     FakeHotKeyRegistrar registrar;
     HotKeyCenter center(registrar);
     int calls = 0;
-    const auto old = center.registerShortcut({9, 0x1100}, [&] { ++calls; });
+    const auto old = center.registerShortcut({KeyCode::v, Modifier::control | Modifier::command}, [&] { ++calls; });
     center.unregister(*old);
-    EXPECT_TRUE(center.registerShortcut({9, 0x1100}, [&] { ++calls; }));
+    EXPECT_TRUE(center.registerShortcut({KeyCode::v, Modifier::control | Modifier::command}, [&] { ++calls; }));
     registrar.onPressed(*old);
     EXPECT_EQ(calls, 0);
     EXPECT_EQ(registrar.grabbed.size(), 1u);
@@ -50,11 +52,11 @@ TEST(HotKeyCenter, AnActionMayRegisterEverythingAnew) {
     HotKeyCenter center(registrar);
     int calls = 0;
     std::optional<quint32> id;
-    id = center.registerShortcut({9, 0x1100}, [&] {
+    id = center.registerShortcut({KeyCode::v, Modifier::control | Modifier::command}, [&] {
         center.unregister(*id);
         ++calls;
     });
-    registrar.press({9, 0x1100});
+    registrar.press({KeyCode::v, Modifier::control | Modifier::command});
     EXPECT_EQ(calls, 1);
     EXPECT_TRUE(registrar.grabbed.empty());
 }
@@ -62,7 +64,7 @@ TEST(HotKeyCenter, AnActionMayRegisterEverythingAnew) {
 TEST(HotKeyCenter, GivesTheKeysBackWhenItGoes) {
     FakeHotKeyRegistrar registrar;
     auto center = std::make_unique<HotKeyCenter>(registrar);
-    EXPECT_TRUE(center->registerShortcut({9, 0x1100}, [] {}));
+    EXPECT_TRUE(center->registerShortcut({KeyCode::v, Modifier::control | Modifier::command}, [] {}));
     center.reset();
     EXPECT_TRUE(registrar.grabbed.empty());
     EXPECT_FALSE(registrar.onPressed);

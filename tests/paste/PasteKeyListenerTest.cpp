@@ -11,16 +11,17 @@ namespace vellumry {
 
 namespace {
 
-using namespace eventflag;
+using enum Modifier;
 
 constexpr qint64 ownPID = 4711;
+constexpr KeyCode period{47};
 
-bool pastes(const KeyPress& press, qint64 vKeyCode = 9) {
+bool pastes(const KeyPress& press, KeyCode vKeyCode = KeyCode::v) {
     return PasteKeyListener::shouldPaste(press, vKeyCode, ownPID);
 }
 
-KeyPress with(quint32 flags, const char* characters = "v", qint64 keyCode = 9) {
-    return {keyCode, flags, false, QString::fromUtf8(characters), 0, 0};
+KeyPress with(Modifiers modifiers, const char* characters = "v", KeyCode keyCode = KeyCode::v) {
+    return {keyCode, modifiers, false, QString::fromUtf8(characters), 0, 0};
 }
 
 struct ListenerWorld {
@@ -45,39 +46,39 @@ TEST(PasteKeyListener, ControlVPastesWithShiftAndAltToo) {
 
 TEST(PasteKeyListener, SuperOrNoControlIsSomethingElse) {
     EXPECT_FALSE(pastes(with(command | control)));
-    EXPECT_FALSE(pastes(with(0)));
+    EXPECT_FALSE(pastes(with({})));
     EXPECT_FALSE(pastes(with(shift)));
     EXPECT_FALSE(pastes(with(option)));
     EXPECT_FALSE(pastes(with(control)));
 }
 
 TEST(PasteKeyListener, ShiftInsertPastesAlone) {
-    const qint64 insert = PasteKeyListener::insertKeyCode;
+    const KeyCode insert = KeyCode::insert;
     EXPECT_TRUE(pastes(with(shift, "", insert)));
     EXPECT_FALSE(pastes(with(shift | command, "", insert))); // Ctrl+Shift+Insert
     EXPECT_FALSE(pastes(with(shift | control, "", insert)));
     EXPECT_FALSE(pastes(with(shift | option, "", insert)));
     EXPECT_FALSE(pastes(with(command, "", insert))); // Ctrl+Insert copies
-    EXPECT_FALSE(pastes(with(0, "", insert)));
+    EXPECT_FALSE(pastes(with({}, "", insert)));
 }
 
 TEST(PasteKeyListener, ALayoutWithoutLatinLettersPastesByThePlaceOfTheKey) {
-    EXPECT_TRUE(pastes(with(command, "м", 9)));
-    EXPECT_TRUE(pastes(with(command, "ر", 47), 47));
-    EXPECT_TRUE(pastes(with(command, "", 9)));
-    EXPECT_FALSE(pastes(with(command, "м", 8)));
+    EXPECT_TRUE(pastes(with(command, "м", KeyCode::v)));
+    EXPECT_TRUE(pastes(with(command, "ر", period), period));
+    EXPECT_TRUE(pastes(with(command, "", KeyCode::v)));
+    EXPECT_FALSE(pastes(with(command, "м", KeyCode::c)));
 }
 
 TEST(PasteKeyListener, TheLetterCountsWhereverItIs) {
-    EXPECT_TRUE(pastes(with(command, "v", 47)));
-    EXPECT_FALSE(pastes(with(command, "k", 40)));
+    EXPECT_TRUE(pastes(with(command, "v", period)));
+    EXPECT_FALSE(pastes(with(command, "k", KeyCode::k)));
 }
 
 TEST(PasteKeyListener, HoldingTheKeysDownPastesOnce) {
     KeyPress press = with(command);
     press.isRepeat = true;
     EXPECT_FALSE(pastes(press));
-    KeyPress insert = with(shift, "", PasteKeyListener::insertKeyCode);
+    KeyPress insert = with(shift, "", KeyCode::insert);
     insert.isRepeat = true;
     EXPECT_FALSE(pastes(insert));
 }
@@ -97,8 +98,8 @@ TEST(PasteKeyListener, APressIntoOurOwnWindowIsNone) {
     press.targetPID = ownPID + 1;
     EXPECT_TRUE(pastes(press));
     press.targetPID = 0;
-    EXPECT_FALSE(PasteKeyListener::shouldPaste(with(0), 9, 0));
-    EXPECT_TRUE(PasteKeyListener::shouldPaste(press, 9, 0)) << "an unknown process is not ours";
+    EXPECT_FALSE(PasteKeyListener::shouldPaste(with({}), KeyCode::v, 0));
+    EXPECT_TRUE(PasteKeyListener::shouldPaste(press, KeyCode::v, 0)) << "an unknown process is not ours";
 }
 
 TEST(PasteKeyListener, HoldsAPasteUntilItIsHandledAndLetsOtherKeysGo) {
@@ -151,14 +152,14 @@ TEST(PasteKeyListener, StartsOnceAndSaysWhenItCannot) {
 
 TEST(PasteKeyListener, TakesTheLettersPlaceAnewAtEachStart) {
     ListenerWorld world;
-    world.layout.characters = {{47, QStringLiteral("v")}};
+    world.layout.characters = {{period, QStringLiteral("v")}};
     ASSERT_TRUE(world.listener.start());
-    EXPECT_TRUE(world.keys.press(with(command, "", 47))->isHeld);
-    EXPECT_FALSE(world.keys.press(with(command, "", 9))->isHeld);
+    EXPECT_TRUE(world.keys.press(with(command, "", period))->isHeld);
+    EXPECT_FALSE(world.keys.press(with(command, "", KeyCode::v))->isHeld);
     world.listener.stop();
     world.layout.characters.clear();
     ASSERT_TRUE(world.listener.start());
-    EXPECT_TRUE(world.keys.press(with(command, "", 9))->isHeld);
+    EXPECT_TRUE(world.keys.press(with(command, "", KeyCode::v))->isHeld);
 }
 
 } // namespace vellumry

@@ -28,9 +28,9 @@ struct Keys {
     Keys() { preferences.registerDefaults({{QStringLiteral("pinnedShortcutsEnabled"), true}}); }
 };
 
-constexpr FakeHotKeyRegistrar::Combination panelKey{9, 0x1100};
-constexpr FakeHotKeyRegistrar::Combination stackKey{1, 0x1100};
-constexpr FakeHotKeyRegistrar::Combination thirdPinKey{20, 0x1800};
+constexpr FakeHotKeyRegistrar::Combination panelKey{KeyCode::v, Modifier::control | Modifier::command};
+constexpr FakeHotKeyRegistrar::Combination stackKey{KeyCode::s, Modifier::control | Modifier::command};
+constexpr FakeHotKeyRegistrar::Combination thirdPinKey{KeyCode::digit3, Modifier::control | Modifier::option};
 
 } // namespace
 
@@ -47,10 +47,11 @@ TEST(ShortcutRegistrations, RegistersThePanelTheStackAndTheNinePins) {
 
 TEST(ShortcutRegistrations, UsesTheChosenKeysAndTheDefaultsForWhatIsNone) {
     Keys keys;
-    keys.preferences.setObject(QStringLiteral("openPanelShortcut"), Shortcut{0, 0x900}.toJson());
+    keys.preferences.setObject(QStringLiteral("openPanelShortcut"),
+                               Shortcut{KeyCode::a, Modifier::option | Modifier::command}.toJson());
     keys.preferences.setObject(QStringLiteral("pasteStackShortcut"), QStringLiteral("no data"));
     EXPECT_EQ(keys.registrations.reload(), QStringList());
-    EXPECT_TRUE(keys.registrar.holds({0, 0x900}));
+    EXPECT_TRUE(keys.registrar.holds({KeyCode::a, Modifier::option | Modifier::command}));
     EXPECT_FALSE(keys.registrar.holds(panelKey));
     EXPECT_TRUE(keys.registrar.holds(stackKey));
 }
@@ -119,19 +120,23 @@ TEST(ShortcutRegistrations, AFreeShortcutIsOfferedForTheFirstThatIsTaken) {
     Keys keys;
     EXPECT_TRUE(keys.registrations.reload().isEmpty());
     EXPECT_EQ(keys.registrations.offer(), std::nullopt);
-    keys.registrar.taken = {stackKey, {1, 0x1800}, {1, 0x900}};
+    keys.registrar.taken = {stackKey,
+                            {KeyCode::s, Modifier::control | Modifier::option},
+                            {KeyCode::s, Modifier::option | Modifier::command}};
     EXPECT_EQ(keys.registrations.reload().size(), 1);
     const auto offer = keys.registrations.offer();
     ASSERT_TRUE(offer);
     EXPECT_EQ(offer->key, QStringLiteral("pasteStackShortcut"));
-    EXPECT_EQ(offer->shortcut, (Shortcut{1, 0x1200}));
-    EXPECT_FALSE(keys.registrar.holds({1, 0x1200})) << "it was only tried";
+    EXPECT_EQ(offer->shortcut, (Shortcut{KeyCode::s, Modifier::control | Modifier::shift}));
+    EXPECT_FALSE(keys.registrar.holds({KeyCode::s, Modifier::control | Modifier::shift})) << "it was only tried";
 }
 
 TEST(ShortcutRegistrations, WhereAllAreTakenNothingIsOffered) {
     Keys keys;
-    for (const quint32 modifiers : {0x1100, 0x900, 0x1800, 0x1200, 0x1900, 0xb00})
-        keys.registrar.taken.insert({9, modifiers});
+    using enum Modifier;
+    for (const Modifiers modifiers : {control | command, command | option, control | option, control | shift,
+                                      control | command | option, command | option | shift})
+        keys.registrar.taken.insert({KeyCode::v, modifiers});
     EXPECT_EQ(keys.registrations.reload().size(), 1);
     EXPECT_EQ(keys.registrations.offer(), std::nullopt);
 }

@@ -102,8 +102,9 @@ TEST_F(PreferencesTest, ForgettingTheOnlyPositionRemovesTheKey) {
 
 TEST_F(PreferencesTest, AShortcutEqualToTheDefaultIsNotStored) {
     const QString key = QStringLiteral("openPanelShortcut");
-    preferences.setShortcut(Shortcut{11, 0x900}, Shortcut::openPanelDefault(), key);
-    EXPECT_EQ(preferences.shortcut(key), (Shortcut{11, 0x900}));
+    preferences.setShortcut(Shortcut{KeyCode::b, Modifier::option | Modifier::command}, Shortcut::openPanelDefault(),
+                            key);
+    EXPECT_EQ(preferences.shortcut(key), (Shortcut{KeyCode::b, Modifier::option | Modifier::command}));
     preferences.setShortcut(Shortcut::openPanelDefault(), Shortcut::openPanelDefault(), key);
     EXPECT_EQ(preferences.shortcut(key), std::nullopt);
     EXPECT_FALSE(defaults.object(key).isValid());

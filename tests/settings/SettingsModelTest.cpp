@@ -138,20 +138,22 @@ TEST_F(SettingsModelTest, ScreenshotsThatCannotBeSavedGoOffAgain) {
 }
 
 TEST_F(SettingsModelTest, ARecordedShortcutIsStoredAndItsProblemShown) {
-    layout.scanCodes = {{38, 0}};
+    layout.scanCodes = {{38, KeyCode::a}};
     problems = {QStringLiteral("taken")};
     model.actions.offerShortcut = [] {
-        return std::optional(ShortcutRegistrations::Offer{QStringLiteral("openPanelShortcut"), {1, 0x1100}});
+        return std::optional(ShortcutRegistrations::Offer{QStringLiteral("openPanelShortcut"),
+                                                          {KeyCode::s, Modifier::control | Modifier::command}});
     };
     model.openPanelShortcut()->toggle();
     model.openPanelShortcut()->press(Qt::Key_A, Qt::ControlModifier, 38);
     EXPECT_EQ(suspensions, QList({true, false}));
-    EXPECT_EQ(preferences.shortcut(QStringLiteral("openPanelShortcut")), (Shortcut{0, 0x100}));
+    EXPECT_EQ(preferences.shortcut(QStringLiteral("openPanelShortcut")), (Shortcut{KeyCode::a, Modifier::command}));
     EXPECT_EQ(model.shortcutProblems(), problems);
     EXPECT_EQ(model.shortcutOffer(), QStringLiteral("⌃⌘S"));
     problems.clear();
     model.takeOfferedShortcut();
-    EXPECT_EQ(preferences.shortcut(QStringLiteral("openPanelShortcut")), (Shortcut{1, 0x1100}));
+    EXPECT_EQ(preferences.shortcut(QStringLiteral("openPanelShortcut")),
+              (Shortcut{KeyCode::s, Modifier::control | Modifier::command}));
     EXPECT_EQ(model.openPanelShortcut()->title(), QStringLiteral("⌃⌘S"));
     EXPECT_EQ(model.shortcutOffer(), QString());
     model.openPanelShortcut()->toggle();

@@ -166,7 +166,8 @@ TEST_F(SettingsWindowTest, ARecordingEndsWithItsWindow) {
 
 TEST_F(SettingsWindowTest, ATakenShortcutIsShownWithAnotherOffered) {
     model.actions.offerShortcut = [] {
-        return std::optional(ShortcutRegistrations::Offer{QStringLiteral("openPanelShortcut"), {9, 0x1800}});
+        return std::optional(ShortcutRegistrations::Offer{QStringLiteral("openPanelShortcut"),
+                                                          {KeyCode::v, Modifier::control | Modifier::option}});
     };
     goTo(1);
     EXPECT_FALSE(shows("Use It"));
@@ -174,7 +175,8 @@ TEST_F(SettingsWindowTest, ATakenShortcutIsShownWithAnotherOffered) {
     EXPECT_TRUE(shows("X is already used by another app. Pick another shortcut."));
     tabTo("Use It");
     press(Qt::Key_Return);
-    EXPECT_EQ(preferences.shortcut(QStringLiteral("openPanelShortcut")), (Shortcut{9, 0x1800}));
+    EXPECT_EQ(preferences.shortcut(QStringLiteral("openPanelShortcut")),
+              (Shortcut{KeyCode::v, Modifier::control | Modifier::option}));
 }
 
 TEST_F(SettingsWindowTest, ClearingAsksFirstAndTheWayOutHasTheKeyboard) {

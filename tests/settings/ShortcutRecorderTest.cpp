@@ -15,7 +15,7 @@ constexpr int controlKey = Qt::ControlModifier;
 
 class ShortcutRecorderTest : public ::testing::Test {
 protected:
-    ShortcutRecorderTest() { layout.scanCodes = {{scanOfA, 0}, {scanOfV, 9}}; }
+    ShortcutRecorderTest() { layout.scanCodes = {{scanOfA, KeyCode::a}, {scanOfV, KeyCode::v}}; }
     [[nodiscard]] ShortcutRecorder::Hooks hooks() {
         return {
             [this](const Shortcut& shortcut) { events.append(QStringLiteral("change ") + shortcut.display(layout)); },
@@ -38,11 +38,11 @@ TEST_F(ShortcutRecorderTest, TakesTheKeysThatArePressedAndThenRests) {
 }
 
 TEST_F(ShortcutRecorderTest, TheLettersAreThoseOfTheLayout) {
-    layout.characters[0] = QStringLiteral("q");
+    layout.characters[KeyCode::a] = QStringLiteral("q");
     recorder.toggle();
     recorder.press(Qt::Key_Q, controlKey, scanOfA);
     EXPECT_EQ(recorder.title(), QStringLiteral("⌘Q"));
-    EXPECT_EQ(recorder.shortcut().keyCode, 0U);
+    EXPECT_EQ(recorder.shortcut().keyCode, KeyCode::a);
 }
 
 TEST_F(ShortcutRecorderTest, EscapeLeavesItAsItWasAndGivesTheKeysBack) {
@@ -54,7 +54,7 @@ TEST_F(ShortcutRecorderTest, EscapeLeavesItAsItWasAndGivesTheKeysBack) {
 
 TEST_F(ShortcutRecorderTest, BackspaceAndDeleteBringTheOriginalBack) {
     for (const int key : {int(Qt::Key_Backspace), int(Qt::Key_Delete)}) {
-        recorder.setShortcut({0, shortcutmodifier::command});
+        recorder.setShortcut({KeyCode::a, Modifier::command});
         events.clear();
         recorder.toggle();
         recorder.press(key, none, 22);

@@ -25,7 +25,7 @@ protected:
 
 TEST_F(AppSettingsTest, AnotherShortcutForThePanelCountsAtOnce) {
     startWatched();
-    const Shortcut other{11, 0x1100};
+    const Shortcut other{KeyCode::b, Modifier::control | Modifier::command};
     EXPECT_FALSE(press(other));
     set("openPanelShortcut", other.toJson());
     EXPECT_FALSE(press(Shortcut::openPanelDefault()));
@@ -35,7 +35,7 @@ TEST_F(AppSettingsTest, AnotherShortcutForThePanelCountsAtOnce) {
 
 TEST_F(AppSettingsTest, AnotherShortcutForTheStackCountsAtOnce) {
     startWatched();
-    const Shortcut other{11, 0x1100};
+    const Shortcut other{KeyCode::b, Modifier::control | Modifier::command};
     set("pasteStackShortcut", other.toJson());
     EXPECT_FALSE(press(Shortcut::pasteStackDefault()));
     EXPECT_TRUE(press(other));
@@ -51,7 +51,7 @@ TEST_F(AppSettingsTest, TheKeysOfThePinnedClipsAreGivenBackAtOnce) {
 
 TEST_F(AppSettingsTest, AnotherShortcutThatIsTakenIsTold) {
     startWatched();
-    const Shortcut other{11, 0x1100};
+    const Shortcut other{KeyCode::b, Modifier::control | Modifier::command};
     hotKeys->taken.insert({other.keyCode, other.modifiers});
     set("openPanelShortcut", other.toJson());
     EXPECT_FALSE(seenTexts().filter(QStringLiteral("is already used by another app")).isEmpty());
@@ -66,7 +66,7 @@ TEST_F(AppSettingsTest, WhatAnotherProgramWritesIsShownInTheSettings) {
 
 TEST_F(AppSettingsTest, AShortcutFromTheSettingsCountsAtOnceAndIsToldThereAlone) {
     startWatched();
-    const Shortcut other{11, 0x1100};
+    const Shortcut other{KeyCode::b, Modifier::control | Modifier::command};
     hotKeys->taken.insert({other.keyCode, other.modifiers});
     defaults->setObject(QStringLiteral("openPanelShortcut"), other.toJson());
     environment->settingsModel().setPinnedShortcutsEnabled(false);
@@ -108,7 +108,7 @@ TEST_F(AppSettingsTest, ScreenshotsAreWatchedAndLeftAloneAtOnce) {
 TEST_F(AppSettingsTest, WithoutAWatchTheyCountWithTheNextMaintenance) {
     settingsFolder.clear();
     start();
-    const Shortcut other{11, 0x1100};
+    const Shortcut other{KeyCode::b, Modifier::control | Modifier::command};
     defaults->setObject(QStringLiteral("openPanelShortcut"), other.toJson());
     EXPECT_FALSE(press(other));
     maintain();

@@ -15,7 +15,7 @@ namespace vellumry {
 /// Global keys without a keyboard: `press` stands for the user, `taken` for other programs.
 class FakeHotKeyRegistrar : public HotKeyRegistrar {
 public:
-    using Combination = std::pair<quint32, quint32>; ///< key code and modifiers
+    using Combination = std::pair<KeyCode, Modifiers>;
 
     std::set<Combination> taken;            ///< `grab` refuses these
     std::map<quint32, Combination> grabbed; ///< by id, what is held now
@@ -23,7 +23,7 @@ public:
     std::vector<quint32> askedIDs;          ///< of each `grab`, refused ones included
 
     [[nodiscard]] bool hasKeys() const override { return anyKeys; }
-    [[nodiscard]] bool grab(quint32 id, quint32 keyCode, quint32 modifiers) override {
+    [[nodiscard]] bool grab(quint32 id, KeyCode keyCode, Modifiers modifiers) override {
         askedIDs.push_back(id);
         const Combination combination{keyCode, modifiers};
         if (!anyKeys || taken.contains(combination) || holds(combination))

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/display/EventFlags.h"
 #include "platform/display/PasteKeys.h"
 
 #include <memory>
@@ -18,7 +17,9 @@ public:
         std::optional<HeldKey::Contents> contents; ///< absent while it is held, and when it went by itself
     };
 
-    [[nodiscard]] static KeyPress controlV() { return {9, eventflag::command, false, QStringLiteral("v"), 0, 0}; }
+    [[nodiscard]] static KeyPress controlV() {
+        return {KeyCode::v, Modifier::command, false, QStringLiteral("v"), 0, 0};
+    }
 
     bool available = true; ///< false: `start` fails
     bool isStarted = false;

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/keys/KeyCodes.h"
 
+#include <algorithm>
 #include <array>
 #include <linux/input-event-codes.h>
 #include <string_view>
+#include <utility>
 
 namespace vellumry::KeyCodes {
 
 namespace {
 
-/// One row for eight virtual key codes; 0 where there is no such key. Command, Option and Control stand where the
+/// One row for eight key codes; 0 where there is no such key. Command, Option and Control stand where the
 /// program has them on a PC keyboard: Ctrl, Alt and Super.
 // clang-format off
-constexpr std::array<quint16, virtualKeyCount> evdevCodes = {
+constexpr std::array<quint16, count> evdevCodes = {
     KEY_A, KEY_S, KEY_D, KEY_F, KEY_H, KEY_G, KEY_Z, KEY_X, // 0
     KEY_C, KEY_V, KEY_102ND, KEY_B, KEY_Q, KEY_W, KEY_E, KEY_R, // 8
     KEY_Y, KEY_T, KEY_1, KEY_2, KEY_3, KEY_4, KEY_6, KEY_5, // 16
@@ -32,29 +34,30 @@ constexpr std::array<quint16, virtualKeyCount> evdevCodes = {
 };
 // clang-format on
 
-/// The letters of the virtual key codes 0 to 46 on a US keyboard; a blank where the key carries none.
+/// The letters of the key codes 0 to 46 on a US keyboard; a blank where the key carries none.
 constexpr std::u16string_view letters = u"asdfhgzxcv bqweryt             ou ip lj k    nm";
 
 } // namespace
 
-std::optional<quint32> evdevCode(quint32 virtualKey) {
-    if (virtualKey >= virtualKeyCount || evdevCodes[virtualKey] == 0)
+std::optional<quint32> evdevCode(KeyCode key) {
+    const auto number = std::to_underlying(key);
+    if (number >= count || evdevCodes[number] == 0)
         return std::nullopt;
-    return evdevCodes[virtualKey];
+    return evdevCodes[number];
 }
 
-std::optional<quint32> virtualKey(quint32 evdevCode) {
-    for (quint32 key = 0; key < virtualKeyCount && evdevCode != 0; ++key) {
-        if (evdevCodes[key] == evdevCode)
-            return key;
-    }
-    return std::nullopt;
+std::optional<KeyCode> keyCode(quint32 evdevCode) {
+    const auto* const found = std::ranges::find(evdevCodes, evdevCode);
+    if (evdevCode == 0 || found == evdevCodes.end())
+        return std::nullopt;
+    return KeyCode(found - evdevCodes.begin());
 }
 
-std::optional<char16_t> letter(quint32 virtualKey) {
-    if (virtualKey >= letters.size() || letters[virtualKey] == u' ')
+std::optional<char16_t> letter(KeyCode key) {
+    const auto number = std::to_underlying(key);
+    if (number >= letters.size() || letters[number] == u' ')
         return std::nullopt;
-    return letters[virtualKey];
+    return letters[number];
 }
 
 } // namespace vellumry::KeyCodes

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace vellumry {
@@ -10,12 +11,12 @@ namespace vellumry {
 namespace {
 
 /// The key that types `letter`, its place on a US keyboard first.
-std::optional<quint32> keyTyping(char16_t letter, quint32 ownKey,
+std::optional<quint32> keyTyping(char16_t letter, KeyCode ownKey,
                                  const std::function<std::optional<char16_t>(quint32)>& typed) {
     const auto own = KeyCodes::evdevCode(ownKey);
     if (own.has_value() && typed(*own) == letter)
         return own;
-    for (quint32 key = 0; key < KeyCodes::virtualKeyCount; ++key) {
+    for (const KeyCode key : KeyCodes::all()) {
         const auto code = KeyCodes::evdevCode(key);
         if (code.has_value() && typed(*code) == letter)
             return code;
@@ -27,45 +28,42 @@ std::optional<quint32> keyTyping(char16_t letter, quint32 ownKey,
 
 KeyPositions::KeyPositions(const std::function<std::optional<char16_t>(quint32)>& typed) {
     std::set<quint32> taken;
-    for (quint32 key = 0; key < KeyCodes::virtualKeyCount; ++key) {
+    for (const KeyCode key : KeyCodes::all()) {
         const auto letter = KeyCodes::letter(key);
         const auto code = letter.has_value() ? keyTyping(*letter, key, typed) : std::nullopt;
         if (code.has_value() && taken.insert(*code).second)
-            m_evdevCodes[key] = *code;
+            m_evdevCodes[std::to_underlying(key)] = *code;
     }
-    std::vector<quint32> withoutKey;
-    for (quint32 key = 0; key < KeyCodes::virtualKeyCount; ++key) {
+    std::vector<KeyCode> withoutKey;
+    for (const KeyCode key : KeyCodes::all()) {
         const auto place = KeyCodes::evdevCode(key);
-        if (m_evdevCodes[key] != 0 || !place.has_value())
+        if (m_evdevCodes[std::to_underlying(key)] != 0 || !place.has_value())
             continue;
         if (taken.insert(*place).second)
-            m_evdevCodes[key] = *place;
+            m_evdevCodes[std::to_underlying(key)] = *place;
         else
             withoutKey.push_back(key);
     }
-    quint32 next = 0;
-    for (const quint32 key : withoutKey) {
-        while (next < KeyCodes::virtualKeyCount &&
-               (!KeyCodes::evdevCode(next).has_value() || taken.contains(*KeyCodes::evdevCode(next))))
-            ++next;
-        if (next == KeyCodes::virtualKeyCount)
-            break;
-        m_evdevCodes[key] = *KeyCodes::evdevCode(next);
-        taken.insert(m_evdevCodes[key]);
+    auto unused = withoutKey.begin();
+    for (const KeyCode key : KeyCodes::all()) {
+        const auto place = KeyCodes::evdevCode(key);
+        if (unused != withoutKey.end() && place.has_value() && taken.insert(*place).second)
+            m_evdevCodes[std::to_underlying(*unused++)] = *place;
     }
 }
 
-std::optional<quint32> KeyPositions::evdevCode(quint32 virtualKey) const {
-    if (virtualKey >= m_evdevCodes.size() || m_evdevCodes[virtualKey] == 0)
+std::optional<quint32> KeyPositions::evdevCode(KeyCode key) const {
+    const auto number = std::to_underlying(key);
+    if (number >= m_evdevCodes.size() || m_evdevCodes[number] == 0)
         return std::nullopt;
-    return m_evdevCodes[virtualKey];
+    return m_evdevCodes[number];
 }
 
-std::optional<quint32> KeyPositions::virtualKey(quint32 evdevCode) const {
+std::optional<KeyCode> KeyPositions::keyCode(quint32 evdevCode) const {
     const auto found = std::find(m_evdevCodes.begin(), m_evdevCodes.end(), evdevCode);
     if (evdevCode == 0 || found == m_evdevCodes.end())
         return std::nullopt;
-    return quint32(found - m_evdevCodes.begin());
+    return KeyCode(found - m_evdevCodes.begin());
 }
 
 } // namespace vellumry

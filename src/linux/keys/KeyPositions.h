@@ -9,7 +9,7 @@
 
 namespace vellumry {
 
-/// Which physical key a virtual key code means on the user's layout: a letter's code means the key that types this
+/// Which physical key a key code means on the user's layout: a letter's code means the key that types this
 /// letter, so that Ctrl+V stays on the key marked V; every other code means its place. The two directions are inverse
 /// to each other: keys that lost their code to a letter take the codes that the letters left. Without Latin letters all
 /// codes mean their places. A value.
@@ -18,11 +18,11 @@ public:
     /// `typed` says what the key of an evdev code types without modifiers, in lower case.
     explicit KeyPositions(const std::function<std::optional<char16_t>(quint32 evdevCode)>& typed);
 
-    [[nodiscard]] std::optional<quint32> evdevCode(quint32 virtualKey) const;
-    [[nodiscard]] std::optional<quint32> virtualKey(quint32 evdevCode) const;
+    [[nodiscard]] std::optional<quint32> evdevCode(KeyCode key) const;
+    [[nodiscard]] std::optional<KeyCode> keyCode(quint32 evdevCode) const;
 
 private:
-    std::array<quint32, KeyCodes::virtualKeyCount> m_evdevCodes{};
+    std::array<quint32, KeyCodes::count> m_evdevCodes{}; ///< by key code
 };
 
 } // namespace vellumry

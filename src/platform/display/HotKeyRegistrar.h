@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/display/KeyCode.h"
+#include "platform/display/Modifiers.h"
+
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>
@@ -14,8 +17,7 @@ struct OwnBindings {
     QStringList lines;
 };
 
-/// Keys that reach the program whatever application is in front. Key codes are virtual key codes (physical positions),
-/// modifiers the mask of `Shortcut`. Main thread.
+/// Keys that reach the program whatever application is in front. Main thread.
 class HotKeyRegistrar {
 public:
     virtual ~HotKeyRegistrar() = default;
@@ -24,7 +26,7 @@ public:
     /// How the user does that; nothing where `hasKeys`.
     [[nodiscard]] virtual OwnBindings ownBindings() const { return {}; }
     /// False when another program holds the combination, or the platform has no global keys.
-    [[nodiscard]] virtual bool grab(quint32 id, quint32 keyCode, quint32 modifiers) = 0;
+    [[nodiscard]] virtual bool grab(quint32 id, KeyCode keyCode, Modifiers modifiers) = 0;
     virtual void release(quint32 id) = 0;
     /// Called on the main thread when a grabbed combination is pressed; key repeats are left out.
     std::function<void(quint32 id)> onPressed;

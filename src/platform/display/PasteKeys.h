@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/display/KeyCode.h"
+#include "platform/display/Modifiers.h"
 #include "platform/display/PasteboardItem.h"
 
 #include <QString>
@@ -17,10 +19,10 @@ inline constexpr qint64 ownEventMark = 0x564C5259;
 
 /// One press of a key, as far as it matters for telling a paste.
 struct KeyPress {
-    /// Virtual key code. 9 is the key that types v in the layout in use, also where its letters are not Latin.
-    qint64 keyCode = 0;
-    /// Bits of `eventflag`; locks are left out.
-    quint32 flags = 0;
+    /// `v` is the key that types v in the layout in use, also where its letters are not Latin. Absent for a key that
+    /// matters by what it types alone.
+    std::optional<KeyCode> keyCode;
+    Modifiers modifiers;
     /// The key is held down and repeats by itself.
     bool isRepeat = false;
     /// What the key types in the layout in use, without modifiers; empty where it types nothing.

@@ -14,7 +14,7 @@ public:
         : m_bindings(std::move(bindings)) {}
     [[nodiscard]] bool hasKeys() const override { return false; }
     [[nodiscard]] OwnBindings ownBindings() const override { return m_bindings; }
-    [[nodiscard]] bool grab(quint32, quint32, quint32) override { return false; }
+    [[nodiscard]] bool grab(quint32, KeyCode, Modifiers) override { return false; }
     void release(quint32) override {}
 
 private:

@@ -76,7 +76,7 @@ bool GlobalAccelHotKeys::isThere(const QDBusConnection& bus) {
            bus.interface()->activatableServiceNames().value().contains(service);
 }
 
-int GlobalAccelHotKeys::qtKeyOf(quint32 keyCode, quint32 modifiers) const {
+int GlobalAccelHotKeys::qtKeyOf(KeyCode keyCode, Modifiers modifiers) const {
     const auto evdevCode = m_keymap->positions().evdevCode(keyCode);
     const auto characters = evdevCode ? m_keymap->charactersFor(*evdevCode) : std::nullopt;
     // What Qt calls a key of a Latin letter or digit is its upper-case character.
@@ -86,13 +86,10 @@ int GlobalAccelHotKeys::qtKeyOf(quint32 keyCode, quint32 modifiers) const {
     int key = sequence.isEmpty() ? 0 : sequence[0].key();
     if (key == 0)
         return 0;
-    constexpr quint32 control = 0x100;
-    constexpr quint32 shift = 0x200;
-    constexpr quint32 alt = 0x800;
-    constexpr quint32 super = 0x1000;
-    for (const auto& [bit, qtBit] : {std::pair(control, Qt::CTRL), std::pair(shift, Qt::SHIFT), std::pair(alt, Qt::ALT),
-                                     std::pair(super, Qt::META)}) {
-        if ((modifiers & bit) != 0)
+    for (const auto& [modifier, qtBit] :
+         {std::pair(Modifier::command, Qt::CTRL), std::pair(Modifier::shift, Qt::SHIFT),
+          std::pair(Modifier::option, Qt::ALT), std::pair(Modifier::control, Qt::META)}) {
+        if (modifiers.testFlag(modifier))
             key |= int(qtBit);
     }
     return key;
@@ -110,7 +107,7 @@ bool GlobalAccelHotKeys::listen() {
     return m_isListening;
 }
 
-bool GlobalAccelHotKeys::grab(quint32 id, quint32 keyCode, quint32 modifiers) {
+bool GlobalAccelHotKeys::grab(quint32 id, KeyCode keyCode, Modifiers modifiers) {
     const int key = qtKeyOf(keyCode, modifiers);
     if (key == 0)
         return false;

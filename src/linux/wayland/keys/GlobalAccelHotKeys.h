@@ -22,14 +22,14 @@ public:
     [[nodiscard]] static bool isThere(const QDBusConnection& bus);
 
     /// Waits for the service, a second at most.
-    [[nodiscard]] bool grab(quint32 id, quint32 keyCode, quint32 modifiers) override;
+    [[nodiscard]] bool grab(quint32 id, KeyCode keyCode, Modifiers modifiers) override;
     void release(quint32 id) override;
 
 private Q_SLOTS:
     void pressed(const QString& component, const QString& action, qlonglong time);
 
 private:
-    [[nodiscard]] int qtKeyOf(quint32 keyCode, quint32 modifiers) const;
+    [[nodiscard]] int qtKeyOf(KeyCode keyCode, Modifiers modifiers) const;
     bool listen();
 
     QDBusConnection m_bus;

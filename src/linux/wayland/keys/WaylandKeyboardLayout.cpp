@@ -3,24 +3,24 @@
 
 namespace vellumry {
 
-std::optional<quint32> WaylandKeyboardLayout::keyCodeFor(QChar character) const {
+std::optional<KeyCode> WaylandKeyboardLayout::keyCodeFor(QChar character) const {
     const QString wanted(character.toLower());
-    for (quint32 key = 0; key < KeyCodes::virtualKeyCount; ++key) {
+    for (const KeyCode key : KeyCodes::all()) {
         if (charactersFor(key) == wanted)
             return key;
     }
     return std::nullopt;
 }
 
-std::optional<QString> WaylandKeyboardLayout::charactersFor(quint32 keyCode) const {
+std::optional<QString> WaylandKeyboardLayout::charactersFor(KeyCode keyCode) const {
     const auto evdevCode = m_keymap->positions().evdevCode(keyCode);
     return evdevCode ? m_keymap->charactersFor(*evdevCode) : std::nullopt;
 }
 
-std::optional<quint32> WaylandKeyboardLayout::keyCodeOfScanCode(quint32 nativeScanCode) const {
+std::optional<KeyCode> WaylandKeyboardLayout::keyCodeOfScanCode(quint32 nativeScanCode) const {
     if (nativeScanCode < KeyCodes::xOffset)
         return std::nullopt;
-    return m_keymap->positions().virtualKey(nativeScanCode - KeyCodes::xOffset);
+    return m_keymap->positions().keyCode(nativeScanCode - KeyCodes::xOffset);
 }
 
 } // namespace vellumry

@@ -12,9 +12,9 @@ public:
     explicit WaylandKeyboardLayout(std::shared_ptr<WaylandKeymap> keymap)
         : m_keymap(std::move(keymap)) {}
 
-    [[nodiscard]] std::optional<quint32> keyCodeFor(QChar character) const override;
-    [[nodiscard]] std::optional<QString> charactersFor(quint32 keyCode) const override;
-    [[nodiscard]] std::optional<quint32> keyCodeOfScanCode(quint32 nativeScanCode) const override;
+    [[nodiscard]] std::optional<KeyCode> keyCodeFor(QChar character) const override;
+    [[nodiscard]] std::optional<QString> charactersFor(KeyCode keyCode) const override;
+    [[nodiscard]] std::optional<KeyCode> keyCodeOfScanCode(quint32 nativeScanCode) const override;
 
 private:
     std::shared_ptr<WaylandKeymap> m_keymap;

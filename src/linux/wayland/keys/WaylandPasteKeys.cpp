@@ -3,7 +3,6 @@
 
 #include "foundation/SerialExecutor.h"
 #include "linux/wayland/selection/DataControlThread.h"
-#include "platform/display/EventFlags.h"
 
 #include <utility>
 
@@ -13,7 +12,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr qint64 letterV = 9;
 /// What those who are told may take over the next item: it is offered when the paste is over.
 constexpr auto usualTime = 100ms;
 
@@ -73,8 +71,8 @@ void WaylandPasteKeys::expect(std::optional<std::vector<PasteboardItem>> items) 
 
 void WaylandPasteKeys::receive() {
     KeyPress press;
-    press.keyCode = letterV;
-    press.flags = eventflag::command;
+    press.keyCode = KeyCode::v;
+    press.modifiers = Modifier::command;
     press.characters = QStringLiteral("v");
     const auto told = onPress; // the callback may stop the listening
     if (told)

@@ -47,7 +47,7 @@ void X11HotKeys::listenForChanges() {
     XkbSelectEvents(m_connection->display(), XkbUseCoreKbd, events, events);
 }
 
-bool X11HotKeys::grab(quint32 id, quint32 keyCode, quint32 modifiers) {
+bool X11HotKeys::grab(quint32 id, KeyCode keyCode, Modifiers modifiers) {
     if (!m_connection->inputExtension().has_value() || m_keys.contains(id))
         return false;
     const X11Keymap keymap = X11Keymap::read(*m_connection);

@@ -21,14 +21,14 @@ public:
     explicit X11HotKeys(std::shared_ptr<XlibConnection> connection);
     ~X11HotKeys() override;
 
-    [[nodiscard]] bool grab(quint32 id, quint32 keyCode, quint32 modifiers) override;
+    [[nodiscard]] bool grab(quint32 id, KeyCode keyCode, Modifiers modifiers) override;
     void release(quint32 id) override;
 
 private:
     using Combination = passivegrabs::Combination;
     struct HotKey {
-        quint32 keyCode = 0;
-        quint32 modifiers = 0;
+        KeyCode keyCode{};
+        Modifiers modifiers;
         /// Absent while the keyboard has no such key or another program took it.
         std::optional<Combination> held;
     };

@@ -12,9 +12,9 @@ class X11KeyboardLayout : public KeyboardLayout {
 public:
     explicit X11KeyboardLayout(std::shared_ptr<XlibConnection> connection);
 
-    [[nodiscard]] std::optional<quint32> keyCodeFor(QChar character) const override;
-    [[nodiscard]] std::optional<QString> charactersFor(quint32 keyCode) const override;
-    [[nodiscard]] std::optional<quint32> keyCodeOfScanCode(quint32 nativeScanCode) const override;
+    [[nodiscard]] std::optional<KeyCode> keyCodeFor(QChar character) const override;
+    [[nodiscard]] std::optional<QString> charactersFor(KeyCode keyCode) const override;
+    [[nodiscard]] std::optional<KeyCode> keyCodeOfScanCode(quint32 nativeScanCode) const override;
 
 private:
     std::shared_ptr<XlibConnection> m_connection;

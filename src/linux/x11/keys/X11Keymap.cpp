@@ -16,11 +16,6 @@ constexpr unsigned int groupCount = XkbNumKbdGroups;
 /// A layout is taken for a Latin one with this many of the 26 letters.
 constexpr int latinLetters = 20;
 
-constexpr quint32 shortcutCtrl = 0x100;
-constexpr quint32 shortcutShift = 0x200;
-constexpr quint32 shortcutAlt = 0x800;
-constexpr quint32 shortcutSuper = 0x1000;
-
 } // namespace
 
 X11Keymap X11Keymap::read(XlibConnection& connection) {
@@ -73,13 +68,13 @@ KeyPositions X11Keymap::positions() const {
     return KeyPositions([this, group](quint32 evdevCode) { return typed(evdevCode + KeyCodes::xOffset, group); });
 }
 
-std::optional<quint32> X11Keymap::keycodeFor(quint32 virtualKey) const {
-    const auto code = positions().evdevCode(virtualKey);
+std::optional<quint32> X11Keymap::keycodeFor(KeyCode key) const {
+    const auto code = positions().evdevCode(key);
     return code.has_value() ? std::optional(*code + KeyCodes::xOffset) : std::nullopt;
 }
 
-std::optional<quint32> X11Keymap::virtualKeyFor(quint32 keycode) const {
-    return keycode < KeyCodes::xOffset ? std::nullopt : positions().virtualKey(keycode - KeyCodes::xOffset);
+std::optional<KeyCode> X11Keymap::keyOf(quint32 keycode) const {
+    return keycode < KeyCodes::xOffset ? std::nullopt : positions().keyCode(keycode - KeyCodes::xOffset);
 }
 
 std::optional<QString> X11Keymap::charactersFor(quint32 keycode) const {
@@ -135,17 +130,20 @@ unsigned int X11Keymap::bitsOf(unsigned long leftSymbol, unsigned long rightSymb
     return 0;
 }
 
-std::optional<unsigned int> X11Keymap::maskFor(quint32 modifiers) const {
+std::optional<unsigned int> X11Keymap::maskFor(Modifiers modifiers) const {
+    const std::array<std::pair<Modifier, unsigned int>, 4> bits{{{Modifier::command, ControlMask},
+                                                                 {Modifier::shift, ShiftMask},
+                                                                 {Modifier::option, bitsOf(XK_Alt_L, XK_Alt_R)},
+                                                                 {Modifier::control, bitsOf(XK_Super_L, XK_Super_R)}}};
     unsigned int mask = 0;
-    mask |= (modifiers & shortcutCtrl) != 0 ? ControlMask : 0;
-    mask |= (modifiers & shortcutShift) != 0 ? ShiftMask : 0;
-    const unsigned int alt = bitsOf(XK_Alt_L, XK_Alt_R);
-    const unsigned int super = bitsOf(XK_Super_L, XK_Super_R);
-    // Without the bit the grab would take a simpler combination from everybody: Ctrl+V for Super+Ctrl+V.
-    if (((modifiers & shortcutAlt) != 0 && alt == 0) || ((modifiers & shortcutSuper) != 0 && super == 0))
-        return std::nullopt;
-    mask |= (modifiers & shortcutAlt) != 0 ? alt : 0;
-    mask |= (modifiers & shortcutSuper) != 0 ? super : 0;
+    for (const auto& [modifier, bit] : bits) {
+        if (!modifiers.testFlag(modifier))
+            continue;
+        // Without the bit the grab would take a simpler combination from everybody: Ctrl+V for Super+Ctrl+V.
+        if (bit == 0)
+            return std::nullopt;
+        mask |= bit;
+    }
     return mask;
 }
 

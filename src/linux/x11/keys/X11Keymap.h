@@ -3,6 +3,7 @@
 
 #include "linux/keys/KeyPositions.h"
 #include "linux/x11/windows/XlibConnection.h"
+#include "platform/display/Modifiers.h"
 
 #include <QString>
 #include <array>
@@ -19,9 +20,9 @@ public:
     /// Asks the server. An empty map when it has no keyboard extension.
     [[nodiscard]] static X11Keymap read(XlibConnection& connection);
 
-    /// The X key code that a virtual key code means; nothing where the keyboard has no such key.
-    [[nodiscard]] std::optional<quint32> keycodeFor(quint32 virtualKey) const;
-    [[nodiscard]] std::optional<quint32> virtualKeyFor(quint32 keycode) const;
+    /// The X key code of a key; nothing where the keyboard has no such key.
+    [[nodiscard]] std::optional<quint32> keycodeFor(KeyCode key) const;
+    [[nodiscard]] std::optional<KeyCode> keyOf(quint32 keycode) const;
     /// What the key types without modifiers in the layout that shortcuts go by: the first with Latin letters, else the
     /// first.
     [[nodiscard]] std::optional<QString> charactersFor(quint32 keycode) const;
@@ -37,9 +38,8 @@ public:
     /// A key that carries the symbol, `place` when none does.
     [[nodiscard]] quint32 keycodeOf(unsigned long symbol, quint32 place) const;
 
-    /// The X modifier mask of a shortcut's modifiers (0x100 Ctrl, 0x200 Shift, 0x800 Alt, 0x1000 Super); nothing when
-    /// the keyboard lacks one of them.
-    [[nodiscard]] std::optional<unsigned int> maskFor(quint32 modifiers) const;
+    /// The X modifier mask; nothing when the keyboard lacks one of the modifiers.
+    [[nodiscard]] std::optional<unsigned int> maskFor(Modifiers modifiers) const;
     /// All bits that a shortcut may ask for.
     [[nodiscard]] unsigned int shortcutMask() const;
     /// The bits of Caps Lock and Num Lock in all combinations, none included: a shortcut works whatever is locked.

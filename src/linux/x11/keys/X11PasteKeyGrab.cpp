@@ -2,7 +2,6 @@
 #include "linux/x11/keys/X11PasteKeyGrab.h"
 
 #include "linux/keys/KeyCodes.h"
-#include "platform/display/EventFlags.h"
 
 #include <algorithm>
 #include <linux/input-event-codes.h>
@@ -21,11 +20,6 @@ using namespace std::chrono_literals;
 
 constexpr quint32 placeOfV = KEY_V + KeyCodes::xOffset;
 constexpr quint32 placeOfInsert = KEY_INSERT + KeyCodes::xOffset;
-
-constexpr quint32 shortcutCtrl = 0x100;
-constexpr quint32 shortcutShift = 0x200;
-constexpr quint32 shortcutAlt = 0x800;
-constexpr quint32 shortcutSuper = 0x1000;
 
 /// A change of layout comes as a handful of notices.
 constexpr auto grabAgainDelay = 50ms;
@@ -101,8 +95,10 @@ std::vector<passivegrabs::Combination> X11PasteKeyGrab::wanted() const {
         letters.push_back(usual);
     const auto locks = m_keymap.lockCombinations();
     std::vector<passivegrabs::Combination> combinations;
-    for (const quint32 others : {0U, shortcutShift, shortcutAlt, shortcutShift | shortcutAlt}) {
-        const auto mask = m_keymap.maskFor(shortcutCtrl | others);
+    using enum Modifier;
+    for (const Modifiers modifiers :
+         {Modifiers(command), command | shift, command | option, command | shift | option}) {
+        const auto mask = m_keymap.maskFor(modifiers);
         for (const quint32 letter : letters) {
             if (mask.has_value())
                 combinations.push_back({letter, *mask, locks});
@@ -190,23 +186,19 @@ bool X11PasteKeyGrab::isOwn(int device) const {
 }
 
 X11PasteKeyGrab::Held X11PasteKeyGrab::heldFor(quint32 keycode, unsigned int modifiers, unsigned int group) const {
-    const auto isDown = [&](quint32 shortcutModifier) {
-        const auto mask = m_keymap.maskFor(shortcutModifier);
-        return mask.has_value() && (modifiers & *mask) != 0;
-    };
     X11Keymap keymap = m_keymap;
     keymap.setActiveGroup(group);
     const bool isInsert = keycode == keymap.keycodeOf(XK_Insert, placeOfInsert);
     Held held;
-    held.press.keyCode = -1;
     if (keycode == keymap.keycodeTyping(u'v', placeOfV))
-        held.press.keyCode = KeyCodes::virtualKey(KEY_V).value_or(0);
+        held.press.keyCode = KeyCode::v;
     else if (isInsert)
-        held.press.keyCode = KeyCodes::virtualKey(KEY_INSERT).value_or(0);
+        held.press.keyCode = KeyCode::insert;
     held.press.characters = keymap.charactersFor(keycode, group).value_or(QString());
-    held.press.flags = (isDown(shortcutCtrl) ? eventflag::command : 0) |
-                       (isDown(shortcutSuper) ? eventflag::control : 0) |
-                       (isDown(shortcutAlt) ? eventflag::option : 0) | (isDown(shortcutShift) ? eventflag::shift : 0);
+    for (const Modifier modifier : {Modifier::command, Modifier::control, Modifier::option, Modifier::shift}) {
+        const auto mask = m_keymap.maskFor(modifier);
+        held.press.modifiers.setFlag(modifier, mask.has_value() && (modifiers & *mask) != 0);
+    }
     held.pastesPrimary = isInsert;
     held.isHeld = std::make_shared<std::atomic<bool>>(true);
     return held;

@@ -39,12 +39,12 @@ const Layout russian{u"йцукенгшщзхъ", u"фывапролджэ", u"�
 } // namespace
 
 TEST(KeyCodes, ShortcutsOfTheProgramAreWhereTheyAreOnAKeyboard) {
-    EXPECT_EQ(KeyCodes::evdevCode(9), quint32(KEY_V));
-    EXPECT_EQ(KeyCodes::evdevCode(1), quint32(KEY_S));
+    EXPECT_EQ(KeyCodes::evdevCode(KeyCode::v), quint32(KEY_V));
+    EXPECT_EQ(KeyCodes::evdevCode(KeyCode::s), quint32(KEY_S));
     const std::map<quint32, quint32> digits = {{18, KEY_1}, {19, KEY_2}, {20, KEY_3}, {21, KEY_4}, {23, KEY_5},
                                                {22, KEY_6}, {26, KEY_7}, {28, KEY_8}, {25, KEY_9}};
-    for (const auto& [virtualKey, code] : digits)
-        EXPECT_EQ(KeyCodes::evdevCode(virtualKey), code);
+    for (const auto& [number, code] : digits)
+        EXPECT_EQ(KeyCodes::evdevCode(KeyCode(number)), code);
 }
 
 TEST(KeyCodes, NamedKeysAreThoseOfTheKeyNames) {
@@ -52,39 +52,39 @@ TEST(KeyCodes, NamedKeysAreThoseOfTheKeyNames) {
         {36, KEY_ENTER},   {48, KEY_TAB},     {49, KEY_SPACE}, {51, KEY_BACKSPACE}, {53, KEY_ESC}, {115, KEY_HOME},
         {116, KEY_PAGEUP}, {117, KEY_DELETE}, {119, KEY_END},  {121, KEY_PAGEDOWN}, {122, KEY_F1}, {111, KEY_F12},
         {123, KEY_LEFT},   {124, KEY_RIGHT},  {125, KEY_DOWN}, {126, KEY_UP}};
-    for (const auto& [virtualKey, code] : named)
-        EXPECT_EQ(KeyCodes::evdevCode(virtualKey), code) << virtualKey;
+    for (const auto& [number, code] : named)
+        EXPECT_EQ(KeyCodes::evdevCode(KeyCode(number)), code) << number;
 }
 
 TEST(KeyCodes, ModifiersStandWhereTheProgramHasThem) {
-    EXPECT_EQ(KeyCodes::evdevCode(55), quint32(KEY_LEFTCTRL));
-    EXPECT_EQ(KeyCodes::evdevCode(59), quint32(KEY_LEFTMETA));
-    EXPECT_EQ(KeyCodes::evdevCode(58), quint32(KEY_LEFTALT));
-    EXPECT_EQ(KeyCodes::evdevCode(56), quint32(KEY_LEFTSHIFT));
+    EXPECT_EQ(KeyCodes::evdevCode(KeyCode::command), quint32(KEY_LEFTCTRL));
+    EXPECT_EQ(KeyCodes::evdevCode(KeyCode::control), quint32(KEY_LEFTMETA));
+    EXPECT_EQ(KeyCodes::evdevCode(KeyCode::option), quint32(KEY_LEFTALT));
+    EXPECT_EQ(KeyCodes::evdevCode(KeyCode::shift), quint32(KEY_LEFTSHIFT));
 }
 
 TEST(KeyCodes, BothDirectionsAgreeForEveryKey) {
     std::set<quint32> seen;
-    for (quint32 key = 0; key < KeyCodes::virtualKeyCount; ++key) {
+    for (const KeyCode key : KeyCodes::all()) {
         const auto code = KeyCodes::evdevCode(key);
         if (!code.has_value())
             continue;
-        EXPECT_TRUE(seen.insert(*code).second) << key;
-        EXPECT_EQ(KeyCodes::virtualKey(*code), key);
+        EXPECT_TRUE(seen.insert(*code).second) << std::to_underlying(key);
+        EXPECT_EQ(KeyCodes::keyCode(*code), key);
     }
     EXPECT_GE(seen.size(), 110U);
 }
 
 TEST(KeyCodes, WhatIsNoKeyHasNoCode) {
-    EXPECT_EQ(KeyCodes::evdevCode(52), std::nullopt);
-    EXPECT_EQ(KeyCodes::evdevCode(200), std::nullopt);
-    EXPECT_EQ(KeyCodes::virtualKey(0), std::nullopt);
-    EXPECT_EQ(KeyCodes::virtualKey(700), std::nullopt);
+    EXPECT_EQ(KeyCodes::evdevCode(KeyCode(52)), std::nullopt);
+    EXPECT_EQ(KeyCodes::evdevCode(KeyCode(200)), std::nullopt);
+    EXPECT_EQ(KeyCodes::keyCode(0), std::nullopt);
+    EXPECT_EQ(KeyCodes::keyCode(700), std::nullopt);
 }
 
 TEST(KeyCodes, LettersAreThoseOfAUSKeyboard) {
     std::set<char16_t> letters;
-    for (quint32 key = 0; key < KeyCodes::virtualKeyCount; ++key) {
+    for (const KeyCode key : KeyCodes::all()) {
         if (const auto letter = KeyCodes::letter(key)) {
             letters.insert(*letter);
             EXPECT_EQ(us.typed(*KeyCodes::evdevCode(key)), letter);
@@ -94,20 +94,20 @@ TEST(KeyCodes, LettersAreThoseOfAUSKeyboard) {
 }
 
 TEST(KeyPositions, OnAUSKeyboardEveryKeyIsInItsPlace) {
-    for (quint32 key = 0; key < KeyCodes::virtualKeyCount; ++key)
+    for (const KeyCode key : KeyCodes::all())
         EXPECT_EQ(us.positions().evdevCode(key), KeyCodes::evdevCode(key));
 }
 
 TEST(KeyPositions, ALetterIsTheKeyThatTypesIt) {
-    EXPECT_EQ(dvorak.positions().evdevCode(9), quint32(KEY_DOT));
-    EXPECT_EQ(dvorak.positions().virtualKey(KEY_DOT), 9U);
-    EXPECT_EQ(french.positions().evdevCode(0), quint32(KEY_Q));
-    EXPECT_EQ(french.positions().evdevCode(46), quint32(KEY_SEMICOLON));
-    EXPECT_EQ(french.positions().evdevCode(9), quint32(KEY_V));
+    EXPECT_EQ(dvorak.positions().evdevCode(KeyCode::v), quint32(KEY_DOT));
+    EXPECT_EQ(dvorak.positions().keyCode(KEY_DOT), KeyCode::v);
+    EXPECT_EQ(french.positions().evdevCode(KeyCode::a), quint32(KEY_Q));
+    EXPECT_EQ(french.positions().evdevCode(KeyCode::m), quint32(KEY_SEMICOLON));
+    EXPECT_EQ(french.positions().evdevCode(KeyCode::v), quint32(KEY_V));
 }
 
 TEST(KeyPositions, WithoutLatinLettersKeysKeepTheirPlaces) {
-    for (quint32 key = 0; key < KeyCodes::virtualKeyCount; ++key)
+    for (const KeyCode key : KeyCodes::all())
         EXPECT_EQ(russian.positions().evdevCode(key), KeyCodes::evdevCode(key));
 }
 
@@ -115,13 +115,13 @@ TEST(KeyPositions, EveryKeyHasExactlyOneCodeOnEachLayout) {
     for (const Layout& layout : {us, dvorak, french, russian}) {
         const KeyPositions positions = layout.positions();
         std::set<quint32> codes;
-        for (quint32 key = 0; key < KeyCodes::virtualKeyCount; ++key) {
+        for (const KeyCode key : KeyCodes::all()) {
             const auto code = positions.evdevCode(key);
-            ASSERT_EQ(code.has_value(), KeyCodes::evdevCode(key).has_value()) << key;
+            ASSERT_EQ(code.has_value(), KeyCodes::evdevCode(key).has_value()) << std::to_underlying(key);
             if (!code.has_value())
                 continue;
-            EXPECT_TRUE(codes.insert(*code).second) << key;
-            EXPECT_EQ(positions.virtualKey(*code), key);
+            EXPECT_TRUE(codes.insert(*code).second) << std::to_underlying(key);
+            EXPECT_EQ(positions.keyCode(*code), key);
         }
     }
 }

@@ -105,7 +105,7 @@ TEST_F(X11PanelSurfaceTest, AHotKeyUnderThePanelDoesNotCloseIt) {
     X11HotKeys keys(connection);
     std::vector<quint32> pressed;
     keys.onPressed = [&](quint32 id) { pressed.push_back(id); };
-    ASSERT_TRUE(keys.grab(1, 9, 0x1100));
+    ASSERT_TRUE(keys.grab(1, KeyCode::v, Modifier::control | Modifier::command));
     show();
     client.chord({KEY_LEFTCTRL, KEY_LEFTMETA, KEY_V});
     EXPECT_TRUE(waitUntil([&] { return pressed.size() == 1; }));

@@ -2,7 +2,6 @@
 #include "linux/x11/keys/X11PasteKeyGrab.h"
 
 #include "linux/x11/input/X11PasteKeysWorld.h"
-#include "platform/display/EventFlags.h"
 
 #include <QCoreApplication>
 
@@ -38,7 +37,7 @@ TEST_F(X11PasteKeyGrabTest, TheKeyThatTypesVFollowsTheLayout) {
             return !presses.empty();
         })) << qPrintable(layout);
         ASSERT_FALSE(presses.empty());
-        EXPECT_EQ(presses.back().press.keyCode, 9) << qPrintable(layout);
+        EXPECT_EQ(presses.back().press.keyCode, KeyCode::v) << qPrintable(layout);
         presses.clear();
     }
 }
@@ -48,18 +47,18 @@ TEST_F(X11PasteKeyGrabTest, OfTwoLayoutsTheOneInUseDecides) {
     ASSERT_TRUE(keys.start());
     client.chord({KEY_LEFTCTRL, KEY_V});
     ASSERT_TRUE(isTold(1));
-    EXPECT_EQ(presses[0].press.keyCode, 9);
+    EXPECT_EQ(presses[0].press.keyCode, KeyCode::v);
     letGo();
     client.chord({KEY_COMPOSE});
     client.chord({KEY_LEFTCTRL, KEY_V}); // types k there
     ASSERT_TRUE(isTold(2));
     EXPECT_EQ(presses[1].press.characters, QStringLiteral("k"));
-    EXPECT_NE(presses[1].press.keyCode, 9);
+    EXPECT_NE(presses[1].press.keyCode, KeyCode::v);
     letGo();
     client.chord({KEY_LEFTCTRL, KEY_DOT});
     ASSERT_TRUE(isTold(3));
     EXPECT_EQ(presses[2].press.characters, QStringLiteral("v"));
-    EXPECT_EQ(presses[2].press.keyCode, 9);
+    EXPECT_EQ(presses[2].press.keyCode, KeyCode::v);
     letGo();
     EXPECT_TRUE(XSession::setLayout(QStringLiteral("us -option")));
 }
@@ -98,7 +97,7 @@ TEST_F(X11PasteKeyGrabTest, WhoeverHoldsTheKeyboardGetsTheKey) {
     locker.ungrabKeyboard();
     client.chord({KEY_LEFTCTRL, KEY_LEFTSHIFT, KEY_V});
     ASSERT_TRUE(isTold(1));
-    EXPECT_EQ(presses[0].press.flags, eventflag::command | eventflag::shift);
+    EXPECT_EQ(presses[0].press.modifiers, Modifier::command | Modifier::shift);
 }
 
 TEST_F(X11PasteKeyGrabTest, StoppingLetsAKeyThatWaitsGo) {

@@ -3,7 +3,6 @@
 
 #include "linux/x11/input/X11PasteKeysWorld.h"
 #include "linux/x11/keys/X11PasteTarget.h"
-#include "platform/display/EventFlags.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -17,7 +16,7 @@ TEST_F(X11PasteKeysTest, ThePressWaitsUntilItIsLetGoAndIsNotChanged) {
     client.chord({KEY_LEFTCTRL, KEY_V});
     client.chord({KEY_X});
     ASSERT_TRUE(isTold(1));
-    EXPECT_EQ(presses[0].press, (KeyPress{9, eventflag::command, false, QStringLiteral("v"), 0, 0}));
+    EXPECT_EQ(presses[0].press, (KeyPress{KeyCode::v, Modifier::command, false, QStringLiteral("v"), 0, 0}));
     EXPECT_TRUE(presses[0].key->isHeld());
     collect();
     EXPECT_EQ(typed, Chords{}) << "the key and what is typed behind it";
@@ -42,12 +41,12 @@ TEST_F(X11PasteKeysTest, AllPasteChordsAreToldAndNoOthers) {
         client.chord(chords[index]);
         ASSERT_TRUE(isTold(index + 1)) << index;
     }
-    const std::vector<quint32> flags = {eventflag::command, eventflag::command | eventflag::shift,
-                                        eventflag::command | eventflag::option,
-                                        eventflag::command | eventflag::shift | eventflag::option, eventflag::shift};
-    for (std::size_t index = 0; index < flags.size(); ++index)
-        EXPECT_EQ(presses[index].press.flags, flags[index]);
-    EXPECT_EQ(presses.back().press.keyCode, 114);
+    using enum Modifier;
+    const std::vector<Modifiers> modifiers = {command, command | shift, command | option, command | shift | option,
+                                              shift};
+    for (std::size_t index = 0; index < modifiers.size(); ++index)
+        EXPECT_EQ(presses[index].press.modifiers, modifiers[index]);
+    EXPECT_EQ(presses.back().press.keyCode, KeyCode::insert);
 }
 
 TEST_F(X11PasteKeysTest, TheNextPressComesWhenThisOneHasGone) {
