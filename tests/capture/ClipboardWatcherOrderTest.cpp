@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "capture/WatcherFixture.h"
+#include "capture/WatcherWorld.h"
 #include "support/Eventually.h"
 
 #include <new>
@@ -8,7 +8,7 @@ namespace vellumry {
 namespace {
 
 /// Copies that take their time: other ticks come while one is read.
-class ClipboardWatcherOrderTest : public WatcherFixture {
+class ClipboardWatcherOrderTest : public WatcherWorld {
 protected:
     const PasteboardItem twice{{{uniformtype::utf8PlainText, "twice"}, {uniformtype::html, "<b>twice</b>"}}, {}};
     const PasteboardItem note{{{uniformtype::fileUrl, "file:///tmp/note.txt"}}, {}};

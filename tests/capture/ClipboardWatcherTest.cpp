@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "capture/WatcherFixture.h"
+#include "capture/WatcherWorld.h"
 
 namespace vellumry {
 namespace {
 
-class ClipboardWatcherTest : public WatcherFixture {};
+class ClipboardWatcherTest : public WatcherWorld {};
 
 TEST_F(ClipboardWatcherTest, ContentPresentAtLaunchIsNotCaptured) {
     watcher->tick(100);

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/AppEnvironment.h"
 
-#include "shell/AppEnvironmentFixture.h"
+#include "shell/AppEnvironmentWorld.h"
 
 #include <QFile>
 
 namespace vellumry {
 namespace {
+
+class AppEnvironmentTest : public AppEnvironmentWorld {};
 
 TEST_F(AppEnvironmentTest, AKeyringThatIsLockedLeavesMemoryOnlyAndTheUserIsTold) {
     keyring.refuses = true;

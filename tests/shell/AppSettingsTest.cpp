@@ -2,12 +2,12 @@
 // Settings that count at once, and what is told of a start.
 #include "shell/AppEnvironment.h"
 
-#include "shell/AppEnvironmentFixture.h"
+#include "shell/AppEnvironmentWorld.h"
 
 namespace vellumry {
 namespace {
 
-class AppSettingsTest : public AppEnvironmentTest {
+class AppSettingsTest : public AppEnvironmentWorld {
 protected:
     AppSettingsTest() { settingsFolder = disk.path(); }
     /// The file was changed by somebody else. Of the folders that are watched the settings' is the first.

@@ -2,12 +2,12 @@
 // Newer versions in the running program.
 #include "shell/AppEnvironment.h"
 
-#include "shell/AppEnvironmentFixture.h"
+#include "shell/AppEnvironmentWorld.h"
 
 namespace vellumry {
 namespace {
 
-class AppUpdatesTest : public AppEnvironmentTest {
+class AppUpdatesTest : public AppEnvironmentWorld {
 protected:
     AppUpdatesTest() { hasUpdates = true; }
     [[nodiscard]] QStringList menu() const {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/AppEnvironmentFixture.h"
+#include "shell/AppEnvironmentWorld.h"
 
 #include <QImage>
 #include <map>
@@ -8,7 +8,7 @@ namespace vellumry {
 namespace {
 
 /// Screenshots as the environment takes them in; they go into a folder of the test's own.
-class ScreenshotWiring : public AppEnvironmentTest {
+class ScreenshotWiring : public AppEnvironmentWorld {
 protected:
     void SetUp() override {
         set("HOME", disk.path());
@@ -25,7 +25,7 @@ protected:
         EXPECT_TRUE(awaited(environment->screenshotSaving().setSaving(true)));
     }
     void TearDown() override {
-        AppEnvironmentTest::TearDown();
+        AppEnvironmentWorld::TearDown();
         for (const auto& [variable, value] : m_before)
             value.isNull() ? qunsetenv(variable) : qputenv(variable, value);
     }

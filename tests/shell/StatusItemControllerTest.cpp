@@ -2,12 +2,12 @@
 // The program's menu as the running program shows it, and what its entries do there.
 #include "shell/AppEnvironment.h"
 
-#include "shell/AppEnvironmentFixture.h"
+#include "shell/AppEnvironmentWorld.h"
 
 namespace vellumry {
 namespace {
 
-class StatusItemControllerTest : public AppEnvironmentTest {
+class StatusItemControllerTest : public AppEnvironmentWorld {
 protected:
     [[nodiscard]] std::vector<ActionMenuItem> menu() const { return environment->statusMenu(); }
     [[nodiscard]] static ActionMenuItem entryOf(const std::vector<ActionMenuItem>& items, const char* text) {

@@ -4,6 +4,7 @@
 #include "linux/x11/input/XClient.h"
 #include "linux/x11/input/XSession.h"
 #include "linux/x11/windows/X11PanelSurface.h"
+#include "support/Eventually.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -45,12 +46,12 @@ TEST_F(X11FrontmostApplicationTest, TheActiveWindowsDesktopFileNamesIt) {
     EXPECT_EQ(frontmost.current(), SourceApp());
     XClient terminal;
     ASSERT_TRUE(terminal.open("xterm", "XTerm"));
-    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
     XClient passwords;
     ASSERT_TRUE(passwords.open("keepassxc", "KeePassXC"));
-    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("org.keepassxc.keepassxc", "KeePassXC"); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.current() == app("org.keepassxc.keepassxc", "KeePassXC"); }));
     terminal.focus();
-    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
 }
 
 TEST_F(X11FrontmostApplicationTest, WithoutADesktopFileTheWindowClassDoes) {
@@ -58,34 +59,34 @@ TEST_F(X11FrontmostApplicationTest, WithoutADesktopFileTheWindowClassDoes) {
     ASSERT_TRUE(editor.open("edit", "HomeMade"));
     XClient passwords;
     X11FrontmostApplication frontmost(connection, entries);
-    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("HomeMade", "HomeMade"); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.current() == app("HomeMade", "HomeMade"); }));
     ASSERT_TRUE(passwords.open("bitwarden", "Bitwarden"));
-    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("com.bitwarden.desktop", "Bitwarden"); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.current() == app("com.bitwarden.desktop", "Bitwarden"); }));
 }
 
 TEST_F(X11FrontmostApplicationTest, WindowsOfThisProcessNeverCount) {
     X11FrontmostApplication frontmost(connection, entries);
     XClient terminal;
     ASSERT_TRUE(terminal.open("xterm", "XTerm"));
-    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
     XClient settings;
     ASSERT_TRUE(settings.open("vellumry", "vellumry", long(QCoreApplication::applicationPid())));
     XClient editor;
-    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
     ASSERT_TRUE(editor.open("edit", "HomeMade"));
-    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("HomeMade", "HomeMade"); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.current() == app("HomeMade", "HomeMade"); }));
 }
 
 TEST_F(X11FrontmostApplicationTest, UnderThePanelTheApplicationStaysInFront) {
     X11FrontmostApplication frontmost(connection, entries);
     XClient terminal;
     ASSERT_TRUE(terminal.open("xterm", "XTerm"));
-    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
     X11PanelSurface surface(connection, std::make_shared<X11Focus>(connection));
     QWindow panel;
     surface.adopt(&panel);
     surface.present(&panel, QRect(300, 200, 200, 100));
-    EXPECT_TRUE(waitUntil([&] { return panel.isActive(); }));
+    EXPECT_TRUE(eventually([&] { return panel.isActive(); }));
     EXPECT_EQ(frontmost.current(), app("debian-xterm", "XTerm"));
     surface.dismiss(&panel);
 }
@@ -94,9 +95,9 @@ TEST_F(X11FrontmostApplicationTest, AClosedApplicationIsNoLongerInFront) {
     X11FrontmostApplication frontmost(connection, entries);
     XClient terminal;
     ASSERT_TRUE(terminal.open("xterm", "XTerm"));
-    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
     terminal.close();
-    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == SourceApp(); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.current() == SourceApp(); }));
 }
 
 TEST_F(X11FrontmostApplicationTest, ThePasteboardsOwnerIsKnownWhenItHasHidden) {
@@ -106,14 +107,14 @@ TEST_F(X11FrontmostApplicationTest, ThePasteboardsOwnerIsKnownWhenItHasHidden) {
     ASSERT_TRUE(passwords.open("keepassxc", "KeePassXC"));
     passwords.own("CLIPBOARD");
     const SourceApp vault = app("org.keepassxc.keepassxc", "KeePassXC");
-    EXPECT_TRUE(waitUntil([&] { return frontmost.pasteboardOwner() == vault; }));
+    EXPECT_TRUE(eventually([&] { return frontmost.pasteboardOwner() == vault; }));
     passwords.hide();
     XClient terminal;
     ASSERT_TRUE(terminal.open("xterm", "XTerm"));
-    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
     EXPECT_EQ(frontmost.pasteboardOwner(), vault);
     passwords.disown("CLIPBOARD");
-    EXPECT_TRUE(waitUntil([&] { return frontmost.pasteboardOwner() == SourceApp(); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.pasteboardOwner() == SourceApp(); }));
 }
 
 TEST_F(X11FrontmostApplicationTest, AnOwnerWithoutAWindowSaysNothing) {
@@ -122,7 +123,7 @@ TEST_F(X11FrontmostApplicationTest, AnOwnerWithoutAWindowSaysNothing) {
     ASSERT_TRUE(terminal.open("xterm", "XTerm"));
     XClient tool;
     tool.own("CLIPBOARD");
-    EXPECT_TRUE(waitUntil([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
+    EXPECT_TRUE(eventually([&] { return frontmost.current() == app("debian-xterm", "XTerm"); }));
     EXPECT_EQ(frontmost.pasteboardOwner(), SourceApp());
     tool.disown("CLIPBOARD");
 }

@@ -3,6 +3,7 @@
 
 #include "linux/x11/input/XClient.h"
 #include "linux/x11/input/XSession.h"
+#include "support/Eventually.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -30,7 +31,7 @@ protected:
     bool fires(const std::vector<unsigned int>& chord, quint32 id) {
         pressed.clear();
         client.chord(chord);
-        return waitUntil([&] { return !pressed.empty(); }) && pressed == std::vector<quint32>{id};
+        return eventually([&] { return !pressed.empty(); }) && pressed == std::vector<quint32>{id};
     }
     /// Presses the chord, then a hot key that is known to work: had the chord fired, it would have come first.
     bool staysSilent(const std::vector<unsigned int>& chord) {
@@ -38,7 +39,7 @@ protected:
         pressed.clear();
         client.chord(chord);
         client.chord({KEY_LEFTCTRL, KEY_LEFTMETA, KEY_F8});
-        const bool came = waitUntil([&] { return !pressed.empty(); });
+        const bool came = eventually([&] { return !pressed.empty(); });
         keys.release(999);
         return came && pressed == std::vector<quint32>{999};
     }
@@ -92,10 +93,10 @@ TEST_F(X11HotKeysTest, AHeldKeyIsToldOnce) {
         client.press(code);
     QElapsedTimer timer;
     timer.start();
-    EXPECT_TRUE(waitUntil([&] { return timer.elapsed() > 1200; }));
+    EXPECT_TRUE(eventually([&] { return timer.elapsed() > 1200; }));
     client.release(KEY_V);
     client.press(KEY_S);
-    EXPECT_TRUE(waitUntil([&] { return pressed.size() > 1; }));
+    EXPECT_TRUE(eventually([&] { return pressed.size() > 1; }));
     for (const unsigned int code : {KEY_S, KEY_LEFTMETA, KEY_LEFTCTRL})
         client.release(code);
     EXPECT_EQ(pressed, (std::vector<quint32>{1, 2}));
@@ -120,9 +121,9 @@ TEST_F(X11HotKeysTest, WhatIsTypedMeanwhileWaitsForTheAnswer) {
     };
     for (const unsigned int code : ctrlSuperV)
         client.press(code);
-    ASSERT_TRUE(waitUntil([&] { return !pressed.empty(); }));
+    ASSERT_TRUE(eventually([&] { return !pressed.empty(); }));
     std::vector<unsigned long> typed;
-    EXPECT_TRUE(waitUntil([&] {
+    EXPECT_TRUE(eventually([&] {
         for (const XClient::Key& key : panel.takeKeys()) {
             if (key.isPress)
                 typed.push_back(key.symbol);
@@ -181,7 +182,7 @@ TEST_F(X11HotKeysTest, TheKeyboardCanBeTakenWhileTheHotKeyIsStillDown) {
     bool couldGrab = false;
     for (const unsigned int code : ctrlSuperV)
         client.press(code);
-    EXPECT_TRUE(waitUntil([&] { return !pressed.empty(); }));
+    EXPECT_TRUE(eventually([&] { return !pressed.empty(); }));
     {
         XClient other;
         couldGrab = other.grabKeyboard();
@@ -194,7 +195,7 @@ TEST_F(X11HotKeysTest, TheKeyboardCanBeTakenWhileTheHotKeyIsStillDown) {
 TEST_F(X11HotKeysTest, ALetterFollowsTheLayout) {
     ASSERT_TRUE(keys.grab(1, KeyCode::v, superCtrl));
     ASSERT_TRUE(XSession::setLayout(QStringLiteral("us -variant dvorak")));
-    EXPECT_TRUE(waitUntil([&] {
+    EXPECT_TRUE(eventually([&] {
         client.chord({KEY_LEFTCTRL, KEY_LEFTMETA, KEY_DOT});
         QCoreApplication::processEvents();
         return !pressed.empty();
@@ -202,7 +203,7 @@ TEST_F(X11HotKeysTest, ALetterFollowsTheLayout) {
     EXPECT_TRUE(staysSilent(ctrlSuperV));
     ASSERT_TRUE(XSession::setLayout(QStringLiteral("us -variant basic")));
     pressed.clear();
-    EXPECT_TRUE(waitUntil([&] {
+    EXPECT_TRUE(eventually([&] {
         client.chord(ctrlSuperV);
         QCoreApplication::processEvents();
         return !pressed.empty();
@@ -221,7 +222,7 @@ TEST_F(X11HotKeysTest, AReplacedWindowManagerDoesNotTakeThemForGood) {
     ASSERT_TRUE(client.grabKey(KEY_V, 0x44));
     EXPECT_TRUE(staysSilent(ctrlSuperV));
     client.setRootProperty("_NET_SUPPORTING_WM_CHECK", 1);
-    EXPECT_TRUE(waitUntil([&] {
+    EXPECT_TRUE(eventually([&] {
         client.chord(ctrlSuperV);
         QCoreApplication::processEvents();
         return !pressed.empty() && pressed.back() == 1;

@@ -5,6 +5,7 @@
 #include "linux/x11/input/XSession.h"
 #include "linux/x11/keys/X11HotKeys.h"
 #include "linux/x11/windows/XWindowProperties.h"
+#include "support/Eventually.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -44,7 +45,7 @@ protected:
     /// How many presses and releases have reached the target when it is `expected` or the wait is over.
     std::size_t keysOfTarget(std::size_t expected) {
         std::size_t got = 0;
-        EXPECT_TRUE(waitUntil([&] {
+        EXPECT_TRUE(eventually([&] {
             got += target.takeKeys().size();
             return got >= expected;
         }));
@@ -68,7 +69,7 @@ TEST_F(X11PanelSurfaceTest, ThePanelTakesTypingAtOnce) {
     EXPECT_TRUE(panel.isVisible());
     EXPECT_EQ(panel.geometry(), frame);
     client.chord({KEY_A});
-    EXPECT_TRUE(waitUntil([&] { return panel.typed == u"a"; }));
+    EXPECT_TRUE(eventually([&] { return panel.typed == u"a"; }));
     EXPECT_TRUE(target.takeKeys().empty());
     EXPECT_TRUE(lost.empty());
 }
@@ -91,10 +92,10 @@ TEST_F(X11PanelSurfaceTest, WhoTakesTheKeyboardKeepsIt) {
     XClient other;
     ASSERT_TRUE(other.open("other", "Other"));
     target.focus();
-    ASSERT_TRUE(waitUntil([&] { return target.hasFocus(); }));
+    ASSERT_TRUE(eventually([&] { return target.hasFocus(); }));
     show();
     other.focus();
-    EXPECT_TRUE(waitUntil([&] { return !lost.empty(); }));
+    EXPECT_TRUE(eventually([&] { return !lost.empty(); }));
     EXPECT_EQ(lost.front(), &panel);
     surface.dismiss(&panel);
     EXPECT_TRUE(other.hasFocus());
@@ -108,9 +109,9 @@ TEST_F(X11PanelSurfaceTest, AHotKeyUnderThePanelDoesNotCloseIt) {
     ASSERT_TRUE(keys.grab(1, KeyCode::v, Modifier::control | Modifier::command));
     show();
     client.chord({KEY_LEFTCTRL, KEY_LEFTMETA, KEY_V});
-    EXPECT_TRUE(waitUntil([&] { return pressed.size() == 1; }));
+    EXPECT_TRUE(eventually([&] { return pressed.size() == 1; }));
     client.chord({KEY_A});
-    EXPECT_TRUE(waitUntil([&] { return panel.typed.endsWith(u'a'); }));
+    EXPECT_TRUE(eventually([&] { return panel.typed.endsWith(u'a'); }));
     EXPECT_TRUE(lost.empty());
 }
 
@@ -119,7 +120,7 @@ TEST_F(X11PanelSurfaceTest, AForeignKeyboardGrabDoesNotCloseIt) {
     ASSERT_TRUE(client.grabKeyboard());
     client.ungrabKeyboard();
     client.chord({KEY_A});
-    EXPECT_TRUE(waitUntil([&] { return panel.typed == u"a"; }));
+    EXPECT_TRUE(eventually([&] { return panel.typed == u"a"; }));
     EXPECT_TRUE(lost.empty());
 }
 
@@ -127,31 +128,31 @@ TEST_F(X11PanelSurfaceTest, AClickBesideThePanelIsToldAndOneOnItIsNot) {
     show();
     client.movePointer(frame.center().x(), frame.center().y());
     client.click(1);
-    EXPECT_TRUE(waitUntil([&] { return panel.clicks == 1; }));
+    EXPECT_TRUE(eventually([&] { return panel.clicks == 1; }));
     client.movePointer(50, 50);
     client.click(5);
     client.chord({KEY_A});
-    EXPECT_TRUE(waitUntil([&] { return panel.typed == u"a"; }));
+    EXPECT_TRUE(eventually([&] { return panel.typed == u"a"; }));
     EXPECT_TRUE(lost.empty());
     client.movePointer(1000, 700);
     client.click(1);
-    EXPECT_TRUE(waitUntil([&] { return !lost.empty(); }));
+    EXPECT_TRUE(eventually([&] { return !lost.empty(); }));
 }
 
 TEST_F(X11PanelSurfaceTest, AClickInTheMarginReachesWhatLiesBelow) {
     surface.setInputArea(&panel, QRect(40, 40, 320, 120));
     show();
     client.movePointer(frame.left() + 60, frame.center().y());
-    EXPECT_TRUE(waitUntil([&] { return client.windowUnderPointer() == panel.winId(); }));
+    EXPECT_TRUE(eventually([&] { return client.windowUnderPointer() == panel.winId(); }));
     client.click(1);
-    EXPECT_TRUE(waitUntil([&] { return panel.clicks == 1; }));
+    EXPECT_TRUE(eventually([&] { return panel.clicks == 1; }));
     EXPECT_TRUE(lost.empty());
 
     // The window below may come to the top by this.
     client.movePointer(frame.left() + 20, frame.center().y());
-    EXPECT_TRUE(waitUntil([&] { return client.windowUnderPointer() != panel.winId(); }));
+    EXPECT_TRUE(eventually([&] { return client.windowUnderPointer() != panel.winId(); }));
     client.click(1);
-    EXPECT_TRUE(waitUntil([&] { return !lost.empty(); }));
+    EXPECT_TRUE(eventually([&] { return !lost.empty(); }));
     EXPECT_EQ(panel.clicks, 1);
 }
 
@@ -177,17 +178,17 @@ TEST_F(X11PanelSurfaceTest, AToastTakesNeitherKeysNorClicks) {
     EXPECT_NE(client.windowUnderPointer(), toast.winId());
 
     surface.presentPassive(&toast, QRect(600, 500, 200, 100), false);
-    EXPECT_TRUE(waitUntil([&] { return client.windowUnderPointer() == toast.winId(); }));
+    EXPECT_TRUE(eventually([&] { return client.windowUnderPointer() == toast.winId(); }));
     EXPECT_TRUE(target.hasFocus());
 }
 
 TEST_F(X11PanelSurfaceTest, TranslucencyFollowsTheCompositor) {
     EXPECT_FALSE(surface.canBlend());
     client.own("_NET_WM_CM_S0");
-    EXPECT_TRUE(waitUntil([&] { return surface.canBlend(); }));
+    EXPECT_TRUE(eventually([&] { return surface.canBlend(); }));
     EXPECT_TRUE(X11PanelSurface(connection, focus).canBlend());
     client.disown("_NET_WM_CM_S0");
-    EXPECT_TRUE(waitUntil([&] { return !surface.canBlend(); }));
+    EXPECT_TRUE(eventually([&] { return !surface.canBlend(); }));
 }
 
 TEST_F(X11PanelSurfaceTest, ThePanelIsInNoTaskBar) {

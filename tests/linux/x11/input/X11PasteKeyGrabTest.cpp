@@ -31,7 +31,7 @@ TEST_F(X11PasteKeyGrabTest, TheKeyThatTypesVFollowsTheLayout) {
     for (const auto& [layout, code] : layouts) {
         ASSERT_TRUE(XSession::setLayout(layout));
         presses.clear();
-        EXPECT_TRUE(waitUntil([&, key = code] {
+        EXPECT_TRUE(eventually([&, key = code] {
             client.chord({KEY_LEFTCTRL, key});
             QCoreApplication::processEvents();
             return !presses.empty();

@@ -102,7 +102,7 @@ TEST_F(X11PasteKeysTest, AHeldKeyIsToldOnceAndItsRepeatsPass) {
     client.press(KEY_V);
     ASSERT_TRUE(isTold(1));
     letGo();
-    EXPECT_TRUE(waitUntil([&] {
+    EXPECT_TRUE(eventually([&] {
         collect();
         return typed.size() > 5;
     }));
@@ -160,7 +160,7 @@ TEST_F(X11PasteKeysTest, ThePasteBeforeItIsFetchedFirst) {
     EXPECT_TRUE(arrives({{symbolV, control}}));
     QElapsedTimer timer;
     timer.start();
-    EXPECT_TRUE(waitUntil([&] { return timer.elapsed() > 100; }));
+    EXPECT_TRUE(eventually([&] { return timer.elapsed() > 100; }));
     EXPECT_EQ(presses.size(), 1U);
     wasServed = true;
     EXPECT_TRUE(isTold(2));
@@ -188,7 +188,7 @@ TEST_F(X11PasteKeysTest, ASlowProgramIsWaitedForLongerThanAKeyIsHeld) {
     client.chord({KEY_LEFTCTRL, KEY_V});
     QElapsedTimer timer;
     timer.start();
-    EXPECT_TRUE(waitUntil([&] { return timer.elapsed() > 300; }));
+    EXPECT_TRUE(eventually([&] { return timer.elapsed() > 300; }));
     collect();
     EXPECT_EQ(typed.size(), 1U) << "it went with what is on the clipboard for the one before it";
     EXPECT_EQ(presses.size(), 1U);
@@ -227,7 +227,7 @@ TEST_F(X11PasteKeysTest, AProgramThatLooksFirstGetsItsKeyAfterItsLook) {
     letGo();
     QElapsedTimer timer;
     timer.start();
-    EXPECT_TRUE(waitUntil([&] { return timer.elapsed() > 60; }));
+    EXPECT_TRUE(eventually([&] { return timer.elapsed() > 60; }));
     collect();
     EXPECT_TRUE(typed.empty());
     wasListed = true;
@@ -249,7 +249,7 @@ TEST_F(X11PasteKeysTest, TheLastKeyWaitsForTheLookThoughListeningHasStopped) {
     polite.stop();
     QElapsedTimer timer;
     timer.start();
-    EXPECT_TRUE(waitUntil([&] { return timer.elapsed() > 60; }));
+    EXPECT_TRUE(eventually([&] { return timer.elapsed() > 60; }));
     collect();
     EXPECT_TRUE(typed.empty()) << "the program has not looked yet";
     ASSERT_TRUE(keys.start()) << "the keys are free for whoever comes next";
@@ -266,7 +266,7 @@ TEST_F(X11PasteKeysTest, AKeyThatNobodyAnsweredGoesWhenListeningStops) {
     stopped.onPress = [&](const KeyPress&, std::shared_ptr<HeldKey> key) { kept = std::move(key); };
     ASSERT_TRUE(stopped.start());
     client.chord({KEY_LEFTCTRL, KEY_V});
-    EXPECT_TRUE(waitUntil([&] { return kept != nullptr; }));
+    EXPECT_TRUE(eventually([&] { return kept != nullptr; }));
     stopped.stop();
     EXPECT_TRUE(arrives({{symbolV, control}}));
 }

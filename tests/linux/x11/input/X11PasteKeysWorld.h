@@ -4,6 +4,7 @@
 #include "linux/x11/input/XClient.h"
 #include "linux/x11/input/XSession.h"
 #include "linux/x11/keys/X11PasteKeys.h"
+#include "support/Eventually.h"
 
 #include <atomic>
 #include <gtest/gtest.h>
@@ -63,14 +64,14 @@ protected:
         }
     }
     bool arrives(const Chords& chords) {
-        return waitUntil([&] {
+        return eventually([&] {
                    collect();
                    return typed.size() >= chords.size();
                }) &&
                typed == chords;
     }
     bool isTold(std::size_t count) {
-        return waitUntil([&] { return presses.size() >= count; }) && presses.size() == count;
+        return eventually([&] { return presses.size() >= count; }) && presses.size() == count;
     }
     void letGo(HeldKey::Contents contents = HeldKey::Contents::fresh) { presses.back().key->letGo(contents); }
 

@@ -38,7 +38,7 @@ protected:
     /// The presses of keys other than modifiers that the window got.
     std::vector<std::pair<unsigned long, unsigned int>> pasted(XClient& window) {
         std::vector<std::pair<unsigned long, unsigned int>> chords;
-        EXPECT_TRUE(waitUntil([&] {
+        EXPECT_TRUE(eventually([&] {
             for (const XClient::Key& key : window.takeKeys()) {
                 if (key.isPress && (key.symbol < 0xffe0 || key.symbol > 0xffef))
                     chords.emplace_back(key.symbol, key.state & modifiers);
@@ -62,7 +62,7 @@ protected:
         std::optional<bool> result;
         auto task = target.regainFocus();
         task.then([&result](bool value) { result = value; });
-        EXPECT_TRUE(waitUntil([&] { return result.has_value(); }));
+        EXPECT_TRUE(eventually([&] { return result.has_value(); }));
         return result;
     }
 
@@ -203,7 +203,7 @@ TEST_F(X11PasteTargetTest, ALateReturnIsWaitedFor) {
     task.then([&result](bool value) { result = value; });
     EXPECT_FALSE(result.has_value());
     surface.dismiss(&panel);
-    EXPECT_TRUE(waitUntil([&] { return result == true; }));
+    EXPECT_TRUE(eventually([&] { return result == true; }));
 }
 
 TEST_F(X11PasteTargetTest, ATargetThatWasClosedGetsNothing) {
@@ -225,13 +225,13 @@ TEST_F(X11PasteTargetTest, AnotherWindowIsNoTargetUntilTheUserHasMovedOn) {
     XClient other;
     ASSERT_TRUE(other.open("other", "Other"));
     editor.focus();
-    ASSERT_TRUE(waitUntil([&] { return editor.hasFocus(); }));
+    ASSERT_TRUE(eventually([&] { return editor.hasFocus(); }));
     QWindow panel;
     surface.adopt(&panel);
     surface.present(&panel, QRect(300, 200, 200, 100));
     surface.dismiss(&panel);
     other.focus();
-    ASSERT_TRUE(waitUntil([&] { return other.hasFocus(); }));
+    ASSERT_TRUE(eventually([&] { return other.hasFocus(); }));
     EXPECT_EQ(regained(), false);
     now += std::chrono::seconds(5);
     EXPECT_EQ(regained(), true);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/input/XClient.h"
 
-#include "linux/x11/input/XSession.h"
+#include "support/Eventually.h"
 
 #include <string>
 
@@ -49,7 +49,7 @@ bool XClient::open(const char* instance, const char* className, long process) {
     XSync(m_display, False);
     // The window manager gives a new window the keyboard. One that it holds back is asked for once: a request too many
     // would be answered in the middle of what the test does next.
-    return waitUntil([this] { return hasFocus(); }) || (focus(), waitUntil([this] { return hasFocus(); }));
+    return eventually([this] { return hasFocus(); }) || (focus(), eventually([this] { return hasFocus(); }));
 }
 
 void XClient::close() {

@@ -3,7 +3,6 @@
 
 #include "linux/x11/windows/XWindowProperties.h"
 #include "linux/x11/windows/XlibConnection.h"
-#include "support/Eventually.h"
 
 #include <QElapsedTimer>
 #include <csignal>
@@ -16,7 +15,6 @@ namespace vellumry {
 namespace {
 
 constexpr int startMilliseconds = 10000;
-constexpr int waitMilliseconds = 3000;
 constexpr int probeMilliseconds = 100;
 
 void startChild(QProcess& process, const QString& program, const QStringList& arguments) {
@@ -82,10 +80,6 @@ XSession::~XSession() {
 
 bool XSession::setLayout(const QString& layout) {
     return QProcess::execute(QStringLiteral("setxkbmap"), layout.split(u' ')) == 0;
-}
-
-bool waitUntil(const std::function<bool()>& condition) {
-    return eventually(condition, waitMilliseconds);
 }
 
 } // namespace vellumry

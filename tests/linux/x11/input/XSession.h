@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QProcess>
-#include <functional>
 
 namespace vellumry {
 
@@ -20,8 +19,5 @@ private:
     QProcess m_server;
     QProcess m_manager;
 };
-
-/// Turns the event loop until `condition` holds; false when it did not within three seconds.
-[[nodiscard]] bool waitUntil(const std::function<bool()>& condition);
 
 } // namespace vellumry

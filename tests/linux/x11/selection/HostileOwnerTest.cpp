@@ -54,7 +54,7 @@ TEST_F(HostileOwnerReading, ThatNeverSaysWhatItOffersCostsItsCopyOnly) {
 
 TEST_F(HostileOwnerReading, IsAskedForItsTypesBeforeAnybodyWantsToKnow) {
     HostileOwner& owner = copied({{"UTF8_STRING", "t"}});
-    EXPECT_TRUE(waitUntil([&] { return owner.requests.contains("TARGETS"); }));
+    EXPECT_TRUE(eventually([&] { return owner.requests.contains("TARGETS"); }));
     catchUp();
     const auto look = reading();
     ASSERT_NE(look, nullptr);
@@ -97,7 +97,7 @@ TEST_F(HostileOwnerReading, WhoseAnswerComesAfterManyCopiesIsNotTakenForAnothers
     const auto look = reading();
     ASSERT_NE(look, nullptr);
     auto pending = look->data(0, uniformtype::html, 1000);
-    EXPECT_TRUE(waitUntil([&] { return last.requests.contains("text/html"); }));
+    EXPECT_TRUE(eventually([&] { return last.requests.contains("text/html"); }));
     first.breakSilence();
     catchUp();
     last.breakSilence();
@@ -164,7 +164,7 @@ TEST_F(HostileOwnerReading, ThatNeverEndsIsCutOffAtTheLimit) {
     EXPECT_EQ(read(*look, uniformtype::utf8PlainText), "t");
     // The owner is kept going for a while, not for ever.
     int sent = -1;
-    EXPECT_TRUE(waitUntil([&] { return std::exchange(sent, owner.chunksSent) == owner.chunksSent; }, 12000));
+    EXPECT_TRUE(eventually([&] { return std::exchange(sent, owner.chunksSent) == owner.chunksSent; }, 12000));
 }
 
 TEST_F(HostileOwnerReading, ThatLiesAboutTheSizeIsTakenByWhatItGives) {
@@ -279,7 +279,7 @@ TEST_F(HostileOwnerReading, ThatGoesIsReportedWithWhatItHeld) {
     HostileOwner& owner = copied({{"UTF8_STRING", "t"}});
     const qint64 held = pasteboard->changeCount();
     owner.leave();
-    EXPECT_TRUE(waitUntil([&gone] { return !gone.empty(); }));
+    EXPECT_TRUE(eventually([&gone] { return !gone.empty(); }));
     EXPECT_EQ(gone, std::vector<qint64>{held});
     EXPECT_NE(pasteboard->changeCount(), held);
 }

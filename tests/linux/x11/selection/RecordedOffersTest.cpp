@@ -78,7 +78,7 @@ protected:
     QByteArray givenBack(HostileOwner& reader, const QByteArray& target) {
         reader.answers.erase(target);
         reader.ask("CLIPBOARD", target);
-        EXPECT_TRUE(waitUntil([&] { return reader.answers.contains(target); }));
+        EXPECT_TRUE(eventually([&] { return reader.answers.contains(target); }));
         return reader.answers[target].bytes;
     }
 

@@ -10,7 +10,7 @@ using X11ClipboardManager = X11PasteboardWorld;
 
 TEST_F(X11ClipboardManager, ASessionWithoutClipboardManagerHasOneInUs) {
     HostileOwner& quitting = peer();
-    ASSERT_TRUE(waitUntil([&] { return quitting.hasOwner("CLIPBOARD_MANAGER"); }));
+    ASSERT_TRUE(eventually([&] { return quitting.hasOwner("CLIPBOARD_MANAGER"); }));
     EXPECT_EQ(targetsOf(quitting, "CLIPBOARD_MANAGER"),
               (QByteArrayList{"TARGETS", "TIMESTAMP", "MULTIPLE", "SAVE_TARGETS"}));
     EXPECT_EQ(ask(quitting, "UTF8_STRING", "CLIPBOARD_MANAGER").type, "");
@@ -20,14 +20,14 @@ TEST_F(X11ClipboardManager, AProgramThatQuitsHearsThatItsCopyIsKeptWhenItIs) {
     HostileOwner& quitting = copied({{"UTF8_STRING", "saved"}});
     quitting.ask("CLIPBOARD_MANAGER", "SAVE_TARGETS");
     catchUp();
-    EXPECT_TRUE(waitUntil([&] { return quitting.requests.contains("TARGETS"); }));
+    EXPECT_TRUE(eventually([&] { return quitting.requests.contains("TARGETS"); }));
     EXPECT_FALSE(quitting.answers.contains("SAVE_TARGETS"));
     pasteboard->settle(pasteboard->changeCount() - 1, true); // of an older copy
     catchUp();
     quitting.pump();
     EXPECT_FALSE(quitting.answers.contains("SAVE_TARGETS"));
     pasteboard->settle(pasteboard->changeCount(), true);
-    ASSERT_TRUE(waitUntil([&] { return quitting.answers.contains("SAVE_TARGETS"); }));
+    ASSERT_TRUE(eventually([&] { return quitting.answers.contains("SAVE_TARGETS"); }));
     EXPECT_EQ(quitting.answers["SAVE_TARGETS"].type, "NULL");
     // A later request gets the same answer at once.
     EXPECT_EQ(ask(quitting, "SAVE_TARGETS", "CLIPBOARD_MANAGER").type, "NULL");
@@ -41,7 +41,7 @@ TEST_F(X11ClipboardManager, AProgramWhoseCopyWasNotTakenHearsSo) {
     replaced.ask("CLIPBOARD_MANAGER", "SAVE_TARGETS");
     catchUp();
     copied({{"UTF8_STRING", "next"}});
-    ASSERT_TRUE(waitUntil([&] { return replaced.answers.contains("SAVE_TARGETS"); }));
+    ASSERT_TRUE(eventually([&] { return replaced.answers.contains("SAVE_TARGETS"); }));
     EXPECT_EQ(replaced.answers["SAVE_TARGETS"].type, "");
 }
 
@@ -60,13 +60,13 @@ TEST_F(X11ClipboardManager, WhatWeHoldOurselvesIsKept) {
 
 TEST_F(X11ClipboardManager, AnotherClipboardManagerIsGivenWayAndReplacedWhenItEnds) {
     HostileOwner& manager = peer();
-    ASSERT_TRUE(waitUntil([&] { return manager.hasOwner("CLIPBOARD_MANAGER"); }));
+    ASSERT_TRUE(eventually([&] { return manager.hasOwner("CLIPBOARD_MANAGER"); }));
     ASSERT_TRUE(manager.own("CLIPBOARD_MANAGER", {}));
     HostileOwner& watcher = peer();
     ASSERT_TRUE(write({{uniformtype::utf8PlainText, "t"}}));
     EXPECT_TRUE(manager.owns("CLIPBOARD_MANAGER"));
     manager.leave();
-    EXPECT_TRUE(waitUntil([&] { return watcher.hasOwner("CLIPBOARD_MANAGER"); }));
+    EXPECT_TRUE(eventually([&] { return watcher.hasOwner("CLIPBOARD_MANAGER"); }));
 }
 
 TEST_F(X11ClipboardManager, APresentClipboardManagerIsLeftInPlace) {
@@ -84,7 +84,7 @@ TEST_F(X11ClipboardManager, ThePlaceOfAnOwnerThatEndedCanBeTaken) {
     };
     copied({{"UTF8_STRING", "kept"}}).leave();
     HostileOwner& requestor = peer();
-    ASSERT_TRUE(waitUntil([&] { return requestor.hasOwner("CLIPBOARD"); }));
+    ASSERT_TRUE(eventually([&] { return requestor.hasOwner("CLIPBOARD"); }));
     EXPECT_EQ(ask(requestor, "UTF8_STRING").bytes, "kept");
 }
 
@@ -96,7 +96,7 @@ TEST_F(X11ClipboardManager, ACopyMadeMeanwhileIsNotTakenOver) {
         tookOver = pasteboard->takeOver({PasteboardItem{{{uniformtype::utf8PlainText, "old"}}, {}}});
     };
     copied({{"UTF8_STRING", "old"}}).leave();
-    ASSERT_TRUE(waitUntil([&] { return tookOver.has_value(); }));
+    ASSERT_TRUE(eventually([&] { return tookOver.has_value(); }));
     EXPECT_FALSE(*tookOver);
     EXPECT_TRUE(faster.owns("CLIPBOARD"));
 }

@@ -39,7 +39,7 @@ TEST_F(X11PasteboardFiles, ACutWhoseProgramEndedStaysACut) {
     pasteboard->onOwnerGone = [this](qint64) { EXPECT_TRUE(pasteboard->takeOver({cutFile()})); };
     copied({{"text/uri-list", "file:///a"}}).leave();
     HostileOwner& requestor = peer();
-    ASSERT_TRUE(waitUntil([&] { return requestor.hasOwner("CLIPBOARD"); }));
+    ASSERT_TRUE(eventually([&] { return requestor.hasOwner("CLIPBOARD"); }));
     EXPECT_EQ(ask(requestor, "x-special/gnome-copied-files").bytes, "cut\nfile:///a");
     EXPECT_EQ(ask(requestor, "application/x-kde-cutselection").bytes, "1");
 }

@@ -29,7 +29,7 @@ TEST_F(X11PasteboardRead, CountsEachChangeOfOwnerAndSaysSo) {
         EXPECT_GT(pasteboard->changeCount(), last);
         last = pasteboard->changeCount();
     }
-    EXPECT_TRUE(waitUntil([&notices] { return notices > 0; }));
+    EXPECT_TRUE(eventually([&notices] { return notices > 0; }));
     EXPECT_LE(notices, 3);
     EXPECT_TRUE(pasteboard->notifiesChanges());
 }

@@ -19,7 +19,7 @@ TEST_F(X11PasteboardReaders, LargeContentsGoOutInIncrementsToManyAtOnce) {
         requestors.back()->ask("CLIPBOARD", "image/png");
     }
     for (HostileOwner* requestor : requestors) {
-        ASSERT_TRUE(waitUntil([&] { return requestor->answers.contains("image/png"); }));
+        ASSERT_TRUE(eventually([&] { return requestor->answers.contains("image/png"); }));
         EXPECT_TRUE(requestor->answers["image/png"].wasIncremental);
         EXPECT_EQ(requestor->answers["image/png"].bytes, bytes);
     }
@@ -30,9 +30,9 @@ TEST_F(X11PasteboardReaders, ATransferInProgressSurvivesTheNextCopy) {
     ASSERT_TRUE(write({{uniformtype::png, bytes}}));
     HostileOwner& requestor = peer();
     requestor.ask("CLIPBOARD", "image/png");
-    EXPECT_TRUE(waitUntil([this] { return pasteboard->wasServed(); }));
+    EXPECT_TRUE(eventually([this] { return pasteboard->wasServed(); }));
     copied({{"UTF8_STRING", "other"}});
-    ASSERT_TRUE(waitUntil([&] { return requestor.answers.contains("image/png"); }));
+    ASSERT_TRUE(eventually([&] { return requestor.answers.contains("image/png"); }));
     EXPECT_EQ(requestor.answers["image/png"].bytes, bytes);
 }
 
@@ -41,7 +41,7 @@ TEST_F(X11PasteboardReaders, SeveralTargetsAreServedInOneRequest) {
     ASSERT_TRUE(write({{uniformtype::utf8PlainText, "t"}, {uniformtype::png, large}}));
     HostileOwner& requestor = peer();
     requestor.askForMany("CLIPBOARD", {"UTF8_STRING", "image/tiff", "image/png"});
-    ASSERT_TRUE(waitUntil([&] { return requestor.answers.contains("image/png"); }));
+    ASSERT_TRUE(eventually([&] { return requestor.answers.contains("image/png"); }));
     EXPECT_EQ(requestor.answers["UTF8_STRING"].bytes, "t");
     EXPECT_EQ(requestor.answers["image/png"].bytes, large);
     EXPECT_EQ(requestor.answers["image/tiff"].type, "");
@@ -66,9 +66,9 @@ TEST_F(X11PasteboardReaders, AStalledTransferEndsAndTheNextIsServed) {
     ASSERT_TRUE(write({{uniformtype::png, patternOf(1 << 20)}}));
     HostileOwner& requestor = peer();
     requestor.askAndStall("CLIPBOARD", "image/png");
-    EXPECT_TRUE(waitUntil([&] { return requestor.isWatched(); }));
+    EXPECT_TRUE(eventually([&] { return requestor.isWatched(); }));
     // The transfer is over when nobody waits for the next chunk to be taken.
-    EXPECT_TRUE(waitUntil([&] { return !requestor.isWatched(); }));
+    EXPECT_TRUE(eventually([&] { return !requestor.isWatched(); }));
     EXPECT_EQ(ask(requestor, "image/png").bytes, patternOf(1 << 20));
 }
 
@@ -81,7 +81,7 @@ TEST_F(X11PasteboardReaders, ManyReadersOfOneProgramThatStallKeepNoOtherWaiting)
         stalling.askAndStall("CLIPBOARD", "image/png");
     catchUp();
     EXPECT_EQ(ask(peer(), "image/png").bytes.size(), 1 << 20);
-    ASSERT_TRUE(waitUntil([&] { return honest.answers.contains("image/png"); }));
+    ASSERT_TRUE(eventually([&] { return honest.answers.contains("image/png"); }));
     EXPECT_EQ(honest.answers["image/png"].bytes.size(), 1 << 20);
 }
 

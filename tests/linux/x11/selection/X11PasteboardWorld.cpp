@@ -48,7 +48,7 @@ HostileOwner& X11PasteboardWorld::peer() {
     return *m_peers.back();
 }
 
-bool X11PasteboardWorld::waitUntil(const std::function<bool()>& condition, int milliseconds) {
+bool X11PasteboardWorld::eventually(const std::function<bool()>& condition, int milliseconds) {
     QElapsedTimer timer;
     timer.start();
     while (timer.elapsed() < milliseconds) {
@@ -67,7 +67,7 @@ bool X11PasteboardWorld::waitUntil(const std::function<bool()>& condition, int m
 }
 
 bool X11PasteboardWorld::waitForChange(qint64 count) {
-    return waitUntil([this, count] { return pasteboard->changeCount() != count; });
+    return eventually([this, count] { return pasteboard->changeCount() != count; });
 }
 
 void X11PasteboardWorld::catchUp() {
@@ -94,7 +94,7 @@ HostileOwner::Answer X11PasteboardWorld::ask(HostileOwner& requestor, const QByt
                                              const QByteArray& selection) {
     requestor.answers.erase(target);
     requestor.ask(selection, target);
-    EXPECT_TRUE(waitUntil([&] { return requestor.answers.contains(target); })) << target.constData();
+    EXPECT_TRUE(eventually([&] { return requestor.answers.contains(target); })) << target.constData();
     return requestor.answers[target];
 }
 

@@ -20,8 +20,8 @@ protected:
 
     /// Another client of the server; it works while the test waits.
     HostileOwner& peer();
-    /// Lets everybody work until `condition` holds; false when it does not within `milliseconds`.
-    [[nodiscard]] bool waitUntil(const std::function<bool()>& condition, int milliseconds = 60000);
+    /// As the free function, and the peers work meanwhile.
+    [[nodiscard]] bool eventually(const std::function<bool()>& condition, int milliseconds = 60000);
     /// Waits until the pasteboard has noticed a change since `count`.
     [[nodiscard]] bool waitForChange(qint64 count);
     /// Until all that the server has to tell of the time before the call is known to the pasteboard.
@@ -46,7 +46,7 @@ protected:
     T resultOf(QCoro::Task<T> task, int milliseconds = 60000) {
         const auto result = std::make_shared<std::optional<T>>();
         keep(std::move(task), result);
-        EXPECT_TRUE(waitUntil([result] { return result->has_value(); }, milliseconds));
+        EXPECT_TRUE(eventually([result] { return result->has_value(); }, milliseconds));
         return result->has_value() ? std::move(**result) : T();
     }
     std::shared_ptr<PasteboardReading> reading() { return resultOf(pasteboard->beginReading()); }

@@ -100,7 +100,7 @@ TEST_F(X11PasteboardWrite, ManyWritesInARowLeaveTheLast) {
 TEST_F(X11PasteboardWrite, WritingTakesThePasteboardFromAnotherOwner) {
     HostileOwner& owner = copied({{"UTF8_STRING", "theirs"}});
     ASSERT_TRUE(write({{uniformtype::utf8PlainText, "ours"}}));
-    EXPECT_TRUE(waitUntil([&owner] { return owner.lostClipboard; }));
+    EXPECT_TRUE(eventually([&owner] { return owner.lostClipboard; }));
     EXPECT_EQ(ask(owner, "UTF8_STRING").bytes, "ours");
 }
 
@@ -127,14 +127,14 @@ TEST_F(X11PasteboardWrite, ASecretOnThePrimarySelectionGoesWithTheSecret) {
     const auto isGone = [&] { return !terminal.hasOwner("PRIMARY"); };
     pasteSecret();
     pasteboard->giveUp(pasteboard->changeCount());
-    EXPECT_TRUE(waitUntil(isGone));
-    EXPECT_TRUE(waitUntil([&] { return !terminal.hasOwner("CLIPBOARD"); }));
+    EXPECT_TRUE(eventually(isGone));
+    EXPECT_TRUE(eventually([&] { return !terminal.hasOwner("CLIPBOARD"); }));
     pasteSecret();
     copied({{"UTF8_STRING", "the next copy"}});
-    EXPECT_TRUE(waitUntil(isGone));
+    EXPECT_TRUE(eventually(isGone));
     pasteSecret();
     ASSERT_TRUE(write({{uniformtype::utf8PlainText, "the next paste"}}));
-    EXPECT_TRUE(waitUntil(isGone));
+    EXPECT_TRUE(eventually(isGone));
     EXPECT_EQ(ask(terminal, "UTF8_STRING").bytes, "the next paste");
 }
 
@@ -152,8 +152,8 @@ TEST_F(X11PasteboardWrite, WhatIsGivenUpIsServedToNobodyAnyMore) {
     HostileOwner& requestor = peer();
     EXPECT_EQ(ask(requestor, "UTF8_STRING").bytes, "secret");
     pasteboard->giveUp(changeCount);
-    EXPECT_TRUE(waitUntil([&] { return !requestor.hasOwner("CLIPBOARD"); }));
-    EXPECT_TRUE(waitUntil([&] { return pasteboard->changeCount() == changeCount + 1; }));
+    EXPECT_TRUE(eventually([&] { return !requestor.hasOwner("CLIPBOARD"); }));
+    EXPECT_TRUE(eventually([&] { return pasteboard->changeCount() == changeCount + 1; }));
     EXPECT_EQ(reading(), nullptr);
 }
 

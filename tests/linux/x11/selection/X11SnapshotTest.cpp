@@ -29,7 +29,7 @@ protected:
         HostileOwner& reader = peer();
         for (const QByteArray& target : targets)
             reader.ask("CLIPBOARD", target);
-        EXPECT_TRUE(waitUntil([&] { return reader.answers.size() == std::size_t(targets.size()); }));
+        EXPECT_TRUE(eventually([&] { return reader.answers.size() == std::size_t(targets.size()); }));
         std::vector<QByteArray> answers;
         for (const QByteArray& target : targets)
             answers.push_back(reader.answers[target].bytes);

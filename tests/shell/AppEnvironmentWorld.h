@@ -9,7 +9,7 @@
 namespace vellumry {
 
 /// One run of the environment after the other, on one computer.
-class AppEnvironmentTest : public AppWorld {
+class AppEnvironmentWorld : public AppWorld {
 protected:
     /// A task that waits for good would outlive the test.
     void TearDown() override {

@@ -12,9 +12,9 @@
 namespace vellumry {
 
 /// A watcher over doubles and a real history in memory. Ticks are driven by hand, `now` is what the test says.
-class WatcherFixture : public ::testing::Test {
+class WatcherWorld : public ::testing::Test {
 protected:
-    WatcherFixture() {
+    WatcherWorld() {
         pasteboard.copyText(QStringLiteral("before the launch"));
         makeWatcher();
     }
