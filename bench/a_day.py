@@ -17,8 +17,8 @@ from side_by_side import Owner, press_shortcut, process_tree, pss_megabytes, tex
 from Xlib import X, Xatom
 from Xlib.protocol import event
 
+from clients import KeyWindow  # noqa: E402
 from desktop import Failure, Vellumry, key, windows  # noqa: E402
-from key_window import KeyWindow  # noqa: E402
 from tray import Watcher  # noqa: E402
 
 SHARE = float(os.environ.get("VELLUMRY_BENCH_DAY", "1"))
