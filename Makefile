@@ -38,7 +38,7 @@ test-trixie: ## build and run the unit tests in a bare Debian 13
 	@scripts/install-deps --test
 	@scripts/in-root --keep build trixie scripts/build-and-test
 
-test-wayland: ## build in a Debian 13, run the tests in headless sessions of sway, labwc and KWin
+test-wayland: ## build in a Debian 13, run the tests in headless sessions of sway, labwc, KWin and GNOME
 	@scripts/install-deps --test
 	@tests/wayland/run
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/WaylandDisplay.h"
 
+#include "app/GnomeDisplay.h"
 #include "linux/accessibility/PasswordFocus.h"
 #include "linux/applications/DesktopEntries.h"
 #include "linux/applications/XdgInstalledApplications.h"
@@ -36,11 +37,13 @@ bool isWanted() {
     if (!chosen.isEmpty() && !chosen.startsWith(u"wayland"))
         return false;
     const auto survey = WaylandSurvey::take();
-    return survey && survey->isEnough();
+    return survey && (survey->isEnough() || gnomedisplay::hasExtension());
 }
 
 std::vector<Capability> capabilities() {
     const auto survey = WaylandSurvey::take();
+    if (survey && !survey->isEnough() && gnomedisplay::isGnome())
+        return gnomedisplay::capabilities();
     return survey ? survey->capabilities() : std::vector<Capability>();
 }
 
@@ -49,6 +52,8 @@ std::optional<Reason> add(Platform& platform) {
     const auto survey = WaylandSurvey::take();
     if (!survey)
         return survey.error();
+    if (!survey->isEnough())
+        return gnomedisplay::add(platform);
     platform.capabilities = survey->capabilities();
     auto created = WaylandPasteboard::create({});
     if (!created)

@@ -25,7 +25,7 @@ std::vector<PasteboardItem> text(const QByteArray& utf8) {
 /// A Paste Stack of texts and the clipboard it is pasted from.
 struct World {
     World() {
-        board = std::move(*WaylandPasteboard::create({}));
+        board = pasteboardOfSession();
         keys = std::make_unique<WaylandPasteKeys>(board->thread());
         keys->onPress = [this](const KeyPress&, const std::shared_ptr<HeldKey>& key) {
             ++pastes;

@@ -1,17 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wayland/WaylandPeer.h"
 
+#include "linux/gnome/ShellSelection.h"
+#include "linux/wayland/selection/DataControl.h"
+#include "linux/wayland/selection/WaylandPasteboard.h"
+#include "wayland/MutterSelection.h"
+
 #include <poll.h>
 #include <stdexcept>
 
 namespace vellumry {
 
+std::unique_ptr<WaylandPasteboard> pasteboardOfSession(const PasteboardLimits& limits) {
+    if (auto created = WaylandPasteboard::create(QByteArray(), limits))
+        return std::move(*created);
+    return std::move(*WaylandPasteboard::createOn(std::move(*ShellSelection::create()), limits));
+}
+
 WaylandPeer::WaylandPeer() {
-    auto created = DataControl::create({});
-    if (!created)
-        throw std::runtime_error(created.error().text.toStdString());
-    m_control = std::move(*created);
-    m_control->onSelection = [this](std::unique_ptr<DataControl::Offer> offer) {
+    if (auto created = DataControl::create({}))
+        m_control = std::move(*created);
+    else
+        m_control = MutterSelection::create();
+    m_hasKeeper = dynamic_cast<MutterSelection*>(m_control.get()) != nullptr;
+    if (!m_control)
+        throw std::runtime_error("the compositor lets no program see its clipboard");
+    m_control->onSelection = [this](std::unique_ptr<SelectionControl::Offer> offer) {
         m_offer = std::move(offer);
         ++m_changes;
     };
@@ -20,17 +34,11 @@ WaylandPeer::WaylandPeer() {
 }
 
 void WaylandPeer::turn() {
-    wl_display* display = m_control->display();
-    while (wl_display_prepare_read(display) != 0)
-        wl_display_dispatch_pending(display);
-    wl_display_flush(display);
-    pollfd descriptor{wl_display_get_fd(display), POLLIN, 0};
-    if (poll(&descriptor, 1, 0) > 0)
-        wl_display_read_events(display);
-    else
-        wl_display_cancel_read(display);
-    wl_display_dispatch_pending(display);
-    wl_display_flush(display);
+    std::vector<pollfd> descriptors;
+    m_control->prepareWait(descriptors);
+    (void)poll(descriptors.data(), descriptors.size(), 0);
+    m_control->finishWait(descriptors);
+    m_control->flush();
 }
 
 void WaylandPeer::until(const std::function<bool()>& isDone) {
@@ -82,7 +90,7 @@ int WaylandPeer::changes() {
 Descriptor WaylandPeer::askOnly(const QString& type) {
     m_control->roundTrip();
     Descriptor pipe = m_offer ? m_offer->receive(type) : Descriptor();
-    wl_display_flush(m_control->display());
+    m_control->flush();
     return pipe;
 }
 

@@ -1,14 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "linux/wayland/selection/DataControl.h"
+#include "linux/pasteboard/PasteboardLimits.h"
+#include "linux/wayland/selection/SelectionControl.h"
 #include "support/Awaited.h"
 
 #include <map>
 
 namespace vellumry {
 
-/// Another program of the session, which copies and pastes by data control, well-behaved or not.
+class WaylandPasteboard;
+
+/// The pasteboard of the session, as the program has it: by data control, else by our extension of GNOME's shell.
+[[nodiscard]] std::unique_ptr<WaylandPasteboard> pasteboardOfSession(const PasteboardLimits& limits = {});
+
+/// Another program of the session, which copies and pastes whichever window has the keyboard, well-behaved or not.
 class WaylandPeer {
 public:
     WaylandPeer();
@@ -30,16 +36,19 @@ public:
     /// Lets the main thread and this program run until it is true; throws when it does not come true.
     void until(const std::function<bool()>& isDone);
     [[nodiscard]] int sends() const { return m_sends; }
+    /// How often the compositor itself reads what is new: GNOME keeps a copy of it.
+    [[nodiscard]] int keepersReadings() const { return m_hasKeeper ? 1 : 0; }
 
 private:
     void turn();
 
-    std::unique_ptr<DataControl> m_control;
-    std::unique_ptr<DataControl::Offer> m_offer;
-    std::unique_ptr<DataControl::Source> m_source;
+    std::unique_ptr<SelectionControl> m_control;
+    std::unique_ptr<SelectionControl::Offer> m_offer;
+    std::unique_ptr<SelectionControl::Source> m_source;
     std::vector<Descriptor> m_unanswered;
     int m_changes = 0;
     int m_sends = 0;
+    bool m_hasKeeper = false;
 };
 
 } // namespace vellumry

@@ -8,6 +8,7 @@
 // Prints "copied SECONDS" when the compositor has it, and "read SECONDS" when somebody asked for the words, by the
 // clock of Python's time.monotonic().
 #include "linux/wayland/selection/DataControl.h"
+#include "wayland/MutterSelection.h"
 
 #include <QByteArray>
 #include <chrono>
@@ -30,26 +31,20 @@ void tell(const char* what) {
 
 class Clipper {
 public:
-    explicit Clipper(std::unique_ptr<DataControl> control)
+    explicit Clipper(std::unique_ptr<SelectionControl> control)
         : m_control(std::move(control)) {
-        m_control->onSelection = [this](std::unique_ptr<DataControl::Offer> offer) { m_offer = std::move(offer); };
+        m_control->onSelection = [this](std::unique_ptr<SelectionControl::Offer> offer) { m_offer = std::move(offer); };
         m_control->roundTrip();
     }
 
     void run() {
         QByteArray asked;
         for (;;) {
-            wl_display* const display = m_control->display();
-            while (wl_display_prepare_read(display) != 0)
-                wl_display_dispatch_pending(display);
-            wl_display_flush(display);
-            pollfd descriptors[2]{{STDIN_FILENO, POLLIN, 0}, {wl_display_get_fd(display), POLLIN, 0}};
-            (void)poll(descriptors, 2, -1);
-            if (descriptors[1].revents != 0)
-                wl_display_read_events(display);
-            else
-                wl_display_cancel_read(display);
-            if (wl_display_dispatch_pending(display) < 0)
+            std::vector<pollfd> descriptors{{STDIN_FILENO, POLLIN, 0}};
+            m_control->prepareWait(descriptors);
+            (void)poll(descriptors.data(), descriptors.size(), -1);
+            m_control->finishWait(descriptors);
+            if (m_control->isBroken())
                 return;
             char buffer[65536];
             if (descriptors[0].revents == 0)
@@ -96,7 +91,7 @@ private:
         QByteArray words;
         if (m_offer) {
             const Descriptor pipe = m_offer->receive(textTypes.front());
-            wl_display_flush(m_control->display());
+            m_control->flush();
             pollfd descriptor{pipe.get(), POLLIN, 0};
             char buffer[65536];
             ssize_t got = 1;
@@ -109,19 +104,23 @@ private:
         std::fflush(stdout);
     }
 
-    std::unique_ptr<DataControl> m_control;
-    std::unique_ptr<DataControl::Offer> m_offer;
-    std::unique_ptr<DataControl::Source> m_source;
+    std::unique_ptr<SelectionControl> m_control;
+    std::unique_ptr<SelectionControl::Offer> m_offer;
+    std::unique_ptr<SelectionControl::Source> m_source;
 };
 
 } // namespace
 
 int main() {
-    auto control = vellumry::DataControl::create({});
+    std::unique_ptr<vellumry::SelectionControl> control;
+    if (auto created = vellumry::DataControl::create({}))
+        control = std::move(*created);
+    else
+        control = vellumry::MutterSelection::create();
     if (!control) {
-        std::fprintf(stderr, "clipper: %s\n", control.error().text.toUtf8().constData());
+        std::fputs("clipper: the compositor lets no program see its clipboard\n", stderr);
         return 1;
     }
-    Clipper(std::move(*control)).run();
+    Clipper(std::move(control)).run();
     return 0;
 }

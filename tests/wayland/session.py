@@ -53,17 +53,45 @@ def picture(name):
 desktop.picture = picture
 
 
-def copy(data, kind="text/plain;charset=utf-8"):
-    """wl-copy answers once it owns the clipboard, and serves it in the background."""
+# wl-copy and wl-paste need a window with the keyboard where there is no data control.
+CLIPBOARD = ["/usr/bin/python3", os.path.join(HERE, "mutter_clipboard.py")] if SESSION.startswith("gnome") else None
+PLAIN = "text/plain;charset=utf-8"
+
+
+def owner(data, kind=PLAIN):
+    """A program that has the clipboard with this, and serves it until it ends."""
+    command = [*CLIPBOARD, "copy", kind] if CLIPBOARD else ["wl-copy", "--foreground", "-t", kind]
+    process = Process(*command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+    process.handle.stdin.write(data if isinstance(data, bytes) else data.encode())
+    process.handle.stdin.close()
+    if CLIPBOARD and process.handle.stdout.readline() != b"ready\n":
+        raise desktop.Failure("the clipboard could not be taken")
+    return process
+
+
+def copy(data, kind=PLAIN):
+    """Returns once the clipboard has it; it is served in the background."""
+    if CLIPBOARD:
+        owner(data, kind)
+        return
     subprocess.run(["wl-copy", "-t", kind], input=data if isinstance(data, bytes) else data.encode(), check=True, timeout=20, **QUIET)
 
 
-def pasted(kind="text/plain;charset=utf-8"):
-    return subprocess.run(["wl-paste", "-n", "-t", kind], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=20).stdout
+def told(*command):
+    return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=20, check=False).stdout
+
+
+def clear():
+    """A program empties the clipboard."""
+    told(*([*CLIPBOARD, "clear"] if CLIPBOARD else ["wl-copy", "--clear"]))
+
+
+def pasted(kind=PLAIN):
+    return told(*CLIPBOARD, "paste", kind) if CLIPBOARD else told("wl-paste", "-n", "-t", kind)
 
 
 def offered():
-    return subprocess.run(["wl-paste", "-l"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=20).stdout.decode().split("\n")
+    return told(*([*CLIPBOARD, "types"] if CLIPBOARD else ["wl-paste", "-l"])).decode().split("\n")
 
 
 class Window(Process):

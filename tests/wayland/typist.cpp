@@ -6,6 +6,8 @@
 //   typist SOCKET text 'words'   types words
 //
 // The keyboard is held open between the calls: one that comes and goes makes the focus of some compositors flicker.
+#include "MutterKeyboard.h"
+
 #include <QByteArray>
 #include <QByteArrayList>
 #include <QHash>
@@ -103,11 +105,13 @@ public:
         if (m_fake != nullptr)
             org_kde_kwin_fake_input_authenticate(m_fake, "typist", "tests");
         wl_display_roundtrip(m_display);
-        return m_virtual != nullptr || m_fake != nullptr;
+        return m_virtual != nullptr || m_fake != nullptr || m_mutter.open();
     }
 
     void press(quint32 key, bool isDown) {
-        if (m_fake != nullptr)
+        if (m_mutter.isOpen())
+            m_mutter.press(key, isDown);
+        else if (m_fake != nullptr)
             org_kde_kwin_fake_input_keyboard_key(m_fake, key, isDown ? 1 : 0);
         else
             zwp_virtual_keyboard_v1_key(m_virtual, m_time += betweenKeys, key, isDown ? 1 : 0);
@@ -177,6 +181,7 @@ private:
     zwp_virtual_keyboard_manager_v1* m_manager = nullptr;
     zwp_virtual_keyboard_v1* m_virtual = nullptr;
     org_kde_kwin_fake_input* m_fake = nullptr;
+    MutterKeyboard m_mutter;
     uint32_t m_time = 0;
 };
 

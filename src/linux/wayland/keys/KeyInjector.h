@@ -17,6 +17,8 @@ public:
         quint32 evdevCode = 0;
         const char* name = nullptr; ///< of the real modifier that it sets
     };
+    /// False while keys cannot be pressed; that may change.
+    [[nodiscard]] virtual bool isReady() const { return true; }
     /// Presses the modifiers, then the key, and lets go of them in the other direction.
     virtual void press(const std::vector<Modifier>& modifiers, quint32 evdevCode) = 0;
 

@@ -31,7 +31,7 @@ public:
     WaylandPasteTarget(std::shared_ptr<WaylandFocus> focus, std::shared_ptr<WaylandKeymap> keymap,
                        std::unique_ptr<KeyInjector> injector, Options options);
 
-    [[nodiscard]] bool isTrusted() const override { return m_injector != nullptr; }
+    [[nodiscard]] bool isTrusted() const override { return m_injector != nullptr && m_injector->isReady(); }
     /// What may press keys is decided at the start, by the compositor and the desktop file.
     void requestTrust() override {}
     [[nodiscard]] QCoro::Task<bool> isSecureInput() override;

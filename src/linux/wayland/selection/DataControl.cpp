@@ -2,7 +2,7 @@
 #include "linux/wayland/selection/DataControl.h"
 
 #include <algorithm>
-#include <fcntl.h>
+#include <cerrno>
 
 namespace vellumry {
 
@@ -11,9 +11,6 @@ namespace {
 const QString extName = QStringLiteral("ext_data_control_manager_v1");
 const QString wlrName = QStringLiteral("zwlr_data_control_manager_v1");
 constexpr quint32 wlrPrimaryVersion = 2;
-/// As for the targets of an X11 selection: the longest lists that were seen have some fifty.
-constexpr qsizetype mostTypes = 32 * 1024;
-constexpr int pipeBytes = 1024 * 1024;
 
 /// The manager under its older name. All else that is said is the same, message for message.
 wl_interface wlrManager() {
@@ -24,6 +21,26 @@ wl_interface wlrManager() {
 }
 
 } // namespace
+
+class DataControl::WaylandOffer final : public Offer {
+public:
+    explicit WaylandOffer(ext_data_control_offer_v1* proxy)
+        : m_proxy(owned(proxy, &ext_data_control_offer_v1_destroy)) {}
+    [[nodiscard]] Descriptor receive(const QString& mimeType) const override {
+        Pipe pipe = makePipe();
+        if (pipe.writing.isOpen())
+            ext_data_control_offer_v1_receive(m_proxy.get(), mimeType.toUtf8().constData(), pipe.writing.get());
+        return std::move(pipe.reading);
+    }
+    void take(const char* type) { addType(QString::fromUtf8(type)); }
+
+private:
+    WaylandPointer<ext_data_control_offer_v1> m_proxy;
+};
+
+struct DataControl::WaylandSource final : public Source {
+    WaylandPointer<ext_data_control_source_v1> proxy;
+};
 
 /// What libwayland calls, as far as it is not said in a lambda at the place.
 struct DataControl::Listeners {
@@ -53,22 +70,17 @@ struct DataControl::Listeners {
             control.onSelection(nullptr);
     }
     static void offered(void* data, ext_data_control_offer_v1*, const char* type) {
-        auto& offer = *static_cast<Offer*>(data);
-        const QString name = QString::fromUtf8(type);
-        if (offer.m_mimeTypes.size() == mostTypes)
-            offer.m_isTooLong = true;
-        else if (!name.isEmpty())
-            offer.m_mimeTypes.append(name);
+        static_cast<WaylandOffer*>(data)->take(type);
     }
     static void send(void* data, ext_data_control_source_v1*, const char* type, int pipe) {
         Descriptor descriptor(pipe);
-        const auto& source = *static_cast<Source*>(data);
+        const auto& source = *static_cast<WaylandSource*>(data);
         if (source.onSend)
             source.onSend(QString::fromUtf8(type), std::move(descriptor));
     }
     static void cancelled(void* data, ext_data_control_source_v1*) {
         // The callee may destroy the source, and the function with it.
-        const auto told = static_cast<Source*>(data)->onCancelled;
+        const auto told = static_cast<WaylandSource*>(data)->onCancelled;
         if (told)
             told();
     }
@@ -85,19 +97,6 @@ struct DataControl::Listeners {
     static constexpr ext_data_control_source_v1_listener source{send, cancelled};
     static constexpr wl_callback_listener callback{done};
 };
-
-Descriptor DataControl::Offer::receive(const QString& mimeType) const {
-    int ends[2] = {-1, -1};
-    if (pipe2(ends, O_CLOEXEC) != 0)
-        return Descriptor();
-    Descriptor reading(ends[0]);
-    const Descriptor writing(ends[1]);
-    // Our end alone: owners need not expect that writing fails for a moment.
-    fcntl(reading.get(), F_SETFL, O_NONBLOCK);
-    (void)fcntl(reading.get(), F_SETPIPE_SZ, pipeBytes);
-    ext_data_control_offer_v1_receive(m_proxy.get(), mimeType.toUtf8().constData(), writing.get());
-    return reading;
-}
 
 OrReason<std::unique_ptr<DataControl>> DataControl::create(const QByteArray& displayName) {
     wl_display* display = wl_display_connect(displayName.isEmpty() ? nullptr : displayName.constData());
@@ -172,41 +171,68 @@ void DataControl::followSeat() {
 }
 
 void DataControl::takeOffer(ext_data_control_offer_v1* proxy) {
-    auto offer = std::make_unique<Offer>(proxy);
+    auto offer = std::make_unique<WaylandOffer>(proxy);
     ext_data_control_offer_v1_add_listener(proxy, &Listeners::offer, offer.get());
     m_announced[proxy] = std::move(offer);
 }
 
-std::unique_ptr<DataControl::Offer> DataControl::offerOf(ext_data_control_offer_v1* proxy) {
+std::unique_ptr<SelectionControl::Offer> DataControl::offerOf(ext_data_control_offer_v1* proxy) {
     auto node = m_announced.extract(proxy);
     return node.empty() ? nullptr : std::move(node.mapped());
 }
 
-std::unique_ptr<DataControl::Source> DataControl::makeSource(const QStringList& mimeTypes) const {
-    auto source = std::make_unique<Source>();
-    source->m_proxy =
+std::unique_ptr<SelectionControl::Source> DataControl::makeSource(const QStringList& mimeTypes) {
+    auto source = std::make_unique<WaylandSource>();
+    source->proxy =
         owned(ext_data_control_manager_v1_create_data_source(m_manager.get()), &ext_data_control_source_v1_destroy);
-    ext_data_control_source_v1_add_listener(source->m_proxy.get(), &Listeners::source, source.get());
+    ext_data_control_source_v1_add_listener(source->proxy.get(), &Listeners::source, source.get());
     for (const QString& type : mimeTypes)
-        ext_data_control_source_v1_offer(source->m_proxy.get(), type.toUtf8().constData());
+        ext_data_control_source_v1_offer(source->proxy.get(), type.toUtf8().constData());
     return source;
+}
+
+ext_data_control_source_v1* DataControl::proxyOf(const Source* source) {
+    return source != nullptr ? static_cast<const WaylandSource*>(source)->proxy.get() : nullptr;
 }
 
 void DataControl::setSelection(const Source* source) {
     if (m_device)
-        ext_data_control_device_v1_set_selection(m_device.get(), source != nullptr ? source->m_proxy.get() : nullptr);
+        ext_data_control_device_v1_set_selection(m_device.get(), proxyOf(source));
 }
 
 void DataControl::setPrimarySelection(const Source* source) {
     if (m_device && m_hasPrimary)
-        ext_data_control_device_v1_set_primary_selection(m_device.get(),
-                                                         source != nullptr ? source->m_proxy.get() : nullptr);
+        ext_data_control_device_v1_set_primary_selection(m_device.get(), proxyOf(source));
 }
 
 void DataControl::sync(std::function<void()> done) {
     wl_callback* callback = wl_display_sync(m_display.get());
     m_syncs[callback] = std::move(done);
     wl_callback_add_listener(callback, &Listeners::callback, this);
+}
+
+void DataControl::prepareWait(std::vector<pollfd>& descriptors) {
+    wl_display* const display = m_display.get();
+    while (!isBroken() && !(m_isReading = wl_display_prepare_read(display) == 0))
+        (void)wl_display_dispatch_pending(display);
+    short wanted = POLLIN;
+    if (m_isReading && wl_display_flush(display) < 0 && errno == EAGAIN)
+        wanted = POLLIN | POLLOUT;
+    // A descriptor below zero is not waited for.
+    descriptors.push_back({m_isReading ? wl_display_get_fd(display) : -1, wanted, 0});
+}
+
+void DataControl::finishWait(const std::vector<pollfd>& descriptors) {
+    if (!std::exchange(m_isReading, false))
+        return;
+    wl_display* const display = m_display.get();
+    const bool isReady = std::ranges::any_of(descriptors, [display](const pollfd& polled) {
+        return polled.fd == wl_display_get_fd(display) && (polled.revents & ~POLLOUT) != 0;
+    });
+    if (!isReady)
+        wl_display_cancel_read(display);
+    else if (wl_display_read_events(display) >= 0)
+        (void)wl_display_dispatch_pending(display);
 }
 
 } // namespace vellumry

@@ -45,13 +45,15 @@ QStringList targetsOf(const QStringList& mimeTypes, int limit) {
 
 } // namespace
 
-DataControlEngine::DataControlEngine(std::unique_ptr<DataControl> control, PasteboardLimits limits,
+DataControlEngine::DataControlEngine(std::unique_ptr<SelectionControl> control, PasteboardLimits limits,
                                      PasteboardNotices notices)
     : m_control(std::move(control))
     , m_limits(limits)
     , m_notices(std::move(notices))
     , m_writer(limits.stalledRequestor) {
-    m_control->onSelection = [this](std::unique_ptr<DataControl::Offer> offer) { handleSelection(std::move(offer)); };
+    m_control->onSelection = [this](std::unique_ptr<SelectionControl::Offer> offer) {
+        handleSelection(std::move(offer));
+    };
 }
 
 void DataControlEngine::start() {
@@ -137,8 +139,8 @@ void DataControlEngine::finishClaim(std::optional<qint64> count) {
     m_unconfirmed.reset();
 }
 
-std::unique_ptr<DataControl::Source> DataControlEngine::hold(Holding& holding,
-                                                             std::shared_ptr<const OfferedContents> contents) {
+std::unique_ptr<SelectionControl::Source> DataControlEngine::hold(Holding& holding,
+                                                                  std::shared_ptr<const OfferedContents> contents) {
     auto before = std::move(holding.source);
     if (before) {
         before->onSend = nullptr;
@@ -242,11 +244,13 @@ void DataControlEngine::catchUp(OneShot<bool> result) {
 
 // Following
 
-void DataControlEngine::handleSelection(std::unique_ptr<DataControl::Offer> offer) {
+void DataControlEngine::handleSelection(std::unique_ptr<SelectionControl::Offer> offer) {
     // A source is cancelled before what took its place is told of.
     if (offer && m_clipboard.source && offer->mimeTypes() == m_clipboard.types) {
         m_offer.reset();
         m_targets.clear();
+        // Those who read what is new hear of it now.
+        m_takenAt = std::chrono::steady_clock::now();
         if (!std::exchange(m_wasAnnounced, true))
             noteChange(false);
         return;

@@ -3,9 +3,9 @@
 
 #include "linux/pasteboard/PasteboardLimits.h"
 #include "linux/pasteboard/PasteboardService.h"
-#include "linux/wayland/selection/DataControl.h"
 #include "linux/wayland/selection/PipeReader.h"
 #include "linux/wayland/selection/PipeWriter.h"
+#include "linux/wayland/selection/SelectionControl.h"
 
 #include <atomic>
 #include <optional>
@@ -31,9 +31,9 @@ public:
     using OfferResult = OneShot<std::shared_ptr<const OfferedTypes>>;
     using BytesResult = OneShot<std::shared_ptr<const GivenBytes>>;
 
-    DataControlEngine(std::unique_ptr<DataControl> control, PasteboardLimits limits, PasteboardNotices notices);
+    DataControlEngine(std::unique_ptr<SelectionControl> control, PasteboardLimits limits, PasteboardNotices notices);
 
-    [[nodiscard]] DataControl& control() { return *m_control; }
+    [[nodiscard]] SelectionControl& control() { return *m_control; }
     /// Any thread.
     [[nodiscard]] qint64 changeCount() const { return m_changeCount.load(std::memory_order_acquire); }
     /// How many times another program has taken the clipboard. Any thread.
@@ -71,19 +71,19 @@ public:
 private:
     /// One of the selections, as long as it is ours.
     struct Holding {
-        std::unique_ptr<DataControl::Source> source;
+        std::unique_ptr<SelectionControl::Source> source;
         QStringList types;
         std::shared_ptr<const OfferedContents> contents;
     };
 
-    void handleSelection(std::unique_ptr<DataControl::Offer> offer);
+    void handleSelection(std::unique_ptr<SelectionControl::Offer> offer);
     void noteChange(bool isForeign);
     void settleClaim(const PasteboardClaim& claim);
     void finishClaim(std::optional<qint64> count);
     /// Answers the source that stood there before. It must outlive the change: a selection whose source goes is empty
     /// for a moment, and told of as such.
-    [[nodiscard]] std::unique_ptr<DataControl::Source> hold(Holding& holding,
-                                                            std::shared_ptr<const OfferedContents> contents);
+    [[nodiscard]] std::unique_ptr<SelectionControl::Source> hold(Holding& holding,
+                                                                 std::shared_ptr<const OfferedContents> contents);
     void serve(const Holding& holding, const QString& mimeType, Descriptor pipe);
     void noteReading(const QString& mimeType, Instant now);
     [[nodiscard]] QStringList offeredTypes(const OfferedContents& contents) const;
@@ -91,7 +91,7 @@ private:
     void offerExpected(Instant now);
     void takeClipboard(std::shared_ptr<const OfferedContents> contents);
 
-    const std::unique_ptr<DataControl> m_control;
+    const std::unique_ptr<SelectionControl> m_control;
     const PasteboardLimits m_limits;
     const PasteboardNotices m_notices;
     PipeReader m_reader;
@@ -102,8 +102,8 @@ private:
     bool m_hasStarted = false;
     bool m_ended = false;
 
-    std::unique_ptr<DataControl::Offer> m_offer; ///< another program's
-    QStringList m_targets;                       ///< of `m_offer`, those that are looked at
+    std::unique_ptr<SelectionControl::Offer> m_offer; ///< another program's
+    QStringList m_targets;                            ///< of `m_offer`, those that are looked at
     Holding m_clipboard;
     Holding m_primary;
     bool m_wasAnnounced = false; ///< the compositor has told of `m_clipboard`

@@ -42,13 +42,11 @@ private:
 
 } // namespace
 
-OrReason<std::unique_ptr<DataControlService>>
-DataControlService::create(const QByteArray& displayName, const PasteboardLimits& limits, PasteboardNotices notices) {
-    auto control = DataControl::create(displayName);
-    if (!control)
-        return std::unexpected(std::move(control.error()));
+OrReason<std::unique_ptr<DataControlService>> DataControlService::create(std::unique_ptr<SelectionControl> control,
+                                                                         const PasteboardLimits& limits,
+                                                                         PasteboardNotices notices) {
     auto thread =
-        DataControlThread::create(std::make_unique<DataControlEngine>(std::move(*control), limits, std::move(notices)));
+        DataControlThread::create(std::make_unique<DataControlEngine>(std::move(control), limits, std::move(notices)));
     if (!thread)
         return std::unexpected(std::move(thread.error()));
     return std::unique_ptr<DataControlService>(new DataControlService(std::move(*thread)));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/Reason.h"
 #include "linux/pasteboard/PasteboardLimits.h"
 #include "linux/pasteboard/PasteboardService.h"
 #include "linux/wayland/selection/DataControlThread.h"
@@ -10,9 +11,9 @@ namespace vellumry {
 /// Hands what is asked of the pasteboard to the engine on its thread.
 class DataControlService final : public PasteboardService {
 public:
-    /// Fails when there is no such display or it has no data control. An empty name stands for $WAYLAND_DISPLAY.
+    /// Fails when the system gives no event descriptor.
     [[nodiscard]] static OrReason<std::unique_ptr<DataControlService>>
-    create(const QByteArray& displayName, const PasteboardLimits& limits, PasteboardNotices notices);
+    create(std::unique_ptr<SelectionControl> control, const PasteboardLimits& limits, PasteboardNotices notices);
 
     [[nodiscard]] qint64 changeCount() const override { return m_thread->engine().changeCount(); }
     [[nodiscard]] qint64 copyCount() const override { return m_thread->engine().copyCount(); }

@@ -64,7 +64,7 @@ void DataControlThread::run() {
     m_engine->end();
     // Commands of the last moment still get their answer, which is nothing.
     runCommands();
-    wl_display_flush(m_engine->control().display());
+    m_engine->control().flush();
 }
 
 bool DataControlThread::runCommands() {
@@ -81,37 +81,19 @@ bool DataControlThread::runCommands() {
 }
 
 void DataControlThread::wait() {
-    wl_display* const display = m_engine->control().display();
-    bool isReading = false;
-    while (!m_isBroken && !(isReading = wl_display_prepare_read(display) == 0)) {
-        if (wl_display_dispatch_pending(display) < 0)
-            noteBreak();
-    }
-    short wanted = POLLIN;
-    if (isReading && wl_display_flush(display) < 0 && errno == EAGAIN)
-        wanted = POLLIN | POLLOUT;
-    // A descriptor below zero is not waited for.
-    std::vector<pollfd> descriptors{{m_wakeDescriptor.get(), POLLIN, 0},
-                                    {isReading ? wl_display_get_fd(display) : -1, wanted, 0}};
+    SelectionControl& control = m_engine->control();
+    std::vector<pollfd> descriptors{{m_wakeDescriptor.get(), POLLIN, 0}};
+    control.prepareWait(descriptors);
     m_engine->addDescriptors(descriptors);
     (void)poll(descriptors.data(), descriptors.size(), sleepingTime());
     if (descriptors[0].revents != 0) {
         eventfd_t count = 0;
         (void)eventfd_read(m_wakeDescriptor.get(), &count);
     }
-    if (isReading)
-        readEvents((descriptors[1].revents & ~POLLOUT) != 0);
-    m_engine->handle(descriptors, std::chrono::steady_clock::now());
-}
-
-void DataControlThread::readEvents(bool isReady) {
-    wl_display* const display = m_engine->control().display();
-    if (!isReady) {
-        wl_display_cancel_read(display);
-        return;
-    }
-    if (wl_display_read_events(display) < 0 || wl_display_dispatch_pending(display) < 0)
+    control.finishWait(descriptors);
+    if (!m_isBroken && control.isBroken())
         noteBreak();
+    m_engine->handle(descriptors, std::chrono::steady_clock::now());
 }
 
 void DataControlThread::noteBreak() {

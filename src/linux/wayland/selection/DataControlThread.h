@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/Reason.h"
 #include "linux/wayland/selection/DataControlEngine.h"
 
 #include <functional>
@@ -35,7 +36,6 @@ private:
     bool runCommands();
     /// Waits for something to do, and does what pipes and compositor want.
     void wait();
-    void readEvents(bool isReady);
     void noteBreak();
     [[nodiscard]] int sleepingTime() const;
     void wake() const;

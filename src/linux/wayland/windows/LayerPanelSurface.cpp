@@ -1,36 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/wayland/windows/LayerPanelSurface.h"
 
+#include "linux/wayland/windows/WaylandScreens.h"
+
 #include <LayerShellQt/window.h>
 #include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSurfaceFormat>
-#include <algorithm>
 
 namespace vellumry {
 
 namespace {
 
 using Layer = LayerShellQt::Window;
-
-std::optional<ScreenPlace> placeOf(const QScreen* screen) {
-    if (screen == nullptr)
-        return std::nullopt;
-    const QString key =
-        QStringList{screen->manufacturer(), screen->model(), screen->serialNumber(), screen->name()}.join(u' ');
-    return ScreenPlace{key.simplified(), screen->geometry(), screen->availableGeometry()};
-}
-
-QScreen* screenWithMostOf(const QRect& frame) {
-    const auto sharedArea = [&frame](const QScreen* screen) {
-        const QRect shared = screen->geometry().intersected(frame);
-        return qint64(shared.width()) * shared.height();
-    };
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    const auto best = std::ranges::max_element(screens, {}, sharedArea);
-    return best == screens.end() ? nullptr : *best;
-}
 
 } // namespace
 
@@ -91,7 +74,7 @@ void LayerPanelSurface::setInputArea(QWindow* window, const QRect& area) {
 
 /// A surface stands on one display, away from its corner by its margins.
 void LayerPanelSurface::place(QWindow* window, const QRect& frame) {
-    if (QScreen* screen = screenWithMostOf(frame); screen != nullptr && screen != window->screen())
+    if (QScreen* screen = waylandscreens::withMostOf(frame); screen != nullptr && screen != window->screen())
         window->setScreen(screen);
     window->setGeometry(frame);
     follow(window);
@@ -115,11 +98,11 @@ void LayerPanelSurface::watchKeyboard() {
 
 std::optional<ScreenPlace> LayerPanelSurface::screenUnderPointer() const {
     const QScreen* screen = QGuiApplication::screenAt(QCursor::pos());
-    return placeOf(screen != nullptr ? screen : QGuiApplication::primaryScreen());
+    return waylandscreens::placeOf(screen != nullptr ? screen : QGuiApplication::primaryScreen());
 }
 
 std::optional<ScreenPlace> LayerPanelSurface::screenOf(const QRect& frame) const {
-    return placeOf(screenWithMostOf(frame));
+    return waylandscreens::placeOf(waylandscreens::withMostOf(frame));
 }
 
 } // namespace vellumry
