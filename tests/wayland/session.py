@@ -97,8 +97,8 @@ def offered():
 class Window(Process):
     """A window of another program, with the keyboard."""
 
-    def __init__(self):
-        super().__init__("/usr/bin/python3", os.path.join(HERE, "gtk_window.py"), stdout=subprocess.PIPE, text=True)
+    def __init__(self, **options):
+        super().__init__("/usr/bin/python3", os.path.join(HERE, "gtk_window.py"), stdout=subprocess.PIPE, text=True, **options)
         self.state = {"text": "", "active": False}
         threading.Thread(target=self.follow, daemon=True).start()
         wait_until(lambda: self.state["active"], "the foreign window to have the keyboard")

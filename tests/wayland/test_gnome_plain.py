@@ -1,0 +1,55 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""GNOME without our extension: the program works among X11 programs, and says what is missing and what to do. Run inside
+scripts/wayland-session gnome-plain."""
+
+import os
+import subprocess
+import sys
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+
+from session import PROGRAM, Window, copy, picture, press, search_field_has_focus, told, type_text  # noqa: E402
+
+import desktop  # noqa: E402
+from desktop import Vellumry, run, text_of, wait_for_clip, wait_until  # noqa: E402
+
+X11 = dict(os.environ, GDK_BACKEND="x11")
+
+
+def open_panel():
+    run(PROGRAM, "--action", "open-panel")
+    wait_until(search_field_has_focus, "the search field to have the focus")
+
+
+def test_says_what_is_missing():
+    """One line of the log and of the status tells that the extension is off, and how it is switched on."""
+    with Vellumry(stderr=subprocess.PIPE) as program:
+        program.stop()
+        log = program.handle.stderr.read().decode()
+    lines = [line for line in log.split("\n") if "gnome-extensions enable clipboard@vellumry.com" in line]
+    assert len(lines) == 1, log
+    assert "gnome-extensions enable clipboard@vellumry.com" in told(PROGRAM, "--status").decode()
+
+
+def test_x11_programs():
+    """A copy of an X11 program is kept, found in the panel and pasted into it."""
+    with Vellumry(), Window(env=X11) as window:
+        type_text("typed under X11")
+        window.wait_text("typed under X11")
+        press("ctrl+a", "ctrl+c")
+        wait_for_clip(lambda row: text_of(row) == "typed under X11", "the copy in the history")
+        press("end")
+        open_panel()
+        picture("panel")
+        press("escape")
+        wait_until(lambda: window.state["active"], "the keyboard back in the window")
+
+
+def test_wayland_copies():
+    """What a Wayland program copies is kept as far as GNOME hands it on to X11 programs."""
+    with Vellumry(), Window(env=X11):
+        copy("of a Wayland program")
+        wait_for_clip(lambda row: text_of(row) == "of a Wayland program", "the copy in the history")
+
+
+desktop.main(desktop.own_tests())
