@@ -35,6 +35,8 @@ export class ClipboardService extends Service {
         this._serial = 0;
         this._types = [];
         this._isOurs = false;
+        this._source = null;
+        this._isTaking = false;
         this._isClearing = false;
         this._emptiedAt = 0;
         this._session = null;
@@ -51,7 +53,11 @@ export class ClipboardService extends Service {
         for (const reading of this._readings)
             reading.cancel();
         this.disownPrimary();
-        // GNOME keeps the text of what was owned, as that of any program that ends.
+        // A session that ends leaves its source behind, which then answers nobody. Without it GNOME brings the text back, as that of
+        // any program that ends.
+        if (this._isOurs)
+            this._selection.unset_owner(Meta.SelectionType.SELECTION_CLIPBOARD, this._source);
+        this._source = null;
         this._closeSession();
         this._selection = null;
     }
@@ -92,9 +98,13 @@ export class ClipboardService extends Service {
         return this._inTurn(async () => {
             await this._openSession();
             this._types = types;
-            this._isOurs = true;
-            await call(MUTTER, this._session, SESSION_INTERFACE, 'SetSelection',
-                new GLib.Variant('(a{sv})', [{'mime-types': new GLib.Variant('as', types)}]));
+            this._isTaking = true;
+            try {
+                await call(MUTTER, this._session, SESSION_INTERFACE, 'SetSelection',
+                    new GLib.Variant('(a{sv})', [{'mime-types': new GLib.Variant('as', types)}]));
+            } finally {
+                this._isTaking = false;
+            }
         });
     }
 
@@ -159,6 +169,7 @@ export class ClipboardService extends Service {
         else if (sourceType === 'MetaSelectionSourceMemory' && now - this._emptiedAt < ECHO_MICROSECONDS)
             kind = KIND_KEPT;
         this._isOurs = kind === KIND_OURS;
+        this._source = this._isOurs ? source : null;
         this._emptiedAt = source ? 0 : now;
         this._tell(types, kind);
     }
@@ -181,7 +192,8 @@ export class ClipboardService extends Service {
 
     _hear(name, parameters) {
         if (name === 'SelectionTransfer') {
-            this.emit('Wanted', '(su)', parameters.deepUnpack());
+            // GNOME reads what is new in the same turn: its wish comes before the answer that the clipboard is ours.
+            this.emit('Wanted', '(sub)', [...parameters.deepUnpack(), this._isTaking]);
         } else if (name === 'Closed') {
             this._forgetSession();
             this.emit('Lost', '()', []);

@@ -39,10 +39,11 @@ export const CLIPBOARD_INTERFACE = `
       <arg name="types" type="as"/>
       <arg name="kind" type="u"/>
     </signal>
-    <!-- A program wants a type of what the caller owns. -->
+    <!-- A program wants a type of what the caller owns; \`isKeeper\`: GNOME itself does, which keeps a copy of what is new. -->
     <signal name="Wanted">
       <arg name="type" type="s"/>
       <arg name="request" type="u"/>
+      <arg name="isKeeper" type="b"/>
     </signal>
     <!-- The clipboard cannot be owned any more, or again. -->
     <signal name="Lost"/>

@@ -37,6 +37,7 @@ void ShellPanelSurface::adopt(QWindow* window) {
     QSurfaceFormat format = window->requestedFormat();
     format.setAlphaBufferSize(8);
     window->setFormat(format);
+    m_earlyKeys.follow(window);
     connect(window, &QWindow::xChanged, this, [this, window] { follow(window); });
     connect(window, &QWindow::yChanged, this, [this, window] { follow(window); });
 }
@@ -55,6 +56,7 @@ void ShellPanelSurface::present(QWindow* window, std::optional<QRect> frame) {
 void ShellPanelSurface::dismiss(QWindow* window) {
     if (window == m_presented) {
         m_presented = nullptr;
+        m_earlyKeys.forget();
         m_focus->giveBack();
     }
     window->hide();

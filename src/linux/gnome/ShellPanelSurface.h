@@ -2,6 +2,7 @@
 #pragma once
 
 #include "linux/gnome/ShellLink.h"
+#include "linux/wayland/windows/EarlyKeys.h"
 #include "linux/wayland/windows/WaylandFocus.h"
 #include "platform/display/PanelSurface.h"
 
@@ -39,6 +40,7 @@ private:
     std::shared_ptr<WaylandFocus> m_focus;
     QPointer<QWindow> m_presented; ///< the panel that has or wants the keyboard
     bool m_hadKeyboard = false;
+    EarlyKeys m_earlyKeys;
 };
 
 } // namespace vellumry

@@ -135,11 +135,12 @@ void ShellSelection::hear(const char* name, GVariant* values) {
         g_variant_get_child(values, 0, "u", &serial);
         g_variant_get_child(values, 2, "u", &kind);
         takeChange(serial, variantstrings::in(values, 1), kind);
-    } else if (signal == "Wanted" && g_variant_is_of_type(values, G_VARIANT_TYPE("(su)"))) {
+    } else if (signal == "Wanted" && g_variant_is_of_type(values, G_VARIANT_TYPE("(sub)"))) {
         const char* type = nullptr;
         quint32 request = 0;
-        g_variant_get(values, "(&su)", &type, &request);
-        send(QString::fromUtf8(type), request);
+        gboolean isForKeeper = FALSE;
+        g_variant_get(values, "(&sub)", &type, &request, &isForKeeper);
+        send(QString::fromUtf8(type), request, isForKeeper != FALSE);
     }
 }
 
@@ -241,13 +242,16 @@ void ShellSelection::cancelOwn() {
         told();
 }
 
-void ShellSelection::send(const QString& type, quint32 request) {
-    m_bus->call(clipboard, "Take", g_variant_new("(u)", request), [this, type](GVariant*, GUnixFDList* descriptors) {
+void ShellSelection::send(const QString& type, quint32 request, bool isForKeeper) {
+    const auto give = [this, type, isForKeeper](GVariant*, GUnixFDList* descriptors) {
         Descriptor pipe(descriptors != nullptr ? g_unix_fd_list_get(descriptors, 0, nullptr) : -1);
         if (!pipe.isOpen() || m_own == nullptr || !m_own->onSend)
             return;
+        m_own->isForKeeper = isForKeeper;
         m_own->onSend(type, std::move(pipe));
-    });
+        m_own->isForKeeper = false;
+    };
+    m_bus->call(clipboard, "Take", g_variant_new("(u)", request), give);
 }
 
 void ShellSelection::setPrimarySelection(const Source* source) {

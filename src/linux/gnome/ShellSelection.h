@@ -57,7 +57,7 @@ private:
     bool resume(quint32 serial, const QStringList& types);
     void cancelOwn();
     void own(const QStringList& types);
-    void send(const QString& type, quint32 request);
+    void send(const QString& type, quint32 request, bool isForKeeper);
     [[nodiscard]] static std::optional<QByteArray> textOf(const Source& source);
     void tell(std::unique_ptr<Offer> offer) const;
 

@@ -166,7 +166,7 @@ void DataControlEngine::serve(const Holding& holding, const QString& mimeType, D
     if (&holding == &m_clipboard || holding.contents == m_clipboard.contents)
         m_wasServed.store(true, std::memory_order_release);
     m_writer.write(std::move(pipe), *bytes, now);
-    if (&holding == &m_clipboard && m_onPaste)
+    if (&holding == &m_clipboard && m_onPaste && !holding.source->isForKeeper)
         noteReading(mimeType, now);
 }
 

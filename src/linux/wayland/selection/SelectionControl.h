@@ -40,6 +40,8 @@ public:
         virtual ~Source() = default;
         /// Somebody wants the bytes of a type.
         std::function<void(const QString& mimeType, Descriptor pipe)> onSend;
+        /// During `onSend`: it is the session's own keeper, which copies what is new, as far as that is known.
+        bool isForKeeper = false;
         /// Another source has taken its place.
         std::function<void()> onCancelled;
     };
