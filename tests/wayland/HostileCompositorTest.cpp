@@ -57,8 +57,8 @@ TEST(HostileCompositor, OfTwoSeatsTheSecondIsFollowedWhenTheFirstGoes) {
     World world(2);
     EXPECT_EQ(world.compositor.devices(), 1);
     EXPECT_TRUE(world.sees());
-    world.compositor.removeSeat();
     const qint64 before = world.board->copyCount();
+    world.compositor.removeSeat();
     runUntil([&] { return world.board->copyCount() > before; });
     EXPECT_EQ(world.compositor.devices(), 1) << "the copy that stands on the other seat";
     EXPECT_TRUE(world.writes());
