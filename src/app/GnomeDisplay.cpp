@@ -32,13 +32,13 @@ bool hasExtension() {
 std::vector<Capability> capabilities() {
     const QString extension = QStringLiteral("GNOME extension");
     if (!hasExtension())
-        return {
-            Capability::missing(
-                extension,
-                QStringLiteral("off: copies of Wayland programs, the paste key, shortcuts and the panel's place need "
-                               "it. Switch it on: gnome-extensions enable %1, then start Vellumry again")
-                    .arg(QString::fromLatin1(shell::extension)))
-                .serving({Feature::capture, Feature::shortcuts, Feature::paste, Feature::stack})};
+        return {Capability::missing(
+                    extension,
+                    QStringLiteral(
+                        "off: the paste key, shortcuts everywhere and the panel's place need it, and some copies "
+                        "are missed. Switch it on: gnome-extensions enable %1, then start Vellumry again")
+                        .arg(QString::fromLatin1(shell::extension)))
+                    .serving({Feature::capture, Feature::shortcuts, Feature::paste, Feature::stack})};
     return {Capability::found(QStringLiteral("Wayland display")),
             Capability::found(extension, QString::fromLatin1(shell::extension)),
             Capability::found(QStringLiteral("clipboard"), QStringLiteral("by the extension"))
