@@ -10,7 +10,7 @@ import gi
 
 gi.require_version("Gtk", "4.0")
 gi.require_version("Gdk", "4.0")
-from gi.repository import Gdk, GLib, Gtk  # noqa: E402
+from gi.repository import Gdk, Gio, GLib, Gtk  # noqa: E402
 
 
 def tell(window, buffer):
@@ -44,6 +44,6 @@ def activate(application):
     view.grab_focus()
 
 
-app = Gtk.Application(application_id="org.example.Foreign")
+app = Gtk.Application(application_id="org.example.Foreign", flags=Gio.ApplicationFlags.NON_UNIQUE)
 app.connect("activate", activate)
 sys.exit(app.run([]))
