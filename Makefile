@@ -34,9 +34,10 @@ test-appimage: ## build AppImages, try one in a bare Debian 13 and update one to
 	@scripts/install-deps --test --appimage
 	@tests/appimage/run
 
-test-trixie: ## build and run the unit tests in a bare Debian 13
+test-trixie: ## build and run the unit tests in a bare Debian 13, build the package there and try it in another
 	@scripts/install-deps --test
 	@scripts/in-root --keep build trixie scripts/build-and-test
+	@tests/package/run trixie
 
 test-wayland: ## build in a Debian 13, run the tests in headless sessions of sway, labwc, KWin and GNOME
 	@scripts/install-deps --test
