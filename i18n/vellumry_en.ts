@@ -488,5 +488,96 @@
         <source>Pinned clip</source>
         <translation>Pinned</translation>
     </message>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n item</numerusform>
+            <numerusform>%n items</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, one of them a picture</source>
+        <translation>
+            <numerusform>%n item, a picture</numerusform>
+            <numerusform>%n items, one of them a picture</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, %1 of them pictures</source>
+        <translation>
+            <numerusform>%n item, %1 of them pictures</numerusform>
+            <numerusform>%n items, %1 of them pictures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were imported.</source>
+        <translation>
+            <numerusform>%n clip was imported.</numerusform>
+            <numerusform>%n clips were imported.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were in your history already.</source>
+        <translation>
+            <numerusform>%n clip was in your history already.</numerusform>
+            <numerusform>%n clips were in your history already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n passwords, codes or keys were left out.</source>
+        <translation>
+            <numerusform>%n password, code or key was left out.</numerusform>
+            <numerusform>%n passwords, codes or keys were left out.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were left out, as nothing is saved from their apps.</source>
+        <translation>
+            <numerusform>%n clip was left out, as nothing is saved from its app.</numerusform>
+            <numerusform>%n clips were left out, as nothing is saved from their apps.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are beyond the limits of your history.</source>
+        <translation>
+            <numerusform>%n clip is beyond the limits of your history.</numerusform>
+            <numerusform>%n clips are beyond the limits of your history.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures were left out, as your disk is almost full.</source>
+        <translation>
+            <numerusform>%n picture was left out, as your disk is almost full.</numerusform>
+            <numerusform>%n pictures were left out, as your disk is almost full.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries had nothing in them that can be kept.</source>
+        <translation>
+            <numerusform>%n entry had nothing in it that can be kept.</numerusform>
+            <numerusform>%n entries had nothing in them that can be kept.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are in %1 now, and not encrypted there.</source>
+        <translation>
+            <numerusform>%n clip is in %1 now, and not encrypted there.</numerusform>
+            <numerusform>%n clips are in %1 now, and not encrypted there.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips that delete themselves were left out.</source>
+        <translation>
+            <numerusform>%n clip that deletes itself was left out.</numerusform>
+            <numerusform>%n clips that delete themselves were left out.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips could not be read.</source>
+        <translation>
+            <numerusform>%n clip could not be read.</numerusform>
+            <numerusform>%n clips could not be read.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

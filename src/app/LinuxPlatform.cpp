@@ -11,6 +11,7 @@
 #include "linux/files/InotifyFolderWatching.h"
 #include "linux/files/PosixFileBookmarks.h"
 #include "linux/keyring/KeychainKeyStore.h"
+#include "linux/peers/LinuxPeerHistories.h"
 #include "linux/process/AppImage.h"
 #include "linux/process/DBusSingleInstance.h"
 #include "linux/process/MemoryReturn.h"
@@ -145,6 +146,7 @@ OrReason<Platform> makeLinuxPlatform(DisplayKind display) {
         qCWarning(logging::process).noquote() << "secrets expire less punctually:" << timer.error().text;
     platform.bookmarks = std::make_unique<PosixFileBookmarks>();
     platform.folders = std::make_unique<InotifyFolderWatching>();
+    platform.peers = std::make_unique<LinuxPeerHistories>();
     platform.isConfined = QFile::exists(QStringLiteral("/.flatpak-info")) || qEnvironmentVariableIsSet("SNAP");
     // A confined package sees an autostart folder of its own.
     if (!platform.isConfined) {

@@ -2,6 +2,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vellumry.Onboarding
+import Vellumry.Transfer
 import Vellumry.Views
 
 // What to remember, and whether it is there after the next login.
@@ -9,6 +10,7 @@ FocusScope {
     id: step
 
     required property OnboardingModel onboarding
+    required property TransferModel transfer
 
     StepLayout {
         anchors.fill: parent
@@ -57,6 +59,14 @@ FocusScope {
                 isOn: step.onboarding.launchAtLogin
                 onToggled: value => step.onboarding.launchAtLogin = value
             }
+        }
+        PeerList {
+            visible: step.transfer.historyCount > 0
+            title: Views.words("Bring your clips along")
+            transfer: step.transfer
+        }
+        TransferMessage {
+            transfer: step.transfer
         }
     }
 }

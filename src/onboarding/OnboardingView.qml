@@ -2,6 +2,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vellumry.Onboarding
+import Vellumry.Transfer
 import Vellumry.Views
 
 // One step after the other.
@@ -9,12 +10,17 @@ Rectangle {
     id: root
 
     required property OnboardingModel onboarding
+    required property TransferModel transfer
 
     function showStep(): void {
         const names = ["Welcome", "Permission", "TryIt", "Done"];
-        step.setSource(Qt.resolvedUrl(names[onboarding.step] + "Step.qml"), {
+        const values = names[onboarding.step] === "Done" ? {
+            onboarding: onboarding,
+            transfer: transfer
+        } : {
             onboarding: onboarding
-        });
+        };
+        step.setSource(Qt.resolvedUrl(names[onboarding.step] + "Step.qml"), values);
         (step.item as FocusScope).forceActiveFocus(Qt.OtherFocusReason);
         if (onboarding.step > 0 && !Views.reducesMotion())
             arrival.restart();
@@ -25,7 +31,11 @@ Rectangle {
     LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.Dialog
     Accessible.name: Views.words("Welcome to Vellumry")
-    Component.onCompleted: showStep()
+    Component.onCompleted: {
+        showStep();
+        // What other programs have left is known when the last step shows it.
+        transfer.look();
+    }
     Keys.onPressed: event => {
         if (event.key === Qt.Key_W && event.modifiers === Qt.ControlModifier) {
             event.accepted = true;

@@ -3,6 +3,7 @@
 
 #include "foundation/Localisation.h"
 #include "onboarding/OnboardingModel.h"
+#include "transfer/TransferModel.h"
 #include "views/QmlModules.h"
 #include "views/ViewEngine.h"
 
@@ -20,17 +21,21 @@ constexpr int leastHeight = 320;
 
 } // namespace
 
-OnboardingWindowController::OnboardingWindowController(OnboardingModel& model, ViewEngine& views)
+OnboardingWindowController::OnboardingWindowController(OnboardingModel& model, TransferModel& transfer,
+                                                       ViewEngine& views)
     : m_model(&model)
+    , m_transfer(&transfer)
     , m_views(&views) {}
 
 OnboardingWindowController::~OnboardingWindowController() = default;
 
 void OnboardingWindowController::make() {
     keepQmlModule(&qml_register_types_Vellumry_Onboarding);
+    keepQmlModule(&qml_register_types_Vellumry_Transfer);
     m_view = m_views->makeWindow(localised("Welcome to Vellumry"));
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
-    m_view->setInitialProperties({{QStringLiteral("onboarding"), QVariant::fromValue(m_model)}});
+    m_view->setInitialProperties({{QStringLiteral("onboarding"), QVariant::fromValue(m_model)},
+                                  {QStringLiteral("transfer"), QVariant::fromValue(m_transfer)}});
     m_view->setSource(QUrl(QStringLiteral("qrc:/vellumry/Vellumry/Onboarding/OnboardingView.qml")));
     m_view->setMinimumSize(QSize(usualSize.width(), leastHeight));
     m_view->setMaximumWidth(usualSize.width());

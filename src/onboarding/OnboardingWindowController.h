@@ -10,6 +10,7 @@ class QQuickView;
 namespace vellumry {
 
 class OnboardingModel;
+class TransferModel;
 class ViewEngine;
 
 /// The window "Welcome to Vellumry". Main thread.
@@ -18,7 +19,7 @@ class OnboardingWindowController : public QObject {
 
 public:
     /// Both must outlive this.
-    OnboardingWindowController(OnboardingModel& model, ViewEngine& views);
+    OnboardingWindowController(OnboardingModel& model, TransferModel& transfer, ViewEngine& views);
     ~OnboardingWindowController() override;
 
     /// Brings the window to the front.
@@ -39,6 +40,7 @@ private:
     void make();
 
     OnboardingModel* m_model;
+    TransferModel* m_transfer;
     ViewEngine* m_views;
     std::unique_ptr<QQuickView> m_view;
 };

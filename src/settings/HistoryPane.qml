@@ -51,6 +51,26 @@ ScrollPane {
             }
         }
         FormRow {
+            title: Views.words("Import")
+            help: Views.words("From another clipboard app, or from a folder that Vellumry exported.")
+
+            PushButton {
+                text: Views.words("Import…")
+                help: Views.words("From another clipboard app, or from a folder that Vellumry exported.")
+                onPressed: pane.settings.sheet = "import"
+            }
+        }
+        FormRow {
+            title: Views.words("Export everything")
+            help: Views.words("To a folder of ordinary files.")
+
+            PushButton {
+                text: Views.words("Export…")
+                help: Views.words("Export everything")
+                onPressed: pane.settings.sheet = "export"
+            }
+        }
+        FormRow {
             title: Views.words("Clear history")
             help: Views.words("Keep pinned clips, or delete everything.")
 

@@ -2,6 +2,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vellumry.Settings
+import Vellumry.Transfer
 import Vellumry.Views
 
 // The five panes under their names, and what is asked over them.
@@ -9,6 +10,7 @@ Rectangle {
     id: root
 
     required property SettingsModel settings
+    required property TransferModel transfer
     property int pane: 0
     property bool isAsking: false
     property Item before: null // what had the keyboard before the sheet
@@ -24,13 +26,19 @@ Rectangle {
             const names = {
                 "clear": "ClearQuestion",
                 "applications": "ApplicationChooser",
-                "report": "DesktopReportView"
+                "report": "DesktopReportView",
+                "import": "ImportSheet",
+                "export": "ExportSheet"
             };
             before = Window.window ? Window.window.activeFocusItem : null;
             isAsking = true;
-            sheet.setSource(Qt.resolvedUrl(names[settings.sheet] + ".qml"), {
+            const values = settings.sheet === "import" || settings.sheet === "export" ? {
+                settings: settings,
+                transfer: transfer
+            } : {
                 settings: settings
-            });
+            };
+            sheet.setSource(Qt.resolvedUrl(names[settings.sheet] + ".qml"), values);
             (sheet.item as Sheet).forceActiveFocus(Qt.PopupFocusReason);
         } else {
             sheet.source = "";

@@ -3,6 +3,7 @@
 
 #include "foundation/Localisation.h"
 #include "settings/SettingsModel.h"
+#include "transfer/TransferModel.h"
 #include "views/QmlModules.h"
 #include "views/ViewEngine.h"
 
@@ -21,17 +22,21 @@ constexpr int leastHeight = 320;
 
 } // namespace
 
-SettingsWindowController::SettingsWindowController(SettingsModel& model, ViewEngine& views)
+SettingsWindowController::SettingsWindowController(SettingsModel& model, TransferModel& transfer,
+                                                   ViewEngine& views)
     : m_model(&model)
+    , m_transfer(&transfer)
     , m_views(&views) {}
 
 SettingsWindowController::~SettingsWindowController() = default;
 
 void SettingsWindowController::make() {
     keepQmlModule(&qml_register_types_Vellumry_Settings);
+    keepQmlModule(&qml_register_types_Vellumry_Transfer);
     m_view = m_views->makeWindow(localised("Vellumry Settings"));
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
-    m_view->setInitialProperties({{QStringLiteral("settings"), QVariant::fromValue(m_model)}});
+    m_view->setInitialProperties({{QStringLiteral("settings"), QVariant::fromValue(m_model)},
+                                  {QStringLiteral("transfer"), QVariant::fromValue(m_transfer)}});
     m_view->setSource(QUrl(QStringLiteral("qrc:/vellumry/Vellumry/Settings/SettingsView.qml")));
     m_view->setMinimumSize(QSize(usualSize.width(), leastHeight));
     m_view->setMaximumWidth(usualSize.width());

@@ -9,6 +9,7 @@ class QQuickView;
 namespace vellumry {
 
 class SettingsModel;
+class TransferModel;
 class ViewEngine;
 
 /// The window "Vellumry Settings": made when it is first shown, kept hidden after closing. Main thread.
@@ -16,8 +17,8 @@ class SettingsWindowController : public QObject {
     Q_OBJECT
 
 public:
-    /// Both must outlive this.
-    SettingsWindowController(SettingsModel& model, ViewEngine& views);
+    /// All must outlive this.
+    SettingsWindowController(SettingsModel& model, TransferModel& transfer, ViewEngine& views);
     ~SettingsWindowController() override;
 
     /// Brings the window to the front with that pane, 0 to 4.
@@ -35,6 +36,7 @@ private:
     void make();
 
     SettingsModel* m_model;
+    TransferModel* m_transfer;
     ViewEngine* m_views;
     std::unique_ptr<QQuickView> m_view;
 };

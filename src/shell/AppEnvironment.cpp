@@ -82,6 +82,7 @@ AppEnvironment::AppEnvironment(Platform& platform)
     makeStack();
     makeStatusItem();
     makeUpdates();
+    makeTransfer();
     makeSettings();
     makeOnboarding();
     wire();

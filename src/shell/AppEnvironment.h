@@ -24,6 +24,9 @@
 #include "shell/TextReading.h"
 #include "shell/ToastController.h"
 #include "shell/UpdateController.h"
+#include "transfer/HistoryExport.h"
+#include "transfer/HistoryImport.h"
+#include "transfer/TransferModel.h"
 #include "views/ViewEngine.h"
 
 #include <QObject>
@@ -99,6 +102,7 @@ public:
     [[nodiscard]] ScreenshotSaving& screenshotSaving() { return *m_screenshotSaving; }
     [[nodiscard]] UpdateController& updates() { return *m_updates; }
     [[nodiscard]] PanelController& panel() { return *m_panel; }
+    [[nodiscard]] TransferModel& transfer() { return *m_transfer; }
     [[nodiscard]] SettingsModel& settingsModel() { return *m_settingsModel; }
     [[nodiscard]] SettingsWindowController& settings() { return *m_settings; }
     [[nodiscard]] OnboardingModel& onboardingModel() { return *m_onboardingModel; }
@@ -123,6 +127,7 @@ private:
     void makeUpdates();
     [[nodiscard]] bool isInUse() const;
     void makeSettings();
+    void makeTransfer();
     void makeOnboarding();
     void onboardingClosed();
     [[nodiscard]] bool mayKeyringAsk();
@@ -166,6 +171,9 @@ private:
     std::unique_ptr<UpdateController> m_updates;
     std::unique_ptr<ShortcutRegistrations> m_shortcuts;
     std::unique_ptr<FieldPasteboard> m_fieldPasteboard;
+    std::unique_ptr<HistoryImport> m_import;
+    std::unique_ptr<HistoryExport> m_export;
+    std::unique_ptr<TransferModel> m_transfer;
     std::unique_ptr<SettingsModel> m_settingsModel;
     std::unique_ptr<SettingsWindowController> m_settings;
     std::unique_ptr<OnboardingModel> m_onboardingModel;

@@ -30,7 +30,7 @@ void AppEnvironment::makeOnboarding() {
     hooks.ownBindings = m_platform->hotKeys->ownBindings();
     hooks.isWaylandSession = m_platform->isWaylandSession;
     m_onboardingModel = std::make_unique<OnboardingModel>(std::move(hooks));
-    m_onboarding = std::make_unique<OnboardingWindowController>(*m_onboardingModel, m_views);
+    m_onboarding = std::make_unique<OnboardingWindowController>(*m_onboardingModel, *m_transfer, m_views);
     m_onboarding->onClose = [this] { onboardingClosed(); };
     m_onboarding->isQuitting = [this] { return m_isQuitting; };
 }

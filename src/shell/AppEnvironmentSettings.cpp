@@ -23,7 +23,7 @@ QCoro::Task<std::vector<InstalledApplication>> listOf(InstalledApplications* app
 void AppEnvironment::makeSettings() {
     m_settingsModel = std::make_unique<SettingsModel>(*m_preferences, *m_platform->keyboard);
     m_settingsModel->actions = settingsActions();
-    m_settings = std::make_unique<SettingsWindowController>(*m_settingsModel, m_views);
+    m_settings = std::make_unique<SettingsWindowController>(*m_settingsModel, *m_transfer, m_views);
     connect(m_updates.get(), &UpdateController::changed, m_settingsModel.get(), &SettingsModel::noteUpdates);
     m_fieldPasteboard = std::make_unique<FieldPasteboard>(*m_platform->pasteboard);
     m_views.copyText = [this](const QString& text) { m_fieldPasteboard->setText(text); };

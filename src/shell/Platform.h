@@ -24,6 +24,7 @@
 #include "platform/files/FileBookmarks.h"
 #include "platform/files/FolderWatching.h"
 #include "platform/files/ImageCodec.h"
+#include "platform/files/PeerHistories.h"
 #include "platform/files/TextReader.h"
 #include "shell/HistoryFolder.h"
 #include "shell/UpdateController.h"
@@ -57,6 +58,8 @@ struct Platform {
     std::unique_ptr<FileBookmarks> bookmarks;
     std::unique_ptr<FolderWatching> folders;
     std::unique_ptr<InstalledApplications> applications;
+    /// Null where no other clipboard program can have left anything.
+    std::unique_ptr<PeerHistories> peers;
     /// Null where nothing starts programs at login: the choice is refused then.
     std::unique_ptr<LoginItem> loginItem;
     /// Null where the program cannot replace itself.

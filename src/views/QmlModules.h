@@ -9,6 +9,7 @@ void qml_register_types_Vellumry_Panel();
 void qml_register_types_Vellumry_Onboarding();
 void qml_register_types_Vellumry_Settings();
 void qml_register_types_Vellumry_Shell();
+void qml_register_types_Vellumry_Transfer();
 
 namespace vellumry {
 

@@ -19,6 +19,7 @@
 #include "support/FakeKeyboardLayout.h"
 #include "support/FakePanelSurface.h"
 #include "support/FakePasteboard.h"
+#include "support/Transfers.h"
 #include "views/ViewEngine.h"
 
 #include <QCommandLineParser>
@@ -113,7 +114,10 @@ private:
                 {QStringLiteral("org.kde.kate"), QStringLiteral("Kate"), {}, QStringLiteral("Kate")}};
         };
         model.actions.allowFileFolders = []() -> QCoro::Task<FileAccess::Result> { co_return FileAccess::Result(); };
-        SettingsWindowController controller(model, views);
+        Transfers transfers;
+        transfers.peers.found = {{QStringLiteral("copyq"), QStringLiteral("CopyQ"), PeerHistory::State::whole, 1204, 3},
+                                 {QStringLiteral("gpaste"), QStringLiteral("GPaste"), PeerHistory::State::damaged, 96, 1}};
+        SettingsWindowController controller(model, transfers.model, views);
         const char* const panes[]{"settings-general", "settings-shortcuts", "settings-history", "settings-privacy",
                                   "settings-about"};
         for (int pane = 0; pane < 5; ++pane) {
@@ -127,6 +131,9 @@ private:
         controller.show(2);
         model.setSheet(QStringLiteral("clear"));
         draw(QStringLiteral("settings-clear"), *controller.window());
+        model.setSheet(QStringLiteral("import"));
+        (void)eventually([&transfers] { return transfers.model.historyCount() > 0; });
+        draw(QStringLiteral("settings-import"), *controller.window());
         controller.show(0);
         model.setSheet(QStringLiteral("report"));
         draw(QStringLiteral("settings-desktop"), *controller.window());
@@ -153,7 +160,10 @@ private:
         for (const bool isTrusted : {true, false}) {
             m_isTrusted = isTrusted;
             OnboardingModel model(firstRun());
-            OnboardingWindowController controller(model, views);
+            Transfers transfers;
+            transfers.peers.found = {
+                {QStringLiteral("copyq"), QStringLiteral("CopyQ"), PeerHistory::State::whole, 1204, 3}};
+            OnboardingWindowController controller(model, transfers.model, views);
             model.setKeyringClosed(!isTrusted);
             controller.show();
             const QString suffix = isTrusted ? QString() : QStringLiteral("-refused");

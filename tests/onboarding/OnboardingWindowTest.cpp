@@ -6,6 +6,7 @@
 #include "support/AccessibleItems.h"
 #include "support/Awaited.h"
 #include "support/ShownTexts.h"
+#include "support/Transfers.h"
 #include "views/ViewEngine.h"
 
 #include <QQuickItem>
@@ -67,8 +68,9 @@ protected:
     int endings = 0;
     int closings = 0;
     ViewEngine views;
+    Transfers transfers;
     OnboardingModel model{hooks()};
-    OnboardingWindowController controller{model, views};
+    OnboardingWindowController controller{model, transfers.model, views};
 };
 
 TEST_F(OnboardingWindowTest, ReturnLeadsThroughAllFourSteps) {
@@ -134,6 +136,31 @@ TEST_F(OnboardingWindowTest, ThePanelOpensOverTheField) {
     EXPECT_EQ(focused(), QStringLiteral("Press Return to paste here"));
 }
 
+TEST_F(OnboardingWindowTest, OtherProgramsHistoriesAreOfferedOnTheLastStep) {
+    const PasteboardItem item{{{QStringLiteral("public.utf8-plain-text"), "theirs"}}, {}};
+    transfers.peers.add(QStringLiteral("copyq"), {PeerClip{{item}}}, 1795000000);
+    transfers.model.look();
+    for (int step = 0; step < 3; ++step)
+        model.advance();
+    runUntil([this] { return shows("COPYQ"); });
+    EXPECT_TRUE(shows("Bring your clips along"));
+    EXPECT_TRUE(shows("1 items"));
+    const QString pictures = qEnvironmentVariable("VELLUMRY_PICTURES");
+    if (!pictures.isEmpty())
+        controller.window()->grabWindow().save(pictures + QStringLiteral("/onboarding-import.png"));
+    tabTo("Import");
+    press(Qt::Key_Space);
+    runUntil([this] { return shows("1 clips were imported."); });
+    EXPECT_EQ(transfers.store.clips().size(), 1U);
+}
+
+TEST_F(OnboardingWindowTest, WithoutOtherProgramsNothingIsOffered) {
+    for (int step = 0; step < 3; ++step)
+        model.advance();
+    runUntil([this] { return !transfers.model.isLooking(); });
+    EXPECT_FALSE(shows("Bring your clips along"));
+}
+
 TEST_F(OnboardingWindowTest, AShortcutThatIsTakenIsShownWithAnotherOffered) {
     problem = QStringLiteral("Super+Ctrl+V is already used by another app. Pick another shortcut.");
     model.advance();
@@ -173,7 +200,7 @@ TEST_F(OnboardingWindowTest, WhereNoProgramCanHoldKeysTheLinesThatBindThemAreThe
     OnboardingModel::Hooks asked = hooks();
     asked.ownBindings = {QStringLiteral("~/.config/wm"), {QStringLiteral("bind v"), QStringLiteral("bind s")}};
     OnboardingModel bound(asked);
-    OnboardingWindowController window(bound, views);
+    OnboardingWindowController window(bound, transfers.model, views);
     window.show();
     bound.advance();
     bound.advance();

@@ -7,6 +7,7 @@
 #include "support/Awaited.h"
 #include "support/FakeKeyboardLayout.h"
 #include "support/ShownTexts.h"
+#include "support/Transfers.h"
 #include "views/ViewEngine.h"
 
 #include <QQuickItem>
@@ -17,6 +18,18 @@
 
 namespace vellumry {
 namespace {
+
+/// The texts that are shown cut.
+QStringList cutTexts(QQuickItem* item) {
+    QStringList found;
+    if (!item->isVisible())
+        return found;
+    if (item->inherits("QQuickText") && item->property("truncated").toBool())
+        found.append(item->property("text").toString());
+    for (QQuickItem* child : item->childItems())
+        found += cutTexts(child);
+    return found;
+}
 
 class SettingsWindowTest : public ::testing::Test {
 protected:
@@ -51,13 +64,20 @@ protected:
         ASSERT_EQ(focused(), QString::fromUtf8(name));
     }
     void goTo(int pane) { root()->setProperty("pane", pane); }
+    /// Where somebody looks at what the windows are like.
+    void savePicture(const char* name) const {
+        const QString pictures = qEnvironmentVariable("VELLUMRY_PICTURES");
+        if (!pictures.isEmpty())
+            window().grabWindow().save(QStringLiteral("%1/%2.png").arg(pictures, QString::fromUtf8(name)));
+    }
 
     UserDefaults defaults;
     Preferences preferences{defaults};
     FakeKeyboardLayout layout;
     ViewEngine views;
+    Transfers transfers;
     SettingsModel model{preferences, layout};
-    SettingsWindowController controller{model, views};
+    SettingsWindowController controller{model, transfers.model, views};
 };
 
 TEST_F(SettingsWindowTest, IsAnOrdinaryWindowWithItsTitleAndWidth) {
@@ -213,6 +233,50 @@ TEST_F(SettingsWindowTest, ClearingAsksFirstAndTheWayOutHasTheKeyboard) {
     EXPECT_EQ(deleted, 1);
 }
 
+TEST_F(SettingsWindowTest, OtherProgramsHistoriesAreImportedByKeysAlone) {
+    const PasteboardItem item{{{QStringLiteral("public.utf8-plain-text"), "theirs"}}, {}};
+    transfers.peers.add(QStringLiteral("copyq"), {PeerClip{{item}}}, 1795000000);
+    transfers.peers.found.push_back({QStringLiteral("x"), QStringLiteral("X"), PeerHistory::State::locked});
+    goTo(2);
+    tabTo("Import…");
+    press(Qt::Key_Return);
+    EXPECT_EQ(focused(), QStringLiteral("Done"));
+    runUntil([this] { return shows("COPYQ"); });
+    EXPECT_TRUE(shows("1 items"));
+    EXPECT_TRUE(shows("Encrypted: nothing in it can be read"));
+    EXPECT_TRUE(transfers.store.clips().empty());
+    tabTo("Import");
+    press(Qt::Key_Space);
+    runUntil([this] { return shows("1 clips were imported."); });
+    EXPECT_EQ(transfers.store.clips().size(), 1U);
+    EXPECT_EQ(cutTexts(root()), QStringList());
+    EXPECT_EQ(namelessControls(root()), QStringList());
+    savePicture("settings-import");
+    tabTo("Undo Import");
+    press(Qt::Key_Space);
+    runUntil([this] { return shows("The import was taken back."); });
+    EXPECT_TRUE(transfers.store.clips().empty());
+    press(Qt::Key_Escape);
+    EXPECT_EQ(focused(), QStringLiteral("Import…"));
+}
+
+TEST_F(SettingsWindowTest, EverythingIsExportedByKeysAlone) {
+    goTo(2);
+    tabTo("Export…");
+    press(Qt::Key_Return);
+    EXPECT_EQ(focused(), QStringLiteral("New folder"));
+    const QString folder = transfers.model.suggestedFolder();
+    EXPECT_TRUE(texts().contains(folder) || window().activeFocusItem()->property("text").toString() == folder);
+    savePicture("settings-export");
+    press(Qt::Key_Return);
+    runUntil([this] { return transfers.model.message().contains(QStringLiteral("not encrypted there")); });
+    EXPECT_TRUE(QFile::exists(folder + QStringLiteral("/index.json")));
+    EXPECT_EQ(cutTexts(root()), QStringList());
+    EXPECT_EQ(namelessControls(root()), QStringList());
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(window().isVisible());
+}
+
 TEST_F(SettingsWindowTest, ApplicationsAreChosenByKeysAlone) {
     goTo(3);
     tabTo("Add Apps…");
@@ -295,18 +359,6 @@ TEST_F(SettingsWindowTest, ClosesByItsKeysAndComesBackWithTheFirstPane) {
     EXPECT_FALSE(controller.isVisible());
 }
 
-/// The texts that are shown cut.
-QStringList cutTexts(QQuickItem* item) {
-    QStringList found;
-    if (!item->isVisible())
-        return found;
-    if (item->inherits("QQuickText") && item->property("truncated").toBool())
-        found.append(item->property("text").toString());
-    for (QQuickItem* child : item->childItems())
-        found += cutTexts(child);
-    return found;
-}
-
 /// A language that needs two fifths more room than English.
 class LongWords : public QTranslator {
 public:
@@ -348,8 +400,9 @@ protected:
     Preferences preferences{defaults};
     FakeKeyboardLayout layout;
     ViewEngine views;
+    Transfers transfers;
     SettingsModel model{preferences, layout};
-    SettingsWindowController controller{model, views};
+    SettingsWindowController controller{model, transfers.model, views};
 };
 
 TEST_F(SettingsWindowMirroredTest, AllRunsFromRightToLeft) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/clips/ClipStore.h"
 
-#include "foundation/CryptoError.h"
 #include "history/clips/ClipOfDraft.h"
 #include "history/clips/ClipStorePrivate.h"
 
@@ -48,23 +47,13 @@ ClipStore::~ClipStore() = default;
 
 QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now, std::shared_ptr<CopyIdentity> copy) {
     const QPointer<ClipStore> self(this);
-    Fingerprint fingerprint;
-    std::shared_ptr<const ClipCrypto> crypto;
-    do {
-        crypto = d->crypto;
-        try {
-            auto hashing = d->hasher.fingerprint(draft, crypto);
-            fingerprint = co_await hashing;
-        } catch (const CryptoError&) {
-            co_return ClipRef();
-        }
-        if (!self)
-            co_return ClipRef();
-        // When the history joined meanwhile, the fingerprint is of another key.
-    } while (crypto != d->crypto);
-    const ClipRef existing = replacedBy(fingerprint, copy.get());
+    auto hashing = hashOf(draft);
+    const std::optional<Fingerprint> fingerprint = co_await hashing;
+    if (!self || !fingerprint)
+        co_return ClipRef();
+    const ClipRef existing = replacedBy(*fingerprint, copy.get());
     const ClipRef clip =
-        std::make_shared<const Clip>(clipOfDraft(draft, existing, fingerprint, now, d->sensitiveLifetime));
+        std::make_shared<const Clip>(clipOfDraft(draft, existing, *fingerprint, now, d->sensitiveLifetime));
     if (existing)
         d->list.replace(existing, clip);
     else

@@ -4,6 +4,7 @@
 #include "foundation/Date.h"
 #include "history/clips/Clip.h"
 #include "history/clips/ClipFilter.h"
+#include "history/clips/Provenance.h"
 #include "history/clips/RemovedClips.h"
 #include "history/clips/RetentionPolicy.h"
 #include "platform/desktop/DateTimer.h"
@@ -79,6 +80,9 @@ public:
     /// has refused it: then it waits in memory (`isBehind`). A later draft of the same `copy` replaces the clip that an
     /// earlier one made, and keeps its identity unless another clip has the new content already.
     QCoro::Task<ClipRef> add(ClipDraft draft, Date now, std::shared_ptr<CopyIdentity> copy = nullptr);
+    /// Puts a clip that was copied elsewhere where its times put it. The history's own clips come first: what it has
+    /// already stays as it is, and nothing of it goes for a clip that is older. Durable as with `add`.
+    QCoro::Task<TakenIn> takeIn(ClipDraft draft, Provenance provenance);
     /// Nothing for an unknown clip and for one that cannot be read.
     [[nodiscard]] QCoro::Task<std::optional<ClipPayload>> payload(QUuid id);
     QCoro::Task<void> markUsed(QUuid id, Date date);
@@ -119,6 +123,8 @@ private:
     void changed();
     void prepareSearch();
     [[nodiscard]] ClipRef replacedBy(const Fingerprint& fingerprint, const CopyIdentity* copy);
+    /// Nothing where it cannot be made, or the store has gone meanwhile.
+    QCoro::Task<std::optional<Fingerprint>> hashOf(ClipDraft draft);
     void forget(const QUuid& id);
     void join(std::shared_ptr<ClipDatabase> database, std::vector<ClipRef> rows,
               const QHash<QUuid, Fingerprint>& fingerprints);

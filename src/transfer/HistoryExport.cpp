@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "transfer/HistoryExport.h"
+
+#include "transfer/ExportFolder.h"
+
+#include <QPointer>
+#include <utility>
+
+namespace vellumry {
+
+namespace {
+
+using Folder = std::shared_ptr<ExportFolder>;
+using Created = std::expected<Folder, ExportFolder::Failure>;
+using Written = std::expected<void, ExportFolder::Failure>;
+
+ExportOutcome::Result resultOf(ExportFolder::Failure failure) {
+    switch (failure) {
+    case ExportFolder::Failure::notEmpty:
+        return ExportOutcome::Result::notEmpty;
+    case ExportFolder::Failure::noRoom:
+        return ExportOutcome::Result::noRoom;
+    case ExportFolder::Failure::refused:
+        break;
+    }
+    return ExportOutcome::Result::refused;
+}
+
+Created create(const QString& path) {
+    auto folder = ExportFolder::create(path);
+    if (!folder)
+        return std::unexpected(folder.error());
+    return Folder(std::move(*folder));
+}
+
+ImportEntry entryOf(const Clip& clip, ClipPayload payload) {
+    ImportEntry entry;
+    entry.payload = std::move(payload);
+    entry.provenance = {clip.createdAt, clip.lastUsedAt, clip.isPinned, clip.pinOrder};
+    entry.source = {clip.sourceBundleID, clip.sourceAppName};
+    entry.title = clip.title;
+    entry.isScreenshot = clip.isScreenshot;
+    return entry;
+}
+
+} // namespace
+
+HistoryExport::HistoryExport(ClipStore& store)
+    : m_store(&store) {}
+
+HistoryExport::~HistoryExport() = default;
+
+QCoro::Task<ExportOutcome> HistoryExport::run(QString path) {
+    const QPointer<HistoryExport> self(this);
+    ExportOutcome outcome;
+    m_isStopped = false;
+    std::function<Created()> creating = [path] { return create(path); };
+    auto beginning = m_writer.run(std::move(creating));
+    Created created = co_await beginning;
+    if (!created)
+        outcome.result = resultOf(created.error());
+    if (!self || !created)
+        co_return outcome;
+    Folder folder = std::exchange(*created, nullptr);
+    const std::vector<ClipRef> clips = m_store->clips();
+    for (const ClipRef& clip : clips) {
+        if (clip->isSensitive()) {
+            ++outcome.secrets;
+            continue;
+        }
+        auto reading = m_store->payload(clip->id);
+        std::optional<ClipPayload> payload = co_await reading;
+        if (!self)
+            co_return outcome;
+        if (m_isStopped) {
+            outcome.result = ExportOutcome::Result::stopped;
+            break;
+        }
+        if (!payload) {
+            // One that was deleted meanwhile is no loss.
+            outcome.unreadable += m_store->find(clip->id) ? 1 : 0;
+            continue;
+        }
+        const auto entry = std::make_shared<const ImportEntry>(entryOf(*clip, std::move(*payload)));
+        std::function<Written()> writing = [to = folder.get(), entry] { return to->write(*entry); };
+        auto ending = m_writer.run(std::move(writing));
+        const Written written = co_await ending;
+        if (!written)
+            outcome.result = resultOf(written.error());
+        if (!self)
+            co_return outcome;
+        if (!written)
+            break;
+        ++outcome.clips;
+        onProgress(outcome);
+    }
+    const bool isComplete = outcome.result == ExportOutcome::Result::done;
+    // Its end, which takes away what is not complete, may last as long as its making.
+    std::function<Written()> finishing = [last = std::exchange(folder, nullptr), isComplete]() mutable {
+        const Written finished = isComplete ? last->finish() : Written();
+        last.reset();
+        return finished;
+    };
+    auto ending = m_writer.run(std::move(finishing));
+    const Written finished = co_await ending;
+    if (!finished)
+        outcome.result = resultOf(finished.error());
+    co_return outcome;
+}
+
+} // namespace vellumry
