@@ -20,6 +20,7 @@
 #include "linux/reader/ReaderImageCodec.h"
 #include "linux/reader/ReaderTextReader.h"
 #include "linux/sound/ThemeSounds.h"
+#include "linux/tray/SessionTray.h"
 #include "linux/tray/StatusNotifierTray.h"
 #include "linux/update/AppImageUpdater.h"
 #include "linux/x11/drag/X11DragSource.h"
@@ -29,6 +30,7 @@
 #include "linux/x11/keys/X11PasteTarget.h"
 #include "linux/x11/selection/X11Pasteboard.h"
 #include "linux/x11/windows/WaylandSession.h"
+#include "linux/x11/windows/X11ClassicIcon.h"
 #include "linux/x11/windows/X11Focus.h"
 #include "linux/x11/windows/X11FrontmostApplication.h"
 #include "linux/x11/windows/X11IdleTime.h"
@@ -48,6 +50,14 @@
 namespace vellumry {
 
 namespace {
+
+QImage trayMark(const QSize& size) {
+    return symbolImage(QStringLiteral("Logo"), QColor::fromRgb(TrayPictures::colour), size);
+}
+
+std::unique_ptr<StatusItem> sessionTray(std::unique_ptr<ClassicIcon> classic) {
+    return std::make_unique<SessionTray>(std::make_unique<StatusNotifierTray>(&symbolImage), std::move(classic));
+}
 
 /// One connection for keys, focus and windows; the pasteboard has its own, with its own thread.
 std::optional<Reason> addX11Display(Platform& platform) {
@@ -90,6 +100,7 @@ std::optional<Reason> addX11Display(Platform& platform) {
     platform.idleSeconds = [idle = std::make_shared<X11IdleTime>(connection)] { return idle->seconds(); };
     platform.panelSurface = std::make_unique<X11PanelSurface>(connection, focus);
     platform.drags = std::make_unique<X11DragSource>();
+    platform.statusItem = sessionTray(std::make_unique<X11ClassicIcon>(connection, &trayMark));
     return std::nullopt;
 }
 
@@ -134,7 +145,8 @@ OrReason<Platform> makeLinuxPlatform(DisplayKind display) {
     platform.singleInstance = std::make_unique<DBusSingleInstance>();
     platform.sounds = std::make_unique<ThemeSounds>();
     platform.opener = std::make_unique<DesktopOpener>();
-    platform.statusItem = std::make_unique<StatusNotifierTray>(&symbolImage);
+    if (!platform.statusItem)
+        platform.statusItem = sessionTray(nullptr);
     platform.keyStore = std::make_unique<KeychainKeyStore>();
     const QString reader = readerPath();
     platform.findCapabilities = [reader] { return capabilities::ofSession(reader); };

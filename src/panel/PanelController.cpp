@@ -129,6 +129,11 @@ void PanelController::makeView() {
     m_preview.setDormant(true);
 }
 
+void PanelController::showStatusMenu() {
+    show();
+    Q_EMIT m_facade.statusMenuAsked();
+}
+
 void PanelController::warmUp() {
     if (!m_view)
         makeView();

@@ -73,6 +73,8 @@ public:
     void hide();
     void toggle();
     [[nodiscard]] bool isVisible() const;
+    /// Shows the panel, if it is not there, and in it the menu of the program.
+    void showStatusMenu();
     /// Makes the window without showing it, so that the first showing is as quick as the others.
     void warmUp();
     void setAppearance(Appearance appearance) { m_views->setAppearance(appearance); }

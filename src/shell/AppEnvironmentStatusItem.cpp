@@ -27,8 +27,8 @@ std::vector<Capability> AppEnvironment::capabilities() const {
     const QString tray = QStringLiteral("tray");
     std::vector<Capability> capabilities = m_platform->capabilities;
     capabilities.push_back(
-        (isInTray() ? Capability::found(tray, QStringLiteral("StatusNotifierItem"))
-                    : Capability::without(tray, QStringLiteral("no panel that shows icons over the session bus: the "
+        (isInTray() ? Capability::found(tray, QStringLiteral("the icon is in the desktop's panel"))
+                    : Capability::without(tray, QStringLiteral("no panel or tray that shows icons: the "
                                                                "menu is behind a button of the panel of clips")))
             .serving({Feature::tray}));
     return capabilities;
@@ -37,6 +37,10 @@ std::vector<Capability> AppEnvironment::capabilities() const {
 void AppEnvironment::installStatusItem() {
     StatusItem& item = *m_platform->statusItem;
     item.menu = [self = QPointer(this)] { return self ? self->statusMenu() : std::vector<ActionMenuItem>(); };
+    item.onMenuWanted = [self = QPointer(this)] {
+        if (self)
+            self->m_panel->showStatusMenu();
+    };
     connect(m_store.get(), &ClipStore::clipsChanged, this, [&item] { item.menuChanged(); });
     item.install();
 }

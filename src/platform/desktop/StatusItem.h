@@ -15,6 +15,8 @@ public:
 
     /// Answers the menu as it is now; asked at each opening. Set before `install`.
     std::function<std::vector<ActionMenuItem>()> menu;
+    /// The icon was clicked in a place that opens no menus: the program is to show its own.
+    std::function<void()> onMenuWanted = [] {};
     /// `isShown` answers otherwise.
     std::function<void()> onShownChanged = [] {};
 
