@@ -85,4 +85,29 @@ ScrollPane {
             }
         }
     }
+    Flow {
+        width: parent.width
+        spacing: Theme.gap
+
+        PushButton {
+            text: Views.words("Website")
+            symbol: "arrow.up.right"
+            onPressed: pane.settings.openWebsite()
+        }
+        PushButton {
+            text: Views.words("Email support")
+            symbol: "arrow.up.right"
+            onPressed: pane.settings.openSupport()
+        }
+        PushButton {
+            text: Views.words("Privacy policy")
+            symbol: "arrow.up.right"
+            onPressed: pane.settings.openPrivacy()
+        }
+        PushButton {
+            text: Views.words("Terms")
+            symbol: "arrow.up.right"
+            onPressed: pane.settings.openTerms()
+        }
+    }
 }

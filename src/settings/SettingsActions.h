@@ -57,6 +57,7 @@ struct SettingsActions {
     std::function<void(bool isOn)> setAutomaticUpdates = [](bool) {};
     std::function<void()> checkForUpdates = [] {};
     std::function<void()> installUpdate = [] {};
+    std::function<void(const QString& address)> openLink = [](const QString&) {};
     std::function<void()> beep = [] {};
 };
 

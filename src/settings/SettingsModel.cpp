@@ -3,6 +3,7 @@
 
 #include "foundation/Localisation.h"
 #include "settings/ApplicationLines.h"
+#include "settings/ProductLinks.h"
 #include "settings/SettingsLabels.h"
 
 #include <QCoreApplication>
@@ -159,6 +160,22 @@ void SettingsModel::allowPasting() {
     actions.allowPasting();
     m_hasAccessibility = actions.isTrusted();
     Q_EMIT changed();
+}
+
+void SettingsModel::openWebsite() {
+    actions.openLink(productlinks::website);
+}
+
+void SettingsModel::openSupport() {
+    actions.openLink(productlinks::support);
+}
+
+void SettingsModel::openPrivacy() {
+    actions.openLink(productlinks::privacy);
+}
+
+void SettingsModel::openTerms() {
+    actions.openLink(productlinks::terms);
 }
 
 void SettingsModel::centerPanel() {

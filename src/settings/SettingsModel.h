@@ -68,6 +68,10 @@ public:
     /// Asks the desktop for everything that the file does not say: before the window is shown, and when the user comes
     /// back to it.
     Q_INVOKABLE void refreshAll();
+    /// The keys that are pressed are a new shortcut.
+    [[nodiscard]] bool isRecording() const {
+        return m_openPanelShortcut.isRecording() || m_pasteStackShortcut.isRecording();
+    }
     /// A recording, if there is one, ends without a change.
     void stopRecording();
 
@@ -130,6 +134,10 @@ public:
     Q_INVOKABLE void allowPasting();
     Q_INVOKABLE void checkForUpdates() { actions.checkForUpdates(); }
     Q_INVOKABLE void installUpdate() { actions.installUpdate(); }
+    Q_INVOKABLE void openWebsite();
+    Q_INVOKABLE void openSupport();
+    Q_INVOKABLE void openPrivacy();
+    Q_INVOKABLE void openTerms();
     Q_INVOKABLE void centerPanel();
     Q_INVOKABLE void takeOfferedShortcut();
     Q_INVOKABLE void clearHistory() { runClearing(false); }

@@ -56,6 +56,10 @@ void SettingsWindowController::show(int pane) {
         frame.moveCenter(room.center());
         m_view->setGeometry(frame);
     }
+    bringForward();
+}
+
+void SettingsWindowController::bringForward() {
     m_view->show();
     m_view->raise();
     m_view->requestActivate();

@@ -23,6 +23,8 @@ public:
 
     /// Brings the window to the front with that pane, 0 to 4.
     void show(int pane);
+    /// The window, which is open, comes to the front as it is.
+    void bringForward();
     void close();
     [[nodiscard]] bool isVisible() const;
     /// Null before it is first shown.

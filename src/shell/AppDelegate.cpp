@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QHash>
+#include <QKeyEvent>
 #include <QPointer>
 #include <algorithm>
 #include <iterator>
@@ -49,10 +50,25 @@ bool AppDelegate::applicationDidFinishLaunching() {
     return true;
 }
 
+/// The keys that every window of the program has, whatever has the keyboard in it: Ctrl+, and Ctrl+Q.
+bool AppDelegate::isWindowKey(const QKeyEvent& event) {
+    if (!m_environment || event.modifiers() != Qt::ControlModifier || m_environment->settingsModel().isRecording())
+        return false;
+    if (event.key() == Qt::Key_Comma)
+        m_environment->openSettings();
+    else if (event.key() == Qt::Key_Q)
+        endProgram();
+    else
+        return false;
+    return true;
+}
+
 /// Qt closes all windows when it is told to quit, by a session's end for one. None of them was closed by the user then.
 bool AppDelegate::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Quit)
         applicationShouldTerminate();
+    if (event->type() == QEvent::KeyPress && watched->isWindowType() && isWindowKey(static_cast<QKeyEvent&>(*event)))
+        return true;
     return QObject::eventFilter(watched, event);
 }
 

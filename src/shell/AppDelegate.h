@@ -8,6 +8,8 @@
 #include <functional>
 #include <memory>
 
+class QKeyEvent;
+
 namespace vellumry {
 
 class AppEnvironment;
@@ -38,6 +40,7 @@ protected:
 
 private:
     void launch();
+    [[nodiscard]] bool isWindowKey(const QKeyEvent& event);
     void findCapabilities();
     [[nodiscard]] QString status() const;
     void reopen();

@@ -171,6 +171,8 @@ void AppEnvironment::applyAppearance() {
 void AppEnvironment::watchSettings() {
     SettingsWatch::Reactions reactions;
     reactions.shortcuts = [this] {
+        if (m_areShortcutsSuspended)
+            return;
         for (const QString& problem : reloadShortcuts())
             showToast({QStringLiteral("exclamationmark.triangle.fill"), problem, ToastMessage::Tone::warning});
     };
@@ -217,6 +219,9 @@ void AppEnvironment::showToast(const ToastMessage& message) {
 }
 
 QStringList AppEnvironment::reloadShortcuts() {
+    // A settings file that was changed meanwhile is read at the end of the recording.
+    if (m_areShortcutsSuspended)
+        return m_settingsModel->shortcutProblems();
     const QStringList problems = m_shortcuts->reload();
     m_panel->model().setAvailablePinnedNumbers(m_shortcuts->availablePinnedNumbers());
     m_settingsModel->setShortcutProblems(problems);
@@ -228,6 +233,7 @@ QStringList AppEnvironment::reloadShortcuts() {
 }
 
 void AppEnvironment::suspendShortcuts(bool isSuspended) {
+    m_areShortcutsSuspended = isSuspended;
     if (isSuspended)
         m_shortcuts->suspend();
     else

@@ -60,7 +60,7 @@ public:
     void togglePanel();
     /// The settings window comes to the front with its first pane.
     void openSettings();
-    /// The user started the program again: the first run comes forward, or the settings.
+    /// The user started the program again: the window that is open comes forward as it is, else the settings come.
     void reopen();
     void showToast(const ToastMessage& message);
     /// Stops the Paste Stack when it runs, else starts it, with the clips that are selected in the open panel when they
@@ -187,6 +187,7 @@ private:
     std::optional<Date> m_lastLowDiskWarning;
     bool m_isQuitting = false;
     bool m_wasBehind = false;
+    bool m_areShortcutsSuspended = false; ///< the keys that are pressed are a new one
     bool m_hasWorked = true; ///< started, or shown its panel, since memory was last given back
 };
 

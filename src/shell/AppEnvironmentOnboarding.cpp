@@ -59,6 +59,8 @@ bool AppEnvironment::mayKeyringAsk() {
 void AppEnvironment::reopen() {
     if (m_onboarding->isVisible())
         m_onboarding->show();
+    else if (m_settings->isVisible())
+        m_settings->bringForward();
     else
         openSettings();
 }

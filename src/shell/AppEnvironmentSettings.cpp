@@ -72,6 +72,7 @@ SettingsActions AppEnvironment::settingsActions() {
     actions.setAutomaticUpdates = [this](bool isOn) { m_updates->setAutomaticallyInstalls(isOn); };
     actions.checkForUpdates = [this] { m_updates->checkNow(); };
     actions.installUpdate = [this] { m_updates->requestInstall(); };
+    actions.openLink = [this](const QString& address) { openLink(address); };
     actions.beep = [this] { m_platform->sounds->play(Sound::refusal); };
     return actions;
 }

@@ -2,6 +2,7 @@
 #include "shell/StatusMenu.h"
 
 #include "foundation/Localisation.h"
+#include "settings/ProductLinks.h"
 #include "shell/StatusMenuRows.h"
 
 #include <QDateTime>
@@ -144,16 +145,14 @@ std::optional<ActionMenuItem> updateItem(const StatusMenuState& state, const Sta
 }
 
 ActionMenuItem helpItem(const StatusMenuState& state, const StatusMenuActions& actions) {
-    const auto link = [&actions](const QString& text, const char* address) {
-        return ActionMenuItem{
-            .text = text,
-            .handler = [open = actions.openLink, address = QString::fromLatin1(address)] { open(address); }};
+    const auto link = [&actions](const QString& text, const QString& address) {
+        return ActionMenuItem{.text = text, .handler = [open = actions.openLink, address] { open(address); }};
     };
     ActionMenuItem help{.text = localised("Help"),
                         .symbol = QStringLiteral("questionmark.circle"),
-                        .items = {link(localised("Vellumry Website"), "https://vellumry.com"),
-                                  link(localised("Email Support"), "mailto:support@vellumry.com"),
-                                  link(localised("Privacy Policy"), "https://vellumry.com/privacy")}};
+                        .items = {link(localised("Vellumry Website"), productlinks::website),
+                                  link(localised("Email Support"), productlinks::support),
+                                  link(localised("Privacy Policy"), productlinks::privacy)}};
     if (state.canCheckForUpdates) {
         help.items.push_back(ActionMenuItem::separator());
         help.items.push_back({.text = localised("Check for Updates…"), .handler = actions.checkForUpdates});

@@ -341,6 +341,20 @@ TEST_F(SettingsWindowTest, UpdatesAreShownWhereThereAreAny) {
     EXPECT_EQ(installs, 1);
 }
 
+TEST_F(SettingsWindowTest, TheMakersPagesAreReachedByKeys) {
+    QStringList opened;
+    model.actions.openLink = [&opened](const QString& address) { opened.append(address); };
+    goTo(4);
+    savePicture("settings-about");
+    for (const char* name : {"Website", "Email support", "Privacy policy", "Terms"}) {
+        tabTo(name);
+        press(Qt::Key_Space);
+    }
+    EXPECT_EQ(opened, (QStringList{QStringLiteral("https://vellumry.com"), QStringLiteral("mailto:support@vellumry.com"),
+                                   QStringLiteral("https://vellumry.com/privacy"),
+                                   QStringLiteral("https://vellumry.com/terms")}));
+}
+
 TEST_F(SettingsWindowTest, TheKeyboardBringsWhatItReachesIntoView) {
     window().resize(540, 320);
     tabTo("Save new screenshots");

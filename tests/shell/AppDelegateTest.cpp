@@ -6,6 +6,9 @@
 #include <QDir>
 #include <QEvent>
 #include <QFile>
+#include <QQuickItem>
+#include <QTest>
+#include <algorithm>
 
 namespace vellumry {
 namespace {
@@ -48,6 +51,38 @@ TEST_F(AppDelegateTest, StartingItAgainBringsTheSettings) {
     instance->onReopen();
     EXPECT_TRUE(delegate.environment()->settings().isVisible());
     EXPECT_FALSE(delegate.environment()->panel().isVisible());
+}
+
+TEST_F(AppDelegateTest, StartingItAgainLeavesAnOpenWindowAsItIs) {
+    run();
+    instance->onReopen();
+    QQuickView* window = delegate.environment()->settings().window();
+    window->rootObject()->setProperty("pane", 3);
+    instance->onReopen();
+    EXPECT_EQ(window->rootObject()->property("pane"), 3);
+    runUntil([window] { return QGuiApplication::focusWindow() == window; });
+}
+
+TEST_F(AppDelegateTest, EveryWindowHasTheKeysOfTheProgram) {
+    run();
+    instance->onAction(QStringLiteral("open-panel"));
+    const auto panels = QGuiApplication::topLevelWindows();
+    const auto panel = std::ranges::find_if(panels, [](const QWindow* window) { return window->isVisible(); });
+    ASSERT_NE(panel, panels.end());
+    QTest::keyClick(*panel, Qt::Key_Comma, Qt::ControlModifier);
+    ASSERT_TRUE(delegate.environment()->settings().isVisible());
+    QQuickView* window = delegate.environment()->settings().window();
+    SettingsModel& model = delegate.environment()->settingsModel();
+    // A shortcut to be: nobody else takes it.
+    model.openPanelShortcut()->toggle();
+    QTest::keyClick(window, Qt::Key_Comma, Qt::ControlModifier);
+    QTest::keyClick(window, Qt::Key_Q, Qt::ControlModifier);
+    model.stopRecording();
+    bool isEnding = false;
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &delegate, [&isEnding] { isEnding = true; });
+    QTimer::singleShot(0, &delegate, [window] { QTest::keyClick(window, Qt::Key_Q, Qt::ControlModifier); });
+    QCoreApplication::exec();
+    EXPECT_TRUE(isEnding) << "a program that stays would run into the limit of the test";
 }
 
 TEST_F(AppDelegateTest, TheSettingsComeInPlaceOfThePanel) {

@@ -86,6 +86,19 @@ TEST_F(AppSettingsTest, WhileOneIsRecordedNoShortcutFires) {
     EXPECT_TRUE(press(Shortcut::openPanelDefault()));
 }
 
+TEST_F(AppSettingsTest, AFileThatIsChangedWhileOneIsRecordedCountsAtItsEnd) {
+    startWatched();
+    const Shortcut other{11, 0x1100};
+    environment->settingsModel().openPanelShortcut()->toggle();
+    set("openPanelShortcut", other.toJson());
+    set("pinnedShortcutsEnabled", false);
+    EXPECT_FALSE(press(other)) << "the recorder has the keyboard";
+    EXPECT_FALSE(press(Shortcut::pasteStackDefault()));
+    environment->settingsModel().stopRecording();
+    EXPECT_TRUE(press(other));
+    EXPECT_TRUE(press(Shortcut::pasteStackDefault()));
+}
+
 TEST_F(AppSettingsTest, FewerClipsAreKeptAtOnce) {
     startWatched();
     for (int index = 0; index < 210; ++index)
