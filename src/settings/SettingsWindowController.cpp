@@ -22,8 +22,7 @@ constexpr int leastHeight = 320;
 
 } // namespace
 
-SettingsWindowController::SettingsWindowController(SettingsModel& model, TransferModel& transfer,
-                                                   ViewEngine& views)
+SettingsWindowController::SettingsWindowController(SettingsModel& model, TransferModel& transfer, ViewEngine& views)
     : m_model(&model)
     , m_transfer(&transfer)
     , m_views(&views) {}

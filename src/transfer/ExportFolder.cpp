@@ -27,13 +27,15 @@ Failure failureOf(int error) {
 }
 
 int makeFile(const QString& path) {
-    return ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, privateFile);
+    return ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+                  privateFile);
 }
 
 /// 0, or the error.
 int writeAll(int descriptor, const QByteArray& bytes) {
     for (qsizetype written = 0; written < bytes.size();) {
-        const ssize_t count = ::write(descriptor, bytes.constData() + written, static_cast<std::size_t>(bytes.size() - written));
+        const ssize_t count =
+            ::write(descriptor, bytes.constData() + written, static_cast<std::size_t>(bytes.size() - written));
         if (count < 0 && errno != EINTR)
             return errno;
         written += std::max<ssize_t>(count, 0);
@@ -63,8 +65,7 @@ std::expected<std::unique_ptr<ExportFolder>, Failure> ExportFolder::create(const
         return std::unexpected(failureOf(errno));
     folder->m_written.append(unfinishedIndex);
     folder->m_index.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
-    const QByteArray head =
-        "{\"vellumryExport\": " + QByteArray::number(exportformat::version) + ",\n \"clips\": [";
+    const QByteArray head = "{\"vellumryExport\": " + QByteArray::number(exportformat::version) + ",\n \"clips\": [";
     if (auto begun = folder->append(head); !begun)
         return std::unexpected(begun.error());
     return folder;

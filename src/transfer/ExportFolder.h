@@ -11,8 +11,8 @@
 
 namespace vellumry {
 
-/// A folder that clips are exported to, readable by its owner alone. The index is named last: a folder without one is no
-/// export. Blocks; one thread at a time.
+/// A folder that clips are exported to, readable by its owner alone. The index is named last: a folder without one is
+/// no export. Blocks; one thread at a time.
 class ExportFolder {
 public:
     enum class Failure : quint8 {

@@ -14,12 +14,18 @@ namespace {
 
 QString extensionOf(const QString& type) {
     static const QHash<QString, QString> extensions{
-        {uniformtype::utf8PlainText, QStringLiteral("txt")}, {uniformtype::html, QStringLiteral("html")},
-        {uniformtype::rtf, QStringLiteral("rtf")},           {uniformtype::png, QStringLiteral("png")},
-        {uniformtype::tiff, QStringLiteral("tiff")},         {uniformtype::jpeg, QStringLiteral("jpg")},
-        {uniformtype::heic, QStringLiteral("heic")},         {uniformtype::pdf, QStringLiteral("pdf")},
-        {uniformtype::url, QStringLiteral("url.txt")},       {uniformtype::fileUrl, QStringLiteral("files.txt")},
-        {QStringLiteral("image/gif"), QStringLiteral("gif")}, {QStringLiteral("image/webp"), QStringLiteral("webp")},
+        {uniformtype::utf8PlainText, QStringLiteral("txt")},
+        {uniformtype::html, QStringLiteral("html")},
+        {uniformtype::rtf, QStringLiteral("rtf")},
+        {uniformtype::png, QStringLiteral("png")},
+        {uniformtype::tiff, QStringLiteral("tiff")},
+        {uniformtype::jpeg, QStringLiteral("jpg")},
+        {uniformtype::heic, QStringLiteral("heic")},
+        {uniformtype::pdf, QStringLiteral("pdf")},
+        {uniformtype::url, QStringLiteral("url.txt")},
+        {uniformtype::fileUrl, QStringLiteral("files.txt")},
+        {QStringLiteral("image/gif"), QStringLiteral("gif")},
+        {QStringLiteral("image/webp"), QStringLiteral("webp")},
         {QStringLiteral("image/svg+xml"), QStringLiteral("svg")},
     };
     return extensions.value(type, QStringLiteral("bin"));
@@ -142,8 +148,7 @@ std::optional<ImportEntry> decoded(const QJsonObject& object, const ReadFile& re
     entry.source = {textOf(object, "source"), textOf(object, "sourceName")};
     entry.isScreenshot = object[QStringLiteral("isScreenshot")].toBool();
     const auto list = textOf(object, "files");
-    auto items =
-        list ? decodedList(*list, read) : decodedItems(object[QStringLiteral("items")].toArray(), read);
+    auto items = list ? decodedList(*list, read) : decodedItems(object[QStringLiteral("items")].toArray(), read);
     if (!items)
         return std::nullopt;
     entry.payload.items = std::move(*items);
@@ -152,7 +157,8 @@ std::optional<ImportEntry> decoded(const QJsonObject& object, const ReadFile& re
 
 bool isPlainName(const QString& name) {
     return !name.isEmpty() && !name.startsWith(u'.') && std::ranges::all_of(name, [](QChar letter) {
-        return letter.unicode() < 0x80 && (letter.isLetterOrNumber() || letter == u'.' || letter == u'-' || letter == u'_');
+        return letter.unicode() < 0x80 &&
+               (letter.isLetterOrNumber() || letter == u'.' || letter == u'-' || letter == u'_');
     });
 }
 

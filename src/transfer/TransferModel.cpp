@@ -20,8 +20,8 @@ TransferModel::TransferModel(HistoryImport& import, HistoryExport& exporting, Ho
 TransferModel::~TransferModel() = default;
 
 QString TransferModel::suggestedFolder() const {
-    const QString plain = m_hooks.home + u'/' +
-                          localised("Vellumry %1").arg(QDate::currentDate().toString(Qt::ISODate));
+    const QString plain =
+        m_hooks.home + u'/' + localised("Vellumry %1").arg(QDate::currentDate().toString(Qt::ISODate));
     QString path = plain;
     for (int again = 2; QFileInfo::exists(path); ++again)
         path = QStringLiteral("%1 (%2)").arg(plain).arg(again);

@@ -115,8 +115,9 @@ private:
         };
         model.actions.allowFileFolders = []() -> QCoro::Task<FileAccess::Result> { co_return FileAccess::Result(); };
         Transfers transfers;
-        transfers.peers.found = {{QStringLiteral("copyq"), QStringLiteral("CopyQ"), PeerHistory::State::whole, 1204, 3},
-                                 {QStringLiteral("gpaste"), QStringLiteral("GPaste"), PeerHistory::State::damaged, 96, 1}};
+        transfers.peers.found = {
+            {QStringLiteral("copyq"), QStringLiteral("CopyQ"), PeerHistory::State::whole, 1204, 3},
+            {QStringLiteral("gpaste"), QStringLiteral("GPaste"), PeerHistory::State::damaged, 96, 1}};
         SettingsWindowController controller(model, transfers.model, views);
         const char* const panes[]{"settings-general", "settings-shortcuts", "settings-history", "settings-privacy",
                                   "settings-about"};

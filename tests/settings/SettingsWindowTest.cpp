@@ -350,9 +350,10 @@ TEST_F(SettingsWindowTest, TheMakersPagesAreReachedByKeys) {
         tabTo(name);
         press(Qt::Key_Space);
     }
-    EXPECT_EQ(opened, (QStringList{QStringLiteral("https://vellumry.com"), QStringLiteral("mailto:support@vellumry.com"),
-                                   QStringLiteral("https://vellumry.com/privacy"),
-                                   QStringLiteral("https://vellumry.com/terms")}));
+    EXPECT_EQ(
+        opened,
+        (QStringList{QStringLiteral("https://vellumry.com"), QStringLiteral("mailto:support@vellumry.com"),
+                     QStringLiteral("https://vellumry.com/privacy"), QStringLiteral("https://vellumry.com/terms")}));
 }
 
 TEST_F(SettingsWindowTest, TheKeyboardBringsWhatItReachesIntoView) {

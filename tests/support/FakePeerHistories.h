@@ -22,7 +22,8 @@ public:
 
     /// A history that is whole.
     Contents& add(const QString& identifier, std::vector<PeerClip> clips, Date newest) {
-        found.push_back({identifier, identifier.toUpper(), PeerHistory::State::whole, static_cast<int>(clips.size()), 0});
+        found.push_back(
+            {identifier, identifier.toUpper(), PeerHistory::State::whole, static_cast<int>(clips.size()), 0});
         const auto added = std::make_shared<Contents>(Contents{std::move(clips), newest, false});
         contents.insert(identifier, added);
         return *added;
@@ -39,7 +40,8 @@ private:
         explicit Reading(std::shared_ptr<Contents> contents)
             : m_contents(std::move(contents)) {}
         [[nodiscard]] std::optional<PeerClip> next() override {
-            return m_position < m_contents->clips.size() ? std::optional(m_contents->clips[m_position++]) : std::nullopt;
+            return m_position < m_contents->clips.size() ? std::optional(m_contents->clips[m_position++])
+                                                         : std::nullopt;
         }
         [[nodiscard]] bool isDamaged() const override { return m_contents->isDamaged; }
         [[nodiscard]] Date newest() const override { return m_contents->newest; }

@@ -24,7 +24,8 @@ protected:
         rich.sourceBundleID = QStringLiteral("org.example.Editor");
         rich.sourceAppName = QStringLiteral("Editor");
         rich.payload.items.front().representations.emplace(uniformtype::html, "<b>rich</b>\xff");
-        rich.payload.items.front().representations.emplace(QStringLiteral("application/x-one"), QByteArray("\0\1\2", 3));
+        rich.payload.items.front().representations.emplace(QStringLiteral("application/x-one"),
+                                                           QByteArray("\0\1\2", 3));
         rich.payload.items.front().representations.emplace(QStringLiteral("application/x-two"), "second");
         rich.payload.items.front().order = QStringList{uniformtype::html, QStringLiteral("application/x-two"),
                                                        uniformtype::utf8PlainText, QStringLiteral("application/x-one")};
@@ -176,8 +177,9 @@ TEST_F(HistoryExportTest, AFolderThatSomebodyChangedGivesWhatIsLeft) {
     EXPECT_EQ(outcome.added, 4);
     EXPECT_EQ(outcome.unusable, 2);
     EXPECT_TRUE(outcome.isDamaged);
-    for (const QByteArray& bytes : {QByteArray("{"), QByteArray("[]"), QByteArray("{\"vellumryExport\": 2, \"clips\": []}"),
-                                    QByteArray("{\"vellumryExport\": 1, \"clips\": 3}")}) {
+    for (const QByteArray& bytes :
+         {QByteArray("{"), QByteArray("[]"), QByteArray("{\"vellumryExport\": 2, \"clips\": []}"),
+          QByteArray("{\"vellumryExport\": 1, \"clips\": 3}")}) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(bytes);
         file.close();

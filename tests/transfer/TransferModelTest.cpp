@@ -22,7 +22,9 @@ protected:
     void settle() {
         runUntil([this] { return !model.isBusy() && !model.isLooking(); });
     }
-    [[nodiscard]] QVariant shown(int line, int role) { return model.histories()->data(model.histories()->index(line), role); }
+    [[nodiscard]] QVariant shown(int line, int role) {
+        return model.histories()->data(model.histories()->index(line), role);
+    }
 
     QStringList imported;
     int arrivals = 0;

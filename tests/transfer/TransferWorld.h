@@ -34,7 +34,9 @@ protected:
     static PeerClip entry(const QByteArray& utf8, std::optional<Date> copiedAt = std::nullopt) {
         return {text(utf8), copiedAt};
     }
-    ImportOutcome importPeer(const char* identifier) { return awaited(import->importPeer(QString::fromUtf8(identifier))); }
+    ImportOutcome importPeer(const char* identifier) {
+        return awaited(import->importPeer(QString::fromUtf8(identifier)));
+    }
     ImportOutcome importFolder(const QString& folder) { return awaited(import->importFolder(folder)); }
     ExportOutcome exportTo(const QString& folder) { return awaited(exporting.run(folder)); }
     [[nodiscard]] QStringList titles() const {

@@ -21,13 +21,18 @@ const QString ownTypes = QStringLiteral("application/x-copyq-");
 
 /// What the first letter of a MIME type stands for, by its value as a hexadecimal digit.
 const std::array<QString, 12>& beginnings() {
-    static const std::array<QString, 12> list{
-        QString(),           ownTypes + QStringLiteral("owner-window-title"),
-        ownTypes + QStringLiteral("item-notes"), ownTypes,
-        QStringLiteral("text/plain"),            QStringLiteral("text/html"),
-        QStringLiteral("text/uri-list"),         QStringLiteral("image/"),
-        QStringLiteral("text/"),                 QStringLiteral("application/"),
-        QStringLiteral("audio/"),                QStringLiteral("video/")};
+    static const std::array<QString, 12> list{QString(),
+                                              ownTypes + QStringLiteral("owner-window-title"),
+                                              ownTypes + QStringLiteral("item-notes"),
+                                              ownTypes,
+                                              QStringLiteral("text/plain"),
+                                              QStringLiteral("text/html"),
+                                              QStringLiteral("text/uri-list"),
+                                              QStringLiteral("image/"),
+                                              QStringLiteral("text/"),
+                                              QStringLiteral("application/"),
+                                              QStringLiteral("audio/"),
+                                              QStringLiteral("video/")};
     return list;
 }
 
@@ -137,7 +142,8 @@ std::optional<PeerClip> CopyQHistory::readItem() {
         auto bytes = reader.bytes(peeritems::mostBytes);
         if (!type || !flag || !bytes)
             return std::nullopt;
-        isLocked = isLocked || *type == ownTypes + QStringLiteral("encrypted") || *type == ownTypes + QStringLiteral("secret");
+        isLocked =
+            isLocked || *type == ownTypes + QStringLiteral("encrypted") || *type == ownTypes + QStringLiteral("secret");
         isPinned = isPinned || *type == ownTypes + QStringLiteral("item-pinned");
         if (bytes->isTooLarge || type->startsWith(ownTypes))
             continue;

@@ -9,8 +9,8 @@
 namespace vellumry {
 
 /// The tabs of CopyQ, one file each: `copyq_tab_NAME.dat` in its settings folder, in QDataStream's coding of Qt 4.7. A
-/// tab is the number of its items; an item is -2 and the number of its forms, each a MIME type whose first letter stands
-/// for a common beginning, a flag for zlib, and bytes; or, up to version 2, the number of forms, each a type and
+/// tab is the number of its items; an item is -2 and the number of its forms, each a MIME type whose first letter
+/// stands for a common beginning, a flag for zlib, and bytes; or, up to version 2, the number of forms, each a type and
 /// compressed bytes. Newest first. As written by CopyQ 3 to 6, from whose files and published source it was learnt.
 class CopyQHistory : public PeerReading {
 public:

@@ -11,10 +11,12 @@
 
 namespace vellumry {
 
-/// The history of Klipper since Plasma 6.3: `history3.sqlite`, whose table `main` has a row for each entry and `aux` one
-/// for each form of it, with the bytes in `data/ENTRY/FORM` beside it. Learnt from its files and its published source.
+/// The history of Klipper since Plasma 6.3: `history3.sqlite`, whose table `main` has a row for each entry and `aux`
+/// one for each form of it, with the bytes in `data/ENTRY/FORM` beside it. Learnt from its files and its published
+/// source.
 ///
-/// A connection, even one that only reads, would write beside a database with a write-ahead log: a private copy is read.
+/// A connection, even one that only reads, would write beside a database with a write-ahead log: a private copy is
+/// read.
 class KlipperDatabaseHistory : public PeerReading {
 public:
     /// `folder` holds the database. `scratch` is where the copy lies meanwhile.

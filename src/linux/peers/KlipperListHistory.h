@@ -7,9 +7,9 @@
 
 namespace vellumry {
 
-/// The history of Klipper up to Plasma 6.2: `history2.lst`, in QDataStream's coding: a CRC-32, then a QByteArray with the
-/// version and one entry after the other, the newest first: "string" and a text; "url", the addresses, a map and whether
-/// they were cut; "image" and a PNG. Learnt from its files and its published source.
+/// The history of Klipper up to Plasma 6.2: `history2.lst`, in QDataStream's coding: a CRC-32, then a QByteArray with
+/// the version and one entry after the other, the newest first: "string" and a text; "url", the addresses, a map and
+/// whether they were cut; "image" and a PNG. Learnt from its files and its published source.
 class KlipperListHistory : public PeerReading {
 public:
     KlipperListHistory(QByteArray file, Date modified);

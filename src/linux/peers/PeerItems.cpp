@@ -75,8 +75,7 @@ PeerClip ofFormats(const Formats& formats) {
 }
 
 bool isPicture(const PeerClip& clip) {
-    return clip.items.size() == 1 &&
-           std::ranges::all_of(clip.items.front().representations, [](const auto& entry) {
+    return clip.items.size() == 1 && std::ranges::all_of(clip.items.front().representations, [](const auto& entry) {
                return uniformtype::targetsFor(entry.first).value(0).startsWith(u"image/");
            });
 }

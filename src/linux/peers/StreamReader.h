@@ -8,8 +8,8 @@
 
 namespace vellumry {
 
-/// Reads what Qt's data streams write (QDataStream, big-endian) off a source with `read`, `skip` and `left`. Each answer
-/// is nothing where the bytes end or are none of that kind; no length is believed before the bytes are there.
+/// Reads what Qt's data streams write (QDataStream, big-endian) off a source with `read`, `skip` and `left`. Each
+/// answer is nothing where the bytes end or are none of that kind; no length is believed before the bytes are there.
 template <typename Source>
 class StreamReader {
 public:

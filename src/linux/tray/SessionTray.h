@@ -14,7 +14,8 @@ namespace vellumry {
 /// the older kind where there is one. Never in both. Main thread.
 class SessionTray : public StatusItem {
 public:
-    /// What a panel takes to answer over the bus; the classic icon is not shown before, so that it does not come and go.
+    /// What a panel takes to answer over the bus; the classic icon is not shown before, so that it does not come and
+    /// go.
     static constexpr std::chrono::milliseconds usualPatience{1500};
 
     /// `classic` may be null: there are no such trays then.

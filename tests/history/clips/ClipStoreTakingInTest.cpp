@@ -13,7 +13,9 @@ constexpr Date now = 1795000000;
 
 class ClipStoreTakingInTest : public ::testing::Test {
 protected:
-    ClipStoreTakingInTest() { store->setClock([] { return now; }); }
+    ClipStoreTakingInTest() {
+        store->setClock([] { return now; });
+    }
     TakenIn takeIn(const char* text, Provenance provenance) {
         return awaited(store->takeIn(drafts::text(QString::fromUtf8(text)), provenance));
     }

@@ -312,9 +312,11 @@ TEST_F(LinuxPeerHistoriesTest, KlippersDatabaseIsPreferredAndKnowsTimes) {
 TEST_F(LinuxPeerHistoriesTest, WhatKlipperHasOnlyInItsLogIsSeen) {
     moveToPlasma6();
     sqlite3* database = nullptr;
-    ASSERT_EQ(sqlite3_open(QFile::encodeName(folders.data + QStringLiteral("/klipper/history3.sqlite")).constData(), &database),
+    ASSERT_EQ(sqlite3_open(QFile::encodeName(folders.data + QStringLiteral("/klipper/history3.sqlite")).constData(),
+                           &database),
               SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(database, "INSERT INTO main VALUES('00ff', 1795000020, 1795000020, 'text/plain', 'logged', 0)",
+    ASSERT_EQ(sqlite3_exec(database,
+                           "INSERT INTO main VALUES('00ff', 1795000020, 1795000020, 'text/plain', 'logged', 0)",
                            nullptr, nullptr, nullptr),
               SQLITE_OK);
     const auto before = traces(folders.data);

@@ -30,7 +30,8 @@ protected:
     }
     FakeStatusItem* bus = new FakeStatusItem;
     FakeClassicIcon* classic = new FakeClassicIcon;
-    SessionTray tray{std::unique_ptr<StatusItem>(bus), std::unique_ptr<ClassicIcon>(classic), std::chrono::milliseconds(1)};
+    SessionTray tray{std::unique_ptr<StatusItem>(bus), std::unique_ptr<ClassicIcon>(classic),
+                     std::chrono::milliseconds(1)};
     int menus = 0;
     int changes = 0;
 };

@@ -194,12 +194,13 @@ QImage X11ClassicIcon::ground(int width, int height) {
         return image;
     Display* display = m_connection->display();
     XErrorTrap trap(display);
-    const std::unique_ptr<XImage, void (*)(XImage*)> seen(
-        XGetImage(display, m_window, 0, 0, static_cast<unsigned>(width), static_cast<unsigned>(height), AllPlanes, ZPixmap),
-        [](XImage* of) {
-            if (of)
-                XDestroyImage(of);
-        });
+    const std::unique_ptr<XImage, void (*)(XImage*)> seen(XGetImage(display, m_window, 0, 0,
+                                                                    static_cast<unsigned>(width),
+                                                                    static_cast<unsigned>(height), AllPlanes, ZPixmap),
+                                                          [](XImage* of) {
+                                                              if (of)
+                                                                  XDestroyImage(of);
+                                                          });
     for (int y = 0; seen && y < height; ++y) {
         for (int x = 0; x < width; ++x)
             image.setPixel(x, y, 0xff000000U | static_cast<QRgb>(XGetPixel(seen.get(), x, y)));
