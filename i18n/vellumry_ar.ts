@@ -634,7 +634,7 @@
     </message>
     <message>
         <source>For the shortcut, bind these in your desktop's settings</source>
-        <translation>للاختصار، اربط هذه الأوامر في إعدادات سطح المكتب</translation>
+        <translation>للاختصار، اربط هذه في إعدادات سطح مكتبك</translation>
     </message>
     <message>
         <source>Forever</source>
@@ -1911,6 +1911,337 @@
     <message>
         <source>⎋</source>
         <translation>Esc</translation>
+    </message>
+    <message>
+        <source>%1 can't be written to. Choose another folder.</source>
+        <translation>تتعذّر الكتابة في ⁨%1⁩. اختر مجلدًا آخر.</translation>
+    </message>
+    <message>
+        <source>%1 holds no finished export of Vellumry.</source>
+        <translation>لا يحوي ⁨%1⁩ تصديرًا مكتملًا من Vellumry.</translation>
+    </message>
+    <message>
+        <source>%1 is not empty. Choose a new folder.</source>
+        <translation>المجلد ⁨%1⁩ ليس فارغًا. اختر مجلدًا جديدًا.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are beyond the limits of your history.</source>
+        <translation>
+            <numerusform>لم يتجاوز أي عنصر حدود سجلك.</numerusform>
+            <numerusform>تجاوز عنصر واحد حدود سجلك.</numerusform>
+            <numerusform>تجاوز عنصران حدود سجلك.</numerusform>
+            <numerusform>تجاوزت %n عناصر حدود سجلك.</numerusform>
+            <numerusform>تجاوز %n عنصرًا حدود سجلك.</numerusform>
+            <numerusform>تجاوز %n عنصر حدود سجلك.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are in %1 now, and not encrypted there.</source>
+        <translation>
+            <numerusform>لا عناصر في ⁨%1⁩ الآن.</numerusform>
+            <numerusform>عنصر واحد في ⁨%1⁩ الآن، وهو غير مشفّر هناك.</numerusform>
+            <numerusform>عنصران في ⁨%1⁩ الآن، وهما غير مشفّرين هناك.</numerusform>
+            <numerusform>%n عناصر في ⁨%1⁩ الآن، وهي غير مشفّرة هناك.</numerusform>
+            <numerusform>%n عنصرًا في ⁨%1⁩ الآن، وهي غير مشفّرة هناك.</numerusform>
+            <numerusform>%n عنصر في ⁨%1⁩ الآن، وهي غير مشفّرة هناك.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips could not be read.</source>
+        <translation>
+            <numerusform>قُرئت كل العناصر.</numerusform>
+            <numerusform>تعذّرت قراءة عنصر واحد.</numerusform>
+            <numerusform>تعذّرت قراءة عنصرين.</numerusform>
+            <numerusform>تعذّرت قراءة %n عناصر.</numerusform>
+            <numerusform>تعذّرت قراءة %n عنصرًا.</numerusform>
+            <numerusform>تعذّرت قراءة %n عنصر.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips that delete themselves were left out.</source>
+        <translation>
+            <numerusform>لم يُستبعد أي عنصر يُحذف تلقائيًا.</numerusform>
+            <numerusform>استُبعد عنصر واحد يُحذف تلقائيًا.</numerusform>
+            <numerusform>استُبعد عنصران يُحذفان تلقائيًا.</numerusform>
+            <numerusform>استُبعدت %n عناصر تُحذف تلقائيًا.</numerusform>
+            <numerusform>استُبعد %n عنصرًا تُحذف تلقائيًا.</numerusform>
+            <numerusform>استُبعد %n عنصر تُحذف تلقائيًا.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were imported.</source>
+        <translation>
+            <numerusform>لم يُستورد أي عنصر.</numerusform>
+            <numerusform>استُورد عنصر واحد.</numerusform>
+            <numerusform>استُورد عنصران.</numerusform>
+            <numerusform>استُوردت %n عناصر.</numerusform>
+            <numerusform>استُورد %n عنصرًا.</numerusform>
+            <numerusform>استُورد %n عنصر.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were in your history already.</source>
+        <translation>
+            <numerusform>لم يكن أي عنصر في سجلك من قبل.</numerusform>
+            <numerusform>كان عنصر واحد في سجلك من قبل.</numerusform>
+            <numerusform>كان عنصران في سجلك من قبل.</numerusform>
+            <numerusform>كانت %n عناصر في سجلك من قبل.</numerusform>
+            <numerusform>كان %n عنصرًا في سجلك من قبل.</numerusform>
+            <numerusform>كان %n عنصر في سجلك من قبل.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were left out, as nothing is saved from their apps.</source>
+        <translation>
+            <numerusform>لم يُستبعد أي عنصر.</numerusform>
+            <numerusform>استُبعد عنصر واحد، إذ لا يُحفظ شيء من تطبيقه.</numerusform>
+            <numerusform>استُبعد عنصران، إذ لا يُحفظ شيء من تطبيقيهما.</numerusform>
+            <numerusform>استُبعدت %n عناصر، إذ لا يُحفظ شيء من تطبيقاتها.</numerusform>
+            <numerusform>استُبعد %n عنصرًا، إذ لا يُحفظ شيء من تطبيقاتها.</numerusform>
+            <numerusform>استُبعد %n عنصر، إذ لا يُحفظ شيء من تطبيقاتها.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries had nothing in them that can be kept.</source>
+        <translation>
+            <numerusform>لم تخلُ أي مدخلة.</numerusform>
+            <numerusform>لم يكن في مدخلة واحدة ما يمكن حفظه.</numerusform>
+            <numerusform>لم يكن في مدخلتين ما يمكن حفظه.</numerusform>
+            <numerusform>لم يكن في %n مدخلات ما يمكن حفظه.</numerusform>
+            <numerusform>لم يكن في %n مدخلةً ما يمكن حفظه.</numerusform>
+            <numerusform>لم يكن في %n مدخلة ما يمكن حفظه.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>لا عناصر</numerusform>
+            <numerusform>عنصر واحد</numerusform>
+            <numerusform>عنصران</numerusform>
+            <numerusform>%n عناصر</numerusform>
+            <numerusform>%n عنصرًا</numerusform>
+            <numerusform>%n عنصر</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, %1 of them pictures</source>
+        <translation>
+            <numerusform>لا عناصر، والصور منها: %1</numerusform>
+            <numerusform>عنصر واحد، والصور منها: %1</numerusform>
+            <numerusform>عنصران، والصور منها: %1</numerusform>
+            <numerusform>%n عناصر، والصور منها: %1</numerusform>
+            <numerusform>%n عنصرًا، والصور منها: %1</numerusform>
+            <numerusform>%n عنصر، والصور منها: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, one of them a picture</source>
+        <translation>
+            <numerusform>لا عناصر</numerusform>
+            <numerusform>عنصر واحد، وهو صورة</numerusform>
+            <numerusform>عنصران، أحدهما صورة</numerusform>
+            <numerusform>%n عناصر، أحدها صورة</numerusform>
+            <numerusform>%n عنصرًا، أحدها صورة</numerusform>
+            <numerusform>%n عنصر، أحدها صورة</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n passwords, codes or keys were left out.</source>
+        <translation>
+            <numerusform>لم تُستبعد كلمة سر أو رمز أو مفتاح.</numerusform>
+            <numerusform>استُبعدت كلمة سر أو رمز أو مفتاح.</numerusform>
+            <numerusform>استُبعد اثنان من كلمات السر أو الرموز أو المفاتيح.</numerusform>
+            <numerusform>استُبعدت %n من كلمات السر أو الرموز أو المفاتيح.</numerusform>
+            <numerusform>استُبعدت %n من كلمات السر أو الرموز أو المفاتيح.</numerusform>
+            <numerusform>استُبعدت %n من كلمات السر أو الرموز أو المفاتيح.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures were left out, as your disk is almost full.</source>
+        <translation>
+            <numerusform>لم تُستبعد أي صورة.</numerusform>
+            <numerusform>استُبعدت صورة واحدة، إذ أوشك قرصك أن يمتلئ.</numerusform>
+            <numerusform>استُبعدت صورتان، إذ أوشك قرصك أن يمتلئ.</numerusform>
+            <numerusform>استُبعدت %n صور، إذ أوشك قرصك أن يمتلئ.</numerusform>
+            <numerusform>استُبعدت %n صورةً، إذ أوشك قرصك أن يمتلئ.</numerusform>
+            <numerusform>استُبعدت %n صورة، إذ أوشك قرصك أن يمتلئ.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A folder that Vellumry exported</source>
+        <translation>مجلد صدّره Vellumry</translation>
+    </message>
+    <message>
+        <source>Bring your clips along</source>
+        <translation>أحضر عناصرك معك</translation>
+    </message>
+    <message>
+        <source>Damaged. What can be read: %1</source>
+        <translation>تالف. ما يمكن قراءته: %1</translation>
+    </message>
+    <message>
+        <source>Damaged: nothing in it can be read</source>
+        <translation>تالف: لا يمكن قراءة شيء منه</translation>
+    </message>
+    <message>
+        <source>Email support</source>
+        <translation>الدعم بالبريد الإلكتروني</translation>
+    </message>
+    <message>
+        <source>Encrypted: nothing in it can be read</source>
+        <translation>مشفّر: لا يمكن قراءة شيء منه</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>صدّر</translation>
+    </message>
+    <message>
+        <source>Export everything</source>
+        <translation>صدّر كل شيء</translation>
+    </message>
+    <message>
+        <source>Exporting…</source>
+        <translation>جارٍ التصدير…</translation>
+    </message>
+    <message>
+        <source>Exporting… %1</source>
+        <translation>جارٍ التصدير… %1</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>صدّر…</translation>
+    </message>
+    <message>
+        <source>Folder to import from</source>
+        <translation>المجلد المراد الاستيراد منه</translation>
+    </message>
+    <message>
+        <source>From another clipboard app, or from a folder that Vellumry exported.</source>
+        <translation>من تطبيق حافظة آخر، أو من مجلد صدّره Vellumry.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>استورد</translation>
+    </message>
+    <message>
+        <source>Import Again</source>
+        <translation>استورد مجددًا</translation>
+    </message>
+    <message>
+        <source>Import Folder</source>
+        <translation>استورد المجلد</translation>
+    </message>
+    <message>
+        <source>Import clips</source>
+        <translation>استورد العناصر</translation>
+    </message>
+    <message>
+        <source>Importing %1 of %2…</source>
+        <translation>جارٍ استيراد %1 من %2…</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <translation>جارٍ الاستيراد…</translation>
+    </message>
+    <message>
+        <source>Importing… %1</source>
+        <translation>جارٍ الاستيراد… %1</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>استورد…</translation>
+    </message>
+    <message>
+        <source>It can't be opened</source>
+        <translation>لا يمكن فتحه</translation>
+    </message>
+    <message>
+        <source>It is damaged: what could be read was looked at.</source>
+        <translation>إنه تالف: فُحص ما أمكنت قراءته.</translation>
+    </message>
+    <message>
+        <source>Looking for other clipboard apps…</source>
+        <translation>جارٍ البحث عن تطبيقات حافظة أخرى…</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>مجلد جديد</translation>
+    </message>
+    <message>
+        <source>No history of CopyQ, GPaste, Klipper or Clipman was found.</source>
+        <translation>لم يُعثر على سجل من CopyQ أو GPaste أو Klipper أو Clipman.</translation>
+    </message>
+    <message>
+        <source>Other apps</source>
+        <translation>تطبيقات أخرى</translation>
+    </message>
+    <message>
+        <source>Path of the folder</source>
+        <translation>مسار المجلد</translation>
+    </message>
+    <message>
+        <source>Privacy policy</source>
+        <translation>سياسة الخصوصية</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>أوقف</translation>
+    </message>
+    <message>
+        <source>Stopped. Nothing was left in %1.</source>
+        <translation>أُوقف. لم يبقَ شيء في ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Taking it back…</source>
+        <translation>جارٍ التراجع…</translation>
+    </message>
+    <message>
+        <source>Terms</source>
+        <translation>الشروط</translation>
+    </message>
+    <message>
+        <source>Texts, pictures and lists of files become ordinary files, with an index of their times, titles and pins. They are not encrypted there: anybody who can read the folder can read your clips. Clips that delete themselves are left out.</source>
+        <translation>تصير النصوص والصور وقوائم الملفات ملفات عادية، ومعها فهرس بأوقاتها وعناوينها وما ثُبّت منها. وهي هناك غير مشفّرة: كل من يستطيع قراءة المجلد يستطيع قراءة عناصرك. وتُستبعد العناصر التي تُحذف تلقائيًا.</translation>
+    </message>
+    <message>
+        <source>The disk is full. Nothing was left in %1.</source>
+        <translation>القرص ممتلئ. لم يبقَ شيء في ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The import was taken back.</source>
+        <translation>تُرُوجع عن الاستيراد.</translation>
+    </message>
+    <message>
+        <source>The other app's files are only read. Passwords, codes and keys are left out, and clips that you have already.</source>
+        <translation>تُقرأ ملفات التطبيق الآخر فحسب. وتُستبعد كلمات السر والرموز والمفاتيح، والعناصر الموجودة لديك من قبل.</translation>
+    </message>
+    <message>
+        <source>The rest was not looked at, as you stopped it.</source>
+        <translation>لم يُفحص الباقي لأنك أوقفت العملية.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import here any more.</source>
+        <translation>لم يعد هنا ما يُستورد.</translation>
+    </message>
+    <message>
+        <source>To a folder of ordinary files.</source>
+        <translation>إلى مجلد من الملفات العادية.</translation>
+    </message>
+    <message>
+        <source>Too large to be read</source>
+        <translation>أكبر من أن يُقرأ</translation>
+    </message>
+    <message>
+        <source>Undo Import</source>
+        <translation>تراجع عن الاستيراد</translation>
+    </message>
+    <message>
+        <source>Vellumry %1</source>
+        <translation>Vellumry %1</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>الموقع</translation>
     </message>
 </context>
 </TS>

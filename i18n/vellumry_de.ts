@@ -554,11 +554,11 @@
     </message>
     <message>
         <source>For the shortcut, add this to %1</source>
-        <translation>Fügen Sie für das Tastenkürzel dies in %1 ein</translation>
+        <translation>Für das Tastenkürzel fügen Sie dies in %1 ein</translation>
     </message>
     <message>
         <source>For the shortcut, bind these in your desktop's settings</source>
-        <translation>Belegen Sie für das Tastenkürzel dies in den Einstellungen Ihres Desktops</translation>
+        <translation>Für das Tastenkürzel belegen Sie diese in den Einstellungen Ihres Desktops</translation>
     </message>
     <message>
         <source>Forever</source>
@@ -1803,6 +1803,285 @@
     <message>
         <source>⎋</source>
         <translation>Esc</translation>
+    </message>
+    <message>
+        <source>%1 can't be written to. Choose another folder.</source>
+        <translation>In %1 kann nicht geschrieben werden. Wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>%1 holds no finished export of Vellumry.</source>
+        <translation>%1 enthält keinen abgeschlossenen Export von Vellumry.</translation>
+    </message>
+    <message>
+        <source>%1 is not empty. Choose a new folder.</source>
+        <translation>%1 ist nicht leer. Wählen Sie einen neuen Ordner.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are beyond the limits of your history.</source>
+        <translation>
+            <numerusform>%n Eintrag überschreitet die Grenzen Ihres Verlaufs.</numerusform>
+            <numerusform>%n Einträge überschreiten die Grenzen Ihres Verlaufs.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are in %1 now, and not encrypted there.</source>
+        <translation>
+            <numerusform>%n Eintrag liegt jetzt in %1 und ist dort nicht verschlüsselt.</numerusform>
+            <numerusform>%n Einträge liegen jetzt in %1 und sind dort nicht verschlüsselt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips could not be read.</source>
+        <translation>
+            <numerusform>%n Eintrag ließ sich nicht lesen.</numerusform>
+            <numerusform>%n Einträge ließen sich nicht lesen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips that delete themselves were left out.</source>
+        <translation>
+            <numerusform>%n Eintrag, der sich selbst löscht, wurde ausgelassen.</numerusform>
+            <numerusform>%n Einträge, die sich selbst löschen, wurden ausgelassen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were imported.</source>
+        <translation>
+            <numerusform>%n Eintrag wurde importiert.</numerusform>
+            <numerusform>%n Einträge wurden importiert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were in your history already.</source>
+        <translation>
+            <numerusform>%n Eintrag war schon in Ihrem Verlauf.</numerusform>
+            <numerusform>%n Einträge waren schon in Ihrem Verlauf.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were left out, as nothing is saved from their apps.</source>
+        <translation>
+            <numerusform>%n Eintrag wurde ausgelassen, weil aus seiner Anwendung nichts gespeichert wird.</numerusform>
+            <numerusform>%n Einträge wurden ausgelassen, weil aus ihren Anwendungen nichts gespeichert wird.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries had nothing in them that can be kept.</source>
+        <translation>
+            <numerusform>In %n Datensatz war nichts, was sich behalten lässt.</numerusform>
+            <numerusform>In %n Datensätzen war nichts, was sich behalten lässt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n Eintrag</numerusform>
+            <numerusform>%n Einträge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, %1 of them pictures</source>
+        <translation>
+            <numerusform>%n Eintrag, davon Bilder: %1</numerusform>
+            <numerusform>%n Einträge, davon %1 Bilder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, one of them a picture</source>
+        <translation>
+            <numerusform>%n Eintrag, ein Bild</numerusform>
+            <numerusform>%n Einträge, davon ein Bild</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n passwords, codes or keys were left out.</source>
+        <translation>
+            <numerusform>%n Passwort, Code oder Schlüssel wurde ausgelassen.</numerusform>
+            <numerusform>%n Passwörter, Codes oder Schlüssel wurden ausgelassen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures were left out, as your disk is almost full.</source>
+        <translation>
+            <numerusform>%n Bild wurde ausgelassen, weil Ihr Datenträger fast voll ist.</numerusform>
+            <numerusform>%n Bilder wurden ausgelassen, weil Ihr Datenträger fast voll ist.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A folder that Vellumry exported</source>
+        <translation>Ein Ordner, den Vellumry exportiert hat</translation>
+    </message>
+    <message>
+        <source>Bring your clips along</source>
+        <translation>Bringen Sie Ihre Einträge mit</translation>
+    </message>
+    <message>
+        <source>Damaged. What can be read: %1</source>
+        <translation>Beschädigt. Lesbar: %1</translation>
+    </message>
+    <message>
+        <source>Damaged: nothing in it can be read</source>
+        <translation>Beschädigt: nichts darin ist lesbar</translation>
+    </message>
+    <message>
+        <source>Email support</source>
+        <translation>Support per E-Mail</translation>
+    </message>
+    <message>
+        <source>Encrypted: nothing in it can be read</source>
+        <translation>Verschlüsselt: nichts darin ist lesbar</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Export everything</source>
+        <translation>Alles exportieren</translation>
+    </message>
+    <message>
+        <source>Exporting…</source>
+        <translation>Wird exportiert …</translation>
+    </message>
+    <message>
+        <source>Exporting… %1</source>
+        <translation>Wird exportiert … %1</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>Folder to import from</source>
+        <translation>Ordner, aus dem importiert wird</translation>
+    </message>
+    <message>
+        <source>From another clipboard app, or from a folder that Vellumry exported.</source>
+        <translation>Aus einer anderen Zwischenablage-Anwendung oder aus einem Ordner, den Vellumry exportiert hat.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Import Again</source>
+        <translation>Erneut importieren</translation>
+    </message>
+    <message>
+        <source>Import Folder</source>
+        <translation>Ordner importieren</translation>
+    </message>
+    <message>
+        <source>Import clips</source>
+        <translation>Einträge importieren</translation>
+    </message>
+    <message>
+        <source>Importing %1 of %2…</source>
+        <translation>%1 von %2 werden importiert …</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <translation>Wird importiert …</translation>
+    </message>
+    <message>
+        <source>Importing… %1</source>
+        <translation>Wird importiert … %1</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importieren …</translation>
+    </message>
+    <message>
+        <source>It can't be opened</source>
+        <translation>Lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>It is damaged: what could be read was looked at.</source>
+        <translation>Er ist beschädigt: Was lesbar war, wurde durchgesehen.</translation>
+    </message>
+    <message>
+        <source>Looking for other clipboard apps…</source>
+        <translation>Andere Zwischenablage-Anwendungen werden gesucht …</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>No history of CopyQ, GPaste, Klipper or Clipman was found.</source>
+        <translation>Kein Verlauf von CopyQ, GPaste, Klipper oder Clipman wurde gefunden.</translation>
+    </message>
+    <message>
+        <source>Other apps</source>
+        <translation>Andere Anwendungen</translation>
+    </message>
+    <message>
+        <source>Path of the folder</source>
+        <translation>Pfad des Ordners</translation>
+    </message>
+    <message>
+        <source>Privacy policy</source>
+        <translation>Datenschutzerklärung</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Stopped. Nothing was left in %1.</source>
+        <translation>Angehalten. In %1 blieb nichts zurück.</translation>
+    </message>
+    <message>
+        <source>Taking it back…</source>
+        <translation>Wird zurückgenommen …</translation>
+    </message>
+    <message>
+        <source>Terms</source>
+        <translation>Bedingungen</translation>
+    </message>
+    <message>
+        <source>Texts, pictures and lists of files become ordinary files, with an index of their times, titles and pins. They are not encrypted there: anybody who can read the folder can read your clips. Clips that delete themselves are left out.</source>
+        <translation>Texte, Bilder und Dateilisten werden gewöhnliche Dateien, mit einem Verzeichnis ihrer Zeiten, Titel und Anheftungen. Sie sind dort nicht verschlüsselt: Wer den Ordner lesen kann, kann Ihre Einträge lesen. Einträge, die sich selbst löschen, werden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>The disk is full. Nothing was left in %1.</source>
+        <translation>Der Datenträger ist voll. In %1 blieb nichts zurück.</translation>
+    </message>
+    <message>
+        <source>The import was taken back.</source>
+        <translation>Der Import wurde zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>The other app's files are only read. Passwords, codes and keys are left out, and clips that you have already.</source>
+        <translation>Die Dateien der anderen Anwendung werden nur gelesen. Passwörter, Codes und Schlüssel werden ausgelassen, ebenso Einträge, die Sie schon haben.</translation>
+    </message>
+    <message>
+        <source>The rest was not looked at, as you stopped it.</source>
+        <translation>Der Rest wurde nicht durchgesehen, weil Sie angehalten haben.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import here any more.</source>
+        <translation>Hier gibt es nichts mehr zu importieren.</translation>
+    </message>
+    <message>
+        <source>To a folder of ordinary files.</source>
+        <translation>In einen Ordner mit gewöhnlichen Dateien.</translation>
+    </message>
+    <message>
+        <source>Too large to be read</source>
+        <translation>Zu groß, um gelesen zu werden</translation>
+    </message>
+    <message>
+        <source>Undo Import</source>
+        <translation>Import zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Vellumry %1</source>
+        <translation>Vellumry %1</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Website</translation>
     </message>
 </context>
 </TS>

@@ -558,7 +558,7 @@
     </message>
     <message>
         <source>For the shortcut, bind these in your desktop's settings</source>
-        <translation>Para el atajo, asigne esto en los ajustes de su escritorio</translation>
+        <translation>Para el atajo, asígnelos en la configuración de su escritorio</translation>
     </message>
     <message>
         <source>Forever</source>
@@ -1803,6 +1803,285 @@
     <message>
         <source>⎋</source>
         <translation>Esc</translation>
+    </message>
+    <message>
+        <source>%1 can't be written to. Choose another folder.</source>
+        <translation>No se puede escribir en %1. Elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>%1 holds no finished export of Vellumry.</source>
+        <translation>%1 no contiene ninguna exportación terminada de Vellumry.</translation>
+    </message>
+    <message>
+        <source>%1 is not empty. Choose a new folder.</source>
+        <translation>%1 no está vacía. Elija una carpeta nueva.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are beyond the limits of your history.</source>
+        <translation>
+            <numerusform>%n elemento supera los límites de su historial.</numerusform>
+            <numerusform>%n elementos superan los límites de su historial.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are in %1 now, and not encrypted there.</source>
+        <translation>
+            <numerusform>%n elemento está ahora en %1, y ahí no está cifrado.</numerusform>
+            <numerusform>%n elementos están ahora en %1, y ahí no están cifrados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips could not be read.</source>
+        <translation>
+            <numerusform>No se ha podido leer %n elemento.</numerusform>
+            <numerusform>No se han podido leer %n elementos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips that delete themselves were left out.</source>
+        <translation>
+            <numerusform>Se ha omitido %n elemento que se elimina solo.</numerusform>
+            <numerusform>Se han omitido %n elementos que se eliminan solos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were imported.</source>
+        <translation>
+            <numerusform>Se ha importado %n elemento.</numerusform>
+            <numerusform>Se han importado %n elementos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were in your history already.</source>
+        <translation>
+            <numerusform>%n elemento ya estaba en su historial.</numerusform>
+            <numerusform>%n elementos ya estaban en su historial.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were left out, as nothing is saved from their apps.</source>
+        <translation>
+            <numerusform>Se ha omitido %n elemento, porque no se guarda nada de su aplicación.</numerusform>
+            <numerusform>Se han omitido %n elementos, porque no se guarda nada de sus aplicaciones.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries had nothing in them that can be kept.</source>
+        <translation>
+            <numerusform>%n entrada no contenía nada que se pueda conservar.</numerusform>
+            <numerusform>%n entradas no contenían nada que se pueda conservar.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n elemento</numerusform>
+            <numerusform>%n elementos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, %1 of them pictures</source>
+        <translation>
+            <numerusform>%n elemento, %1 de ellos imágenes</numerusform>
+            <numerusform>%n elementos, %1 de ellos imágenes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, one of them a picture</source>
+        <translation>
+            <numerusform>%n elemento, una imagen</numerusform>
+            <numerusform>%n elementos, uno de ellos una imagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n passwords, codes or keys were left out.</source>
+        <translation>
+            <numerusform>Se ha omitido %n contraseña, código o clave.</numerusform>
+            <numerusform>Se han omitido %n contraseñas, códigos o claves.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures were left out, as your disk is almost full.</source>
+        <translation>
+            <numerusform>Se ha omitido %n imagen, porque su disco está casi lleno.</numerusform>
+            <numerusform>Se han omitido %n imágenes, porque su disco está casi lleno.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A folder that Vellumry exported</source>
+        <translation>Una carpeta exportada por Vellumry</translation>
+    </message>
+    <message>
+        <source>Bring your clips along</source>
+        <translation>Traiga sus elementos</translation>
+    </message>
+    <message>
+        <source>Damaged. What can be read: %1</source>
+        <translation>Dañado. Lo que se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>Damaged: nothing in it can be read</source>
+        <translation>Dañado: no se puede leer nada</translation>
+    </message>
+    <message>
+        <source>Email support</source>
+        <translation>Soporte por correo</translation>
+    </message>
+    <message>
+        <source>Encrypted: nothing in it can be read</source>
+        <translation>Cifrado: no se puede leer nada</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Export everything</source>
+        <translation>Exportar todo</translation>
+    </message>
+    <message>
+        <source>Exporting…</source>
+        <translation>Exportando…</translation>
+    </message>
+    <message>
+        <source>Exporting… %1</source>
+        <translation>Exportando… %1</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Folder to import from</source>
+        <translation>Carpeta desde la que importar</translation>
+    </message>
+    <message>
+        <source>From another clipboard app, or from a folder that Vellumry exported.</source>
+        <translation>De otra aplicación de portapapeles, o de una carpeta exportada por Vellumry.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Import Again</source>
+        <translation>Importar de nuevo</translation>
+    </message>
+    <message>
+        <source>Import Folder</source>
+        <translation>Importar carpeta</translation>
+    </message>
+    <message>
+        <source>Import clips</source>
+        <translation>Importar elementos</translation>
+    </message>
+    <message>
+        <source>Importing %1 of %2…</source>
+        <translation>Importando %1 de %2…</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <translation>Importando…</translation>
+    </message>
+    <message>
+        <source>Importing… %1</source>
+        <translation>Importando… %1</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>It can't be opened</source>
+        <translation>No se puede abrir</translation>
+    </message>
+    <message>
+        <source>It is damaged: what could be read was looked at.</source>
+        <translation>Está dañado: se ha revisado lo que se podía leer.</translation>
+    </message>
+    <message>
+        <source>Looking for other clipboard apps…</source>
+        <translation>Buscando otras aplicaciones de portapapeles…</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Carpeta nueva</translation>
+    </message>
+    <message>
+        <source>No history of CopyQ, GPaste, Klipper or Clipman was found.</source>
+        <translation>No se ha encontrado ningún historial de CopyQ, GPaste, Klipper o Clipman.</translation>
+    </message>
+    <message>
+        <source>Other apps</source>
+        <translation>Otras aplicaciones</translation>
+    </message>
+    <message>
+        <source>Path of the folder</source>
+        <translation>Ruta de la carpeta</translation>
+    </message>
+    <message>
+        <source>Privacy policy</source>
+        <translation>Política de privacidad</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Stopped. Nothing was left in %1.</source>
+        <translation>Detenido. No ha quedado nada en %1.</translation>
+    </message>
+    <message>
+        <source>Taking it back…</source>
+        <translation>Deshaciendo…</translation>
+    </message>
+    <message>
+        <source>Terms</source>
+        <translation>Condiciones</translation>
+    </message>
+    <message>
+        <source>Texts, pictures and lists of files become ordinary files, with an index of their times, titles and pins. They are not encrypted there: anybody who can read the folder can read your clips. Clips that delete themselves are left out.</source>
+        <translation>Los textos, imágenes y listas de archivos se convierten en archivos corrientes, con un índice de sus fechas, títulos y fijados. Ahí no están cifrados: quien pueda leer la carpeta puede leer sus elementos. Los elementos que se eliminan solos se omiten.</translation>
+    </message>
+    <message>
+        <source>The disk is full. Nothing was left in %1.</source>
+        <translation>El disco está lleno. No ha quedado nada en %1.</translation>
+    </message>
+    <message>
+        <source>The import was taken back.</source>
+        <translation>Se ha deshecho la importación.</translation>
+    </message>
+    <message>
+        <source>The other app's files are only read. Passwords, codes and keys are left out, and clips that you have already.</source>
+        <translation>Los archivos de la otra aplicación solo se leen. Se omiten contraseñas, códigos y claves, y los elementos que ya tiene.</translation>
+    </message>
+    <message>
+        <source>The rest was not looked at, as you stopped it.</source>
+        <translation>El resto no se ha revisado, porque lo ha detenido.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import here any more.</source>
+        <translation>Aquí ya no hay nada que importar.</translation>
+    </message>
+    <message>
+        <source>To a folder of ordinary files.</source>
+        <translation>A una carpeta de archivos corrientes.</translation>
+    </message>
+    <message>
+        <source>Too large to be read</source>
+        <translation>Demasiado grande para leerse</translation>
+    </message>
+    <message>
+        <source>Undo Import</source>
+        <translation>Deshacer importación</translation>
+    </message>
+    <message>
+        <source>Vellumry %1</source>
+        <translation>Vellumry %1</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Sitio web</translation>
     </message>
 </context>
 </TS>

@@ -558,7 +558,7 @@
     </message>
     <message>
         <source>For the shortcut, bind these in your desktop's settings</source>
-        <translation>Pour le raccourci, associez ceci dans les paramètres de votre bureau</translation>
+        <translation>Pour le raccourci, associez-les dans les paramètres de votre bureau</translation>
     </message>
     <message>
         <source>Forever</source>
@@ -1803,6 +1803,285 @@
     <message>
         <source>⎋</source>
         <translation>Échap</translation>
+    </message>
+    <message>
+        <source>%1 can't be written to. Choose another folder.</source>
+        <translation>Impossible d’écrire dans %1. Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>%1 holds no finished export of Vellumry.</source>
+        <translation>%1 ne contient pas d’exportation terminée de Vellumry.</translation>
+    </message>
+    <message>
+        <source>%1 is not empty. Choose a new folder.</source>
+        <translation>%1 n’est pas vide. Choisissez un nouveau dossier.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are beyond the limits of your history.</source>
+        <translation>
+            <numerusform>%n élément dépasse les limites de votre historique.</numerusform>
+            <numerusform>%n éléments dépassent les limites de votre historique.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are in %1 now, and not encrypted there.</source>
+        <translation>
+            <numerusform>%n élément se trouve maintenant dans %1, sans y être chiffré.</numerusform>
+            <numerusform>%n éléments se trouvent maintenant dans %1, sans y être chiffrés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips could not be read.</source>
+        <translation>
+            <numerusform>%n élément n’a pas pu être lu.</numerusform>
+            <numerusform>%n éléments n’ont pas pu être lus.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips that delete themselves were left out.</source>
+        <translation>
+            <numerusform>%n élément qui se supprime de lui-même a été laissé de côté.</numerusform>
+            <numerusform>%n éléments qui se suppriment d’eux-mêmes ont été laissés de côté.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were imported.</source>
+        <translation>
+            <numerusform>%n élément a été importé.</numerusform>
+            <numerusform>%n éléments ont été importés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were in your history already.</source>
+        <translation>
+            <numerusform>%n élément était déjà dans votre historique.</numerusform>
+            <numerusform>%n éléments étaient déjà dans votre historique.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were left out, as nothing is saved from their apps.</source>
+        <translation>
+            <numerusform>%n élément a été laissé de côté, car rien n’est enregistré depuis son application.</numerusform>
+            <numerusform>%n éléments ont été laissés de côté, car rien n’est enregistré depuis leurs applications.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries had nothing in them that can be kept.</source>
+        <translation>
+            <numerusform>%n entrée ne contenait rien qui puisse être gardé.</numerusform>
+            <numerusform>%n entrées ne contenaient rien qui puisse être gardé.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n élément</numerusform>
+            <numerusform>%n éléments</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, %1 of them pictures</source>
+        <translation>
+            <numerusform>%n élément, dont %1 images</numerusform>
+            <numerusform>%n éléments, dont %1 images</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, one of them a picture</source>
+        <translation>
+            <numerusform>%n élément, une image</numerusform>
+            <numerusform>%n éléments, dont une image</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n passwords, codes or keys were left out.</source>
+        <translation>
+            <numerusform>%n mot de passe, code ou clé a été laissé de côté.</numerusform>
+            <numerusform>%n mots de passe, codes ou clés ont été laissés de côté.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures were left out, as your disk is almost full.</source>
+        <translation>
+            <numerusform>%n image a été laissée de côté, car votre disque est presque plein.</numerusform>
+            <numerusform>%n images ont été laissées de côté, car votre disque est presque plein.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A folder that Vellumry exported</source>
+        <translation>Un dossier exporté par Vellumry</translation>
+    </message>
+    <message>
+        <source>Bring your clips along</source>
+        <translation>Apportez vos éléments</translation>
+    </message>
+    <message>
+        <source>Damaged. What can be read: %1</source>
+        <translation>Endommagé. Ce qui peut être lu : %1</translation>
+    </message>
+    <message>
+        <source>Damaged: nothing in it can be read</source>
+        <translation>Endommagé : rien ne peut y être lu</translation>
+    </message>
+    <message>
+        <source>Email support</source>
+        <translation>Contacter l’assistance</translation>
+    </message>
+    <message>
+        <source>Encrypted: nothing in it can be read</source>
+        <translation>Chiffré : rien ne peut y être lu</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Export everything</source>
+        <translation>Tout exporter</translation>
+    </message>
+    <message>
+        <source>Exporting…</source>
+        <translation>Exportation…</translation>
+    </message>
+    <message>
+        <source>Exporting… %1</source>
+        <translation>Exportation… %1</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Folder to import from</source>
+        <translation>Dossier à importer</translation>
+    </message>
+    <message>
+        <source>From another clipboard app, or from a folder that Vellumry exported.</source>
+        <translation>Depuis une autre application de presse-papiers, ou depuis un dossier exporté par Vellumry.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Import Again</source>
+        <translation>Importer de nouveau</translation>
+    </message>
+    <message>
+        <source>Import Folder</source>
+        <translation>Importer le dossier</translation>
+    </message>
+    <message>
+        <source>Import clips</source>
+        <translation>Importer des éléments</translation>
+    </message>
+    <message>
+        <source>Importing %1 of %2…</source>
+        <translation>Importation de %1 sur %2…</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <translation>Importation…</translation>
+    </message>
+    <message>
+        <source>Importing… %1</source>
+        <translation>Importation… %1</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>It can't be opened</source>
+        <translation>Impossible à ouvrir</translation>
+    </message>
+    <message>
+        <source>It is damaged: what could be read was looked at.</source>
+        <translation>Il est endommagé : ce qui pouvait être lu a été examiné.</translation>
+    </message>
+    <message>
+        <source>Looking for other clipboard apps…</source>
+        <translation>Recherche d’autres applications de presse-papiers…</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Nouveau dossier</translation>
+    </message>
+    <message>
+        <source>No history of CopyQ, GPaste, Klipper or Clipman was found.</source>
+        <translation>Aucun historique de CopyQ, GPaste, Klipper ou Clipman n’a été trouvé.</translation>
+    </message>
+    <message>
+        <source>Other apps</source>
+        <translation>Autres applications</translation>
+    </message>
+    <message>
+        <source>Path of the folder</source>
+        <translation>Chemin du dossier</translation>
+    </message>
+    <message>
+        <source>Privacy policy</source>
+        <translation>Politique de confidentialité</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Stopped. Nothing was left in %1.</source>
+        <translation>Arrêté. Rien n’a été laissé dans %1.</translation>
+    </message>
+    <message>
+        <source>Taking it back…</source>
+        <translation>Annulation…</translation>
+    </message>
+    <message>
+        <source>Terms</source>
+        <translation>Conditions</translation>
+    </message>
+    <message>
+        <source>Texts, pictures and lists of files become ordinary files, with an index of their times, titles and pins. They are not encrypted there: anybody who can read the folder can read your clips. Clips that delete themselves are left out.</source>
+        <translation>Les textes, images et listes de fichiers deviennent des fichiers ordinaires, avec un index de leurs dates, titres et épingles. Ils n’y sont pas chiffrés : quiconque peut lire le dossier peut lire vos éléments. Les éléments qui se suppriment d’eux-mêmes sont laissés de côté.</translation>
+    </message>
+    <message>
+        <source>The disk is full. Nothing was left in %1.</source>
+        <translation>Le disque est plein. Rien n’a été laissé dans %1.</translation>
+    </message>
+    <message>
+        <source>The import was taken back.</source>
+        <translation>L’importation a été annulée.</translation>
+    </message>
+    <message>
+        <source>The other app's files are only read. Passwords, codes and keys are left out, and clips that you have already.</source>
+        <translation>Les fichiers de l’autre application sont seulement lus. Les mots de passe, codes et clés sont laissés de côté, ainsi que les éléments que vous avez déjà.</translation>
+    </message>
+    <message>
+        <source>The rest was not looked at, as you stopped it.</source>
+        <translation>Le reste n’a pas été examiné, car vous avez arrêté.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import here any more.</source>
+        <translation>Il n’y a plus rien à importer ici.</translation>
+    </message>
+    <message>
+        <source>To a folder of ordinary files.</source>
+        <translation>Vers un dossier de fichiers ordinaires.</translation>
+    </message>
+    <message>
+        <source>Too large to be read</source>
+        <translation>Trop volumineux pour être lu</translation>
+    </message>
+    <message>
+        <source>Undo Import</source>
+        <translation>Annuler l’importation</translation>
+    </message>
+    <message>
+        <source>Vellumry %1</source>
+        <translation>Vellumry %1</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Site web</translation>
     </message>
 </context>
 </TS>

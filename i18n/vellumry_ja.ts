@@ -535,7 +535,7 @@
     </message>
     <message>
         <source>For the shortcut, add this to %1</source>
-        <translation>ショートカットを使うには、これを %1 に加えてください</translation>
+        <translation>ショートカットを使うには、これを %1 に追加してください</translation>
     </message>
     <message>
         <source>For the shortcut, bind these in your desktop's settings</source>
@@ -1776,6 +1776,272 @@
     <message>
         <source>⎋</source>
         <translation>Esc</translation>
+    </message>
+    <message>
+        <source>%1 can't be written to. Choose another folder.</source>
+        <translation>%1 に書き込めません。別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>%1 holds no finished export of Vellumry.</source>
+        <translation>%1 には、完了した Vellumry のエクスポートがありません。</translation>
+    </message>
+    <message>
+        <source>%1 is not empty. Choose a new folder.</source>
+        <translation>%1 は空ではありません。新しいフォルダーを選んでください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are beyond the limits of your history.</source>
+        <translation>
+            <numerusform>%n 件は履歴の上限を超えています。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are in %1 now, and not encrypted there.</source>
+        <translation>
+            <numerusform>%n 件が %1 にあります。そこでは暗号化されていません。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips could not be read.</source>
+        <translation>
+            <numerusform>%n 件を読み取れませんでした。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips that delete themselves were left out.</source>
+        <translation>
+            <numerusform>自動削除される %n 件は除外されました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were imported.</source>
+        <translation>
+            <numerusform>%n 件をインポートしました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were in your history already.</source>
+        <translation>
+            <numerusform>%n 件はすでに履歴にありました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were left out, as nothing is saved from their apps.</source>
+        <translation>
+            <numerusform>%n 件は、保存しない設定のアプリからのものなので除外されました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries had nothing in them that can be kept.</source>
+        <translation>
+            <numerusform>%n 件には保持できる内容がありませんでした。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n 件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, %1 of them pictures</source>
+        <translation>
+            <numerusform>%n 件 (うち画像 %1 件)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, one of them a picture</source>
+        <translation>
+            <numerusform>%n 件 (うち画像 1 件)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n passwords, codes or keys were left out.</source>
+        <translation>
+            <numerusform>パスワード、コード、キー %n 件は除外されました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures were left out, as your disk is almost full.</source>
+        <translation>
+            <numerusform>ディスクの空き容量が残りわずかなため、画像 %n 件は除外されました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A folder that Vellumry exported</source>
+        <translation>Vellumry がエクスポートしたフォルダー</translation>
+    </message>
+    <message>
+        <source>Bring your clips along</source>
+        <translation>項目を引き継ぐ</translation>
+    </message>
+    <message>
+        <source>Damaged. What can be read: %1</source>
+        <translation>破損しています。読み取り可能: %1</translation>
+    </message>
+    <message>
+        <source>Damaged: nothing in it can be read</source>
+        <translation>破損: 読み取れるものがありません</translation>
+    </message>
+    <message>
+        <source>Email support</source>
+        <translation>メールでのサポート</translation>
+    </message>
+    <message>
+        <source>Encrypted: nothing in it can be read</source>
+        <translation>暗号化: 読み取れるものがありません</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>エクスポート</translation>
+    </message>
+    <message>
+        <source>Export everything</source>
+        <translation>すべてエクスポート</translation>
+    </message>
+    <message>
+        <source>Exporting…</source>
+        <translation>エクスポート中…</translation>
+    </message>
+    <message>
+        <source>Exporting… %1</source>
+        <translation>エクスポート中… %1</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>エクスポート…</translation>
+    </message>
+    <message>
+        <source>Folder to import from</source>
+        <translation>インポート元のフォルダー</translation>
+    </message>
+    <message>
+        <source>From another clipboard app, or from a folder that Vellumry exported.</source>
+        <translation>他のクリップボードアプリ、または Vellumry がエクスポートしたフォルダーから。</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>Import Again</source>
+        <translation>もう一度インポート</translation>
+    </message>
+    <message>
+        <source>Import Folder</source>
+        <translation>フォルダーをインポート</translation>
+    </message>
+    <message>
+        <source>Import clips</source>
+        <translation>項目をインポート</translation>
+    </message>
+    <message>
+        <source>Importing %1 of %2…</source>
+        <translation>%2 件中 %1 件目をインポート中…</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <translation>インポート中…</translation>
+    </message>
+    <message>
+        <source>Importing… %1</source>
+        <translation>インポート中… %1</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>インポート…</translation>
+    </message>
+    <message>
+        <source>It can't be opened</source>
+        <translation>開けません</translation>
+    </message>
+    <message>
+        <source>It is damaged: what could be read was looked at.</source>
+        <translation>破損しています。読み取れたものだけを確認しました。</translation>
+    </message>
+    <message>
+        <source>Looking for other clipboard apps…</source>
+        <translation>他のクリップボードアプリを探しています…</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>新しいフォルダー</translation>
+    </message>
+    <message>
+        <source>No history of CopyQ, GPaste, Klipper or Clipman was found.</source>
+        <translation>CopyQ、GPaste、Klipper、Clipman の履歴は見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>Other apps</source>
+        <translation>他のアプリ</translation>
+    </message>
+    <message>
+        <source>Path of the folder</source>
+        <translation>フォルダーのパス</translation>
+    </message>
+    <message>
+        <source>Privacy policy</source>
+        <translation>プライバシーポリシー</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Stopped. Nothing was left in %1.</source>
+        <translation>停止しました。%1 には何も残っていません。</translation>
+    </message>
+    <message>
+        <source>Taking it back…</source>
+        <translation>取り消し中…</translation>
+    </message>
+    <message>
+        <source>Terms</source>
+        <translation>利用規約</translation>
+    </message>
+    <message>
+        <source>Texts, pictures and lists of files become ordinary files, with an index of their times, titles and pins. They are not encrypted there: anybody who can read the folder can read your clips. Clips that delete themselves are left out.</source>
+        <translation>テキスト、画像、ファイルの一覧が通常のファイルになり、日時、タイトル、ピン留めの索引が付きます。そこでは暗号化されません。フォルダーを読める人は誰でも項目を読めます。自動削除される項目は除外されます。</translation>
+    </message>
+    <message>
+        <source>The disk is full. Nothing was left in %1.</source>
+        <translation>ディスクがいっぱいです。%1 には何も残っていません。</translation>
+    </message>
+    <message>
+        <source>The import was taken back.</source>
+        <translation>インポートを取り消しました。</translation>
+    </message>
+    <message>
+        <source>The other app's files are only read. Passwords, codes and keys are left out, and clips that you have already.</source>
+        <translation>他のアプリのファイルは読み取るだけです。パスワード、コード、キーと、すでにある項目は除外されます。</translation>
+    </message>
+    <message>
+        <source>The rest was not looked at, as you stopped it.</source>
+        <translation>停止したため、残りは確認していません。</translation>
+    </message>
+    <message>
+        <source>There is nothing to import here any more.</source>
+        <translation>ここにはもうインポートするものがありません。</translation>
+    </message>
+    <message>
+        <source>To a folder of ordinary files.</source>
+        <translation>通常のファイルのフォルダーへ。</translation>
+    </message>
+    <message>
+        <source>Too large to be read</source>
+        <translation>大きすぎて読み取れません</translation>
+    </message>
+    <message>
+        <source>Undo Import</source>
+        <translation>インポートを取り消す</translation>
+    </message>
+    <message>
+        <source>Vellumry %1</source>
+        <translation>Vellumry %1</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Web サイト</translation>
     </message>
 </context>
 </TS>

@@ -554,11 +554,11 @@
     </message>
     <message>
         <source>For the shortcut, add this to %1</source>
-        <translation>Para o atalho, acrescente isto a %1</translation>
+        <translation>Para o atalho, adicione isto a %1</translation>
     </message>
     <message>
         <source>For the shortcut, bind these in your desktop's settings</source>
-        <translation>Para o atalho, associe isto nas configurações do seu ambiente de trabalho</translation>
+        <translation>Para o atalho, associe-os nas configurações do seu ambiente</translation>
     </message>
     <message>
         <source>Forever</source>
@@ -1803,6 +1803,285 @@
     <message>
         <source>⎋</source>
         <translation>Esc</translation>
+    </message>
+    <message>
+        <source>%1 can't be written to. Choose another folder.</source>
+        <translation>Não é possível gravar em %1. Escolha outra pasta.</translation>
+    </message>
+    <message>
+        <source>%1 holds no finished export of Vellumry.</source>
+        <translation>%1 não contém uma exportação concluída do Vellumry.</translation>
+    </message>
+    <message>
+        <source>%1 is not empty. Choose a new folder.</source>
+        <translation>%1 não está vazia. Escolha uma pasta nova.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are beyond the limits of your history.</source>
+        <translation>
+            <numerusform>%n item ultrapassa os limites do seu histórico.</numerusform>
+            <numerusform>%n itens ultrapassam os limites do seu histórico.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are in %1 now, and not encrypted there.</source>
+        <translation>
+            <numerusform>%n item está agora em %1, e ali não está criptografado.</numerusform>
+            <numerusform>%n itens estão agora em %1, e ali não estão criptografados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips could not be read.</source>
+        <translation>
+            <numerusform>Não foi possível ler %n item.</numerusform>
+            <numerusform>Não foi possível ler %n itens.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips that delete themselves were left out.</source>
+        <translation>
+            <numerusform>%n item que se exclui sozinho foi deixado de fora.</numerusform>
+            <numerusform>%n itens que se excluem sozinhos foram deixados de fora.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were imported.</source>
+        <translation>
+            <numerusform>%n item foi importado.</numerusform>
+            <numerusform>%n itens foram importados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were in your history already.</source>
+        <translation>
+            <numerusform>%n item já estava no seu histórico.</numerusform>
+            <numerusform>%n itens já estavam no seu histórico.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were left out, as nothing is saved from their apps.</source>
+        <translation>
+            <numerusform>%n item foi deixado de fora, pois nada é salvo do aplicativo dele.</numerusform>
+            <numerusform>%n itens foram deixados de fora, pois nada é salvo dos aplicativos deles.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries had nothing in them that can be kept.</source>
+        <translation>
+            <numerusform>%n entrada não tinha nada que possa ser mantido.</numerusform>
+            <numerusform>%n entradas não tinham nada que possa ser mantido.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n item</numerusform>
+            <numerusform>%n itens</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, %1 of them pictures</source>
+        <translation>
+            <numerusform>%n item, %1 deles imagens</numerusform>
+            <numerusform>%n itens, %1 deles imagens</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, one of them a picture</source>
+        <translation>
+            <numerusform>%n item, uma imagem</numerusform>
+            <numerusform>%n itens, um deles uma imagem</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n passwords, codes or keys were left out.</source>
+        <translation>
+            <numerusform>%n senha, código ou chave foi deixada de fora.</numerusform>
+            <numerusform>%n senhas, códigos ou chaves foram deixados de fora.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures were left out, as your disk is almost full.</source>
+        <translation>
+            <numerusform>%n imagem foi deixada de fora, pois seu disco está quase cheio.</numerusform>
+            <numerusform>%n imagens foram deixadas de fora, pois seu disco está quase cheio.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A folder that Vellumry exported</source>
+        <translation>Uma pasta exportada pelo Vellumry</translation>
+    </message>
+    <message>
+        <source>Bring your clips along</source>
+        <translation>Traga seus itens</translation>
+    </message>
+    <message>
+        <source>Damaged. What can be read: %1</source>
+        <translation>Danificado. O que pode ser lido: %1</translation>
+    </message>
+    <message>
+        <source>Damaged: nothing in it can be read</source>
+        <translation>Danificado: nada nele pode ser lido</translation>
+    </message>
+    <message>
+        <source>Email support</source>
+        <translation>Suporte por e-mail</translation>
+    </message>
+    <message>
+        <source>Encrypted: nothing in it can be read</source>
+        <translation>Criptografado: nada nele pode ser lido</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Export everything</source>
+        <translation>Exportar tudo</translation>
+    </message>
+    <message>
+        <source>Exporting…</source>
+        <translation>Exportando…</translation>
+    </message>
+    <message>
+        <source>Exporting… %1</source>
+        <translation>Exportando… %1</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Folder to import from</source>
+        <translation>Pasta de onde importar</translation>
+    </message>
+    <message>
+        <source>From another clipboard app, or from a folder that Vellumry exported.</source>
+        <translation>De outro aplicativo de área de transferência, ou de uma pasta exportada pelo Vellumry.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Import Again</source>
+        <translation>Importar de novo</translation>
+    </message>
+    <message>
+        <source>Import Folder</source>
+        <translation>Importar pasta</translation>
+    </message>
+    <message>
+        <source>Import clips</source>
+        <translation>Importar itens</translation>
+    </message>
+    <message>
+        <source>Importing %1 of %2…</source>
+        <translation>Importando %1 de %2…</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <translation>Importando…</translation>
+    </message>
+    <message>
+        <source>Importing… %1</source>
+        <translation>Importando… %1</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>It can't be opened</source>
+        <translation>Não pode ser aberto</translation>
+    </message>
+    <message>
+        <source>It is damaged: what could be read was looked at.</source>
+        <translation>Está danificado: o que podia ser lido foi examinado.</translation>
+    </message>
+    <message>
+        <source>Looking for other clipboard apps…</source>
+        <translation>Procurando outros aplicativos de área de transferência…</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Nova pasta</translation>
+    </message>
+    <message>
+        <source>No history of CopyQ, GPaste, Klipper or Clipman was found.</source>
+        <translation>Nenhum histórico do CopyQ, GPaste, Klipper ou Clipman foi encontrado.</translation>
+    </message>
+    <message>
+        <source>Other apps</source>
+        <translation>Outros aplicativos</translation>
+    </message>
+    <message>
+        <source>Path of the folder</source>
+        <translation>Caminho da pasta</translation>
+    </message>
+    <message>
+        <source>Privacy policy</source>
+        <translation>Política de privacidade</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Stopped. Nothing was left in %1.</source>
+        <translation>Interrompido. Nada foi deixado em %1.</translation>
+    </message>
+    <message>
+        <source>Taking it back…</source>
+        <translation>Desfazendo…</translation>
+    </message>
+    <message>
+        <source>Terms</source>
+        <translation>Termos</translation>
+    </message>
+    <message>
+        <source>Texts, pictures and lists of files become ordinary files, with an index of their times, titles and pins. They are not encrypted there: anybody who can read the folder can read your clips. Clips that delete themselves are left out.</source>
+        <translation>Textos, imagens e listas de arquivos viram arquivos comuns, com um índice de suas datas, títulos e fixações. Ali eles não são criptografados: quem puder ler a pasta pode ler seus itens. Itens que se excluem sozinhos são deixados de fora.</translation>
+    </message>
+    <message>
+        <source>The disk is full. Nothing was left in %1.</source>
+        <translation>O disco está cheio. Nada foi deixado em %1.</translation>
+    </message>
+    <message>
+        <source>The import was taken back.</source>
+        <translation>A importação foi desfeita.</translation>
+    </message>
+    <message>
+        <source>The other app's files are only read. Passwords, codes and keys are left out, and clips that you have already.</source>
+        <translation>Os arquivos do outro aplicativo são apenas lidos. Senhas, códigos e chaves são deixados de fora, assim como os itens que você já tem.</translation>
+    </message>
+    <message>
+        <source>The rest was not looked at, as you stopped it.</source>
+        <translation>O resto não foi examinado, pois você interrompeu.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import here any more.</source>
+        <translation>Não há mais nada para importar aqui.</translation>
+    </message>
+    <message>
+        <source>To a folder of ordinary files.</source>
+        <translation>Para uma pasta de arquivos comuns.</translation>
+    </message>
+    <message>
+        <source>Too large to be read</source>
+        <translation>Grande demais para ser lido</translation>
+    </message>
+    <message>
+        <source>Undo Import</source>
+        <translation>Desfazer importação</translation>
+    </message>
+    <message>
+        <source>Vellumry %1</source>
+        <translation>Vellumry %1</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Site</translation>
     </message>
 </context>
 </TS>

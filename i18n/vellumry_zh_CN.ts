@@ -535,11 +535,11 @@
     </message>
     <message>
         <source>For the shortcut, add this to %1</source>
-        <translation>要使用快捷键，请将这些内容加入 %1</translation>
+        <translation>要使用快捷键，请将以下内容添加到 %1</translation>
     </message>
     <message>
         <source>For the shortcut, bind these in your desktop's settings</source>
-        <translation>要使用快捷键，请在桌面设置中绑定这些命令</translation>
+        <translation>要使用快捷键，请在桌面设置中绑定以下命令</translation>
     </message>
     <message>
         <source>Forever</source>
@@ -1776,6 +1776,272 @@
     <message>
         <source>⎋</source>
         <translation>Esc</translation>
+    </message>
+    <message>
+        <source>%1 can't be written to. Choose another folder.</source>
+        <translation>无法写入 %1。请选择其他文件夹。</translation>
+    </message>
+    <message>
+        <source>%1 holds no finished export of Vellumry.</source>
+        <translation>%1 中没有 Vellumry 已完成的导出内容。</translation>
+    </message>
+    <message>
+        <source>%1 is not empty. Choose a new folder.</source>
+        <translation>%1 不是空文件夹。请选择新的文件夹。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are beyond the limits of your history.</source>
+        <translation>
+            <numerusform>%n 个条目超出历史记录的限制。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips are in %1 now, and not encrypted there.</source>
+        <translation>
+            <numerusform>%n 个条目现在位于 %1 中，在那里未加密。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips could not be read.</source>
+        <translation>
+            <numerusform>%n 个条目无法读取。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips that delete themselves were left out.</source>
+        <translation>
+            <numerusform>已略过 %n 个会自动删除的条目。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were imported.</source>
+        <translation>
+            <numerusform>已导入 %n 个条目。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were in your history already.</source>
+        <translation>
+            <numerusform>%n 个条目已在历史记录中。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clips were left out, as nothing is saved from their apps.</source>
+        <translation>
+            <numerusform>已略过 %n 个条目，因为不保存来自其应用的内容。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries had nothing in them that can be kept.</source>
+        <translation>
+            <numerusform>%n 条记录中没有可保留的内容。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n 个条目</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, %1 of them pictures</source>
+        <translation>
+            <numerusform>%n 个条目，其中 %1 个是图像</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items, one of them a picture</source>
+        <translation>
+            <numerusform>%n 个条目，其中 1 个是图像</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n passwords, codes or keys were left out.</source>
+        <translation>
+            <numerusform>已略过 %n 个密码、验证码或密钥。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures were left out, as your disk is almost full.</source>
+        <translation>
+            <numerusform>已略过 %n 个图像，因为磁盘空间即将用尽。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A folder that Vellumry exported</source>
+        <translation>Vellumry 导出的文件夹</translation>
+    </message>
+    <message>
+        <source>Bring your clips along</source>
+        <translation>带上您的条目</translation>
+    </message>
+    <message>
+        <source>Damaged. What can be read: %1</source>
+        <translation>已损坏。可读取的内容：%1</translation>
+    </message>
+    <message>
+        <source>Damaged: nothing in it can be read</source>
+        <translation>已损坏：其中没有可读取的内容</translation>
+    </message>
+    <message>
+        <source>Email support</source>
+        <translation>通过邮件获取支持</translation>
+    </message>
+    <message>
+        <source>Encrypted: nothing in it can be read</source>
+        <translation>已加密：其中没有可读取的内容</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Export everything</source>
+        <translation>全部导出</translation>
+    </message>
+    <message>
+        <source>Exporting…</source>
+        <translation>正在导出…</translation>
+    </message>
+    <message>
+        <source>Exporting… %1</source>
+        <translation>正在导出… %1</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Folder to import from</source>
+        <translation>要导入的文件夹</translation>
+    </message>
+    <message>
+        <source>From another clipboard app, or from a folder that Vellumry exported.</source>
+        <translation>来自其他剪贴板应用，或来自 Vellumry 导出的文件夹。</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Import Again</source>
+        <translation>重新导入</translation>
+    </message>
+    <message>
+        <source>Import Folder</source>
+        <translation>导入文件夹</translation>
+    </message>
+    <message>
+        <source>Import clips</source>
+        <translation>导入条目</translation>
+    </message>
+    <message>
+        <source>Importing %1 of %2…</source>
+        <translation>正在导入第 %1 个，共 %2 个…</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <translation>正在导入…</translation>
+    </message>
+    <message>
+        <source>Importing… %1</source>
+        <translation>正在导入… %1</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>导入…</translation>
+    </message>
+    <message>
+        <source>It can't be opened</source>
+        <translation>无法打开</translation>
+    </message>
+    <message>
+        <source>It is damaged: what could be read was looked at.</source>
+        <translation>它已损坏：已查看可读取的内容。</translation>
+    </message>
+    <message>
+        <source>Looking for other clipboard apps…</source>
+        <translation>正在查找其他剪贴板应用…</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>新文件夹</translation>
+    </message>
+    <message>
+        <source>No history of CopyQ, GPaste, Klipper or Clipman was found.</source>
+        <translation>未找到 CopyQ、GPaste、Klipper 或 Clipman 的历史记录。</translation>
+    </message>
+    <message>
+        <source>Other apps</source>
+        <translation>其他应用</translation>
+    </message>
+    <message>
+        <source>Path of the folder</source>
+        <translation>文件夹路径</translation>
+    </message>
+    <message>
+        <source>Privacy policy</source>
+        <translation>隐私政策</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Stopped. Nothing was left in %1.</source>
+        <translation>已停止。%1 中没有留下任何内容。</translation>
+    </message>
+    <message>
+        <source>Taking it back…</source>
+        <translation>正在撤销…</translation>
+    </message>
+    <message>
+        <source>Terms</source>
+        <translation>条款</translation>
+    </message>
+    <message>
+        <source>Texts, pictures and lists of files become ordinary files, with an index of their times, titles and pins. They are not encrypted there: anybody who can read the folder can read your clips. Clips that delete themselves are left out.</source>
+        <translation>文本、图像和文件列表会成为普通文件，并附有其时间、标题和固定状态的索引。它们在那里未加密：任何能读取该文件夹的人都能读取您的条目。会自动删除的条目将被略过。</translation>
+    </message>
+    <message>
+        <source>The disk is full. Nothing was left in %1.</source>
+        <translation>磁盘已满。%1 中没有留下任何内容。</translation>
+    </message>
+    <message>
+        <source>The import was taken back.</source>
+        <translation>已撤销导入。</translation>
+    </message>
+    <message>
+        <source>The other app's files are only read. Passwords, codes and keys are left out, and clips that you have already.</source>
+        <translation>只读取其他应用的文件。密码、验证码、密钥以及您已有的条目会被略过。</translation>
+    </message>
+    <message>
+        <source>The rest was not looked at, as you stopped it.</source>
+        <translation>由于您已停止，其余内容未查看。</translation>
+    </message>
+    <message>
+        <source>There is nothing to import here any more.</source>
+        <translation>这里已没有可导入的内容。</translation>
+    </message>
+    <message>
+        <source>To a folder of ordinary files.</source>
+        <translation>导出为包含普通文件的文件夹。</translation>
+    </message>
+    <message>
+        <source>Too large to be read</source>
+        <translation>太大，无法读取</translation>
+    </message>
+    <message>
+        <source>Undo Import</source>
+        <translation>撤销导入</translation>
+    </message>
+    <message>
+        <source>Vellumry %1</source>
+        <translation>Vellumry %1</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>网站</translation>
     </message>
 </context>
 </TS>
