@@ -50,7 +50,7 @@ void X11HotKeys::listenForChanges() {
 bool X11HotKeys::grab(quint32 id, KeyCode keyCode, Modifiers modifiers) {
     if (!m_connection->inputExtension().has_value() || m_keys.contains(id))
         return false;
-    const X11Keymap keymap = X11Keymap::read(*m_connection);
+    const X11Keymap& keymap = currentKeymap();
     HotKey key{keyCode, modifiers, {}};
     const auto combination = combinationFor(keymap, key);
     if (!combination.has_value())
@@ -65,6 +65,15 @@ bool X11HotKeys::grab(quint32 id, KeyCode keyCode, Modifiers modifiers) {
     m_shortcutMask = keymap.shortcutMask();
     m_keys.emplace(id, key);
     return true;
+}
+
+/// Many keys are registered at once: they share a look.
+const X11Keymap& X11HotKeys::currentKeymap() {
+    if (!m_keymap) {
+        m_keymap = std::make_unique<const X11Keymap>(X11Keymap::read(*m_connection));
+        QMetaObject::invokeMethod(this, [this] { m_keymap.reset(); }, Qt::QueuedConnection);
+    }
+    return *m_keymap;
 }
 
 void X11HotKeys::release(quint32 id) {

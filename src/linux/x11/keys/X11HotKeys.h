@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <memory>
 
 namespace vellumry {
 
@@ -33,6 +34,7 @@ private:
         std::optional<Combination> held;
     };
 
+    [[nodiscard]] const X11Keymap& currentKeymap();
     [[nodiscard]] std::optional<Combination> combinationFor(const X11Keymap& keymap, const HotKey& key) const;
     [[nodiscard]] bool hold(const Combination& combination);
     void letGo(const Combination& combination);
@@ -46,6 +48,7 @@ private:
 
     std::shared_ptr<XlibConnection> m_connection;
     std::map<quint32, HotKey> m_keys;
+    std::unique_ptr<const X11Keymap> m_keymap; ///< of this turn of the event loop
     unsigned int m_shortcutMask = 0;
     int m_keyboard = 0;
     QTimer m_grabAgain;

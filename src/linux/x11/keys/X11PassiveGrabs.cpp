@@ -70,13 +70,19 @@ std::vector<int> testKeyboards(XlibConnection& connection) {
 
 bool isFreeOfCoreGrabs(XlibConnection& connection, const Combination& combination) {
     Display* display = connection.display();
-    XErrorTrap trap(display);
-    for (const unsigned int lock : combination.locks)
-        XGrabKey(display, int(combination.keycode), combination.mask | lock, connection.root(), False, GrabModeAsync,
-                 GrabModeAsync);
-    const bool isFree = trap.finish() == 0;
+    bool isFree = false;
+    {
+        XErrorTrap trap(display);
+        for (const unsigned int lock : combination.locks)
+            XGrabKey(display, int(combination.keycode), combination.mask | lock, connection.root(), False,
+                     GrabModeAsync, GrabModeAsync);
+        isFree = trap.finish() == 0;
+    }
     for (const unsigned int lock : combination.locks)
         XUngrabKey(display, int(combination.keycode), combination.mask | lock, connection.root());
+    // Those that were granted are gone when the refusal is told.
+    if (!isFree)
+        XSync(display, False);
     return isFree;
 }
 

@@ -37,13 +37,19 @@ XErrorTrap::XErrorTrap(Display* display)
 }
 
 XErrorTrap::~XErrorTrap() {
-    XSync(m_display, False);
+    settle();
     innermost = m_outer;
 }
 
 int XErrorTrap::finish() {
-    XSync(m_display, False);
+    settle();
     return m_error;
+}
+
+/// Behind a request that had an answer there is nothing to wait for.
+void XErrorTrap::settle() {
+    if (LastKnownRequestProcessed(m_display) + 1 < NextRequest(m_display))
+        XSync(m_display, False);
 }
 
 } // namespace vellumry

@@ -23,6 +23,7 @@ public:
     static void install();
 
 private:
+    void settle();
     friend int handleXError(Display* display, unsigned long serial, int code);
     Display* m_display;
     XErrorTrap* m_outer;
