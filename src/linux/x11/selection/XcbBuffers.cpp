@@ -3,7 +3,7 @@
 
 #include <array>
 #include <chrono>
-#include <sched.h>
+#include <ctime>
 #include <sys/ioctl.h>
 #include <vector>
 
@@ -19,12 +19,14 @@ constexpr std::array<char, 256 - requestHeader> zeros{};
 constexpr int requests = bufferSize / 256;
 constexpr std::chrono::milliseconds patience{20};
 
+constexpr timespec pause{0, 200'000};
+
 /// xcb fills its buffer with what there is when it looks, so it must not look too early.
 void waitForABufferful(int descriptor) {
     const auto end = std::chrono::steady_clock::now() + patience;
     int waiting = 0;
     while (ioctl(descriptor, FIONREAD, &waiting) == 0 && waiting < bufferSize && std::chrono::steady_clock::now() < end)
-        sched_yield();
+        nanosleep(&pause, nullptr);
 }
 
 } // namespace
