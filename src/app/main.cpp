@@ -14,10 +14,12 @@
 #include "shell/Ending.h"
 
 #include <QClipboard>
+#include <QDBusConnection>
 #include <QGuiApplication>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <thread>
 
 using namespace vellumry;
 
@@ -65,6 +67,8 @@ int runProgram(int& argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("com.vellumry.Vellumry"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     keepTextFieldsOffTheClipboard();
+    // The bus takes its time to let us in: it does so while the display is asked.
+    const std::jthread bus([] { (void)QDBusConnection::sessionBus(); });
     installCatalogue();
     if (!QGuiApplication::platformName().startsWith(u"wayland"))
         display = DisplayKind::x11;
