@@ -68,7 +68,7 @@ torture: ## kill the history 500 times, fail its disk, cut its power; nothing ma
 	@for kind in kill disk power; do build/release/tests/torture/history_torture $$kind 500 || exit 1; done
 
 bench: ## build, run the benchmarks and the side-by-side runs, print figures and ratios
-	@scripts/install-deps --test
+	@scripts/install-deps --test --bench
 	@$(MAKE) --no-print-directory build
 	@bench/run
 

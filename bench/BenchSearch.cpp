@@ -25,30 +25,35 @@ constexpr int runs = 7;
 constexpr qint64 revision = 1;
 
 /// The folded texts of all clips in one buffer: what a plain scan would go over.
+/// What stands between two clips, and in none.
+constexpr char clipEnd = '\xFF';
+
 std::string foldedBuffer(const std::vector<ClipRef>& clips) {
     std::string buffer;
     for (const ClipRef& clip : clips) {
         const QString text = clip->title + u'\n' + clip->searchText.toString() + u'\n' +
                              clip->sourceAppName.value_or(QString()) + u'\n' + clip->imageText.value_or(QString());
-        buffer += text::foldedBytes(QStringView(text)).toStdString() + '\xFF';
+        buffer += text::foldedBytes(QStringView(text)).toStdString() + clipEnd;
     }
     return buffer;
 }
 
-/// The C library's search from one hit to the next, to the end.
+/// The C library's search for the clips that have it: behind a clip's first hit the next clip is looked at, as our own
+/// search does it.
 std::size_t scanWithMemmem(const std::string& buffer, const QByteArray& needle) {
     const char* at = buffer.data();
     const char* const end = at + buffer.size();
     const auto length = static_cast<std::size_t>(needle.size());
+    const auto left = [&at, end] { return static_cast<std::size_t>(end - at); };
     std::size_t hits = 0;
-    while ((at = static_cast<const char*>(memmem(at, static_cast<std::size_t>(end - at), needle.data(), length)))) {
+    while ((at = static_cast<const char*>(memmem(at, left(), needle.data(), length)))) {
         ++hits;
-        at += length;
+        at = static_cast<const char*>(std::memchr(at, clipEnd, left())) + 1;
     }
     return hits;
 }
 
-/// Our own search likewise.
+/// Our own search from one hit to the next, to the end.
 std::size_t scanWithByteSearch(const std::string& buffer, const QByteArray& needle) {
     const ByteSearch search(needle);
     const char* at = buffer.data();

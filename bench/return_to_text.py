@@ -14,7 +14,8 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, HERE)
 sys.path.insert(0, os.path.join(os.path.dirname(HERE), "tests", "e2e"))
 
-from side_by_side import CopyQ, Ours, press_shortcut  # noqa: E402
+from peers import CopyQ, Ours  # noqa: E402
+from side_by_side import press_shortcut  # noqa: E402
 
 from clients import Mousepad  # noqa: E402
 from desktop import QUIET, Failure, accessible, active_window, copy_text, focus, wait_until, window_title, windows  # noqa: E402
