@@ -13,7 +13,10 @@ import time
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, HERE)
 
-from side_by_side import Owner, press_shortcut, process_tree, pss_megabytes, texts
+from side_by_side import Owner, press_shortcut  # noqa: E402
+
+from machine import process_tree, pss_megabytes  # noqa: E402
+from peers import texts  # noqa: E402
 from Xlib import X, Xatom
 from Xlib.protocol import event
 

@@ -11,9 +11,12 @@ import sys
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, HERE)
 
-from side_by_side import CLIPS, QUIET, CopyQ, Ours, Owner, press_shortcut, process_tree, pss_megabytes, schedstat_seconds, switches, tasks
+from side_by_side import CLIPS, Owner, press_shortcut  # noqa: E402
 
-from desktop import key, run, wait_until, windows  # noqa: E402
+from machine import process_tree, pss_megabytes, schedstat_seconds, switches, tasks  # noqa: E402
+from peers import CopyQ, Ours  # noqa: E402
+
+from desktop import QUIET, key, run, wait_until, windows  # noqa: E402
 from tray import Watcher  # noqa: E402
 
 IDLE_SECONDS = int(os.environ.get("VELLUMRY_BENCH_IDLE", "60"))

@@ -85,12 +85,10 @@ class Ours(Tool):
     def is_there(self):
         return True
 
-    def prepare(self):
+    def start(self):
         os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
         with open(SETTINGS, "w", encoding="utf-8") as file:
             file.write("[General]\nkeepAtMost=10000\n")
-
-    def start(self):
         self.process = Vellumry(ready=False)
 
     def wait_ready(self):
@@ -131,6 +129,9 @@ class CopyQ(Tool):
         self.ask("config", "maxitems", "10000")
         self.ask("eval", "setCommands([{name: 'Show', cmd: 'copyq: toggle()', enable: true, isGlobalShortcut: true, "
                          "globalShortcuts: ['meta+ctrl+v']}])")
+
+    def count(self):
+        return int(self.ask("size"))
 
     def fill(self, owner, count):
         """By its own command: copies that follow each other faster than it looks at them it leaves out."""

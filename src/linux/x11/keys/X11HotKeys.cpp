@@ -71,7 +71,8 @@ bool X11HotKeys::grab(quint32 id, KeyCode keyCode, Modifiers modifiers) {
 const X11Keymap& X11HotKeys::currentKeymap() {
     if (!m_keymap) {
         m_keymap = std::make_unique<const X11Keymap>(X11Keymap::read(*m_connection));
-        QMetaObject::invokeMethod(this, [this] { m_keymap.reset(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { m_keymap.reset(); }, Qt::QueuedConnection);
     }
     return *m_keymap;
 }

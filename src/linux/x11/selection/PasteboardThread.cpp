@@ -19,8 +19,8 @@ namespace {
 /// So many events at a time, then a look at commands and deadlines: a client that never stops must not keep us from
 /// them.
 constexpr int eventsAtATime = 64;
-/// Milliseconds after which what was copied or pasted is wiped out of the buffers: once for many copies, and well within
-/// the shortest life of a secret.
+/// Milliseconds after which what was copied or pasted is wiped out of the buffers: once for many copies, and well
+/// within the shortest life of a secret.
 constexpr int quietTime = 2000;
 
 } // namespace
