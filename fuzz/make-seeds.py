@@ -38,6 +38,18 @@ def rich_texts():
         write("FuzzRichText", name + ".rtf", document)
 
 
+def web_pages():
+    pages = {
+        "page": b"<!doctype html><head><title>t</title><style>p{}</style></head><body><h1>T</h1><p>a <b>b</b> &amp; c<br>d</body>",
+        "lists": b"<ul><li>a<ol start=3><li>b<p>c</ol><li>d</ul><table><tr><td>e<th>f</table><pre> x\n y</pre>",
+        "styles": b"<span style='font-weight:700;color:rgb(1,2,3);font-size:1.5em;display:none'>a</span><font size=+2 face=mono>b</font>",
+        "broken": b"<<a href=x'><!-- <script>alert(1)</scr &#xD800;&nope;</p></x",
+        "utf16": "<b>\u00e9</b>".encode("utf-16"),
+    }
+    for name, page in pages.items():
+        write("FuzzHtml", name + ".html", page)
+
+
 def chunk(name, content):
     return struct.pack(">I", len(content)) + name + content + struct.pack(">I", zlib.crc32(name + content))
 
@@ -168,6 +180,7 @@ def texts():
 
 property_lists()
 rich_texts()
+web_pages()
 file_urls()
 image_marks()
 heic_files()

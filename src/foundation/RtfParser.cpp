@@ -4,12 +4,14 @@
 #include "foundation/RtfVocabulary.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vellumry {
 
 namespace {
 
 constexpr std::size_t deepest = 512;
+constexpr std::size_t mostColors = 4096;
 
 bool isLetter(char byte) {
     return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
@@ -28,14 +30,25 @@ int hexValue(char byte) {
 } // namespace
 
 std::optional<QString> RtfParser::text() {
-    if (!m_rtf.startsWith("{\\rtf"))
+    return walk() ? std::optional(std::move(m_text.text)) : std::nullopt;
+}
+
+std::optional<StyledText> RtfParser::styledText() {
+    if (!walk())
         return std::nullopt;
+    m_text.finish();
+    return std::move(m_text);
+}
+
+bool RtfParser::walk() {
+    if (!m_rtf.startsWith("{\\rtf"))
+        return false;
     do {
         if (!step())
-            return std::nullopt;
+            return false;
     } while (!m_groups.empty());
     flushBytes();
-    return std::move(m_text);
+    return true;
 }
 
 bool RtfParser::step() {
@@ -65,7 +78,7 @@ bool RtfParser::openGroup() {
     if (m_groups.size() >= deepest)
         return false;
     m_fallbackLeft = 0;
-    Group inner = m_groups.empty() ? Group{} : m_groups.back();
+    Group inner = m_groups.empty() ? Group{.style = rtf::plainStyle} : m_groups.back();
     inner.isMarkedIgnorable = false;
     m_groups.push_back(inner);
     return true;
@@ -164,7 +177,7 @@ void RtfParser::readHexadecimal() {
 void RtfParser::apply(const ControlWord& word) {
     const bool isDestination = applyDestination(word.name);
     m_groups.back().isMarkedIgnorable = false;
-    if (isDestination || applyToState(word))
+    if (isDestination || applyToTables(word) || applyToState(word))
         return;
     if (word.name == "u" && word.parameter) {
         append(static_cast<char16_t>(*word.parameter));
@@ -173,6 +186,7 @@ void RtfParser::apply(const ControlWord& word) {
     }
     if (const std::optional<char16_t> character = rtf::characterOf(word.name.toByteArray()))
         return append(*character);
+    applyToStyle(word);
     (void)consumesFallback();
 }
 
@@ -182,41 +196,16 @@ bool RtfParser::applyDestination(QByteArrayView name) {
         group.destination = Destination::FontTable;
         return true;
     }
-    // \* says: who does not know what follows shall leave it out. Of these we know none but the font table.
+    if (name == "colortbl") {
+        group.destination = Destination::ColorTable;
+        return true;
+    }
+    // \* marks what an unknowing reader leaves out. Of these we know none but the tables.
     if (group.isMarkedIgnorable || rtf::isIgnoredDestination(name.toByteArray())) {
         group.destination = Destination::Ignored;
         return true;
     }
     return false;
-}
-
-bool RtfParser::applyToState(const ControlWord& word) {
-    Group& group = m_groups.back();
-    const int parameter = word.parameter.value_or(0);
-    if (word.name == "uc") {
-        group.fallbackLength = std::clamp(word.parameter.value_or(1), 0, 255);
-    } else if (word.name == "ansicpg") {
-        m_documentCodePage = parameter > 0 ? parameter : 1252;
-    } else if (word.name == "ansi") {
-        m_documentCodePage = 1252;
-    } else if (word.name == "mac") {
-        m_documentCodePage = 10000;
-    } else if (word.name == "pc") {
-        m_documentCodePage = 437;
-    } else if (word.name == "pca") {
-        m_documentCodePage = 850;
-    } else if (word.name == "f" && word.parameter) {
-        m_definedFont = parameter;
-        group.codePage = group.destination == Destination::FontTable ? 0 : m_fontCodePages.value(parameter, 0);
-    } else if (word.name == "plain") {
-        group.codePage = 0;
-    } else if (word.name == "fcharset" && group.destination == Destination::FontTable) {
-        if (const int codePage = rtf::codePageOfCharset(parameter))
-            m_fontCodePages.insert(m_definedFont, codePage);
-    } else {
-        return false;
-    }
-    return true;
 }
 
 bool RtfParser::consumesFallback() {
@@ -230,23 +219,28 @@ void RtfParser::append(char16_t unit) {
     if (consumesFallback() || m_groups.back().destination != Destination::Body)
         return;
     flushBytes();
-    m_text.append(QChar(unit));
+    const QChar character(unit);
+    m_text.append(QStringView(&character, 1), m_groups.back().style);
 }
 
 void RtfParser::appendByte(char byte) {
-    if (consumesFallback() || m_groups.back().destination != Destination::Body)
+    const Group& group = m_groups.back();
+    if (group.destination == Destination::ColorTable && byte == ';' && m_colors.size() < mostColors)
+        m_colors.push_back(std::exchange(m_definedColor, std::nullopt));
+    if (consumesFallback() || group.destination != Destination::Body)
         return;
-    const int codePage = m_groups.back().codePage != 0 ? m_groups.back().codePage : m_documentCodePage;
-    if (codePage != m_bytesCodePage)
+    const int codePage = group.codePage != 0 ? group.codePage : m_documentCodePage;
+    if (codePage != m_bytesCodePage || group.style != m_bytesStyle)
         flushBytes();
     m_bytesCodePage = codePage;
+    m_bytesStyle = group.style;
     m_bytes.append(byte);
 }
 
 void RtfParser::flushBytes() {
     if (m_bytes.isEmpty())
         return;
-    m_text += m_decoder.decoded(m_bytes, m_bytesCodePage);
+    m_text.append(m_decoder.decoded(m_bytes, m_bytesCodePage), m_bytesStyle);
     m_bytes.truncate(0);
 }
 

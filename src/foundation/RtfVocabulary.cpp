@@ -3,6 +3,7 @@
 
 #include <QHash>
 #include <QSet>
+#include <algorithm>
 
 namespace vellumry::rtf {
 
@@ -58,14 +59,32 @@ std::optional<char16_t> characterOf(const QByteArray& word) {
 
 bool isIgnoredDestination(const QByteArray& word) {
     static const QSet<QByteArray> words{
-        "colortbl",   "stylesheet",        "info",      "pict",       "object",    "objdata",
-        "header",     "headerl",           "headerr",   "headerf",    "footer",    "footerl",
-        "footerr",    "footerf",           "footnote",  "annotation", "fldinst",   "filetbl",
-        "listtable",  "listoverridetable", "rsidtbl",   "revtbl",     "generator", "themedata",
-        "datastore",  "latentstyles",      "xe",        "tc",         "rxe",       "private",
-        "nonshppict", "shpinst",           "bkmkstart", "bkmkend",    "template",
+        "stylesheet",        "info",      "pict",       "object",    "objdata",   "header",
+        "headerl",           "headerr",   "headerf",    "footer",    "footerl",   "footerr",
+        "footerf",           "footnote",  "annotation", "fldinst",   "filetbl",   "listtable",
+        "listoverridetable", "rsidtbl",   "revtbl",     "generator", "themedata", "datastore",
+        "latentstyles",      "xe",        "tc",         "rxe",       "private",   "nonshppict",
+        "shpinst",           "bkmkstart", "bkmkend",    "template",
     };
     return words.contains(word);
+}
+
+void applyStyle(TextStyle& style, QByteArrayView word, std::optional<int> parameter) {
+    constexpr int leastSize = 2;
+    constexpr int mostSize = 800;
+    const bool isOn = parameter.value_or(1) != 0;
+    if (word == "b")
+        style.isBold = isOn;
+    else if (word == "i")
+        style.isItalic = isOn;
+    else if (word == "ul" || word == "ulw" || word == "uld" || word == "uldb" || word == "ulwave")
+        style.isUnderlined = isOn;
+    else if (word == "ulnone")
+        style.isUnderlined = false;
+    else if (word == "strike" || word == "striked")
+        style.isStruck = isOn;
+    else if (word == "fs")
+        style.size = static_cast<float>(std::clamp(parameter.value_or(int(plainStyle.size)), leastSize, mostSize));
 }
 
 } // namespace vellumry::rtf
