@@ -4,6 +4,8 @@
 #include "linux/x11/windows/XErrorTrap.h"
 
 #include <QtEndian>
+#include <utility>
+#include <variant>
 
 #include <X11/Xlib.h>
 
@@ -53,13 +55,14 @@ private:
 
 enum Kind : quint8 { integerKind = 0, stringKind = 1, colorKind = 2 };
 
-} // namespace
+using Value = std::variant<std::monostate, qint32, QByteArray>;
 
-std::optional<qint32> integerIn(QByteArrayView property, QByteArrayView name) {
+/// The value under `name`; nothing for a colour and where the bytes are no such property.
+Value valueIn(QByteArrayView property, QByteArrayView name) {
     Cursor cursor(property);
     const QByteArrayView order = cursor.take(4);
     if (order.isEmpty())
-        return std::nullopt;
+        return {};
     cursor.setBig(order.front() == MSBFirst);
     (void)cursor.number<quint32>(); // how often it was changed
     const auto count = cursor.number<quint32>();
@@ -68,41 +71,65 @@ std::optional<qint32> integerIn(QByteArrayView property, QByteArrayView name) {
         (void)cursor.take(1);
         const bool isNamed = cursor.padded(cursor.number<quint16>()) == name;
         (void)cursor.number<quint32>(); // when this one was changed
-        if (kind == integerKind) {
-            const auto value = cursor.number<qint32>();
-            if (isNamed && cursor.isSound())
-                return value;
-        } else if (kind == stringKind) {
-            (void)cursor.padded(cursor.number<quint32>());
-        } else if (kind == colorKind) {
+        Value value;
+        if (kind == integerKind)
+            value = cursor.number<qint32>();
+        else if (kind == stringKind)
+            value = cursor.padded(cursor.number<quint32>()).toByteArray();
+        else if (kind == colorKind)
             (void)cursor.take(8);
-        } else {
-            return std::nullopt;
-        }
+        else
+            return {};
+        if (isNamed && cursor.isSound())
+            return value;
     }
-    return std::nullopt;
+    return {};
 }
 
-std::optional<qint32> integer(XlibConnection& connection, QByteArrayView name) {
-    Display* display = connection.display();
+template <typename Kept>
+std::optional<Kept> kept(Value value) {
+    Kept* found = std::get_if<Kept>(&value);
+    return found ? std::optional(std::move(*found)) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<qint32> integerIn(QByteArrayView property, QByteArrayView name) {
+    return kept<qint32>(valueIn(property, name));
+}
+
+std::optional<QByteArray> textIn(QByteArrayView property, QByteArrayView name) {
+    return kept<QByteArray>(valueIn(property, name));
+}
+
+XWindow manager(XlibConnection& connection) {
     const QByteArray selection = "_XSETTINGS_S" + QByteArray::number(connection.screen());
-    const XWindow manager = XGetSelectionOwner(display, connection.atom(selection.constData()));
-    if (manager == 0)
-        return std::nullopt;
-    const XAtom property = connection.atom("_XSETTINGS_SETTINGS");
+    return XGetSelectionOwner(connection.display(), connection.atom(selection.constData()));
+}
+
+QByteArray property(XlibConnection& connection) {
+    Display* display = connection.display();
+    const XWindow window = manager(connection);
+    if (window == 0)
+        return {};
+    const XAtom name = connection.atom("_XSETTINGS_SETTINGS");
     XAtom type = 0;
     int format = 0;
     unsigned long count = 0;
     unsigned long left = 0;
     unsigned char* bytes = nullptr;
     XErrorTrap trap(display);
-    XGetWindowProperty(display, manager, property, 0, mostWords, 0, property, &type, &format, &count, &left, &bytes);
-    std::optional<qint32> value;
+    XGetWindowProperty(display, window, name, 0, mostWords, 0, name, &type, &format, &count, &left, &bytes);
+    QByteArray value;
     if (bytes != nullptr && format == 8)
-        value = integerIn(QByteArrayView(bytes, qsizetype(count)), name);
+        value = QByteArray(reinterpret_cast<const char*>(bytes), qsizetype(count));
     if (bytes != nullptr)
         XFree(bytes);
     return value;
+}
+
+std::optional<qint32> integer(XlibConnection& connection, QByteArrayView name) {
+    return integerIn(property(connection), name);
 }
 
 } // namespace vellumry::XSettings

@@ -15,6 +15,14 @@ namespace vellumry::XSettings {
 /// bytes that are not such a property. Pure; any thread.
 [[nodiscard]] std::optional<qint32> integerIn(QByteArrayView property, QByteArrayView name);
 
+/// The text under `name`, in the same way.
+[[nodiscard]] std::optional<QByteArray> textIn(QByteArrayView property, QByteArrayView name);
+
+/// The window of the manager of the connection's screen; 0 without one.
+[[nodiscard]] XWindow manager(XlibConnection& connection);
+/// That manager's property as it is now; empty without one. Main thread; asks the server alone.
+[[nodiscard]] QByteArray property(XlibConnection& connection);
+
 /// The number that the manager of the connection's screen has under `name` now. Main thread; asks the server alone.
 [[nodiscard]] std::optional<qint32> integer(XlibConnection& connection, QByteArrayView name);
 
