@@ -61,7 +61,7 @@ void X11Focus::forget() {
     m_holdsLeft = 0;
 }
 
-void X11Focus::giveBack(XWindow ours) {
+void X11Focus::giveBack(XWindow ours, unsigned long time) {
     if (m_focus == 0)
         return;
     m_givenBack = m_clock();
@@ -74,7 +74,9 @@ void X11Focus::giveBack(XWindow ours) {
         return;
     Display* display = m_connection->display();
     XErrorTrap trap(display);
-    XSetInputFocus(display, m_focus, m_revertTo, CurrentTime);
+    // The server leaves out a request that is older than the last one it obeyed: the window manager's request, of the
+    // click's own time, wins over ours.
+    XSetInputFocus(display, m_focus, m_revertTo, time == 0 ? CurrentTime : time - 1);
     if (trap.finish() != 0)
         activate();
 }

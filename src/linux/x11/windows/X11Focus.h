@@ -29,8 +29,10 @@ public:
     /// Remembers the window that has the keyboard now, unless one is remembered already.
     void remember();
     /// Gives the keyboard back to the remembered window, if `ours` still has it; where that window is gone, asks the
-    /// window manager to activate the one that was active. Any other window that has it keeps it.
-    void giveBack(XWindow ours);
+    /// window manager to activate the one that was active. Any other window that has it keeps it. `time` is the
+    /// server's time of what ended the panel, if that was a click: a window that gets the keyboard by the same click
+    /// keeps it, whichever of the two requests comes first.
+    void giveBack(XWindow ours, unsigned long time = 0);
     void forget();
 
     /// Where the keyboard is. Without a remembered window, and a while after it was given back, any window will do:

@@ -106,7 +106,7 @@ void X11PanelSurface::dismiss(QWindow* window) {
         m_presented = nullptr;
         m_connection->ignore(m_presentedID, FocusChangeMask);
         listenForClicks(false);
-        m_focus->giveBack(m_presentedID);
+        m_focus->giveBack(m_presentedID, m_clickTime);
         m_presentedID = 0;
     }
     window->hide();
@@ -189,7 +189,8 @@ void X11PanelSurface::handleEvent(XEvent* event) {
         return;
     if (event->type == GenericEvent && event->xcookie.extension == m_connection->inputExtension() &&
         event->xcookie.evtype == XI_RawButtonPress && event->xcookie.data != nullptr) {
-        handleClick(static_cast<const XIRawEvent*>(event->xcookie.data)->detail);
+        const auto* click = static_cast<const XIRawEvent*>(event->xcookie.data);
+        handleClick(click->detail, click->time);
         return;
     }
     // A grab (a hot key of anybody's held down, a menu) takes the keyboard for a moment and gives it back.
@@ -200,9 +201,12 @@ void X11PanelSurface::handleEvent(XEvent* event) {
         loseFocus();
 }
 
-void X11PanelSurface::handleClick(int button) {
-    if ((button < firstWheelButton || button > lastWheelButton) && !isOverOwnWindow())
-        loseFocus();
+void X11PanelSurface::handleClick(int button, unsigned long time) {
+    if ((button >= firstWheelButton && button <= lastWheelButton) || isOverOwnWindow())
+        return;
+    m_clickTime = time;
+    loseFocus();
+    m_clickTime = 0;
 }
 
 void X11PanelSurface::loseFocus() {

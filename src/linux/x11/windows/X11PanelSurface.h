@@ -38,7 +38,7 @@ private:
     void followCompositor();
     void listenForClicks(bool isListening);
     void handleEvent(XEvent* event);
-    void handleClick(int button);
+    void handleClick(int button, unsigned long time);
     void loseFocus();
 
     std::shared_ptr<XlibConnection> m_connection;
@@ -47,6 +47,7 @@ private:
     /// The panel that has or wants the keyboard.
     QPointer<QWindow> m_presented;
     XWindow m_presentedID = 0;
+    unsigned long m_clickTime = 0; ///< of the server, while a click beside the panel ends it
     /// The parts of windows that take the pointer; all of a window that is not named.
     QHash<const QWindow*, QRect> m_inputAreas;
     XAtom m_compositor = 0;

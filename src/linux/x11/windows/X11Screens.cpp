@@ -6,6 +6,9 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
+#include <algorithm>
+
+#include <X11/Xlib.h>
 
 namespace vellumry {
 
@@ -35,8 +38,11 @@ std::optional<ScreenPlace> X11Screens::of(const QRect& frame) const {
 
 ScreenPlace X11Screens::placeOf(const QScreen& screen) const {
     const QRect frame = screen.geometry();
+    const qreal scale = screen.devicePixelRatio();
+    const QSize desktop = desktopSize();
+    const bool isAlone = QGuiApplication::screens().size() == 1;
     return {keyOf(screen.manufacturer(), screen.model(), screen.serialNumber(), screen.name(), frame.size()), frame,
-            visiblePart(frame, screen.devicePixelRatio(), workArea())};
+            isAlone ? visiblePart(frame, scale, workArea()) : withoutStruts(frame, scale, desktop, struts(desktop))};
 }
 
 QString X11Screens::keyOf(const QString& maker, const QString& model, const QString& serial, const QString& name,
@@ -53,6 +59,78 @@ QRect X11Screens::visiblePart(const QRect& frame, qreal scale, const QRect& work
         return frame;
     const QPointF offset = QPointF(shared.topLeft() - native.topLeft()) / scale;
     return QRect(frame.topLeft() + offset.toPoint(), (QSizeF(shared.size()) / scale).toSize());
+}
+
+std::vector<X11Screens::Strut> X11Screens::strutsOf(const std::vector<unsigned long>& numbers, QSize desktop) {
+    constexpr size_t edges = 4;
+    constexpr size_t partial = 12;
+    constexpr unsigned long most = 100'000;
+    std::vector<Strut> struts;
+    for (size_t index = 0; index < edges && numbers.size() >= edges; ++index) {
+        if (numbers[index] == 0 || numbers[index] > most)
+            continue;
+        const auto edge = static_cast<Strut::Edge>(index);
+        const bool isUpright = edge == Strut::Edge::left || edge == Strut::Edge::right;
+        Strut strut{edge, int(numbers[index]), 0, (isUpright ? desktop.height() : desktop.width()) - 1};
+        if (numbers.size() >= partial) {
+            strut.begin = int(std::min(numbers[edges + 2 * index], most));
+            strut.end = int(std::min(numbers[edges + 2 * index + 1], most));
+        }
+        struts.push_back(strut);
+    }
+    return struts;
+}
+
+QRect X11Screens::withoutStruts(const QRect& frame, qreal scale, QSize desktop, const std::vector<Strut>& struts) {
+    const QRect native(frame.topLeft(), (QSizeF(frame.size()) * scale).toSize());
+    QRect left = native;
+    for (const Strut& strut : struts) {
+        const int length = strut.end - strut.begin + 1;
+        QRect rest = left;
+        QRect taken;
+        switch (strut.edge) {
+        case Strut::Edge::left:
+            taken = QRect(0, strut.begin, strut.depth, length);
+            rest.setLeft(std::max(rest.left(), taken.right() + 1));
+            break;
+        case Strut::Edge::right:
+            taken = QRect(desktop.width() - strut.depth, strut.begin, strut.depth, length);
+            rest.setRight(std::min(rest.right(), taken.left() - 1));
+            break;
+        case Strut::Edge::top:
+            taken = QRect(strut.begin, 0, length, strut.depth);
+            rest.setTop(std::max(rest.top(), taken.bottom() + 1));
+            break;
+        case Strut::Edge::bottom:
+            taken = QRect(strut.begin, desktop.height() - strut.depth, length, strut.depth);
+            rest.setBottom(std::min(rest.bottom(), taken.top() - 1));
+            break;
+        }
+        const bool isOfThisDisplay = 2 * rest.width() > native.width() && 2 * rest.height() > native.height();
+        if (taken.intersects(native) && isOfThisDisplay)
+            left = rest;
+    }
+    const QPointF offset = QPointF(left.topLeft() - native.topLeft()) / scale;
+    return QRect(frame.topLeft() + offset.toPoint(), (QSizeF(left.size()) / scale).toSize());
+}
+
+/// As it is now: what Xlib keeps is what it was at the start.
+QSize X11Screens::desktopSize() const {
+    XWindowAttributes attributes{};
+    XGetWindowAttributes(m_connection->display(), m_connection->root(), &attributes);
+    return {attributes.width, attributes.height};
+}
+
+std::vector<X11Screens::Strut> X11Screens::struts(QSize desktop) const {
+    std::vector<Strut> all;
+    for (const XWindow window : XWindowProperties::numbers(*m_connection, m_connection->root(), "_NET_CLIENT_LIST")) {
+        auto numbers = XWindowProperties::numbers(*m_connection, window, "_NET_WM_STRUT_PARTIAL");
+        if (numbers.empty())
+            numbers = XWindowProperties::numbers(*m_connection, window, "_NET_WM_STRUT");
+        const std::vector<Strut> found = strutsOf(numbers, desktop);
+        all.insert(all.end(), found.begin(), found.end());
+    }
+    return all;
 }
 
 QRect X11Screens::workArea() const {

@@ -156,6 +156,23 @@ TEST_F(X11PanelSurfaceTest, AClickInTheMarginReachesWhatLiesBelow) {
     EXPECT_EQ(panel.clicks, 1);
 }
 
+TEST_F(X11PanelSurfaceTest, AClickOnAnotherWindowGivesThatWindowTheKeyboard) {
+    XClient other;
+    ASSERT_TRUE(other.open("other", "Other"));
+    other.moveTo(800, 450);
+    surface.onFocusLost = [this](QWindow* window) { surface.dismiss(window); };
+    // The window manager hears of the click as well; whichever of us is quicker, the clicked window has the keyboard.
+    for (int round = 0; round < 10; ++round) {
+        target.focus();
+        ASSERT_TRUE(waitUntil([this] { return target.hasFocus(); }));
+        show();
+        client.movePointer(900, 520);
+        client.click(1);
+        ASSERT_TRUE(waitUntil([this] { return !panel.isVisible(); }));
+        EXPECT_TRUE(waitUntil([&] { return other.hasFocus(); })) << "round " << round;
+    }
+}
+
 TEST_F(X11PanelSurfaceTest, ATargetThatIsGoneIsSurvived) {
     XClient other;
     ASSERT_TRUE(other.open("other", "Other"));

@@ -63,6 +63,11 @@ void XClient::hide() {
     XSync(m_display, False);
 }
 
+void XClient::moveTo(int x, int y) {
+    XMoveWindow(m_display, m_window, x, y);
+    XSync(m_display, False);
+}
+
 void XClient::focus() {
     XEvent request{};
     request.xclient.type = ClientMessage;

@@ -30,6 +30,8 @@ public:
     void close();
     /// Takes the window off the screen, as a program does that goes on in the tray.
     void hide();
+    /// Asks the window manager to put the window there.
+    void moveTo(int x, int y);
     /// Takes the keyboard as a click on the window would.
     void focus();
     [[nodiscard]] bool hasFocus() const;
