@@ -55,6 +55,10 @@
         <translation>‏%1 بانتظار اللصق</translation>
     </message>
     <message>
+        <source>Next: %1</source>
+        <translation>التالي: %1</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>

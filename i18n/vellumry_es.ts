@@ -51,6 +51,10 @@
         <translation>%1 por pegar</translation>
     </message>
     <message>
+        <source>Next: %1</source>
+        <translation>Siguiente: %1</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>

@@ -50,6 +50,10 @@
         <translation>残り %1 件</translation>
     </message>
     <message>
+        <source>Next: %1</source>
+        <translation>次: %1</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>

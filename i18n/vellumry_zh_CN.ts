@@ -50,6 +50,10 @@
         <translation>%1 项待粘贴</translation>
     </message>
     <message>
+        <source>Next: %1</source>
+        <translation>下一个：%1</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>

@@ -11,6 +11,7 @@
 #include "linux/files/InotifyFolderWatching.h"
 #include "linux/files/PosixFileBookmarks.h"
 #include "linux/keyring/KeychainKeyStore.h"
+#include "linux/look/LinuxDesktopLook.h"
 #include "linux/peers/LinuxPeerHistories.h"
 #include "linux/process/AppImage.h"
 #include "linux/process/DBusSingleInstance.h"
@@ -35,6 +36,7 @@
 #include "linux/x11/windows/X11FrontmostApplication.h"
 #include "linux/x11/windows/X11IdleTime.h"
 #include "linux/x11/windows/X11PanelSurface.h"
+#include "linux/x11/windows/XSettingsLook.h"
 #include "linux/x11/windows/XlibConnection.h"
 #include "settings/Preferences.h"
 #include "shell/Ending.h"
@@ -59,8 +61,32 @@ std::unique_ptr<StatusItem> sessionTray(std::unique_ptr<ClassicIcon> classic) {
     return std::make_unique<SessionTray>(std::make_unique<StatusNotifierTray>(&symbolImage), std::move(classic));
 }
 
-/// One connection for keys, focus and windows; the pasteboard has its own, with its own thread.
-std::optional<Reason> addX11Display(Platform& platform) {
+/// With what the settings manager of an X server says.
+class X11DesktopLook : public LinuxDesktopLook {
+public:
+    X11DesktopLook(const Places& places, std::shared_ptr<XlibConnection> connection)
+        : LinuxDesktopLook(places)
+        , m_settings(std::move(connection), [this](const SaidLook& said) { setXSettings(said); }) {}
+
+private:
+    XSettingsLook m_settings;
+};
+
+/// `connection` is that of an X11 session, null in another one, where the display's scale does not hold that of texts.
+void addLook(Platform& platform, std::shared_ptr<XlibConnection> connection) {
+    LinuxDesktopLook::Places places{QDBusConnection::sessionBus(), platform.folders.get()};
+    places.configFolder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    places.isPlasma = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(QLatin1String("KDE"));
+    places.scalesText = connection == nullptr;
+    if (connection)
+        platform.look = std::make_unique<X11DesktopLook>(places, std::move(connection));
+    else
+        platform.look = std::make_unique<LinuxDesktopLook>(places);
+}
+
+/// One connection for keys, focus and windows, which the caller gets as well; the pasteboard has its own, with its own
+/// thread.
+std::optional<Reason> addX11Display(Platform& platform, std::shared_ptr<XlibConnection>& connection) {
     auto created = X11Pasteboard::create(qgetenv("DISPLAY"));
     if (!created)
         return created.error();
@@ -71,7 +97,7 @@ std::optional<Reason> addX11Display(Platform& platform) {
     if (!opened)
         return opened.error();
     std::unique_ptr<X11Pasteboard> pasteboard = std::move(*created);
-    const std::shared_ptr<XlibConnection>& connection = *opened;
+    connection = *opened;
     platform.isWaylandSession = isWaylandSession(*connection);
     const auto focus = std::make_shared<X11Focus>(connection);
     X11PasteTarget::Options options;
@@ -140,7 +166,9 @@ OrReason<Platform> makeLinuxPlatform(DisplayKind display) {
     const QString settings = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     platform.settingsFolder = settings + QStringLiteral("/Vellumry");
     platform.defaults = std::make_unique<UserDefaults>(platform.settingsFolder + QStringLiteral("/Vellumry.conf"));
-    if (auto problem = display == DisplayKind::wayland ? waylanddisplay::add(platform) : addX11Display(platform))
+    std::shared_ptr<XlibConnection> connection;
+    if (auto problem =
+            display == DisplayKind::wayland ? waylanddisplay::add(platform) : addX11Display(platform, connection))
         return std::unexpected(std::move(*problem));
     platform.singleInstance = std::make_unique<DBusSingleInstance>();
     platform.sounds = std::make_unique<ThemeSounds>();
@@ -158,6 +186,7 @@ OrReason<Platform> makeLinuxPlatform(DisplayKind display) {
         qCWarning(logging::process).noquote() << "secrets expire less punctually:" << timer.error().text;
     platform.bookmarks = std::make_unique<PosixFileBookmarks>();
     platform.folders = std::make_unique<InotifyFolderWatching>();
+    addLook(platform, connection);
     platform.peers = std::make_unique<LinuxPeerHistories>();
     platform.isConfined = QFile::exists(QStringLiteral("/.flatpak-info")) || qEnvironmentVariableIsSet("SNAP");
     // A confined package sees an autostart folder of its own.

@@ -316,6 +316,8 @@ void AppEnvironment::showAlert(const StartupAlert& alert, std::function<void()> 
         onDismissed();
         m_alert.release()->deleteLater();
     };
+    // The panel lies above all windows, the alert among them.
+    m_panel->hide();
     m_alert->show();
 }
 

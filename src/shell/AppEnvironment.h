@@ -134,6 +134,7 @@ private:
     [[nodiscard]] bool setLaunchAtLogin(bool isWanted);
     [[nodiscard]] QCoro::Task<FileAccess::Result> checkPersonalFolders() const;
     [[nodiscard]] SettingsActions settingsActions();
+    void followDesktopLook();
     QCoro::Task<void> readFieldText(ViewEngine::Deliver deliver);
     void applyAppearance();
     [[nodiscard]] std::vector<ClipRef> stackSeed();

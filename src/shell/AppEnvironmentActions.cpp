@@ -41,6 +41,8 @@ void AppEnvironment::toggleScreenshots() {
 }
 
 void AppEnvironment::askToClear() {
+    // It lies above all windows, the question among them.
+    m_panel->hide();
     if (m_question) {
         m_question->show();
         return;

@@ -29,6 +29,19 @@ void AppEnvironment::makeSettings() {
     m_views.copyText = [this](const QString& text) { m_fieldPasteboard->setText(text); };
     m_views.readText = [this](const ViewEngine::Deliver& deliver) { readFieldText(deliver); };
     m_views.reducesMotion = [surface = m_platform->panelSurface.get()] { return surface->reducesMotion(); };
+    followDesktopLook();
+}
+
+void AppEnvironment::followDesktopLook() {
+    DesktopLookSource* look = m_platform->look.get();
+    if (!look)
+        return;
+    // The platform outlives us.
+    look->onChanged = [self = QPointer(this), look] {
+        if (self)
+            self->m_views.setDesktopLook(look->look());
+    };
+    m_views.setDesktopLook(look->look());
 }
 
 QCoro::Task<void> AppEnvironment::readFieldText(ViewEngine::Deliver deliver) {

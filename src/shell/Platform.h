@@ -5,6 +5,7 @@
 #include "foundation/UserDefaults.h"
 #include "platform/desktop/Capability.h"
 #include "platform/desktop/DateTimer.h"
+#include "platform/desktop/DesktopLook.h"
 #include "platform/desktop/InstalledApplications.h"
 #include "platform/desktop/KeyStore.h"
 #include "platform/desktop/LoginItem.h"
@@ -58,6 +59,7 @@ struct Platform {
     std::unique_ptr<FileBookmarks> bookmarks;
     std::unique_ptr<FolderWatching> folders;
     std::unique_ptr<InstalledApplications> applications;
+    std::unique_ptr<DesktopLookSource> look; ///< null where nothing says how programs are to look
     /// Null where no other clipboard program can have left anything.
     std::unique_ptr<PeerHistories> peers;
     /// Null where nothing starts programs at login: the choice is refused then.

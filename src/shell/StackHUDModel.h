@@ -16,6 +16,8 @@ class StackHUDModel : public QObject {
     QML_UNCREATABLE("belongs to the bar's controller")
     Q_PROPERTY(QString sentence READ sentence NOTIFY changed)
     Q_PROPERTY(QString spoken READ spoken NOTIFY changed)
+    Q_PROPERTY(QString next READ next NOTIFY changed)
+    Q_PROPERTY(QString spokenNext READ spokenNext NOTIFY changed)
     Q_PROPERTY(bool isOver READ isOver NOTIFY changed)
     Q_PROPERTY(bool isReversed READ isReversed NOTIFY changed)
     Q_PROPERTY(QString orderHelp READ orderHelp NOTIFY changed)
@@ -29,6 +31,10 @@ public:
     [[nodiscard]] QString sentence() const;
     /// The same without a style.
     [[nodiscard]] QString spoken() const;
+    /// What the next paste key pastes, in a few words; empty when nothing waits. A secret is not shown.
+    [[nodiscard]] QString next() const;
+    /// The same as a sentence.
+    [[nodiscard]] QString spokenNext() const;
     /// All was pasted.
     [[nodiscard]] bool isOver() const;
     [[nodiscard]] bool isReversed() const;

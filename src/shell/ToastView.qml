@@ -4,24 +4,17 @@ import QtQuick
 import Vellumry.Views
 
 // A symbol and a sentence.
-Rectangle {
+FloatingBoard {
     id: toast
 
-    readonly property color cornerColour: Theme.edge
     property string symbol
     property string message
     property string tone: "info"
     property int maximumWidth: 800 // of the display
     readonly property color toneColour: tone === "success" ? Theme.success : tone === "warning" ? Theme.warning : Theme.accent
 
-    width: Theme.inset + picture.width + Theme.margin + sentence.width + Theme.inset
-    height: Math.ceil(sentence.implicitHeight) + 2 * Theme.margin
-    radius: Theme.radius
-    color: Theme.ground
-    border.width: Theme.thin
-    border.color: Theme.edge
-    LayoutMirroring.enabled: Views.isRightToLeft
-    LayoutMirroring.childrenInherit: true
+    boardWidth: Theme.inset + picture.width + Theme.margin + sentence.width + Theme.inset
+    boardHeight: Math.ceil(sentence.implicitHeight) + 2 * Theme.margin
     Accessible.role: Accessible.Notification
     Accessible.name: message
 

@@ -11,8 +11,15 @@
 #include <QRegion>
 #include <QUrl>
 #include <cmath>
+#include <utility>
 
 namespace vellumry {
+
+namespace {
+
+constexpr int shadowRoom = 18;
+
+} // namespace
 
 PassiveWindow::PassiveWindow(PanelSurface& surface, ViewEngine& views, Description description)
     : m_surface(&surface)
@@ -49,12 +56,35 @@ bool PassiveWindow::isVisible() const {
 }
 
 QRect PassiveWindow::frame() const {
-    return m_view ? m_view->geometry() : QRect();
+    return m_view ? m_view->geometry().adjusted(m_margin, m_margin, -m_margin, -m_margin) : QRect();
 }
 
 QSize PassiveWindow::wantedSize() {
+    makeRoom();
     const QQuickItem& item = root();
-    return {static_cast<int>(std::ceil(item.width())), static_cast<int>(std::ceil(item.height()))};
+    return QSize(static_cast<int>(std::ceil(item.width())), static_cast<int>(std::ceil(item.height()))) -
+           QSize(2 * m_margin, 2 * m_margin);
+}
+
+/// A shadow needs translucent windows; a compositor may come and go.
+void PassiveWindow::makeRoom() {
+    constexpr const char* property = "shadowMargin";
+    QQuickItem& item = root();
+    if (!item.property(property).isValid())
+        return;
+    const int margin = m_surface->canBlend() ? shadowRoom : 0;
+    if (std::exchange(m_margin, margin) != margin)
+        item.setProperty(property, margin);
+}
+
+QRect PassiveWindow::outer(const QRect& frame) const {
+    return frame.adjusted(-m_margin, -m_margin, m_margin, m_margin);
+}
+
+/// The shadow is no part of what is pressed.
+void PassiveWindow::shapeInput(const QSize& size) {
+    if (!m_description.clickThrough && m_margin > 0)
+        m_surface->setInputArea(m_view.get(), QRect(QPoint(m_margin, m_margin), size));
 }
 
 void PassiveWindow::cutCorners(const QSize& size) {
@@ -73,15 +103,19 @@ void PassiveWindow::cutCorners(const QSize& size) {
 
 void PassiveWindow::place(const QRect& frame) {
     (void)root();
+    makeRoom();
     cutCorners(frame.size());
-    m_view->setGeometry(frame);
+    m_view->setGeometry(outer(frame));
+    shapeInput(frame.size());
 }
 
 void PassiveWindow::appear(const QRect& frame, std::chrono::milliseconds fade) {
     root().setOpacity(0);
+    makeRoom();
     cutCorners(frame.size());
     fadeTo(1, fade);
-    m_surface->presentPassive(m_view.get(), frame, m_description.clickThrough);
+    m_surface->presentPassive(m_view.get(), outer(frame), m_description.clickThrough);
+    shapeInput(frame.size());
 }
 
 void PassiveWindow::stay(std::chrono::milliseconds fade) {
@@ -103,7 +137,7 @@ void PassiveWindow::hide() {
 
 void PassiveWindow::fadeTo(double opacity, std::chrono::milliseconds duration) {
     m_fade->stop();
-    const bool moves = m_surface->canBlend() && !m_surface->reducesMotion();
+    const bool moves = m_surface->canBlend() && !m_surface->reducesMotion() && !m_views->isStill();
     m_fade->setDuration(moves ? static_cast<int>(duration.count()) : 0);
     m_fade->setStartValue(root().opacity());
     m_fade->setEndValue(opacity);

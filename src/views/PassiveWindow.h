@@ -18,16 +18,17 @@ namespace vellumry {
 
 class ViewEngine;
 
-/// A small window above all others that never takes the keyboard. It is as large as its view wants to be, is made at
-/// its first use and kept. It fades where windows can be translucent and the user wants motion, and comes and goes at
-/// once elsewhere. Main thread.
+/// A small window above all others that never takes the keyboard. It is as large as its view wants to be, and around it
+/// there is room for a shadow, which no frame here counts; it is made at its first use and kept. It fades where windows
+/// can be translucent and the user wants motion, and comes and goes at once elsewhere. Main thread.
 class PassiveWindow : public QObject {
     Q_OBJECT
 
 public:
     struct Description {
         QString title;            ///< what screen readers say
-        QString view;             ///< the resource that holds the view, whose root has a `cornerColour`
+        QString view;             ///< the resource that holds the view, whose root has a `cornerColour`, and a
+                                  ///< `shadowMargin` where it throws a shadow
         QVariantMap properties;   ///< of the view, from its start
         bool clickThrough = true; ///< the pointer reaches what is below
         double cornerRadius = 14; ///< as the view draws it; cut where windows cannot be translucent
@@ -63,11 +64,15 @@ private:
     void makeView();
     void fadeTo(double opacity, std::chrono::milliseconds duration);
     void cutCorners(const QSize& size);
+    void makeRoom();
+    void shapeInput(const QSize& size);
+    [[nodiscard]] QRect outer(const QRect& frame) const;
 
     PanelSurface* m_surface;
     ViewEngine* m_views;
     Description m_description;
     std::unique_ptr<QQuickView> m_view;
+    int m_margin = 0;                     ///< room for the shadow on each side
     QPropertyAnimation* m_fade = nullptr; ///< of the view's opacity; belongs to the view
 };
 

@@ -18,6 +18,33 @@ QString pathOf(const QString& name) {
     return QStringLiteral(":/vellumry/symbols/") + name + QStringLiteral(".svg");
 }
 
+struct Shadow {
+    int border = 0; ///< what of the picture is not stretched
+    double margin = 0;
+    double blur = 0; ///< standard deviation
+    double drop = 0; ///< how much lower it lies than what throws it
+    double strength = 0;
+};
+
+// A Gaussian blur of a rectangle is the product of the blurs of its two spans.
+QImage shadowOf(const Shadow& shadow) {
+    constexpr int stretched = 8;
+    const int side = 2 * shadow.border + stretched;
+    const auto covered = [&](double place) {
+        const double scale = shadow.blur * std::numbers::sqrt2;
+        return (std::erf((place - shadow.margin) / scale) - std::erf((place - (side - shadow.margin)) / scale)) / 2.0;
+    };
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < side; ++y) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < side; ++x) {
+            const double share = covered(x + 0.5) * covered(y + 0.5 - shadow.drop);
+            line[x] = qPremultiply(qRgba(0, 0, 0, static_cast<int>(std::lround(shadow.strength * share))));
+        }
+    }
+    return image;
+}
+
 } // namespace
 
 // The drawing in black, recoloured through its coverage.
@@ -36,26 +63,12 @@ QImage symbolImage(const QString& name, const QColor& tint, const QSize& size) {
     return image;
 }
 
-// A Gaussian blur of a rectangle is the product of the blurs of its two spans.
 QImage panelShadow() {
-    constexpr int side = 2 * 86 + 8;
-    constexpr double margin = 40;
-    constexpr double blur = 12; // standard deviation
-    constexpr double drop = 5;  // lies a little lower than the panel
-    constexpr double strength = 84;
-    const auto covered = [](double place) {
-        constexpr double scale = blur * std::numbers::sqrt2;
-        return (std::erf((place - margin) / scale) - std::erf((place - (side - margin)) / scale)) / 2.0;
-    };
-    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < side; ++y) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < side; ++x) {
-            const double share = covered(x + 0.5) * covered(y + 0.5 - drop);
-            line[x] = qPremultiply(qRgba(0, 0, 0, static_cast<int>(std::lround(strength * share))));
-        }
-    }
-    return image;
+    return shadowOf({.border = 86, .margin = 40, .blur = 12, .drop = 5, .strength = 84});
+}
+
+QImage smallShadow() {
+    return shadowOf({.border = 32, .margin = 18, .blur = 5, .drop = 2, .strength = 84});
 }
 
 SymbolProvider::SymbolProvider()
@@ -76,6 +89,8 @@ QImage SymbolProvider::requestImage(const QString& id, QSize* size, const QSize&
     QImage image;
     if (id == QLatin1String("shadow")) {
         image = panelShadow();
+    } else if (id == QLatin1String("small-shadow")) {
+        image = smallShadow();
     } else {
         const qsizetype slash = id.lastIndexOf(QLatin1Char('/'));
         image = symbolImage(id.left(slash), QColor(QLatin1Char('#') + id.mid(slash + 1)), wanted);

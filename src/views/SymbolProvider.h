@@ -27,5 +27,7 @@ private:
 /// A soft shadow around a rounded rectangle, made to be stretched from its middle; borders of 86, room of 40 around the
 /// panel.
 [[nodiscard]] QImage panelShadow();
+/// The same of a small board; it reaches 18 pixels beyond it.
+[[nodiscard]] QImage smallShadow();
 
 } // namespace vellumry

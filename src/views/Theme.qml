@@ -3,50 +3,50 @@ pragma Singleton
 import QtQuick
 import Vellumry.Views
 
-// Every colour and measure of our windows, in light and dark. Contrast of text on its ground is at least 4.5 : 1, of a
-// part that is worked with 3 : 1. Measures lie on a grid of four pixels; heights grow with the font.
+// Every colour and measure of our windows. The colours come from the user's and the desktop's choice; measures lie on a
+// grid of four pixels; heights grow with the font.
 QtObject {
     // By the user's choice and the desktop's scheme.
     readonly property bool dark: Views.dark
 
-    readonly property color ground: dark ? "#1f2024" : "#fafafb"
-    readonly property color edge: dark ? "#3c3d44" : "#d2d3d8"
-    readonly property color line: dark ? "#2f3036" : "#e6e6ea"
-    readonly property color text: dark ? "#f1f1f4" : "#19191c"
-    readonly property color secondary: dark ? "#a8a9b2" : "#5c5d65"
-    readonly property color accent: dark ? "#7db0ff" : "#1654c4"
-    readonly property color selected: dark ? "#2b3a55" : "#dbe7fc"
-    readonly property color hovered: dark ? "#2a2b30" : "#f0f0f3"
-    readonly property color tile: dark ? "#33343b" : "#ececf0"
-    readonly property color selectedTile: dark ? "#374866" : "#cfdffa"
-    readonly property color cap: dark ? "#2e2f35" : "#f0f0f3"
-    readonly property color capEdge: dark ? "#4a4b53" : "#cfd0d6"
-    readonly property color thumb: "#8f9098"
-    readonly property color success: dark ? "#5fd08a" : "#177a3e"
-    readonly property color warning: dark ? "#ffb454" : "#8a5000"
-    readonly property color button: dark ? "#7db0ff" : "#1654c4"
-    readonly property color pressedButton: dark ? "#a3c8ff" : "#10409a"
-    readonly property color danger: dark ? "#ff8f87" : "#b3261e"
-    readonly property color card: dark ? "#26272c" : "#ffffff"
-    readonly property color shade: dark ? "#99000000" : "#66202024"
+    readonly property color ground: Views.colors.ground
+    readonly property color edge: Views.colors.edge
+    readonly property color line: Views.colors.line
+    readonly property color text: Views.colors.text
+    readonly property color secondary: Views.colors.secondary
+    readonly property color accent: Views.colors.accent
+    readonly property color selected: Views.colors.selected
+    readonly property color hovered: Views.colors.hovered
+    readonly property color tile: Views.colors.tile
+    readonly property color selectedTile: Views.colors.selectedTile
+    readonly property color cap: Views.colors.cap
+    readonly property color capEdge: Views.colors.capEdge
+    readonly property color thumb: Views.colors.thumb
+    readonly property color success: Views.colors.success
+    readonly property color warning: Views.colors.warning
+    readonly property color button: Views.colors.button
+    readonly property color pressedButton: Views.colors.pressedButton
+    readonly property color danger: Views.colors.danger
+    readonly property color card: Views.colors.card
+    readonly property color shade: Views.colors.shade
     // What pictures with clear parts lie on.
-    readonly property color paper: dark ? "#d9d9de" : "#ffffff"
-    readonly property color buttonText: dark ? "#10203c" : "#ffffff"
+    readonly property color paper: Views.colors.paper
+    readonly property color buttonText: Views.colors.buttonText
 
-    readonly property int titleSize: 14
-    readonly property int smallSize: 12
-    readonly property int capSize: 11
-    readonly property int footerSize: 11
-    readonly property int fieldSize: 19
-    readonly property int messageSize: 14
-    readonly property int emptyTitleSize: 16
-    readonly property int emptySize: 13
-    readonly property int alertTitleSize: 17
-    readonly property int formSize: 13
-    readonly property int headingSize: 24
-    readonly property int hudSize: 14
-    readonly property int textSize: 13
-    readonly property int codeSize: 12
+    readonly property int titleSize: sized(14)
+    readonly property int smallSize: sized(12)
+    readonly property int capSize: sized(11)
+    readonly property int footerSize: sized(11)
+    readonly property int fieldSize: sized(19)
+    readonly property int messageSize: sized(14)
+    readonly property int emptyTitleSize: sized(16)
+    readonly property int emptySize: sized(13)
+    readonly property int alertTitleSize: sized(17)
+    readonly property int formSize: sized(13)
+    readonly property int headingSize: sized(24)
+    readonly property int hudSize: sized(14)
+    readonly property int textSize: sized(13)
+    readonly property int codeSize: sized(12)
     readonly property real readingLine: 1.15
     readonly property string family: Views.family
     readonly property string fixedFamily: Views.fixedFamily
@@ -73,6 +73,7 @@ QtObject {
     readonly property int emptySymbolSize: 36
     readonly property int emptyWidth: 420
     readonly property int transformWidth: 232
+    readonly property int nextWidth: 260
     readonly property int tooltipWidth: 360
     readonly property int alertWidth: 440
     readonly property int messageWidth: 560
@@ -91,6 +92,9 @@ QtObject {
     readonly property int largeTile: 44
     // What of the shadow's picture is not stretched.
     readonly property int shadowBorder: 86
+    // How far the shadow of a small board reaches, and the same of its picture.
+    readonly property int smallShadow: 18
+    readonly property int smallShadowBorder: 32
     // Milliseconds that the pointer rests until it is taken for a question.
     readonly property int askingTime: 600
     readonly property int largeSymbol: 24
@@ -128,6 +132,10 @@ QtObject {
         font.pixelSize: Theme.fieldSize
     }
 
+    /// A size of letters by the user's choice.
+    function sized(pixels: int): int {
+        return Math.round(pixels * Views.textScale);
+    }
     function onGrid(length: real): int {
         return Math.ceil(length / 4) * 4;
     }

@@ -10,6 +10,8 @@
 #include <QPalette>
 #include <QQmlEngine>
 #include <QQuickView>
+#include <algorithm>
+#include <utility>
 
 namespace vellumry {
 
@@ -48,13 +50,32 @@ bool ViewEngine::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
+void ViewEngine::setDesktopLook(const DesktopLook& look) {
+    const bool isOtherSize = std::exchange(m_look, look).textScale != look.textScale;
+    resolve();
+    if (isOtherSize)
+        Q_EMIT lookChanged();
+}
+
+double ViewEngine::textScale() const {
+    constexpr double least = 0.8;
+    constexpr double most = 3;
+    return std::clamp(m_look.textScale, least, most);
+}
+
 void ViewEngine::resolve() {
-    const bool systemIsDark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
-    const bool isDark = m_appearance == Appearance::system ? systemIsDark : m_appearance == Appearance::dark;
-    if (isDark == m_isDark)
+    const auto paletteIsDark = [] { return QGuiApplication::palette().color(QPalette::Window).lightness() < 128; };
+    ColorChoice choice;
+    choice.isDark =
+        m_appearance == Appearance::system ? m_look.isDark.value_or(paletteIsDark()) : m_appearance == Appearance::dark;
+    choice.isHighContrast = m_look.isHighContrast;
+    if (m_look.accent)
+        choice.accent = QColor::fromRgb(*m_look.accent);
+    if (choice == m_choice)
         return;
-    m_isDark = isDark;
-    Q_EMIT darkChanged();
+    m_choice = choice;
+    m_colors = ThemeColors::of(choice);
+    Q_EMIT lookChanged();
 }
 
 } // namespace vellumry

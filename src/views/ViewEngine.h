@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/desktop/DesktopLook.h"
+#include "views/ThemeColors.h"
+
 #include <QObject>
 #include <QString>
 #include <functional>
@@ -11,8 +14,8 @@ class QQuickView;
 
 namespace vellumry {
 
-/// What all windows of the program are drawn with: one QML engine, made when the first window needs it, and the choice
-/// between light and dark. QML sees it as `Views`. Outlives every window that it made. Main thread.
+/// What all windows of the program are drawn with: one QML engine, made when the first window needs it, and the look
+/// that the user and the desktop have chosen. QML sees it as `Views`. Outlives every window that it made. Main thread.
 class ViewEngine : public QObject {
     Q_OBJECT
 
@@ -27,6 +30,8 @@ public:
     [[nodiscard]] QQmlEngine& engine();
 
     void setAppearance(Appearance appearance);
+    /// What the desktop says of its look; followed by all windows at once.
+    void setDesktopLook(const DesktopLook& look);
     /// The clipboard as the fields of all windows use it: Qt's own would wait for its owner. Set by the owner.
     std::function<void(const QString& text)> copyText = [](const QString&) {};
     using Deliver = std::function<void(const QString& text)>;
@@ -35,13 +40,18 @@ public:
     std::function<bool()> reducesMotion = [] { return false; };
 
     /// The user's choice, else the desktop's.
-    [[nodiscard]] bool isDark() const { return m_isDark; }
+    [[nodiscard]] bool isDark() const { return m_choice.isDark; }
+    [[nodiscard]] const ThemeColors& colors() const { return m_colors; }
+    /// Of all texts; from 0.8 to 3.
+    [[nodiscard]] double textScale() const;
+    /// The user wants less motion: by the hook, or by the desktop's look.
+    [[nodiscard]] bool isStill() const { return m_look.reducesMotion || reducesMotion(); }
 
 Q_SIGNALS:
-    void darkChanged();
+    void lookChanged();
 
 protected:
-    /// Follows the desktop's colours.
+    /// Follows the colours of Qt's own theme, where nothing else says what the desktop's are.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -49,7 +59,9 @@ private:
 
     std::unique_ptr<QQmlEngine> m_engine;
     Appearance m_appearance = Appearance::system;
-    bool m_isDark = false;
+    DesktopLook m_look;
+    ColorChoice m_choice;
+    ThemeColors m_colors = ThemeColors::of({});
 };
 
 } // namespace vellumry

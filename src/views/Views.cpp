@@ -15,7 +15,7 @@ namespace vellumry {
 
 Views::Views(const ViewEngine& engine)
     : m_engine(&engine) {
-    connect(m_engine, &ViewEngine::darkChanged, this, &Views::darkChanged);
+    connect(m_engine, &ViewEngine::lookChanged, this, &Views::lookChanged);
 }
 
 Views* Views::create(QQmlEngine* engine, QJSEngine*) {
@@ -26,12 +26,20 @@ bool Views::isDark() const {
     return m_engine->isDark();
 }
 
+ThemeColors Views::colors() const {
+    return m_engine->colors();
+}
+
+double Views::textScale() const {
+    return m_engine->textScale();
+}
+
 bool Views::isRightToLeft() const {
     return QGuiApplication::isRightToLeft();
 }
 
 bool Views::reducesMotion() const {
-    return m_engine->reducesMotion();
+    return m_engine->isStill();
 }
 
 QString Views::family() const {
@@ -50,6 +58,13 @@ void Views::tellSelected(QQuickItem* item) const {
     if (!item || !QAccessible::isActive())
         return;
     QAccessibleEvent event(item, QAccessible::Selection);
+    QAccessible::updateAccessibility(&event);
+}
+
+void Views::tellFocused(QQuickItem* item) const {
+    if (!item || !QAccessible::isActive())
+        return;
+    QAccessibleEvent event(item, QAccessible::Focus);
     QAccessible::updateAccessibility(&event);
 }
 

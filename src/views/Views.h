@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "views/ThemeColors.h"
+
 #include <QObject>
 #include <QQuickItem>
 #include <QString>
@@ -19,7 +21,9 @@ class Views : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
+    Q_PROPERTY(bool dark READ isDark NOTIFY lookChanged)
+    Q_PROPERTY(vellumry::ThemeColors colors READ colors NOTIFY lookChanged)
+    Q_PROPERTY(double textScale READ textScale NOTIFY lookChanged)
     Q_PROPERTY(bool isRightToLeft READ isRightToLeft CONSTANT)
     Q_PROPERTY(QString family READ family CONSTANT)
     Q_PROPERTY(QString fixedFamily READ fixedFamily CONSTANT)
@@ -29,6 +33,9 @@ public:
     static Views* create(QQmlEngine* engine, QJSEngine*);
 
     [[nodiscard]] bool isDark() const;
+    [[nodiscard]] ThemeColors colors() const;
+    /// How much larger texts are than at the usual setting.
+    [[nodiscard]] double textScale() const;
     /// Our words are written from right to left, so all is laid out that way.
     [[nodiscard]] bool isRightToLeft() const;
     /// The user wants less motion; asked anew at each use.
@@ -41,6 +48,9 @@ public:
     Q_INVOKABLE [[nodiscard]] QString words(const QString& key) const;
     /// Tells screen readers that `item` was selected, or is not any more: Qt tells no change of that state by itself.
     Q_INVOKABLE void tellSelected(QQuickItem* item) const;
+    /// Tells screen readers that `item` is what the keys now work on, though the keyboard stays in a field: Qt tells it
+    /// of items that have the keyboard only.
+    Q_INVOKABLE void tellFocused(QQuickItem* item) const;
     /// Lets screen readers find the children of `content`, which a list made in any order, from top to bottom.
     Q_INVOKABLE void orderForReading(QQuickItem* content) const;
     /// Copies the text that is selected in a field, as any application does; nothing when there is none.
@@ -49,7 +59,7 @@ public:
     Q_INVOKABLE void pasteInto(QQuickItem* field);
 
 Q_SIGNALS:
-    void darkChanged();
+    void lookChanged();
     void pasted(QQuickItem* into, const QString& text);
 
 private:

@@ -80,6 +80,14 @@ TEST_F(AppActionsTest, ClearingAsksFirstAndTheWayOutIsTheFirstKey) {
     EXPECT_EQ(clips(), 1U);
 }
 
+TEST_F(AppActionsTest, AQuestionIsNotHiddenByThePanel) {
+    environment().panel().show();
+    ASSERT_TRUE(environment().panel().isVisible());
+    ask("clear");
+    waitForQuestion();
+    EXPECT_FALSE(environment().panel().isVisible());
+}
+
 TEST_F(AppActionsTest, ClearingKeepsThePins) {
     copyText("one");
     awaited(environment().store().setPinned(environment().store().clips().front()->id, true, time.clock()()));

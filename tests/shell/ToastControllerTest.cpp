@@ -69,7 +69,7 @@ TEST_F(ToastControllerTest, ASecondMessageReplacesTheFirstAndLastsItsFullTime) {
 TEST_F(ToastControllerTest, StandsInTheMiddleAboveTheBottomOfWhatIsVisible) {
     surface.screen->visible = QRect(100, 30, 1401, 900);
     show(QStringLiteral("Pinned"));
-    const QRectF frame = surface.frames.last();
+    const QRectF frame = lastBoard();
     EXPECT_NEAR(frame.center().x(), 800.5, 0.5);
     EXPECT_EQ(frame.bottom(), 930 - 72);
 }
@@ -99,4 +99,16 @@ TEST_F(ToastControllerTest, FollowsTheChoiceBetweenLightAndDark) {
     const QColor light = window()->rootObject()->property("color").value<QColor>();
     views.setAppearance(ViewEngine::Appearance::dark);
     EXPECT_LT(window()->rootObject()->property("color").value<QColor>().lightness(), light.lightness());
+}
+
+TEST_F(ToastControllerTest, AShadowLiesAroundItWhereWindowsAreTranslucent) {
+    show(QStringLiteral("Pinned"));
+    const QRect shadowed = surface.frames.last();
+    EXPECT_GT(window()->rootObject()->property("shadowMargin").toInt(), 0);
+    EXPECT_EQ(window()->rootObject()->size(), QSizeF(shadowed.size()));
+    const QRect seen = lastBoard();
+    surface.blends = false;
+    show(QStringLiteral("Pinned"));
+    EXPECT_EQ(window()->rootObject()->property("shadowMargin").toInt(), 0);
+    EXPECT_EQ(surface.frames.last(), seen) << "the same place without one";
 }

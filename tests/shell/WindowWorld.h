@@ -22,6 +22,13 @@ protected:
     [[nodiscard]] QQuickView* window() const {
         return surface.adopted.isEmpty() ? nullptr : qobject_cast<QQuickView*>(surface.adopted.first());
     }
+    /// What is seen of the window: without the room for its shadow.
+    [[nodiscard]] static QRect boardOf(const QQuickView& view, const QRect& geometry) {
+        const int margin = view.rootObject()->property("shadowMargin").toInt();
+        return geometry.adjusted(margin, margin, -margin, -margin);
+    }
+    [[nodiscard]] QRect board() const { return boardOf(*window(), window()->geometry()); }
+    [[nodiscard]] QRect lastBoard() const { return boardOf(*window(), surface.frames.last()); }
     [[nodiscard]] double opacity() const { return window()->rootObject()->opacity(); }
     /// Time goes by for fades and alarms alike. The event loop, which moves fades otherwise, does not run.
     void pass(std::chrono::milliseconds time) {

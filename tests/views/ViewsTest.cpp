@@ -55,3 +55,37 @@ TEST_F(ViewsTest, ALabelNeverTakesTextForMarkup) {
     const auto label = make("Label { text: \"<b>bold</b>\" }");
     EXPECT_EQ(label->property("textFormat").toInt(), 0) << "plain";
 }
+
+TEST_F(ViewsTest, TheDesktopsLookCountsWhereTheUserHasNotChosenAnother) {
+    const auto item = make("Item { property bool dark: Views.dark; property color accent: Theme.accent }");
+    views.setDesktopLook({.isDark = true});
+    EXPECT_TRUE(item->property("dark").toBool());
+    views.setDesktopLook({.isDark = false, .accent = 0xe62d42});
+    EXPECT_FALSE(item->property("dark").toBool());
+    EXPECT_LT(item->property("accent").value<QColor>().blue(), item->property("accent").value<QColor>().red());
+    views.setAppearance(ViewEngine::Appearance::dark);
+    EXPECT_TRUE(item->property("dark").toBool());
+}
+
+TEST_F(ViewsTest, TextsAndRowsGrowByTheDesktopsTextScaleWithinReason) {
+    const auto item = make("Item { property int size: Theme.titleSize; property int row: Theme.rowHeight }");
+    const int size = item->property("size").toInt();
+    const int row = item->property("row").toInt();
+    views.setDesktopLook({.textScale = 2});
+    EXPECT_EQ(item->property("size").toInt(), 2 * size);
+    EXPECT_GT(item->property("row").toInt(), row);
+    views.setDesktopLook({.textScale = 40});
+    EXPECT_EQ(item->property("size").toInt(), 3 * size);
+    views.setDesktopLook({});
+    EXPECT_EQ(item->property("size").toInt(), size);
+}
+
+TEST_F(ViewsTest, ADesktopThatWantsLessMotionIsHeard) {
+    // Asked anew by each view.
+    const auto isStill = [this] {
+        return make("Item { property bool isStill: Views.reducesMotion() }")->property("isStill").toBool();
+    };
+    EXPECT_FALSE(isStill());
+    views.setDesktopLook({.reducesMotion = true});
+    EXPECT_TRUE(isStill());
+}
