@@ -148,7 +148,7 @@ ListView {
         }
         width: list.width
         isHovered: list.hoveredRow === index
-        isPrimary: list.panel.primaryRow === index
+        isPrimary: list.panel.primaryRow === index && !list.panel.menu.isOpen
         onPressed: list.panel.rowActivated(index)
     }
 

@@ -48,8 +48,9 @@ PasteboardItem joinedTexts(const std::vector<const ClipPayload*>& texts) {
     return {{{uniformtype::utf8PlainText, lines.join(u'\n').toUtf8()}}, QStringList{uniformtype::utf8PlainText}};
 }
 
-/// The picture's bytes with the extension that they need; PNG where there is one.
-void addPicture(DragSource::Content& content, const Clip& clip, const ClipPayload& payload) {
+/// The picture's bytes with the extension that they need; PNG where there is one. The type that they have is added to
+/// `types`.
+void addPicture(DragSource::Content& content, QStringList& types, const Clip& clip, const ClipPayload& payload) {
     struct Form {
         const QString& type;
         const char16_t* extension;
@@ -64,6 +65,7 @@ void addPicture(DragSource::Content& content, const Clip& clip, const ClipPayloa
             QString name = pictureFileName(clip.title);
             name.replace(name.size() - 4, 4, QString::fromUtf16(form.extension));
             content.files.push_back({name, found->second});
+            types.append(form.type);
             return;
         }
     }
@@ -91,6 +93,7 @@ DragSource::Content dragContents(const std::vector<ClipRef>& clips, const QHash<
                                  const PanelModel::FileStatuses& statuses) {
     DragSource::Content content;
     std::vector<const ClipPayload*> texts;
+    QStringList pictures;
     for (const ClipRef& clip : clips) {
         if (clip->kind == ClipKind::file) {
             addFiles(content, statuses.value(clip->id));
@@ -100,7 +103,7 @@ DragSource::Content dragContents(const std::vector<ClipRef>& clips, const QHash<
         if (payload == payloads.constEnd())
             continue;
         if (clip->kind == ClipKind::image)
-            addPicture(content, *clip, *payload);
+            addPicture(content, pictures, *clip, *payload);
         else if (!payload->items.empty())
             texts.push_back(&*payload);
     }
@@ -109,8 +112,8 @@ DragSource::Content dragContents(const std::vector<ClipRef>& clips, const QHash<
     else if (!texts.empty())
         content.items.insert(content.items.begin(), joinedTexts(texts));
     // A program that takes pictures gets the picture itself.
-    if (content.files.size() == 1 && content.items.empty() && content.files.front().name.endsWith(u".png"))
-        content.items.push_back({{{uniformtype::png, content.files.front().bytes}}, QStringList{uniformtype::png}});
+    if (content.files.size() == 1 && content.items.empty())
+        content.items.push_back({{{pictures.front(), content.files.front().bytes}}, pictures});
     return content;
 }
 

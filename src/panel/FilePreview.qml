@@ -28,7 +28,7 @@ Item {
         TextInImageSection {
             visible: files.preview.textInImage !== ""
             width: parent.width
-            text: files.preview.textInImage
+            preview: files.preview
         }
         ReadingTextLabel {
             visible: files.preview.isReadingText

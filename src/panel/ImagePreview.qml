@@ -77,7 +77,7 @@ Item {
             id: section
             visible: image.preview.textInImage !== ""
             width: parent.width
-            text: image.preview.textInImage
+            preview: image.preview
         }
         ReadingTextLabel {
             id: reading

@@ -45,6 +45,8 @@ Item {
         anchors.topMargin: Theme.margin
         anchors.bottom: parent.bottom
         text: link.preview.text
+        marked: link.preview.markedText
+        upToHit: link.preview.textUpToHit
         isAddress: true
     }
 }

@@ -44,6 +44,12 @@ Rectangle {
     border.width: Theme.thin
     Accessible.role: Accessible.PopupMenu
 
+    Shadow {
+        anchors.fill: parent
+        anchors.margins: -Theme.smallShadow
+        // Behind the board's own ground.
+        z: -1
+    }
     Connections {
         target: board.level
         function onModelAboutToBeReset() {

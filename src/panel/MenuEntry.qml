@@ -37,6 +37,10 @@ Item {
     Accessible.checkable: isCheckable
     Accessible.checked: isChecked
     Accessible.onPressAction: chosen()
+    onIsCurrentChanged: {
+        if (isCurrent)
+            Views.tellFocused(entry);
+    }
 
     Rectangle {
         visible: entry.isSeparator

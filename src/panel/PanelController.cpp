@@ -6,29 +6,18 @@
 #include "views/ThumbnailProvider.h"
 
 #include <QCursor>
-#include <QPainterPath>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
-#include <QRegion>
 
 namespace vellumry {
 
 namespace {
 
-constexpr int shadowRoom = 40;
-constexpr int cornerRadius = 14;
 constexpr int draggedRadius = 8;
 constexpr int settleIn = 160; // milliseconds
 const QString thumbnails = QStringLiteral("thumbnail");
 const QString previews = QStringLiteral("preview");
-
-/// Round corners for windows that cannot blend.
-QRegion roundedMask(const QSize& size) {
-    QPainterPath outline;
-    outline.addRoundedRect(QRectF(QPointF(), QSizeF(size)), cornerRadius, cornerRadius);
-    return QRegion(outline.toFillPolygon().toPolygon());
-}
 
 } // namespace
 
@@ -53,6 +42,8 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, Pasteboa
         m_facade.statusMenu = [this] { return closingFirst(m_hooks.statusMenu()); };
     m_facade.onRequestAccessibility = [this] { m_hooks.requestAccessibility(); };
     wireDrags();
+    connect(m_views, &ViewEngine::lookChanged, this, &PanelController::followLook);
+    followLook();
     m_facade.onGrabbed = [this] { grab(); };
     m_facade.onDragged = [this] { drag(); };
     m_facade.onDropped = [this] { drop(); };
@@ -121,6 +112,7 @@ void PanelController::makeView() {
     m_surface->adopt(m_view.get());
     m_fade.setTargetObject(m_view.get());
     connect(m_view.get(), &QWindow::screenChanged, this, [this] { shapeInput(); });
+    followDisplays();
     applyLook();
     m_view->setInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&m_facade)},
                                   {QStringLiteral("preview"), QVariant::fromValue(&m_preview)}});
@@ -139,26 +131,6 @@ void PanelController::warmUp() {
         makeView();
 }
 
-/// Room for a shadow where windows may be translucent, and cut corners where not.
-void PanelController::applyLook() {
-    m_shadowMargin = m_surface->canBlend() ? shadowRoom : 0;
-    m_facade.setShadowMargin(m_shadowMargin);
-    const QSize size = panelSize + QSize(2 * m_shadowMargin, 2 * m_shadowMargin);
-    m_view->resize(size);
-    m_view->setMask(m_shadowMargin > 0 ? QRegion() : roundedMask(size));
-    // The edge of a mask is not smooth: what shows there of the window's own ground would be black.
-    const QQuickItem* root = m_view->rootObject();
-    const bool isBare = m_shadowMargin > 0 || root == nullptr;
-    m_view->setColor(isBare ? QColor(Qt::transparent) : root->property("cornerColour").value<QColor>());
-    shapeInput();
-}
-
-/// The shadow is not the panel: a click there is meant for what lies below. Set again on each display, because the
-/// server counts in that display's pixels.
-void PanelController::shapeInput() {
-    m_surface->setInputArea(m_view.get(), QRect(QPoint(m_shadowMargin, m_shadowMargin), panelSize));
-}
-
 QRect PanelController::windowFrame(const QRectF& panel) const {
     return QRect(panel.topLeft().toPoint(), panelSize)
         .adjusted(-m_shadowMargin, -m_shadowMargin, m_shadowMargin, m_shadowMargin);
@@ -169,7 +141,7 @@ QRectF PanelController::panelFrame() const {
 }
 
 bool PanelController::fades() const {
-    return m_surface->canBlend() && !m_surface->reducesMotion();
+    return m_surface->canBlend() && !isStill();
 }
 
 bool PanelController::isVisible() const {
@@ -183,7 +155,7 @@ void PanelController::show() {
     m_model.prepareForShow();
     warmUp();
     applyLook();
-    m_facade.setStill(m_surface->reducesMotion());
+    m_facade.setStill(isStill());
     m_facade.setDormant(false);
     m_preview.setDormant(false);
     m_facade.present();
@@ -261,7 +233,7 @@ void PanelController::settlePosition() {
     const QRect settled = windowFrame(placement::placement(remembered, panelSize, screen->visible));
     if (settled == m_view->geometry())
         return;
-    if (m_surface->reducesMotion()) {
+    if (isStill()) {
         m_view->setGeometry(settled);
         return;
     }

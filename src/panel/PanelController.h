@@ -93,6 +93,10 @@ private:
     void makeView();
     void applyLook();
     void shapeInput();
+    void followLook();
+    void followDisplays();
+    void stayInSight();
+    [[nodiscard]] bool isStill() const;
     [[nodiscard]] bool fades() const;
     [[nodiscard]] QRect windowFrame(const QRectF& panel) const;
     [[nodiscard]] QRectF panelFrame() const;

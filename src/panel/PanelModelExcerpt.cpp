@@ -64,9 +64,14 @@ QString cutOut(const QString& text, const TextStretch& hit) {
 } // namespace
 
 std::optional<TextStretch> foldedRange(const QString& query, const QString& text) {
+    const auto ranges = foldedRanges(query, text, 1);
+    return ranges.empty() ? std::nullopt : std::optional(ranges.front());
+}
+
+std::vector<TextStretch> foldedRanges(const QString& query, const QString& text, std::size_t most) {
     const auto needle = text::folded(query);
-    if (needle.isEmpty())
-        return std::nullopt;
+    if (needle.isEmpty() || !text::folded(text).contains(needle))
+        return {};
     // Folded character by character, so that each unit of the folded text leads back to the character it came from.
     QString folded;
     std::vector<TextStretch> origins;
@@ -78,10 +83,15 @@ std::optional<TextStretch> foldedRange(const QString& query, const QString& text
         offset += character.size();
         return true;
     });
-    const auto found = folded.indexOf(needle);
-    if (found < 0)
-        return std::nullopt;
-    return TextStretch{origins[std::size_t(found)].start, origins[std::size_t(found + needle.size() - 1)].end};
+    std::vector<TextStretch> ranges;
+    for (auto found = folded.indexOf(needle); found >= 0 && ranges.size() < most;
+         found = folded.indexOf(needle, found + needle.size())) {
+        const TextStretch range{origins[std::size_t(found)].start, origins[std::size_t(found + needle.size() - 1)].end};
+        // Two hits may lie in one character; it is marked once.
+        if (ranges.empty() || range.start >= ranges.back().end)
+            ranges.push_back(range);
+    }
+    return ranges;
 }
 
 std::optional<QString> imageTextExcerpt(const QString& query, const QString& title, const QString& imageText) {

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringView>
 #include <optional>
+#include <vector>
 
 namespace vellumry {
 
@@ -16,6 +17,9 @@ struct TextStretch {
 
 /// Where `text` first holds `query`, without regard to case, diacritics and width. Nothing for an empty query. Pure.
 [[nodiscard]] std::optional<TextStretch> foldedRange(const QString& query, const QString& text);
+
+/// Every stretch of `text` that holds `query` in that way, ascending, without overlaps; the first `most` of them. Pure.
+[[nodiscard]] std::vector<TextStretch> foldedRanges(const QString& query, const QString& text, std::size_t most);
 
 /// What a row shows of an image's text around the hit of `query`: 14 characters before it, from the beginning of a
 /// word, and 28 behind. Nothing when the query is blank, when the title shows the hit already, and when the text has

@@ -35,8 +35,10 @@ PreviewModel::PreviewModel(PanelModel& model, Hooks hooks, QObject* parent)
     m_tick.setSingleShot(true);
     connect(&m_tick, &QTimer::timeout, this, &PreviewModel::tick);
     connect(&m_text, &PreviewText::charactersChanged, this, &PreviewModel::refresh);
+    connect(&m_text, &PreviewText::hitChanged, this, &PreviewModel::hitChanged);
     connect(m_model, &PanelModel::sectionsChanged, this, &PreviewModel::refresh);
     connect(m_model, &PanelModel::selectionChanged, this, &PreviewModel::refresh);
+    connect(m_model, &PanelModel::queryChanged, this, &PreviewModel::refresh);
     connect(m_model, &PanelModel::fileStatusesChanged, this, &PreviewModel::refresh);
     connect(m_model, &PanelModel::transformChanged, this, &PreviewModel::refresh);
     refresh();
@@ -87,7 +89,12 @@ void PreviewModel::refresh() {
 void PreviewModel::show(PreviewContent content) {
     const bool isSame = content == m_content;
     m_content = std::move(content);
+    const QString query = m_isDormant ? QString() : m_model->query();
+    const bool isOtherQuery = std::exchange(m_query, query) != query;
+    m_text.setQuery(m_query);
     showBody();
+    if (!isSame || isOtherQuery)
+        Q_EMIT marksChanged();
     if (isSame)
         return;
     m_entries.setRows(m_content.entries);

@@ -32,6 +32,11 @@ class PreviewModel : public QObject {
     Q_PROPERTY(QAbstractItemModel* lines READ lines CONSTANT)
     Q_PROPERTY(bool isFixedWidth READ isFixedWidth NOTIFY contentChanged)
     Q_PROPERTY(QString text READ text NOTIFY contentChanged)
+    Q_PROPERTY(QString markedText READ markedText NOTIFY marksChanged)
+    Q_PROPERTY(QString textUpToHit READ textUpToHit NOTIFY marksChanged)
+    Q_PROPERTY(QString markedWords READ markedWords NOTIFY marksChanged)
+    Q_PROPERTY(QString wordsUpToHit READ wordsUpToHit NOTIFY marksChanged)
+    Q_PROPERTY(int hitRow READ hitRow NOTIFY hitChanged)
     Q_PROPERTY(QString host READ host NOTIFY contentChanged)
     Q_PROPERTY(QString swatch READ swatch NOTIFY contentChanged)
     Q_PROPERTY(QStringList notations READ notations NOTIFY contentChanged)
@@ -76,6 +81,8 @@ public:
 
     /// While it lies dormant it follows nothing, holds nothing, and no timer runs.
     void setDormant(bool isDormant);
+    /// What styles and marks are drawn with.
+    void setLook(const markup::Look& look);
     /// The stack that its buttons start and stop; it need not outlive this.
     void setStack(PasteStack& stack);
     /// Something that the model does not tell may be different: whether a picture's words are being read.
@@ -89,6 +96,15 @@ public:
     [[nodiscard]] QAbstractItemModel* lines() { return &m_text.lines(); }
     [[nodiscard]] bool isFixedWidth() const { return m_content.isFixedWidth; }
     [[nodiscard]] QString text() const;
+    /// A link's address and the words of a picture with their hits marked; empty without hits.
+    [[nodiscard]] QString markedText() const;
+    [[nodiscard]] QString textUpToHit() const;
+    [[nodiscard]] QString markedWords() const;
+    [[nodiscard]] QString wordsUpToHit() const;
+    /// The row of `lines` that is to be in sight; -1 where the beginning is.
+    [[nodiscard]] int hitRow() const { return m_text.hitRow(); }
+    /// That row up to the end of its hit, to be measured.
+    Q_INVOKABLE [[nodiscard]] QString rowUpToHit() const { return m_text.upToHit(); }
     [[nodiscard]] QString host() const { return m_content.host; }
     [[nodiscard]] QString swatch() const { return m_content.color.swatch; }
     [[nodiscard]] QStringList notations() const;
@@ -114,6 +130,8 @@ Q_SIGNALS:
     void contentChanged();
     void pictureChanged();
     void countdownChanged();
+    void marksChanged();
+    void hitChanged();
 
 private:
     [[nodiscard]] PreviewSources sources() const;
@@ -132,6 +150,8 @@ private:
     QPointer<PasteStack> m_stack;
     PreviewContent m_content;
     PreviewText m_text;
+    markup::Look m_look;
+    QString m_query; ///< what is marked
     std::unique_ptr<PreviewPicture> m_picture;
     PreviewEntryModel m_entries;
     PreviewButtonModel m_buttons;

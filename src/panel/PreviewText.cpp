@@ -4,6 +4,7 @@
 #include "foundation/Text.h"
 #include "history/clips/ClipStore.h"
 #include "panel/PreviewContent.h"
+#include "panel/StyledPreview.h"
 #include "panel/TextSlices.h"
 
 #include <QPointer>
@@ -17,6 +18,14 @@ namespace {
 constexpr qsizetype wholeBelow = 200'000;
 /// Transformed at once; longer ones elsewhere.
 constexpr qsizetype transformedAtOnce = 20'000;
+
+/// Searched at once for the first hit; longer ones elsewhere.
+constexpr qsizetype searchedAtOnce = 64'000;
+
+/// The clip has a form of its text with styles, which the transforms have not.
+bool hasStyles(const ClipRef& clip, std::optional<TextTransform> transform) {
+    return clip->kind == ClipKind::richText && !transform;
+}
 
 QByteArray transformed(QByteArray text, std::optional<TextTransform> transform) {
     return transform ? apply(*transform, QString::fromUtf8(text)).toUtf8() : text;
@@ -57,6 +66,43 @@ void PreviewText::clear() {
     m_loaded.reset();
     m_characters.reset();
     m_lines.clear();
+    setHit(-1);
+}
+
+void PreviewText::setQuery(const QString& query) {
+    if (m_query == query)
+        return;
+    m_query = query;
+    m_lines.setQuery(query);
+    findHit();
+}
+
+/// Brings the first hit into sight; looked for elsewhere where that takes its time.
+void PreviewText::findHit() {
+    if (m_query.isEmpty())
+        setHit(-1);
+    else if (m_lines.text().size() <= searchedAtOnce)
+        setHit(textslices::firstHit(m_lines.text(), m_lines.starts(), m_query));
+    else
+        findHitElsewhere();
+}
+
+QCoro::Task<void> PreviewText::findHitElsewhere() {
+    const QPointer<PreviewText> self(this);
+    const QByteArray text = m_lines.text();
+    const QString query = m_query;
+    auto finding =
+        executor().run([text, starts = m_lines.starts(), query] { return textslices::firstHit(text, starts, query); });
+    const int row = co_await finding;
+    if (self && m_query == query && m_lines.text() == text)
+        setHit(row);
+}
+
+void PreviewText::setHit(int row) {
+    const bool isNone = row < 0 && m_hitRow < 0;
+    m_hitRow = row;
+    if (!isNone)
+        Q_EMIT hitChanged();
 }
 
 /// What can be shown without waiting: all of most texts, the beginning of a long one.
@@ -67,8 +113,9 @@ void PreviewText::showBeginning(const Wanted& wanted, int tabWidth) {
         return; // the text before stays until the transformed one is there
     QByteArray text = transformed(kept, wanted.transform);
     auto starts = textslices::startsOf(text);
-    m_lines.setText(std::move(text), std::move(starts), tabWidth);
-    if (isShort)
+    m_lines.setContent({std::move(text), std::move(starts), {}}, tabWidth);
+    findHit();
+    if (isShort && !hasStyles(wanted.clip, wanted.transform))
         m_loaded = wanted;
 }
 
@@ -90,7 +137,7 @@ QCoro::Task<void> PreviewText::work() {
 QCoro::Task<void> PreviewText::load(Wanted wanted) {
     const QPointer<PreviewText> self(this);
     std::vector<PasteboardItem> items;
-    if (wanted.clip->searchText.utf8().size() >= wholeBelow) {
+    if (wanted.clip->searchText.utf8().size() >= wholeBelow || hasStyles(wanted.clip, wanted.transform)) {
         auto loading = m_store->payload(wanted.clip->id);
         std::optional<ClipPayload> payload = co_await loading;
         if (!self || !isWanted(wanted))
@@ -99,23 +146,13 @@ QCoro::Task<void> PreviewText::load(Wanted wanted) {
             items = std::move(payload->items);
     }
     const QByteArray shown = m_lines.text();
-    auto preparing = executor().run([items, clip = wanted.clip, transform = wanted.transform, shown] {
-        const auto whole = plainText(items);
-        Prepared prepared;
-        prepared.text = transformed(whole ? whole->toUtf8() : clip->searchText.utf8(), transform);
-        prepared.starts = textslices::startsOf(prepared.text);
-        prepared.continues = !transform && prepared.text.startsWith(shown);
-        return prepared;
-    });
+    auto preparing = executor().run([items, wanted, shown] { return prepare(items, wanted, shown); });
     Prepared prepared = co_await preparing;
     if (!self || !isWanted(wanted))
         co_return;
-    const QByteArray text = prepared.text;
-    if (prepared.continues)
-        m_lines.extendTo(std::move(prepared.text), std::move(prepared.starts));
-    else
-        m_lines.setText(std::move(prepared.text), std::move(prepared.starts), m_tabWidth);
-    if (wanted.transform || m_characters)
+    const QByteArray text = prepared.plain;
+    showPrepared(std::move(prepared));
+    if (wanted.transform || m_characters || text.size() <= countedAtOnce)
         co_return;
     auto counting = executor().run([text] { return text::characterCount(QString::fromUtf8(text)); });
     const qsizetype characters = co_await counting;
@@ -123,6 +160,33 @@ QCoro::Task<void> PreviewText::load(Wanted wanted) {
         co_return;
     m_characters = characters;
     Q_EMIT charactersChanged();
+}
+
+/// On the executor: the whole text, with its styles where the clip has them.
+PreviewText::Prepared PreviewText::prepare(const std::vector<PasteboardItem>& items, const Wanted& wanted,
+                                           const QByteArray& shown) {
+    const auto whole = plainText(items);
+    Prepared prepared;
+    prepared.plain = transformed(whole ? whole->toUtf8() : wanted.clip->searchText.utf8(), wanted.transform);
+    if (hasStyles(wanted.clip, wanted.transform)) {
+        if (auto styled = styledpreview::contentOf(items)) {
+            prepared.content = std::move(*styled);
+            return prepared;
+        }
+    }
+    prepared.content.text = prepared.plain;
+    prepared.content.starts = textslices::startsOf(prepared.content.text);
+    prepared.continues = !wanted.transform && prepared.content.text.startsWith(shown);
+    return prepared;
+}
+
+void PreviewText::showPrepared(Prepared prepared) {
+    const bool isStyled = !prepared.content.runs.empty();
+    if (prepared.continues)
+        m_lines.extendTo(std::move(prepared.content.text), std::move(prepared.content.starts));
+    else
+        m_lines.setContent(std::move(prepared.content), isStyled ? 0 : m_tabWidth);
+    findHit();
 }
 
 } // namespace vellumry

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 pragma ComponentBehavior: Bound
 import QtQuick
+import Vellumry.Panel
 import Vellumry.Views
 
 // The words that were read in a picture.
 Item {
     id: section
 
-    required property string text
+    required property PreviewModel preview
 
     height: heading.height + Theme.grid + words.height
 
@@ -27,6 +28,8 @@ Item {
         anchors.topMargin: Theme.grid
         width: parent.width
         height: Math.min(contentHeight, Theme.wordsHeight)
-        text: section.text
+        text: section.preview.textInImage
+        marked: section.preview.markedWords
+        upToHit: section.preview.wordsUpToHit
     }
 }

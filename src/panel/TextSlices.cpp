@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/TextSlices.h"
 
+#include "foundation/Text.h"
+
 #include <QTextBoundaryFinder>
 #include <algorithm>
 #include <cstring>
@@ -90,6 +92,19 @@ QString shown(QByteArrayView slice, int tabWidth) {
         column = character == QLatin1Char('\n') ? 0 : column + (character.isLowSurrogate() ? 0 : 1);
     }
     return expanded;
+}
+
+int firstHit(const QByteArray& text, const std::vector<quint32>& starts, const QString& query) {
+    const QByteArray needle = text::foldedBytes(text::trimmed(query));
+    if (needle.isEmpty())
+        return -1;
+    for (std::size_t row = 0; row < starts.size(); ++row) {
+        const qsizetype start = starts[row];
+        const qsizetype end = row + 1 < starts.size() ? qsizetype(starts[row + 1]) : text.size();
+        if (text::foldedBytes(text.mid(start, end - start)).contains(needle))
+            return static_cast<int>(row);
+    }
+    return -1;
 }
 
 } // namespace vellumry::textslices

@@ -24,4 +24,8 @@ constexpr qsizetype longestSlice = 4'000;
 /// `tabWidth` above 0 sets what follows a tab to a multiple of so many characters.
 [[nodiscard]] QString shown(QByteArrayView slice, int tabWidth);
 
+/// The first slice of a text so cut that holds `query`, trimmed, without regard to case, diacritics and width; -1
+/// without one. A hit that lies across two slices is not found.
+[[nodiscard]] int firstHit(const QByteArray& text, const std::vector<quint32>& starts, const QString& query);
+
 } // namespace vellumry::textslices

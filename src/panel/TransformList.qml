@@ -44,6 +44,10 @@ Rectangle {
                 Accessible.focusable: true
                 Accessible.focused: isCurrent
                 Accessible.onPressAction: list.panel.transformChosen(index)
+                onIsCurrentChanged: {
+                    if (isCurrent)
+                        Views.tellFocused(entry);
+                }
 
                 Label {
                     anchors.left: parent.left

@@ -3,12 +3,23 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vellumry.Views
 
-// A short text that scrolls where it is longer than its room.
+// A short text that scrolls where it is longer than its room; what is searched for is marked and in sight.
 Flickable {
     id: scrolled
 
     required property string text
+    // The text with its hits marked, and its beginning up to the end of the first; empty without hits.
+    property string marked: ""
+    property string upToHit: ""
     property bool isAddress: false
+
+    function showHit() {
+        const wanted = upToHit === "" ? 0 : measure.contentHeight - height / 2;
+        contentY = Math.round(Math.max(0, Math.min(wanted, contentHeight - height)));
+    }
+
+    onUpToHitChanged: Qt.callLater(showHit)
+    onTextChanged: Qt.callLater(showHit)
 
     clip: true
     interactive: false
@@ -20,8 +31,8 @@ Flickable {
         id: words
         LayoutMirroring.enabled: false
         width: scrolled.width - Theme.scrollArea
-        text: scrolled.text
-        textFormat: Text.PlainText
+        text: scrolled.marked === "" ? scrolled.text : scrolled.marked
+        textFormat: scrolled.marked === "" ? Text.PlainText : Text.RichText
         wrapMode: scrolled.isAddress ? Text.WrapAnywhere : Text.Wrap
         color: Theme.text
         renderType: Text.NativeRendering
@@ -30,6 +41,18 @@ Flickable {
         lineHeight: Theme.readingLine
         Accessible.role: Accessible.StaticText
         Accessible.name: scrolled.text
+    }
+    Text {
+        // Never seen: how high the text is up to its first hit.
+        id: measure
+        visible: false
+        LayoutMirroring.enabled: false
+        width: words.width
+        text: scrolled.upToHit
+        textFormat: Text.RichText
+        wrapMode: words.wrapMode
+        font: words.font
+        Accessible.ignored: true
     }
     WheelScroll {
         flickable: scrolled

@@ -156,6 +156,12 @@ private:
                                                       "taken.\n2. Bicycles: a second stand in the yard.\n3. Heating: "
                                                       "read the meters by the end of the month."));
         draft.kind = ClipKind::richText;
+        draft.payload.items.front().representations[uniformtype::html] =
+            "<h2>Minutes of the house meeting</h2><ol><li><b>Roof:</b> the offer of <u>12,400</u> is taken. "
+            "<span style='color:#b3261e'>The crane comes on Tuesday.</span></li><li><b>Bicycles:</b> a second stand in "
+            "the yard, see <a href='https://example.org'>the plan</a>.</li><li><b>Heating:</b> <i>read the meters</i> "
+            "by the end of the month and enter them as <code>flat; reading</code>.</li></ol><p><s>Garden: "
+            "postponed.</s></p>";
         return draft;
     }
     static ClipDraft code() {

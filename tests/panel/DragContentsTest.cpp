@@ -89,6 +89,16 @@ TEST_F(DragContents, APictureIsAFileUnderItsTitleAndThePictureItself) {
     EXPECT_EQ(content.items[0].representations.at(uniformtype::png), "bytes");
 }
 
+TEST_F(DragContents, APictureOfAnotherFormatGoesAsThatFormat) {
+    const ClipRef picture = clip(ClipKind::image, QStringLiteral("one"), {{uniformtype::jpeg, "bytes"}});
+    const auto content = contents({picture});
+    ASSERT_EQ(content.files.size(), 1U);
+    EXPECT_EQ(content.files[0].name, QStringLiteral("one.jpg"));
+    ASSERT_EQ(content.items.size(), 1U);
+    EXPECT_EQ(content.items[0].representations.at(uniformtype::jpeg), "bytes");
+    EXPECT_EQ(content.items[0].representations.size(), 1U);
+}
+
 TEST_F(DragContents, SeveralPicturesAreFilesOnly) {
     const auto content = contents({clip(ClipKind::image, QStringLiteral("one"), {{uniformtype::png, "1"}}),
                                    clip(ClipKind::image, QStringLiteral("two"), {{uniformtype::jpeg, "2"}})});

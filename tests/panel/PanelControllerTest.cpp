@@ -214,3 +214,25 @@ TEST_F(PanelControllerTest, WithoutThePermissionToPressKeysAButtonAsksForIt) {
     open();
     EXPECT_FALSE(texts().contains(offer));
 }
+
+TEST_F(PanelControllerTest, WhenItsDisplayGoesItComesToTheOneThatIsLeft) {
+    panel.show();
+    const QRect before = view()->geometry();
+    // The display under it has gone; what is left is smaller and elsewhere.
+    surface.screen = ScreenPlace{QStringLiteral("two"), QRect(2000, 0, 1280, 800), QRect(2000, 30, 1280, 770)};
+    Q_EMIT qGuiApp->screenRemoved(QGuiApplication::primaryScreen());
+    EXPECT_TRUE(eventually([&] { return view()->geometry() != before; }));
+    EXPECT_TRUE(surface.screen->visible.contains(view()->geometry()));
+    EXPECT_TRUE(panel.isVisible());
+}
+
+TEST_F(PanelControllerTest, AChangeOfTheDisplaysLeavesAPanelAloneThatIsInSight) {
+    panel.show();
+    const QRect before = view()->geometry();
+    Q_EMIT qGuiApp->screenRemoved(QGuiApplication::primaryScreen());
+    // Behind what was asked for by the change.
+    bool isLater = false;
+    QTimer::singleShot(0, view(), [&isLater] { isLater = true; });
+    ASSERT_TRUE(eventually([&] { return isLater; }));
+    EXPECT_EQ(view()->geometry(), before);
+}

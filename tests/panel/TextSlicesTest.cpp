@@ -106,7 +106,7 @@ TEST(PreviewTextModel, GrowsWithoutMovingWhatIsShown) {
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     const QByteArray whole = QByteArray("a line of words\n").repeated(1'000);
     const QByteArray beginning = whole.left(5'000);
-    model.setText(beginning, textslices::startsOf(beginning), 0);
+    model.setContent({beginning, textslices::startsOf(beginning), {}}, 0);
     const int rows = model.rowCount();
     const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     const QSignalSpy additions(&model, &QAbstractItemModel::rowsInserted);
@@ -118,4 +118,40 @@ TEST(PreviewTextModel, GrowsWithoutMovingWhatIsShown) {
     ASSERT_EQ(changes.size(), 1);
     EXPECT_EQ(changes.first().first().toModelIndex().row(), rows - 1);
     EXPECT_EQ(model.text(), whole);
+}
+
+TEST(TextSlices, TheFirstSliceThatHoldsAWordIsFoundWithoutRegardToCaseAndAccents) {
+    const QByteArray text = QByteArray("nothing of it here\n").repeated(100) + "a CAF\xC3\x89 at last\n" +
+                            QByteArray("caf\xC3\xA9\n").repeated(500);
+    const auto starts = textslices::startsOf(text);
+    const int row = textslices::firstHit(text, starts, QStringLiteral(" cafe "));
+    ASSERT_GE(row, 1);
+    EXPECT_LE(qsizetype(starts[std::size_t(row)]), text.indexOf("CAF"));
+    EXPECT_GT(qsizetype(starts[std::size_t(row) + 1]), text.indexOf("CAF"));
+    EXPECT_EQ(textslices::firstHit(text, starts, QStringLiteral("walrus")), -1);
+    EXPECT_EQ(textslices::firstHit(text, starts, QStringLiteral("  ")), -1);
+}
+
+TEST(PreviewTextModel, SlicesKnowTheirOwnStylesAndHits) {
+    // Each line is a slice; the style goes from the end of the first into the second, over letters of two bytes.
+    const QByteArray line = QByteArray("\xC3\xA9").repeated(1'200);
+    const QByteArray text = line + "\n" + line;
+    PreviewTextModel model;
+    const auto starts = textslices::startsOf(text);
+    ASSERT_EQ(starts.size(), 2U);
+    model.setContent({text, starts, {{line.size() - 4, 7, {.isBold = true}}}}, 0);
+    const auto markup = [&](int row) { return model.index(row).data(PreviewTextModel::MarkupRole).toString(); };
+    const auto bold = [](const char* words) {
+        return QStringLiteral("<span style=\"font-weight:600;\">") + QString::fromUtf8(words) +
+               QStringLiteral("</span>");
+    };
+    EXPECT_TRUE(markup(0).contains(bold("éé") + QStringLiteral("</p>")));
+    EXPECT_TRUE(markup(1).contains(QLatin1Char('>') + bold("é") + QString::fromUtf8("é")));
+    model.setContent({"plain", {0}, {}}, 0);
+    EXPECT_EQ(markup(0), QString());
+    QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
+    model.setQuery(QStringLiteral("LAI"));
+    EXPECT_EQ(changes.size(), 1);
+    EXPECT_TRUE(markup(0).contains(QStringLiteral("lai</span>n")));
+    EXPECT_TRUE(model.upToHit(0).contains(QStringLiteral(">plai<")));
 }
