@@ -3,27 +3,14 @@
 // What the panel itself costs: `bench_panel [clips…]`, 5,000 and 100,000 without a number. Drawn without a display, by
 // the renderer of the program. The time until the desktop has shown what was painted is not ours and not in it.
 
-#include "Corpus.h"
 #include "Measure.h"
+#include "PanelStage.h"
 #include "foundation/Date.h"
-#include "foundation/UserDefaults.h"
-#include "history/clips/ClipStore.h"
-#include "history/file/ClipDatabase.h"
-#include "history/file/ClipRows.h"
-#include "history/file/HistoryFile.h"
-#include "history/file/MemoryKeyStore.h"
-#include "panel/PanelController.h"
-#include "paste/PasteEngine.h"
 #include "support/Awaited.h"
-#include "support/FakePanelSurface.h"
-#include "support/FakePasteTarget.h"
-#include "support/FakePasteboard.h"
 
 #include <QCoroTask>
 #include <QGuiApplication>
 #include <QQuickItem>
-#include <QQuickView>
-#include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
 
@@ -32,58 +19,26 @@ namespace vellumry::bench {
 namespace {
 
 constexpr int rounds = 30;
-constexpr RetentionPolicy unlimited{std::nullopt, qint64{1} << 40, qint64{1} << 60};
+// Milliseconds.
+constexpr double oneFrame = 16;
+constexpr double ofLetter = 20;
+constexpr double ofPreview = 60;
+constexpr double atOneGo = 8;
 
-void print(const char* what, const std::vector<double>& values) {
-    std::printf("  %-46s median %7.2f ms   most %7.2f ms\n", what, median(values),
-                *std::max_element(values.begin(), values.end()));
-}
-
-/// The panel over a history of `count` clips.
-class LongPanel {
+class LongPanel : public PanelStage {
 public:
-    explicit LongPanel(std::size_t count) {
-        fill(count);
-        auto database = ClipDatabase::openHistory(m_folder.path(), m_keyStore).value().database;
-        m_store = QCoro::waitFor(ClipStore::open(std::move(database), unlimited, false));
-        m_engine = std::make_unique<PasteEngine>(*m_store, m_defaults, SystemHooks::of(m_pasteboard, m_target));
-        PanelController::Hooks hooks;
-        hooks.position = [](const QString&) { return std::nullopt; };
-        hooks.setPosition = [](std::optional<placement::Fractions>, const QString&) {};
-        hooks.openPanelKeys = [] { return QString(); };
-        m_panel = std::make_unique<PanelController>(*m_store, *m_engine, m_pasteboard, m_surface, m_views, hooks);
-    }
+    using PanelStage::PanelStage;
 
     void measure() {
         std::printf("%zu clips\n", m_store->clips().size());
-        print("window made", {milliseconds([&] { m_panel->warmUp(); })});
-        m_view = qobject_cast<QQuickView*>(m_surface.adopted.first());
-        QObject::connect(m_view, &QQuickWindow::frameSwapped, m_view, [this] { m_isPainted = true; });
+        print("window made", {milliseconds([&] { makeWindow(); })});
         print("first showing, until painted", {milliseconds([&] { show(); })});
-        print("later showings, each with a new clip", measureShowing());
+        print("later showings, each with a new clip", measureShowing(), oneFrame);
         measureTyping();
         measurePreviews();
     }
 
 private:
-    void fill(std::size_t count) {
-        Corpus corpus(7);
-        const auto crypto = ClipDatabase::openHistory(m_folder.path(), m_keyStore).value().database->crypto();
-        SQLiteDatabase file(m_folder.path() + u'/' + historyfile::fileName, SQLiteDatabase::Access::readWrite);
-        file.execute("BEGIN");
-        for (const ClipRef& clip : corpus.clips(count))
-            cliprows::write(file, crypto, *clip, ClipPayload());
-        file.execute("COMMIT");
-    }
-
-    void untilPainted() {
-        runUntil([this] { return m_isPainted; });
-    }
-    void show() {
-        m_isPainted = false;
-        m_panel->show();
-        untilPainted();
-    }
     std::vector<double> measureShowing() {
         std::vector<double> times;
         for (int round = 0; round < rounds; ++round) {
@@ -117,15 +72,13 @@ private:
                 searches.push_back(milliseconds([&] { search(bare, text.left(length)); }));
                 letters.push_back(milliseconds([&] {
                     m_panel->model().searchTextEdited(text.left(length));
-                    m_isPainted = false;
-                    m_view->update();
-                    untilPainted();
+                    paint();
                 }));
                 ours.push_back(letters.back() - searches.back());
             }
         }
         print("a letter: search, sections, selection", searches);
-        print("a letter: all of it, until painted", letters);
+        print("a letter: all of it, until painted", letters, ofLetter);
         print("a letter: rows, views, painting alone", ours);
     }
 
@@ -153,9 +106,7 @@ private:
             double longest = 0;
             painted.push_back(milliseconds([&] {
                 longest = milliseconds([&] { m_panel->model().selectOnly(longText->id); });
-                m_isPainted = false;
-                m_view->update();
-                untilPainted();
+                paint();
             }));
             const QString count = QString::number(text.size());
             whole.push_back(painted.back() + milliseconds([&] {
@@ -165,23 +116,10 @@ private:
                             }));
             busy.push_back(longest);
         }
-        print("10 MB of text: chosen, until painted", painted);
+        print("10 MB of text: chosen, until painted", painted, ofPreview);
         print("10 MB of text: whole and counted", whole);
-        print("10 MB of text: main thread at one go", busy);
+        print("10 MB of text: main thread at one go", busy, atOneGo);
     }
-
-    QTemporaryDir m_folder;
-    MemoryKeyStore m_keyStore;
-    FakePasteboard m_pasteboard;
-    FakePasteTarget m_target;
-    UserDefaults m_defaults;
-    FakePanelSurface m_surface;
-    ViewEngine m_views;
-    std::unique_ptr<ClipStore> m_store;
-    std::unique_ptr<PasteEngine> m_engine;
-    std::unique_ptr<PanelController> m_panel;
-    QQuickView* m_view = nullptr;
-    bool m_isPainted = false;
 };
 
 } // namespace
