@@ -6,8 +6,8 @@ DESTDIR ?=
 export CCACHE_NOHASHDIR = 1
 export CCACHE_BASEDIR = $(CURDIR)
 
-.PHONY: help run install uninstall package appimage test test-trixie test-appimage test-wayland wayland-next bench-wayland sanitize torture bench \
-	bench-day gallery matrix lint build asan clean
+.PHONY: help run install uninstall package appimage test test-trixie test-appimage test-managers test-wayland wayland-next bench-wayland sanitize torture \
+	bench bench-day gallery matrix lint build asan clean
 
 help: ## list the tasks
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:.*## /\t/' | expand -t 14
@@ -33,6 +33,11 @@ appimage: ## build the AppImage (build/release/appimage)
 test-appimage: ## build AppImages, try one in a bare Debian 13 and update one to the next
 	@scripts/install-deps --test --appimage
 	@tests/appimage/run
+
+test-managers: ## run the panel under openbox, xfwm4, KWin, i3 and Mutter
+	@scripts/install-deps --test --managers
+	@$(MAKE) --no-print-directory build
+	@scripts/test-managers
 
 test-trixie: ## build and run the unit tests in a bare Debian 13, build the package there and try it in another
 	@scripts/install-deps --test

@@ -4,10 +4,12 @@
 import glob
 import os
 import subprocess
+import tempfile
 
 from clients import FeatherPad, Mousepad, Pcmanfm
-from desktop import (Vellumry, clipboard, copy_bytes, key, main, open_panel, own_tests, panel_is_open, picture, remember, run, same,
-                     wait_for_clip, wait_panel_closed, wait_until)
+from clients.owners import Owner
+from desktop import (HERE, Process, Vellumry, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests, panel_is_open, picture,
+                     remember, run, same, text_of, wait_for_clip, wait_panel_closed, wait_until, windows)
 from panel_rows import middle, row, texts_kept
 
 RUNTIME = os.environ["XDG_RUNTIME_DIR"]
@@ -35,6 +37,32 @@ def carry(title, where, drop=True):
         run("xdotool", "mousemove", str(x + (where[0] - x) * step // steps), str(y + (where[1] - y) * step // steps))
     if drop:
         run("xdotool", "mouseup", "1")
+
+
+class DropWindow(Process):
+    """A window that takes drops as the first of these targets that is offered."""
+
+    def __init__(self, *targets):
+        self.path = os.path.join(tempfile.mkdtemp(prefix="drop"), "dropped")
+        super().__init__("/usr/bin/python3", os.path.join(HERE, "drop_window.py"), self.path, *targets)
+        self.window = wait_until(lambda: windows("^drop window$"), "the window to drop on")[0]
+
+    def dropped(self):
+        """The target that was asked for and its bytes."""
+        wait_until(lambda: os.path.exists(self.path), "the drop")
+        with open(self.path, "rb") as file:
+            name, data = file.read().split(b"\n", 1)
+        return name.decode(), data
+
+
+def dropped_as(title, *targets):
+    """What a window gets that takes these targets when the row is carried there."""
+    with DropWindow(*targets) as window:
+        where = place(window.window)
+        open_panel()
+        carry(title, where)
+        wait_panel_closed()
+        return window.dropped()
 
 
 def leftovers():
@@ -113,6 +141,50 @@ def a_picture_into_a_file_manager():
         saved = glob.glob(os.path.join(manager.folder, "*.png"))[0]
         wait_until(lambda: open(saved, "rb").read() == data, "the picture whole")
     same(leftovers(), [], "files left behind")
+
+
+def a_link_goes_as_an_address_and_as_text():
+    """Programs that take addresses get one; editors get its text."""
+    with Vellumry():
+        address = "https://example.org/a?b=c"
+        copy_text(address)
+        wait_for_clip(lambda entry: text_of(entry) == address, "the copy of the link")
+        same(dropped_as(address, "text/uri-list", "UTF8_STRING")[1].strip().decode(), address, "as an address or a text")
+        same(dropped_as(address, "UTF8_STRING"), ("UTF8_STRING", address.encode()), "as a text")
+
+
+def a_colour_goes_as_its_text():
+    """As it was copied."""
+    with Vellumry():
+        copy_text("#3f7fd9")
+        wait_for_clip(lambda entry: text_of(entry) == "#3f7fd9", "the copy of the colour")
+        same(dropped_as("#3f7fd9", "UTF8_STRING"), ("UTF8_STRING", b"#3f7fd9"), "as a text")
+
+
+def styled_text_keeps_its_styles():
+    """A window that takes HTML gets what was copied; one that takes plain text gets the words."""
+    with Vellumry():
+        html = b"<b>bold</b> words"
+        Owner({"text/html": html, "UTF8_STRING": b"bold words"})
+        title = wait_for_clip(lambda entry: text_of(entry) == "bold words", "the copy")["title"]
+        same(dropped_as(title, "text/html", "UTF8_STRING"), ("text/html", html), "as HTML")
+        same(dropped_as(title, "UTF8_STRING"), ("UTF8_STRING", b"bold words"), "as a text")
+
+
+def a_picture_goes_in_its_own_format():
+    """A JPEG is dropped as a JPEG, into a folder and into a program that takes pictures."""
+    with Vellumry():
+        data = subprocess.run(["convert", "-size", "60x40", "gradient:red-blue", "jpeg:-"], stdout=subprocess.PIPE, check=True).stdout
+        copy_bytes(data, "image/jpeg")
+        title = wait_for_clip(lambda entry: entry["kind"] == 3, "the copy of the picture")["title"]
+        same(dropped_as(title, "image/jpeg"), ("image/jpeg", data), "the picture")
+        with Pcmanfm() as manager:
+            target = place(manager.window)
+            open_panel()
+            carry(title, target)
+            wait_panel_closed()
+            saved = wait_until(lambda: glob.glob(os.path.join(manager.folder, "*.jpg")), "a file in the folder")[0]
+            wait_until(lambda: open(saved, "rb").read() == data, "the picture whole")
 
 
 def what_nobody_takes_comes_back():

@@ -37,7 +37,7 @@ def the_bar_stops_the_stack_and_the_editor_keeps_the_keyboard():
         same((active_window(), focused_window()), before, "who has the keyboard")
         copy_text("one for the stack")
         wait_for_clip(lambda row: text_of(row) == "one for the stack", "the copy")
-        wait_until(lambda: geometry(window)[2] < width, "the bar to follow its contents")
+        wait_until(lambda: geometry(window)[2] != width, "the bar to follow its contents")
         x, y, width, height = geometry(window)
         press_at(x + width - 8 - 13, y + height // 2)
         wait_until(lambda: bar() is None, "the bar to go")

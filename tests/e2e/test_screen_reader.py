@@ -1,0 +1,79 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What Orca says while the panel is used, by its own log: the speech goes to a synthesiser that makes no sound."""
+
+import os
+import re
+import tempfile
+
+from desktop import remember, Process, Vellumry, accessible, key, main, own_tests, panel_is_open, wait_for_clip, text_of, wait_until
+
+# Its log is written in blocks of kilobytes otherwise, and the last words would be missing.
+BY_LINES = """import builtins, runpy, sys
+plain, log = open, sys.argv[1]
+builtins.open = lambda path, *rest, **named: plain(path, "w", 1) if path == log else plain(path, *rest, **named)
+sys.argv = ["/usr/bin/orca", "--replace", "--debug-file=" + log]
+runpy.run_path(sys.argv[0], run_name="__main__")"""
+SYNTHESISER = 'LogLevel 1\nAddModule "dummy" "sd_dummy" ""\nDefaultModule dummy\n'
+
+
+class Orca(Process):
+    """The screen reader of the session."""
+
+    def __init__(self):
+        folder = os.path.join(os.environ["XDG_CONFIG_HOME"], "speech-dispatcher")
+        os.makedirs(folder, exist_ok=True)
+        with open(os.path.join(folder, "speechd.conf"), "w", encoding="utf-8") as file:
+            file.write(SYNTHESISER)
+        self.log = os.path.join(tempfile.mkdtemp(prefix="orca"), "debug")
+        super().__init__("/usr/bin/python3", "-c", BY_LINES, self.log, env=dict(os.environ, PATH="/usr/bin:/bin"))
+        wait_until(lambda: any("Screen reader on" in said for said in self.said()), "the screen reader")
+
+    def said(self):
+        """What it has said so far, one text for each time it spoke."""
+        if not os.path.exists(self.log):
+            return []
+        with open(self.log, encoding="utf-8", errors="replace") as file:
+            return re.findall(r"SPEECH OUTPUT: '(.*?)'\{", file.read())
+
+    def hears(self, act, *words):
+        """Does something and waits until all words have been said since."""
+        before = len(self.said())
+        act()
+        missing = lambda: [word for word in words if not any(word in said for said in self.said()[before:])]
+        try:
+            wait_until(lambda: not missing(), "spoken: " + ", ".join(words))
+        except AssertionError:
+            raise AssertionError(f"not spoken: {missing()}; spoken: {self.said()[before:]}") from None
+
+
+def open_panel():
+    key("super+ctrl+v")
+    wait_until(panel_is_open, "the panel")
+
+
+def rows_are_read_with_all_that_they_show():
+    """The title, where it came from, the digit of its shortcut, and whether it is pinned."""
+    with Orca() as orca, Vellumry():
+        remember("first text", "second text")
+        orca.hears(open_panel, "second text")
+        orca.hears(lambda: key("Down"), "first text", "Unknown app", "Ctrl+2")
+        key("ctrl+p")
+        wait_for_clip(lambda row: text_of(row) == "first text" and row["pinned"], "the pin")
+        orca.hears(lambda: key("Home"), "first text", "inned")
+        orca.hears(lambda: key("Down"), "second text")
+
+
+def the_menu_is_read():
+    """Its entries as the arrows come to them, and the row again when it closes."""
+    with Orca() as orca, Vellumry():
+        remember("first text", "second text")
+        orca.hears(open_panel, "second text")
+        key("shift+F10")
+        wait_until(lambda: accessible("vellumry", "menu item", "^Paste$"), "the menu")
+        orca.hears(lambda: key("Home"), "Paste")
+        orca.hears(lambda: key("Down"), "Paste as Plain Text")
+        orca.hears(lambda: key("Escape"), "second text")
+
+
+if __name__ == "__main__":
+    main(own_tests())
