@@ -117,6 +117,8 @@ void PanelController::makeView() {
     m_view->setInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&m_facade)},
                                   {QStringLiteral("preview"), QVariant::fromValue(&m_preview)}});
     m_view->setSource(QUrl(QStringLiteral("qrc:/vellumry/Vellumry/Panel/PanelView.qml")));
+    // The first rows are laid out while nothing waits for them.
+    m_facade.setDormant(false);
     m_facade.setDormant(true);
     m_preview.setDormant(true);
 }

@@ -15,7 +15,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// As long as the rows of a hidden panel may show what was deleted.
+/// As long as the rows of a hidden panel may hold what was deleted.
 constexpr auto catchUpDelay = 500ms;
 
 } // namespace
@@ -42,7 +42,10 @@ PanelFacade::PanelFacade(PanelModel& model, Pasteboard& pasteboard, std::functio
         if (!m_isStill)
             Q_EMIT gapClosed(row, clips, headers);
     });
-    connect(&m_rows, &PanelListModel::fellBehind, &m_catchUp, qOverload<>(&QTimer::start));
+    connect(&m_rows, &PanelListModel::fellBehind, this, [this] {
+        if (!m_catchUp.isActive())
+            m_catchUp.start();
+    });
     connect(m_model, &PanelModel::focusTokenChanged, this, &PanelFacade::focusTokenChanged);
     connect(m_model, &PanelModel::transformChanged, this, &PanelFacade::transformChanged);
     connect(m_model, &PanelModel::undoChanged, this, &PanelFacade::undoChanged);

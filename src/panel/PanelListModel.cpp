@@ -3,6 +3,7 @@
 
 #include "capture/FileStatus.h"
 #include "foundation/Localisation.h"
+#include "history/clips/ClipStore.h"
 #include "panel/MarkedTitle.h"
 #include "panel/RowAppearance.h"
 
@@ -42,15 +43,22 @@ void PanelListModel::setHeld(bool isHeld) {
 }
 
 void PanelListModel::follow() {
-    if (m_isHeld)
+    if (m_isDormant)
+        followDormant();
+    else if (m_isHeld)
         m_isBehind = true;
-    else if (!m_isDormant)
+    else
         rebuild();
-    else if (!std::exchange(m_isBehind, true))
+}
+
+void PanelListModel::followDormant() {
+    m_isBehind = true;
+    if (m_deletions != m_model->store().deletions() || m_shownQuery != m_model->query())
         Q_EMIT fellBehind();
 }
 
 void PanelListModel::rebuild() {
+    m_deletions = m_model->store().deletions();
     std::vector<Row> rows;
     std::vector<int> headers;
     const std::vector<PanelModel::Section>& sections = m_model->sections();

@@ -51,7 +51,7 @@ public:
     /// -1 without one.
     [[nodiscard]] int primaryRow() const;
 
-    /// Waking up catches up.
+    /// Nothing is followed while dormant; waking up catches up.
     void setDormant(bool isDormant);
     [[nodiscard]] bool isDormant() const { return m_isDormant; }
     /// While a finger is down nothing moves; what changed meanwhile is followed when it is up. Selection shows at once.
@@ -61,7 +61,8 @@ public:
     void catchUp();
 
 Q_SIGNALS:
-    /// The first change since it was last up to date came while dormant.
+    /// While dormant, something came to be held that is not to be seen any more: a deleted clip, or hits of a search
+    /// that was ended.
     void fellBehind();
     /// Rows went from above that one while the user looked at the same search: so many of clips and of headers.
     void gapClosed(int row, int clips, int headers);
@@ -73,6 +74,7 @@ private:
     };
 
     void follow();
+    void followDormant();
     void rebuild();
     void replaceRows(std::vector<Row> rows);
     /// What `gapClosed` is to tell; nothing unless one run of rows went and nothing else changed.
@@ -99,6 +101,7 @@ private:
     QHash<QUuid, int> m_pinNumbers;
     bool m_isDormant = false;
     bool m_isBehind = false;
+    qint64 m_deletions = 0; ///< the store's, as far as the rows have followed
     bool m_isHeld = false;
     QString m_shownQuery;
     ClipFilter m_shownFilter = ClipFilter::all;

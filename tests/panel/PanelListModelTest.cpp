@@ -136,7 +136,7 @@ TEST_F(PanelListModelTest, APictureIsNamedByItsClip) {
               QStringLiteral("image://thumbnail/") + clip->id.toString(QUuid::WithoutBraces));
 }
 
-TEST_F(PanelListModelTest, WhileDormantItFallsBehindOnceAndCatchesUpWhenWoken) {
+TEST_F(PanelListModelTest, WhileDormantItFollowsNoCopyAndCatchesUpWhenWoken) {
     add(drafts::text(QStringLiteral("first")), today);
     rows.setDormant(true);
     QSignalSpy changes(&rows, &QAbstractItemModel::dataChanged);
@@ -146,7 +146,7 @@ TEST_F(PanelListModelTest, WhileDormantItFallsBehindOnceAndCatchesUpWhenWoken) {
     model.prepareForShow();
     EXPECT_EQ(rows.rowCount(), 2);
     EXPECT_EQ(changes.count(), 0);
-    EXPECT_EQ(behind.count(), 1);
+    EXPECT_EQ(behind.count(), 0);
     rows.setDormant(false);
     EXPECT_EQ(changes.count(), 1);
     EXPECT_EQ(column(PanelListModel::TitleRole),
@@ -161,9 +161,43 @@ TEST_F(PanelListModelTest, CatchingUpWhileDormantLetsGoOfWhatWasDeleted) {
     EXPECT_FALSE(clip.expired());
     rows.catchUp();
     EXPECT_EQ(rows.rowCount(), 0);
+}
+
+TEST_F(PanelListModelTest, WhileDormantItTellsThatItHoldsWhatWasDeleted) {
+    const ClipRef first = add(drafts::text(QStringLiteral("first")), today);
+    const ClipRef second = add(drafts::text(QStringLiteral("second")), today + 1);
+    rows.setDormant(true);
     QSignalSpy behind(&rows, &PanelListModel::fellBehind);
-    add(drafts::text(QStringLiteral("next")), today);
-    EXPECT_EQ(behind.count(), 1) << "it is told again after it caught up";
+    awaited(store.remove({first->id}, false));
+    EXPECT_EQ(behind.count(), 1);
+    rows.catchUp();
+    behind.clear();
+    add(drafts::text(QStringLiteral("next")), today + 2);
+    EXPECT_EQ(behind.count(), 0) << "it has let go of it";
+    awaited(store.clearHistory(false));
+    EXPECT_EQ(behind.count(), 1);
+}
+
+TEST_F(PanelListModelTest, WhileDormantItTellsOfASecretWhoseTimeIsOverButNotOfAClipThatMadeRoom) {
+    store.setPolicy({std::nullopt, 1, 1'000'000});
+    add(drafts::secret(QStringLiteral("secret words")), today);
+    rows.setDormant(true);
+    QSignalSpy behind(&rows, &PanelListModel::fellBehind);
+    add(drafts::text(QStringLiteral("old")), today + 1);
+    EXPECT_EQ(behind.count(), 1);
+    rows.catchUp();
+    add(drafts::text(QStringLiteral("new")), today + 2);
+    ASSERT_EQ(store.clips().size(), 1u);
+    EXPECT_EQ(behind.count(), 1);
+}
+
+TEST_F(PanelListModelTest, WhileDormantItTellsOfASearchThatWasEnded) {
+    add(drafts::text(QStringLiteral("pear")), today);
+    model.setQuery(QStringLiteral("pe"));
+    rows.setDormant(true);
+    QSignalSpy behind(&rows, &PanelListModel::fellBehind);
+    model.setQuery({});
+    EXPECT_EQ(behind.count(), 1);
 }
 
 TEST_F(PanelListModelTest, AHitIsMarkedInTheTitle) {

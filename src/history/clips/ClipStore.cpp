@@ -164,6 +164,10 @@ qint64 ClipStore::revision() const {
     return d->revision;
 }
 
+qint64 ClipStore::deletions() const {
+    return d->deletions;
+}
+
 bool ClipStore::isMemoryOnly() const {
     return !d->writer.hasDatabase() && !d->isOpening;
 }

@@ -46,6 +46,9 @@ public:
     [[nodiscard]] ClipRef find(const QUuid& id) const;
     /// Grows with every change of `clips`.
     [[nodiscard]] qint64 revision() const;
+    /// Grows when something went that is not to be seen any more: the user deleted it, or a secret's time was over. Not
+    /// when old clips make room for new ones.
+    [[nodiscard]] qint64 deletions() const;
     /// True when there is no file and none is being opened: everything will be gone at the end.
     [[nodiscard]] bool isMemoryOnly() const;
     /// The file refuses copies or changes, a full disk for one; they wait in memory and are tried again.
@@ -122,6 +125,7 @@ private:
     /// Tells everybody who looks at `clips`, the timer first.
     void changed();
     void prepareSearch();
+    QCoro::Task<void> drop(QSet<QUuid> ids, bool thorough);
     [[nodiscard]] ClipRef replacedBy(const Fingerprint& fingerprint, const CopyIdentity* copy);
     /// Nothing where it cannot be made, or the store has gone meanwhile.
     QCoro::Task<std::optional<Fingerprint>> hashOf(ClipDraft draft);

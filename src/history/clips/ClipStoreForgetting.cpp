@@ -5,11 +5,20 @@
 #include "history/clips/ClipStorePrivate.h"
 #include "history/clips/Retention.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vellumry {
 
 QCoro::Task<void> ClipStore::remove(QSet<QUuid> ids, bool thorough) {
+    if (ids.isEmpty())
+        co_return;
+    ++d->deletions;
+    auto dropping = drop(std::move(ids), thorough);
+    co_await dropping;
+}
+
+QCoro::Task<void> ClipStore::drop(QSet<QUuid> ids, bool thorough) {
     if (ids.isEmpty())
         co_return;
     const std::vector<ClipRef> removed = d->list.remove(ids);
@@ -29,6 +38,7 @@ QCoro::Task<void> ClipStore::clearHistory(bool keepPinned) {
     if (!d->writer.hasDatabase() && d->cleared != ClearedBefore::everything)
         d->cleared = keepPinned ? ClearedBefore::unpinned : ClearedBefore::everything;
     ++d->era;
+    ++d->deletions;
     std::shared_ptr<ClipList> gone = d->list.takeAll(keepPinned);
     if (!gone)
         co_return;
@@ -44,8 +54,11 @@ QCoro::Task<void> ClipStore::enforceRetention(Date now) {
     // Mostly there is no more to do than this, and the walk over a long history would be felt.
     QSet<QUuid> doomed =
         d->list.isWithin(d->policy, now) ? d->list.expired(now) : retention::doomedClips(clips(), d->policy, now);
-    auto removing = remove(std::move(doomed), false);
-    co_await removing;
+    const auto isSecret = [this](const QUuid& id) { return find(id)->isSensitive(); };
+    if (std::ranges::any_of(doomed, isSecret))
+        ++d->deletions;
+    auto dropping = drop(std::move(doomed), false);
+    co_await dropping;
 }
 
 void ClipStore::forget(const QUuid& id) {

@@ -28,6 +28,7 @@ struct ClipStore::Private {
     RetentionPolicy policy;
     ClipList list;
     qint64 revision = 0;
+    qint64 deletions = 0;
     quint64 era = 0; ///< grows when what was taken out must not come back
     bool isOpening = false;
     std::optional<ClearedBefore> cleared; ///< what was cleared without the file
