@@ -54,7 +54,7 @@ private:
     }
 
     /// Words letter by letter: what a model without views takes for each letter, and what the whole panel takes. A
-    /// model before both finds what nobody has looked at yet, so that neither pays for the other.
+    /// model before both finds what has not been looked at yet, so that neither pays for the other.
     void measureTyping() {
         PanelModel scout(*m_store, *m_engine);
         PanelModel bare(*m_store, *m_engine);

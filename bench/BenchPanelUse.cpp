@@ -36,7 +36,7 @@ constexpr double atOneGo = 8;
 /// Megabytes that the pages of a heap may differ by.
 constexpr double noGrowth = 0.5;
 
-/// Megabytes that this process has written to and that nobody shares.
+/// Megabytes that this process has written to and that no other process shares.
 double ownMemory() {
     (void)malloc_trim(0);
     QFile file(QStringLiteral("/proc/self/smaps_rollup"));

@@ -88,7 +88,7 @@ def main_thread_seconds(pid):
 
 
 def occupied_megabytes(pid):
-    """What we have written to: our share of the pages of libraries changes with whoever else uses them at the moment."""
+    """What we have written to: our share of the pages of libraries changes with what other processes use them at the moment."""
     with open(f"/proc/{pid}/smaps_rollup", encoding="ascii") as file:
         return sum(int(line.split()[1]) for line in file if line.startswith(("Anonymous:", "Swap:"))) / 1024
 

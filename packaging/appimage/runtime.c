@@ -52,7 +52,7 @@ static int mount_until_interrupted(const appimage* image) {
     return 0;
 }
 
-/* What the AppImage specification promises to AppRun. */
+/* What an AppImage passes to AppRun. */
 static void tell_of_place(const appimage* image, const char* folder, const char* called) {
     char here[4096];
     setenv("APPIMAGE", image->path, 1);

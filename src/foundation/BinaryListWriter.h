@@ -50,7 +50,7 @@ private:
         quint64 count = 0;
         QByteArray content;
         std::vector<Reference> references;
-        bool isOwnCopy = false; ///< nobody else has this content
+        bool isOwnCopy = false; ///< no other object has this content
     };
     /// Equal objects with content, without hashing all of a long one.
     struct Leaf {

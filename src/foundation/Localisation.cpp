@@ -21,7 +21,7 @@ constexpr const char* context = "Vellumry";
 QStringList cataloguesFor(const QString& language) {
     const QString plain = language.section(u'_', 0, 0);
     QStringList names{language, plain};
-    // Where one country's catalogue is all there is for those who name no country, or share its writing.
+    // Where one country's catalogue is all there is for locales that name no country, or share its script.
     static const QStringList simplified{QStringLiteral("zh"), QStringLiteral("zh_SG"), QStringLiteral("zh_MY"),
                                         QStringLiteral("zh_Hans")};
     if (simplified.contains(language))

@@ -27,7 +27,7 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    /// Tells nobody when they are the same.
+    /// Emits nothing when they are the same.
     void setHints(std::vector<Hint> hints);
 
 private:

@@ -256,7 +256,7 @@ QString PanelListModel::imageMatchOf(const Clip& clip) const {
     return clip.isSensitive() ? QString() : m_model->imageMatch(clip).value_or(QString());
 }
 
-/// Everything beside the title that the row shows, for those who hear it.
+/// Everything beside the title that the row shows, for screen readers.
 QString PanelListModel::descriptionOf(const Clip& clip) const {
     const QString number = digitOf(m_rowNumbers, clip);
     QStringList parts{row::sourceOf(clip), imageMatchOf(clip), pillOf(clip)};

@@ -10,7 +10,7 @@
 namespace vellumry {
 
 /// What `vellumry --status` tells: counts, sizes, versions and reasons, and nothing that the user copied, named or
-/// typed. In English: it is read by whoever helps.
+/// typed. In English: it is read by those that help with a problem.
 struct StatusReport {
     /// The history as the running program holds it.
     struct History {

@@ -27,7 +27,7 @@ public:
     /// `done`: identifiers of those that were imported already.
     void setHistories(std::vector<PeerHistory> histories, QSet<QString> done);
 
-    /// What one holds, or why nobody knows: "1,204 items, 3 of them pictures".
+    /// What one holds, or why that is unknown: "1,204 items, 3 of them pictures".
     [[nodiscard]] static QString contentsOf(const PeerHistory& history);
 
 private:

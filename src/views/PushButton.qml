@@ -8,7 +8,7 @@ Rectangle {
 
     required property string text
     property string symbol
-    property string help // for those who do not see what stands beside it
+    property string help // for screen readers, which do not see what stands beside it
     property bool isChief: false // what most people are here for
     property bool isDangerous: false
     property real mostWidth: Theme.controlWidth

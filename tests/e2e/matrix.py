@@ -58,7 +58,7 @@ def has_words(document, before):
 
 
 def compare(client, before, again, kept, after):
-    """Lines of the table; Failure when something comes back otherwise and nobody said why. `before` and `again` are two askings of
+    """Lines of the table; Failure when something comes back otherwise without a reason. `before` and `again` are two askings of
     the client itself: an office program writes a new document, with the time in it, at each. `kept` are the bytes of the clip."""
     lines = []
     for name in before["targets"]:

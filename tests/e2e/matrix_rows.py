@@ -107,7 +107,7 @@ def browser_picture(_client):
 
 def cut(_client):
     key("ctrl+x")
-    # Not by the list that tells a cut: whoever reads that takes the files off the clipboard.
+    # Not by the list that tells a cut: reading that takes the files off the clipboard.
     wait_until(lambda: (clipboard("application/x-kde-cutselection") or b"").startswith(b"1"), "the cut file on the clipboard", 20)
 
 

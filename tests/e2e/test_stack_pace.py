@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Quick paste keys: each item once and in its order, however slow the program and whoever else reads the clipboard."""
+"""Quick paste keys: each item once and in its order, however slow the program and whatever else reads the clipboard."""
 
 import os
 

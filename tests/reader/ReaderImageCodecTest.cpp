@@ -131,7 +131,7 @@ TEST(ReaderImageCodec, AReaderThatLeftIsReplacedUnnoticed) {
     ASSERT_EQ(children().size(), 1);
     const pid_t reader = children().first().toInt();
     kill(reader, SIGKILL);
-    // It is collected on another thread, which tells nobody.
+    // It is collected on another thread, which notifies nothing.
     QTimer looks;
     looks.start(std::chrono::milliseconds(1));
     runUntil([] { return children().isEmpty(); });

@@ -131,7 +131,7 @@ TEST(UnusualPictures, EachFormatCutOffAnywhereIsNoTrouble) {
 }
 
 TEST(UnusualPictures, TheBytesCountNotTheNameOfTheType) {
-    // A program that calls its JPEG a PNG: whoever asks hands over the bytes alone, and they say what they are.
+    // A program that calls its JPEG a PNG: the request holds the bytes alone, and they say what they are.
     const QByteArray jpeg = encode(twoColours(640, 320), "JPEG");
     EXPECT_EQ(thumbnailOf(jpeg).size(), QSize(160, 80));
     // Bytes of one kind inside the frame of another.

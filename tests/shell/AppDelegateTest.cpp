@@ -73,7 +73,7 @@ TEST_F(AppDelegateTest, EveryWindowHasTheKeysOfTheProgram) {
     ASSERT_TRUE(delegate.environment()->settings().isVisible());
     QQuickView* window = delegate.environment()->settings().window();
     SettingsModel& model = delegate.environment()->settingsModel();
-    // A shortcut to be: nobody else takes it.
+    // A free shortcut.
     model.openPanelShortcut()->toggle();
     QTest::keyClick(window, Qt::Key_Comma, Qt::ControlModifier);
     QTest::keyClick(window, Qt::Key_Q, Qt::ControlModifier);

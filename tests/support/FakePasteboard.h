@@ -63,7 +63,7 @@ public:
     }
     void setChangeCount(qint64 value) { m_changeCount = value; }
 
-    /// What the pasteboard holds now, whoever wrote it.
+    /// What the pasteboard holds now, of any program.
     [[nodiscard]] const std::vector<PasteboardItem>& items() const { return m_items; }
     /// True when the last writer was the program itself.
     [[nodiscard]] bool isOurs() const { return m_isOurs; }

@@ -9,7 +9,7 @@
 
 namespace vellumry {
 
-/// Histories of other programs without a disk. Changed only while nobody reads.
+/// Histories of other programs without a disk. Changed only between readings.
 class FakePeerHistories : public PeerHistories {
 public:
     struct Contents {

@@ -42,7 +42,7 @@ struct Chosen {
     std::optional<QColor> accent;
 };
 
-/// Ours, those that desktops offer, and those that nobody should choose.
+/// Ours, those that desktops offer, and unreadable ones.
 const Chosen accents[] = {
     {"Ours", {}},           {"Blue", 0xff3584e4U},   {"Teal", 0xff2190a4U},
     {"Green", 0xff3a944aU}, {"Yellow", 0xffc88800U}, {"Orange", 0xffed5b00U},

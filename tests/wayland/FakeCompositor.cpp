@@ -17,7 +17,7 @@ struct FakeCompositor::Requests {
     static void destroy(wl_client*, wl_resource* resource) { wl_resource_destroy(resource); }
 
     static void input(wl_client* client, wl_resource* seat, uint32_t id) {
-        // A keyboard that nobody types on: an object without requests that matter here.
+        // A keyboard without keys: an object without requests that matter here.
         wl_resource_create(client, &wl_keyboard_interface, wl_resource_get_version(seat), id);
     }
     static void bindSeat(wl_client* client, void* data, uint32_t version, uint32_t id) {

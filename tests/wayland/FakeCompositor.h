@@ -33,7 +33,7 @@ public:
     void addSeat();
     /// The oldest.
     void removeSeat();
-    /// Data control is offered no more; those who have it keep it.
+    /// Data control is offered no more; clients that have it keep it.
     void withdrawManager();
     /// Ends all connections at once, as a crash does.
     void die();

@@ -9,7 +9,7 @@
 namespace vellumry {
 
 /// The clipboard of a GNOME session for another program of a test, by Mutter's interface for remote sessions. It is
-/// nobody's to use outside of GNOME's own parts, and asks the user for nothing.
+/// meant for GNOME's own parts only, and asks the user for nothing.
 class MutterSelection final : public SelectionControl {
 public:
     /// Null without Mutter.

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The clipboard of a GNOME session for another program, whichever window has the keyboard, by Mutter's interface for remote
-sessions. It is nobody's to use outside of GNOME's own parts, and asks the user for nothing.
+sessions. It is meant for GNOME's own parts only, and asks the user for nothing.
 
 mutter_clipboard.py copy TYPE    takes the clipboard with standard input; "ready" once it is there; serves it until it is lost
 mutter_clipboard.py paste TYPE   writes what is there

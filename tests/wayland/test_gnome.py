@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""GNOME's shell extension: it may go and come back while the program runs, as the lock screen has it, and serves nobody else. Run
+"""GNOME's shell extension: it may go and come back while the program runs, as the lock screen has it, and serves no other program. Run
 inside scripts/wayland-session gnome."""
 
 import os

@@ -235,7 +235,7 @@ sockaddr_un addressOf(const char* path) {
 int serve(const char* path) {
     Keyboard keyboard;
     if (!keyboard.open()) {
-        std::fputs("typist: the compositor lets nobody type\n", stderr);
+        std::fputs("typist: the compositor has no way to type\n", stderr);
         return 1;
     }
     const int listening = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);

@@ -53,7 +53,7 @@ export class ClipboardService extends Service {
         for (const reading of this._readings)
             reading.cancel();
         this.disownPrimary();
-        // A session that ends leaves its source behind, which then answers nobody. Without it GNOME brings the text back, as that of
+        // A session that ends leaves its source behind, which then answers no request. Without it GNOME brings the text back, as that of
         // any program that ends.
         if (this._isOurs)
             this._selection.unset_owner(Meta.SelectionType.SELECTION_CLIPBOARD, this._source);

@@ -10,7 +10,7 @@
 namespace vellumry {
 
 /// What the two programs named clipman keep. That of Xfce: a key file (GLib's GKeyFile) with the texts in one line, the
-/// oldest first, and a PNG file for each picture, whose place among the texts nobody knows: they come behind them. That
+/// oldest first, and a PNG file for each picture, whose place among the texts is unknown: they come behind them. That
 /// of Wayland: a list of texts in JSON, the oldest first. Learnt from their files.
 class ClipmanHistory : public PeerReading {
 public:

@@ -15,7 +15,7 @@
 
 extern "C" {
 
-// Glibc's names for its own functions, for those who replace the public ones
+// Glibc's names for its own functions, for libraries that replace the public ones
 void* __libc_realloc(void* memory, std::size_t size) noexcept;
 void __libc_free(void* memory) noexcept;
 }

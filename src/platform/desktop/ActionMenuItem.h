@@ -9,7 +9,7 @@
 namespace vellumry {
 
 /// One entry of a menu as a value: what it says and what choosing it does. The row menu and the tray's menu are lists
-/// of these; whoever draws them decides nothing.
+/// of these; the view that draws them decides nothing.
 struct ActionMenuItem {
     QString text{};   ///< empty for a separator
     QString symbol{}; ///< name of one of the program's symbols; may be empty
@@ -23,7 +23,7 @@ struct ActionMenuItem {
     Check check = Check::none;
     QString note{};   ///< what is told of the entry beside it, once the pointer rests; may be empty
     QString swatch{}; ///< "#AARRGGBB", painted as a square in place of the symbol; may be empty
-    /// `keys` for those who draw keys their own way: "Control", "Alt", "Shift" and "Super", and last what is on the
+    /// `keys` for views that draw keys their own way: "Control", "Alt", "Shift" and "Super", and last what is on the
     /// key.
     QStringList chord{};
 

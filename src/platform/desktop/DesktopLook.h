@@ -21,7 +21,7 @@ struct DesktopLook {
 class DesktopLookSource {
 public:
     virtual ~DesktopLookSource() = default;
-    /// As it is known now; what is still being asked for is as if nobody had chosen.
+    /// As it is known now; what is still being asked for counts as not chosen.
     [[nodiscard]] virtual DesktopLook look() const = 0;
     /// Something of it is different.
     std::function<void()> onChanged = [] {};

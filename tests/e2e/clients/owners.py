@@ -55,7 +55,7 @@ def answer(connection, request, offers):
 
 
 def copy_in_a_row(texts, interval):
-    """Copies one text after the other, `interval` seconds apart, and answers at once whoever asks for the present one.
+    """Copies one text after the other, `interval` seconds apart, and answers each request for the present one at once.
 
     Stays the owner of the last for a second, so that it can be read."""
     connection = display.Display()

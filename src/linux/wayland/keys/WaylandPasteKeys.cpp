@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// What those who are told may take over the next item: it is offered when the paste is over.
+/// The listener may take over the next item: it is offered when the paste is over.
 constexpr auto usualTime = 100ms;
 
 } // namespace

@@ -9,7 +9,7 @@
 
 namespace vellumry {
 
-/// Takes the window that was active when a copy was made for its program's: as long as that window is there, whoever
+/// Takes the window that was active when a copy was made for its program's: as long as that window is there, what
 /// empties the clipboard does so on purpose. Where it is not known, a copy that has gone has lost its program.
 class CopiedWindow final : public QObject, public OwnerWatch {
     Q_OBJECT

@@ -139,7 +139,7 @@ std::optional<unsigned int> X11Keymap::maskFor(Modifiers modifiers) const {
     for (const auto& [modifier, bit] : bits) {
         if (!modifiers.testFlag(modifier))
             continue;
-        // Without the bit the grab would take a simpler combination from everybody: Ctrl+V for Super+Ctrl+V.
+        // Without the bit the grab would take a simpler combination from every program: Ctrl+V for Super+Ctrl+V.
         if (bit == 0)
             return std::nullopt;
         mask |= bit;

@@ -18,8 +18,8 @@
 namespace vellumry {
 
 /// The grabs behind `X11PasteKeys`: synchronous passive grabs of the X Input extension, which stop the keyboard behind
-/// the press until it is replayed to the program in front. Lives on a thread of its own, which waits for nobody but the
-/// X server, so that a busy main thread cannot hold the user's keyboard for longer than `holdLimit`. Before that a
+/// the press until it is replayed to the program in front. Lives on a thread of its own, which waits for nothing but
+/// the X server, so that a busy main thread cannot hold the user's keyboard for longer than `holdLimit`. Before that a
 /// press waits for the paste before it to be fetched: a slow program would else paste one item twice and another never.
 class X11PasteKeyGrab : public QObject {
     Q_OBJECT

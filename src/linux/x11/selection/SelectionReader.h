@@ -55,7 +55,7 @@ private:
     enum class Phase {
         asked,       ///< no answer yet
         incremental, ///< chunks are coming
-        draining,    ///< chunks are coming that nobody wants
+        draining,    ///< chunks are coming that are not wanted any more
         abandoned,   ///< an answer may still come, or not; the property is not used again before
     };
     struct Transfer {

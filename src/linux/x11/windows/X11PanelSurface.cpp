@@ -164,8 +164,8 @@ bool X11PanelSurface::reducesMotion() const {
     return XSettings::integer(*m_connection, "Gtk/EnableAnimations") == 0;
 }
 
-// Raw button presses are told whoever gets the click. Where nobody takes the keyboard on a click (the bare desktop),
-// the panel would stay otherwise.
+// Raw button presses are told whichever window gets the click. Where no window takes the keyboard on a click (the bare
+// desktop), the panel would stay otherwise.
 void X11PanelSurface::listenForClicks(bool isListening) {
     if (!m_connection->inputExtension().has_value())
         return;
