@@ -102,7 +102,7 @@ def ten_megabytes_are_shown_and_pasted():
         open_panel()
         key("Down")
         shows("^line 0000000 of a long text")
-        shows(f"{len(TEN_MEGABYTES)} characters")
+        shows(f"{len(TEN_MEGABYTES):,} characters")
         key("ctrl+c")
         wait_panel_closed()
         wait_until(lambda: clipboard() == TEN_MEGABYTES.encode(), "the long text on the clipboard")

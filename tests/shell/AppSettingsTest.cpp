@@ -88,7 +88,7 @@ TEST_F(AppSettingsTest, WhileOneIsRecordedNoShortcutFires) {
 
 TEST_F(AppSettingsTest, AFileThatIsChangedWhileOneIsRecordedCountsAtItsEnd) {
     startWatched();
-    const Shortcut other{11, 0x1100};
+    const Shortcut other{KeyCode::b, Modifier::control | Modifier::command};
     environment->settingsModel().openPanelShortcut()->toggle();
     set("openPanelShortcut", other.toJson());
     set("pinnedShortcutsEnabled", false);
