@@ -164,12 +164,12 @@ TEST_F(X11PanelSurfaceTest, AClickOnAnotherWindowGivesThatWindowTheKeyboard) {
     // The window manager hears of the click as well; whichever of us is quicker, the clicked window has the keyboard.
     for (int round = 0; round < 10; ++round) {
         target.focus();
-        ASSERT_TRUE(waitUntil([this] { return target.hasFocus(); }));
+        ASSERT_TRUE(eventually([this] { return target.hasFocus(); }));
         show();
         client.movePointer(900, 520);
         client.click(1);
-        ASSERT_TRUE(waitUntil([this] { return !panel.isVisible(); }));
-        EXPECT_TRUE(waitUntil([&] { return other.hasFocus(); })) << "round " << round;
+        ASSERT_TRUE(eventually([this] { return !panel.isVisible(); }));
+        EXPECT_TRUE(eventually([&] { return other.hasFocus(); })) << "round " << round;
     }
 }
 

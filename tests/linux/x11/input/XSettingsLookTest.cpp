@@ -3,6 +3,7 @@
 
 #include "XClient.h"
 #include "XSession.h"
+#include "support/Eventually.h"
 
 #include <QtEndian>
 #include <gtest/gtest.h>
@@ -85,12 +86,12 @@ TEST(XSettingsLook, TellsTheThemeTheFontAndMotionAndFollowsThem) {
     EXPECT_EQ(said.textScale, 2.0);
     EXPECT_EQ(said.reducesMotion, true);
     manager.tell({text("Net/ThemeName", "HighContrast"), number("Gtk/EnableAnimations", 1)});
-    EXPECT_TRUE(waitUntil([&] { return said.isHighContrast == true; }));
+    EXPECT_TRUE(eventually([&] { return said.isHighContrast == true; }));
     EXPECT_EQ(said.isDark, false);
     EXPECT_EQ(said.reducesMotion, false);
     EXPECT_EQ(said.textScale, std::nullopt);
     manager.end();
-    EXPECT_TRUE(waitUntil([&] { return said == SaidLook(); }));
+    EXPECT_TRUE(eventually([&] { return said == SaidLook(); }));
 }
 
 TEST(XSettingsLook, AManagerThatComesLaterIsHeard) {
@@ -100,7 +101,7 @@ TEST(XSettingsLook, AManagerThatComesLaterIsHeard) {
     Manager manager;
     manager.tell({text("Net/ThemeName", "Adwaita-dark")});
     manager.begin();
-    EXPECT_TRUE(waitUntil([&] { return said.isDark == true; }));
+    EXPECT_TRUE(eventually([&] { return said.isDark == true; }));
 }
 
 } // namespace vellumry
