@@ -56,7 +56,7 @@ TEST(HistoryFolder, SizesReadAsInAFileManager) {
                                                     {999'950'000, "1 GB"},
                                                     {1'234'000'000, "1.23 GB"},
                                                     {2'500'000'000, "2.5 GB"},
-                                                    {1'073'741'824'000'000, "1073.74 TB"}};
+                                                    {1'073'741'824'000'000, "1,073.74 TB"}};
     for (const auto& [bytes, text] : sizes)
         EXPECT_EQ(fileSizeText(bytes), QString::fromUtf8(text)) << bytes;
 }

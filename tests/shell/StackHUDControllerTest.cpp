@@ -83,6 +83,7 @@ TEST_F(StackHUDControllerTest, StandsInTheMiddleOfTheTopAndFollowsItsContents) {
 }
 
 TEST_F(StackHUDControllerTest, ChoosesTheDisplayAnewOnlyWhenItWasHidden) {
+    surface.screen->visible = QRect(0, 24, 1600, 976);
     stack.start({});
     hud.show();
     const QRect first = surface.frames.last();
