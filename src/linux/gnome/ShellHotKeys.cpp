@@ -27,7 +27,7 @@ ShellHotKeys::~ShellHotKeys() {
 }
 
 /// As GTK writes it: <Control><Super>v.
-QString ShellHotKeys::acceleratorOf(quint32 keyCode, quint32 modifiers) const {
+QString ShellHotKeys::acceleratorOf(KeyCode keyCode, Modifiers modifiers) const {
     const auto evdevCode = m_keymap->positions().evdevCode(keyCode);
     const auto characters = evdevCode ? m_keymap->charactersFor(*evdevCode) : std::nullopt;
     if (!characters || characters->size() != 1)
@@ -36,15 +36,16 @@ QString ShellHotKeys::acceleratorOf(quint32 keyCode, quint32 modifiers) const {
     if (xkb_keysym_get_name(xkb_utf32_to_keysym(characters->front().unicode()), name.data(), name.size()) <= 0)
         return {};
     QString accelerator;
-    for (const auto& [bit, modifier] : {std::pair(0x100U, "<Control>"), std::pair(0x200U, "<Shift>"),
-                                        std::pair(0x800U, "<Alt>"), std::pair(0x1000U, "<Super>")}) {
-        if ((modifiers & bit) != 0)
-            accelerator += QLatin1String(modifier);
+    for (const auto& [modifier, written] :
+         {std::pair(Modifier::command, "<Control>"), std::pair(Modifier::shift, "<Shift>"),
+          std::pair(Modifier::option, "<Alt>"), std::pair(Modifier::control, "<Super>")}) {
+        if (modifiers.testFlag(modifier))
+            accelerator += QLatin1String(written);
     }
     return accelerator + QLatin1String(name.data());
 }
 
-bool ShellHotKeys::grab(quint32 id, quint32 keyCode, quint32 modifiers) {
+bool ShellHotKeys::grab(quint32 id, KeyCode keyCode, Modifiers modifiers) {
     const QString accelerator = acceleratorOf(keyCode, modifiers);
     if (accelerator.isEmpty())
         return false;

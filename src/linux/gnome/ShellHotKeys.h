@@ -18,11 +18,11 @@ public:
     ~ShellHotKeys() override;
 
     /// Waits for the shell. True while the extension is away: the key is taken when it comes.
-    [[nodiscard]] bool grab(quint32 id, quint32 keyCode, quint32 modifiers) override;
+    [[nodiscard]] bool grab(quint32 id, KeyCode keyCode, Modifiers modifiers) override;
     void release(quint32 id) override;
 
 private:
-    [[nodiscard]] QString acceleratorOf(quint32 keyCode, quint32 modifiers) const;
+    [[nodiscard]] QString acceleratorOf(KeyCode keyCode, Modifiers modifiers) const;
     void takeAgain();
 
     std::shared_ptr<ShellLink> m_link;
