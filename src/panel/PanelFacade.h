@@ -125,8 +125,8 @@ public:
     void setStill(bool isStill) { m_isStill = isStill; }
     /// To be called when the panel comes up.
     void present();
-    /// While the panel is hidden its rows follow nothing, so that a copy costs nothing here; what was deleted they let go
-    /// of shortly after. Waking up is at once up to date.
+    /// While the panel is hidden its rows follow nothing, so that a copy costs nothing here; what was deleted they let
+    /// go of shortly after. Waking up is at once up to date.
     void setDormant(bool isDormant);
 
     /// The virtual key code of the key with that native scan code.
