@@ -162,7 +162,10 @@ void HtmlParser::write(QStringView text) {
         if (end > begin)
             writeVisible(text.sliced(begin, end - begin));
         for (begin = end; begin < text.size() && isFolded(text[begin]); ++begin)
-            m_hasBlank = m_hasBlank || (!keepsBlanks && isBlank(text[begin]));
+            if (!m_hasBlank && !keepsBlanks && isBlank(text[begin])) {
+                m_hasBlank = true;
+                m_blankStyle = current().style;
+            }
     }
 }
 
@@ -171,7 +174,7 @@ void HtmlParser::writeVisible(QStringView text) {
         return;
     breakLines();
     if (m_hasBlank && !isAtLineStart() && !m_isMarked)
-        m_text.append(u" ", current().style);
+        m_text.append(u" ", m_blankStyle);
     m_hasBlank = false;
     m_isMarked = false;
     m_text.append(text, current().style);

@@ -58,6 +58,7 @@ private:
     StyledText m_text;
     int m_breaks = 0;        ///< line breaks owed before the next text
     bool m_hasBlank = false; ///< a blank is owed, unless a line begins
+    TextStyle m_blankStyle;  ///< of the text that the blank stands in: that before a link is not underlined
     bool m_isMarked = false; ///< an item's mark was the last thing written
 };
 

@@ -83,6 +83,16 @@ TEST(StyledHtmlStyles, ElementsSayHowTextIsWritten) {
     EXPECT_EQ(styleOf(document, "Title"), (TextStyle{.isBold = true, .size = 2}));
 }
 
+TEST(StyledHtmlStyles, ABlankIsWrittenAsTheTextThatItStandsIn) {
+    const StyledText document = styledHtml("see <u>the plan</u> of <u> May</u>");
+    EXPECT_EQ(document.text, text(u"see the plan of May"));
+    EXPECT_TRUE(styleOf(document, "the plan").isUnderlined);
+    EXPECT_TRUE(styleOf(document, " plan").isUnderlined);
+    EXPECT_FALSE(styleOf(document, " the plan").isUnderlined);
+    EXPECT_FALSE(styleOf(document, " of").isUnderlined);
+    EXPECT_FALSE(styleOf(document, " May").isUnderlined) << "the first of two blanks counts";
+}
+
 TEST(StyledHtmlStyles, DeclarationsSayHowTextIsWritten) {
     const StyledText document = styledHtml(
         "<span style='font-weight:700;color:#c00'>red</span> <b style='font-weight: normal'>normal</b> "
