@@ -52,11 +52,15 @@ Item {
     // A screen reader reads what the keys work on; once all of the row is as it will be, and after the field, which gets
     // the keyboard with the window.
     readonly property bool isSpoken: isPrimary && !isPooled && Window.active
-    function tell() {
-        if (row.isSpoken)
-            Views.tellFocused(row);
+    onIsSpokenChanged: telling.restart()
+    Timer {
+        id: telling
+        interval: 0
+        onTriggered: {
+            if (row.isSpoken)
+                Views.tellFocused(row);
+        }
     }
-    onIsSpokenChanged: Qt.callLater(row.tell)
 
     Label {
         visible: row.isHeader

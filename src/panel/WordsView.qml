@@ -13,13 +13,8 @@ Flickable {
     property string upToHit: ""
     property bool isAddress: false
 
-    function showHit() {
-        const wanted = upToHit === "" ? 0 : measure.contentHeight - height / 2;
-        contentY = Math.round(Math.max(0, Math.min(wanted, contentHeight - height)));
-    }
-
-    onUpToHitChanged: Qt.callLater(showHit)
-    onTextChanged: Qt.callLater(showHit)
+    onUpToHitChanged: showing.restart()
+    onTextChanged: showing.restart()
 
     clip: true
     interactive: false
@@ -27,6 +22,15 @@ Flickable {
     contentWidth: width
     contentHeight: words.implicitHeight
 
+    Timer {
+        // Once both texts are laid out.
+        id: showing
+        interval: 0
+        onTriggered: {
+            const wanted = scrolled.upToHit === "" ? 0 : measure.contentHeight - scrolled.height / 2;
+            scrolled.contentY = Math.round(Math.max(0, Math.min(wanted, scrolled.contentHeight - scrolled.height)));
+        }
+    }
     Text {
         id: words
         LayoutMirroring.enabled: false
