@@ -101,7 +101,7 @@ public:
     [[nodiscard]] QString textUpToHit() const;
     [[nodiscard]] QString markedWords() const;
     [[nodiscard]] QString wordsUpToHit() const;
-    /// The row of `lines` that is to be in sight; -1 where the beginning is.
+    /// The row of `lines` to scroll to: that of the first hit. -1 to show the beginning.
     [[nodiscard]] int hitRow() const { return m_text.hitRow(); }
     /// That row up to the end of its hit, to be measured.
     Q_INVOKABLE [[nodiscard]] QString rowUpToHit() const { return m_text.upToHit(); }

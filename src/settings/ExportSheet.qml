@@ -5,7 +5,7 @@ import Vellumry.Settings
 import Vellumry.Transfer
 import Vellumry.Views
 
-// Where everything is to be written to, and what that means.
+// Asks for the folder of an export, and warns that its files are not encrypted.
 Sheet {
     id: sheet
 

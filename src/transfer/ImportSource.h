@@ -10,7 +10,7 @@
 
 namespace vellumry {
 
-/// One entry that is to be taken over.
+/// One entry to import.
 struct ImportEntry {
     ClipPayload payload{}; ///< empty for one that must not be, or cannot be
     Provenance provenance{};

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The rows of the fidelity matrix: what each client copies, and what the clip of it is to be."""
+"""The rows of the fidelity matrix: what each client copies, and the clip that is expected of it."""
 
 import base64
 import re
@@ -67,7 +67,7 @@ def soon(condition):
 
 
 def by_menu(open_menu, letter, target):
-    """Copies by an entry of the menu that belongs to a place of the page; once more when the menu of before was still closing."""
+    """Copies by an entry of the context menu. Opens the menu again if the previous one was still closing: it takes the click."""
 
     def copied():
         key("Escape")

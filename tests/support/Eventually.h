@@ -10,7 +10,8 @@ namespace vellumry {
 
 /// Delivers the main thread's events until `isDone` holds, for at most `milliseconds`; answers whether it does. The
 /// condition is asked again after each event and every other millisecond, since other processes send none. Between
-/// these the thread lies in poll(2): an event that another thread or process causes ends the wait at once.
+/// these the event loop blocks in poll(2), so that an event of another thread or process ends the wait at once; the
+/// timer bounds each wait, the deadline all of them.
 inline bool eventually(const std::function<bool()>& isDone, int milliseconds = 60'000) {
     const QDeadlineTimer deadline(milliseconds);
     QTimer turn;

@@ -121,7 +121,7 @@ KINDS = (Gtk4, Gtk3, Featherpad, Firefox, Chromium, Xwayland, Foot, Konsole)
 
 
 def display():
-    """Xwayland comes with the first who asks for it."""
+    """The display of Xwayland, which starts with its first client."""
     return ":" + sorted(glob.glob("/tmp/.X11-unix/X*"))[0].removeprefix("/tmp/.X11-unix/X")
 
 

@@ -53,7 +53,7 @@ private:
     void follow(bool isThere);
     void hear(const char* name, _GVariant* values);
     void takeChange(quint32 serial, const QStringList& types, quint32 kind);
-    /// The first word of an extension that is back. True when nothing is to be told of it.
+    /// The first notification after the extension came back. True when it reports no new copy.
     bool resume(quint32 serial, const QStringList& types);
     void cancelOwn();
     void own(const QStringList& types);

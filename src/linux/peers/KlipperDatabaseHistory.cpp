@@ -57,6 +57,7 @@ KlipperDatabaseHistory::open(const QString& folder, const QString& scratch) {
     auto database = ForeignFile::open(folder + QStringLiteral("/history3.sqlite"), largestDatabase);
     if (!database)
         return std::unexpected(stateOf(database.error()));
+    // QTemporaryDir replaces the six letters, makes the folder with mode 700 and removes it with its content.
     const QTemporaryDir copy(scratch + QStringLiteral("/vellumry-XXXXXX"));
     const QString path = copy.filePath(QStringLiteral("history3.sqlite"));
     if (!copy.isValid() || !copyFile(*database, path))

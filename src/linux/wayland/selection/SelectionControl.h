@@ -65,12 +65,12 @@ public:
     /// Waits for that, at the start. False when the connection broke.
     virtual bool roundTrip() = 0;
 
-    /// Before a wait for events: tells of those that are here already, sends what is to be sent, and adds what is to
-    /// be waited for. `finishWait` must follow, whatever became of the wait.
+    /// To be called before poll(2): dispatches the events already read, flushes requests, and adds the descriptors to
+    /// poll. `finishWait` must follow, whatever poll returned.
     virtual void prepareWait(std::vector<pollfd>& descriptors) = 0;
-    /// After it: tells of what has come.
+    /// To be called after poll(2): reads and dispatches new events.
     virtual void finishWait(const std::vector<pollfd>& descriptors) = 0;
-    /// Sends what is to be sent; for the end.
+    /// Flushes pending requests, before the connection is closed.
     virtual void flush() = 0;
 
 protected:

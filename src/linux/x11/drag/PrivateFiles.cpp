@@ -7,7 +7,7 @@
 namespace vellumry {
 
 std::unique_ptr<PrivateFiles> PrivateFiles::write(const std::vector<DragSource::File>& files) {
-    // Gone at the latest with the session, even when the program is killed.
+    // Gone at the latest with the session, even when the program is killed. QTemporaryDir replaces the six letters.
     const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     std::unique_ptr<PrivateFiles> written(new PrivateFiles(runtime + QStringLiteral("/vellumry-drag-XXXXXX")));
     if (!written->m_folder.isValid())
