@@ -4,6 +4,7 @@
 #include "foundation/Logging.h"
 #include "foundation/UniformType.h"
 #include "linux/pasteboard/TargetCoding.h"
+#include "linux/wayland/selection/ManagerHint.h"
 
 #include <QSet>
 #include <utility>
@@ -11,19 +12,6 @@
 namespace vellumry {
 
 namespace {
-
-/// By this clipboard managers know that they are to leave a copy alone.
-const QString managerHint = QStringLiteral("x-kde-passwordManagerHint");
-
-using namespace std::chrono_literals;
-
-/// Clipboard managers read what is new within 5 ms of its coming, measured with Plasma's and those that run
-/// `wl-paste --watch`; a user's hand takes longer. The second is for the items behind the first one, where a manager
-/// was seen to read that: pastes may follow each other quickly.
-constexpr auto managersTime = 100ms;
-constexpr auto managersNextTime = 50ms;
-/// The forms of one paste are read within that of each other.
-constexpr auto onePaste = 100ms;
 
 /// Plasma's keeper offers again what went with its owner, and says so by this.
 const QString replacesEmpty = QStringLiteral("application/x-kde-onlyReplaceEmpty");
@@ -92,7 +80,7 @@ void DataControlEngine::settleClaim(const PasteboardClaim& claim) {
         });
         return;
     }
-    if (m_onPaste && canSwap(*claim.contents)) {
+    if (m_readings.isCounting() && canSwap(*claim.contents)) {
         m_clipboard.contents = claim.contents;
         claim.result.deliver(changeCount());
         return;
@@ -117,13 +105,13 @@ void DataControlEngine::takeClipboard(std::shared_ptr<const OfferedContents> con
     const auto before = hold(m_clipboard, std::move(contents));
     m_wasServed.store(false, std::memory_order_release);
     m_wasAnnounced = false;
-    m_takenAt = std::chrono::steady_clock::now();
+    m_readings.noteOffer(std::chrono::steady_clock::now());
     m_control->setSelection(m_clipboard.source.get());
 }
 
 QStringList DataControlEngine::offeredTypes(const OfferedContents& contents) const {
     QStringList types = contents.targets();
-    if (m_onPaste && !types.contains(managerHint))
+    if (m_readings.isCounting() && !types.contains(managerHint))
         types.append(managerHint);
     return types;
 }
@@ -166,47 +154,28 @@ void DataControlEngine::serve(const Holding& holding, const QString& mimeType, D
     if (&holding == &m_clipboard || holding.contents == m_clipboard.contents)
         m_wasServed.store(true, std::memory_order_release);
     m_writer.write(std::move(pipe), *bytes, now);
-    if (&holding == &m_clipboard && m_onPaste && !holding.source->isForKeeper)
-        noteReading(mimeType, now);
+    if (&holding == &m_clipboard && !holding.source->isForKeeper)
+        m_readings.noteReading(mimeType, now);
 }
 
 // Counting
 
-void DataControlEngine::noteReading(const QString& mimeType, Instant now) {
-    if (mimeType == managerHint || mimeType == uniformtype::ownMarker)
-        return;
-    if (!m_hasPasted && now - m_takenAt < managersTime) {
-        m_isWatched = true;
-        return;
-    }
-    if (m_isWatched && now - m_takenAt < managersNextTime)
-        return;
-    m_hasPasted = true;
-    const bool isNewPaste = now >= m_pasteOver;
-    m_pasteOver = now + onePaste;
-    if (isNewPaste)
-        m_onPaste();
-}
-
 void DataControlEngine::startCounting(std::function<void()> onPaste) {
-    m_onPaste = std::move(onPaste);
-    m_pasteOver = Instant();
-    m_hasPasted = false;
-    m_isWatched = false;
+    m_readings.start(std::move(onPaste));
 }
 
 void DataControlEngine::stopCounting() {
-    m_onPaste = nullptr;
+    m_readings.stop();
     m_expected.reset();
 }
 
 void DataControlEngine::expect(std::shared_ptr<const OfferedContents> contents, Instant now) {
-    m_expected = m_onPaste ? std::move(contents) : nullptr;
+    m_expected = m_readings.isCounting() ? std::move(contents) : nullptr;
     offerExpected(now);
 }
 
 void DataControlEngine::offerExpected(Instant now) {
-    if (m_ended || !m_expected || now < m_pasteOver || !m_control->hasDevice())
+    if (m_ended || !m_expected || now < m_readings.pasteEnd() || !m_control->hasDevice())
         return;
     auto contents = std::exchange(m_expected, nullptr);
     // Many programs (Qt, GTK 3, Chromium) keep what they have read of an offer, and would paste it once more.
@@ -249,8 +218,8 @@ void DataControlEngine::handleSelection(std::unique_ptr<SelectionControl::Offer>
     if (offer && m_clipboard.source && offer->mimeTypes() == m_clipboard.types) {
         m_offer.reset();
         m_targets.clear();
-        // Those who read what is new hear of it now.
-        m_takenAt = std::chrono::steady_clock::now();
+        // Clipboard managers are notified now.
+        m_readings.noteOffer(std::chrono::steady_clock::now());
         if (!std::exchange(m_wasAnnounced, true))
             noteChange(false);
         return;
@@ -354,7 +323,7 @@ void DataControlEngine::expire(Instant now) {
 std::optional<DataControlEngine::Instant> DataControlEngine::nextDeadline() const {
     std::optional<Instant> next;
     const std::optional<Instant> offering =
-        m_expected && !m_ended && m_control->hasDevice() ? std::optional(m_pasteOver) : std::nullopt;
+        m_expected && !m_ended && m_control->hasDevice() ? std::optional(m_readings.pasteEnd()) : std::nullopt;
     for (const std::optional<Instant>& deadline : {m_reader.nextDeadline(), m_writer.nextDeadline(), offering}) {
         if (deadline && (!next || *deadline < *next))
             next = deadline;

@@ -3,6 +3,7 @@
 
 #include "linux/pasteboard/PasteboardLimits.h"
 #include "linux/pasteboard/PasteboardService.h"
+#include "linux/wayland/selection/PasteReadings.h"
 #include "linux/wayland/selection/PipeReader.h"
 #include "linux/wayland/selection/PipeWriter.h"
 #include "linux/wayland/selection/SelectionControl.h"
@@ -52,9 +53,7 @@ public:
               const BytesResult& result, Instant now);
 
     /// From now on what is on the clipboard is one item of several, each for one paste: `onPaste` is called, on the
-    /// pasteboard thread, when a program has come for it as for a paste. Compositors do not show the keys of others, so
-    /// the reading of our content is what tells of a paste. Not counted: readings right after a change of owner, where
-    /// clipboard managers were seen to read what is new; further readings of the same paste; and readings of marks.
+    /// pasteboard thread, when a program has read it as a paste does (PasteReadings).
     void startCounting(std::function<void()> onPaste);
     void stopCounting();
     /// What the next paste is to get. Offered at once, or when the paste under way is over; in place, without a change
@@ -85,7 +84,6 @@ private:
     [[nodiscard]] std::unique_ptr<SelectionControl::Source> hold(Holding& holding,
                                                                  std::shared_ptr<const OfferedContents> contents);
     void serve(const Holding& holding, const QString& mimeType, Descriptor pipe);
-    void noteReading(const QString& mimeType, Instant now);
     [[nodiscard]] QStringList offeredTypes(const OfferedContents& contents) const;
     [[nodiscard]] bool canSwap(const OfferedContents& contents) const;
     void offerExpected(Instant now);
@@ -110,12 +108,8 @@ private:
     /// The change count since which the clipboard has no owner, when its last owner was another program.
     std::optional<qint64> m_goneSince;
     std::optional<PasteboardClaim> m_unconfirmed;
-    std::function<void()> m_onPaste;                   ///< set while readings are counted
+    PasteReadings m_readings;                          ///< of what we hold on the clipboard
     std::shared_ptr<const OfferedContents> m_expected; ///< not yet offered
-    bool m_hasPasted = false;                          ///< a paste was counted
-    bool m_isWatched = false;                          ///< somebody read the first item as soon as it was there
-    Instant m_takenAt;                                 ///< when the clipboard was last made ours
-    Instant m_pasteOver;                               ///< until then a reading belongs to the paste before
     quint64 m_claimNumber = 0;
     std::vector<OneShot<bool>> m_catchUps; ///< answered in their order
 };
