@@ -66,14 +66,20 @@ void TransferModel::forgetMessage() {
 }
 
 QCoro::Task<void> TransferModel::runLook() {
+    // A search that runs may have passed what has come since.
+    m_looksAgain = m_isLooking;
     if (std::exchange(m_isLooking, true))
         co_return;
     Q_EMIT changed();
     const QPointer<TransferModel> self(this);
-    auto finding = m_import->find();
-    std::vector<PeerHistory> found = co_await finding;
-    if (!self)
-        co_return;
+    std::vector<PeerHistory> found;
+    do {
+        m_looksAgain = false;
+        auto finding = m_import->find();
+        found = co_await finding;
+        if (!self)
+            co_return;
+    } while (m_looksAgain);
     m_isLooking = false;
     const QStringList done = m_hooks.imported();
     m_histories.setHistories(std::move(found), {done.begin(), done.end()});

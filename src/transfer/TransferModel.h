@@ -53,7 +53,7 @@ public:
     /// A folder in the user's home that is not there yet.
     [[nodiscard]] QString suggestedFolder() const;
 
-    /// Finds what other programs have left; what is shown stays until then.
+    /// Finds what other programs have left; what is shown stays until then. Asked again meanwhile, it searches again.
     Q_INVOKABLE void look() { runLook(); }
     Q_INVOKABLE void importHistory(int line);
     Q_INVOKABLE void importFolder(const QString& folder);
@@ -82,6 +82,7 @@ private:
     Hooks m_hooks;
     HistoryListModel m_histories;
     bool m_isLooking = false;
+    bool m_looksAgain = false;
     bool m_isBusy = false;
     QString m_message;
     ImportOutcome m_last;

@@ -138,6 +138,7 @@ TEST_F(OnboardingWindowTest, ThePanelOpensOverTheField) {
 
 TEST_F(OnboardingWindowTest, OtherProgramsHistoriesAreOfferedOnTheLastStep) {
     const PasteboardItem item{{{QStringLiteral("public.utf8-plain-text"), "theirs"}}, {}};
+    runUntil([this] { return !transfers.model.isLooking(); });
     transfers.peers.add(QStringLiteral("copyq"), {PeerClip{{item}}}, 1795000000);
     transfers.model.look();
     for (int step = 0; step < 3; ++step)

@@ -4,12 +4,13 @@
 #include "platform/files/PeerHistories.h"
 
 #include <QHash>
+#include <functional>
 #include <memory>
 #include <vector>
 
 namespace vellumry {
 
-/// Histories of other programs without a disk. Changed only between readings.
+/// Histories of other programs without a disk. Changed only between readings and from `onFound`.
 class FakePeerHistories : public PeerHistories {
 public:
     struct Contents {
@@ -19,6 +20,8 @@ public:
     };
     std::vector<PeerHistory> found;
     QHash<QString, std::shared_ptr<Contents>> contents;
+    /// Called on the reading thread when what is there has been read, before that is delivered.
+    std::function<void()> onFound = [] {};
 
     /// A history that is whole.
     Contents& add(const QString& identifier, std::vector<PeerClip> clips, Date newest) {
@@ -28,7 +31,11 @@ public:
         contents.insert(identifier, added);
         return *added;
     }
-    [[nodiscard]] std::vector<PeerHistory> find() override { return found; }
+    [[nodiscard]] std::vector<PeerHistory> find() override {
+        std::vector<PeerHistory> read = found;
+        onFound();
+        return read;
+    }
     [[nodiscard]] std::unique_ptr<PeerReading> open(const QString& identifier) override {
         const auto of = contents.value(identifier);
         return of ? std::make_unique<Reading>(of) : nullptr;

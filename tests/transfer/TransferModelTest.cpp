@@ -5,6 +5,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QDir>
+#include <QSemaphore>
 
 namespace vellumry {
 namespace {
@@ -66,6 +67,23 @@ TEST_F(TransferModelTest, ContentsAreWholeSentencesWhateverTheState) {
     EXPECT_EQ(contents(State::damaged, 4, 0), QStringLiteral("Damaged. What can be read: 4 items"));
     EXPECT_EQ(contents(State::damaged, 0, 0), QStringLiteral("Damaged: nothing in it can be read"));
     EXPECT_EQ(contents(State::locked, 0, 0), QStringLiteral("Encrypted: nothing in it can be read"));
+}
+
+TEST_F(TransferModelTest, WhatComesDuringASearchIsFoundByTheNext) {
+    QSemaphore isRead;
+    QSemaphore goOn;
+    peers.onFound = [&isRead, &goOn] {
+        isRead.release();
+        goOn.acquire();
+    };
+    model.look();
+    isRead.acquire();
+    peers.add(QStringLiteral("peer"), {entry("a")}, now - 10);
+    model.look();
+    goOn.release(2);
+    settle();
+    EXPECT_FALSE(model.isLooking());
+    EXPECT_EQ(model.historyCount(), 1);
 }
 
 TEST_F(TransferModelTest, OneThingAtATime) {
