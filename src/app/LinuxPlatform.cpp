@@ -124,7 +124,8 @@ std::optional<Reason> addX11Display(Platform& platform, std::shared_ptr<XlibConn
     platform.pasteTarget = std::move(target);
     platform.pasteKeys = std::make_unique<X11PasteKeys>(std::move(pasteKeys));
     platform.idleSeconds = [idle = std::make_shared<X11IdleTime>(connection)] { return idle->seconds(); };
-    platform.panelSurface = std::make_unique<X11PanelSurface>(connection, focus);
+    platform.panelSurface = std::make_unique<X11PanelSurface>(
+        connection, focus, platform.isWaylandSession ? std::make_unique<WindowManagerFence>(connection) : nullptr);
     platform.drags = std::make_unique<X11DragSource>();
     platform.statusItem = sessionTray(std::make_unique<X11ClassicIcon>(connection, &trayMark));
     return std::nullopt;

@@ -8,7 +8,7 @@ import sys
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
-from session import PROGRAM, Window, copy, picture, press, search_field_has_focus, told, type_text  # noqa: E402
+from session import PROGRAM, Window, copy, picture, press, search_field_has_focus, shown_query, told, type_text  # noqa: E402
 
 import desktop  # noqa: E402
 from desktop import Vellumry, run, text_of, wait_for_clip, wait_until  # noqa: E402
@@ -41,8 +41,28 @@ def test_x11_programs():
         press("end")
         open_panel()
         picture("panel")
+        for _ in range(20):
+            type_text("q")
+            wait_until(lambda: shown_query() == "q", "what was typed in the search field")
+            press("escape", "escape")
+            wait_until(lambda: window.state["active"], "the keyboard back in the window")
+            open_panel()
         press("escape")
         wait_until(lambda: window.state["active"], "the keyboard back in the window")
+
+
+def test_panel_over_a_wayland_window():
+    """A Wayland window gives the keyboard to the panel, and has it back when the panel is gone."""
+    with Vellumry(), Window() as window:
+        for _ in range(5):
+            open_panel()
+            wait_until(lambda: not window.state["active"], "the panel to have the keyboard alone")
+            type_text("q")
+            wait_until(lambda: shown_query() == "q", "what was typed in the search field")
+            press("escape", "escape")
+            wait_until(lambda: window.state["active"], "the keyboard back in the window")
+        type_text("typed behind it")
+        window.wait_text("typed behind it")
 
 
 def test_wayland_copies():

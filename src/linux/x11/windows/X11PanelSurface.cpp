@@ -36,9 +36,11 @@ void settleQt() {
 
 } // namespace
 
-X11PanelSurface::X11PanelSurface(std::shared_ptr<XlibConnection> connection, std::shared_ptr<X11Focus> focus)
+X11PanelSurface::X11PanelSurface(std::shared_ptr<XlibConnection> connection, std::shared_ptr<X11Focus> focus,
+                                 std::unique_ptr<WindowManagerFence> fence)
     : m_connection(std::move(connection))
     , m_focus(std::move(focus))
+    , m_fence(std::move(fence))
     , m_screens(m_connection) {
     connect(m_connection.get(), &XlibConnection::eventArrived, this, &X11PanelSurface::handleEvent);
     followCompositor();
@@ -97,15 +99,30 @@ void X11PanelSurface::present(QWindow* window, std::optional<QRect> frame) {
     }
     m_presented = window;
     m_presentedID = id;
+    if (m_fence)
+        m_fence->await([this] { takeKeyboard(); });
+    else
+        takeKeyboard();
+}
+
+void X11PanelSurface::takeKeyboard() {
     XErrorTrap trap(m_connection->display());
-    XSetInputFocus(m_connection->display(), id, RevertToParent, CurrentTime);
+    XSetInputFocus(m_connection->display(), m_presentedID, RevertToParent, CurrentTime);
 }
 
 void X11PanelSurface::dismiss(QWindow* window) {
     if (window == m_presented) {
+        if (m_fence)
+            m_fence->abandon();
         m_presented = nullptr;
         m_connection->ignore(m_presentedID, FocusChangeMask);
         listenForClicks(false);
+        // A Wayland window had the keyboard, then: giving it to the window manager's own X11 window would leave that
+        // one without it. The window manager finds the next window itself when ours is gone.
+        if (m_fence && !m_focus->isProgramRemembered()) {
+            window->hide();
+            settleQt();
+        }
         m_focus->giveBack(m_presentedID, m_clickTime);
         m_presentedID = 0;
     }

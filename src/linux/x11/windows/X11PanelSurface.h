@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "linux/x11/windows/WindowManagerFence.h"
 #include "linux/x11/windows/X11Focus.h"
 #include "linux/x11/windows/X11Screens.h"
 #include "platform/display/PanelSurface.h"
@@ -18,8 +19,10 @@ namespace vellumry {
 class X11PanelSurface : public QObject, public PanelSurface {
     Q_OBJECT
 public:
-    /// `focus` is shared with the paste target, which waits for the keyboard's return.
-    X11PanelSurface(std::shared_ptr<XlibConnection> connection, std::shared_ptr<X11Focus> focus);
+    /// `focus` is shared with the paste target, which waits for the keyboard's return. With a `fence` a panel takes the
+    /// keyboard behind it.
+    X11PanelSurface(std::shared_ptr<XlibConnection> connection, std::shared_ptr<X11Focus> focus,
+                    std::unique_ptr<WindowManagerFence> fence = nullptr);
 
     void adopt(QWindow* window) override;
     void present(QWindow* window, std::optional<QRect> frame) override;
@@ -37,12 +40,14 @@ private:
     [[nodiscard]] bool isOverOwnWindow() const;
     void followCompositor();
     void listenForClicks(bool isListening);
+    void takeKeyboard();
     void handleEvent(XEvent* event);
     void handleClick(int button, unsigned long time);
     void loseFocus();
 
     std::shared_ptr<XlibConnection> m_connection;
     std::shared_ptr<X11Focus> m_focus;
+    std::unique_ptr<WindowManagerFence> m_fence;
     X11Screens m_screens;
     /// The panel that has or wants the keyboard.
     QPointer<QWindow> m_presented;

@@ -12,7 +12,11 @@
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>
 
+#include <X11/Xlib.h>
+
 namespace vellumry {
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -62,6 +66,47 @@ protected:
     std::vector<QWindow*> lost;
 };
 
+/// What a window manager does about the selection that names it; it answers when the test says.
+class FakeManager {
+public:
+    explicit FakeManager(const char* selection) { m_client.own(selection); }
+
+    /// Waits for a question.
+    void takeQuestion() {
+        XIfEvent(
+            m_client.display(), &m_question,
+            [](Display*, XEvent* event, XPointer) -> Bool { return event->type == SelectionRequest; }, nullptr);
+    }
+    /// Answers the question that was taken last.
+    void answer() {
+        XEvent event{};
+        event.xselection.type = SelectionNotify;
+        event.xselection.requestor = m_question.xselectionrequest.requestor;
+        event.xselection.selection = m_question.xselectionrequest.selection;
+        event.xselection.target = m_question.xselectionrequest.target;
+        event.xselection.property = m_question.xselectionrequest.property;
+        XSendEvent(m_client.display(), event.xselection.requestor, False, NoEventMask, &event);
+        XSync(m_client.display(), False);
+    }
+
+private:
+    XClient m_client;
+    XEvent m_question{};
+};
+
+class FencedPanelTest : public X11PanelSurfaceTest {
+protected:
+    void SetUp() override {
+        X11PanelSurfaceTest::SetUp();
+        fenced.adopt(&panel);
+    }
+    void TearDown() override { fenced.dismiss(&panel); }
+
+    FakeManager manager{"VELLUMRY_TEST_MANAGER"};
+    X11PanelSurface fenced{connection, focus,
+                           std::make_unique<WindowManagerFence>(connection, "VELLUMRY_TEST_MANAGER", 1h)};
+};
+
 } // namespace
 
 TEST_F(X11PanelSurfaceTest, ThePanelTakesTypingAtOnce) {
@@ -72,6 +117,78 @@ TEST_F(X11PanelSurfaceTest, ThePanelTakesTypingAtOnce) {
     EXPECT_TRUE(eventually([&] { return panel.typed == u"a"; }));
     EXPECT_TRUE(target.takeKeys().empty());
     EXPECT_TRUE(lost.empty());
+}
+
+TEST_F(FencedPanelTest, TheKeyboardIsTakenOnceTheWindowManagerKnowsThePanel) {
+    fenced.present(&panel, frame);
+    manager.takeQuestion();
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_TRUE(target.hasFocus());
+    manager.answer();
+    EXPECT_TRUE(eventually([&] { return XWindowProperties::focusWindow(*connection) == panel.winId(); }));
+    client.chord({KEY_A});
+    EXPECT_TRUE(eventually([&] { return panel.typed == u"a"; }));
+}
+
+TEST_F(FencedPanelTest, APanelThatIsGoneBeforeTheAnswerTakesNothing) {
+    fenced.present(&panel, frame);
+    manager.takeQuestion();
+    fenced.dismiss(&panel);
+    manager.answer();
+    client.chord({KEY_B});
+    EXPECT_EQ(keysOfTarget(2), 2U);
+    EXPECT_TRUE(target.hasFocus());
+}
+
+TEST_F(FencedPanelTest, AnAnswerToAnEarlierQuestionDoesNotCount) {
+    fenced.present(&panel, frame);
+    manager.takeQuestion();
+    fenced.dismiss(&panel);
+    fenced.present(&panel, frame);
+    manager.answer();
+    client.chord({KEY_B});
+    EXPECT_EQ(keysOfTarget(2), 2U);
+    EXPECT_TRUE(target.hasFocus());
+    manager.takeQuestion();
+    manager.answer();
+    EXPECT_TRUE(eventually([&] { return XWindowProperties::focusWindow(*connection) == panel.winId(); }));
+}
+
+TEST_F(FencedPanelTest, AWindowOfTheManagersOwnIsNotGivenTheKeyboard) {
+    const auto own = XCreateWindow(client.display(), DefaultRootWindow(client.display()), -9, -9, 1, 1, 0, 0, InputOnly,
+                                   nullptr, 0, nullptr);
+    XSetWindowAttributes attributes{};
+    attributes.override_redirect = True;
+    XChangeWindowAttributes(client.display(), own, CWOverrideRedirect, &attributes);
+    XMapWindow(client.display(), own);
+    XSetInputFocus(client.display(), own, RevertToNone, CurrentTime);
+    XSync(client.display(), False);
+    fenced.present(&panel, frame);
+    manager.takeQuestion();
+    manager.answer();
+    ASSERT_TRUE(eventually([&] { return XWindowProperties::focusWindow(*connection) == panel.winId(); }));
+    fenced.dismiss(&panel);
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_NE(XWindowProperties::focusWindow(*connection), own);
+}
+
+TEST_F(X11PanelSurfaceTest, AWindowManagerThatDoesNotAnswerIsNotWaitedForLong) {
+    const FakeManager manager("VELLUMRY_TEST_SILENT");
+    X11PanelSurface fenced(connection, focus,
+                           std::make_unique<WindowManagerFence>(connection, "VELLUMRY_TEST_SILENT", 10ms));
+    fenced.adopt(&panel);
+    fenced.present(&panel, frame);
+    EXPECT_TRUE(eventually([&] { return XWindowProperties::focusWindow(*connection) == panel.winId(); }));
+    fenced.dismiss(&panel);
+}
+
+TEST_F(X11PanelSurfaceTest, WithoutAWindowManagerThePanelWaitsForNoAnswer) {
+    X11PanelSurface fenced(connection, focus,
+                           std::make_unique<WindowManagerFence>(connection, "VELLUMRY_TEST_NONE", 1h));
+    fenced.adopt(&panel);
+    fenced.present(&panel, frame);
+    EXPECT_TRUE(eventually([&] { return XWindowProperties::focusWindow(*connection) == panel.winId(); }));
+    fenced.dismiss(&panel);
 }
 
 TEST_F(X11PanelSurfaceTest, TheKeyboardGoesBackToTheExactWindow) {
