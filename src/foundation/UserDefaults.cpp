@@ -136,7 +136,8 @@ bool write(const QString& path, const QByteArray& content) {
     if (!file.open(QIODevice::WriteOnly))
         return false;
     file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-    if (file.write(content) != content.size() || !file.commit())
+    // commit() of Qt 6.4 takes the place of the old file all the same when the last bytes found no room on the disk.
+    if (file.write(content) != content.size() || !file.flush() || fsync(file.handle()) != 0 || !file.commit())
         return false;
     makeFolderDurable(folder);
     return true;
@@ -155,12 +156,18 @@ struct UserDefaults::Private {
     FileState state;
     bool mayHaveChangedUnseen = false;
     bool isUnreadable = false;
+    bool isUnwritable = false;
     QSet<QString> refused; ///< keys whose values could not be used, of this state of the file
 
     void noteUnreadable() {
         if (!std::exchange(isUnreadable, true))
             qCWarning(logging::foundation) << "the settings cannot be read: no regular file of at most 1 MiB, or no "
                                               "permission";
+    }
+
+    void noteUnwritable() {
+        if (!std::exchange(isUnwritable, true))
+            qCWarning(logging::foundation) << "the settings cannot be written: what was changed counts until the end";
     }
 
     /// Brings `file` and `stored` to what the disk holds now. False when the file is there and cannot be read.
@@ -204,8 +211,11 @@ struct UserDefaults::Private {
             else
                 changed.remove(entry.key());
         }
-        if (!write(path, changed.toBytes()))
+        if (!write(path, changed.toBytes())) {
+            noteUnwritable();
             return;
+        }
+        isUnwritable = false;
         unsaved.clear();
         state = {};
         mayHaveChangedUnseen = true;

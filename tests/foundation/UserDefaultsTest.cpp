@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "foundation/UserDefaults.h"
 
+#include "support/FileSizeLimit.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -196,6 +198,21 @@ TEST_F(UserDefaultsFile, AFileThatCannotBeWrittenKeepsItsContentAndTheValueHolds
     defaults.removeObject(key);
     EXPECT_EQ(defaults.integer(key), 1);
     EXPECT_TRUE(QFileInfo(blocked).isDir());
+}
+
+TEST_F(UserDefaultsFile, AFullDiskLeavesTheFileAsItWas) {
+    const QByteArray before = "[General]\nkey=1\n";
+    writeByHand(before);
+    UserDefaults defaults(path());
+    {
+        const FileSizeLimit full(0);
+        defaults.setObject(key, 2);
+        EXPECT_EQ(defaults.integer(key), 2) << "until the end of the run";
+        EXPECT_EQ(content(), before);
+    }
+    defaults.setObject(QStringLiteral("other"), 3);
+    EXPECT_EQ(UserDefaults(path()).integer(key), 2) << "with the next change that finds room";
+    EXPECT_EQ(QDir(QFileInfo(path()).path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "nothing lies beside it";
 }
 
 TEST_F(UserDefaultsFile, WhatCouldNotBeWrittenGoesOutWithTheNextChange) {

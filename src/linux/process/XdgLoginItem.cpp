@@ -115,7 +115,8 @@ bool XdgLoginItem::write(const QByteArray& text) const {
     if (!QDir().exists(m_places.userFolder) && !QDir().mkpath(m_places.userFolder))
         return false;
     QSaveFile entry(file());
-    if (entry.open(QIODevice::WriteOnly) && entry.write(text) == text.size() && entry.commit())
+    // Without flush() an entry that found no room on the disk would be taken for a whole one.
+    if (entry.open(QIODevice::WriteOnly) && entry.write(text) == text.size() && entry.flush() && entry.commit())
         return true;
     qCWarning(logging::process).noquote() << "the login item cannot be written:" << entry.errorString();
     return false;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/process/XdgLoginItem.h"
 
+#include "support/FileSizeLimit.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -108,6 +110,16 @@ TEST_F(XdgLoginItemTest, AFolderThatCannotBeMadeIsARefusal) {
     XdgLoginItem item(places(QStringLiteral("/usr/bin/vellumry")));
     EXPECT_FALSE(item.setEnabled(true));
     EXPECT_FALSE(item.isEnabled());
+}
+
+TEST_F(XdgLoginItemTest, AFullDiskIsARefusalAndLeavesNoHalfEntry) {
+    XdgLoginItem item(places(QStringLiteral("/usr/bin/vellumry")));
+    {
+        const FileSizeLimit full(0);
+        EXPECT_FALSE(item.setEnabled(true));
+    }
+    EXPECT_FALSE(QFile::exists(entry));
+    EXPECT_TRUE(item.setEnabled(true));
 }
 
 TEST_F(XdgLoginItemTest, AnEntryFollowsAnAppImageThatWasMoved) {

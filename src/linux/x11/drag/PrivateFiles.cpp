@@ -18,7 +18,8 @@ std::unique_ptr<PrivateFiles> PrivateFiles::write(const std::vector<DragSource::
         for (int number = 2; QFile::exists(path); ++number)
             path = written->m_folder.filePath(QString::number(number) + u' ' + file.name);
         QFile target(path);
-        if (!target.open(QIODevice::WriteOnly | QIODevice::NewOnly) || target.write(file.bytes) != file.bytes.size())
+        if (!target.open(QIODevice::WriteOnly | QIODevice::NewOnly) || target.write(file.bytes) != file.bytes.size() ||
+            !target.flush())
             return nullptr;
         written->m_paths.append(path);
     }

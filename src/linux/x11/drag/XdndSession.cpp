@@ -309,9 +309,14 @@ bool XdndSession::handleDirectSave(const xcb_selection_request_event_t& request)
     QFile file(path);
     const bool isTarget = m_connection->isSameClient(request.requestor, m_target.receiver) ||
                           m_connection->isSameClient(request.requestor, m_target.window);
-    const bool isSaved = m_isDecided && isTarget && !path.isEmpty() &&
-                         file.open(QIODevice::WriteOnly | QIODevice::NewOnly) &&
-                         file.write(m_saved->bytes) == m_saved->bytes.size();
+    const bool isMade =
+        m_isDecided && isTarget && !path.isEmpty() && file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    const bool isSaved = isMade && file.write(m_saved->bytes) == m_saved->bytes.size() && file.flush();
+    // A part of a picture is worse than none.
+    if (isMade && !isSaved) {
+        file.close();
+        QFile::remove(path);
+    }
     m_connection->setProperty(request.requestor, request.property, XCB_ATOM_STRING, 8, isSaved ? "S" : "F");
     m_connection->notifyRequestor(request, request.property);
     return true;

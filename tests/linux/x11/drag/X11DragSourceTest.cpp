@@ -5,6 +5,7 @@
 #include "linux/x11/drag/DropTarget.h"
 #include "linux/x11/selection/X11PasteboardWorld.h"
 #include "support/Eventually.h"
+#include "support/FileSizeLimit.h"
 
 #include <QDir>
 #include <QFile>
@@ -201,6 +202,26 @@ TEST_F(X11DragSourceTest, AFileThatCannotBeSavedIsToldSo) {
     left->askToSave("file:///no/such/folder/file.png");
     ASSERT_TRUE(until([&] { return !left->saveAnswer().isEmpty(); }));
     EXPECT_EQ(left->saveAnswer(), "F");
+}
+
+TEST_F(X11DragSourceTest, OnAFullDiskNothingIsSavedNorLeftInPart) {
+    ASSERT_TRUE(begin(picture()));
+    pointAt(50, 50);
+    ASSERT_TRUE(until([&] { return left->hears("XdndPosition"); }));
+    source->release();
+    ASSERT_TRUE(until([&] { return left->hears("XdndDrop"); }));
+    const FileSizeLimit full(0);
+    const QString saved = runtime.filePath(QStringLiteral("saved here.png"));
+    left->askToSave(QUrl::fromLocalFile(saved).toEncoded());
+    ASSERT_TRUE(until([&] { return !left->saveAnswer().isEmpty(); }));
+    EXPECT_EQ(left->saveAnswer(), "F");
+    EXPECT_FALSE(QFile::exists(saved));
+}
+
+TEST_F(X11DragSourceTest, WithoutRoomForItsFileADragDoesNotBegin) {
+    const FileSizeLimit full(0);
+    EXPECT_FALSE(begin(picture())) << "a file in part would be dropped";
+    EXPECT_TRUE(folders().isEmpty());
 }
 
 TEST_F(X11DragSourceTest, NothingIsSavedBeforeTheDrop) {
