@@ -38,6 +38,10 @@ TextReading::TextReading(Platform& platform, ClipStore& store)
                  localised("Vellumry can't open that file. Allow it in Privacy & Security → Files and Folders"),
                  ToastMessage::Tone::warning});
     };
+    m_queue->onReaderMissing = [this] {
+        onToast({QStringLiteral("exclamationmark.triangle.fill"),
+                 localised("Install Tesseract and its data for your language."), ToastMessage::Tone::warning});
+    };
 }
 
 void TextReading::take(const ClipRef& clip) {

@@ -5,8 +5,8 @@ import os
 import signal
 import subprocess
 
-from desktop import (Vellumry, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests, picture, run, same, type_text,
-                     unsealed, wait_for_clip, wait_panel_closed, wait_until)
+from desktop import (Vellumry, accessible, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests, picture, run, same,
+                     type_text, unsealed, wait_for_clip, wait_panel_closed, wait_until)
 
 ENOUGH = 60.0
 
@@ -77,6 +77,30 @@ def a_picture_on_the_desktop_is_read():
     with Vellumry():
         copy_bytes(b"file://" + path.encode() + b"\r\n", "text/uri-list")
         same(read_text("permit")["kind"], 4, "the kind")
+
+
+def a_picture_file_is_read_when_the_user_asks():
+    """One that was not there when it was copied: the button says that it cannot be opened, and reads it once it is there."""
+    path = os.path.join(os.environ["HOME"], "later.png")
+
+    def ask():
+        button = wait_until(lambda: accessible("vellumry", "push button", "^Read text in this image$"), "the offer")
+        button.queryAction().doAction(0)
+
+    with Vellumry():
+        copy_bytes(b"file://" + path.encode() + b"\r\n", "text/uri-list")
+        wait_for_clip(lambda row: row["kind"] == 4, "the file")
+        open_panel()
+        ask()
+        wait_until(lambda: accessible("vellumry", "notification", "^Vellumry can.t open that file"), "the message")
+        with open(path, "wb") as file:
+            file.write(picture_of("Meanwhile written"))
+        ask()
+        read_text("meanwhile")
+        wait_until(lambda: not accessible("vellumry", "push button", "^Read text in this image$"), "the offer to go")
+        picture("read-on-request")
+        key("Escape")
+        wait_panel_closed()
 
 
 def a_reader_that_dies_costs_one_picture():

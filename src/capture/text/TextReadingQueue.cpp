@@ -39,7 +39,10 @@ TextReadingQueue::TextReadingQueue(ClipStore& store, Seams seams, QObject* paren
     , m_store(&store)
     , m_seams(std::move(seams)) {}
 
+// What nothing here can read does not wait: it is found again at the next launch.
 void TextReadingQueue::enqueue(const std::vector<QUuid>& ids) {
+    if (!m_seams.isAvailable())
+        return;
     for (const QUuid& id : ids) {
         if (m_current != id && !contains(m_waitingFast, id))
             m_waitingFast.push_back(id);
@@ -49,6 +52,8 @@ void TextReadingQueue::enqueue(const std::vector<QUuid>& ids) {
 }
 
 void TextReadingQueue::enqueueBacklog() {
+    if (!m_seams.isAvailable())
+        return;
     const std::vector<QUuid> rough = m_store->clipsWithRoughText();
     for (const QUuid& id : rough) {
         if (m_current != id)
@@ -58,17 +63,21 @@ void TextReadingQueue::enqueueBacklog() {
 }
 
 void TextReadingQueue::readFile(const QUuid& id) {
+    if (!m_seams.isAvailable()) {
+        onReaderMissing();
+        return;
+    }
     m_askedFiles.insert(id);
     enqueue({id});
 }
 
 bool TextReadingQueue::isReading(const QUuid& id) const {
-    return m_current == id || contains(m_waitingFast, id) || contains(m_waitingAccurate, id);
+    return m_current == id || contains(m_waitingFast, id) ||
+           (m_seams.isAccurateUsable() && contains(m_waitingAccurate, id));
 }
 
 void TextReadingQueue::wake() {
-    if (m_isWorking || !m_seams.isAvailable() ||
-        (m_waitingFast.empty() && (m_waitingAccurate.empty() || !m_seams.isAccurateUsable())))
+    if (m_isWorking || (m_waitingFast.empty() && (m_waitingAccurate.empty() || !m_seams.isAccurateUsable())))
         return;
     m_isWorking = true;
     work();
@@ -141,6 +150,8 @@ QCoro::Task<void> TextReadingQueue::readClip(Job job) {
     }
     auto reading = readPictures(job, std::move(found.pictures));
     co_await reading;
+    if (self && isAsked && !m_seams.isAvailable())
+        onReaderMissing();
 }
 
 QCoro::Task<PictureFiles> TextReadingQueue::pictures(ClipRef clip, bool isAsked) {

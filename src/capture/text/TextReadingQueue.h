@@ -47,7 +47,7 @@ public:
     /// The user asks for this clip of files to be read, wherever the files lie.
     void readFile(const QUuid& id);
 
-    /// True while the clip is being read or waits.
+    /// True while the clip is being read or waits for what can read it.
     [[nodiscard]] bool isReading(const QUuid& id) const;
     [[nodiscard]] std::optional<QUuid> current() const { return m_current; }
     [[nodiscard]] const std::vector<QUuid>& waitingFast() const { return m_waitingFast; }
@@ -55,6 +55,8 @@ public:
 
     /// No file of a clip that the user asked for could be read.
     std::function<void(const QUuid& id)> onFileUnreadable = [](const QUuid&) {};
+    /// The user asked for a clip, and nothing here reads text.
+    std::function<void()> onReaderMissing = [] {};
 
 Q_SIGNALS:
     /// `isReading` may answer differently for some clip.

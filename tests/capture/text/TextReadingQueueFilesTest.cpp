@@ -61,5 +61,25 @@ TEST_F(TextReadingQueueFiles, AFileThatCannotBeReadIsToldToWhoAskedForIt) {
     EXPECT_EQ(textOf(id), std::nullopt);
 }
 
+TEST_F(TextReadingQueueFiles, WithoutAnEngineTheUserWhoAsksIsTold) {
+    int told = 0;
+    queue->onReaderMissing = [&told] { ++told; };
+    const QUuid id = add(drafts::files({writeFile(QStringLiteral("a.png"), "a")}));
+    const QUuid other = add(drafts::files({writeFile(QStringLiteral("b.png"), "b")}));
+    // That there is none is known when the first picture comes back.
+    reading.isHeld = true;
+    reading.answers["a"] = std::nullopt;
+    queue->readFile(id);
+    runUntil([this] { return !reading.reads.empty(); });
+    isAvailable = false;
+    reading.letGo();
+    EXPECT_EQ(told, 1);
+    queue->readFile(other);
+    EXPECT_EQ(told, 2);
+    EXPECT_FALSE(queue->isReading(id));
+    EXPECT_FALSE(queue->isReading(other));
+    EXPECT_EQ(reading.reads.size(), 1U);
+}
+
 } // namespace
 } // namespace vellumry

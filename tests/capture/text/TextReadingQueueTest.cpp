@@ -199,6 +199,19 @@ TEST_F(TextReadingQueueTest, WithoutAnEngineNoFurtherPictureIsOpened) {
     queue->enqueue({second});
     EXPECT_EQ(reading.reads.size(), 1u);
     EXPECT_EQ(textOf(second), std::nullopt);
+    EXPECT_FALSE(queue->isReading(second)) << "its preview would say so for ever";
+    queue->enqueueBacklog();
+    EXPECT_FALSE(queue->isReading(second));
+}
+
+TEST_F(TextReadingQueueTest, WhatWaitsForReadingsThatKeepFailingIsNotSaidToBeRead) {
+    const QUuid id = addImage("one");
+    isAccurateUsable = false;
+    reading.answers["one"] = std::nullopt;
+    queue->enqueue({id});
+    finish();
+    EXPECT_EQ(queue->waitingAccurate(), std::vector{id});
+    EXPECT_FALSE(queue->isReading(id));
 }
 
 } // namespace
