@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/peers/CopyQHistory.h"
 
+#include "linux/peers/Inflate.h"
 #include "linux/peers/PeerItems.h"
 #include "linux/peers/StreamReader.h"
 
 #include <QDir>
-#include <QtEndian>
+#include <algorithm>
 #include <array>
 #include <limits>
 
@@ -44,14 +45,12 @@ std::optional<QString> typeOf(const QString& coded) {
     return beginnings()[index] + coded.mid(1);
 }
 
-/// zlib bytes behind their length; nothing for what is none, or would be too large.
-std::optional<QByteArray> inflated(const QByteArray& bytes) {
-    if (bytes.isEmpty())
-        return bytes;
-    if (bytes.size() < 4 || qFromBigEndian<quint32>(bytes.constData()) > peeritems::mostBytes)
-        return std::nullopt;
-    QByteArray result = qUncompress(bytes);
-    return result.isEmpty() ? std::nullopt : std::optional(std::move(result));
+/// zlib bytes behind their length, which is not believed. Of nothing there is the length alone (qCompress).
+std::expected<QByteArray, InflateFailure> unpacked(const QByteArray& bytes) {
+    constexpr qsizetype lengthBytes = 4;
+    if (bytes.isEmpty() || bytes.size() == lengthBytes)
+        return QByteArray();
+    return inflated(QByteArrayView(bytes).sliced(std::min(lengthBytes, bytes.size())), peeritems::mostBytes);
 }
 
 /// Tabs that a plugin keeps begin with its name: encrypted ones, and those that are folders.
@@ -147,10 +146,11 @@ std::optional<PeerClip> CopyQHistory::readItem() {
         isPinned = isPinned || *type == ownTypes + QStringLiteral("item-pinned");
         if (bytes->isTooLarge || type->startsWith(ownTypes))
             continue;
-        const auto plain = *flag ? inflated(bytes->bytes) : std::optional(bytes->bytes);
-        if (!plain)
+        auto plain = *flag ? unpacked(bytes->bytes) : std::expected<QByteArray, InflateFailure>(bytes->bytes);
+        if (!plain && plain.error() == InflateFailure::damaged)
             return std::nullopt;
-        formats.emplace_back(*type, *plain);
+        if (plain)
+            formats.emplace_back(*type, *std::move(plain));
     }
     PeerClip clip = isLocked ? PeerClip() : peeritems::ofFormats(formats);
     clip.isLocked = clip.isLocked || isLocked;

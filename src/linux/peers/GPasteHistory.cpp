@@ -42,24 +42,24 @@ std::optional<PeerClip> GPasteHistory::next() {
         return std::nullopt;
     }
     const qsizetype tagEnd = m_bytes.indexOf('>', start);
-    const qsizetype from = tagEnd < 0 ? -1 : m_bytes.indexOf(sectionStart, tagEnd);
-    const qsizetype to = from < 0 ? -1 : m_bytes.indexOf(sectionEnd, from);
     // Its text cannot hold this, as ">" is escaped there.
     const qsizetype itemEnd = tagEnd < 0 ? -1 : m_bytes.indexOf("</item>", tagEnd);
-    if (itemEnd >= 0 && (from < 0 || from > itemEnd)) {
-        m_position = itemEnd;
-        return PeerClip();
-    }
-    if (to < 0 || itemEnd < 0) {
+    // Looked for within the item: to the end of the file each time, a long one would take hours.
+    const QByteArrayView item = itemEnd < 0 ? QByteArrayView() : QByteArrayView(m_bytes).sliced(tagEnd, itemEnd - tagEnd);
+    const qsizetype from = item.indexOf(sectionStart);
+    const qsizetype to = from < 0 ? -1 : item.indexOf(sectionEnd, from);
+    if (itemEnd < 0 || (from >= 0 && to < 0)) {
         m_isDamaged = true;
         m_position = m_bytes.size();
         return std::nullopt;
     }
+    m_position = itemEnd;
+    if (from < 0)
+        return PeerClip();
     const QByteArray tag = m_bytes.sliced(start, tagEnd - start);
     const qsizetype valueStart = from + sectionStart.size();
-    const QByteArray value = unescaped(m_bytes.sliced(valueStart, to - valueStart));
     // Further values of the same item are other forms of it.
-    m_position = itemEnd;
+    const QByteArray value = unescaped(item.sliced(valueStart, to - valueStart).toByteArray());
     PeerClip clip;
     const QByteArray kind = attribute(tag, "kind");
     clip.isLocked = kind == "Password";

@@ -46,6 +46,13 @@ bool copyFile(ForeignFile& from, const QString& to) {
     return file.write(bytes) == bytes.size() && file.flush();
 }
 
+/// Nothing there is worked out while it is read: a column that is could hold more than all memory.
+bool hasPlainColumns(sqlite3* database) {
+    const auto columns = prepared(database, "SELECT 1 FROM pragma_table_xinfo('main') WHERE hidden <> 0 "
+                                            "UNION ALL SELECT 1 FROM pragma_table_xinfo('aux') WHERE hidden <> 0");
+    return columns && sqlite3_step(columns.get()) == SQLITE_DONE;
+}
+
 PeerHistory::State stateOf(ForeignFile::Failure failure) {
     return failure == ForeignFile::Failure::tooLarge ? PeerHistory::State::tooLarge : PeerHistory::State::unreadable;
 }
@@ -83,6 +90,9 @@ bool KlipperDatabaseHistory::readEntries(const QString& path) {
     sqlite3_db_config(opened, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
     sqlite3_db_config(opened, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
     sqlite3_db_config(opened, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_limit(opened, SQLITE_LIMIT_LENGTH, static_cast<int>(peeritems::mostBytes));
+    if (!hasPlainColumns(opened))
+        return false;
     auto rows = prepared(opened, "SELECT uuid, text, coalesce(last_used_time, added_time), starred FROM main "
                                  "ORDER BY last_used_time DESC, added_time DESC");
     if (!rows) // without the column that came later

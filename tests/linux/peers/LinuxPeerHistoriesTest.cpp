@@ -232,6 +232,24 @@ TEST_F(LinuxPeerHistoriesTest, AbsurdNumbersInATabAreNotBelieved) {
     }
 }
 
+TEST_F(LinuxPeerHistoriesTest, AFormThatWouldFillTheMemoryIsLeftOutAndTheRestOfItsTabIsRead) {
+    const QString tab = path("config/copyq/copyq_tab_JmNsaXBib2FyZA==.dat");
+    QFile::remove(path("config/copyq/copyq_tab_d29yaw==.dat"));
+    QByteArray bomb = qCompress(QByteArray((100 << 20) + 1, 'a'));
+    for (const QByteArray& said : {bomb.first(4), number(1)}) {
+        bomb.replace(0, 4, said);
+        write(tab, number(3) + copyQItem(QStringLiteral("4"), "before") + copyQItem(QStringLiteral("4"), bomb, true) +
+                       copyQItem(QStringLiteral("4"), "behind"));
+        EXPECT_EQ(texts(clips("copyq")), (QByteArrayList{"before", "(nothing)", "behind"}));
+        EXPECT_FALSE(wasDamaged);
+    }
+    write(tab, number(1) + copyQItem(QStringLiteral("4"), qCompress(QByteArray(100 << 20, 'a')), true));
+    EXPECT_EQ(textOf(clips("copyq").at(0)).size(), 100 << 20);
+    write(tab, number(1) + copyQItem(QStringLiteral("4"), qCompress(QByteArray()), true));
+    EXPECT_EQ(clips("copyq").size(), 1U);
+    EXPECT_FALSE(wasDamaged) << "nothing, packed";
+}
+
 TEST_F(LinuxPeerHistoriesTest, GPastesTextsArePutBackAsTheyWere) {
     const auto items = clips("gpaste");
     ASSERT_EQ(items.size(), 5U);
@@ -264,6 +282,18 @@ TEST_F(LinuxPeerHistoriesTest, GPastesFileMayHoldWhatNoXmlMay) {
         (void)clips("gpaste");
         EXPECT_TRUE(wasDamaged) << length;
     }
+}
+
+TEST_F(LinuxPeerHistoriesTest, AMillionEmptyItemsOfGPasteHoldNobodyUp) {
+    QByteArray items = "<history>";
+    constexpr int count = 500'000;
+    for (int i = 0; i < count; ++i)
+        items += "<item ></item>";
+    write(path("data/gpaste/history.xml"), items + "<item kind=\"Text\"><![CDATA[last]]></item></history>");
+    const Date began = currentDate();
+    EXPECT_EQ(textOf(clips("gpaste").back()), "last");
+    EXPECT_LT(currentDate() - began, 60) << "each would be looked for to the end of the file";
+    EXPECT_FALSE(wasDamaged);
 }
 
 TEST_F(LinuxPeerHistoriesTest, KlippersListIsReadWithItsPicture) {
@@ -323,6 +353,33 @@ TEST_F(LinuxPeerHistoriesTest, WhatKlipperHasOnlyInItsLogIsSeen) {
     EXPECT_EQ(textOf(clips("klipper").front()), "logged") << "without files its column counts";
     EXPECT_EQ(traces(folders.data), before) << "while Klipper has it open";
     sqlite3_close(database);
+}
+
+TEST_F(LinuxPeerHistoriesTest, AColumnThatIsWorkedOutIsNotBelieved) {
+    moveToPlasma6();
+    sqlite3* database = nullptr;
+    ASSERT_EQ(sqlite3_open(QFile::encodeName(folders.data + QStringLiteral("/klipper/history3.sqlite")).constData(),
+                           &database),
+              SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(database,
+                           "ALTER TABLE main RENAME COLUMN text TO plain;"
+                           "ALTER TABLE main ADD COLUMN text TEXT AS (hex(zeroblob(90000000)))",
+                           nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    sqlite3_close(database);
+    EXPECT_TRUE(clips("klipper").empty());
+    EXPECT_TRUE(wasDamaged);
+}
+
+/// What other programs keep in the open is copied for a moment, for the user alone.
+TEST(LinuxPeerHistoriesFolders, CopiesLieInMemoryWhereTheSessionHasAFolderThere) {
+    const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+    qputenv("XDG_RUNTIME_DIR", "/run/user/1");
+    EXPECT_EQ(LinuxPeerHistories::Folders::ofUser().scratch, QStringLiteral("/run/user/1"));
+    qunsetenv("XDG_RUNTIME_DIR");
+    EXPECT_EQ(LinuxPeerHistories::Folders::ofUser().scratch, QDir::tempPath());
+    if (!before.isNull())
+        qputenv("XDG_RUNTIME_DIR", before);
 }
 
 TEST_F(LinuxPeerHistoriesTest, ADatabaseThatIsNoneIsDamagedAndNoNameLeadsOutOfItsFolder) {
