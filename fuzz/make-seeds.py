@@ -7,6 +7,7 @@ import struct
 import zlib
 
 CORPUS = pathlib.Path(__file__).parent / "corpus"
+PEERS = pathlib.Path(__file__).parent.parent / "tests/linux/peers/fixtures"
 
 
 def write(target, name, data):
@@ -178,7 +179,29 @@ def texts():
         write("FuzzText", f"text{number}", sample.encode())
 
 
+def peers():
+    # The first byte chooses the program.
+    files = {
+        "copyq": b"c" + (PEERS / "config/copyq/copyq_tab_JmNsaXBib2FyZA==.dat").read_bytes(),
+        "gpaste": b"g" + (PEERS / "data/gpaste/history.xml").read_bytes(),
+        "klipper": b"k" + (PEERS / "data/klipper/history2.lst").read_bytes(),
+        "xfce": b"x" + (PEERS / "cache/xfce4/clipman/textsrc").read_bytes(),
+        "wayland": b"w" + (PEERS / "data/clipman.json").read_bytes(),
+    }
+
+    def counted(data):
+        return struct.pack(">I", len(data)) + data
+
+    packed = counted(struct.pack(">I", 8) + zlib.compress(b"squeezed"))
+    text = counted("text/plain".encode("utf-16-be"))
+    files["copyq-packed"] = b"c" + struct.pack(">II", 2, 1) + text + packed + struct.pack(">iI", -2, 1) + counted(b"\0004") + b"\1" + packed
+    for name, data in files.items():
+        write("FuzzPeers", name, data)
+    write("FuzzPeerDatabase", "klipper", (PEERS / "plasma6/klipper/history3.sqlite").read_bytes())
+
+
 property_lists()
+peers()
 rich_texts()
 web_pages()
 file_urls()
