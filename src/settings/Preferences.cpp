@@ -12,7 +12,8 @@ namespace {
 constexpr qint64 mostDays = 1'000'000;
 constexpr qint64 mostSeconds = 1'000'000'000;
 constexpr qint64 shortestSensitiveSeconds = 10;
-constexpr qint64 mostInMenu = 1000;
+/// More do not fit on a screen.
+constexpr qint64 mostInMenu = 100;
 /// More would not fit into the number of their bytes.
 constexpr qint64 mostMegabytes = std::numeric_limits<qint64>::max() >> 20;
 
@@ -115,8 +116,8 @@ qint64 Preferences::sensitiveSeconds() const {
                     m_defaults->integer(QStringLiteral("sensitiveSeconds"), -mostSeconds, mostSeconds));
 }
 
-qint64 Preferences::recentInMenu() const {
-    return m_defaults->integer(QStringLiteral("recentInMenu"), 0, mostInMenu);
+qint64 Preferences::recentInMenu(const UserDefaults& defaults) {
+    return defaults.integer(QStringLiteral("recentInMenu"), 0, mostInMenu);
 }
 
 QStringList Preferences::ignoredApps() const {

@@ -33,7 +33,7 @@ public:
     /// Seconds that a sensitive clip lives, at least 10.
     [[nodiscard]] qint64 sensitiveSeconds() const;
     /// How many clips the menu lists; 0 for none.
-    [[nodiscard]] qint64 recentInMenu() const;
+    [[nodiscard]] static qint64 recentInMenu(const UserDefaults& defaults);
     /// The applications whose copies are never saved; the password managers among them unless the user chose.
     [[nodiscard]] QStringList ignoredApps() const;
     [[nodiscard]] static const QStringList& defaultIgnoredApps();

@@ -13,7 +13,7 @@ SettingsValues SettingsValues::read(const Preferences& preferences) {
     values.pinnedShortcutsEnabled = defaults.boolean(QStringLiteral("pinnedShortcutsEnabled"));
     values.panelMoved = preferences.hasPanelPositions();
     values.appearance = preferences.appearance();
-    values.recentInMenu = preferences.recentInMenu();
+    values.recentInMenu = Preferences::recentInMenu(defaults);
     values.keepForDays = preferences.keepForDays();
     values.keepAtMost = preferences.keepAtMost();
     values.mediaLimitMB = preferences.mediaLimitMB();

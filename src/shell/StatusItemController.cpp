@@ -7,6 +7,7 @@
 #include "paste/PasteEngine.h"
 #include "paste/PasteStack.h"
 #include "platform/display/PasteTarget.h"
+#include "settings/Preferences.h"
 
 #include <QPointer>
 #include <QUrl>
@@ -15,9 +16,6 @@
 namespace vellumry {
 
 namespace {
-
-/// More do not fit on a screen.
-constexpr qint64 mostRecent = 100;
 
 /// `method` of the controller, if that is still there when an entry is chosen.
 template <typename... Arguments>
@@ -42,8 +40,7 @@ StatusMenuState StatusItemController::state() const {
     state.now = m_parts.clock();
     state.clipCount = static_cast<qsizetype>(m_parts.store.clips().size());
     state.pinned = m_parts.store.pinnedClips();
-    state.recent = m_parts.store.recentClips(m_parts.defaults.integer(QStringLiteral("recentInMenu"), 0, mostRecent),
-                                             state.pinned.empty());
+    state.recent = m_parts.store.recentClips(Preferences::recentInMenu(m_parts.defaults), state.pinned.empty());
     state.pausedUntil = m_parts.watcher.pausedUntil;
     state.ignoresNextCopy = m_parts.watcher.ignoreNextCopy;
     state.savesScreenshots = m_parts.defaults.boolean(QStringLiteral("saveNewScreenshots"));

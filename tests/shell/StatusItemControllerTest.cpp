@@ -89,6 +89,11 @@ TEST_F(StatusItemControllerTest, RecentClipsAreAsManyAsTheUserWants) {
     EXPECT_FALSE(has("first"));
     defaults->setObject(QStringLiteral("recentInMenu"), 0);
     EXPECT_FALSE(has("Recent"));
+    // More than a screen has room for counts as nothing said, here as in the settings window.
+    defaults->setObject(QStringLiteral("recentInMenu"), 101);
+    environment->settingsModel().refresh();
+    EXPECT_TRUE(has("first"));
+    EXPECT_EQ(environment->settingsModel().values().recentInMenu, 10);
 }
 
 TEST_F(StatusItemControllerTest, PinnedClipsAreNotAmongTheRecent) {
