@@ -41,7 +41,7 @@ FocusScope {
 
         FormSection {
             TryStage {
-                number: "1"
+                number: 1
                 name: Views.words("Copy this")
                 help: step.onboarding.sample
                 isDone: step.onboarding.copied
@@ -56,7 +56,7 @@ FocusScope {
                 }
             }
             TryStage {
-                number: "2"
+                number: 2
                 name: Views.words("Open Vellumry")
                 isDone: step.onboarding.panelOpened
 
@@ -107,7 +107,7 @@ FocusScope {
                 }
             }
             TryStage {
-                number: "3"
+                number: 3
                 name: Views.words("Press Return to paste here")
                 isDone: step.onboarding.pasted
 

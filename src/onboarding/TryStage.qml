@@ -7,7 +7,7 @@ import Vellumry.Views
 FormRow {
     id: stage
 
-    required property string number
+    required property int number
     required property string name
     required property bool isDone
 
@@ -21,6 +21,6 @@ FormRow {
 
     Binding on title {
         when: !stage.isDone
-        value: Views.words("%1. %2").arg(stage.number).arg(stage.name)
+        value: Views.words("%1. %2").arg(Views.number(stage.number)).arg(stage.name)
     }
 }

@@ -54,7 +54,12 @@ Row {
             Accessible.focusable: true
             Accessible.focused: activeFocus
             Accessible.onPressAction: tabs.chosen(page.index)
-            onIsCurrentChanged: Views.tellSelected(page)
+            // Where the page was changed from elsewhere, the keyboard stays on the name of the one that shows.
+            onIsCurrentChanged: {
+                if (isCurrent && Window.activeFocusItem && Window.activeFocusItem.parent === tabs)
+                    forceActiveFocus(Qt.OtherFocusReason);
+                Views.tellSelected(page);
+            }
             // Assistive technology may move the keyboard alone.
             onActiveFocusChanged: {
                 if (activeFocus && !isCurrent)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/Views.h"
 
+#include "foundation/InterfaceLocale.h"
 #include "foundation/Localisation.h"
 #include "views/ViewEngine.h"
 
@@ -52,6 +53,10 @@ QString Views::fixedFamily() const {
 
 QString Views::words(const QString& key) const {
     return localised(key.toUtf8().constData());
+}
+
+QString Views::number(int value) const {
+    return interfaceLocale().toString(value);
 }
 
 void Views::tellSelected(QQuickItem* item) const {

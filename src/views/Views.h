@@ -46,6 +46,8 @@ public:
     [[nodiscard]] QString fixedFamily() const;
     /// `key` in the user's language.
     Q_INVOKABLE [[nodiscard]] QString words(const QString& key) const;
+    /// In the digits of the language that the words are in.
+    Q_INVOKABLE [[nodiscard]] QString number(int value) const;
     /// Tells screen readers that `item` was selected, or is not any more: Qt tells no change of that state by itself.
     Q_INVOKABLE void tellSelected(QQuickItem* item) const;
     /// Tells screen readers that `item` is what the keys now work on, though the keyboard stays in a field: Qt tells it

@@ -103,6 +103,15 @@ TEST_F(SettingsWindowTest, LeftAndRightGoThroughThePanes) {
     EXPECT_EQ(focused(), QStringLiteral("General"));
 }
 
+TEST_F(SettingsWindowTest, TheKeyboardIsOnTheNameOfThePaneThatShows) {
+    press(Qt::Key_End);
+    EXPECT_EQ(focused(), QStringLiteral("About"));
+    controller.show(0);
+    EXPECT_EQ(focused(), QStringLiteral("General"));
+    press(Qt::Key_Right);
+    EXPECT_EQ(focused(), QStringLiteral("Shortcuts"));
+}
+
 TEST_F(SettingsWindowTest, AssistiveTechnologyReachesAPaneByItsTab) {
     item(QAccessible::PageTab, "Privacy")->forceActiveFocus();
     EXPECT_TRUE(shows("Always on"));
