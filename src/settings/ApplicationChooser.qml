@@ -131,7 +131,6 @@ Sheet {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         spacing: Theme.gap
-        layoutDirection: Views.isRightToLeft ? Qt.RightToLeft : Qt.LeftToRight
 
         PushButton {
             text: Views.words("Cancel")

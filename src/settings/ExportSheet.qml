@@ -33,6 +33,7 @@ Sheet {
         }
         TextField {
             id: folder
+            objectName: "exportFolder"
             width: parent.width
             label: Views.words("New folder")
             placeholder: Views.words("Path of the folder")
@@ -44,7 +45,6 @@ Sheet {
         Row {
             anchors.right: parent.right
             spacing: Theme.gap
-            layoutDirection: Views.isRightToLeft ? Qt.RightToLeft : Qt.LeftToRight
 
             PushButton {
                 text: Views.words("Done")
