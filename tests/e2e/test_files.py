@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Damaged, foreign and unwritable history files, and a disk that is full for a while."""
+"""Damaged, foreign and unwritable history files, a disk that is full for a while, and a home that cannot be written at all."""
 
 import ctypes
 import glob
@@ -7,12 +7,13 @@ import os
 import sqlite3
 import subprocess
 
-from desktop import (DATA, HISTORY, QUIET, SETTINGS, Vellumry, accessible, copy_text, key, main, open_panel, own_tests,
-                     panel_is_open, picture, run, same, wait_panel_closed, wait_until, windows)
+from desktop import (DATA, HISTORY, PROGRAM, QUIET, SETTINGS, Vellumry, accessible, copy_text, focus, forgo_greeting, key, main,
+                     open_panel, own_tests, panel_is_open, picture, run, same, wait_panel_closed, wait_until, windows)
 from history_probe import HistoryProbe, integrity
 
 NEW_MOUNT_NAMESPACE = 0x00020000
 NEW_USER_NAMESPACE = 0x10000000
+HOME = os.environ["HOME"]
 DISK_SIZE = 8 * 1024 * 1024
 
 
@@ -129,27 +130,44 @@ def in_a_mount_namespace():
 
 
 class SmallDisk:
-    """A disk of a few megabytes where the history lies."""
+    """A disk of a few megabytes where the history lies, or elsewhere."""
+
+    def __init__(self, folder=DATA):
+        self.folder = folder
 
     def __enter__(self):
-        os.makedirs(DATA, exist_ok=True)
-        run("mount", "-t", "tmpfs", "-o", f"size={DISK_SIZE}", "none", DATA)
+        os.makedirs(self.folder, exist_ok=True)
+        run("mount", "-t", "tmpfs", "-o", f"size={DISK_SIZE}", "none", self.folder)
         return self
 
     def __exit__(self, *_):
-        run("umount", "--lazy", DATA)
+        run("umount", "--lazy", self.folder)
 
     def fill(self):
-        with open(os.path.join(DATA, "ballast"), "ab", buffering=0) as file:
+        with open(os.path.join(self.folder, "ballast"), "ab", buffering=0) as file:
             try:
                 while True:
                     file.write(bytes(4096))
             except OSError:
                 pass
-        same(os.statvfs(DATA).f_bavail, 0, "blocks left")
+        same(os.statvfs(self.folder).f_bavail, 0, "blocks left")
 
     def empty(self):
-        os.remove(os.path.join(DATA, "ballast"))
+        os.remove(os.path.join(self.folder, "ballast"))
+
+
+class ReadOnly:
+    """A folder, and all in it, that nobody can write for a while."""
+
+    def __init__(self, folder):
+        self.folder = folder
+
+    def __enter__(self):
+        run("mount", "--bind", self.folder, self.folder)
+        run("mount", "-o", "remount,bind,ro", self.folder)
+
+    def __exit__(self, *_):
+        run("umount", "--lazy", self.folder)
 
 
 def shown(text):
@@ -222,16 +240,83 @@ def memory_only(name):
 def a_folder_that_cannot_be_written():
     keep_a_history(2)
     before = {path: read(path) for path in glob.glob(DATA + "/*")}
-    run("mount", "--bind", DATA, DATA)
-    try:
-        run("mount", "-o", "remount,bind,ro", DATA)
+    with ReadOnly(DATA):
         with Vellumry():
             memory_only("read-only")
         same({path: read(path) for path in glob.glob(DATA + "/*")} == before, True, "the files are as they were")
-    finally:
-        run("umount", "--lazy", DATA)
     with Vellumry():
         same(HistoryProbe().texts(), ["kept before 1", "kept before 0"], "the history when it can be written again")
+
+
+def shown_in(window, role, name):
+    focus(wait_until(lambda: windows(window), window)[0])
+    return wait_until(lambda: accessible("vellumry", role, name), f"{role} {name!r}")
+
+
+def turns_a_switch():
+    """A setting counts until the program ends, whether it can be written or not."""
+    import pyatspi
+
+    def is_on():
+        node = accessible("vellumry", "check box", name)
+        return node is not None and node.getState().contains(pyatspi.STATE_CHECKED)
+
+    name = "Sound when pasting"
+    run(PROGRAM, "--action", "open-settings")
+    switch = shown_in("^Vellumry Settings$", "check box", name)
+    same(is_on(), False, "the switch at first")
+    switch.queryAction().doAction(0)
+    wait_until(is_on, "the switch")
+    key("Escape")
+    wait_until(lambda: not windows("^Vellumry Settings$"), "the settings to close")
+
+
+def kept_now():
+    """The texts of a file that may be being made."""
+    try:
+        return HistoryProbe().texts()
+    except sqlite3.OperationalError:
+        return []
+
+
+def a_home_on_a_disk_that_is_full():
+    with SmallDisk(HOME) as disk:
+        forgo_greeting()
+        disk.fill()
+        with Vellumry() as program:
+            memory_only("full-home")
+            turns_a_switch()
+            disk.empty()
+            wait_until(lambda: kept_now() == ["held in memory"], "the copy in the file once there is room", 120)
+            same(program.alive(), True, "the program")
+
+
+def a_home_that_cannot_be_written():
+    forgo_greeting()
+    with ReadOnly(HOME), Vellumry() as program:
+        memory_only("read-only-home")
+        turns_a_switch()
+        same(program.alive(), True, "the program")
+
+
+def the_first_run_in_a_home_that_cannot_be_written():
+    """It ends as elsewhere, and comes again at the next start, as nothing could be noted."""
+    if os.path.exists(SETTINGS):
+        os.remove(SETTINGS)
+    with ReadOnly(HOME):
+        for _ in range(2):
+            with Vellumry(greeted=False) as program:
+                wait_until(lambda: windows("^Vellumry$"), "the alert")
+                shown_in("^Vellumry$", "dialog", None)
+                key("Return")
+                wait_until(lambda: not windows("^Vellumry$"), "the alert to go")
+                shown_in("^Welcome to Vellumry$", "heading", "Welcome to Vellumry")
+                key("ctrl+w")
+                wait_until(lambda: not windows("^Welcome to Vellumry$"), "the first run to close")
+                copy_text("behind the first run")
+                wait_until(lambda: shown("behind the first run"), "the copy in the panel")
+                close_panel()
+                same(program.alive(), True, "the program")
 
 
 if __name__ == "__main__":
