@@ -26,6 +26,7 @@ Sheet {
         spacing: Theme.margin
 
         Label {
+            width: parent.width
             text: Views.words("New folder")
             font.pixelSize: Theme.formSize
             Accessible.role: Accessible.StaticText

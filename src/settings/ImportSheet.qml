@@ -50,6 +50,7 @@ Sheet {
             spacing: Theme.gap
 
             Label {
+                width: parent.width
                 text: Views.words("A folder that Vellumry exported")
                 font.pixelSize: Theme.formSize
                 Accessible.role: Accessible.StaticText
@@ -63,6 +64,7 @@ Sheet {
                 onAccepted: sheet.transfer.importFolder(folder.text)
             }
             PushButton {
+                anchors.left: parent.left
                 enabled: !sheet.transfer.isBusy && folder.text !== ""
                 text: Views.words("Import Folder")
                 onPressed: sheet.transfer.importFolder(folder.text)

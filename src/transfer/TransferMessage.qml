@@ -25,11 +25,13 @@ Column {
         Accessible.name: text
     }
     PushButton {
+        anchors.left: parent.left
         visible: box.transfer.isBusy
         text: Views.words("Stop")
         onPressed: box.transfer.stop()
     }
     PushButton {
+        anchors.left: parent.left
         visible: box.transfer.canUndo
         text: Views.words("Undo Import")
         onPressed: box.transfer.undoImport()
