@@ -64,7 +64,8 @@ ClipmanHistory ClipmanHistory::ofWayland(const QByteArray& file, Date modified) 
     history.m_modified = modified;
     const QJsonDocument document = QJsonDocument::fromJson(file);
     history.m_isDamaged = !document.isArray();
-    for (const QJsonValue& value : document.array())
+    const QJsonArray texts = document.array();
+    for (const auto& value : texts)
         history.m_texts.append(value.toString().toUtf8());
     return history;
 }
