@@ -212,7 +212,8 @@ TEST_F(UserDefaultsFile, AFullDiskLeavesTheFileAsItWas) {
     }
     defaults.setObject(QStringLiteral("other"), 3);
     EXPECT_EQ(UserDefaults(path()).integer(key), 2) << "with the next change that finds room";
-    EXPECT_EQ(QDir(QFileInfo(path()).path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "nothing lies beside it";
+    EXPECT_EQ(QDir(QFileInfo(path()).path()).entryList(QDir::Files | QDir::Hidden).size(), 1)
+        << "nothing lies beside it";
 }
 
 TEST_F(UserDefaultsFile, WhatCouldNotBeWrittenGoesOutWithTheNextChange) {

@@ -45,7 +45,8 @@ std::optional<PeerClip> GPasteHistory::next() {
     // Its text cannot hold this, as ">" is escaped there.
     const qsizetype itemEnd = tagEnd < 0 ? -1 : m_bytes.indexOf("</item>", tagEnd);
     // Looked for within the item: to the end of the file each time, a long one would take hours.
-    const QByteArrayView item = itemEnd < 0 ? QByteArrayView() : QByteArrayView(m_bytes).sliced(tagEnd, itemEnd - tagEnd);
+    const QByteArrayView item =
+        itemEnd < 0 ? QByteArrayView() : QByteArrayView(m_bytes).sliced(tagEnd, itemEnd - tagEnd);
     const qsizetype from = item.indexOf(sectionStart);
     const qsizetype to = from < 0 ? -1 : item.indexOf(sectionEnd, from);
     if (itemEnd < 0 || (from >= 0 && to < 0)) {
