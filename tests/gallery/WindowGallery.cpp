@@ -68,7 +68,8 @@ private:
         if (!view.grabWindow().save(file))
             std::fprintf(stderr, "cannot write %s\n", qUtf8Printable(file));
         const QStringList sheets{QStringLiteral("settings-clear"), QStringLiteral("settings-desktop"),
-                                 QStringLiteral("settings-import")};
+                                 QStringLiteral("settings-import"), QStringLiteral("settings-export"),
+                                 QStringLiteral("settings-applications")};
         for (const QString& trouble : textsThatDoNotFit(*view.contentItem())) {
             if (sheets.contains(name) && trouble.startsWith(QLatin1String("over another")))
                 continue; // it lies over a pane
@@ -136,6 +137,14 @@ private:
         model.setSheet(QStringLiteral("import"));
         (void)eventually([&transfers] { return transfers.model.historyCount() > 0; });
         draw(QStringLiteral("settings-import"), *controller.window());
+        model.setSheet(QStringLiteral("export"));
+        controller.window()->rootObject()->findChild<QQuickItem*>(QStringLiteral("exportFolder"))
+            ->setProperty("text", QStringLiteral("/home/joan/Vellumry 2026-03-14"));
+        draw(QStringLiteral("settings-export"), *controller.window());
+        controller.show(3);
+        model.beginChoosing(false);
+        model.toggleChosen(0);
+        draw(QStringLiteral("settings-applications"), *controller.window());
         controller.show(0);
         model.setSheet(QStringLiteral("report"));
         draw(QStringLiteral("settings-desktop"), *controller.window());
