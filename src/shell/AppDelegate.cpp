@@ -19,6 +19,9 @@ namespace vellumry {
 
 namespace {
 
+/// A program that asks for nonsense all the time must not fill the log.
+constexpr quint64 mostUnknownActionsLogged = 10;
+
 /// What is missing is worth a line in every log; what is there, when it is asked for.
 void logLines(const std::vector<Capability>& capabilities) {
     for (const Capability& capability : capabilities) {
@@ -129,7 +132,7 @@ void AppDelegate::perform(const QString& action) {
         m_environment->pastePinned(number);
     else if (action == QLatin1String("quit"))
         endProgram();
-    else
+    else if (m_unknownActions++ < mostUnknownActionsLogged)
         qCWarning(logging::shell) << "an unknown action was asked for";
 }
 

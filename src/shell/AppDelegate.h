@@ -49,6 +49,7 @@ private:
     Platform m_platform;
     std::unique_ptr<AppEnvironment> m_environment;
     std::unique_ptr<SerialExecutor> m_finder; ///< while capabilities are being looked for
+    quint64 m_unknownActions = 0;
 };
 
 } // namespace vellumry

@@ -3,6 +3,7 @@
 
 import os
 import subprocess
+import tempfile
 import threading
 import time
 
@@ -75,9 +76,12 @@ def a_peer_that_floods_the_programs_interface_holds_nothing_up():
     def action(*arguments):
         return PATH, "org.freedesktop.Application", "ActivateAction", GLib.Variant("(sava{sv})", arguments)
 
-    with Vellumry() as program:
-        works_in_a_flood(program, [action("fly", [], {}), action("x" * 10_000, [GLib.Variant("s", "y" * 10_000)], {}), action("", [], {}),
-                                   (PATH, "com.vellumry.Vellumry.Status", "Report", None)])
+    with tempfile.TemporaryFile() as log:
+        with Vellumry(stderr=log) as program:
+            works_in_a_flood(program, [action("fly", [], {}), action("x" * 10_000, [GLib.Variant("s", "y" * 10_000)], {}),
+                                       action("", [], {}), (PATH, "com.vellumry.Vellumry.Status", "Report", None)])
+        log.seek(0)
+        same(log.read().count(b"unknown action"), 10, "lines of the log about it")
 
 
 def a_peer_that_floods_the_menu_holds_nothing_up():
