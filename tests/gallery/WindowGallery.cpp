@@ -138,7 +138,9 @@ private:
         (void)eventually([&transfers] { return transfers.model.historyCount() > 0; });
         draw(QStringLiteral("settings-import"), *controller.window());
         model.setSheet(QStringLiteral("export"));
-        controller.window()->rootObject()->findChild<QQuickItem*>(QStringLiteral("exportFolder"))
+        controller.window()
+            ->rootObject()
+            ->findChild<QQuickItem*>(QStringLiteral("exportFolder"))
             ->setProperty("text", QStringLiteral("/home/joan/Vellumry 2026-03-14"));
         draw(QStringLiteral("settings-export"), *controller.window());
         controller.show(3);
