@@ -28,11 +28,18 @@ struct Options {
     Options() { session.setFlags(QCommandLineOption::HiddenFromHelp); }
 };
 
-QString refusal(const QCommandLineParser& parser, const QString& problem) {
-    return problem + QStringLiteral("\n\n") + parser.helpText();
+/// Qt takes the program's name in it from the application object. That object lives for this text alone: behind an
+/// earlier one, the application with the windows is not found by assistive technology.
+QString usage(const QCommandLineParser& parser, int& argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    return parser.helpText() + u'\n';
 }
 
-CommandLine understood(QCommandLineParser& parser, const QStringList& arguments) {
+CommandLine understood(int& argc, char** argv) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    QCommandLineParser parser;
     const Options options;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(QStringLiteral("Clipboard history: runs in the background; a second start opens "
@@ -40,12 +47,15 @@ CommandLine understood(QCommandLineParser& parser, const QStringList& arguments)
     parser.addOptions(
         {options.help, options.version, options.status, options.verbose, options.action, options.session});
     using Wish = CommandLine::Wish;
+    const auto refusal = [&](const QString& problem) {
+        return CommandLine{Wish::refuse, problem + QStringLiteral("\n\n") + usage(parser, argc, argv), false};
+    };
     if (!parser.parse(arguments))
-        return {Wish::refuse, refusal(parser, parser.errorText()), false};
+        return refusal(parser.errorText());
     if (!parser.positionalArguments().isEmpty())
-        return {Wish::refuse, refusal(parser, QStringLiteral("The program takes options only.")), false};
+        return refusal(QStringLiteral("The program takes options only."));
     if (parser.isSet(options.help))
-        return {Wish::say, parser.helpText(), false};
+        return {Wish::say, usage(parser, argc, argv), false};
     if (parser.isSet(options.version))
         return {Wish::say,
                 QStringLiteral("Vellumry %1 (Qt %2)\n")
@@ -63,9 +73,7 @@ CommandLine understood(QCommandLineParser& parser, const QStringList& arguments)
 CommandLine CommandLine::read(int& argc, char** argv) {
     if (argc <= 1)
         return {};
-    const QCoreApplication application(argc, argv);
-    QCommandLineParser parser;
-    return understood(parser, QCoreApplication::arguments());
+    return understood(argc, argv);
 }
 
 } // namespace vellumry

@@ -19,8 +19,8 @@ struct CommandLine {
     QString text;
     bool isVerbose = false;
 
-    /// Reads the arguments of `main`. Makes an application object for the time of the call where there are any, so it
-    /// comes before the program's own one.
+    /// Reads the arguments of `main`. Comes before the program's own application object, and makes one for a text alone
+    /// that is printed in place of a run.
     [[nodiscard]] static CommandLine read(int& argc, char** argv);
 };
 
