@@ -122,7 +122,7 @@ Q_SIGNALS:
 private:
     ClipStore(std::shared_ptr<ClipDatabase> database, RetentionPolicy policy, bool recoveredFromDamage,
               std::vector<ClipRef> clips);
-    /// Tells everybody who looks at `clips`, the timer first.
+    /// Notifies the listeners of `clips`, the expiry timer first.
     void changed();
     void prepareSearch();
     QCoro::Task<void> drop(QSet<QUuid> ids, bool thorough);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/clips/HistoryWriter.h"
 
-#include "foundation/Logging.h"
 #include "history/file/Attempts.h"
 
 #include <QPointer>
@@ -10,33 +9,16 @@
 
 namespace vellumry {
 
-namespace {
-
-using namespace std::chrono_literals;
-
-constexpr std::chrono::milliseconds firstDelay = 1s;
-constexpr std::chrono::milliseconds longestDelay = 30s;
-/// A clip that can never be written must not keep the others from it; a disk that refuses so many refuses all.
-constexpr int mostRefusals = 3;
-
-} // namespace
-
-HistoryWriter::HistoryWriter(Find find)
-    : m_find(std::move(find))
-    , m_delay(firstDelay) {
-    m_timer.setSingleShot(true);
-    connect(&m_timer, &QTimer::timeout, this, [this] { retry(); });
-}
-
-HistoryWriter::~HistoryWriter() = default;
-
 void HistoryWriter::setDatabase(std::shared_ptr<ClipDatabase> database, const QHash<QUuid, QUuid>& replaced,
                                 const std::vector<QUuid>& unwanted) {
     m_database = std::move(database);
     for (auto entry = replaced.begin(); entry != replaced.end(); ++entry)
         m_unsaved[entry.key()].replaces = entry.value();
     m_doomed.unite(QSet<QUuid>(unwanted.begin(), unwanted.end()));
-    m_mustReclaim = m_mustReclaim || !unwanted.empty();
+    m_mustReclaim = m_mustReclaim || !unwanted.empty() || m_database->foundLog();
+    // Where nothing else is tried, the log is emptied behind the start.
+    if (m_mustReclaim && !m_timer.isActive())
+        m_timer.start(m_delay);
 }
 
 QCoro::Task<void> HistoryWriter::insert(QUuid id, ClipPayload payload) {
@@ -234,84 +216,10 @@ void HistoryWriter::forgetGone() {
     });
 }
 
-QCoro::Task<void> HistoryWriter::retry() {
-    if (!m_database || m_isRetrying)
-        co_return;
-    const QPointer<HistoryWriter> self(this);
-    m_isRetrying = true;
-    m_timer.stop();
-    auto writing = writeAll();
-    const bool isDone = co_await writing;
-    if (!self)
-        co_return;
-    m_isRetrying = false;
-    if (isDone) {
-        settle();
-        co_return;
-    }
-    m_delay = std::min(m_delay * 2, longestDelay);
-    m_timer.start(m_delay);
-}
-
-QCoro::Task<bool> HistoryWriter::writeAll() {
-    const QPointer<HistoryWriter> self(this);
-    if (!m_doomed.isEmpty()) {
-        auto deleting = deleteRows({m_doomed.begin(), m_doomed.end()});
-        if (!co_await deleting || !self)
-            co_return false;
-    }
-    if (m_mustReclaim) {
-        auto reclaiming = reclaim();
-        if (!co_await reclaiming || !self)
-            co_return false;
-    }
-    int refusals = 0;
-    for (const QUuid& id : m_unsaved.keys()) {
-        const auto waiting = m_unsaved.constFind(id);
-        if (waiting == m_unsaved.constEnd() || waiting->isInFlight)
-            continue;
-        auto writing = write(id);
-        const bool isWritten = co_await writing;
-        if (!self)
-            co_return false;
-        refusals += isWritten ? 0 : 1;
-        if (refusals == mostRefusals)
-            break;
-    }
-    co_return m_unsaved.isEmpty();
-}
-
 /// The last owner of many bytes takes a while to overwrite them: the history's thread does that.
 void HistoryWriter::release(std::shared_ptr<ClipPayload> payload) {
     if (payload && m_database)
         m_database->dispose(std::move(payload));
-}
-
-void HistoryWriter::failed() {
-    if (!m_isRetrying && !m_timer.isActive())
-        m_timer.start(m_delay);
-    if (std::exchange(m_isBehind, true))
-        return;
-    qCWarning(logging::history) << "the history file refuses changes; they are tried again";
-    onBehindChanged();
-}
-
-void HistoryWriter::settle() {
-    const bool isWaiting = std::ranges::any_of(m_unsaved, [](const Unsaved& unsaved) { return !unsaved.isInFlight; });
-    if (isWaiting || !m_doomed.isEmpty() || m_mustReclaim) {
-        // The file takes changes again: the others need not wait for their time.
-        if (!m_isRetrying) {
-            m_delay = firstDelay;
-            m_timer.start(m_delay);
-        }
-        return;
-    }
-    m_timer.stop();
-    m_delay = firstDelay;
-    if (!std::exchange(m_isBehind, false))
-        return;
-    qCInfo(logging::history) << "the history file has taken all changes";
-    onBehindChanged();
 }
 
 } // namespace vellumry

@@ -1,17 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/file/ClipDatabase.h"
 
+#include "foundation/Logging.h"
 #include "history/file/ClipRows.h"
 #include "history/file/HistoryFile.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <filesystem>
 #include <sqlite3.h>
 
 namespace vellumry {
 
 namespace {
+
+bool hasLog(const QString& path) {
+    return QFileInfo(path + QStringLiteral("-wal")).size() > 0;
+}
 
 /// Lets the file give single pages back. A file that cannot yet, a new one included, is rewritten once.
 void enableIncrementalVacuum(SQLiteDatabase& database) {
@@ -44,10 +50,15 @@ void overwriteWorkingSpace(SQLiteDatabase& database) {
 
 namespace {
 
+void putAside(const QString& path, const char* why) {
+    historyfile::moveAside(path, currentDate());
+    qCWarning(logging::history) << "the history file was put aside:" << why;
+}
+
 /// The key of the history at `path`, made when there is none. The file goes aside after the new key is kept and not
 /// before: without its key it cannot be read, but a key that turns up again opens it.
 std::expected<SymmetricKey, HistoryFailure> keyFor(const QString& path, KeyStore& keyStore, KeyStore::Asking asking,
-                                                   bool& putAside) {
+                                                   bool& isPutAside) {
     const bool hasFile = QFile::exists(path);
     auto loaded = keyStore.load(asking);
     // Where nothing was ever kept, no key is missed.
@@ -60,22 +71,22 @@ std::expected<SymmetricKey, HistoryFailure> keyFor(const QString& path, KeyStore
     if (const auto saved = keyStore.save(key, asking); !saved)
         return std::unexpected(historyFailureOf(saved.error()));
     if (hasFile) {
-        historyfile::moveAside(path, currentDate());
-        putAside = true;
+        putAside(path, "the keyring has no key for it");
+        isPutAside = true;
     }
     return key;
 }
 
-OpenedHistory opened(const QString& path, const ClipCrypto& crypto, bool putAside) {
+OpenedHistory opened(const QString& path, const ClipCrypto& crypto, bool isPutAside) {
     try {
-        return {std::make_shared<ClipDatabase>(path, crypto), putAside};
+        return {std::make_shared<ClipDatabase>(path, crypto), isPutAside, path};
     } catch (const SQLiteError& error) {
         // The check looks at less than the work.
         if (!historyfile::isDamage(error))
             throw;
     }
-    historyfile::moveAside(path, currentDate());
-    return {std::make_shared<ClipDatabase>(path, crypto), true};
+    putAside(path, "it cannot be worked with");
+    return {std::make_shared<ClipDatabase>(path, crypto), true, path};
 }
 
 } // namespace
@@ -85,24 +96,28 @@ std::expected<OpenedHistory, HistoryFailure> ClipDatabase::openHistory(const QSt
     ClipCrypto::selfTest();
     const QString path = QDir(folder).filePath(historyfile::fileName);
     try {
-        bool putAside = false;
-        auto key = keyFor(path, keyStore, asking, putAside);
+        bool isPutAside = false;
+        auto key = keyFor(path, keyStore, asking, isPutAside);
         if (!key)
             return std::unexpected(key.error());
         if (QFile::exists(path) && !historyfile::isReadable(path, *key)) {
-            historyfile::moveAside(path, currentDate());
-            putAside = true;
+            putAside(path, "it is damaged, foreign, or sealed with another key");
+            isPutAside = true;
         }
-        return opened(path, ClipCrypto(*std::move(key)), putAside);
+        return opened(path, ClipCrypto(*std::move(key)), isPutAside);
     } catch (const SQLiteError& error) {
+        qCInfo(logging::history) << "the history file was not opened: SQLite" << error.extendedCode() << "errno"
+                                 << error.systemError();
         return std::unexpected(historyFailureOf(error, path));
     } catch (const std::filesystem::filesystem_error& error) {
+        qCInfo(logging::history) << "the history file was not put aside: errno" << error.code().value();
         return std::unexpected(historyFailureOf(error.code()));
     }
 }
 
 ClipDatabase::ClipDatabase(const QString& path, ClipCrypto crypto)
-    : m_sqlite(path, SQLiteDatabase::Access::readWrite)
+    : m_foundLog(hasLog(path))
+    , m_sqlite(path, SQLiteDatabase::Access::readWrite)
     , m_crypto(std::move(crypto))
     , m_executor("History") {
     historyfile::restrictToUser(path);
@@ -142,6 +157,25 @@ QCoro::Task<void> ClipDatabase::insert(ClipRef clip, std::shared_ptr<const ClipP
 QCoro::Task<void> ClipDatabase::updateRow(ClipRef clip) {
     return onExecutor<void>(
         [this, clip = std::move(clip)](SQLiteDatabase& sqlite) { cliprows::writeFields(sqlite, m_crypto, *clip); });
+}
+
+void ClipDatabase::writeLast(std::vector<QUuid> deleted, std::vector<Row> rows) {
+    m_executor.post([this, deleted = std::move(deleted), rows = std::move(rows)] {
+        try {
+            if (!deleted.empty())
+                cliprows::removeAll(m_sqlite, deleted);
+            for (const Row& row : rows) {
+                if (!row.payload)
+                    cliprows::writeFields(m_sqlite, m_crypto, *row.clip);
+                else if (row.replaced.isNull())
+                    cliprows::write(m_sqlite, m_crypto, *row.clip, *row.payload);
+                else
+                    cliprows::writeReplacing(m_sqlite, m_crypto, *row.clip, *row.payload, row.replaced);
+            }
+        } catch (const std::exception&) {
+            qCWarning(logging::history) << "the history file refuses changes to the end; the latest are lost";
+        }
+    });
 }
 
 void ClipDatabase::dispose(std::shared_ptr<const void> thing) {

@@ -38,6 +38,8 @@ public:
     ClipDatabase& operator=(const ClipDatabase&) = delete;
 
     [[nodiscard]] const ClipCrypto& crypto() const { return m_crypto; }
+    /// A write-ahead log lay beside the file: an earlier run was killed, and what it deleted may still be in there.
+    [[nodiscard]] bool foundLog() const { return m_foundLog; }
 
     /// Every readable clip, latest first.
     [[nodiscard]] QCoro::Task<std::vector<ClipRef>> loadAll();
@@ -62,6 +64,15 @@ public:
     /// Gives freed pages back and empties the write-ahead log, so that nothing deleted is left in either. Throws
     /// SQLiteError as long as another connection reads what is in the log.
     [[nodiscard]] QCoro::Task<void> reclaimSpace();
+    /// A row that is to be written; its payload is null where that stands in the file already.
+    struct Row {
+        ClipRef clip;
+        std::shared_ptr<const ClipPayload> payload;
+        QUuid replaced; ///< goes in one change with it, if that is not null
+    };
+    /// Deletes and writes what it can, until the file refuses something. The outcome goes to the log alone: for the end
+    /// of the program, when the destructor waits for it.
+    void writeLast(std::vector<QUuid> deleted, std::vector<Row> rows);
     /// Lets go of something on the history's own thread, behind what is queued.
     void dispose(std::shared_ptr<const void> thing);
 
@@ -69,6 +80,7 @@ private:
     template <typename Result>
     QCoro::Task<Result> onExecutor(std::function<Result(SQLiteDatabase&)> job);
 
+    const bool m_foundLog; // before the connection, which makes a log
     SQLiteDatabase m_sqlite;
     const ClipCrypto m_crypto;
     SerialExecutor m_executor; // last, so that its thread has ended before the connection closes
@@ -77,6 +89,7 @@ private:
 struct OpenedHistory {
     std::shared_ptr<ClipDatabase> database;
     bool recoveredFromDamage = false; ///< an earlier history could not be read and was put aside
+    QString path{};                   ///< the file's
 };
 
 } // namespace vellumry

@@ -51,9 +51,9 @@ TEST_F(ClipStoreForgetting, ASecretThatCouldNotBeDeletedIsBackAfterTheStartAndGo
     refuseWrites();
     awaited(m_store->enforceRetention(100));
     EXPECT_TRUE(m_store->clips().empty());
-    allowWrites();
     reopen();
     ASSERT_TRUE(m_store->find(clip->id));
+    allowWrites();
     awaited(m_store->enforceRetention(100));
     EXPECT_EQ(rowCount(), 0);
     EXPECT_FALSE(allBytes().contains(clip->fingerprint.toString().toLatin1()));

@@ -145,6 +145,54 @@ TEST_F(ClipStorePersistence, TheLogOfAnExpiredSecretIsEmptiedWhenItsReaderIsGone
     runUntil([&] { return QFile(log).size() == 0; }, 60'000);
 }
 
+// A backup program may read the file for hours.
+TEST_F(ClipStorePersistence, AReaderThatKeepsTheLogKeepsNoCopyFromTheFile) {
+    add(drafts::secret(u"one"_s), 1);
+    SQLiteDatabase other(m_history.path(), SQLiteDatabase::Access::readOnly);
+    auto reading = other.prepare("SELECT id FROM clips;");
+    ASSERT_TRUE(reading.step());
+    awaited(m_store->enforceRetention(1000));
+    refuseWrites();
+    add(drafts::text(u"two"_s), 1001);
+    ASSERT_TRUE(m_store->isBehind());
+    allowWrites();
+    runUntil([&] { return rowCount() == 1 && !m_store->isBehind(); });
+    EXPECT_GT(QFile(m_history.path() + u"-wal"_s).size(), 0);
+}
+
+TEST_F(ClipStorePersistence, TheLogThatAKilledRunLeftIsEmptiedAfterTheNextStart) {
+    const ClipRef clip = add(drafts::text(u"one"_s), 1);
+    awaited(m_store->remove({clip->id}, false));
+    // As the file and its log lie there when the program is killed.
+    const QString other = m_history.folder() + u"/killed.sqlite"_s;
+    for (const QString& suffix : {u""_s, u"-wal"_s})
+        ASSERT_TRUE(QFile::copy(m_history.path() + suffix, other + suffix));
+    m_store.reset();
+    for (const QString& suffix : {u""_s, u"-wal"_s}) {
+        QFile::remove(m_history.path() + suffix);
+        ASSERT_TRUE(QFile::rename(other + suffix, m_history.path() + suffix));
+    }
+    const QByteArray id = clip->id.toString(QUuid::WithoutBraces).toUpper().toLatin1();
+    ASSERT_TRUE(allBytes().contains(id));
+    m_store = m_history.openStore();
+    EXPECT_TRUE(m_store->clips().empty());
+    runUntil([&] { return !allBytes().contains(id); });
+}
+
+TEST_F(ClipStorePersistence, WhatTheFileRefusedIsTriedOnceMoreAtTheEnd) {
+    const ClipRef gone = add(drafts::text(u"gone"_s), 1);
+    const ClipRef changed = add(drafts::text(u"changed"_s), 2);
+    refuseWrites();
+    const ClipRef late = add(drafts::text(u"late"_s), 3);
+    awaited(m_store->setPinned(changed->id, true, 4));
+    awaited(m_store->remove({gone->id}, false));
+    allowWrites();
+    reopen();
+    ASSERT_EQ(m_store->clips().size(), 2U);
+    EXPECT_EQ(awaited(m_store->payload(late->id)), drafts::text(u"late"_s).payload);
+    EXPECT_TRUE(m_store->find(changed->id)->isPinned);
+}
+
 TEST_F(ClipStorePersistence, RescuedSecretsStayRescued) {
     const ClipRef clip = add(drafts::secret(u"one"_s), 1);
     awaited(m_store->setPinned(clip->id, true, 2));
