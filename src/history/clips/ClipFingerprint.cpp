@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/clips/ClipFingerprint.h"
 
+#include "foundation/FileUrl.h"
 #include "foundation/UniformType.h"
 
 #include <algorithm>
@@ -22,10 +23,25 @@ QByteArray imageBytes(const ClipPayload& payload) {
     return payload.canonicalData();
 }
 
-QByteArray pathBytes(const std::vector<FileRef>& files) {
-    QByteArrayList paths;
-    for (const FileRef& file : files)
-        paths.append(file.path.toUtf8());
+/// Names that are not UTF-8 may share one path, in which replacement characters stand: their addresses tell them apart.
+QByteArrayList ambiguousAddresses(const ClipPayload& payload) {
+    QByteArrayList addresses;
+    for (const PasteboardItem& item : payload.items) {
+        const auto url = item.representations.find(uniformtype::fileUrl);
+        const auto path = url == item.representations.end() ? std::nullopt : fileurl::pathOf(url->second);
+        if (path && path->contains(QChar::ReplacementCharacter))
+            addresses.append(url->second);
+    }
+    return addresses;
+}
+
+QByteArray pathBytes(const ClipDraft& draft) {
+    QByteArrayList paths = ambiguousAddresses(draft.payload);
+    const bool hasAddresses = !paths.isEmpty();
+    for (const FileRef& file : draft.files) {
+        if (!hasAddresses || !file.path.contains(QChar::ReplacementCharacter))
+            paths.append(file.path.toUtf8());
+    }
     std::ranges::sort(paths);
     return paths.join('\n');
 }
@@ -61,7 +77,7 @@ Fingerprint fingerprintOf(const ClipDraft& draft, const ClipCrypto& crypto) {
         content = imageBytes(draft.payload);
     } else if (draft.kind == ClipKind::file) {
         prefix = "files|";
-        content = pathBytes(draft.files);
+        content = pathBytes(draft);
     } else {
         content = textBytes(draft.payload);
     }

@@ -65,7 +65,7 @@ public:
         for (const ClipPayload::Item& item : payload.items) {
             const auto url = item.representations.find(uniformtype::fileUrl);
             const auto path = url == item.representations.end() ? std::nullopt : fileurl::pathOf(url->second);
-            if (path && isNew(*path))
+            if (path && isNew(keyOf(*path, url->second)))
                 append(knownFile(clip, *path), item);
         }
     }
@@ -85,9 +85,14 @@ public:
     [[nodiscard]] std::vector<ClipPayload::Item> takeItems() { return std::exchange(m_items, {}); }
 
 private:
-    bool isNew(const QString& path) {
+    /// What tells files apart: names that are not UTF-8 may share one path.
+    static QString keyOf(const QString& path, const QByteArray& url) {
+        return path.contains(QChar::ReplacementCharacter) ? QString::fromLatin1(url) : path;
+    }
+
+    bool isNew(const QString& key) {
         const qsizetype before = m_seen.size();
-        m_seen.insert(path);
+        m_seen.insert(key);
         return m_seen.size() != before;
     }
 

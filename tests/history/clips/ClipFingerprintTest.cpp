@@ -101,5 +101,17 @@ TEST_F(ClipFingerprint, FilesGoByTheirSortedPaths) {
     EXPECT_EQ(of(drafts::files({})), ofInput("files|"));
 }
 
+TEST_F(ClipFingerprint, FilesWhoseNamesAreNotUtf8AreToldApartByTheirAddresses) {
+    const auto named = [](const QByteArray& url) {
+        ClipDraft draft;
+        draft.kind = ClipKind::file;
+        draft.files = {{u"/a/\uFFFD"_s, u"\uFFFD"_s, std::nullopt}};
+        draft.payload.items = {{{{uniformtype::fileUrl, url}}, std::nullopt}};
+        return draft;
+    };
+    EXPECT_EQ(of(named("file:///a/%FE")), of(named("file:///a/%FE")));
+    EXPECT_NE(of(named("file:///a/%FE")), of(named("file:///a/%FF")));
+}
+
 } // namespace
 } // namespace vellumry

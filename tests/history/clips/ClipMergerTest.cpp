@@ -228,6 +228,18 @@ TEST(ClipMerger, EachPathCountsOnceAndItsFirstOccurrenceWins) {
     EXPECT_EQ(draft.title, u"x and 2 more"_s);
 }
 
+TEST(ClipMerger, FilesWhoseNamesAreNotUtf8AreNotTakenForOne) {
+    const auto named = [](const QByteArray& url) {
+        ClipPayload::Item item;
+        item.representations[uniformtype::fileUrl] = url;
+        return item;
+    };
+    Selection selection;
+    selection.add(ClipKind::file, {{named("file:///a/%FE"), named("file:///a/%FF")}});
+    selection.add(ClipKind::file, {{named("file:///a/%FE")}});
+    EXPECT_EQ(selection.draft().payload.items, (std::vector{named("file:///a/%FE"), named("file:///a/%FF")}));
+}
+
 TEST(ClipMerger, TwoClipsOfTheSameFileGiveAClipOfOneFile) {
     Selection selection;
     selection.add(ClipKind::file, {{fileItem(u"/a/x"_s)}});
