@@ -2,15 +2,12 @@
 #include "paste/FileResolution.h"
 
 #include "foundation/FileUrl.h"
+#include "foundation/RunDetached.h"
 #include "foundation/UniformType.h"
 
 #include <QFileInfo>
 #include <QHash>
 #include <algorithm>
-#include <future>
-#include <memory>
-#include <system_error>
-#include <thread>
 
 namespace vellumry::fileresolution {
 
@@ -101,19 +98,12 @@ std::optional<std::vector<PasteboardItem>> resolveNow(std::vector<PasteboardItem
                                                       const std::vector<FileRef>& files,
                                                       const std::function<FileStatus(const FileRef&)>& status,
                                                       std::chrono::milliseconds limit) {
-    // The thread owns what it uses: on a disk that hangs it outlives this call.
-    auto answer = std::make_shared<std::promise<std::vector<FileStatus>>>();
-    auto future = answer->get_future();
-    try {
-        std::thread([answer, status, budget = limit / 2, asked = references(items, files)] {
-            answer->set_value(statusesOf(asked, status, budget));
-        }).detach();
-    } catch (const std::system_error&) {
+    auto statuses = runDetachedNow(
+        [status, budget = limit / 2, asked = references(items, files)] { return statusesOf(asked, status, budget); },
+        limit);
+    if (!statuses)
         return items;
-    }
-    if (future.wait_for(limit) != std::future_status::ready)
-        return items;
-    return resolved(std::move(items), future.get());
+    return resolved(std::move(items), *statuses);
 }
 
 } // namespace vellumry::fileresolution

@@ -57,5 +57,18 @@ TEST(RunDetached, BeginsNothingWhileTooManyThreadsWereLeftBehind) {
     EXPECT_EQ(awaited(resultOf([] { return 7; }, 60s)), 7);
 }
 
+TEST(RunDetached, ABlockingCallerIsGivenUpOnAndItsThreadCounted) {
+    EXPECT_EQ(runDetachedNow([] { return 7; }, 60s), 7);
+    auto release = std::make_shared<std::promise<void>>();
+    const std::shared_future<void> released = release->get_future().share();
+    for (int i = 0; i < detachedrun::mostLeftBehind; ++i)
+        EXPECT_EQ(runDetachedNow([released] { return released.wait(), 7; }, 1ms), std::nullopt);
+    EXPECT_EQ(detachedrun::leftBehind, detachedrun::mostLeftBehind);
+    EXPECT_EQ(runDetachedNow([] { return 7; }, 60s), std::nullopt) << "too many were left behind";
+    release->set_value();
+    EXPECT_TRUE(eventually([] { return detachedrun::leftBehind == 0; }));
+    EXPECT_EQ(runDetachedNow([] { return 7; }, 60s), 7);
+}
+
 } // namespace
 } // namespace vellumry

@@ -48,7 +48,7 @@ TEST(FileResolution, WaitsForTheDiskWhenAskedToDoItNow) {
         return file.path == one ? FileStatus::missing() : FileStatus::available(file.path);
     };
     const auto items =
-        fileresolution::resolveNow(drafts::files({one, two}).payload.items, {}, gone, std::chrono::seconds(10));
+        fileresolution::resolveNow(drafts::files({one, two}).payload.items, {}, gone, std::chrono::minutes(1));
     ASSERT_TRUE(items);
     EXPECT_EQ(fileresolution::paths(*items), QStringList{two});
 }
