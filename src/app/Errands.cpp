@@ -53,6 +53,7 @@ std::optional<qint64> bytesOnDisk() {
 QString statusFromOutside(NoStatus why) {
     StatusReport report;
     report.notAsked = whyNotAsked(why);
+    report.session = StatusReport::thisSession();
     report.capabilities = waylanddisplay::capabilities();
     if (!waylanddisplay::isWanted()) {
         for (Capability& capability : capabilities::ofDisplay(XlibConnection::create()))

@@ -42,8 +42,10 @@ AppDelegate::AppDelegate(Platform platform)
 AppDelegate::~AppDelegate() = default;
 
 bool AppDelegate::applicationDidFinishLaunching() {
-    if (m_platform.singleInstance->isAnotherCopyRunning())
+    if (m_platform.singleInstance->isAnotherCopyRunning()) {
+        qCInfo(logging::app) << "the program runs already: that copy was asked to show itself";
         return false;
+    }
     m_platform.singleInstance->onReopen = [this] { reopen(); };
     m_platform.singleInstance->onAction = [this](const QString& action) { perform(action); };
     m_platform.singleInstance->onStatus = [this] { return status(); };
@@ -102,6 +104,8 @@ void AppDelegate::findCapabilities() {
 QString AppDelegate::status() const {
     StatusReport report;
     report.process = QCoreApplication::applicationPid();
+    report.session = StatusReport::thisSession();
+    report.displays = StatusReport::theseDisplays();
     report.capabilities = m_environment ? m_environment->capabilities() : m_platform.capabilities;
     if (m_environment)
         m_environment->describe(report);

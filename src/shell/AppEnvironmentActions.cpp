@@ -64,6 +64,9 @@ void AppEnvironment::describe(StatusReport& report) const {
     history.pinned = std::ranges::count_if(clips, [](const ClipRef& clip) { return clip->isPinned; });
     history.sensitive = std::ranges::count_if(clips, [](const ClipRef& clip) { return clip->isSensitive(); });
     history.isMemoryOnly = m_store->isMemoryOnly();
+    if (const auto failure = m_opening ? m_opening->failure() : std::nullopt)
+        history.reason = reasonOf(*failure);
+    history.isBehind = m_store->isBehind();
     report.history = history;
     if (!history.isMemoryOnly)
         report.bytesOnDisk = historyBytes(m_imageVolume);

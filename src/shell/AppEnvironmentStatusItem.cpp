@@ -26,6 +26,7 @@ void AppEnvironment::makeStatusItem() {
 std::vector<Capability> AppEnvironment::capabilities() const {
     const QString tray = QStringLiteral("tray");
     std::vector<Capability> capabilities = m_platform->capabilities;
+    std::erase_if(capabilities, [&tray](const Capability& capability) { return capability.name == tray; });
     capabilities.push_back(
         (isInTray() ? Capability::found(tray, QStringLiteral("the icon is in the desktop's panel"))
                     : Capability::without(tray, QStringLiteral("no panel or tray that shows icons: the "

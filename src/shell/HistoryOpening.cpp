@@ -21,28 +21,6 @@ constexpr std::chrono::milliseconds settling = 300ms;
 /// Another process that looks at the file for a moment is nothing to tell the user.
 constexpr int mostBusyTries = 3;
 
-const char* nameOf(HistoryFailure failure) {
-    switch (failure) {
-    case HistoryFailure::keyringAbsent:
-        return "no keyring answers";
-    case HistoryFailure::keyringLocked:
-        return "the keyring is locked or closed";
-    case HistoryFailure::keyringRefused:
-        return "the keyring refused the key";
-    case HistoryFailure::keyDamaged:
-        return "the key in the keyring is damaged";
-    case HistoryFailure::folderNotWritable:
-        return "the folder cannot be written to";
-    case HistoryFailure::diskFull:
-        return "the disk is full";
-    case HistoryFailure::fileUnreadable:
-        return "the file cannot be read or written";
-    case HistoryFailure::fileBusy:
-        break;
-    }
-    return "another process holds the file";
-}
-
 } // namespace
 
 HistoryOpening::HistoryOpening(ClipStore& store, KeyStore& keyStore, Folder folder)
@@ -127,7 +105,7 @@ QCoro::Task<void> HistoryOpening::join(OpenedHistory opened) {
         auto joining = m_store->attach(std::move(opened.database), opened.recoveredFromDamage);
         co_await joining;
     } catch (const SQLiteError& error) {
-        failure = historyFailureOf(error, QString());
+        failure = historyFailureOf(error, opened.path);
     } catch (const std::exception&) {
         failure = HistoryFailure::fileUnreadable;
     }
@@ -141,6 +119,7 @@ QCoro::Task<void> HistoryOpening::join(OpenedHistory opened) {
     m_isOpen = true;
     if (std::exchange(m_failure, std::nullopt))
         qCWarning(logging::shell) << "the history is open again";
+    qCInfo(logging::shell) << "the history is there: clips" << m_store->clips().size();
     onOpened();
 }
 
@@ -160,7 +139,7 @@ void HistoryOpening::fail(HistoryFailure failure) {
     if (m_failure == failure || (m_busyTries > 0 && m_busyTries < mostBusyTries))
         return;
     m_failure = failure;
-    qCWarning(logging::shell) << "the history is kept in memory:" << nameOf(failure);
+    qCWarning(logging::shell) << "the history is kept in memory:" << reasonOf(failure);
     m_store->setOpening(false);
     onFailed(failure);
 }

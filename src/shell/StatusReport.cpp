@@ -2,6 +2,10 @@
 #include "shell/StatusReport.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
+#include <QLocale>
+#include <QScreen>
+#include <QSysInfo>
 
 namespace vellumry {
 
@@ -23,6 +27,10 @@ QString historyLine(const StatusReport& report) {
               << QStringLiteral("sensitive %1").arg(history.sensitive)
               << (history.isMemoryOnly ? QStringLiteral("kept in memory until the program ends")
                                        : QStringLiteral("kept in the encrypted file"));
+        if (history.reason)
+            parts.last() += QStringLiteral(" (%1)").arg(QString::fromLatin1(history.reason));
+        if (history.isBehind)
+            parts << QStringLiteral("the file refuses changes");
     }
     parts << (report.bytesOnDisk ? QStringLiteral("bytes on disk %1").arg(*report.bytesOnDisk)
                                  : QStringLiteral("no file"));
@@ -49,8 +57,38 @@ QString lineOf(const Capability& capability) {
     return line;
 }
 
+QString StatusReport::thisSession() {
+    QStringList parts{QSysInfo::prettyProductName(), QSysInfo::kernelType() + u' ' + QSysInfo::kernelVersion(),
+                      QSysInfo::currentCpuArchitecture()};
+    const auto add = [&parts](const char* name, const char* variable) {
+        const QString value = qEnvironmentVariable(variable);
+        if (!value.isEmpty())
+            parts << QString::fromLatin1(name) + u' ' + value;
+    };
+    add("desktop", "XDG_CURRENT_DESKTOP");
+    add("type", "XDG_SESSION_TYPE");
+    parts << QStringLiteral("languages ") + QLocale().uiLanguages().join(u' ');
+    return parts.join(QStringLiteral(", "));
+}
+
+QStringList StatusReport::theseDisplays() {
+    QStringList displays;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QSize size = screen->geometry().size();
+        displays << QStringLiteral("%1x%2 at %3 %")
+                        .arg(size.width())
+                        .arg(size.height())
+                        .arg(qRound(screen->devicePixelRatio() * 100));
+    }
+    return displays;
+}
+
 QString StatusReport::text() const {
     QStringList lines{firstLine(*this)};
+    if (!session.isEmpty())
+        lines << QStringLiteral("session: ") + session;
+    if (!displays.isEmpty())
+        lines << QStringLiteral("displays: ") + displays.join(QStringLiteral(", "));
     for (const Capability& capability : capabilities)
         lines << lineOf(capability);
     if (takenShortcuts)

@@ -18,6 +18,8 @@ struct StatusReport {
         qsizetype pinned = 0;
         qsizetype sensitive = 0;
         bool isMemoryOnly = false;
+        const char* reason = nullptr; ///< why it is; null where nothing is known
+        bool isBehind = false;        ///< the file refuses changes, which wait
     };
     struct Capture {
         bool isPaused = false;
@@ -26,6 +28,10 @@ struct StatusReport {
         qint64 overtakenCopies = 0; ///< lost because the next copy came before they could be read
     };
 
+    /// The system, the desktop and the languages.
+    QString session;
+    /// Size and scale of each; none where the program does not run.
+    QStringList displays;
     /// Absent when the program does not run.
     std::optional<qint64> process;
     /// Why the running program could not be asked; instead of `process`.
@@ -40,6 +46,11 @@ struct StatusReport {
 
     /// Names of the settings whose value could not be used.
     QStringList refusedSettings;
+
+    /// What stands in `session` of a report from here and now.
+    [[nodiscard]] static QString thisSession();
+    /// What stands in `displays`. Main thread, of a program with windows.
+    [[nodiscard]] static QStringList theseDisplays();
 
     /// Lines of text, each with its end.
     [[nodiscard]] QString text() const;

@@ -56,6 +56,28 @@ HistoryFailure historyFailureOf(const SQLiteError& error, const QString& path) {
     }
 }
 
+const char* reasonOf(HistoryFailure failure) {
+    switch (failure) {
+    case HistoryFailure::keyringAbsent:
+        return "no keyring answers";
+    case HistoryFailure::keyringLocked:
+        return "the keyring is locked or closed";
+    case HistoryFailure::keyringRefused:
+        return "the keyring refused the key";
+    case HistoryFailure::keyDamaged:
+        return "the key in the keyring is damaged";
+    case HistoryFailure::folderNotWritable:
+        return "the folder cannot be written to";
+    case HistoryFailure::diskFull:
+        return "the disk is full";
+    case HistoryFailure::fileUnreadable:
+        return "the file cannot be read or written";
+    case HistoryFailure::fileBusy:
+        break;
+    }
+    return "another process holds the file";
+}
+
 HistoryFailure historyFailureOf(const std::error_code& error) {
     return isLackOfRoom(error.value()) ? HistoryFailure::diskFull : HistoryFailure::folderNotWritable;
 }

@@ -26,4 +26,7 @@ enum class HistoryFailure {
 [[nodiscard]] HistoryFailure historyFailureOf(const SQLiteError& error, const QString& path);
 [[nodiscard]] HistoryFailure historyFailureOf(const std::error_code& error);
 
+/// In a few words, in English, for the log and for those that help with a problem.
+[[nodiscard]] const char* reasonOf(HistoryFailure failure);
+
 } // namespace vellumry
