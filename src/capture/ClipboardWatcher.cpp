@@ -225,6 +225,8 @@ void ClipboardWatcher::deliver(std::shared_ptr<Copy> copy) {
         return;
     refreshSensitiveLifetime();
     m_pasteboard->settle(copy->changeCount, true);
+    qCInfo(logging::capture) << "A copy is taken: kind" << int(copy->draft->kind) << "bytes"
+                             << copy->draft->payload.byteCount() << "sensitive" << copy->draft->isSensitive;
     add(std::move(copy));
 }
 

@@ -25,6 +25,15 @@ PasteOutcome copiedOnly(PasteReason reason) {
     return PasteOutcome::copiedOnly(reason);
 }
 
+PasteOutcome refused(PasteOutcome outcome, const char* why) {
+    qCInfo(logging::paste) << "not pasted:" << why;
+    return outcome;
+}
+
+constexpr auto filesGone = "the files of the clip are gone";
+constexpr auto filesBlocked = "the files of the clip may not be read";
+constexpr auto notWritten = "the clipboard was not written";
+
 } // namespace
 
 PasteEngine::PasteEngine(ClipStore& store, const UserDefaults& preferences, SystemHooks system)
@@ -46,7 +55,7 @@ QCoro::Task<PasteOutcome> PasteEngine::paste(ClipRef clip, std::optional<bool> i
         if (life.expired())
             co_return PasteOutcome::failed();
         if (!resolved)
-            co_return PasteOutcome::fileMissing();
+            co_return refused(PasteOutcome::fileMissing(), filesGone);
         items = std::move(*resolved);
     }
 
@@ -59,11 +68,11 @@ QCoro::Task<PasteOutcome> PasteEngine::paste(ClipRef clip, std::optional<bool> i
         if (life.expired())
             co_return PasteOutcome::failed();
         if (access.blocked)
-            co_return PasteOutcome::filesBlocked(*access.blocked);
+            co_return refused(PasteOutcome::filesBlocked(*access.blocked), filesBlocked);
     }
 
     if (!write(items, goesOutPlain, transform))
-        co_return PasteOutcome::failed();
+        co_return refused(PasteOutcome::failed(), notWritten);
     if (onWritten)
         onWritten(*clip);
     const Date now = m_system.now();
@@ -111,7 +120,7 @@ QCoro::Task<CopyOutcome> PasteEngine::copy(ClipRef clip) {
 
 QCoro::Task<PasteOutcome> PasteEngine::pasteText(QString text) {
     if (!PasteboardWriter::writeText(text, *m_system.pasteboard))
-        co_return PasteOutcome::failed();
+        co_return refused(PasteOutcome::failed(), notWritten);
     auto delivering = deliver();
     co_return co_await delivering;
 }

@@ -3,6 +3,7 @@
 
 #include "capture/ClipboardWatcher.h"
 #include "foundation/Localisation.h"
+#include "foundation/Logging.h"
 #include "foundation/UserDefaults.h"
 #include "history/clips/ClipStore.h"
 #include "paste/FileResolution.h"
@@ -76,6 +77,7 @@ void StackWiring::toggle(const std::vector<ClipRef>& seed) {
         return;
     }
     if (!m_parts.target.isTrusted()) {
+        qCInfo(logging::paste) << "no Paste Stack: the session does not let us press keys";
         m_hooks.showToast({QStringLiteral("hand.raised.fill"),
                            localised("Paste Stack needs “Allow Vellumry to paste for you”"),
                            ToastMessage::Tone::warning});
@@ -83,6 +85,7 @@ void StackWiring::toggle(const std::vector<ClipRef>& seed) {
         return;
     }
     if (!m_listener.start()) {
+        qCWarning(logging::paste) << "no Paste Stack: the paste keys cannot be had";
         m_hooks.showToast(
             {QStringLiteral("exclamationmark.triangle.fill"),
              localised("Paste Stack couldn't start. Turn Vellumry on in Privacy & Security → Accessibility"),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "transfer/HistoryExport.h"
 
+#include "foundation/Logging.h"
 #include "transfer/ExportFolder.h"
 
 #include <QPointer>
@@ -64,39 +65,60 @@ QCoro::Task<ExportOutcome> HistoryExport::run(QString path) {
     Folder folder = std::exchange(*created, nullptr);
     const std::vector<ClipRef> clips = m_store->clips();
     for (const ClipRef& clip : clips) {
-        if (clip->isSensitive()) {
-            ++outcome.secrets;
-            continue;
-        }
-        auto reading = m_store->payload(clip->id);
-        std::optional<ClipPayload> payload = co_await reading;
+        auto writing = write(clip, folder, outcome);
+        outcome = co_await writing;
         if (!self)
             co_return outcome;
-        if (m_isStopped) {
-            outcome.result = ExportOutcome::Result::stopped;
+        if (outcome.result != ExportOutcome::Result::done)
             break;
-        }
-        if (!payload) {
-            // One that was deleted meanwhile is no loss.
-            outcome.unreadable += m_store->find(clip->id) ? 1 : 0;
-            continue;
-        }
-        const auto entry = std::make_shared<const ImportEntry>(entryOf(*clip, std::move(*payload)));
-        std::function<Written()> writing = [to = folder.get(), entry] { return to->write(*entry); };
-        auto ending = m_writer.run(std::move(writing));
-        const Written written = co_await ending;
-        if (!written)
-            outcome.result = resultOf(written.error());
-        if (!self)
-            co_return outcome;
-        if (!written)
-            break;
-        ++outcome.clips;
-        onProgress(outcome);
     }
+    auto finishing = finish(std::move(folder), outcome);
+    outcome = co_await finishing;
+    qCInfo(logging::transfer) << "an export has ended: clips" << outcome.clips << "secrets" << outcome.secrets
+                              << "unreadable" << outcome.unreadable << "result" << int(outcome.result);
+    co_return outcome;
+}
+
+/// The outcome so far with what became of this clip.
+QCoro::Task<ExportOutcome> HistoryExport::write(ClipRef clip, std::shared_ptr<ExportFolder> folder,
+                                                ExportOutcome outcome) {
+    if (clip->isSensitive()) {
+        ++outcome.secrets;
+        co_return outcome;
+    }
+    const QPointer<HistoryExport> self(this);
+    auto reading = m_store->payload(clip->id);
+    std::optional<ClipPayload> payload = co_await reading;
+    if (!self)
+        co_return outcome;
+    if (m_isStopped) {
+        outcome.result = ExportOutcome::Result::stopped;
+        co_return outcome;
+    }
+    if (!payload) {
+        // One that was deleted meanwhile is no loss.
+        outcome.unreadable += m_store->find(clip->id) ? 1 : 0;
+        co_return outcome;
+    }
+    const auto entry = std::make_shared<const ImportEntry>(entryOf(*clip, std::move(*payload)));
+    std::function<Written()> writing = [folder, entry] { return folder->write(*entry); };
+    auto ending = m_writer.run(std::move(writing));
+    const Written written = co_await ending;
+    if (!self)
+        co_return outcome;
+    if (!written) {
+        outcome.result = resultOf(written.error());
+        co_return outcome;
+    }
+    ++outcome.clips;
+    onProgress(outcome);
+    co_return outcome;
+}
+
+/// Closes what is complete and takes away what is not, which may last as long as its making.
+QCoro::Task<ExportOutcome> HistoryExport::finish(std::shared_ptr<ExportFolder> folder, ExportOutcome outcome) {
     const bool isComplete = outcome.result == ExportOutcome::Result::done;
-    // Its end, which takes away what is not complete, may last as long as its making.
-    std::function<Written()> finishing = [last = std::exchange(folder, nullptr), isComplete]() mutable {
+    std::function<Written()> finishing = [last = std::move(folder), isComplete]() mutable {
         const Written finished = isComplete ? last->finish() : Written();
         last.reset();
         return finished;

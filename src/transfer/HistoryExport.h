@@ -6,8 +6,11 @@
 #include "transfer/ExportOutcome.h"
 
 #include <QObject>
+#include <memory>
 
 namespace vellumry {
+
+class ExportFolder;
 
 /// Writes the history into a folder of ordinary files, one clip at a time, on a thread of low priority. Sensitive clips
 /// stay out. Either all is there at the end, or nothing. Main thread.
@@ -27,6 +30,10 @@ public:
     std::function<void(const ExportOutcome& soFar)> onProgress = [](const ExportOutcome&) {};
 
 private:
+    [[nodiscard]] QCoro::Task<ExportOutcome> write(ClipRef clip, std::shared_ptr<ExportFolder> folder,
+                                                   ExportOutcome outcome);
+    [[nodiscard]] QCoro::Task<ExportOutcome> finish(std::shared_ptr<ExportFolder> folder, ExportOutcome outcome);
+
     ClipStore* m_store;
     bool m_isStopped = false;
     SerialExecutor m_writer{"export", true};

@@ -3,6 +3,7 @@
 
 #include "capture/PasteboardSnapshot.h"
 #include "capture/PasteboardTypes.h"
+#include "foundation/Logging.h"
 #include "foundation/UniformType.h"
 #include "transfer/FolderSource.h"
 #include "transfer/PeerSource.h"
@@ -51,6 +52,14 @@ void count(ImportOutcome& outcome, const TakenIn& taken) {
         ++outcome.unusable;
         break;
     }
+}
+
+void logEnd(const ImportOutcome& outcome) {
+    qCInfo(logging::transfer) << "an import has ended: added" << outcome.added << "there already"
+                              << outcome.alreadyThere << "secrets" << outcome.secrets << "excluded" << outcome.excluded
+                              << "beyond limits" << outcome.beyondLimits << "without room" << outcome.withoutRoom
+                              << "unusable" << outcome.unusable << "damaged" << outcome.isDamaged << "stopped"
+                              << outcome.isStopped;
 }
 
 } // namespace
@@ -131,6 +140,7 @@ QCoro::Task<ImportOutcome> HistoryImport::run(std::shared_ptr<ImportSource> sour
     }
     // Nothing reads from it now.
     outcome->isDamaged = source->isDamaged();
+    logEnd(*outcome);
     co_return *outcome;
 }
 
@@ -153,7 +163,7 @@ QCoro::Task<void> HistoryImport::takeIn(ImportEntry entry, std::shared_ptr<Impor
     std::optional<ClipDraft> draft = co_await building;
     if (!self)
         co_return;
-    // A pin has rescued it: somebody wanted to keep it.
+    // A pin has rescued it: the user wanted to keep it.
     const bool isSecret = draft && draft->isSensitive && !entry.provenance.isPinned;
     const bool lacksRoom = draft && draft->kind == ClipKind::image && !m_hooks.hasRoomForImages();
     if (!draft || isSecret || lacksRoom) {

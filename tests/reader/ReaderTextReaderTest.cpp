@@ -4,6 +4,7 @@
 #include "reader/HeifBytes.h"
 #include "reader/PictureBytes.h"
 #include "support/Awaited.h"
+#include "support/LoggedLines.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -73,7 +74,9 @@ TEST(ReaderTextReader, AHangingReaderIsEndedAtTheLimitAndTheNextPictureIsRead) {
 
 TEST(ReaderTextReader, ACrashCostsOnePicture) {
     ReaderTextReader reader(fakeReader);
+    const LoggedLines log;
     EXPECT_EQ(awaited(reader.read("crash", Mode::accurate, usual, 60s)).outcome, Outcome::failed);
+    EXPECT_EQ(log.count(QtWarningMsg, u"the reader of pictures died of one"), 1);
     EXPECT_EQ(awaited(reader.read("words", Mode::fast, usual, 60s)).text, QStringLiteral("words"));
 }
 

@@ -292,6 +292,37 @@ def test_stack_beside_klipper():
         paste_in_order(window, ["one", "two", "three", "four", "five"])
 
 
+def test_log():
+    """With everything written, the log never quotes what is copied, typed, pasted or named."""
+    canary = "canary7319"
+    folder = tempfile.mkdtemp(prefix=canary)
+    path = os.path.join(folder, canary)
+    with open(path, "w", encoding="utf-8") as file:
+        file.write(canary)
+    with tempfile.TemporaryFile() as log:
+        with Vellumry("--verbose", stderr=log), Window() as window:
+            copy("file://" + path + "\r\n", "text/uri-list")
+            wait_for_clip(lambda row: representation(row, "public.file-url"), "the file in the history")
+            copy("copied " + canary)
+            wait_for_clip(lambda row: text_of(row) == "copied " + canary, "the copy in the history")
+            open_panel(window)
+            type_text("copied " + canary)
+            press("return")
+            window.wait_text("copied " + canary)
+            settle()
+            run(PROGRAM, "--action", "toggle-stack")
+            copy("stacked " + canary)
+            wait_for_clip(lambda row: text_of(row) == "stacked " + canary, "the copy for the stack")
+            wait_until(lambda: HINT in offered(), "the stack on the clipboard")
+            press("ctrl+v")
+            window.wait_text("copied " + canary + "stacked " + canary)
+        log.seek(0)
+        text = log.read().decode("utf-8", "replace")
+    assert "info vellumry.app: found: " in text, text
+    for line in text.splitlines():
+        same(canary in line, False, line)
+
+
 def test_bindings_are_told():
     """Where no program can hold keys, the status tells the lines that bind them, as this session's compositor understood them."""
     status = subprocess.run([PROGRAM, "--status"], stdout=subprocess.PIPE, timeout=desktop.LIMIT, check=False).stdout.decode()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/file/ClipLoading.h"
 
+#include "foundation/Logging.h"
 #include "foundation/SerialExecutor.h"
 #include "foundation/UnusedMemory.h"
 #include "history/clips/StringPool.h"
@@ -114,6 +115,7 @@ struct ClipLoading::Private {
 
     const SymmetricKey& key;
     Decoder decoder;
+    std::size_t taken = 0;
     std::vector<std::unique_ptr<Batch>> batches;
     std::atomic<int> waiting = 0;
     std::unique_ptr<Decoder> helperDecoder;
@@ -128,6 +130,7 @@ ClipLoading::ClipLoading(const ClipCrypto& crypto)
 ClipLoading::~ClipLoading() = default;
 
 void ClipLoading::take(const SQLiteDatabase::Statement& row) {
+    ++d->taken;
     auto clip = clipOf(row);
     if (!clip)
         return;
@@ -151,6 +154,9 @@ std::vector<ClipRef> ClipLoading::finish() {
             std::rethrow_exception(batch->error);
         std::ranges::move(batch->clips, std::back_inserter(clips));
     }
+    if (clips.size() < d->taken)
+        qCWarning(logging::history) << d->taken - clips.size() << "of" << d->taken
+                                    << "clips cannot be read; they stay in the file";
     // What was sealed is as much again as what was in it.
     d->batches.clear();
     giveBackUnusedMemory();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/accessibility/AccessibilityBus.h"
 
+#include "foundation/Logging.h"
+
 namespace vellumry {
 
 namespace {
@@ -38,6 +40,8 @@ AccessibilityBus::AccessibilityBus(GCancellable* cancellable)
     const QByteArray address = busAddress();
     if (!address.isEmpty())
         m_bus = connect(address.constData());
+    if (!m_bus)
+        qCInfo(logging::accessibility) << "no accessibility bus: password fields are not told apart";
 }
 
 GObjectPointer<GDBusConnection> AccessibilityBus::connect(const char* address) const {

@@ -29,6 +29,9 @@ public:
     }
     [[nodiscard]] explicit operator bool() const { return m_error != nullptr; }
     [[nodiscard]] bool is(GQuark domain, int code) const { return g_error_matches(m_error, domain, code); }
+    /// Which error it is, for the log; its message may quote names that do not belong there.
+    [[nodiscard]] const char* domain() const { return m_error ? g_quark_to_string(m_error->domain) : "none"; }
+    [[nodiscard]] int code() const { return m_error ? m_error->code : 0; }
 
 private:
     GError* m_error = nullptr;

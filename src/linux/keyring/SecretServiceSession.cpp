@@ -2,6 +2,7 @@
 #include "linux/keyring/SecretServiceSession.h"
 
 #include "foundation/Localisation.h"
+#include "foundation/Logging.h"
 #include "linux/keyring/CallDeadline.h"
 
 #include <algorithm>
@@ -68,6 +69,7 @@ void SecretServiceSession::fail(const GErrorReceiver& error) const {
         throw SecretServiceError{KeyFailure::locked};
     if (error.is(G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED))
         throw SecretServiceError{KeyFailure::refused};
+    qCInfo(logging::keyring) << "the keyring gives no answer:" << error.domain() << error.code();
     throw SecretServiceError{KeyFailure::absent};
 }
 

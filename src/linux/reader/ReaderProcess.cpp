@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/reader/ReaderProcess.h"
 
+#include "foundation/Logging.h"
+
 #include <QFile>
 #include <algorithm>
 #include <array>
@@ -117,8 +119,12 @@ ReaderProcess::Answer ReaderProcess::ask(const QByteArray& picture, readerprotoc
         switch (exchange(request, file.get(), end, reply)) {
         case Outcome::answered:
             return {reply};
-        case Outcome::failed:
-            return {std::nullopt, readersocket::Clock::now() >= end};
+        case Outcome::failed: {
+            const bool isLate = readersocket::Clock::now() >= end;
+            qCWarning(logging::readerProcess)
+                << (isLate ? "the reader of pictures took too long over one" : "the reader of pictures died of one");
+            return {std::nullopt, isLate};
+        }
         case Outcome::readerHadLeft:
             break;
         }
@@ -151,8 +157,10 @@ bool ReaderProcess::start() {
         if (!m_isInterrupted)
             process = m_process = spawn(QFile::encodeName(m_path), m_argument, other.get());
     }
-    if (process == 0)
+    if (process == 0) {
+        qCWarning(logging::readerProcess) << "the reader of pictures cannot be started";
         return false;
+    }
     Descriptor end(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
     if (onStarted && end.isValid())
         onStarted(std::move(end));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/sound/ThemeSounds.h"
 
+#include "foundation/Logging.h"
+
 #include <atomic>
 #include <cstdint>
 #include <dlfcn.h>
@@ -46,6 +48,7 @@ struct ThemeSounds::Output {
         playEvent = reinterpret_cast<Play>(dlsym(handle, "ca_context_play"));
         if (create == nullptr || change == nullptr || playEvent == nullptr || create(&context) != 0) {
             context = nullptr;
+            qCInfo(logging::sound) << "libcanberra cannot be used: pastes are silent";
             return;
         }
         change(context, "application.name", "Vellumry", "application.id", "com.vellumry.Vellumry", nullptr);

@@ -5,6 +5,7 @@
 #include "history/file/DatabaseTest.h"
 #include "history/file/RowIdentity.h"
 #include "support/FileSizeLimit.h"
+#include "support/LoggedLines.h"
 
 namespace vellumry {
 namespace {
@@ -170,10 +171,12 @@ TEST_F(ClipDatabaseTest, RowsThatCannotBeReadAreSkippedAndStay) {
     spoil(5, "meta = zeroblob(100)");
     execute(
         ("UPDATE clips SET meta = x'" + database->crypto().seal("no list").toHex() + "' WHERE used = 94;").constData());
+    const LoggedLines log;
     const auto loaded = load(*database);
     ASSERT_EQ(loaded.size(), 2U);
     EXPECT_EQ(*loaded[0], *clips[0]);
     EXPECT_EQ(*loaded[1], *clips[7]);
+    EXPECT_EQ(log.count(QtWarningMsg, u"6 of 8 clips cannot be read"), 1);
     EXPECT_EQ(query("SELECT count(*) FROM clips;"), "8");
 }
 

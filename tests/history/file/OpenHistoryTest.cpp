@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/file/DatabaseTest.h"
 #include "support/FileSizeLimit.h"
+#include "support/LoggedLines.h"
 #include "torture/TestVfs.h"
 
 #include <QRandomGenerator>
@@ -230,7 +231,9 @@ TEST_F(OpenHistoryTest, AnotherKeyPutsTheFileAsideAndItOpensAgainWithItsOwn) {
         insert(*database, someClip(1, u"kept"_s));
     }
     MemoryKeyStore other(SymmetricKey::random());
+    const LoggedLines log;
     EXPECT_TRUE(ClipDatabase::openHistory(m_history.folder(), other).value().recoveredFromDamage);
+    EXPECT_EQ(log.count(QtWarningMsg, u"the history file was put aside"), 1);
     const auto backups = m_history.backups();
     ASSERT_EQ(backups.size(), 1);
     ClipDatabase backup(m_history.folder() + u'/' + backups[0], ClipCrypto(m_history.key()));
