@@ -183,7 +183,6 @@ private:
     std::vector<ToastMessage> m_startMessages; ///< what is still to be told of the start, the next one last
     std::unique_ptr<AlertWindow> m_alert;
     std::unique_ptr<AlertWindow> m_question;
-    QTimer m_maintenance{this};
     QString m_imageVolume;
     std::optional<Date> m_lastLowDiskWarning;
     bool m_isQuitting = false;

@@ -28,6 +28,7 @@
 #include "platform/files/PeerHistories.h"
 #include "platform/files/TextReader.h"
 #include "shell/HistoryFolder.h"
+#include "shell/TimerAlarm.h"
 #include "shell/UpdateController.h"
 
 #include <QString>
@@ -77,6 +78,8 @@ struct Platform {
     std::function<std::vector<Capability>()> findCapabilities = [] { return std::vector<Capability>(); };
     /// The session is one of Wayland, and we see what goes on among its X11 programs.
     bool isWaylandSession = false;
+    /// What the time between two rounds of maintenance is waited with.
+    std::unique_ptr<Alarm> maintenance = std::make_unique<TimerAlarm>(Qt::VeryCoarseTimer);
     /// What time it is.
     Clock clock = currentDate;
     /// Whether there is room for pictures where this folder lies.

@@ -5,9 +5,9 @@
 
 namespace vellumry {
 
-TimerAlarm::TimerAlarm() {
+TimerAlarm::TimerAlarm(Qt::TimerType type) {
     m_timer.setSingleShot(true);
-    m_timer.setTimerType(Qt::PreciseTimer);
+    m_timer.setTimerType(type);
     m_timer.callOnTimeout([this] {
         // The action may set the alarm anew.
         const auto action = std::exchange(m_action, nullptr);

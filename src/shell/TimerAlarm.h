@@ -7,10 +7,10 @@
 
 namespace vellumry {
 
-/// An alarm by the event loop's clock, exact to a few milliseconds.
+/// An alarm by the event loop's clock, exact to a few milliseconds or as `type` says.
 class TimerAlarm : public Alarm {
 public:
-    TimerAlarm();
+    explicit TimerAlarm(Qt::TimerType type = Qt::PreciseTimer);
     void ring(std::chrono::milliseconds delay, std::function<void()> action) override;
     void cancel() override;
 

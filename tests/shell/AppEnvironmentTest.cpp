@@ -123,14 +123,12 @@ TEST_F(AppEnvironmentTest, TheLimitsAtLaunchAreThoseOfThePreferences) {
 
 TEST_F(AppEnvironmentTest, ALimitChangedBehindItsBackCountsAtTheNextTick) {
     start();
-    ASSERT_TRUE(maintenance());
-    EXPECT_TRUE(maintenance()->isActive());
-    EXPECT_EQ(maintenance()->interval(), 15'000);
     for (const char* text : {"one", "two", "three"})
         keep(text);
     defaults->setObject(QStringLiteral("keepAtMost"), 1);
+    maintenance->pass(std::chrono::milliseconds(14'999));
     EXPECT_EQ(store().clips().size(), 3U);
-    maintain();
+    maintenance->pass(std::chrono::milliseconds(1));
     ASSERT_EQ(store().clips().size(), 1U);
     EXPECT_EQ(store().clips().front()->title, QStringLiteral("three"));
 }

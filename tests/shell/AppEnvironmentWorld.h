@@ -4,8 +4,6 @@
 #include "paste/Shortcut.h"
 #include "shell/AppWorld.h"
 
-#include <QTimer>
-
 namespace vellumry {
 
 /// One run of the environment after the other, on one computer.
@@ -47,9 +45,8 @@ protected:
         awaited(store().setPinned(store().clips().front()->id, true, time.clock()()));
     }
     bool press(const Shortcut& shortcut) { return hotKeys->press({shortcut.keyCode, shortcut.modifiers}); }
-    [[nodiscard]] QTimer* maintenance() const { return environment->findChild<QTimer*>(); }
-    /// The maintenance timer's interval has passed.
-    void maintain() const { QMetaObject::invokeMethod(maintenance(), "timeout"); }
+    /// The time between two rounds of maintenance has passed.
+    void maintain() const { maintenance->pass(std::chrono::seconds(15)); }
 
     Platform platform;
     std::unique_ptr<AppEnvironment> environment;

@@ -5,6 +5,7 @@
 #include "shell/AppEnvironment.h"
 #include "support/Awaited.h"
 #include "support/Drafts.h"
+#include "support/FakeAlarm.h"
 #include "support/FakeFileBookmarks.h"
 #include "support/FakeFolderWatching.h"
 #include "support/FakeHotKeyRegistrar.h"
@@ -93,6 +94,7 @@ protected:
         put(platform.textReader, textReader, std::make_unique<FakeTextReader>());
         put(platform.images, images, std::make_unique<FakeImageCodec>());
         put(platform.folders, folders, std::make_unique<FakeFolderWatching>());
+        put(platform.maintenance, maintenance, std::make_unique<FakeAlarm>());
         if (!isFirstStart)
             defaults->setObject(QStringLiteral("onboardingDone"), true);
         platform.settingsFolder = settingsFolder;
@@ -165,6 +167,7 @@ protected:
     FakeTextReader* textReader = nullptr;
     FakeImageCodec* images = nullptr;
     FakeFolderWatching* folders = nullptr;
+    FakeAlarm* maintenance = nullptr;
 };
 
 } // namespace vellumry
