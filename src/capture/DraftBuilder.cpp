@@ -109,8 +109,8 @@ QCoro::Task<std::optional<ClipDraft>> classified(ClipDraft draft) {
         return classifiedNow(std::move(draft));
     };
     auto classifying = runDetached(std::move(job), longestClassifying);
-    const std::optional<std::optional<ClipDraft>> outcome = co_await classifying;
-    result = outcome.value_or(std::nullopt);
+    auto outcome = co_await classifying;
+    result = std::move(outcome).value_or(std::nullopt);
     co_return result;
 }
 

@@ -139,8 +139,8 @@ qint64 ThreadedPasteboard::copyCount() const {
 bool ThreadedPasteboard::own(PasteboardClaim claim) {
     m_ownContents.reset();
     m_service->claim(claim);
-    const std::optional<std::optional<qint64>> count = claim.result.waitFor(m_limits.ownership);
-    if (!count || !*count) {
+    const std::optional<qint64> count = claim.result.waitFor(m_limits.ownership).value_or(std::nullopt);
+    if (!count) {
         // What comes too late must not stay: the caller has been told that it is not there.
         if (!claim.isTakeover)
             qCWarning(logging::pasteboard)
@@ -150,7 +150,7 @@ bool ThreadedPasteboard::own(PasteboardClaim claim) {
         return false;
     }
     m_ownContents = claim.contents;
-    m_ownChangeCount = **count;
+    m_ownChangeCount = *count;
     dropOldSecret();
     return true;
 }
@@ -162,8 +162,7 @@ bool ThreadedPasteboard::offerAsPrimary() {
     claim.contents = m_ownContents;
     claim.isPrimary = true;
     m_service->claim(claim);
-    const std::optional<std::optional<qint64>> count = claim.result.waitFor(m_limits.ownership);
-    if (count && *count) {
+    if (claim.result.waitFor(m_limits.ownership).value_or(std::nullopt)) {
         m_primaryContents = m_ownContents;
         m_primaryChangeCount = m_ownChangeCount;
         return true;

@@ -10,7 +10,7 @@ namespace vellumry {
 
 namespace {
 
-/// At a time, from one owner: others, and those who read from us, have their turn too.
+/// At a time, from one owner: other owners, and readers of ours, have their turn too.
 constexpr qsizetype mostBytesAtATime = 4 * 1024 * 1024;
 constexpr qsizetype leastRoom = 64 * 1024;
 
@@ -39,12 +39,12 @@ void PipeReader::handle(const std::vector<pollfd>& descriptors, Instant now) {
         });
         if (!isReady)
             continue;
-        if (auto outcome = take(*transfer, now))
-            finish(transfer, std::move(*outcome));
+        if (auto ending = take(*transfer, now))
+            finish(transfer, std::move(ending->outcome));
     }
 }
 
-std::optional<std::optional<PipeReader::Outcome>> PipeReader::take(Transfer& transfer, Instant now) {
+std::optional<PipeReader::Ending> PipeReader::take(Transfer& transfer, Instant now) {
     QByteArray& collected = transfer.collected;
     for (qsizetype taken = 0; taken < mostBytesAtATime;) {
         const qsizetype size = collected.size();
@@ -55,11 +55,11 @@ std::optional<std::optional<PipeReader::Outcome>> PipeReader::take(Transfer& tra
         if (got < 0 && (errno == EAGAIN || errno == EINTR))
             return std::nullopt;
         if (got < 0)
-            return std::optional<Outcome>();
+            return Ending();
         if (got == 0)
-            return Outcome{std::exchange(collected, {}), false};
+            return Ending{Outcome{std::exchange(collected, {}), false}};
         if (collected.size() > transfer.request.maxBytes)
-            return Outcome{{}, true};
+            return Ending{Outcome{{}, true}};
         taken += got;
         transfer.overdue = now + transfer.request.silence;
     }

@@ -50,8 +50,11 @@ private:
     };
     using Transfers = std::list<Transfer>;
 
-    /// What became of the transfer, once it is over.
-    [[nodiscard]] static std::optional<std::optional<Outcome>> take(Transfer& transfer, Instant now);
+    /// The end of a transfer, without an outcome when its pipe failed.
+    struct Ending {
+        std::optional<Outcome> outcome;
+    };
+    [[nodiscard]] static std::optional<Ending> take(Transfer& transfer, Instant now);
     void finish(Transfers::iterator transfer, std::optional<Outcome> outcome);
 
     Transfers m_transfers;
