@@ -10,7 +10,7 @@ namespace vellumry {
 
 namespace {
 
-constexpr int patienceMilliseconds = 15000;
+constexpr int patienceMilliseconds = 60'000;
 
 constexpr auto configuration = R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
@@ -87,7 +87,7 @@ bool PrivateBus::startKeyring() {
     m_keyring.waitForBytesWritten(patienceMilliseconds);
     m_keyring.closeWriteChannel();
     return output(QStringLiteral("gdbus"), {QStringLiteral("wait"), QStringLiteral("--session"),
-                                            QStringLiteral("--timeout=15"), QStringLiteral("org.freedesktop.secrets")})
+                                            QStringLiteral("--timeout=60"), QStringLiteral("org.freedesktop.secrets")})
         .has_value();
 }
 

@@ -163,7 +163,7 @@ void TortureRun::runWorker() {
             ++count;
         }
     };
-    while (count < most && lines.fill(20s))
+    while (count < most && lines.fill(60s))
         takeAll();
     const auto end = std::chrono::steady_clock::now() + std::chrono::microseconds(m_random() % 4000);
     const auto left = [end] { return end - std::chrono::steady_clock::now(); };

@@ -121,7 +121,7 @@ protected:
     PrivateBus bus;
     FakeAccessibility desktop;
     QDBusConnection connection = QDBusConnection::connectToBus(bus.address(), QStringLiteral("desktop"));
-    PasswordFocus focus{std::chrono::seconds(5)};
+    PasswordFocus focus{std::chrono::minutes(1)};
 };
 
 } // namespace

@@ -25,7 +25,7 @@ protected:
         write(program("1.0"));
         makeUpdater();
     }
-    void makeUpdater() {
+    void makeUpdater(std::chrono::seconds limit = std::chrono::minutes(1)) {
         AppImageUpdater::Options options;
         options.program = path;
         options.version = QStringLiteral("1.0");
@@ -34,8 +34,8 @@ protected:
         options.defaults = &defaults;
         options.endProgram = [this] { ++ends; };
         options.clock = [this] { return now; };
-        options.feedLimit = std::chrono::seconds(3);
-        options.fileLimit = std::chrono::seconds(3);
+        options.feedLimit = limit;
+        options.fileLimit = limit;
         updater = std::make_unique<AppImageUpdater>(std::move(options));
         updater->willInstallOnQuit = [this](const SoftwareUpdater::Item& item, std::function<void()> installNow) {
             offered.append(item.displayVersion);
@@ -181,7 +181,9 @@ TEST_F(AppImageUpdaterTest, AFileThatIsNotWhatWasSignedIsRefused) {
     server.serveRaw(QStringLiteral("/V.AppImage"), "HTTP/1.1 200 OK\r\n\r\n", QByteArray(4096, 'x'));
     expectRefused("endless");
     server.hang(QStringLiteral("/V.AppImage"));
+    makeUpdater(std::chrono::seconds(3));
     expectRefused("silent");
+    makeUpdater();
     server.serveRaw(QStringLiteral("/V.AppImage"), "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: " +
                                                        server.url("/other").toEncoded() + "\r\n\r\n");
     server.serve(QStringLiteral("/other"), good);
@@ -206,7 +208,9 @@ TEST_F(AppImageUpdaterTest, AFeedThatIsNotWhatWasSignedIsRefused) {
     server.serveRaw(feed, "HTTP/1.1 200 OK\r\n\r\n", QByteArray(4096, 'x'));
     expectRefused("endless");
     server.hang(feed);
+    makeUpdater(std::chrono::seconds(3));
     expectRefused("silent");
+    makeUpdater();
     server.serveRaw(feed, "HTTP/1.1 301 Moved\r\nContent-Length: 0\r\nLocation: " + server.url("/other").toEncoded() +
                               "\r\n\r\n");
     server.serve(QStringLiteral("/other"), good);

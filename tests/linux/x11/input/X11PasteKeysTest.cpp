@@ -218,7 +218,7 @@ TEST_F(X11PasteKeysTest, AProgramThatLooksFirstGetsItsKeyAfterItsLook) {
     X11PasteKeys::Options looking = options();
     looking.wasListed = [&wasListed] { return wasListed.load(); };
     looking.looksFirst = [] { return true; };
-    looking.holdLimit = 10s;
+    looking.holdLimit = 60s;
     X11PasteKeys polite(looking);
     polite.onPress = [this](const KeyPress& press, std::shared_ptr<HeldKey> key) { presses.push_back({press, key}); };
     ASSERT_TRUE(polite.start());

@@ -14,7 +14,7 @@ namespace vellumry {
 
 namespace {
 
-constexpr int startMilliseconds = 10000;
+constexpr int startMilliseconds = 60'000;
 constexpr int probeMilliseconds = 100;
 
 void startChild(QProcess& process, const QString& program, const QStringList& arguments) {

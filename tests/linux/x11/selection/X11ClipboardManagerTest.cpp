@@ -6,7 +6,18 @@ namespace vellumry {
 
 namespace {
 
-using X11ClipboardManager = X11PasteboardWorld;
+class X11ClipboardManager : public X11PasteboardWorld {
+protected:
+    void SetUp() override {
+        X11PasteboardWorld::SetUp();
+        waitForPart();
+    }
+    /// The part is taken a moment after the connection is made; until then the server itself refuses what is asked.
+    void waitForPart() {
+        HostileOwner& looking = peer();
+        ASSERT_TRUE(eventually([&] { return looking.hasOwner("CLIPBOARD_MANAGER"); }));
+    }
+};
 
 TEST_F(X11ClipboardManager, ASessionWithoutClipboardManagerHasOneInUs) {
     HostileOwner& quitting = peer();

@@ -94,15 +94,19 @@ TEST_F(X11PasteboardReaders, OthersAreServedWhileTheMainThreadIsBusy) {
                   QStringLiteral("clipboard"), QStringLiteral("-o")});
     ASSERT_TRUE(reader.waitForFinished(60000));
     EXPECT_EQ(reader.readAllStandardOutput(), "busy");
+    catchUp();
     EXPECT_TRUE(pasteboard->wasServed());
 }
 
 TEST_F(X11PasteboardReaders, WhatWasServedIsKnownForThePresentContentsOnly) {
     ASSERT_TRUE(write({{uniformtype::utf8PlainText, "one"}}));
     HostileOwner& requestor = peer();
+    // The requestor has its answer a moment before it is noted.
     targetsOf(requestor);
+    catchUp();
     EXPECT_FALSE(pasteboard->wasServed());
     ask(requestor, "UTF8_STRING");
+    catchUp();
     EXPECT_TRUE(pasteboard->wasServed());
     ASSERT_TRUE(write({{uniformtype::utf8PlainText, "two"}}));
     EXPECT_FALSE(pasteboard->wasServed());
@@ -117,19 +121,24 @@ TEST_F(X11PasteboardReaders, OnlyTheProgramWithTheKeyboardCountsAsServed) {
     ASSERT_TRUE(write({{uniformtype::utf8PlainText, "one"}}));
     targetsOf(manager);
     EXPECT_EQ(ask(manager, "UTF8_STRING").bytes, "one");
+    catchUp();
     EXPECT_FALSE(pasteboard->wasListed());
     EXPECT_FALSE(pasteboard->wasServed());
     targetsOf(target);
+    catchUp();
     EXPECT_TRUE(pasteboard->wasListed());
     EXPECT_FALSE(pasteboard->wasServed());
     EXPECT_EQ(ask(target, "UTF8_STRING").bytes, "one");
+    catchUp();
     EXPECT_TRUE(pasteboard->wasServed());
     // The same for what a terminal takes from the primary selection.
     ASSERT_TRUE(write({{uniformtype::utf8PlainText, "two"}}));
     ASSERT_TRUE(pasteboard->offerAsPrimary());
     ask(manager, "UTF8_STRING", "PRIMARY");
+    catchUp();
     EXPECT_FALSE(pasteboard->wasServed());
     ask(target, "UTF8_STRING", "PRIMARY");
+    catchUp();
     EXPECT_TRUE(pasteboard->wasServed());
 }
 

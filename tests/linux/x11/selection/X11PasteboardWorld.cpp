@@ -14,7 +14,7 @@ namespace vellumry {
 
 namespace {
 
-constexpr int startMilliseconds = 15000;
+constexpr int startMilliseconds = 60'000;
 
 } // namespace
 
