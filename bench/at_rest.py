@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the built program costs while nobody uses it, beside CopyQ, with 5,000 clips and an icon in a tray: processor time and wake-ups in
+"""What the built program costs at rest, beside CopyQ, with 5,000 clips and an icon in a tray: processor time and wake-ups in
 60 s, and the memory 20 s after panel, settings and menu were used once. Run inside scripts/headless-session. Prints a table; nothing
 here passes or fails.
 """

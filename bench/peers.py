@@ -177,7 +177,7 @@ class OnTheBus(Tool):
     def ask(self, method, arguments=None):
         try:
             answer = self.bus.call_sync(*self.place, method, arguments, None, Gio.DBusCallFlags.NO_AUTO_START, 5000)
-        except GLib.Error:  # nobody answers, or there is no entry yet
+        except GLib.Error:  # no answer, or no entry yet
             return None
         return str(answer.unpack())
 

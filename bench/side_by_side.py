@@ -61,7 +61,7 @@ class Owner:
             time.sleep(0.0005)
 
     def close(self):
-        """An owner that nobody serves would keep the next tool waiting."""
+        """An owner that does not answer would keep the next tool waiting."""
         self.display.close()
 
     def answer(self, request):

@@ -36,7 +36,7 @@ FilePlaces placesWith(const QString& desktop, const QString& documents, const QS
 FilePlaces FilePlaces::ofUser(const QString& home) {
     const auto folder = [&home](QStandardPaths::StandardLocation location, const QString& usual) {
         const QString path = QStandardPaths::writableLocation(location);
-        // A user who switched such a folder off has it set to the home folder itself, which is no protected place.
+        // A folder that was switched off is set to the home folder itself, which is no protected place.
         const bool isSet = !path.isEmpty() && fileurl::standardized(path) != fileurl::standardized(home);
         return isSet ? path : home + usual;
     };

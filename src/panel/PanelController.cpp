@@ -189,8 +189,8 @@ void PanelController::hide() {
     m_forget.start();
 }
 
-/// Who looks for a secret types or pastes it into the field, where it would stay until the panel is opened again; and
-/// in the strings that QML made of it until chance calls for memory.
+/// A secret that was searched for would stay in the field until the panel is opened again, and in the strings that QML
+/// made of it until the next garbage collection.
 void PanelController::forgetTyped() {
     m_model.setQuery({});
     m_model.store().forgetSearch();

@@ -71,7 +71,7 @@ void PanelFacade::setFilter(int filter) {
 }
 
 void PanelFacade::pasteIntoField() {
-    // One at a time: keys pressed while an owner keeps silent shall not pile up.
+    // One at a time: keys pressed while an owner stalls must not pile up.
     if (m_fetchedFor != m_showing)
         fetchPasted(m_showing);
 }

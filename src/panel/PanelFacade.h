@@ -74,7 +74,7 @@ public:
     /// The press was taken away.
     Q_INVOKABLE void pressCancelled();
     Q_INVOKABLE void rowDoubleClicked(int modifiers);
-    /// Pastes that row, for those who have no pointer.
+    /// Pastes that row: the press action of assistive technology.
     Q_INVOKABLE void rowActivated(int row);
     /// The identity of that row's clip, empty for none; and the way back, -1 for a clip that is not listed.
     Q_INVOKABLE [[nodiscard]] QString clipIDOfRow(int row) const;

@@ -11,7 +11,7 @@
 namespace vellumry {
 
 /// The panel model's sections as the rows of a list: a header, then its clips. A change rebinds the rows that stay and
-/// adds or removes at the end, so that a keystroke makes no delegate anew. While nobody sees the list it may lie
+/// adds or removes at the end, so that a keystroke makes no delegate anew. While the list is hidden it may lie
 /// dormant: it then falls behind the model until told to catch up. Main thread.
 class PanelListModel : public QAbstractListModel {
     Q_OBJECT

@@ -141,7 +141,7 @@ public:
     void addSelectedToStack() { onAddToStack(selectedClipsInCopyOrder()); }
     /// The selected clips by their last use, oldest first.
     [[nodiscard]] std::vector<ClipRef> selectedClipsInCopyOrder() const;
-    /// What a Paste Stack begins with that nobody named clips for: several selected clips, or nothing.
+    /// What a Paste Stack begins with when no clips are named: several selected clips, or nothing.
     [[nodiscard]] std::vector<ClipRef> stackSeed() const;
 
     // Observed fields.

@@ -45,7 +45,7 @@ public:
 
     /// The stored shortcut; nothing when none was chosen or it cannot be read.
     [[nodiscard]] std::optional<Shortcut> shortcut(const QString& key) const;
-    /// A shortcut equal to `fallback` is not stored, so that a later change of the default reaches who never chose.
+    /// A shortcut equal to `fallback` is not stored, so that users that never chose one follow a new default.
     void setShortcut(const Shortcut& shortcut, const Shortcut& fallback, const QString& key);
 
     /// Where the user dragged the panel on the display that `key` names; nothing when never, or when the entry is

@@ -63,7 +63,7 @@ public:
 
     SettingsActions actions;
 
-    /// Shows what the file says now; for when it was changed by somebody else.
+    /// Shows what the file says now; for when another program changed it.
     void refresh();
     /// Asks the desktop for everything that the file does not say: before the window is shown, and when the user comes
     /// back to it.

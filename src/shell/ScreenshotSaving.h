@@ -23,7 +23,7 @@ public:
     /// Switches saving on or off and stores what came of it. False only when it was to be switched on and no folder
     /// could be opened.
     QCoro::Task<bool> setSaving(bool isWanted);
-    /// The preference was changed by somebody else: does what it says now.
+    /// The preference was changed in the file: does what it says now.
     QCoro::Task<void> follow();
     /// The menu's variant: the other way round from the preference, and what came of switching it on is shown.
     QCoro::Task<void> toggle();

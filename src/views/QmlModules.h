@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-// The functions that Qt generates to register the C++ types of a QML module. Nobody calls them, so a linker leaves them
-// out of a static library unless somebody names them: whoever shows a view of a module keeps its types.
+// The functions that Qt generates to register the C++ types of a QML module. Nothing calls them, so a linker leaves
+// them out of a static library unless they are named: code that shows a view of a module keeps its types.
 
 void qml_register_types_Vellumry_Views();
 void qml_register_types_Vellumry_Panel();

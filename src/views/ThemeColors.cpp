@@ -94,7 +94,7 @@ void tint(ThemeColors& colors, const QColor& accent, bool isDark) {
     colors.pressedButton = mixed(colors.button, isDark ? QColor(Qt::white) : QColor(Qt::black), 0.22);
 }
 
-/// For who sees contrasts badly: nothing of what says something is fainter than its purpose needs.
+/// High contrast: no text or symbol is fainter than the guidelines ask for.
 void strengthen(ThemeColors& colors, bool isDark) {
     const QColor strongest = isDark ? QColor(Qt::white) : QColor(Qt::black);
     colors.ground = isDark ? QColor(Qt::black) : QColor(Qt::white);

@@ -26,7 +26,7 @@ struct FileIdentity {
     [[nodiscard]] bool isOnSameFileSystem(const FileIdentity& other) const;
 };
 
-/// A remembered file: who it was and where. Encoded as opaque bytes with a version in front.
+/// A remembered file: which it was and where. Encoded as opaque bytes with a version in front.
 struct FileBookmark {
     FileIdentity identity;
     QByteArray path; ///< as the file system spells it

@@ -35,7 +35,7 @@ public:
     PolledBus& operator=(const PolledBus&) = delete;
 
     [[nodiscard]] bool isBroken() const { return g_dbus_connection_is_closed(m_connection.get()) != FALSE; }
-    /// Asks for a bus name, without waiting in line for it. Waits for the bus. False when somebody else has it.
+    /// Asks for a bus name, without waiting in line for it. Waits for the bus. False when another client has it.
     [[nodiscard]] bool own(const char* name);
     /// Whether a bus name has an owner. Waits for the bus.
     [[nodiscard]] bool hasOwner(const char* name);

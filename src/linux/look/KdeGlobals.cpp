@@ -20,7 +20,7 @@ using namespace std::chrono_literals;
 constexpr auto readingLimit = 5s;
 constexpr qint64 longestFile = 256 * 1024;
 
-/// "group/key" to the value; a key may carry marks in brackets, which say who may change it.
+/// "group/key" to the value; a key may carry flags in brackets, which restrict changes.
 QHash<QString, QString> entriesOf(const QByteArray& text) {
     QHash<QString, QString> entries;
     QString group;

@@ -18,7 +18,7 @@ class OfferedContents {
 public:
     /// What a list of files asks the file manager to do with them.
     enum class FileOperation {
-        copy,    ///< whatever the list said when it was copied: who pastes files from the history keeps them
+        copy,    ///< whatever the list said when it was copied: a paste from the history never moves files
         asCopied ///< move them if they were cut
     };
 

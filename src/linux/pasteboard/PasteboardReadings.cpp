@@ -100,7 +100,7 @@ QStringList ForeignReading::State::declaredTypes() const {
 /// Each file is an item; the first carries whatever else was offered.
 std::vector<QStringList> ForeignReading::State::typesByItem() const {
     QStringList first = declaredTypes();
-    // pcmanfm takes files that were cut off the clipboard as soon as somebody has read this list: the user could not
+    // pcmanfm takes files that were cut off the clipboard as soon as any program has read this list: the user could not
     // paste them any more. The list of addresses and KDE's hint say the same and can be read.
     if (offer->targets().contains(filelist::uriList) && offer->targets().contains(filelist::cutSelection))
         first.removeAll(filelist::copiedFiles);

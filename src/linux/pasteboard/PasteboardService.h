@@ -41,7 +41,7 @@ public:
     [[nodiscard]] virtual qint64 copyCount() const = 0;
     /// True once a program that may be pasting took content of what we hold on the clipboard. Any thread.
     [[nodiscard]] virtual bool wasServed() const = 0;
-    /// The same for anything of it, be it the list of its types. Any thread.
+    /// The same for anything of it, the list of its types included. Any thread.
     [[nodiscard]] virtual bool wasListed() const = 0;
 
     virtual void claim(PasteboardClaim claim) = 0;

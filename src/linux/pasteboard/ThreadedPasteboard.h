@@ -37,9 +37,9 @@ public:
     /// Waits as `write`.
     bool offerAsPrimary();
     /// True once the program that has the keyboard took content, not just the list of types, of what was last written;
-    /// any program where the service cannot tell who has it. Any thread.
+    /// any program where the service cannot tell which one has it. Any thread.
     [[nodiscard]] bool wasServed() const;
-    /// The same for anything of it, be it the list of types. Any thread.
+    /// The same for anything of it, the list of types included. Any thread.
     [[nodiscard]] bool wasListed() const;
     /// Asked before `onOwnerGone` is called, where the display server's word is not enough. Once, before the first
     /// copy.

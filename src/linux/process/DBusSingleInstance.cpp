@@ -69,7 +69,7 @@ bool DBusSingleInstance::isAnotherCopyRunning() {
 }
 
 bool DBusSingleInstance::claimName() {
-    // The object first: who sees the name may call at once.
+    // The object first: callers may come as soon as the name is there.
     m_bus.registerObject(objectPath(), &m_object, QDBusConnection::ExportAdaptors);
     const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply = m_bus.interface()->registerService(
         busName(), QDBusConnectionInterface::DontQueueService, QDBusConnectionInterface::DontAllowReplacement);

@@ -10,7 +10,7 @@ class ClassicIcon {
 public:
     virtual ~ClassicIcon() = default;
 
-    /// Somebody clicked on it, with whatever button.
+    /// It was clicked, with whatever button.
     std::function<void()> onClicked = [] {};
     /// `isShown` answers otherwise.
     std::function<void()> onShownChanged = [] {};

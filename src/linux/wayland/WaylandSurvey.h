@@ -16,7 +16,7 @@ struct WaylandSurvey {
     bool hasClipboard = false; ///< data control, of either name
     bool hasPanels = false;    ///< the layer shell
     bool hasPasteKey = false;
-    bool hasWindows = false; ///< who is in front
+    bool hasWindows = false; ///< which window is in front
     bool isPlasma = false;
     QString clipboardProtocol;
 

@@ -13,7 +13,7 @@ namespace vellumry {
 enum class KeyFailure {
     absent,    ///< there is no service that keeps secrets, or it does not answer
     uncertain, ///< no key where the service could look, but it could not look everywhere, or has no keyring at all
-    locked,    ///< the keyring is locked, and nobody unlocked it
+    locked,    ///< the keyring is locked and stayed so
     refused,   ///< the service, or the user, does not give the key or take it
     damaged,   ///< what is kept under the key's name is no key
 };

@@ -17,7 +17,7 @@ public:
         QString displayVersion;
         bool isCritical = false;
     };
-    /// Why a check came to nothing, for those who asked for one.
+    /// Why a check came to nothing, for a user that asked for one.
     enum class Outcome : quint8 { upToDate, failed };
 
     virtual ~SoftwareUpdater() = default;

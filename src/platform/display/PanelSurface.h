@@ -25,9 +25,9 @@ public:
     virtual ~PanelSurface() = default;
     /// Called once before the window is first shown: not in task bars or switchers, no decoration, always above.
     virtual void adopt(QWindow* window) = 0;
-    /// Maps the window at `frame` with the keyboard; remembers who had it. `frame` absent: where it last was.
+    /// Maps the window at `frame` with the keyboard; remembers what had it. `frame` absent: where it last was.
     virtual void present(QWindow* window, std::optional<QRect> frame) = 0;
-    /// Unmaps it; the keyboard goes back to who had it, unless the user gave it to somebody else meanwhile.
+    /// Unmaps it; the keyboard goes back to what had it, unless the user focused something else meanwhile.
     virtual void dismiss(QWindow* window) = 0;
     /// Maps a window that never takes keyboard or (with `clickThrough`) pointer.
     virtual void presentPassive(QWindow* window, QRect frame, bool clickThrough) = 0;
@@ -43,7 +43,7 @@ public:
     /// The display that holds most of `frame`.
     [[nodiscard]] virtual std::optional<ScreenPlace> screenOf(const QRect& frame) const = 0;
 
-    /// The presented window lost the keyboard to somebody else.
+    /// The presented window lost the keyboard to another one.
     std::function<void(QWindow*)> onFocusLost;
 };
 

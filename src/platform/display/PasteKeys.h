@@ -66,7 +66,7 @@ public:
     /// True where a press cannot be held back, and is told of when it has been served: what it is to paste must stand
     /// on the pasteboard before. False where it can.
     [[nodiscard]] virtual bool wantsNext() const { return false; }
-    /// What the next press is to paste; absent for nothing new. For those who want it, while started.
+    /// What the next press is to paste; absent for nothing new. For implementations that want it, while started.
     virtual void expect(std::optional<std::vector<PasteboardItem>> items) { Q_UNUSED(items) }
     /// Called on the main thread for each press of such a key; the next comes when this one was let go of. A press that
     /// follows a paste comes when the program in front has fetched what it was to paste, or is taken not to want it.

@@ -24,7 +24,7 @@ public:
     /// Both fields empty when no application is in front.
     [[nodiscard]] virtual SourceApp current() const = 0;
     /// The application whose program put on the pasteboard what is there now; it may have hidden its window since. Both
-    /// fields empty when the pasteboard has no owner or the owner has no window that says who it is.
+    /// fields empty when the pasteboard has no owner or the owner has no window that identifies it.
     [[nodiscard]] virtual SourceApp pasteboardOwner() const { return {}; }
 };
 

@@ -116,7 +116,7 @@ bool GlobalAccelHotKeys::grab(quint32 id, KeyCode keyCode, Modifiers modifiers) 
     asked(m_bus, QStringLiteral("doRegister"), {names});
     const QList<Keys> wanted{Keys{{key, 0, 0, 0}}};
     asked(m_bus, QStringLiteral("setShortcutKeys"), {names, QVariant::fromValue(wanted), setPresent | noAutoloading});
-    // A key of somebody else's is not given, and no error says so.
+    // A key that another component holds is not given, without an error.
     const QDBusMessage answer = asked(m_bus, QStringLiteral("shortcutKeys"), {names});
     const auto given = qdbus_cast<QList<Keys>>(answer.arguments().value(0));
     const bool isOurs = !given.isEmpty() && given.front().keys.value(0) == key;

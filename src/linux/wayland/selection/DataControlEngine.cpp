@@ -116,7 +116,7 @@ QStringList DataControlEngine::offeredTypes(const OfferedContents& contents) con
     return types;
 }
 
-/// Only as long as the compositor has not given the clipboard to somebody else.
+/// Only as long as the compositor has not given the clipboard to another client.
 bool DataControlEngine::canSwap(const OfferedContents& contents) const {
     return m_clipboard.source && m_clipboard.types == offeredTypes(contents);
 }

@@ -17,7 +17,7 @@ namespace vellumry {
 /// The pasteboard's side of the conversation with a compositor: follows the clipboard, reads it, owns it. Pasteboard
 /// thread, but for what says "any thread".
 ///
-/// Data control tells of every selection, our own included, and never who set it: one that offers what our source
+/// Data control tells of every selection, our own included, and never what set it: one that offers what our source
 /// offers, while that has not been cancelled, is ours.
 class DataControlEngine {
 public:

@@ -12,7 +12,7 @@
 
 namespace vellumry {
 
-/// Writes what we hold into the pipes of those who asked for it, several at once. A reader that stops reading loses
+/// Writes what we hold into the pipes of its requestors, several at once. A reader that stops reading loses
 /// its pipe after a while; with hundreds of them the one that has stood longest goes first. One thread, which must have
 /// SIGPIPE blocked; time is handed in.
 class PipeWriter {

@@ -38,7 +38,7 @@ public:
     class Source {
     public:
         virtual ~Source() = default;
-        /// Somebody wants the bytes of a type.
+        /// Another client wants the bytes of a type.
         std::function<void(const QString& mimeType, Descriptor pipe)> onSend;
         /// During `onSend`: it is the session's own keeper, which copies what is new, as far as that is known.
         bool isForKeeper = false;

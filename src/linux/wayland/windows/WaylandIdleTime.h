@@ -12,7 +12,7 @@ struct ext_idle_notification_v1;
 namespace vellumry {
 
 /// How long ago the user last pressed a key or moved the pointer, as the compositor tells (ext-idle-notify-v1): nothing
-/// until they have rested for a while, so that somebody at work is not followed key by key. Main thread.
+/// until they have rested for a while, so that typing does not wake the program key by key. Main thread.
 class WaylandIdleTime {
 public:
     /// Rests shorter than `rest` count as none.

@@ -27,7 +27,7 @@ public:
         std::function<bool()> looksFirst;
         /// Offers what was last written as the primary selection too, which terminals paste on Shift+Insert.
         std::function<void()> offerAsPrimary;
-        /// Where those who press paste keys for the program announce it.
+        /// Where code that presses paste keys for the program announces it.
         std::shared_ptr<InjectedPresses> injected;
         std::chrono::milliseconds holdLimit{150};
         std::chrono::milliseconds servedLimit{600};

@@ -35,8 +35,8 @@ public:
     /// Told when the part has become ours.
     std::function<void(xcb_timestamp_t)> onPartTaken = [](xcb_timestamp_t) {};
 
-    /// The clipboard has another owner: what is waited for no longer matters. `isSafe` when that is us, who keep
-    /// what we have.
+    /// The clipboard has another owner: what is waited for no longer matters. `isSafe` when that is us: our own
+    /// contents last.
     void ownerChanged(bool isSafe);
     /// Capture has done with what the present owner offers.
     void settle(bool wasKept);

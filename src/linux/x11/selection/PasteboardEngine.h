@@ -20,8 +20,8 @@ struct xcb_xfixes_selection_notify_event_t;
 
 namespace vellumry {
 
-/// The pasteboard's side of the conversation with the X server: follows who owns the clipboard, reads it, owns it, and
-/// stands in as clipboard manager where the session has none. Pasteboard thread, but for what says "any thread".
+/// The pasteboard's side of the conversation with the X server: follows the owner of the clipboard, reads it, owns it,
+/// and stands in as clipboard manager where the session has none. Pasteboard thread, but for what says "any thread".
 class PasteboardEngine {
 public:
     using Instant = SelectionReader::Instant;
@@ -40,7 +40,7 @@ public:
     /// as clipboard managers and remote desktops, take it at any time and say nothing of a paste. Where no window has
     /// the keyboard any reader counts. Any thread.
     [[nodiscard]] bool wasServed() const { return m_wasServed.load(std::memory_order_acquire); }
-    /// The same for anything of it, be it the list of its types. Any thread.
+    /// The same for anything of it, the list of its types included. Any thread.
     [[nodiscard]] bool wasListed() const { return m_wasListed.load(std::memory_order_acquire); }
 
     /// Begins to follow the selections. Waits for the server a few times; on any one thread, before the engine is used.

@@ -10,7 +10,7 @@
 
 namespace vellumry {
 
-/// Answers those who ask for a selection that is ours (ICCCM 2.2, 2.6, 2.7.2), many at once; what is long goes in
+/// Answers requestors of a selection that is ours (ICCCM 2.2, 2.6, 2.7.2), many at once; what is long goes in
 /// increments. Pasteboard thread; time is handed in. A reader that vanishes or stops taking costs nothing but its own
 /// transfer; when there are too many transfers, the client with the most of them loses the one that has stood longest.
 class SelectionOwner {

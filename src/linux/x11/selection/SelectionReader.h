@@ -44,7 +44,7 @@ public:
     void handleSelectionNotify(const xcb_selection_notify_event_t& event, Instant now);
     /// For new values of properties of our own window.
     void handleNewValue(xcb_atom_t property, Instant now);
-    /// Gives up on everything that was asked of `selection`: it has another owner, who owes no answer yet.
+    /// Gives up on everything that was asked of `selection`: it has another owner, which owes no answer yet.
     void endAll(xcb_atom_t selection, Instant now);
     /// Gives up on what is overdue.
     void expire(Instant now);

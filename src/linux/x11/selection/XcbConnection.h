@@ -65,7 +65,7 @@ public:
                                                       bool remove);
     void setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, int format, QByteArrayView bytes);
     void deleteProperty(xcb_window_t window, xcb_atom_t name);
-    /// Tells who asked for a selection where the answer is; no property for a refusal (ICCCM 2.2).
+    /// Tells the requestor of a selection where the answer is; no property for a refusal (ICCCM 2.2).
     void notifyRequestor(const xcb_selection_request_event_t& request, xcb_atom_t property);
     /// True for windows of one client: a window's number begins with its client's (X protocol, connection setup).
     [[nodiscard]] bool isSameClient(xcb_window_t one, xcb_window_t other) const;

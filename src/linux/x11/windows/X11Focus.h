@@ -18,7 +18,7 @@ public:
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
     enum class Standing {
-        away,     ///< nobody, we or somebody else has it
+        away,     ///< no window, our own or another one has it
         returned, ///< it is in the remembered program window
         gone,     ///< the remembered window does not exist any more
     };

@@ -39,7 +39,7 @@ void X11FrontmostApplication::handleEvent(XEvent* event) {
     if (event->type == PropertyNotify && event->xproperty.window == m_connection->root() &&
         event->xproperty.atom == m_connection->atom("_NET_ACTIVE_WINDOW"))
         follow();
-    // Some programs say who they are only after they were shown.
+    // Some programs set their class only after their window is mapped.
     if (event->type == PropertyNotify && event->xproperty.window == m_window && m_window != 0 &&
         event->xproperty.atom != m_connection->atom("_NET_WM_USER_TIME") && m_hints == ApplicationHints())
         m_hints = hintsOf(m_window, m_process);
