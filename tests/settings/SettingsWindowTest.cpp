@@ -140,22 +140,22 @@ TEST_F(SettingsWindowTest, ASwitchFollowsTheFile) {
 TEST_F(SettingsWindowTest, APickerIsWorkedByArrowsAndByItsList) {
     tabTo("Recent clips in the menu");
     press(Qt::Key_Down);
-    EXPECT_EQ(preferences.recentInMenu(), 20);
+    EXPECT_EQ(Preferences::recentInMenu(defaults), 20);
     press(Qt::Key_Up);
-    EXPECT_EQ(preferences.recentInMenu(), 10);
+    EXPECT_EQ(Preferences::recentInMenu(defaults), 10);
     press(Qt::Key_Space);
     ASSERT_NE(item(QAccessible::PopupMenu, "Recent clips in the menu"), nullptr);
     EXPECT_EQ(focused(), QStringLiteral("10")) << "a screen reader hears where it is";
     press(Qt::Key_End);
     press(Qt::Key_Up);
     press(Qt::Key_Escape);
-    EXPECT_EQ(preferences.recentInMenu(), 10);
+    EXPECT_EQ(Preferences::recentInMenu(defaults), 10);
     EXPECT_TRUE(window().isVisible()) << "Escape closed the list alone";
     EXPECT_EQ(focused(), QStringLiteral("Recent clips in the menu"));
     press(Qt::Key_Space);
     press(Qt::Key_Down);
     press(Qt::Key_Return);
-    EXPECT_EQ(preferences.recentInMenu(), 20);
+    EXPECT_EQ(Preferences::recentInMenu(defaults), 20);
     EXPECT_EQ(item(QAccessible::PopupMenu, "Recent clips in the menu"), nullptr);
 }
 
