@@ -107,9 +107,11 @@ void SettingsModel::setSaveNewScreenshots(bool isWanted) {
 
 QCoro::Task<void> SettingsModel::runScreenshots(bool isWanted) {
     const QPointer<SettingsModel> self(this);
+    const quint64 request = ++m_screenshotRequests;
     auto switching = actions.setScreenshotSaving(isWanted);
     const bool isDone = co_await switching;
-    if (!self)
+    // Behind a later press of the switch this one's outcome says nothing.
+    if (!self || request != m_screenshotRequests)
         co_return;
     if (!isDone) {
         store("saveNewScreenshots", false);

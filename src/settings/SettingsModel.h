@@ -186,6 +186,7 @@ private:
     bool m_hasAccessibility = false;
     QString m_loginMessage;
     QString m_screenshotMessage;
+    quint64 m_screenshotRequests = 0;
     QStringList m_shortcutProblems;
     std::optional<ShortcutRegistrations::Offer> m_offer;
     QString m_historySize;

@@ -58,8 +58,10 @@ QCoro::Task<void> ScreenshotSaving::toggle() {
     }
     const QPointer<ScreenshotSaving> self(this);
     auto starting = setSaving(true);
+    const quint64 request = m_requestCount;
     const bool isWatching = co_await starting;
-    if (!self || !onToast)
+    // Of the last press alone it is told what came of it.
+    if (!self || request != m_requestCount || !onToast)
         co_return;
     if (isWatching)
         onToast({QStringLiteral("camera.viewfinder"), localised("New screenshots will be saved in Vellumry"),

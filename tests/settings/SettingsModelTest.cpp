@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/SettingsModel.h"
 
+#include "foundation/OneShot.h"
 #include "support/Awaited.h"
 #include "support/FakeKeyboardLayout.h"
 
@@ -135,6 +136,22 @@ TEST_F(SettingsModelTest, ScreenshotsThatCannotBeSavedGoOffAgain) {
     model.setSaveNewScreenshots(true);
     EXPECT_EQ(model.screenshotMessage(), QString());
     EXPECT_TRUE(model.saveNewScreenshots());
+}
+
+QCoro::Task<bool> answerOf(OneShot<bool> folder) {
+    co_return co_await folder;
+}
+
+TEST_F(SettingsModelTest, SwitchedOffBeforeTheFolderAnsweredNothingIsSaidOfIt) {
+    const OneShot<bool> answer;
+    const OneShot<bool> isOff;
+    isOff.deliver(true);
+    model.actions.setScreenshotSaving = [answer, isOff](bool isWanted) { return answerOf(isWanted ? answer : isOff); };
+    model.setSaveNewScreenshots(true);
+    model.setSaveNewScreenshots(false);
+    answer.deliver(false);
+    EXPECT_EQ(model.screenshotMessage(), QString());
+    EXPECT_FALSE(model.saveNewScreenshots());
 }
 
 TEST_F(SettingsModelTest, ARecordedShortcutIsStoredAndItsProblemShown) {

@@ -85,5 +85,15 @@ TEST_F(ScreenshotSavingTest, TheMenuSaysWhatCameOfSwitchingOn) {
     EXPECT_FALSE(isPreferred());
 }
 
+TEST_F(ScreenshotSavingTest, OfTwoPressesTheLastIsTold) {
+    auto first = saving->toggle();
+    auto second = saving->toggle();
+    awaited(std::move(first));
+    awaited(std::move(second));
+    ASSERT_EQ(toasts.size(), 1u) << "the first would be taken for a folder that cannot be opened";
+    EXPECT_EQ(toasts.back().tone, ToastMessage::Tone::success);
+    EXPECT_TRUE(isPreferred());
+}
+
 } // namespace
 } // namespace vellumry
