@@ -153,6 +153,46 @@ TEST_F(PanelDragTest, ReleasedWithoutMovingTheSelectionCollapses) {
     EXPECT_EQ(source.begun, 0);
 }
 
+TEST_F(PanelDragTest, AHandThatIsQuickerThanTheContentDragsItAllTheSame) {
+    const QPoint place = placeOf("two");
+    const auto send = [this](QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons buttons) {
+        QMouseEvent event(type, at, view->mapToGlobal(at), button, buttons, {});
+        QCoreApplication::sendEvent(view, &event);
+    };
+    send(QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::MouseMove, place + QPoint(900, 30), Qt::NoButton, Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return source.begun == 1; }, 60'000));
+    EXPECT_EQ(draggedText(), "two");
+    releaseAt(place + QPoint(900, 30));
+    EXPECT_FALSE(dragging.isVisible());
+
+    // It may even have let go.
+    dragging.show();
+    send(QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::MouseMove, place + QPoint(900, 30), Qt::NoButton, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, place + QPoint(900, 30), Qt::LeftButton, Qt::NoButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !dragging.isVisible(); }, 60'000));
+    EXPECT_EQ(source.begun, 2);
+}
+
+TEST_F(PanelDragTest, OfManyChosenClipsNoneIsLeftBehind) {
+    QStringList expected;
+    for (int number = 0; number < 3 * PanelDrag::mostPreloaded; ++number) {
+        expected.append(QString::number(1000 + number));
+        addText(expected.last().toUtf8().constData());
+    }
+    dragging.model().handle(PanelModel::Command::home);
+    for (qsizetype row = 1; row < expected.size(); ++row)
+        dragging.model().extend(1);
+    (void)view->grabWindow();
+    const QPoint place = placeOf(expected.first().toUtf8().constData());
+    pressAt(place);
+    moveTo(place + QPoint(0, 5));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return source.begun == 1; }, 60'000));
+    EXPECT_EQ(QString::fromUtf8(draggedText()), expected.join(u'\n'));
+    releaseAt(place + QPoint(0, 5));
+}
+
 TEST_F(PanelDragTest, WhereNothingCanBeDraggedThePanelStays) {
     source.allows = false;
     const QPoint place = placeOf("two");
