@@ -44,7 +44,7 @@ PanelController::PanelController(ClipStore& store, PasteEngine& paster, Pasteboa
     wireDrags();
     connect(m_views, &ViewEngine::lookChanged, this, &PanelController::followLook);
     followLook();
-    m_facade.onGrabbed = [this] { grab(); };
+    m_facade.onGrabbed = [this](QPoint place) { grab(place); };
     m_facade.onDragged = [this] { drag(); };
     m_facade.onDropped = [this] { drop(); };
     m_fade.setPropertyName("opacity");
@@ -111,7 +111,8 @@ void PanelController::makeView() {
         m_views->engine().addImageProvider(previews, provider);
     m_surface->adopt(m_view.get());
     m_fade.setTargetObject(m_view.get());
-    connect(m_view.get(), &QWindow::screenChanged, this, [this] { shapeInput(); });
+    // Size, corners and input are counted in the pixels of the display.
+    connect(m_view.get(), &QWindow::screenChanged, this, &PanelController::applyLook);
     followDisplays();
     applyLook();
     m_view->setInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&m_facade)},
@@ -204,11 +205,12 @@ void PanelController::toggle() {
         show();
 }
 
-void PanelController::grab() {
+/// The pointer may be elsewhere by now.
+void PanelController::grab(QPoint place) {
     m_settle.stop();
     m_slide.stop();
     m_grabbedAt = m_view->position();
-    m_grabOffset = QCursor::pos() - m_grabbedAt;
+    m_grabOffset = place - m_grabbedAt;
 }
 
 void PanelController::drag() {

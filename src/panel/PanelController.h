@@ -105,7 +105,7 @@ private:
     void stepAside();
     void comeBack();
     void showDragged();
-    void grab();
+    void grab(QPoint place);
     void drag();
     void drop();
     void settlePosition();

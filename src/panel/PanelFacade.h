@@ -89,7 +89,8 @@ public:
     Q_INVOKABLE void transformChosen(int index);
     /// Starts the Paste Stack, or stops it when it runs.
     Q_INVOKABLE void toggleStack();
-    Q_INVOKABLE void grabbed();
+    /// The pointer took hold of an empty part at `place` of the desktop.
+    Q_INVOKABLE void grabbed(QPointF place);
     Q_INVOKABLE void dragged();
     Q_INVOKABLE void dropped();
 
@@ -135,7 +136,7 @@ public:
     std::function<std::vector<ActionMenuItem>()> statusMenu;
     std::function<void()> onRequestAccessibility = [] {};
     /// The pointer took hold of an empty part, moved, let go.
-    std::function<void()> onGrabbed = [] {};
+    std::function<void(QPoint place)> onGrabbed = [](QPoint) {};
     std::function<void()> onDragged = [] {};
     std::function<void()> onDropped = [] {};
 

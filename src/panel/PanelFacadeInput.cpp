@@ -197,8 +197,8 @@ void PanelFacade::transformChosen(int index) {
     m_model->pasteClip(clip, true, PanelModel::transformList[static_cast<std::size_t>(index)]);
 }
 
-void PanelFacade::grabbed() {
-    onGrabbed();
+void PanelFacade::grabbed(QPointF place) {
+    onGrabbed(place.toPoint());
 }
 void PanelFacade::dragged() {
     onDragged();

@@ -41,7 +41,7 @@ Item {
         MouseArea {
             // The empty parts move the panel.
             anchors.fill: parent
-            onPressed: root.panel.grabbed()
+            onPressed: mouse => root.panel.grabbed(mapToGlobal(mouse.x, mouse.y))
             onPositionChanged: root.panel.dragged()
             onReleased: root.panel.dropped()
         }

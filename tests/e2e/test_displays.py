@@ -5,7 +5,7 @@ import os
 import subprocess
 
 from clients import Mousepad
-from desktop import (remember, QUIET, Failure, Process, Vellumry, active_window, focused_window, key, main, open_panel, own_tests, panel_is_open, run, same,
+from desktop import (remember, QUIET, Failure, Process, Vellumry, accessible, active_window, focused_window, key, main, open_panel, own_tests, panel_is_open, run, same,
                      wait_panel_closed, wait_until, windows)
 
 LEFT, RIGHT = (0, 960), (960, 960)  # where a display begins and how wide it is
@@ -14,9 +14,12 @@ LEFT, RIGHT = (0, 960), (960, 960)  # where a display begins and how wide it is
 class Displays:
     """The screen of 1920 x 1080 as two displays side by side."""
 
+    def __init__(self, left=LEFT, right=RIGHT):
+        self.sides = {"left": left, "right": right}
+
     def __enter__(self):
-        run("xrandr", "--setmonitor", "left", "960/250x1080/280+0+0", "screen")
-        run("xrandr", "--setmonitor", "right", "960/250x1080/280+960+0", "none")
+        for (name, (begin, width)), output in zip(self.sides.items(), ("screen", "none")):
+            run("xrandr", "--setmonitor", name, f"{width}/250x1080/280+{begin}+0", output)
         return self
 
     def unplug_right(self):
@@ -84,9 +87,6 @@ def drag_panel(far_x, far_y):
     start = before[0] + before[2] - 40, before[1] + 130
     point(*start)
     run("xdotool", "mousedown", "1")
-    # A hand is never off the panel before the panel has heard of the press.
-    point(start[0], start[1] + 2)
-    wait_until(lambda: frame() != before, "the panel to follow the pointer")
     for step in range(1, 6):
         point(start[0] + far_x * step // 5, start[1] + far_y * step // 5)
     run("xdotool", "mouseup", "1")
@@ -124,6 +124,55 @@ def each_display_remembers_its_own_place():
         drag_panel(home[0] - moved[0] + 12, home[1] - moved[1] + 12)
         wait_until(lambda: frame() == home, "the panel to slide home")
         wait_until(lambda: "panelPositions" not in open(saved, encoding="utf-8").read(), "the place to be forgotten")
+
+
+FINE_LEFT, FINE_RIGHT = (0, 860), (860, 1060)
+
+
+def with_a_finer_display():
+    """The right display shows everything larger by a quarter."""
+    return Vellumry(environment={"QT_SCREEN_SCALE_FACTORS": "left=1;right=1.25"})
+
+
+def size_is(width, height):
+    wait_until(lambda: frame()[2:] == (width, height), f"a panel of {width} x {height}; it is {frame()[2:]}")
+
+
+def corner_works():
+    """The panel's far corner hears the pointer: the button there opens its menu. What lies beside it is not the panel's."""
+    x, y, width, height = frame()
+    point(x + width - width * 50 // 780, y + height - height * 17 // 500)
+    run("xdotool", "click", "1")
+    wait_until(lambda: accessible("vellumry", "popup menu"), "the menu of the button in the corner")
+    key("Escape")
+    wait_until(lambda: accessible("vellumry", "popup menu") is None, "the menu to close")
+
+
+def on_displays_of_two_scales_it_has_its_size_and_hears_the_pointer_on_both():
+    """Opened on either, back and forth."""
+    with Displays(FINE_LEFT, FINE_RIGHT), with_a_finer_display():
+        remember("one")
+        for display, size in ((FINE_LEFT, (780, 500)), (FINE_RIGHT, (975, 625)), (FINE_LEFT, (780, 500))):
+            open_on(display)
+            size_is(*size)
+            corner_works()
+            close_panel()
+
+
+def dragged_to_a_display_of_another_scale_it_has_the_size_of_that_one():
+    """And is whole, stands there, and hears the pointer."""
+    with Displays(FINE_LEFT, FINE_RIGHT), with_a_finer_display():
+        remember("one")
+        open_on(FINE_LEFT)
+        size_is(780, 500)
+        drag_panel(960, 150)
+        wait_until(lambda: stands_on(FINE_RIGHT), f"the panel on the other display; it is at {frame()}")
+        size_is(975, 625)
+        corner_works()
+        drag_panel(-960, -100)
+        wait_until(lambda: stands_on(FINE_LEFT), f"the panel on the first display; it is at {frame()}")
+        size_is(780, 500)
+        corner_works()
 
 
 def a_display_that_goes_leaves_the_panel_in_sight_and_working():

@@ -98,6 +98,29 @@ def a_text_into_a_qt_editor():
         wait_until(lambda: editor.content() == "dragged", "the text in the editor")
 
 
+def a_quick_hand_drags_too():
+    """The pointer is far from the panel before anybody has heard of the press."""
+    with Vellumry(), Mousepad() as editor:
+        remember("dragged", "newer")
+        x, y = place(editor.window)
+        open_panel()
+        for _ in range(3):
+            row_x, row_y = middle(row("dragged"))
+            run("xdotool", "mousemove", str(row_x), str(row_y))
+            run("xdotool", "mousedown", "1", "mousemove", str(x), str(y))
+            wait_until(lambda: windows("^Vellumry drag$"), "the picture at the pointer")
+            run("xdotool", "key", "Escape")
+            run("xdotool", "mouseup", "1")
+            wait_until(lambda: not windows("^Vellumry drag$"), "the end of the drag")
+            same(panel_is_open(), True, "the panel is open")
+        run("xdotool", "mousemove", str(row_x), str(row_y))
+        run("xdotool", "mousedown", "1", "mousemove", str(x), str(y))
+        wait_until(lambda: windows("^Vellumry drag$"), "the picture at the pointer")
+        run("xdotool", "mouseup", "1")
+        wait_panel_closed()
+        wait_until(lambda: editor.content() == "dragged", "the text in the editor")
+
+
 def several_texts_are_joined():
     """Three chosen texts, pressed on one of them, come in the order of their copying."""
     with Vellumry(), Mousepad() as editor:

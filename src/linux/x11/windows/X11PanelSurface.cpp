@@ -24,6 +24,7 @@ namespace {
 
 constexpr int firstWheelButton = 4;
 constexpr int lastWheelButton = 7;
+constexpr long panelEvents = FocusChangeMask | EnterWindowMask | LeaveWindowMask;
 
 /// Waits until the server has done what Qt asked of it: our own connection is another one, and may be served first.
 void settleQt() {
@@ -94,8 +95,9 @@ void X11PanelSurface::present(QWindow* window, std::optional<QRect> frame) {
     settleQt();
     const XWindow id = window->winId();
     if (m_presented != window) {
-        m_connection->listen(id, FocusChangeMask);
+        m_connection->listen(id, panelEvents);
         listenForClicks(true);
+        m_isPointerIn = isOver(window);
     }
     m_presented = window;
     m_presentedID = id;
@@ -115,7 +117,7 @@ void X11PanelSurface::dismiss(QWindow* window) {
         if (m_fence)
             m_fence->abandon();
         m_presented = nullptr;
-        m_connection->ignore(m_presentedID, FocusChangeMask);
+        m_connection->ignore(m_presentedID, panelEvents);
         listenForClicks(false);
         // A Wayland window had the keyboard, then: giving it to the window manager's own X11 window would leave that
         // one without it. The window manager finds the next window itself when ours is gone.
@@ -168,13 +170,15 @@ void X11PanelSurface::shapeInput(const QWindow* window, const std::optional<QRec
         XFixesDestroyRegion(display, region);
 }
 
-bool X11PanelSurface::isOverOwnWindow() const {
-    const QPoint pointer = QCursor::pos();
+bool X11PanelSurface::isOver(const QWindow* window) const {
+    const QRect area = m_inputAreas.value(window, QRect(QPoint(), window->size()));
+    return window->isVisible() && area.translated(window->position()).contains(QCursor::pos());
+}
+
+bool X11PanelSurface::isOverPassiveWindow() const {
     const auto windows = QGuiApplication::topLevelWindows();
-    return std::any_of(windows.begin(), windows.end(), [this, pointer](const QWindow* window) {
-        const QRect area = m_inputAreas.value(window, QRect(QPoint(), window->size()));
-        return window->isVisible() && area.translated(window->position()).contains(pointer);
-    });
+    return std::any_of(windows.begin(), windows.end(),
+                       [this](const QWindow* window) { return window != m_presented && isOver(window); });
 }
 
 bool X11PanelSurface::reducesMotion() const {
@@ -187,8 +191,10 @@ void X11PanelSurface::listenForClicks(bool isListening) {
     if (!m_connection->inputExtension().has_value())
         return;
     std::array<unsigned char, XIMaskLen(XI_LASTEVENT)> bits{};
-    if (isListening)
+    if (isListening) {
         XISetMask(bits.data(), XI_RawButtonPress);
+        XISetMask(bits.data(), XI_RawButtonRelease);
+    }
     XIEventMask mask{XIAllMasterDevices, int(bits.size()), bits.data()};
     XISelectEvents(m_connection->display(), m_connection->root(), &mask, 1);
     m_connection->flush();
@@ -205,9 +211,16 @@ void X11PanelSurface::handleEvent(XEvent* event) {
     if (m_presented == nullptr)
         return;
     if (event->type == GenericEvent && event->xcookie.extension == m_connection->inputExtension() &&
-        event->xcookie.evtype == XI_RawButtonPress && event->xcookie.data != nullptr) {
+        event->xcookie.data != nullptr) {
         const auto* click = static_cast<const XIRawEvent*>(event->xcookie.data);
-        handleClick(click->detail, click->time);
+        if (click->evtype == XI_RawButtonPress)
+            handleClick(click->detail, click->time);
+        else if (click->evtype == XI_RawButtonRelease)
+            m_isPointerIn = isOver(m_presented); // while a button was down, only the window that has it was told
+        return;
+    }
+    if ((event->type == EnterNotify || event->type == LeaveNotify) && event->xcrossing.window == m_presentedID) {
+        m_isPointerIn = event->type == EnterNotify;
         return;
     }
     // A grab (a hot key of anybody's held down, a menu) takes the keyboard for a moment and gives it back.
@@ -218,8 +231,10 @@ void X11PanelSurface::handleEvent(XEvent* event) {
         loseFocus();
 }
 
+/// Where the pointer lies by now says nothing of where it was: a quick hand drags a row out of the panel before we hear
+/// of the press. The server tells of entering, leaving and pressing in their order.
 void X11PanelSurface::handleClick(int button, unsigned long time) {
-    if ((button >= firstWheelButton && button <= lastWheelButton) || isOverOwnWindow())
+    if ((button >= firstWheelButton && button <= lastWheelButton) || m_isPointerIn || isOverPassiveWindow())
         return;
     m_clickTime = time;
     loseFocus();

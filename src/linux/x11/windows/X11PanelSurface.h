@@ -37,7 +37,8 @@ public:
 private:
     void setHints(XWindow window);
     void shapeInput(const QWindow* window, const std::optional<QRect>& area);
-    [[nodiscard]] bool isOverOwnWindow() const;
+    [[nodiscard]] bool isOver(const QWindow* window) const;
+    [[nodiscard]] bool isOverPassiveWindow() const;
     void followCompositor();
     void listenForClicks(bool isListening);
     void takeKeyboard();
@@ -52,6 +53,7 @@ private:
     /// The panel that has or wants the keyboard.
     QPointer<QWindow> m_presented;
     XWindow m_presentedID = 0;
+    bool m_isPointerIn = false;    ///< that window, as of the event that is handled
     unsigned long m_clickTime = 0; ///< of the server, while a click beside the panel ends it
     /// The parts of windows that take the pointer; all of a window that is not named.
     QHash<const QWindow*, QRect> m_inputAreas;

@@ -256,6 +256,21 @@ TEST_F(X11PanelSurfaceTest, AClickBesideThePanelIsToldAndOneOnItIsNot) {
     EXPECT_TRUE(eventually([&] { return !lost.empty(); }));
 }
 
+TEST_F(X11PanelSurfaceTest, APressOnItIsNoClickBesideItHoweverSoonThePointerLeaves) {
+    client.movePointer(frame.center().x(), frame.center().y());
+    show();
+    client.click(1);
+    client.movePointer(1000, 700);
+    client.chord({KEY_A});
+    EXPECT_TRUE(eventually([&] { return panel.typed == u"a" && panel.clicks == 1; }));
+    EXPECT_TRUE(lost.empty());
+
+    // Nor is a press beside it one on it, however soon the pointer comes.
+    client.click(1);
+    client.movePointer(frame.center().x(), frame.center().y());
+    EXPECT_TRUE(eventually([&] { return !lost.empty(); }));
+}
+
 TEST_F(X11PanelSurfaceTest, AClickInTheMarginReachesWhatLiesBelow) {
     surface.setInputArea(&panel, QRect(40, 40, 320, 120));
     show();
