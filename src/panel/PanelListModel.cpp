@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/PanelListModel.h"
 
-#include "capture/FileStatus.h"
-#include "foundation/Localisation.h"
 #include "history/clips/ClipStore.h"
-#include "panel/MarkedTitle.h"
-#include "panel/RowAppearance.h"
 
 #include <algorithm>
 #include <iterator>
@@ -79,30 +75,56 @@ void PanelListModel::rebuild() {
     const bool isSameSearch = m_model->query() == m_shownQuery && m_model->filter() == m_shownFilter;
     m_shownQuery = m_model->query();
     m_shownFilter = m_model->filter();
-    const auto gap = isSameSearch && !m_isDormant ? gapTo(rows) : std::nullopt;
-    replaceRows(std::move(rows));
-    if (gap)
-        Q_EMIT gapClosed(gap->row, gap->clips, gap->headers);
+    if (!isSameSearch || m_isDormant)
+        rebindRows(std::move(rows));
+    else if (const auto gone = runBetween(m_rows, rows))
+        removeRun(*gone, std::move(rows));
+    else if (const auto come = runBetween(rows, m_rows))
+        insertRun(*come, std::move(rows));
+    else
+        rebindRows(std::move(rows));
 }
 
-std::optional<PanelListModel::Gap> PanelListModel::gapTo(const std::vector<Row>& rows) const {
+std::optional<PanelListModel::Run> PanelListModel::runBetween(const std::vector<Row>& longer,
+                                                              const std::vector<Row>& shorter) {
     const auto isSame = [](const Row& one, const Row& other) {
         return one.header == other.header && bool(one.clip) == bool(other.clip) &&
                (!one.clip || one.clip->id == other.clip->id);
     };
-    if (rows.size() >= m_rows.size())
+    if (shorter.size() >= longer.size())
         return std::nullopt;
-    const auto first = std::ranges::mismatch(m_rows, rows, isSame).in1;
-    const auto last = first + std::ptrdiff_t(m_rows.size() - rows.size());
-    const auto place = first - m_rows.begin();
-    if (!std::equal(last, m_rows.end(), rows.begin() + place, rows.end(), isSame))
+    const auto first = std::ranges::mismatch(longer, shorter, isSame).in1;
+    const auto last = first + std::ptrdiff_t(longer.size() - shorter.size());
+    const auto place = first - longer.begin();
+    if (!std::equal(last, longer.end(), shorter.begin() + place, shorter.end(), isSame))
         return std::nullopt;
-    const auto headers = std::count_if(first, last, [](const Row& row) { return !row.clip; });
-    return Gap{int(place), int(last - first - headers), int(headers)};
+    return Run{static_cast<int>(place), static_cast<int>(last - first)};
+}
+
+void PanelListModel::removeRun(Run run, std::vector<Row> rows) {
+    const auto first = m_rows.begin() + run.row;
+    const auto headers = std::count_if(first, first + run.count, [](const Row& row) { return !row.clip; });
+    beginRemoveRows({}, run.row, run.row + run.count - 1);
+    m_rows = std::move(rows);
+    endRemoveRows();
+    tellAllChanged();
+    Q_EMIT gapClosed(run.row, run.count - static_cast<int>(headers), static_cast<int>(headers));
+}
+
+void PanelListModel::insertRun(Run run, std::vector<Row> rows) {
+    beginInsertRows({}, run.row, run.row + run.count - 1);
+    m_rows = std::move(rows);
+    endInsertRows();
+    tellAllChanged();
+}
+
+void PanelListModel::tellAllChanged() {
+    if (!m_rows.empty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
 
 /// Rows that stay are rebound before any are added and after any are removed: views may look at them in between.
-void PanelListModel::replaceRows(std::vector<Row> rows) {
+void PanelListModel::rebindRows(std::vector<Row> rows) {
     const auto before = static_cast<int>(m_rows.size());
     const auto after = static_cast<int>(rows.size());
     const int shared = std::min(before, after);
@@ -114,8 +136,7 @@ void PanelListModel::replaceRows(std::vector<Row> rows) {
     std::vector<Row> added(std::make_move_iterator(rows.begin() + shared), std::make_move_iterator(rows.end()));
     rows.resize(static_cast<std::size_t>(shared));
     m_rows = std::move(rows);
-    if (shared > 0)
-        Q_EMIT dataChanged(index(0), index(shared - 1));
+    tellAllChanged();
     if (!added.empty()) {
         beginInsertRows({}, before, after - 1);
         m_rows.insert(m_rows.end(), std::make_move_iterator(added.begin()), std::make_move_iterator(added.end()));
@@ -168,105 +189,6 @@ QVariant PanelListModel::data(const QModelIndex& index, int role) const {
     if (role == IsHeaderRole)
         return !row.clip;
     return row.clip ? clipValue(*row.clip, role) : headerValue(row, role);
-}
-
-QVariant PanelListModel::headerValue(const Row& row, int role) const {
-    switch (role) {
-    case Qt::DisplayRole:
-    case HeaderRole:
-        return row.header;
-    case IsPinnedRole:
-    case IsSelectedRole:
-    case IsSensitiveRole:
-        return false;
-    default:
-        return QString();
-    }
-}
-
-QVariant PanelListModel::clipValue(const Clip& clip, int role) const {
-    switch (role) {
-    case Qt::DisplayRole:
-    case TitleRole:
-        return row::titleOf(clip);
-    case MarkedTitleRole:
-        return markedTitle(row::titleOf(clip), clip.isSensitive() ? QString() : m_model->query());
-    case SourceNameRole:
-        return row::sourceOf(clip);
-    case ImageMatchRole:
-        return imageMatchOf(clip);
-    case SymbolRole:
-        return row::symbolOf(clip);
-    case ThumbnailRole:
-        return row::thumbnailOf(clip);
-    case SwatchRole:
-        return row::swatchOf(clip);
-    case PillRole:
-        return pillOf(clip);
-    case NumberRole:
-        return digitOf(m_rowNumbers, clip);
-    case PinNumberRole:
-        return digitOf(m_pinNumbers, clip);
-    case PinHintRole:
-        return hintOf(clip);
-    case DescriptionRole:
-        return descriptionOf(clip);
-    case IsPinnedRole:
-        return clip.isPinned;
-    case IsSelectedRole:
-        return m_model->isSelected(clip.id);
-    case IsSensitiveRole:
-        return clip.isSensitive();
-    default:
-        return QString();
-    }
-}
-
-QString PanelListModel::pillOf(const Clip& clip) const {
-    const auto statuses = m_model->fileStatuses().constFind(clip.id);
-    if (statuses == m_model->fileStatuses().constEnd())
-        return QString();
-    for (const FileStatus& status : *statuses) {
-        switch (status.kind) {
-        case FileStatus::Case::missing:
-            return localised("Deleted");
-        case FileStatus::Case::inTrash:
-            return localised("In Trash");
-        case FileStatus::Case::volumeUnavailable:
-            return localised("Offline");
-        case FileStatus::Case::available:
-        case FileStatus::Case::moved:
-            break;
-        }
-    }
-    return QString();
-}
-
-QString PanelListModel::digitOf(const QHash<QUuid, int>& numbers, const Clip& clip) {
-    const auto number = numbers.constFind(clip.id);
-    return number == numbers.constEnd() ? QString() : QString::number(*number);
-}
-
-QString PanelListModel::hintOf(const Clip& clip) const {
-    const QString digit = digitOf(m_pinNumbers, clip);
-    return digit.isEmpty() ? digit : localised("%1 anywhere to paste this").arg(m_pinKeys.arg(digit));
-}
-
-QString PanelListModel::imageMatchOf(const Clip& clip) const {
-    return clip.isSensitive() ? QString() : m_model->imageMatch(clip).value_or(QString());
-}
-
-/// Everything beside the title that the row shows, for screen readers.
-QString PanelListModel::descriptionOf(const Clip& clip) const {
-    const QString number = digitOf(m_rowNumbers, clip);
-    QStringList parts{row::sourceOf(clip), imageMatchOf(clip), pillOf(clip)};
-    if (clip.isPinned)
-        parts.append(localised("Pinned clip"));
-    parts.append(hintOf(clip));
-    if (!number.isEmpty())
-        parts.append(localised("⌘") + number);
-    parts.removeAll(QString());
-    return parts.join(QStringLiteral(", "));
 }
 
 QHash<int, QByteArray> PanelListModel::roleNames() const {

@@ -10,9 +10,11 @@
 
 namespace vellumry {
 
-/// The panel model's sections as the rows of a list: a header, then its clips. A change rebinds the rows that stay and
-/// adds or removes at the end, so that a keystroke makes no delegate anew. While the list is hidden it may lie
-/// dormant: it then falls behind the model until told to catch up. Main thread.
+/// The panel model's sections as the rows of a list: a header, then its clips. Rows that come or go in one run while
+/// the same search is shown are inserted and removed where they are, so that every other row stays what it is, for
+/// screen readers too. Any other change rebinds the rows and adds or removes at the end, so that a keystroke makes no
+/// delegate anew. While the list is hidden it may lie dormant: it then falls behind the model until told to catch up.
+/// Main thread.
 class PanelListModel : public QAbstractListModel {
     Q_OBJECT
 
@@ -76,14 +78,17 @@ private:
     void follow();
     void followDormant();
     void rebuild();
-    void replaceRows(std::vector<Row> rows);
-    /// What `gapClosed` is to tell; nothing unless one run of rows went and nothing else changed.
-    struct Gap {
+    void rebindRows(std::vector<Row> rows);
+    /// The rows by which a longer list differs from a shorter one.
+    struct Run {
         int row = 0;
-        int clips = 0;
-        int headers = 0;
+        int count = 0;
     };
-    [[nodiscard]] std::optional<Gap> gapTo(const std::vector<Row>& rows) const;
+    /// Nothing when they differ by more than one run, or are equally long.
+    [[nodiscard]] static std::optional<Run> runBetween(const std::vector<Row>& longer, const std::vector<Row>& shorter);
+    void removeRun(Run run, std::vector<Row> rows);
+    void insertRun(Run run, std::vector<Row> rows);
+    void tellAllChanged();
     void repaintSelection();
     [[nodiscard]] QVariant headerValue(const Row& row, int role) const;
     [[nodiscard]] QVariant clipValue(const Clip& clip, int role) const;

@@ -97,6 +97,36 @@ TEST_F(PanelListModelTest, AFilterRebindsRowsAndRemovesTheRestAtTheEnd) {
     EXPECT_EQ(removals.count(), 1);
 }
 
+TEST_F(PanelListModelTest, WhatComesAndGoesDoesSoInItsPlace) {
+    add(drafts::text(QStringLiteral("day before")), today - 2 * 86'400.0);
+    const ClipRef second = add(drafts::text(QStringLiteral("second")), today + 1);
+    add(drafts::text(QStringLiteral("third")), today + 2);
+    QSignalSpy removals(&rows, &QAbstractItemModel::rowsRemoved);
+    QSignalSpy insertions(&rows, &QAbstractItemModel::rowsInserted);
+    const auto span = [](const QSignalSpy& spy) {
+        return std::pair(spy.last().at(1).toInt(), spy.last().at(2).toInt());
+    };
+
+    awaited(store.remove({second->id}, false));
+    ASSERT_EQ(removals.count(), 1);
+    EXPECT_EQ(span(removals), std::pair(2, 2));
+
+    add(drafts::text(QStringLiteral("fourth")), today + 3);
+    ASSERT_EQ(insertions.count(), 1);
+    EXPECT_EQ(span(insertions), std::pair(1, 1));
+    EXPECT_EQ(column(PanelListModel::TitleRole),
+              (QStringList{QString(), QStringLiteral("fourth"), QStringLiteral("third"), QString(),
+                           QStringLiteral("day before")}));
+    EXPECT_EQ(column(PanelListModel::NumberRole),
+              (QStringList{QString(), QStringLiteral("1"), QStringLiteral("2"), QString(), QStringLiteral("3")}));
+
+    // The last clip of a day takes the day along.
+    awaited(store.remove({store.clips().back()->id}, false));
+    ASSERT_EQ(removals.count(), 2);
+    EXPECT_EQ(span(removals), std::pair(3, 4));
+    EXPECT_EQ(insertions.count(), 1);
+}
+
 TEST_F(PanelListModelTest, ASearchWithoutResultsHasNoRows) {
     add(drafts::text(QStringLiteral("apple")), today);
     model.setQuery(QStringLiteral("zzz"));
