@@ -2247,5 +2247,9 @@
         <source>Website</source>
         <translation>الموقع</translation>
     </message>
+    <message>
+        <source>Filters</source>
+        <translation>المرشحات</translation>
+    </message>
 </context>
 </TS>

@@ -2087,5 +2087,9 @@
         <source>Website</source>
         <translation>Website</translation>
     </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filter</translation>
+    </message>
 </context>
 </TS>

@@ -2087,5 +2087,9 @@
         <source>Website</source>
         <translation>Sitio web</translation>
     </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtros</translation>
+    </message>
 </context>
 </TS>

@@ -2087,5 +2087,9 @@
         <source>Website</source>
         <translation>Site web</translation>
     </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtres</translation>
+    </message>
 </context>
 </TS>

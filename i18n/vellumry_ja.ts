@@ -2047,5 +2047,9 @@
         <source>Website</source>
         <translation>Web サイト</translation>
     </message>
+    <message>
+        <source>Filters</source>
+        <translation>フィルター</translation>
+    </message>
 </context>
 </TS>

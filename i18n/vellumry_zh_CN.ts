@@ -2047,5 +2047,9 @@
         <source>Website</source>
         <translation>网站</translation>
     </message>
+    <message>
+        <source>Filters</source>
+        <translation>筛选</translation>
+    </message>
 </context>
 </TS>

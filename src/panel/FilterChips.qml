@@ -11,6 +11,8 @@ Row {
     required property PanelFacade panel
 
     spacing: Theme.gap
+    Accessible.role: Accessible.PageTabList
+    Accessible.name: Views.words("Filters")
 
     Repeater {
         model: chips.panel.filters
@@ -29,11 +31,11 @@ Row {
             color: isCurrent ? Theme.selected : area.containsMouse ? Theme.hovered : "transparent"
             border.width: Theme.thin
             border.color: isCurrent ? Theme.accent : Theme.line
-            Accessible.role: Accessible.RadioButton
+            Accessible.role: Accessible.PageTab
             Accessible.name: title
             Accessible.description: count
-            Accessible.checkable: true
-            Accessible.checked: isCurrent
+            Accessible.selectable: true
+            Accessible.selected: isCurrent
             Accessible.onPressAction: chips.panel.filter = index
 
             Label {
@@ -53,6 +55,8 @@ Row {
                 text: chip.count
                 color: chip.isCurrent ? Theme.accent : Theme.secondary
             }
+            onIsCurrentChanged: Views.tellSelected(chip)
+
             MouseArea {
                 id: area
                 anchors.fill: parent
