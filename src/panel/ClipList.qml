@@ -49,11 +49,11 @@ ListView {
         }
         noteView();
     }
-    /// No row is cut at the top, unless that is the end of the list.
+    /// No row is cut at the top, unless that is the end of the list and there are headers in sight.
     function alignTop() {
         const top = indexAt(1, contentY + 1);
         if (top > 0 && !atYEnd && offsetOf(top) < -1)
-            contentY = Math.min(itemAtIndex(top).y + itemAtIndex(top).height, originY + contentHeight - height);
+            contentY = Math.min(itemAtIndex(top).y + itemAtIndex(top).height, lastY);
     }
     /// The rows changed under the user: what was looked at stays where it was.
     function keepView() {
@@ -66,7 +66,7 @@ ListView {
         if (row < 0)
             return;
         positionViewAtIndex(row, ListView.Beginning);
-        contentY = Math.max(originY, Math.min(contentY - topOffset, originY + contentHeight - height));
+        contentY = Math.max(originY, Math.min(contentY - topOffset, lastY));
         noteView();
     }
     function scrollRows(rows: int) {
@@ -128,6 +128,11 @@ ListView {
                 list.panel.openRowMenu(list.panel.primaryRow, item.mapToItem(null, Views.isRightToLeft ? list.width - Theme.inset : Theme.inset, item.height), true);
         }
     }
+
+    // Behind the last row of a list that is scrolled there is room, so that at its end too the view begins with a whole
+    // row.
+    bottomMargin: contentHeight > height ? height % Theme.rowHeight : 0
+    readonly property real lastY: Math.max(originY, originY + contentHeight + bottomMargin - height)
 
     // Rows below a gap glide up to close it.
     property int gapRow: 0
@@ -270,7 +275,7 @@ ListView {
                 if (share >= 1) {
                     list.positionViewAtEnd();
                 } else {
-                    list.contentY = list.originY + share * (list.contentHeight - list.height);
+                    list.contentY = list.originY + share * (list.lastY - list.originY);
                     list.alignTop();
                 }
                 list.noteView();

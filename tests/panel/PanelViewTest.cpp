@@ -387,6 +387,32 @@ TEST_F(PanelViewTest, ScrollingGoesByWholeRows) {
     }
 }
 
+TEST_F(PanelViewTest, AtTheEndOfTheListNoRowIsCut) {
+    for (int number = 0; number < 40; ++number)
+        addText(QByteArray("clip " + QByteArray::number(number)).constData());
+    open();
+    const auto cutRows = [this] {
+        QStringList cut;
+        (void)view()->grabWindow();
+        for (const QQuickItem* item : list()->property("contentItem").value<QQuickItem*>()->childItems()) {
+            const double top = item->mapToItem(list(), QPointF()).y();
+            const double bottom = top + item->height();
+            const bool isRow = item->isVisible() && item->property("isHeader").isValid();
+            if (isRow && ((top < -1 && bottom > 1) || (top < list()->height() - 1 && bottom > list()->height() + 1)))
+                cut.append(item->property("title").toString());
+        }
+        return cut;
+    };
+    press(Qt::Key_End);
+    EXPECT_EQ(cutRows(), QStringList());
+    EXPECT_EQ(shownTitles().last(), QStringLiteral("clip 0"));
+    press(Qt::Key_Home);
+    for (int notch = 0; notch < 20; ++notch)
+        scroll(-1);
+    EXPECT_EQ(cutRows(), QStringList());
+    EXPECT_EQ(shownTitles().last(), QStringLiteral("clip 0"));
+}
+
 TEST_F(PanelViewTest, TheChosenRowKeepsARowOfContextBelowIt) {
     for (int number = 0; number < 40; ++number)
         addText(QByteArray("clip " + QByteArray::number(number)).constData());
@@ -481,6 +507,40 @@ TEST_F(PanelViewTest, FromRightToLeftTheArrowsGoTheOtherWay) {
     press(Qt::Key_Right);
     EXPECT_EQ(panel.model().filter(), ClipFilter::all);
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+TEST_F(PanelViewTest, AScreenReaderFindsTheFiltersAsTabs) {
+    QAccessible::setActive(true);
+    addText("words");
+    open();
+    QQuickItem* title = itemWithText(localised("Text"));
+    const auto tab = [](QQuickItem* label) { return QAccessible::queryAccessibleInterface(label->parentItem()); };
+    EXPECT_EQ(tab(title)->role(), QAccessible::PageTab);
+    EXPECT_EQ(tab(title)->parent()->role(), QAccessible::PageTabList);
+    EXPECT_EQ(tab(title)->parent()->text(QAccessible::Name), localised("Filters"));
+    EXPECT_EQ(tab(title)->text(QAccessible::Description), QStringLiteral("1"));
+    EXPECT_FALSE(tab(title)->state().selected);
+    tab(title)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(tab(title)->state().selected);
+    EXPECT_FALSE(tab(itemWithText(localised("All")))->state().selected);
+}
+
+TEST_F(PanelViewTest, WhatIsReadOutStaysTheSameObjectWhenItsNeighbourGoes) {
+    QAccessible::setActive(true);
+    for (const char* text : {"first", "second", "third"})
+        addText(text);
+    open();
+    QAccessibleInterface* window = QAccessible::queryAccessibleInterface(view());
+    const QObject* second = listItem(window, QStringLiteral("second"))->object();
+    press(Qt::Key_Delete);
+    (void)view()->grabWindow();
+    EXPECT_EQ(listItem(window, QStringLiteral("second"))->object(), second);
+    EXPECT_EQ(readOut(window), (QStringList{QStringLiteral("second"), QStringLiteral("first")}));
+    addText("fourth");
+    (void)view()->grabWindow();
+    EXPECT_EQ(listItem(window, QStringLiteral("second"))->object(), second);
+    EXPECT_EQ(readOut(window),
+              (QStringList{QStringLiteral("fourth"), QStringLiteral("second"), QStringLiteral("first")}));
 }
 
 TEST_F(PanelViewTest, RowsAreReadOutInTheOrderOfTheScreen) {
