@@ -13,15 +13,21 @@ Item {
     required property string symbol
     required property bool isProminent
     property real widest: 0
-    readonly property bool isAsking: help !== "" && (title === "" ? icon.isAsking : labelled.isAsking)
+    /// Where the words of all buttons do not fit into a line, those of the lesser ones give way.
+    property bool isTight: false
+    readonly property bool isSymbol: title === "" || (isTight && !isProminent && symbol !== "")
+    readonly property real wanted: title === "" ? icon.width : labelled.wanted
+    /// What is told where the pointer rests.
+    readonly property string told: help !== "" || !isSymbol ? help : title
+    readonly property bool isAsking: told !== "" && (isSymbol ? icon.isAsking : labelled.isAsking)
     signal pressed
 
-    width: title === "" ? icon.width : labelled.width
-    height: title === "" ? icon.height : labelled.height
+    width: isSymbol ? icon.width : labelled.width
+    height: isSymbol ? icon.height : labelled.height
 
     ActionButton {
         id: labelled
-        visible: button.title !== ""
+        visible: !button.isSymbol
         title: button.title
         help: button.help
         symbol: button.symbol
@@ -31,9 +37,9 @@ Item {
     }
     SymbolButton {
         id: icon
-        visible: button.title === ""
+        visible: button.isSymbol
         symbol: button.symbol
-        help: button.help
+        help: button.told
         onPressed: button.pressed()
     }
 }

@@ -207,7 +207,8 @@ QString mergeNote(const std::vector<ClipRef>& clips) {
 }
 
 PreviewContent::Entry entryOf(const Clip& clip) {
-    return {.name = row::titleOf(clip),
+    // Line breaks became blanks, and rows show a run of these as one.
+    return {.name = row::titleOf(clip).simplified(),
             .symbol = row::symbolOf(clip),
             .thumbnail = row::thumbnailOf(clip),
             .swatch = row::swatchOf(clip)};

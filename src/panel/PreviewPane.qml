@@ -81,12 +81,34 @@ Item {
             width: parent.width
             spacing: Theme.gap
 
+            /// Those of one clip stand in one line; those of several have two.
+            readonly property bool isTight: pane.preview.body !== PreviewModel.Several && wanted() > width
+
+            function wanted(): real {
+                let sum = 0;
+                for (let index = 0; all.isMade && index < all.count; ++index) {
+                    const button = all.itemAt(index) as PreviewButton;
+                    if (button)
+                        sum += button.wanted + (sum > 0 ? spacing : 0);
+                }
+                return sum;
+            }
+
             Repeater {
+                id: all
+
+                /// The count is told before the items are there.
+                property int made: 0
+                readonly property bool isMade: made === count
+
                 model: pane.preview.buttons
+                onItemAdded: ++made
+                onItemRemoved: --made
 
                 PreviewButton {
                     id: button
                     widest: actions.width
+                    isTight: actions.isTight
                     onPressed: pane.preview.perform(button.action)
                     onIsAskingChanged: pane.askingButton = button.isAsking ? button : null
                 }
@@ -99,7 +121,7 @@ Item {
         readonly property point place: button === null ? Qt.point(0, 0) : button.mapToItem(pane, button.width / 2, 0)
 
         visible: button !== null
-        text: pane.askingButton === null ? "" : (pane.askingButton as PreviewButton).help
+        text: pane.askingButton === null ? "" : (pane.askingButton as PreviewButton).told
         x: Math.max(Theme.gap, Math.min(place.x - width / 2, pane.width - width - Theme.gap))
         y: place.y - height - Theme.grid
     }

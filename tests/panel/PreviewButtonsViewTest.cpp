@@ -2,11 +2,24 @@
 #include "foundation/Localisation.h"
 #include "panel/PreviewWindowWorld.h"
 
+#include <QTranslator>
+#include <string_view>
+
 using namespace vellumry;
 
 namespace {
 
 using PreviewButtonsViewTest = PreviewWindowWorld;
+
+/// A language with a long word for one of the buttons.
+class LongFileNames : public QTranslator {
+public:
+    [[nodiscard]] static QString words() { return QString(25, u'W'); }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char*, const char* key, const char*, int) const override {
+        return std::string_view(key) == "Paste file name" ? words() : QString();
+    }
+};
 
 } // namespace
 
@@ -54,6 +67,23 @@ TEST_F(PreviewButtonsViewTest, FileNamesArePasted) {
     open();
     press(localised("Paste file name"));
     EXPECT_EQ(pastedText(), QStringLiteral("one.txt\ntwo.txt"));
+}
+
+TEST_F(PreviewButtonsViewTest, WhatHasNoRoomInTheLineIsASymbolThatTellsItsWords) {
+    add(drafts::files({QStringLiteral("/a/one.txt")}));
+    LongFileNames words; // taken out again where it ends
+    QCoreApplication::installTranslator(&words);
+    open();
+    layOut();
+    const auto top = [this](const QString& name) {
+        const QQuickItem* button = node(QAccessible::Button, name);
+        return button ? button->mapToScene(QPointF()).y() : -1;
+    };
+    EXPECT_EQ(top(localised("Delete (⌘⌫)")), top(localised("Paste")));
+    EXPECT_FALSE(shown().contains(LongFileNames::words()));
+    EXPECT_TRUE(shown().contains(localised("Paste"))) << "what matters most stays";
+    press(LongFileNames::words());
+    EXPECT_EQ(pastedText(), QStringLiteral("one.txt"));
 }
 
 TEST_F(PreviewButtonsViewTest, FilesAreShownInTheFileManager) {
