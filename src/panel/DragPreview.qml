@@ -4,22 +4,16 @@ import QtQuick
 import Vellumry.Views
 
 // What the pointer carries: the first clip's title, and how many there are.
-Rectangle {
+FloatingBoard {
     id: preview
 
     property string title
     property string symbol
     property string count
-    readonly property color cornerColour: Theme.edge
 
-    implicitWidth: content.width + 2 * Theme.margin
-    implicitHeight: Theme.rowHeight
+    boardWidth: content.width + 2 * Theme.margin
+    boardHeight: Theme.rowHeight
     radius: Theme.rowRadius
-    color: Theme.ground
-    border.color: Theme.edge
-    border.width: Theme.thin
-    LayoutMirroring.enabled: Views.isRightToLeft
-    LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.StaticText
     Accessible.name: title
 

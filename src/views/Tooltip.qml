@@ -8,7 +8,7 @@ Rectangle {
     id: tooltip
 
     property string text
-    readonly property color cornerColour: Theme.capEdge
+    property bool throwsShadow: true
 
     width: words.width + 2 * Theme.margin
     height: Math.ceil(words.implicitHeight) + Theme.margin
@@ -21,6 +21,13 @@ Rectangle {
     Accessible.role: Accessible.ToolTip
     Accessible.name: text
 
+    Shadow {
+        anchors.fill: parent
+        anchors.margins: -Theme.smallShadow
+        visible: tooltip.throwsShadow
+        // Behind the tooltip's own ground.
+        z: -1
+    }
     Label {
         id: words
         anchors.centerIn: parent
