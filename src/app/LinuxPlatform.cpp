@@ -4,6 +4,7 @@
 #include "app/Capabilities.h"
 #include "app/WaylandDisplay.h"
 #include "foundation/Logging.h"
+#include "linux/accessibility/ActiveDescendant.h"
 #include "linux/accessibility/PasswordFocus.h"
 #include "linux/applications/DesktopEntries.h"
 #include "linux/applications/DesktopOpener.h"
@@ -198,6 +199,7 @@ OrReason<Platform> makeLinuxPlatform(DisplayKind display) {
     }
     addUpdater(platform);
     platform.returnMemory = &returnCode;
+    platform.tellActiveRow = &tellActiveDescendant;
     return platform;
 }
 

@@ -28,6 +28,7 @@ void AppEnvironment::makeSettings() {
     m_fieldPasteboard = std::make_unique<FieldPasteboard>(*m_platform->pasteboard);
     m_views.copyText = [this](const QString& text) { m_fieldPasteboard->setText(text); };
     m_views.readText = [this](const ViewEngine::Deliver& deliver) { readFieldText(deliver); };
+    m_views.tellActiveRow = m_platform->tellActiveRow;
     m_views.reducesMotion = [surface = m_platform->panelSurface.get()] { return surface->reducesMotion(); };
     followDesktopLook();
 }

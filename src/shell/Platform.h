@@ -36,6 +36,8 @@
 #include <memory>
 #include <vector>
 
+class QAccessibleInterface;
+
 namespace vellumry {
 
 /// Everything the program needs of the system, one implementation a seam, chosen by the entry point. All are present;
@@ -70,6 +72,8 @@ struct Platform {
     UpdateConfiguration updateConfiguration;
     /// Since the last key or movement of the pointer; 0 where the system does not say.
     std::function<double()> idleSeconds = [] { return 0.0; };
+    /// Tells assistive technology which row of a list the keys work on while the focus lies elsewhere.
+    std::function<void(QAccessibleInterface& row)> tellActiveRow = [](QAccessibleInterface&) {};
     /// What punctual expiry waits with; null where the system has nothing better than an interval.
     std::unique_ptr<DateTimer> expiryTimer;
     /// What the session offers and lacks, as far as the start has found out.

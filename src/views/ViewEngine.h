@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 
+class QAccessibleInterface;
 class QQmlEngine;
 class QQuickView;
 
@@ -36,6 +37,8 @@ public:
     std::function<void(const QString& text)> copyText = [](const QString&) {};
     using Deliver = std::function<void(const QString& text)>;
     std::function<void(Deliver deliver)> readText = [](const Deliver&) {};
+    /// The keys work on another row of a list; for assistive technology.
+    std::function<void(QAccessibleInterface& row)> tellActiveRow = [](QAccessibleInterface&) {};
     /// The user wants less motion.
     std::function<bool()> reducesMotion = [] { return false; };
 

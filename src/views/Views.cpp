@@ -71,6 +71,9 @@ void Views::tellFocused(QQuickItem* item) const {
         return;
     QAccessibleEvent event(item, QAccessible::Focus);
     QAccessible::updateAccessibility(&event);
+    QAccessibleInterface* row = QAccessible::queryAccessibleInterface(item);
+    if (row && row->role() == QAccessible::ListItem)
+        m_engine->tellActiveRow(*row);
 }
 
 void Views::copy(const QString& text) const {

@@ -5,7 +5,8 @@ import os
 import re
 import tempfile
 
-from desktop import remember, Process, Vellumry, accessible, key, main, own_tests, panel_is_open, wait_for_clip, text_of, wait_until
+from desktop import remember, Process, Vellumry, accessible, key, main, own_tests, panel_is_open, same, wait_for_clip, text_of, wait_until
+from panel_rows import texts_kept
 
 # Its log is written in blocks of kilobytes otherwise, and the last words would be missing.
 BY_LINES = """import builtins, runpy, sys
@@ -14,6 +15,30 @@ builtins.open = lambda path, *rest, **named: plain(path, "w", 1) if path == log 
 sys.argv = ["/usr/bin/orca", "--replace", "--debug-file=" + log]
 runpy.run_path(sys.argv[0], run_name="__main__")"""
 SYNTHESISER = 'LogLevel 1\nAddModule "dummy" "sd_dummy" ""\nDefaultModule dummy\n'
+
+
+# Writes down whose row became the active one, of which list.
+LISTENER = """import pyatspi, sys
+def told(event):
+    print(event.source.name, event.any_data.name, sep=": ", flush=True)
+pyatspi.Registry.registerEventListener(told, "object:active-descendant-changed")
+print("ready", flush=True)
+pyatspi.Registry.start()"""
+
+
+class Listener(Process):
+    """Another assistive program, which follows the active rows of lists."""
+
+    def __init__(self):
+        self.log = os.path.join(tempfile.mkdtemp(prefix="listener"), "told")
+        super().__init__("sh", "-c", 'exec /usr/bin/python3 -c "$0" >"$1"', LISTENER, self.log)
+        wait_until(lambda: self.told() == ["ready"], "the listener")
+
+    def told(self):
+        if not os.path.exists(self.log):
+            return []
+        with open(self.log, encoding="utf-8") as file:
+            return file.read().splitlines()
 
 
 class Orca(Process):
@@ -73,6 +98,30 @@ def the_menu_is_read():
         orca.hears(lambda: key("Home"), "Paste")
         orca.hears(lambda: key("Down"), "Paste as Plain Text")
         orca.hears(lambda: key("Escape"), "second text")
+
+
+def it_is_told_which_row_the_keys_work_on():
+    """While the focus stays in the search field."""
+    with Vellumry(), Listener() as listener:
+        remember("first text", "second text")
+        open_panel()
+        wait_until(lambda: "Clips: second text" in listener.told(), "the row at the start")
+        key("Down")
+        wait_until(lambda: listener.told()[-1] == "Clips: first text", "the next row")
+
+
+def of_a_deletion_the_neighbour_is_read_once():
+    """And nothing of what was deleted."""
+    with Orca() as orca, Vellumry():
+        remember("first text", "second text", "third text")
+        orca.hears(open_panel, "third text")
+        before = len(orca.said())
+        orca.hears(lambda: key("ctrl+Delete"), "second text")
+        wait_until(lambda: len(texts_kept()) == 2, "the deletion")
+        orca.hears(lambda: key("Down"), "first text")
+        said = orca.said()[before:]
+        same([words for words in said if "third text" in words], [], "what is said of the deleted clip")
+        same(len([words for words in said if "second text" in words]), 1, f"how often the neighbour is read in {said}")
 
 
 if __name__ == "__main__":
