@@ -88,8 +88,9 @@ void PanelListModel::rebuild() {
 std::optional<PanelListModel::Run> PanelListModel::runBetween(const std::vector<Row>& longer,
                                                               const std::vector<Row>& shorter) {
     const auto isSame = [](const Row& one, const Row& other) {
-        return one.header == other.header && bool(one.clip) == bool(other.clip) &&
-               (!one.clip || one.clip->id == other.clip->id);
+        if (one.clip == other.clip)
+            return one.clip != nullptr || one.header == other.header;
+        return one.clip && other.clip && one.clip->id == other.clip->id;
     };
     if (shorter.size() >= longer.size())
         return std::nullopt;
