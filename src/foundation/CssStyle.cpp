@@ -97,50 +97,20 @@ void applyOne(QStringView name, QStringView value, TextStyle& style, Flow& flow)
     }
 }
 
-} // namespace
-
-void apply(QStringView declarations, TextStyle& style, Flow& flow) {
-    for (const QStringView declaration : declarations.tokenize(u';')) {
-        const qsizetype colon = declaration.indexOf(u':');
-        if (colon < 0)
-            continue;
-        QStringView value = declaration.sliced(colon + 1).trimmed();
-        if (const qsizetype important = value.indexOf(u'!'); important >= 0)
-            value = value.first(important).trimmed();
-        applyOne(declaration.first(colon).trimmed(), value, style, flow);
-    }
+/// "#fff" and "#ffffff".
+std::optional<quint32> hexColor(QStringView value) {
+    bool isRead = false;
+    const quint32 number = value.sliced(1).toUInt(&isRead, 16);
+    if (!isRead)
+        return std::nullopt;
+    if (value.size() == 7)
+        return number;
+    const quint32 wide = (number & 0xF00U) << 8 | (number & 0xF0U) << 4 | (number & 0xFU);
+    return value.size() == 4 ? std::optional(wide | wide << 4) : std::nullopt;
 }
 
-std::optional<quint32> colorOf(QStringView notation) {
-    static const QHash<QString, quint32> names{
-        {QStringLiteral("black"), 0x000000},    {QStringLiteral("silver"), 0xc0c0c0},
-        {QStringLiteral("gray"), 0x808080},     {QStringLiteral("grey"), 0x808080},
-        {QStringLiteral("white"), 0xffffff},    {QStringLiteral("maroon"), 0x800000},
-        {QStringLiteral("red"), 0xff0000},      {QStringLiteral("purple"), 0x800080},
-        {QStringLiteral("fuchsia"), 0xff00ff},  {QStringLiteral("magenta"), 0xff00ff},
-        {QStringLiteral("green"), 0x008000},    {QStringLiteral("lime"), 0x00ff00},
-        {QStringLiteral("olive"), 0x808000},    {QStringLiteral("yellow"), 0xffff00},
-        {QStringLiteral("navy"), 0x000080},     {QStringLiteral("blue"), 0x0000ff},
-        {QStringLiteral("teal"), 0x008080},     {QStringLiteral("aqua"), 0x00ffff},
-        {QStringLiteral("cyan"), 0x00ffff},     {QStringLiteral("orange"), 0xffa500},
-        {QStringLiteral("brown"), 0xa52a2a},    {QStringLiteral("crimson"), 0xdc143c},
-        {QStringLiteral("darkblue"), 0x00008b}, {QStringLiteral("darkgreen"), 0x006400},
-        {QStringLiteral("darkred"), 0x8b0000}};
-    const QStringView value = notation.trimmed();
-    bool isRead = false;
-    if (value.startsWith(u'#')) {
-        const quint32 number = value.sliced(1).toUInt(&isRead, 16);
-        if (!isRead)
-            return std::nullopt;
-        if (value.size() == 7)
-            return number;
-        const quint32 wide = (number & 0xF00U) << 8 | (number & 0xF0U) << 4 | (number & 0xFU);
-        return value.size() == 4 ? std::optional(wide | wide << 4) : std::nullopt;
-    }
-    if (!value.startsWith(QLatin1String("rgb"), Qt::CaseInsensitive) || !value.endsWith(u')')) {
-        const auto found = names.constFind(value.toString().toLower());
-        return found == names.constEnd() ? std::nullopt : std::optional(*found);
-    }
+/// "rgb(…)" and "rgba(…)" with commas, blanks or a slash between the numbers.
+std::optional<quint32> rgbColor(QStringView value) {
     const qsizetype open = value.indexOf(u'(');
     if (open < 0)
         return std::nullopt;
@@ -161,6 +131,48 @@ std::optional<quint32> colorOf(QStringView notation) {
     for (std::size_t index = 0; index < 3; ++index)
         color = color << 8 | static_cast<quint32>(std::clamp(parts[index], 0.0F, 255.0F));
     return color;
+}
+
+std::optional<quint32> namedColor(QStringView value) {
+    static const QHash<QString, quint32> names{
+        {QStringLiteral("black"), 0x000000},    {QStringLiteral("silver"), 0xc0c0c0},
+        {QStringLiteral("gray"), 0x808080},     {QStringLiteral("grey"), 0x808080},
+        {QStringLiteral("white"), 0xffffff},    {QStringLiteral("maroon"), 0x800000},
+        {QStringLiteral("red"), 0xff0000},      {QStringLiteral("purple"), 0x800080},
+        {QStringLiteral("fuchsia"), 0xff00ff},  {QStringLiteral("magenta"), 0xff00ff},
+        {QStringLiteral("green"), 0x008000},    {QStringLiteral("lime"), 0x00ff00},
+        {QStringLiteral("olive"), 0x808000},    {QStringLiteral("yellow"), 0xffff00},
+        {QStringLiteral("navy"), 0x000080},     {QStringLiteral("blue"), 0x0000ff},
+        {QStringLiteral("teal"), 0x008080},     {QStringLiteral("aqua"), 0x00ffff},
+        {QStringLiteral("cyan"), 0x00ffff},     {QStringLiteral("orange"), 0xffa500},
+        {QStringLiteral("brown"), 0xa52a2a},    {QStringLiteral("crimson"), 0xdc143c},
+        {QStringLiteral("darkblue"), 0x00008b}, {QStringLiteral("darkgreen"), 0x006400},
+        {QStringLiteral("darkred"), 0x8b0000}};
+    const auto found = names.constFind(value.toString().toLower());
+    return found == names.constEnd() ? std::nullopt : std::optional(*found);
+}
+
+} // namespace
+
+void apply(QStringView declarations, TextStyle& style, Flow& flow) {
+    for (const QStringView declaration : declarations.tokenize(u';')) {
+        const qsizetype colon = declaration.indexOf(u':');
+        if (colon < 0)
+            continue;
+        QStringView value = declaration.sliced(colon + 1).trimmed();
+        if (const qsizetype important = value.indexOf(u'!'); important >= 0)
+            value = value.first(important).trimmed();
+        applyOne(declaration.first(colon).trimmed(), value, style, flow);
+    }
+}
+
+std::optional<quint32> colorOf(QStringView notation) {
+    const QStringView value = notation.trimmed();
+    if (value.startsWith(u'#'))
+        return hexColor(value);
+    if (value.startsWith(QLatin1String("rgb"), Qt::CaseInsensitive) && value.endsWith(u')'))
+        return rgbColor(value);
+    return namedColor(value);
 }
 
 std::optional<float> fontElementSize(QStringView value) {
