@@ -28,7 +28,7 @@ QByteArray sealedMeta(const ClipCrypto& crypto, const Clip& clip) {
 }
 
 void run(SQLiteDatabase& database, const char* sql, std::span<const SQLValue> values) {
-    auto statement = database.prepare(sql);
+    auto statement = database.prepareKept(sql);
     statement.bind(values);
     statement.step();
 }
@@ -98,7 +98,7 @@ std::vector<ClipRef> readAll(SQLiteDatabase& database, const ClipCrypto& crypto)
 }
 
 std::optional<ClipPayload> readPayload(SQLiteDatabase& database, const ClipCrypto& crypto, const QUuid& id) {
-    auto row = database.prepare("SELECT payload FROM clips WHERE id = ?;");
+    auto row = database.prepareKept("SELECT payload FROM clips WHERE id = ?;");
     row.bind(std::array<SQLValue, 1>{rowidentity::textOf(id)});
     if (!row.step())
         return std::nullopt;

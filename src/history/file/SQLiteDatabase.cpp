@@ -60,6 +60,8 @@ SQLiteDatabase::~SQLiteDatabase() {
 }
 
 void SQLiteDatabase::close() {
+    for (const auto& [sql, statement] : std::exchange(m_kept, {}))
+        sqlite3_finalize(statement);
     sqlite3_close(m_handle);
     m_handle = nullptr;
 }
@@ -73,12 +75,22 @@ void SQLiteDatabase::execute(const char* sql) {
 }
 
 SQLiteDatabase::Statement SQLiteDatabase::prepare(const char* sql) {
+    return {*this, compiled(sql, 0), nullptr};
+}
+
+SQLiteDatabase::Statement SQLiteDatabase::prepareKept(const char* sql) {
+    if (const auto kept = m_kept.extract(sql))
+        return {*this, kept.mapped(), sql};
+    return {*this, compiled(sql, SQLITE_PREPARE_PERSISTENT), sql};
+}
+
+sqlite3_stmt* SQLiteDatabase::compiled(const char* sql, unsigned flags) {
     sqlite3_stmt* pointer = nullptr;
-    if (sqlite3_prepare_v2(m_handle, sql, -1, &pointer, nullptr) != SQLITE_OK)
+    if (sqlite3_prepare_v3(m_handle, sql, -1, flags, &pointer, nullptr) != SQLITE_OK)
         throw error(SQLiteError::Case::prepare);
     if (!pointer)
         throw SQLiteError(SQLiteError::Case::prepare, SQLITE_MISUSE, "an empty statement");
-    return {*this, pointer};
+    return pointer;
 }
 
 SQLiteError SQLiteDatabase::error(SQLiteError::Case kind) const {
@@ -89,9 +101,16 @@ SQLiteError SQLiteDatabase::error(SQLiteError::Case kind) const {
 
 SQLiteDatabase::Statement::Statement(Statement&& other) noexcept
     : m_database(other.m_database)
-    , m_pointer(std::exchange(other.m_pointer, nullptr)) {}
+    , m_pointer(std::exchange(other.m_pointer, nullptr))
+    , m_keptAs(other.m_keptAs) {}
 
 SQLiteDatabase::Statement::~Statement() {
+    if (m_pointer && m_keptAs) {
+        sqlite3_reset(m_pointer);
+        sqlite3_clear_bindings(m_pointer);
+        if (m_database->m_kept.emplace(m_keptAs, m_pointer).second)
+            return;
+    }
     sqlite3_finalize(m_pointer);
 }
 

@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QString>
 #include <span>
+#include <unordered_map>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -46,11 +47,13 @@ public:
 
     private:
         friend class SQLiteDatabase;
-        Statement(const SQLiteDatabase& database, sqlite3_stmt* pointer)
+        Statement(SQLiteDatabase& database, sqlite3_stmt* pointer, const char* keptAs)
             : m_database(&database)
-            , m_pointer(pointer) {}
-        const SQLiteDatabase* m_database;
+            , m_pointer(pointer)
+            , m_keptAs(keptAs) {}
+        SQLiteDatabase* m_database;
         sqlite3_stmt* m_pointer;
+        const char* m_keptAs; ///< null for a statement that goes after its use
     };
 
     /// A writable connection keeps its changes in a rollback journal where the file system refuses a write-ahead log.
@@ -63,13 +66,17 @@ public:
     /// Runs one or more statements, rows ignored.
     void execute(const char* sql);
     [[nodiscard]] Statement prepare(const char* sql);
+    /// The same for a literal that is used again and again: it is compiled once. Nothing that was bound to it is kept.
+    [[nodiscard]] Statement prepareKept(const char* sql);
 
 private:
+    [[nodiscard]] sqlite3_stmt* compiled(const char* sql, unsigned flags);
     [[nodiscard]] SQLiteError error(SQLiteError::Case kind) const;
     void open(const QString& path, Access access);
     void prepareForWriting();
     void close();
     sqlite3* m_handle = nullptr;
+    std::unordered_map<const char*, sqlite3_stmt*> m_kept; ///< by their literals, while nobody uses them
 };
 
 } // namespace vellumry

@@ -101,6 +101,27 @@ TEST_F(SQLiteDatabaseTest, AFileThatIsNoDatabaseFailsConstruction) {
               "History file error: file is not a database");
 }
 
+TEST_F(SQLiteDatabaseTest, AKeptStatementForgetsWhatItWasUsedFor) {
+    SQLiteDatabase database(path(), Access::readWrite);
+    database.execute("CREATE TABLE t (a); INSERT INTO t VALUES (1), (2);");
+    static const char* const sql = "SELECT a, ? FROM t ORDER BY a;";
+    {
+        auto rows = database.prepareKept(sql);
+        rows.bind(std::array<SQLValue, 1>{qint64{7}});
+        ASSERT_TRUE(rows.step());
+        EXPECT_EQ(rows.integer(1), 7);
+        auto meanwhile = database.prepareKept(sql);
+        ASSERT_TRUE(meanwhile.step()) << "it may be used twice at a time";
+        EXPECT_TRUE(meanwhile.isNull(1));
+    }
+    auto rows = database.prepareKept(sql);
+    ASSERT_TRUE(rows.step());
+    EXPECT_EQ(rows.integer(0), 1) << "it begins anew";
+    EXPECT_TRUE(rows.isNull(1));
+    database.execute("ALTER TABLE t ADD COLUMN b;");
+    EXPECT_TRUE(database.prepareKept("SELECT b FROM t;").step());
+}
+
 TEST_F(SQLiteDatabaseTest, EachFailureSaysWhatSQLiteSays) {
     SQLiteDatabase database(path(), Access::readWrite);
     database.execute("CREATE TABLE t (a INTEGER NOT NULL);");
