@@ -44,9 +44,9 @@ std::size_t residentBytes() {
 std::size_t contentBytes(const Clip& clip) {
     qsizetype bytes = clip.searchText.utf8().size();
     if (clip.searchText.isEmpty())
-        bytes += clip.title.toUtf8().size();
+        bytes += clip.title.utf8().size();
     if (clip.imageText)
-        bytes += clip.imageText->toUtf8().size();
+        bytes += clip.imageText->utf8().size();
     if (clip.thumbnail)
         bytes += clip.thumbnail->size();
     return static_cast<std::size_t>(bytes);

@@ -113,6 +113,7 @@ ClipRef Corpus::nextClip() {
     const QByteArray text = cut(static_cast<std::size_t>(std::clamp(length, 1.0, longestClip)));
     clip->searchText = StoredText::fromUtf8(text);
     clip->title = QString::fromUtf8(text.left(text.indexOf('\n'))).left(300);
+    clip->title.shareWith(clip->searchText);
     clip->byteSize = text.size();
     return clip;
 }
@@ -128,7 +129,7 @@ std::vector<ClipRef> Corpus::screenshots(std::size_t count, std::size_t characte
     while (result.size() < count) {
         auto clip = std::make_shared<Clip>(*nextClip());
         clip->kind = ClipKind::image;
-        clip->title.clear();
+        clip->title = StoredText();
         clip->searchText = StoredText();
         clip->imageText = QString::fromUtf8(cut(2 * characters)).left(static_cast<qsizetype>(characters));
         result.push_back(clip);

@@ -22,6 +22,11 @@ public:
         return text;
     }
 
+    /// Where both are the same, this one keeps no bytes of its own.
+    void shareWith(const StoredText& other) {
+        if (m_utf8 == other.m_utf8)
+            m_utf8 = other.m_utf8;
+    }
     [[nodiscard]] QString toString() const { return QString::fromUtf8(m_utf8); }
     [[nodiscard]] const QByteArray& utf8() const { return m_utf8; }
     [[nodiscard]] bool isEmpty() const { return m_utf8.isEmpty(); }

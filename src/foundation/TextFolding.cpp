@@ -287,6 +287,14 @@ QByteArray foldedBytes(QStringView text) {
     return foldedBytes(text.toUtf8());
 }
 
+bool foldsToLowerCase(QByteArrayView utf8) {
+    // Without an early way out, so that the compiler can look at many bytes at a time.
+    quint8 any = 0;
+    for (const char byte : utf8)
+        any |= static_cast<quint8>(byte);
+    return any < 0x80 && letterIOfCurrentLocale() == LetterI::Dotted;
+}
+
 QString folded(QStringView text) {
     return QString::fromUtf8(foldedBytes(text));
 }

@@ -62,7 +62,7 @@ void addPicture(DragSource::Content& content, QStringList& types, const Clip& cl
             const auto found = item.representations.find(form.type);
             if (found == item.representations.end())
                 continue;
-            QString name = pictureFileName(clip.title);
+            QString name = pictureFileName(clip.title.toString());
             name.replace(name.size() - 4, 4, QString::fromUtf16(form.extension));
             content.files.push_back({name, found->second});
             types.append(form.type);

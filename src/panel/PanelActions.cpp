@@ -38,7 +38,7 @@ void PanelActions::paste(const ClipRef& clip, bool isPlain, std::optional<TextTr
     if (!wantsTextInImage)
         runPaste(clip, isPlain ? std::optional(true) : std::nullopt, transform);
     else if (clip->imageText && !clip->imageText->isEmpty())
-        runPasteText(*clip->imageText);
+        runPasteText(clip->imageText->toString());
     else
         runPaste(clip, std::nullopt, std::nullopt);
 }
@@ -65,7 +65,7 @@ void PanelActions::pasteTextInImage(const ClipRef& clip) {
     if (!clip->imageText || clip->imageText->isEmpty())
         return;
     onClose();
-    runPasteText(*clip->imageText);
+    runPasteText(clip->imageText->toString());
 }
 
 void PanelActions::copy(const ClipRef& clip) {

@@ -105,7 +105,7 @@ void PanelModel::setAvailablePinnedNumbers(const QSet<int>& numbers) {
 std::optional<QString> PanelModel::imageMatch(const Clip& clip) const {
     if (!clip.imageText)
         return std::nullopt;
-    return imageTextExcerpt(query(), clip.title, *clip.imageText);
+    return imageTextExcerpt(query(), clip.title.toString(), clip.imageText->toString());
 }
 
 ClipRef PanelModel::currentClip() const {

@@ -59,7 +59,7 @@ QString number(double value) {
 }
 
 PreviewContent::Color colorOf(const Clip& clip) {
-    PreviewContent::Color result{.swatch = row::swatchOf(clip), .text = clip.title};
+    PreviewContent::Color result{.swatch = row::swatchOf(clip), .text = clip.title.toString()};
     const QColor color(result.swatch);
     if (result.swatch.isEmpty() || !color.isValid())
         return result;
@@ -153,7 +153,7 @@ void describeFiles(PreviewContent& content, const Clip& clip, const PreviewSourc
 void describeTextInImage(PreviewContent& content, const Clip& clip, const PreviewSources& sources) {
     if (clip.kind != ClipKind::image && !clip.isImageFile())
         return;
-    content.textInImage = clip.imageText.value_or(QString());
+    content.textInImage = clip.imageText.value_or(StoredText()).toString();
     content.isReadingText = !clip.imageText && sources.isReading && sources.isReading(clip.id);
     content.offersReading = clip.isImageFile() && !clip.imageText && !content.isReadingText;
 }

@@ -57,8 +57,8 @@ QColor functionalColor(const QString& text) {
 
 QString titleOf(const Clip& clip) {
     if (clip.isSensitive())
-        return hiddenTitle(clip.title);
-    QString title = clip.title;
+        return hiddenTitle(clip.title.toString());
+    QString title = clip.title.toString();
     return title.replace(QLatin1Char('\n'), QLatin1Char(' '));
 }
 
@@ -87,7 +87,7 @@ QString symbolOf(const Clip& clip) {
 QString swatchOf(const Clip& clip) {
     if (clip.kind != ClipKind::color || clip.isSensitive())
         return QString();
-    const QString text = clip.title.trimmed();
+    const QString text = clip.title.toString().trimmed();
     QColor color;
     if (text.size() == 9 && text.startsWith(QLatin1Char('#')))
         color = QColor(QLatin1Char('#') + text.mid(7) + text.mid(1, 6)); // CSS puts alpha last, Qt first

@@ -17,7 +17,7 @@ constexpr qsizetype longestNote = 500;
 QString titleOf(const Clip& clip) {
     if (clip.isSensitive())
         return localised("Hidden · deletes itself soon");
-    QString title = clip.title;
+    QString title = clip.title.toString();
     title.replace(u'\n', u' ');
     if (!text::hasMoreCharactersThan(title, longestTitle))
         return title;
@@ -72,9 +72,9 @@ ActionMenuItem clipRow(const Clip& clip) {
     ActionMenuItem row{.text = titleOf(clip), .symbol = symbolOf(clip)};
     if (clip.isSensitive())
         return row;
-    row.note = text::firstCharacters(clip.title, longestNote);
+    row.note = text::firstCharacters(clip.title.toString(), longestNote);
     if (clip.kind == ClipKind::color)
-        row.swatch = colourOf(clip.title);
+        row.swatch = colourOf(clip.title.toString());
     // Without a text it would be a separator.
     if (row.text.isEmpty())
         row.text = QStringLiteral(" ");

@@ -39,7 +39,7 @@ ImportEntry entryOf(const Clip& clip, ClipPayload payload) {
     entry.payload = std::move(payload);
     entry.provenance = {clip.createdAt, clip.lastUsedAt, clip.isPinned, clip.pinOrder};
     entry.source = {clip.sourceBundleID, clip.sourceAppName};
-    entry.title = clip.title;
+    entry.title = clip.title.toString();
     entry.isScreenshot = clip.isScreenshot;
     return entry;
 }

@@ -24,7 +24,7 @@ protected:
             ++sourceRequests;
             return source;
         });
-        watcher->onCapture = [this](const ClipRef& clip) { captured.append(clip->title); };
+        watcher->onCapture = [this](const ClipRef& clip) { captured.append(clip->title.toString()); };
         watcher->onStored = [this](const ClipRef& clip, qint64 changeCount) {
             stored.push_back({clip->id, changeCount});
         };
@@ -40,7 +40,7 @@ protected:
     QStringList history() const {
         QStringList titles;
         for (const ClipRef& clip : store.clips())
-            titles.append(clip->title);
+            titles.append(clip->title.toString());
         return titles;
     }
 

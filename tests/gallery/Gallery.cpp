@@ -185,7 +185,7 @@ private:
 
     void choose(const char* beginning) {
         const auto found = std::ranges::find_if(
-            store.clips(), [&](const ClipRef& clip) { return clip->title.startsWith(QString::fromUtf8(beginning)); });
+            store.clips(), [&](const ClipRef& clip) { return clip->title.toString().startsWith(QString::fromUtf8(beginning)); });
         if (found != store.clips().end())
             panel.model().selectOnly((*found)->id);
     }
@@ -218,7 +218,7 @@ private:
     QStringList ofClips() {
         QStringList found;
         for (const ClipRef& clip : store.clips())
-            found << clip->title << clip->sourceAppName.value_or(QString());
+            found << clip->title.toString() << clip->sourceAppName.value_or(QString());
         return found;
     }
 

@@ -28,7 +28,7 @@ protected:
     [[nodiscard]] static QStringList titles(const std::vector<ClipRef>& clips) {
         QStringList result;
         for (const auto& clip : clips)
-            result.append(clip->title);
+            result.append(clip->title.toString());
         return result;
     }
     [[nodiscard]] QStringList sectionIDs() const {

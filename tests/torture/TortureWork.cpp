@@ -32,7 +32,7 @@ ClipDraft draft(int clip, int version, bool isSensitive, qsizetype padding) {
 }
 
 int numberOf(const Clip& clip) {
-    return clip.title.section(u' ', 1).toInt();
+    return clip.title.toString().section(u' ', 1).toInt();
 }
 
 std::optional<int> versionOf(int clip, const ClipPayload& payload) {

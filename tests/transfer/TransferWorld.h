@@ -42,7 +42,7 @@ protected:
     [[nodiscard]] QStringList titles() const {
         QStringList titles;
         for (const ClipRef& clip : store->clips())
-            titles.append(clip->title);
+            titles.append(clip->title.toString());
         return titles;
     }
     [[nodiscard]] QString path(const char* name) const { return disk.filePath(QString::fromUtf8(name)); }

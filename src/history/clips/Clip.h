@@ -71,7 +71,7 @@ struct Clip {
     bool isPinned = false;
     bool imageTextIsAccurate = false;
     bool isScreenshot = false;
-    QString title;
+    StoredText title;
     StoredText searchText;
     std::optional<QString> sourceBundleID;
     std::optional<QString> sourceAppName;
@@ -83,7 +83,7 @@ struct Clip {
     std::vector<FileRef> files;
     std::optional<QByteArray> thumbnail;
     qint64 pinOrder = 0; ///< position among the pins, 0 when unpinned
-    std::optional<QString> imageText;
+    std::optional<StoredText> imageText;
 
     /// A sensitive clip deletes itself; this is the only definition of one.
     [[nodiscard]] bool isSensitive() const { return expiresAt.has_value(); }

@@ -10,6 +10,7 @@ Clip clipOfDraft(const ClipDraft& draft, const ClipRef& existing, const Fingerpr
     clip.kind = draft.kind;
     clip.title = draft.title;
     clip.searchText = draft.searchText;
+    clip.title.shareWith(clip.searchText);
     clip.sourceBundleID = draft.sourceBundleID;
     clip.sourceAppName = draft.sourceAppName;
     clip.createdAt = existing ? existing->createdAt : now;

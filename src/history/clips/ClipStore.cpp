@@ -124,7 +124,7 @@ QCoro::Task<void> ClipStore::setImageText(QUuid id, std::optional<QString> text,
     if (!old)
         co_return;
     auto changedClip = std::make_shared<Clip>(*old);
-    changedClip->imageText = std::move(text);
+    changedClip->imageText = text ? std::optional(StoredText(*text)) : std::nullopt;
     changedClip->imageTextIsAccurate = isAccurate;
     const ClipRef clip = std::move(changedClip);
     d->list.change(clip);

@@ -11,13 +11,13 @@ namespace vellumry {
 
 /// The sealed part of a history row: what must not lie in the file for all to read.
 struct ClipMeta {
-    QString title;
+    StoredText title; ///< shares its bytes with `searchText` where both are the same
     StoredText searchText;
     std::optional<QString> sourceBundleID;
     std::optional<QString> sourceAppName;
     std::vector<FileRef> files;
     std::optional<QByteArray> thumbnail;
-    std::optional<QString> imageText;
+    std::optional<StoredText> imageText;
     std::optional<bool> imageTextIsAccurate; ///< absent, as is the next, in rows written before the field existed
     std::optional<bool> isScreenshot;
 

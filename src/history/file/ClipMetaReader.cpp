@@ -140,19 +140,24 @@ void share(std::optional<QString>& name, StringPool* pool) {
 std::optional<ClipMeta> metaOf(const PropertyList& list) {
     using namespace recordfields;
     ClipMeta meta;
+    QString title;
     QString searchText;
+    std::optional<QString> imageText;
     PropertyList::Array files;
-    if (!list.dictionary() || !require(list, titleKey, &PropertyList::string, meta.title) ||
+    if (!list.dictionary() || !require(list, titleKey, &PropertyList::string, title) ||
         !require(list, searchTextKey, &PropertyList::string, searchText) ||
         !require(list, filesKey, &PropertyList::array, files) ||
         !allow(list, sourceBundleIDKey, &PropertyList::string, meta.sourceBundleID) ||
         !allow(list, sourceAppNameKey, &PropertyList::string, meta.sourceAppName) ||
         !allow(list, thumbnailKey, &PropertyList::data, meta.thumbnail) ||
-        !allow(list, imageTextKey, &PropertyList::string, meta.imageText) ||
+        !allow(list, imageTextKey, &PropertyList::string, imageText) ||
         !allow(list, imageTextIsAccurateKey, &PropertyList::boolean, meta.imageTextIsAccurate) ||
         !allow(list, isScreenshotKey, &PropertyList::boolean, meta.isScreenshot))
         return std::nullopt;
     meta.searchText = searchText;
+    meta.title = title;
+    if (imageText)
+        meta.imageText = *imageText;
     for (const PropertyList& entry : files) {
         auto file = fileOf(entry);
         if (!file)
@@ -173,12 +178,12 @@ std::optional<ClipMeta> readPlainMeta(QByteArrayView bytes, StringPool* pool) {
         return std::nullopt;
 
     ClipMeta meta;
-    std::optional<QString> title;
+    std::optional<StoredText> title;
     std::optional<StoredText> searchText;
     std::optional<std::vector<FileRef>> files;
     const bool isPlain = forEachPair(list, *top, [&](QByteArrayView key, const Object& value) {
         if (key == "title")
-            return fill(title, stringOf(list, value));
+            return fill(title, storedTextOf(list, value));
         if (key == "searchText")
             return fill(searchText, storedTextOf(list, value));
         if (key == "files")
@@ -193,13 +198,14 @@ std::optional<ClipMeta> readPlainMeta(QByteArrayView bytes, StringPool* pool) {
             return fill(meta.sourceAppName, stringOf(list, value, pool));
         if (key == "thumbnail")
             return fill(meta.thumbnail, dataOf(list, value));
-        return key == "imageText" && fill(meta.imageText, stringOf(list, value));
+        return key == "imageText" && fill(meta.imageText, storedTextOf(list, value));
     });
     if (!isPlain || !title || !searchText || !files || list.isOverdrawn())
         return std::nullopt;
     meta.title = *std::move(title);
     meta.searchText = *std::move(searchText);
     meta.files = *std::move(files);
+    meta.title.shareWith(meta.searchText);
     return meta;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/search/ByteSearch.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <string_view>
@@ -37,6 +38,15 @@ unsigned char frequencyOfByte(unsigned char byte) {
 
 namespace {
 
+char lowerAscii(char byte) {
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte | 0x20) : byte;
+}
+
+/// What makes a capital the small letter; nothing for a byte that has no capital.
+char caseBitOf(char small) {
+    return small >= 'a' && small <= 'z' ? 0x20 : 0;
+}
+
 std::size_t rarestPosition(const QByteArray& needle, std::size_t exceptAt) {
     std::size_t best = exceptAt == 0 ? 1 : 0;
     for (std::size_t at = best; at < static_cast<std::size_t>(needle.size()); ++at) {
@@ -55,6 +65,16 @@ ByteSearch::ByteSearch(QByteArray needle)
     : m_needle(std::move(needle)) {
     m_rare = rarestPosition(m_needle, static_cast<std::size_t>(m_needle.size()));
     m_second = m_needle.size() > 1 ? rarestPosition(m_needle, m_rare) : m_rare;
+    m_isAscii = std::none_of(m_needle.begin(), m_needle.end(),
+                             [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; });
+}
+
+template <ByteSearch::Case letters>
+bool ByteSearch::isAt(const char* place) const {
+    if constexpr (letters == Case::asItIs)
+        return std::memcmp(place, m_needle.constData(), static_cast<std::size_t>(m_needle.size())) == 0;
+    return std::equal(m_needle.begin(), m_needle.end(), place,
+                      [](char wanted, char byte) { return wanted == lowerAscii(byte); });
 }
 
 const char* ByteSearch::find(const char* begin, const char* end) const {
@@ -63,23 +83,45 @@ const char* ByteSearch::find(const char* begin, const char* end) const {
         return nullptr;
     if (length == 1)
         return static_cast<const char*>(std::memchr(begin, m_needle[0], static_cast<std::size_t>(end - begin)));
-    if (const char* hit = findInBlocks(begin, end))
+    if (const char* hit = findInBlocks<Case::asItIs>(begin, end))
         return hit;
     const std::string_view rest(begin, static_cast<std::size_t>(end - begin));
     const std::size_t at = rest.find(std::string_view(m_needle.constData(), length));
     return at == std::string_view::npos ? nullptr : begin + at;
 }
 
+const char* ByteSearch::findInAnyCase(const char* begin, const char* end) const {
+    const auto length = static_cast<std::ptrdiff_t>(m_needle.size());
+    if (!m_isAscii || end - begin < length)
+        return nullptr;
+    if (const char* hit = findInBlocks<Case::any>(begin, end))
+        return hit;
+    for (; end - begin >= length; ++begin) {
+        if (isAt<Case::any>(begin))
+            return begin;
+    }
+    return nullptr;
+}
+
 #ifdef __SSE2__
 
+template <ByteSearch::Case letters>
 const char* ByteSearch::findInBlocks(const char*& begin, const char* end) const {
     constexpr std::ptrdiff_t lane = 16;
     const auto length = static_cast<std::size_t>(m_needle.size());
-    const __m128i rare = _mm_set1_epi8(m_needle[static_cast<qsizetype>(m_rare)]);
-    const __m128i second = _mm_set1_epi8(m_needle[static_cast<qsizetype>(m_second)]);
+    const char rareByte = m_needle[static_cast<qsizetype>(m_rare)];
+    const char secondByte = m_needle[static_cast<qsizetype>(m_second)];
+    const __m128i rare = _mm_set1_epi8(rareByte);
+    const __m128i second = _mm_set1_epi8(secondByte);
+    const __m128i rareCase = _mm_set1_epi8(caseBitOf(rareByte));
+    const __m128i secondCase = _mm_set1_epi8(caseBitOf(secondByte));
     const auto candidates = [&](const char* at) {
-        const __m128i first = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + m_rare));
-        const __m128i other = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + m_second));
+        __m128i first = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + m_rare));
+        __m128i other = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + m_second));
+        if constexpr (letters == Case::any) {
+            first = _mm_or_si128(first, rareCase);
+            other = _mm_or_si128(other, secondCase);
+        }
         return _mm_and_si128(_mm_cmpeq_epi8(first, rare), _mm_cmpeq_epi8(other, second));
     };
     const char* const lastStart = end - length;
@@ -92,7 +134,7 @@ const char* ByteSearch::findInBlocks(const char*& begin, const char* end) const 
                                                                           << lane;
         for (; places != 0; places &= places - 1) {
             const char* const place = begin + __builtin_ctz(places);
-            if (std::memcmp(place, m_needle.constData(), length) == 0)
+            if (isAt<letters>(place))
                 return place;
         }
     }
@@ -101,8 +143,11 @@ const char* ByteSearch::findInBlocks(const char*& begin, const char* end) const 
 
 #else
 
+template <ByteSearch::Case letters>
 const char* ByteSearch::findInBlocks(const char*& begin, const char* end) const {
     const auto length = static_cast<std::size_t>(m_needle.size());
+    if constexpr (letters == Case::any)
+        return nullptr; // the caller looks at each place
     const auto* const hit =
         static_cast<const char*>(memmem(begin, static_cast<std::size_t>(end - begin), m_needle.constData(), length));
     if (hit == nullptr)

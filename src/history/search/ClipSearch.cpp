@@ -22,16 +22,18 @@ constexpr std::size_t costOfOneText = 128;
 /// So many texts folded at once are a first search.
 constexpr std::size_t manyTexts = 1000;
 
-/// Everything of a clip that its reader may remember, in one text.
-QByteArray haystackOf(const Clip& clip) {
-    const QByteArray title = clip.title.toUtf8();
+/// Below this a text is scanned faster beside its neighbours than by itself.
+constexpr qsizetype longText = 2048;
+
+/// Puts everything of a clip that its reader may remember into the index, as one text.
+Slot append(FoldedIndex& index, const Clip& clip) {
+    const QByteArray before = clip.title.utf8() + '\n';
     const QByteArray& body = clip.searchText.utf8();
-    const QByteArray application = clip.sourceAppName.value_or(QString()).toUtf8();
-    const QByteArray imageText = clip.imageText.value_or(QString()).toUtf8();
-    QByteArray whole;
-    whole.reserve(title.size() + body.size() + application.size() + imageText.size() + 3);
-    whole.append(title).append('\n').append(body).append('\n').append(application).append('\n').append(imageText);
-    return text::foldedBytes(whole);
+    const QByteArray behind =
+        '\n' + clip.sourceAppName.value_or(QString()).toUtf8() + '\n' + clip.imageText.value_or(StoredText()).utf8();
+    if (body.size() >= longText && text::foldsToLowerCase(body))
+        return index.append(text::foldedBytes(before), body, text::foldedBytes(behind));
+    return index.append(text::foldedBytes(before + body + behind));
 }
 
 /// Those of `clips` that are marked. Each copy counts up in a clip that is far away in memory, so a few are fetched
@@ -172,7 +174,7 @@ Slot ClipSearch::Private::slotOfClip(const Clip& clip) {
     const auto known = slotOf.constFind(clip.id);
     if (known != slotOf.constEnd())
         return *known;
-    return *slotOf.insert(clip.id, index.append(haystackOf(clip)));
+    return *slotOf.insert(clip.id, append(index, clip));
 }
 
 void ClipSearch::Private::follow(const std::vector<ClipRef>& clips, std::optional<qint64> revision) {
@@ -284,7 +286,7 @@ void ClipSearch::Private::findTolerant(const std::vector<ClipRef>& clips, const 
 std::shared_ptr<const LookAlikeText> ClipSearch::Private::keysOf(const Clip& clip) {
     std::shared_ptr<const LookAlikeText>& kept = lookAlikes[clip.id];
     if (kept == nullptr) {
-        LookAlikeKeys keys = lookAlikeKeysOf(*clip.imageText);
+        LookAlikeKeys keys = lookAlikeKeysOf(clip.imageText->toString());
         kept = std::make_shared<const LookAlikeText>(keys, alphabet);
         wipe(keys.data(), keys.size() * sizeof keys[0]);
     }

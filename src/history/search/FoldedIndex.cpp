@@ -54,6 +54,14 @@ FoldedIndex::Slot FoldedIndex::append(const QByteArray& text) {
     return slot;
 }
 
+FoldedIndex::Slot FoldedIndex::append(const QByteArray& before, QByteArray body, const QByteArray& behind) {
+    const Slot slot = append(before + behind);
+    m_places[slot].isParted = true;
+    m_byteCount += static_cast<std::size_t>(body.size());
+    m_bodies.insert_or_assign(slot, Body{std::move(body), static_cast<std::size_t>(before.size())});
+    return slot;
+}
+
 FoldedIndex::Place FoldedIndex::store(std::span<const char> text, Slot slot) {
     const std::size_t needed = text.size() + 1;
     const std::uint32_t number = chunkWithRoomFor(needed);
@@ -63,7 +71,7 @@ FoldedIndex::Place FoldedIndex::store(std::span<const char> text, Slot slot) {
     chunk.bytes[offset + text.size()] = separator;
     chunk.used += needed;
     chunk.entries.push_back({offset, slot});
-    return {number, offset, static_cast<std::uint32_t>(text.size()), true};
+    return {number, offset, static_cast<std::uint32_t>(text.size()), true, false};
 }
 
 std::uint32_t FoldedIndex::chunkWithRoomFor(std::size_t needed) {
@@ -95,6 +103,10 @@ void FoldedIndex::remove(Slot slot) {
     m_byteCount -= place.length;
     m_removedBytes += place.length;
     place.isAlive = false;
+    if (std::exchange(place.isParted, false)) {
+        m_byteCount -= static_cast<std::size_t>(m_bodies.at(slot).text.size());
+        m_bodies.erase(slot);
+    }
     m_removed.push_back(slot);
 }
 
@@ -118,8 +130,10 @@ void FoldedIndex::empty(std::uint32_t chunkNumber) {
     const std::unique_ptr<Chunk> old = std::move(m_chunks[chunkNumber]);
     for (const Entry& entry : old->entries) {
         const Place place = m_places[entry.slot];
-        if (place.isAlive && place.chunk == chunkNumber && place.offset == entry.offset)
-            m_places[entry.slot] = store({old->bytes.get() + place.offset, place.length}, entry.slot);
+        if (!place.isAlive || place.chunk != chunkNumber || place.offset != entry.offset)
+            continue;
+        m_places[entry.slot] = store({old->bytes.get() + place.offset, place.length}, entry.slot);
+        m_places[entry.slot].isParted = place.isParted;
     }
 }
 
@@ -130,16 +144,54 @@ std::size_t FoldedIndex::capacity() const {
     return bytes;
 }
 
-bool FoldedIndex::matches(const ByteSearch& search, Slot slot) const {
+std::size_t FoldedIndex::lengthOf(Slot slot) const {
     const Place& place = m_places[slot];
-    const char* const begin = m_chunks[place.chunk]->bytes.get() + place.offset;
-    return search.find(begin, begin + place.length) != nullptr;
+    return place.length + (place.isParted ? static_cast<std::size_t>(m_bodies.at(slot).text.size()) : 0);
+}
+
+std::span<const char> FoldedIndex::storedText(Slot slot) const {
+    const Place& place = m_places[slot];
+    return {m_chunks[place.chunk]->bytes.get() + place.offset, place.length};
+}
+
+bool FoldedIndex::isInStored(const ByteSearch& search, Slot slot) const {
+    const std::span<const char> text = storedText(slot);
+    return search.find(text.data(), text.data() + text.size()) != nullptr;
+}
+
+/// In the body, or across one of its ends, which only a line feed can reach.
+bool FoldedIndex::isInBody(const ByteSearch& search, Slot slot, const Body& body) const {
+    const char* const begin = body.text.constData();
+    if (search.findInAnyCase(begin, begin + body.text.size()) != nullptr)
+        return true;
+    if (!search.needle().contains('\n'))
+        return false;
+    const std::span<const char> stored = storedText(slot);
+    QByteArray whole(stored.data(), static_cast<qsizetype>(body.split));
+    whole += body.text.toLower();
+    whole.append(stored.data() + body.split, static_cast<qsizetype>(stored.size() - body.split));
+    const bool isFound = search.find(whole.constData(), whole.constData() + whole.size()) != nullptr;
+    wipe(whole.data(), static_cast<std::size_t>(whole.size()));
+    return isFound;
+}
+
+bool FoldedIndex::matches(const ByteSearch& search, Slot slot) const {
+    if (!m_places[slot].isParted)
+        return isInStored(search, slot);
+    const bool mayCross = search.needle().contains('\n');
+    return (!mayCross && isInStored(search, slot)) || isInBody(search, slot, m_bodies.at(slot));
 }
 
 void FoldedIndex::scan(const ByteSearch& search, const std::function<void(Slot)>& onHit) const {
     for (const auto& chunk : m_chunks)
         if (chunk != nullptr)
-            scanChunk(*chunk, search, onHit);
+            scanChunk(*chunk, search, [&](Slot slot) {
+                if (!m_places[slot].isParted)
+                    onHit(slot);
+            });
+    for (const auto& [slot, body] : m_bodies)
+        if (matches(search, slot))
+            onHit(slot);
 }
 
 void FoldedIndex::scanChunk(const Chunk& chunk, const ByteSearch& search,

@@ -28,8 +28,8 @@ TEST_F(ScreenshotImporterTest, ANewScreenshotBecomesAClip) {
     EXPECT_EQ(clip.sourceAppName, QStringLiteral("Screenshot"));
     EXPECT_EQ(clip.sourceBundleID, QStringLiteral("com.apple.screencaptureui"));
     EXPECT_EQ(clip.thumbnail, "small");
-    EXPECT_TRUE(clip.title.startsWith(QStringLiteral("Screenshot 20"))) << clip.title.toStdString();
-    EXPECT_EQ(clip.searchText.toString(), clip.title + u'\n' + first + QStringLiteral("\nImage 640 × 480"));
+    EXPECT_TRUE(clip.title.toString().startsWith(QStringLiteral("Screenshot 20"))) << clip.title.utf8().toStdString();
+    EXPECT_EQ(clip.searchText.toString(), clip.title.toString() + u'\n' + first + QStringLiteral("\nImage 640 × 480"));
     EXPECT_EQ(imported, QStringList{first});
     const auto payload = awaited(store.payload(clip.id));
     ASSERT_TRUE(payload);

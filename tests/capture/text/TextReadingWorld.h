@@ -63,7 +63,10 @@ protected:
     void finish() {
         runUntil([this] { return !queue->current() && (queue->waitingAccurate().empty() || !isAccurateUsable); });
     }
-    [[nodiscard]] Answer textOf(const QUuid& id) const { return store.find(id)->imageText; }
+    [[nodiscard]] Answer textOf(const QUuid& id) const {
+        const auto& text = store.find(id)->imageText;
+        return text ? Answer(text->toString()) : Answer();
+    }
     [[nodiscard]] bool isAccurate(const QUuid& id) const { return store.find(id)->imageTextIsAccurate; }
 
     TextReadingQueue::Seams seams() {

@@ -27,7 +27,7 @@ protected:
     [[nodiscard]] QStringList titles() const {
         QStringList list;
         for (const ClipRef& clip : m_store->clips())
-            list.append(clip->title);
+            list.append(clip->title.toString());
         return list;
     }
 };

@@ -22,7 +22,7 @@ protected:
     [[nodiscard]] QStringList titles() const {
         QStringList titles;
         for (const ClipRef& clip : store->clips())
-            titles.append(clip->title);
+            titles.append(clip->title.toString());
         return titles;
     }
 
@@ -60,7 +60,7 @@ TEST_F(ClipStoreTakingInTest, APinComesWithItsPlace) {
     (void)takeIn("behind", {now - 3, now - 3, true});
     QStringList pinned;
     for (const ClipRef& clip : store->pinnedClips())
-        pinned.append(clip->title);
+        pinned.append(clip->title.toString());
     EXPECT_EQ(pinned, (QStringList{QStringLiteral("first"), QStringLiteral("third"), QStringLiteral("behind")}));
 }
 

@@ -15,7 +15,7 @@ protected:
     [[nodiscard]] QStringList titles() const {
         QStringList titles;
         for (const ClipRef& clip : m_store->clips())
-            titles.append(clip->title);
+            titles.append(clip->title.toString());
         return titles;
     }
     [[nodiscard]] QByteArray bytesOfFile(const QString& suffix) const {

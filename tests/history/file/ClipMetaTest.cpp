@@ -183,12 +183,21 @@ TEST(ClipMeta, TheShortWayNeverContradictsTheGeneralReader) {
 }
 
 TEST(ClipMeta, TextWithASurrogateAloneReadsTheSameBothWays) {
-    ClipMeta meta;
-    meta.title = QString(QChar(0xD83D)) + u"x"_s;
+    const QString odd = QString(QChar(0xD83D)) + u"x"_s;
     auto record = minimalRecord();
-    record[u"searchText"_s] = meta.title;
+    record[u"title"_s] = odd;
+    record[u"searchText"_s] = odd;
     const QByteArray bytes = written(record);
-    EXPECT_EQ(readPlainMeta(bytes, nullptr)->searchText, StoredText(meta.title));
+    EXPECT_EQ(readPlainMeta(bytes, nullptr)->searchText, StoredText(odd));
+    EXPECT_EQ(readPlainMeta(bytes, nullptr)->title, StoredText(odd));
+}
+
+TEST(ClipMeta, ATitleThatIsTheWholeTextIsInMemoryOnce) {
+    auto record = minimalRecord();
+    record[u"title"_s] = record[u"searchText"_s] = u"a few words"_s;
+    const auto meta = readPlainMeta(written(record), nullptr);
+    EXPECT_EQ(meta->title, u"a few words"_s);
+    EXPECT_EQ(meta->title.utf8().constData(), meta->searchText.utf8().constData());
 }
 
 TEST(ClipMeta, AListThatUnfoldsBeyondAllMeasureIsNotUnfolded) {

@@ -43,7 +43,7 @@ TEST_F(HistoryFixture, IsTakenAsItIs) {
     EXPECT_EQ(m_history.backups(), QStringList());
     QStringList titles;
     for (const ClipRef& found : m_store->clips())
-        titles.append(found->title);
+        titles.append(found->title.toString());
     EXPECT_EQ(titles, (QStringList{u""_s, u"before the marks"_s, u"4111 1111 1111 1111"_s, u"#336699"_s, u"notes.txt"_s,
                                    u"Image"_s, u"https://example.org/"_s, u"styled"_s, u"grün \U0001F600"_s}))
         << "a kind of the future, a row of another key and half a row are passed over";

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/search/ByteSearch.h"
 
+#include <array>
 #include <gtest/gtest.h>
 #include <random>
 #include <vector>
@@ -56,6 +57,24 @@ TEST(ByteSearch, AgreesWithAPlainSearchOnRandomBytes) {
         const QByteArray bytes = bytesOf(static_cast<int>(random() % 200), letters);
         const QByteArray needle = bytesOf(1 + static_cast<int>(random() % 8), letters);
         ASSERT_EQ(indexOf(needle, bytes), bytes.indexOf(needle)) << needle.constData() << " in " << bytes.constData();
+    }
+}
+
+TEST(ByteSearch, InAnyCaseAgreesWithASearchOfTheLowerCase) {
+    constexpr std::array letters{'a', 'A', 'z', 'Z', '[', '{', '@', '`'};
+    std::mt19937 random(21);
+    const auto bytesOf = [&](int length) {
+        QByteArray bytes;
+        for (int count = 0; count < length; ++count)
+            bytes += letters.at(random() % letters.size());
+        return bytes;
+    };
+    for (int round = 0; round < 20'000; ++round) {
+        const QByteArray bytes = bytesOf(static_cast<int>(random() % 200));
+        const QByteArray needle = bytesOf(1 + static_cast<int>(random() % 4)).toLower();
+        const char* const hit = ByteSearch(needle).findInAnyCase(bytes.constData(), bytes.constData() + bytes.size());
+        ASSERT_EQ(hit ? hit - bytes.constData() : -1, bytes.toLower().indexOf(needle))
+            << needle.constData() << " in " << bytes.constData();
     }
 }
 

@@ -49,14 +49,14 @@ private:
             return true;
         if (!clip.imageText || clip.imageText->isEmpty())
             return false;
-        const auto keys = m_keys.try_emplace(clip.id, lookAlikeKeysOf(*clip.imageText)).first;
+        const auto keys = m_keys.try_emplace(clip.id, lookAlikeKeysOf(clip.imageText->toString())).first;
         return lookAlikeMatch(queryKeys, keys->second).has_value();
     }
     QByteArray foldedBytes(const Clip& clip) {
         if (clip.isSensitive())
             return text::foldedBytes(clip.sourceAppName.value_or(QString()));
-        const QString haystack = clip.title + u'\n' + clip.searchText.toString() + u'\n' +
-                                 clip.sourceAppName.value_or(QString()) + u'\n' + clip.imageText.value_or(QString());
+        const QString haystack = clip.title.toString() + u'\n' + clip.searchText.toString() + u'\n' +
+                                 clip.sourceAppName.value_or(QString()) + u'\n' + clip.imageText.value_or(StoredText()).toString();
         return m_folded.try_emplace(clip.id, text::foldedBytes(QStringView(haystack))).first->second;
     }
 
@@ -107,12 +107,25 @@ private:
         return chosen.join(m_random() % 5 == 0 ? u'\n' : u' ');
     }
 
+    QString plainWords(int count) {
+        static const QStringList vocabulary{u"hello"_s, u"HELLO"_s, u"Invoice"_s, u"a[@`{"_s, u"Cafe"_s};
+        QStringList chosen;
+        for (int number = 0; number < count; ++number)
+            chosen << vocabulary.at(static_cast<qsizetype>(m_random() % static_cast<unsigned>(vocabulary.size())));
+        return words(1).left(1) == u"a"_s ? chosen.join(u'\n') : chosen.join(u' ');
+    }
+
     void fill(Clip& clip) {
         clip.kind = static_cast<ClipKind>(m_random() % 6);
         clip.title = words(1);
         clip.searchText = words(static_cast<int>(m_random() % 6));
         clip.sourceAppName = m_random() % 3 == 0 ? std::optional<QString>() : words(1);
-        clip.imageText = m_random() % 2 == 0 ? std::optional<QString>() : words(static_cast<int>(m_random() % 30));
+        // So long and plain that it is searched where it lies.
+        if (m_random() % 4 == 0)
+            clip.searchText = plainWords(600);
+        clip.imageText.reset();
+        if (m_random() % 2 != 0)
+            clip.imageText = words(static_cast<int>(m_random() % 30));
         clip.isPinned = m_random() % 4 == 0;
         clip.expiresAt = m_random() % 5 == 0 ? std::optional<Date>(100) : std::nullopt;
     }

@@ -27,6 +27,39 @@ TEST(FoldedIndex, FindsEachTextOnceHoweverOftenItHasTheNeedle) {
     EXPECT_EQ(found(index, "an"), (Slots{first, third}));
 }
 
+TEST(FoldedIndex, ALongTextIsSearchedWhereItLies) {
+    FoldedIndex index;
+    const QByteArray body = "Long WORDS, " + QByteArray(5000, 'x') + " Z[@`{_";
+    index.append("xyz");
+    const Slot slot = index.append("title\n", body, "\nmail\n");
+    EXPECT_EQ(index.byteCount(), 3 + 6 + body.size() + 6U);
+    EXPECT_LT(index.capacity(), (std::size_t{1} << 20) + 1) << "it is in no chunk";
+    for (const char* needle : {"long words", "title", "mail", "z[@`{_", "title\nlong", "_\nmail"}) {
+        EXPECT_EQ(found(index, needle), Slots{slot}) << needle;
+        EXPECT_TRUE(index.matches(ByteSearch(needle), slot)) << needle;
+    }
+    for (const char* needle : {"words, xx ", "title\nmail", "title\n\nmail", "z{", "\xC3\xBC"})
+        EXPECT_TRUE(found(index, needle).empty()) << needle;
+    EXPECT_EQ(found(index, "x").size(), 2U);
+    index.remove(slot);
+    EXPECT_TRUE(found(index, "words").empty());
+    EXPECT_EQ(index.byteCount(), 3U);
+}
+
+TEST(FoldedIndex, ALongTextStaysWholeWhenItsNeighboursMove) {
+    FoldedIndex index;
+    std::vector<Slot> others;
+    for (int number = 0; number < 50; ++number)
+        others.push_back(index.append("other"));
+    const Slot slot = index.append("title\n", "BODY", "\nmail\n");
+    for (const Slot other : others)
+        index.remove(other);
+    index.recycle();
+    EXPECT_EQ(found(index, "title\nbody\nmail"), Slots{slot});
+    EXPECT_EQ(found(index, "body"), Slots{slot});
+    EXPECT_EQ(index.lengthOf(slot), 16U);
+}
+
 TEST(FoldedIndex, NoNeedleReachesFromOneTextIntoTheNext) {
     FoldedIndex index;
     index.append("ab");
