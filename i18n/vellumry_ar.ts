@@ -2251,5 +2251,9 @@
         <source>Filters</source>
         <translation>المرشحات</translation>
     </message>
+    <message>
+        <source>Loading the history…</source>
+        <translation>جارٍ تحميل السجل…</translation>
+    </message>
 </context>
 </TS>

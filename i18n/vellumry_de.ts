@@ -2091,5 +2091,9 @@
         <source>Filters</source>
         <translation>Filter</translation>
     </message>
+    <message>
+        <source>Loading the history…</source>
+        <translation>Verlauf wird geladen …</translation>
+    </message>
 </context>
 </TS>

@@ -2091,5 +2091,9 @@
         <source>Filters</source>
         <translation>Filtres</translation>
     </message>
+    <message>
+        <source>Loading the history…</source>
+        <translation>Chargement de l’historique…</translation>
+    </message>
 </context>
 </TS>

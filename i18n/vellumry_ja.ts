@@ -2051,5 +2051,9 @@
         <source>Filters</source>
         <translation>フィルター</translation>
     </message>
+    <message>
+        <source>Loading the history…</source>
+        <translation>履歴を読み込んでいます…</translation>
+    </message>
 </context>
 </TS>

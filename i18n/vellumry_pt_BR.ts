@@ -2091,5 +2091,9 @@
         <source>Filters</source>
         <translation>Filtros</translation>
     </message>
+    <message>
+        <source>Loading the history…</source>
+        <translation>Carregando o histórico…</translation>
+    </message>
 </context>
 </TS>

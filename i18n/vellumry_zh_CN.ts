@@ -2051,5 +2051,9 @@
         <source>Filters</source>
         <translation>筛选</translation>
     </message>
+    <message>
+        <source>Loading the history…</source>
+        <translation>正在载入历史记录…</translation>
+    </message>
 </context>
 </TS>

@@ -161,8 +161,12 @@ bool PanelFacade::hasQuery() const {
 }
 
 QStringList PanelFacade::emptyLines() const {
-    if (hasQuery())
-        return {localised("No clips match “%1”").arg(m_model->query())};
+    if (hasQuery()) {
+        QStringList lines{localised("No clips match “%1”").arg(m_model->query())};
+        if (m_model->store().isLoading())
+            lines.append(localised("Loading the history…"));
+        return lines;
+    }
     return {localised("Nothing here yet"), localised("Copy something. It shows up here."),
             localised("Press %1 anytime to open Vellumry.").arg(m_openPanelKeys())};
 }
@@ -173,6 +177,8 @@ QString PanelFacade::countText() const {
     if (const int chosen = m_model->selectedCount(); chosen > 1)
         return localised("%n clips selected", chosen);
     const auto count = static_cast<int>(m_model->count(ClipFilter::all));
+    if (m_model->store().isLoading())
+        return localised("Loading the history…");
     return m_model->store().isMemoryOnly() ? localised("%n clips · Not saved: kept until you quit", count)
                                            : localised("%n clips · encrypted on this Mac", count);
 }

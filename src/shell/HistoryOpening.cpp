@@ -2,6 +2,7 @@
 #include "shell/HistoryOpening.h"
 
 #include "foundation/Logging.h"
+#include "history/file/HistoryFile.h"
 
 #include <QPointer>
 #include <algorithm>
@@ -65,9 +66,10 @@ void HistoryOpening::attempt(KeyStore::Asking asking) {
     if (std::exchange(m_isTrying, true))
         return;
     m_retry.stop();
-    m_executor.post([this, self = QPointer<HistoryOpening>(this), asking] {
+    const FileCheck check = m_checksFirst ? FileCheck::first : FileCheck::beside;
+    m_executor.post([this, self = QPointer<HistoryOpening>(this), asking, check] {
         // This waits for the thread before it goes; what is posted may come later.
-        const auto opened = std::make_shared<Opened>(open(asking));
+        const auto opened = std::make_shared<Opened>(open(asking, check));
         postToMain([self, opened] {
             if (self)
                 self->finish(std::move(*opened));
@@ -75,7 +77,7 @@ void HistoryOpening::attempt(KeyStore::Asking asking) {
     });
 }
 
-HistoryOpening::Opened HistoryOpening::open(KeyStore::Asking asking) {
+HistoryOpening::Opened HistoryOpening::open(KeyStore::Asking asking, FileCheck check) {
     if (m_isEnding)
         return std::unexpected(HistoryFailure::keyringAbsent);
     QString folder;
@@ -85,7 +87,7 @@ HistoryOpening::Opened HistoryOpening::open(KeyStore::Asking asking) {
         return std::unexpected(HistoryFailure::folderNotWritable);
     }
     try {
-        return ClipDatabase::openHistory(folder, *m_keyStore, asking);
+        return ClipDatabase::openHistory(folder, *m_keyStore, asking, check);
     } catch (const std::exception&) {
         return std::unexpected(HistoryFailure::fileUnreadable);
     }
@@ -98,12 +100,22 @@ void HistoryOpening::finish(Opened opened) {
         fail(opened.error());
 }
 
+QCoro::Task<bool> HistoryOpening::isSound() {
+    auto check = [folder = m_folder] { return historyfile::passesCheck(folder() + u'/' + historyfile::fileName); };
+    auto checking = m_executor.run(std::move(check));
+    co_return co_await checking;
+}
+
 QCoro::Task<void> HistoryOpening::join(OpenedHistory opened) {
     const QPointer<HistoryOpening> self(this);
     std::optional<HistoryFailure> failure;
+    bool isJoined = false;
+    ClipStore::FileVerdict verdict;
+    if (!opened.isChecked)
+        verdict = [this] { return isSound(); };
     try {
-        auto joining = m_store->attach(std::move(opened.database), opened.recoveredFromDamage);
-        co_await joining;
+        auto joining = m_store->attach(std::move(opened.database), opened.recoveredFromDamage, std::move(verdict));
+        isJoined = co_await joining;
     } catch (const SQLiteError& error) {
         failure = historyFailureOf(error, opened.path);
     } catch (const std::exception&) {
@@ -111,11 +123,17 @@ QCoro::Task<void> HistoryOpening::join(OpenedHistory opened) {
     }
     if (!self)
         co_return;
+    // Whatever it was, the next try looks through the file before its clips are shown.
+    m_checksFirst = !isJoined;
     if (failure) {
         fail(*failure);
         co_return;
     }
     m_isTrying = false;
+    if (!isJoined) {
+        attempt(KeyStore::Asking::forbidden);
+        co_return;
+    }
     m_isOpen = true;
     if (std::exchange(m_failure, std::nullopt))
         qCWarning(logging::shell) << "the history is open again";

@@ -17,7 +17,8 @@ namespace vellumry {
 /// Opens the history's file and joins it to a store that captures already. What keeps it from that (a locked keyring, a
 /// full disk) may end at any time: it is tried again when the keyring tells of a change, and now and then.
 ///
-/// Main thread; the keyring and the check of the file, which may take their time, are asked on a thread of its own.
+/// Main thread; the keyring and the check of the file, which may take their time, are asked on a thread of its own. The
+/// check of a file that seems sound runs while its clips are read: until it has ended, nothing is written.
 class HistoryOpening : public QObject {
     Q_OBJECT
 
@@ -48,7 +49,8 @@ public:
 private:
     using Opened = std::expected<OpenedHistory, HistoryFailure>;
 
-    [[nodiscard]] Opened open(KeyStore::Asking asking);
+    [[nodiscard]] Opened open(KeyStore::Asking asking, FileCheck check);
+    QCoro::Task<bool> isSound();
     void attempt(KeyStore::Asking asking);
     void finish(Opened opened);
     QCoro::Task<void> join(OpenedHistory opened);
@@ -61,7 +63,8 @@ private:
     bool m_isOpen = false;
     bool m_isTrying = false;
     bool m_isWorthAnother = false;
-    bool m_isToAsk = true; ///< the user was not asked for a password yet
+    bool m_checksFirst = false; ///< the file was not what it seemed
+    bool m_isToAsk = true;      ///< the user was not asked for a password yet
     int m_busyTries = 0;
     std::chrono::milliseconds m_delay;
     QTimer m_retry;

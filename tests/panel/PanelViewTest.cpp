@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "foundation/Localisation.h"
+#include "history/file/ClipRows.h"
 #include "panel/PanelWindowWorld.h"
+#include "support/TemporaryHistory.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -126,6 +128,42 @@ TEST_F(PanelViewTest, ASearchInVainQuotesTheQuery) {
     EXPECT_EQ(panel.model().query(), QStringLiteral("zzz"));
     EXPECT_TRUE(texts().contains(localised("No clips match “%1”").arg(QStringLiteral("zzz"))));
     EXPECT_FALSE(texts().contains(QStringLiteral("apple")));
+}
+
+TEST_F(PanelViewTest, WhileTheHistoryIsLoadedASearchInVainAndTheFooterSaySo) {
+    TemporaryHistory history;
+    {
+        const ClipCrypto crypto = history.open().database->crypto();
+        SQLiteDatabase file = history.connect();
+        file.execute("BEGIN;");
+        for (int number = 0; number < 150; ++number) {
+            Clip clip;
+            clip.id = QUuid::createUuid();
+            clip.title = QString::number(number);
+            clip.fingerprint = Fingerprint::ofText(clip.id.toByteArray());
+            cliprows::write(file, crypto, clip, ClipPayload());
+        }
+        file.execute("COMMIT;");
+    }
+    open();
+    for (int count = 0; count < 3; ++count)
+        press(Qt::Key_Z);
+    const auto* const facade = view()->rootObject()->property("panel").value<QObject*>();
+    ASSERT_TRUE(facade);
+    const QString loading = localised("Loading the history…");
+    QStringList lines;
+    QString footer;
+    QObject::connect(&store, &ClipStore::storageChanged, facade, [&] {
+        if (!store.isLoading())
+            return;
+        lines = facade->property("emptyLines").toStringList();
+        footer = facade->property("countText").toString();
+    });
+    EXPECT_TRUE(awaited(store.attach(history.open().database, false)));
+    EXPECT_EQ(lines, (QStringList{localised("No clips match “%1”").arg(QStringLiteral("zzz")), loading}));
+    EXPECT_EQ(footer, loading);
+    EXPECT_TRUE(texts().contains(lines.front()));
+    EXPECT_FALSE(texts().contains(loading));
 }
 
 TEST_F(PanelViewTest, TheFooterCountsClipsAndNamesTheKeys) {

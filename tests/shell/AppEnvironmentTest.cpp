@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/AppEnvironment.h"
 
+#include "history/file/HistoryFile.h"
 #include "shell/AppEnvironmentWorld.h"
+#include "support/DamagedPage.h"
 
 #include <QFile>
 
@@ -101,6 +103,24 @@ TEST_F(AppEnvironmentTest, AHistoryThatWasPutAsideIsToldUntilTheUserHasSeenIt) {
     }
     start();
     EXPECT_EQ(seenTexts(), QStringList());
+}
+
+TEST_F(AppEnvironmentTest, AHistoryThatProvesDamagedLaterIsPutAsideAndWhatWasCopiedMeanwhileIsKept) {
+    start();
+    for (int number = 0; number < 60; ++number)
+        keep(qPrintable(QString::number(number).repeated(50)));
+    environment.reset();
+    damagePageOfRow(historyFile(), 0);
+    launch();
+    environment->start();
+    copyText("copied meanwhile");
+    runUntil([this] { return environment->opening()->hasSettled(); }, 60'000);
+    EXPECT_TRUE(sees("Vellumry started a fresh history"));
+    ASSERT_EQ(store().clips().size(), 1U);
+    start();
+    ASSERT_EQ(store().clips().size(), 1U);
+    EXPECT_EQ(store().clips().front()->title, QStringLiteral("copied meanwhile"));
+    EXPECT_EQ(historyfile::backups(QFileInfo(historyFile()).path()).size(), 1);
 }
 
 TEST_F(AppEnvironmentTest, WhatIsOnThePasteboardAtLaunchIsNoClip) {

@@ -17,7 +17,8 @@ void removeCleared(std::vector<ClipRef>& rows, ClearedBefore cleared, std::vecto
     });
 }
 
-/// The captured clip in the place of the row.
+} // namespace
+
 void inherit(Clip& clip, const Clip& row) {
     clip.createdAt = std::min(clip.createdAt, row.createdAt);
     if (row.isPinned && !clip.isPinned) {
@@ -31,8 +32,6 @@ void inherit(Clip& clip, const Clip& row) {
     }
     clip.isScreenshot = clip.isScreenshot || (clip.kind == ClipKind::image && row.isScreenshot);
 }
-
-} // namespace
 
 JoinedClips joinClips(std::vector<ClipRef> rows, const std::vector<ClipRef>& captured,
                       const QHash<QUuid, Fingerprint>& fingerprints, std::optional<ClearedBefore> cleared) {

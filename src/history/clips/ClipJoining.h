@@ -19,6 +19,10 @@ struct JoinedClips {
     std::vector<QUuid> unwanted;  ///< rows that were cleared before they were known
 };
 
+/// Gives the clip what a copy of its content would keep of the row whose place it takes: the age, the pin and the text of
+/// an unchanged picture.
+void inherit(Clip& clip, const Clip& row);
+
 /// Joins the `rows` of a file with the clips that were `captured` meanwhile, whose fingerprints under the file's key
 /// are given by identity. A captured clip of the same content takes a row's place as a copy of it would: with its age,
 /// its pin and the text of an unchanged picture. It keeps its own identity, which others know already. Pure.

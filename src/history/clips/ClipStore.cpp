@@ -172,6 +172,10 @@ bool ClipStore::isMemoryOnly() const {
     return !d->writer.hasDatabase() && !d->isOpening;
 }
 
+bool ClipStore::isLoading() const {
+    return d->isLoading;
+}
+
 bool ClipStore::isBehind() const {
     return d->writer.isBehind();
 }

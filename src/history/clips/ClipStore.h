@@ -13,11 +13,15 @@
 #include <QHash>
 #include <QObject>
 #include <QSet>
+#include <functional>
 #include <memory>
 
 namespace vellumry {
 
 class ClipDatabase;
+class ClipCrypto;
+class ClipList;
+struct NewestClips;
 
 /// One copy of the user, several drafts of which may reach the store: its program wrote it more than once.
 struct CopyIdentity {
@@ -55,9 +59,16 @@ public:
     [[nodiscard]] bool isBehind() const;
     /// Says that the file is being opened, or that this has failed; `attach` ends it too.
     void setOpening(bool isOpening);
-    /// Joins the history of a file with what was captured without one, which is written to it. Throws what loading
-    /// threw; the store then stays as it is. Once.
-    QCoro::Task<void> attach(std::shared_ptr<ClipDatabase> database, bool recoveredFromDamage);
+    /// Tells whether a file that is worked with already is sound.
+    using FileVerdict = std::function<QCoro::Task<bool>()>;
+    /// Joins the history of a file with what was captured without one, which is written to it. The latest clips are there
+    /// first, then the rest; nothing is written before all are there and `isSound`, which is asked at once, has answered.
+    /// False when it says no or throws: nothing of the file is left then, nothing that was captured is lost, and
+    /// `database` is let go. Throws what loading threw; the store is then as after a no. Until it has gone well once.
+    [[nodiscard]] QCoro::Task<bool> attach(std::shared_ptr<ClipDatabase> database, bool recoveredFromDamage,
+                                           FileVerdict isSound = nullptr);
+    /// The file is open, but only its latest clips are among `clips`: the rest is on its way.
+    [[nodiscard]] bool isLoading() const;
     [[nodiscard]] bool recoveredFromDamage() const;
     void setRecoveredFromDamage(bool value);
     [[nodiscard]] const RetentionPolicy& policy() const;
@@ -116,7 +127,7 @@ public:
 Q_SIGNALS:
     /// Something of `clips` changed.
     void clipsChanged();
-    /// `isMemoryOnly` or `isBehind` may answer otherwise.
+    /// `isMemoryOnly`, `isLoading` or `isBehind` may answer otherwise.
     void storageChanged();
 
 private:
@@ -130,8 +141,12 @@ private:
     /// Nothing where it cannot be made, or the store has gone meanwhile.
     QCoro::Task<std::optional<Fingerprint>> hashOf(ClipDraft draft);
     void forget(const QUuid& id);
-    void join(std::shared_ptr<ClipDatabase> database, std::vector<ClipRef> rows,
+    QCoro::Task<void> load(std::shared_ptr<ClipDatabase> database);
+    QCoro::Task<QHash<QUuid, Fingerprint>> fingerprintsUnder(std::shared_ptr<const ClipCrypto> crypto);
+    void join(std::shared_ptr<ClipDatabase> database, NewestClips newest,
               const QHash<QUuid, Fingerprint>& fingerprints);
+    void complete(ClipList whole);
+    void detach();
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -35,7 +35,7 @@ QCoro::Task<void> ClipStore::drop(QSet<QUuid> ids, bool thorough) {
 QCoro::Task<void> ClipStore::clearHistory(bool keepPinned) {
     // A hundred thousand clips, one after the other, would hold the main thread for many frames: the whole list goes to
     // the database's thread instead, which asks it for the ids and throws it away.
-    if (!d->writer.hasDatabase() && d->cleared != ClearedBefore::everything)
+    if ((!d->writer.hasDatabase() || d->isLoading) && d->cleared != ClearedBefore::everything)
         d->cleared = keepPinned ? ClearedBefore::unpinned : ClearedBefore::everything;
     ++d->era;
     ++d->deletions;

@@ -3,6 +3,7 @@
 // How the history's file comes to a store that captures already.
 
 #include "history/clips/ClipStorePrivate.h"
+#include "history/file/ClipRows.h"
 
 #include <QPointer>
 
@@ -19,21 +20,80 @@ ClipDraft draftOf(const Clip& clip, const ClipPayload& payload) {
     return draft;
 }
 
+/// More than a panel shows at once.
+constexpr qint64 clipsAtFirst = 100;
+
+QCoro::Task<bool> alwaysSound() {
+    co_return true;
+}
+
 } // namespace
 
-QCoro::Task<void> ClipStore::attach(std::shared_ptr<ClipDatabase> database, bool recoveredFromDamage) {
+QCoro::Task<bool> ClipStore::attach(std::shared_ptr<ClipDatabase> database, bool recoveredFromDamage,
+                                    FileVerdict isSound) {
     const QPointer<ClipStore> self(this);
-    auto loading = database->loadAll();
-    std::vector<ClipRef> rows = co_await loading;
+    auto verdict = isSound ? isSound() : alwaysSound();
+    std::exception_ptr trouble;
+    bool isGood = false;
+    try {
+        auto loading = load(database);
+        co_await loading;
+    } catch (...) {
+        trouble = std::current_exception();
+    }
+    // A file that cannot be loaded may be a damaged one: the verdict says.
+    try {
+        isGood = co_await verdict;
+    } catch (const std::exception&) {
+        isGood = false;
+    }
+    if (!self)
+        co_return false;
+    if (trouble || !isGood) {
+        database.reset();
+        detach();
+        if (isGood)
+            std::rethrow_exception(trouble);
+        co_return false;
+    }
+    d->recoveredFromDamage = recoveredFromDamage;
+    d->writer.release();
+    auto writing = d->writer.retry();
+    co_await writing;
+    if (!self)
+        co_return true;
+    auto retaining = enforceRetention(d->clock());
+    co_await retaining;
+    co_return true;
+}
+
+QCoro::Task<void> ClipStore::load(std::shared_ptr<ClipDatabase> database) {
+    const QPointer<ClipStore> self(this);
+    auto beginning = database->loadNewest(clipsAtFirst);
+    NewestClips newest = co_await beginning;
     if (!self)
         co_return;
     auto expiring = enforceRetention(d->clock());
     co_await expiring;
+    auto hashing = fingerprintsUnder(std::make_shared<const ClipCrypto>(database->crypto()));
+    const QHash<QUuid, Fingerprint> fingerprints = co_await hashing;
+    if (!self)
+        co_return;
+    join(database, std::move(newest), fingerprints);
+    if (!d->isLoading)
+        co_return;
+    auto loading = database->loadBeside();
+    const std::shared_ptr<ClipList> whole = co_await loading;
+    if (self)
+        complete(std::move(*whole));
+}
 
-    const auto crypto = std::make_shared<const ClipCrypto>(database->crypto());
+/// The fingerprints that all clips of now have under another key.
+QCoro::Task<QHash<QUuid, Fingerprint>> ClipStore::fingerprintsUnder(std::shared_ptr<const ClipCrypto> crypto) {
+    const QPointer<ClipStore> self(this);
     QHash<QUuid, Fingerprint> fingerprints;
     // Each hash may take a while, in which more is captured.
-    for (;;) {
+    while (self) {
         const auto next =
             std::ranges::find_if(clips(), [&](const ClipRef& clip) { return !fingerprints.contains(clip->id); });
         if (next == clips().end())
@@ -42,28 +102,82 @@ QCoro::Task<void> ClipStore::attach(std::shared_ptr<ClipDatabase> database, bool
         const auto payload = d->writer.unsavedPayload(clip->id);
         auto hashing = d->hasher.fingerprint(draftOf(*clip, payload ? *payload : ClipPayload()), crypto);
         fingerprints[clip->id] = co_await hashing;
-        if (!self)
-            co_return;
     }
-    join(std::move(database), std::move(rows), fingerprints);
-    d->recoveredFromDamage = recoveredFromDamage;
-    auto writing = d->writer.retry();
-    co_await writing;
-    if (!self)
-        co_return;
-    auto retaining = enforceRetention(d->clock());
-    co_await retaining;
+    co_return fingerprints;
 }
 
-void ClipStore::join(std::shared_ptr<ClipDatabase> database, std::vector<ClipRef> rows,
+void ClipStore::join(std::shared_ptr<ClipDatabase> database, NewestClips newest,
                      const QHash<QUuid, Fingerprint>& fingerprints) {
-    JoinedClips joined = joinClips(std::move(rows), clips(), fingerprints, std::exchange(d->cleared, std::nullopt));
+    const QSet<QUuid> toGo = d->writer.rowsToGo();
+    std::erase_if(newest.clips, [&](const ClipRef& row) { return toGo.contains(row->id); });
+    JoinedClips joined = joinClips(std::move(newest.clips), clips(), fingerprints, d->cleared);
     for (auto id = joined.replaced.keyBegin(); id != joined.replaced.keyEnd(); ++id)
         forget(*id);
     d->crypto = std::make_shared<const ClipCrypto>(database->crypto());
     d->list.assign(std::move(joined.clips));
-    d->writer.setDatabase(std::move(database), joined.replaced, joined.unwanted);
+    d->writer.hold();
+    d->writer.setDatabase(std::move(database));
+    d->writer.replaceRows(joined.replaced, joined.unwanted);
     d->isOpening = false;
+    d->isLoading = !newest.areAll;
+    if (newest.areAll)
+        d->cleared.reset();
+    ++d->era;
+    changed();
+    Q_EMIT storageChanged();
+}
+
+/// `whole` is the file as it was when nothing had been written to it; what changed meanwhile is put on top.
+void ClipStore::complete(ClipList whole) {
+    whole.remove(d->writer.rowsToGo());
+    QHash<QUuid, QUuid> replaced;
+    for (const ClipRef& clip : clips()) {
+        if (const ClipRef known = whole.find(clip->id)) {
+            whole.replace(known, clip);
+            continue;
+        }
+        const ClipRef row = whole.findFingerprint(clip->fingerprint);
+        if (!row || find(row->id)) {
+            whole.insert(clip);
+            continue;
+        }
+        auto heir = std::make_shared<Clip>(*clip);
+        inherit(*heir, *row);
+        whole.replace(row, heir);
+        replaced.insert(clip->id, row->id);
+        forget(clip->id);
+    }
+    std::vector<QUuid> unwanted;
+    if (const auto cleared = std::exchange(d->cleared, std::nullopt)) {
+        for (const ClipRef& row : whole.clips()) {
+            const bool isCleared = !row->isPinned || *cleared == ClearedBefore::everything;
+            if (isCleared && !find(row->id))
+                unwanted.push_back(row->id);
+        }
+        whole.remove(QSet<QUuid>(unwanted.begin(), unwanted.end()));
+    }
+    d->list = std::move(whole);
+    d->writer.replaceRows(replaced, unwanted);
+    d->isLoading = false;
+    changed();
+    Q_EMIT storageChanged();
+}
+
+/// Leaves what was captured, which waits for another file.
+void ClipStore::detach() {
+    if (!d->writer.hasDatabase())
+        return;
+    d->writer.abandon();
+    QSet<QUuid> ofFile;
+    for (const ClipRef& clip : clips()) {
+        if (!d->writer.unsavedPayload(clip->id))
+            ofFile.insert(clip->id);
+    }
+    d->list.remove(ofFile);
+    for (const QUuid& id : ofFile)
+        forget(id);
+    d->isLoading = false;
+    d->isOpening = true;
     ++d->era;
     changed();
     Q_EMIT storageChanged();

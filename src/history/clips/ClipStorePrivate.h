@@ -31,6 +31,7 @@ struct ClipStore::Private {
     qint64 deletions = 0;
     quint64 era = 0; ///< grows when what was taken out must not come back
     bool isOpening = false;
+    bool isLoading = false;
     std::optional<ClearedBefore> cleared; ///< what was cleared without the file
     bool recoveredFromDamage = false;
     double sensitiveLifetime = 60;

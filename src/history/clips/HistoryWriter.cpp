@@ -9,24 +9,48 @@
 
 namespace vellumry {
 
-void HistoryWriter::setDatabase(std::shared_ptr<ClipDatabase> database, const QHash<QUuid, QUuid>& replaced,
-                                const std::vector<QUuid>& unwanted) {
+void HistoryWriter::setDatabase(std::shared_ptr<ClipDatabase> database) {
     m_database = std::move(database);
-    for (auto entry = replaced.begin(); entry != replaced.end(); ++entry)
-        m_unsaved[entry.key()].replaces = entry.value();
-    m_doomed.unite(QSet<QUuid>(unwanted.begin(), unwanted.end()));
-    m_mustReclaim = m_mustReclaim || !unwanted.empty() || m_database->foundLog();
+    m_mustReclaim = m_mustReclaim || m_database->foundLog();
     // Where nothing else is tried, the log is emptied behind the start.
     if (m_mustReclaim && !m_timer.isActive())
         m_timer.start(m_delay);
 }
 
+void HistoryWriter::abandon() {
+    m_database.reset();
+    m_isHeld = false;
+    m_unsaved.removeIf([](const auto& entry) { return !entry.value().payload; });
+    for (Unsaved& unsaved : m_unsaved)
+        unsaved.replaces = QUuid();
+}
+
+QSet<QUuid> HistoryWriter::rowsToGo() const {
+    QSet<QUuid> rows = m_doomed;
+    for (const Unsaved& unsaved : m_unsaved) {
+        if (!unsaved.replaces.isNull())
+            rows.insert(unsaved.replaces);
+    }
+    return rows;
+}
+
+void HistoryWriter::replaceRows(const QHash<QUuid, QUuid>& replaced, const std::vector<QUuid>& unwanted) {
+    for (auto entry = replaced.begin(); entry != replaced.end(); ++entry) {
+        // A file that we did not write may hold one content twice.
+        const QUuid earlier = std::exchange(m_unsaved[entry.key()].replaces, entry.value());
+        if (!earlier.isNull())
+            m_doomed.insert(earlier);
+    }
+    m_doomed.unite(QSet<QUuid>(unwanted.begin(), unwanted.end()));
+    m_mustReclaim = m_mustReclaim || !unwanted.empty();
+}
+
 QCoro::Task<void> HistoryWriter::insert(QUuid id, ClipPayload payload) {
     Unsaved& unsaved = m_unsaved[id];
-    release(std::exchange(unsaved.payload, std::make_shared<ClipPayload>(std::move(payload))));
+    dispose(std::exchange(unsaved.payload, std::make_shared<ClipPayload>(std::move(payload))));
     ++unsaved.version;
     m_doomed.remove(id); // put back before its row could be deleted
-    if (!m_database)
+    if (!m_database || m_isHeld)
         co_return;
     auto writing = write(id);
     co_await writing;
@@ -36,7 +60,7 @@ QCoro::Task<bool> HistoryWriter::write(QUuid id) {
     const QPointer<HistoryWriter> self(this);
     const ClipRef clip = m_find(id);
     if (!clip) {
-        release(m_unsaved.take(id).payload);
+        dispose(m_unsaved.take(id).payload);
         co_return true;
     }
     m_unsaved[id].isInFlight = true;
@@ -58,7 +82,7 @@ QCoro::Task<bool> HistoryWriter::write(QUuid id) {
         }
     }
     if (isWritten) {
-        release(sent.payload);
+        dispose(sent.payload);
         settle();
     } else {
         failed();
@@ -80,14 +104,14 @@ std::shared_ptr<const ClipPayload> HistoryWriter::unsavedPayload(const QUuid& id
     return found == m_unsaved.constEnd() ? nullptr : found->payload;
 }
 
-bool HistoryWriter::joinsWaiting(const QUuid& id) {
+bool HistoryWriter::mustWait(const QUuid& id) {
+    if (!m_database)
+        return true;
     const auto waiting = m_unsaved.find(id);
-    if (waiting == m_unsaved.end())
-        return false;
-    if (waiting->isInFlight)
-        return false;
-    ++waiting->version;
-    return true;
+    const bool isWaiting = waiting != m_unsaved.end() && !waiting->isInFlight;
+    if (isWaiting || m_isHeld)
+        ++m_unsaved[id].version;
+    return isWaiting || m_isHeld;
 }
 
 QCoro::Task<void> HistoryWriter::update(QUuid id, QCoro::Task<bool> writing) {
@@ -100,14 +124,14 @@ QCoro::Task<void> HistoryWriter::update(QUuid id, QCoro::Task<bool> writing) {
 }
 
 QCoro::Task<void> HistoryWriter::updateUsed(ClipRef clip) {
-    if (!m_database || joinsWaiting(clip->id))
+    if (mustWait(clip->id))
         co_return;
     auto updating = update(clip->id, attempted(m_database->updateUsed(clip->id, clip->lastUsedAt)));
     co_await updating;
 }
 
 QCoro::Task<void> HistoryWriter::updatePinned(ClipRef clip, bool isRescued) {
-    if (!m_database || joinsWaiting(clip->id))
+    if (mustWait(clip->id))
         co_return;
     // Both are queued before the first wait: the store may be gone behind it.
     auto pinning = update(clip->id, attempted(m_database->updatePinned(clip->id, clip->pinOrder)));
@@ -121,7 +145,7 @@ QCoro::Task<void> HistoryWriter::updatePinned(ClipRef clip, bool isRescued) {
 }
 
 QCoro::Task<void> HistoryWriter::updateMeta(ClipRef clip) {
-    if (!m_database || joinsWaiting(clip->id))
+    if (mustWait(clip->id))
         co_return;
     auto updating = update(clip->id, attempted(m_database->updateMeta(clip)));
     co_await updating;
@@ -136,6 +160,11 @@ QCoro::Task<void> HistoryWriter::remove(std::vector<QUuid> ids, bool mustReclaim
     }
     if (!m_database)
         co_return;
+    if (m_isHeld) {
+        m_doomed.unite(QSet<QUuid>(ids.begin(), ids.end()));
+        m_mustReclaim = m_mustReclaim || mustReclaim;
+        co_return;
+    }
     auto deleting = deleteRows(std::move(ids));
     co_await deleting;
     if (!self || !mustReclaim)
@@ -148,6 +177,11 @@ QCoro::Task<void> HistoryWriter::removeAllOf(std::function<std::vector<QUuid>()>
     const QPointer<HistoryWriter> self(this);
     if (!m_database)
         co_return;
+    if (m_isHeld) {
+        auto removing = remove(ids(), true);
+        co_await removing;
+        co_return;
+    }
     const auto listed = std::make_shared<std::vector<QUuid>>();
     auto list = [ids = std::move(ids), listed] {
         *listed = ids();
@@ -202,6 +236,10 @@ QCoro::Task<void> HistoryWriter::letGo(std::shared_ptr<const void> thing) {
     if (!m_database)
         co_return;
     m_database->dispose(std::move(thing));
+    if (m_isHeld) {
+        m_mustReclaim = true;
+        co_return;
+    }
     auto reclaiming = reclaim();
     co_await reclaiming;
 }
@@ -216,9 +254,11 @@ void HistoryWriter::forgetGone() {
     });
 }
 
-/// The last owner of many bytes takes a while to overwrite them: the history's thread does that.
-void HistoryWriter::release(std::shared_ptr<ClipPayload> payload) {
-    if (payload && m_database)
+/// The last owner of many bytes takes a while to overwrite them: the history's thread does that. To wake it costs more
+/// than a few.
+void HistoryWriter::dispose(std::shared_ptr<ClipPayload> payload) {
+    constexpr qint64 few = 16'384;
+    if (payload && m_database && payload->byteCount() > few)
         m_database->dispose(std::move(payload));
 }
 

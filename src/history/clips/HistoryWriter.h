@@ -34,10 +34,20 @@ public:
     ~HistoryWriter() override;
 
     [[nodiscard]] bool hasDatabase() const { return m_database != nullptr; }
-    /// From now on there is a file. Of the clips that wait for it, some take the place of a row of another identity
-    /// (`replaced`, by the clip's); the rows of `unwanted` go. `retry` begins it.
-    void setDatabase(std::shared_ptr<ClipDatabase> database, const QHash<QUuid, QUuid>& replaced = {},
-                     const std::vector<QUuid>& unwanted = {});
+    /// From now on there is a file.
+    void setDatabase(std::shared_ptr<ClipDatabase> database);
+    /// The file is read from now on, and not written to: every change waits in memory, until `release`.
+    void hold() { m_isHeld = true; }
+    /// The file may be written to; `retry` begins with what has waited.
+    void release() { m_isHeld = false; }
+    /// The file that was held is not to be used: what waits with its payload goes on waiting for another one, and rows
+    /// that were to go are still to go.
+    void abandon();
+    /// Of the clips that wait, some take the place of a row of another identity (`replaced`, by the clip's); the rows of
+    /// `unwanted` go.
+    void replaceRows(const QHash<QUuid, QUuid>& replaced, const std::vector<QUuid>& unwanted);
+    /// The rows that are in the file only because nothing was written yet.
+    [[nodiscard]] QSet<QUuid> rowsToGo() const;
     /// The file refused something that it has not taken since.
     [[nodiscard]] bool isBehind() const { return m_isBehind; }
     /// `isBehind` answers otherwise.
@@ -75,15 +85,16 @@ private:
     QCoro::Task<bool> deleteRows(std::vector<QUuid> ids);
     QCoro::Task<bool> reclaim();
     QCoro::Task<void> update(QUuid id, QCoro::Task<bool> writing);
-    /// True when a whole row waits to be written anyway.
-    bool joinsWaiting(const QUuid& id);
-    void release(std::shared_ptr<ClipPayload> payload);
+    /// True when a change of the clip's row is not written now: it will be with what waits.
+    bool mustWait(const QUuid& id);
+    void dispose(std::shared_ptr<ClipPayload> payload);
     void failed();
     void settle();
 
     Find m_find;
     QHash<QUuid, Unsaved> m_unsaved;
     QSet<QUuid> m_doomed; ///< rows that could not be deleted
+    bool m_isHeld = false;
     bool m_mustReclaim = false;
     bool m_isBehind = false;
     bool m_isRetrying = false;

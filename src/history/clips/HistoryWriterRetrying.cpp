@@ -30,9 +30,10 @@ HistoryWriter::HistoryWriter(Find find)
     connect(&m_timer, &QTimer::timeout, this, [this] { retry(); });
 }
 
-/// What the file has refused is tried once more: the reason may be over.
+/// What the file has refused is tried once more: the reason may be over. What was copied while the file was being
+/// looked through is written without the verdict.
 HistoryWriter::~HistoryWriter() {
-    if (!m_database || !m_isBehind)
+    if (!m_database || (!m_isBehind && !m_isHeld))
         return;
     std::vector<ClipDatabase::Row> rows;
     for (auto waiting = m_unsaved.constBegin(); waiting != m_unsaved.constEnd(); ++waiting) {
@@ -44,7 +45,7 @@ HistoryWriter::~HistoryWriter() {
 }
 
 QCoro::Task<void> HistoryWriter::retry() {
-    if (!m_database || m_isRetrying)
+    if (!m_database || m_isHeld || m_isRetrying)
         co_return;
     const QPointer<HistoryWriter> self(this);
     m_isRetrying = true;

@@ -2,6 +2,7 @@
 #include "history/file/ClipDatabase.h"
 
 #include "foundation/Logging.h"
+#include "history/clips/ClipList.h"
 #include "history/file/ClipRows.h"
 #include "history/file/HistoryFile.h"
 
@@ -92,7 +93,7 @@ OpenedHistory opened(const QString& path, const ClipCrypto& crypto, bool isPutAs
 } // namespace
 
 std::expected<OpenedHistory, HistoryFailure> ClipDatabase::openHistory(const QString& folder, KeyStore& keyStore,
-                                                                       KeyStore::Asking asking) {
+                                                                       KeyStore::Asking asking, FileCheck check) {
     ClipCrypto::selfTest();
     const QString path = QDir(folder).filePath(historyfile::fileName);
     try {
@@ -100,11 +101,14 @@ std::expected<OpenedHistory, HistoryFailure> ClipDatabase::openHistory(const QSt
         auto key = keyFor(path, keyStore, asking, isPutAside);
         if (!key)
             return std::unexpected(key.error());
-        if (QFile::exists(path) && !historyfile::isReadable(path, *key)) {
+        const bool isLeftToCaller = check == FileCheck::beside && historyfile::looksReadable(path, *key);
+        if (QFile::exists(path) && !isLeftToCaller && !historyfile::isReadable(path, *key)) {
             putAside(path, "it is damaged, foreign, or sealed with another key");
             isPutAside = true;
         }
-        return opened(path, ClipCrypto(*std::move(key)), isPutAside);
+        OpenedHistory history = opened(path, ClipCrypto(*std::move(key)), isPutAside);
+        history.isChecked = !isLeftToCaller || history.recoveredFromDamage;
+        return history;
     } catch (const SQLiteError& error) {
         qCInfo(logging::history) << "the history file was not opened: SQLite" << error.extendedCode() << "errno"
                                  << error.systemError();
@@ -116,7 +120,8 @@ std::expected<OpenedHistory, HistoryFailure> ClipDatabase::openHistory(const QSt
 }
 
 ClipDatabase::ClipDatabase(const QString& path, ClipCrypto crypto)
-    : m_foundLog(hasLog(path))
+    : m_path(path)
+    , m_foundLog(hasLog(path))
     , m_sqlite(path, SQLiteDatabase::Access::readWrite)
     , m_crypto(std::move(crypto))
     , m_executor("History") {
@@ -135,6 +140,25 @@ QCoro::Task<Result> ClipDatabase::onExecutor(std::function<Result(SQLiteDatabase
 QCoro::Task<std::vector<ClipRef>> ClipDatabase::loadAll() {
     return onExecutor<std::vector<ClipRef>>(
         [this](SQLiteDatabase& sqlite) { return cliprows::readAll(sqlite, m_crypto); });
+}
+
+QCoro::Task<NewestClips> ClipDatabase::loadNewest(qint64 count) {
+    return onExecutor<NewestClips>(
+        [this, count](SQLiteDatabase& sqlite) { return cliprows::readNewest(sqlite, m_crypto, count); });
+}
+
+QCoro::Task<std::shared_ptr<ClipList>> ClipDatabase::loadBeside() {
+    auto load = [this] {
+        SQLiteDatabase sqlite(m_path, SQLiteDatabase::Access::readOnly);
+        auto list = std::make_shared<ClipList>();
+        list->assign(cliprows::readAll(sqlite, m_crypto));
+        return list;
+    };
+    m_loader = std::make_unique<SerialExecutor>("History load");
+    auto loading = m_loader->run(std::move(load));
+    std::shared_ptr<ClipList> list = co_await loading;
+    m_loader.reset();
+    co_return list;
 }
 
 QCoro::Task<std::optional<ClipPayload>> ClipDatabase::payload(QUuid id) {

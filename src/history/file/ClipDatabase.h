@@ -15,7 +15,15 @@
 
 namespace vellumry {
 
+class ClipList;
+struct NewestClips;
 struct OpenedHistory;
+
+/// When the whole of a history file is looked through for damage.
+enum class FileCheck {
+    first, ///< before anything else is done with it
+    beside ///< by the caller, while the history is at work; where there is any doubt, first all the same
+};
 
 /// The history file: clips as rows, everything that could show content sealed. Owns the connection and the one thread
 /// that uses it; operations queue there in the order of their calls and resume the caller on the main thread. When one
@@ -30,7 +38,8 @@ public:
     /// cannot be looked at for any other reason, or whose key cannot be had, stays where it is. Throws CryptoError
     /// where encryption itself does not work. Any thread; reads the whole file once, so better not the main one.
     [[nodiscard]] static std::expected<OpenedHistory, HistoryFailure>
-    openHistory(const QString& folder, KeyStore& keyStore, KeyStore::Asking asking = KeyStore::Asking::allowed);
+    openHistory(const QString& folder, KeyStore& keyStore, KeyStore::Asking asking = KeyStore::Asking::allowed,
+                FileCheck check = FileCheck::first);
 
     /// The file at `path` with a key that is known to fit. Blocking; any thread.
     ClipDatabase(const QString& path, ClipCrypto crypto);
@@ -43,6 +52,11 @@ public:
 
     /// Every readable clip, latest first.
     [[nodiscard]] QCoro::Task<std::vector<ClipRef>> loadAll();
+    /// The readable clips of the latest `count` rows.
+    [[nodiscard]] QCoro::Task<NewestClips> loadNewest(qint64 count);
+    /// Every readable clip as a list, made by a connection and a thread of their own: payloads can be read meanwhile. The
+    /// caller keeps this alive until then.
+    [[nodiscard]] QCoro::Task<std::shared_ptr<ClipList>> loadBeside();
     /// Nothing when there is no such row; throws for one that cannot be unsealed or decoded.
     [[nodiscard]] QCoro::Task<std::optional<ClipPayload>> payload(QUuid id);
     /// Writes the clip's row, over the one with the same id.
@@ -80,16 +94,19 @@ private:
     template <typename Result>
     QCoro::Task<Result> onExecutor(std::function<Result(SQLiteDatabase&)> job);
 
+    const QString m_path;
     const bool m_foundLog; // before the connection, which makes a log
     SQLiteDatabase m_sqlite;
     const ClipCrypto m_crypto;
-    SerialExecutor m_executor; // last, so that its thread has ended before the connection closes
+    SerialExecutor m_executor; // behind the connection, so that its thread has ended before that closes
+    std::unique_ptr<SerialExecutor> m_loader; ///< while a list is loaded
 };
 
 struct OpenedHistory {
     std::shared_ptr<ClipDatabase> database;
     bool recoveredFromDamage = false; ///< an earlier history could not be read and was put aside
     QString path{};                   ///< the file's
+    bool isChecked = true;            ///< false: `historyfile::passesCheck` was left to the caller
 };
 
 } // namespace vellumry

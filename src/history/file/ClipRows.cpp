@@ -97,6 +97,17 @@ std::vector<ClipRef> readAll(SQLiteDatabase& database, const ClipCrypto& crypto)
     return loading.finish();
 }
 
+NewestClips readNewest(SQLiteDatabase& database, const ClipCrypto& crypto, qint64 count) {
+    auto rows = database.prepare("SELECT id, kind, created, used, pinned, expires, fingerprint, size, meta FROM clips "
+                                 "ORDER BY used DESC LIMIT ?;");
+    rows.bind(std::array<SQLValue, 1>{count});
+    ClipLoading loading(crypto);
+    qint64 found = 0;
+    for (; rows.step(); ++found)
+        loading.take(rows);
+    return {loading.finish(), found < count};
+}
+
 std::optional<ClipPayload> readPayload(SQLiteDatabase& database, const ClipCrypto& crypto, const QUuid& id) {
     auto row = database.prepareKept("SELECT payload FROM clips WHERE id = ?;");
     row.bind(std::array<SQLValue, 1>{rowidentity::textOf(id)});

@@ -5,6 +5,16 @@
 #include "history/file/ClipCrypto.h"
 #include "history/file/SQLiteDatabase.h"
 
+namespace vellumry {
+
+/// The clips of the latest rows.
+struct NewestClips {
+    std::vector<ClipRef> clips;
+    bool areAll = false; ///< there is no further row
+};
+
+} // namespace vellumry
+
 /// Clips as rows of the table `clips`. Each function runs its statement on the caller's thread and throws what the
 /// layers below throw: `SQLiteError`, `CryptoError`, `UnsealError`.
 namespace vellumry::cliprows {
@@ -18,6 +28,9 @@ void requireColumns(SQLiteDatabase& database);
 /// Every clip that can be read, latest first. A row with a strange id or kind, one that this key does not open and one
 /// whose meta is not a meta are passed over: they are neither reported nor removed.
 [[nodiscard]] std::vector<ClipRef> readAll(SQLiteDatabase& database, const ClipCrypto& crypto);
+
+/// The same for the latest `count` rows.
+[[nodiscard]] NewestClips readNewest(SQLiteDatabase& database, const ClipCrypto& crypto, qint64 count);
 
 /// Nothing when there is no such row. Throws std::runtime_error for a payload that opens but cannot be decoded.
 [[nodiscard]] std::optional<ClipPayload> readPayload(SQLiteDatabase& database, const ClipCrypto& crypto,

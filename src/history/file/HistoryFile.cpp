@@ -86,6 +86,23 @@ bool isSound(const QString& path, const SymmetricKey& key) {
     }
 }
 
+bool hasPassedCheck(const QString& path) {
+    try {
+        SQLiteDatabase database(path, SQLiteDatabase::Access::readOnly);
+        return passesQuickCheck(database);
+    } catch (const SQLiteError& error) {
+        if (isDamage(error))
+            return false;
+        throw;
+    }
+}
+
+/// The file gives single pages back already; where it does not, opening it rewrites it.
+bool hasIncrementalVacuum(SQLiteDatabase& database) {
+    auto mode = database.prepare("PRAGMA auto_vacuum;");
+    return mode.step() && mode.text(0) == "2";
+}
+
 } // namespace
 
 bool isDamage(const SQLiteError& error) {
@@ -95,6 +112,25 @@ bool isDamage(const SQLiteError& error) {
 
 bool isReadable(const QString& path, const SymmetricKey& key) {
     return isSound(path, key) || isSound(path, key);
+}
+
+bool looksReadable(const QString& path, const SymmetricKey& key) {
+    if (!QFile::exists(path) || QFile::exists(QFile::decodeName(encodedCompanion(path, "-journal"))))
+        return false;
+    try {
+        SQLiteDatabase database(path, SQLiteDatabase::Access::readOnly);
+        if (!hasIncrementalVacuum(database) || !hasClipsTable(database))
+            return false;
+        cliprows::requireColumns(database);
+        auto meta = database.prepare("SELECT meta FROM clips ORDER BY used DESC LIMIT 1;");
+        return meta.step() && Unsealer(key).open(meta.blob(0)).has_value();
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+bool passesCheck(const QString& path) {
+    return hasPassedCheck(path) || hasPassedCheck(path);
 }
 
 void moveAside(const QString& path, Date now) {

@@ -25,6 +25,14 @@ inline constexpr std::array companionSuffixes{"", "-wal", "-shm", "-journal"};
 /// at, throws SQLiteError. Changes nothing but that it plays back what a power cut left in a rollback journal.
 [[nodiscard]] bool isReadable(const QString& path, const SymmetricKey& key);
 
+/// Whether the existing file can be worked with before it was looked through: nothing is to be played back or rewritten,
+/// the table has our columns, and `key` opens its latest row. Never throws: false when anything is in doubt.
+[[nodiscard]] bool looksReadable(const QString& path, const SymmetricKey& key);
+
+/// The part of `isReadable` that goes through the whole file: SQLite's own check. False means damage, seen twice; throws
+/// SQLiteError as that does.
+[[nodiscard]] bool passesCheck(const QString& path);
+
 /// Moves the file and its companions to "History-unreadable-", the time and ".sqlite" in the same folder, never over a
 /// file that is there. Throws std::filesystem::filesystem_error at the first that cannot be moved; what was moved is
 /// moved back then.

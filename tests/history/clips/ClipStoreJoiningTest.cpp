@@ -22,7 +22,7 @@ protected:
     }
     void attach() {
         const OpenedHistory history = m_history.open();
-        awaited(m_store->attach(history.database, false));
+        EXPECT_TRUE(awaited(m_store->attach(history.database, false)));
     }
     [[nodiscard]] QStringList titles() const {
         QStringList list;
@@ -139,7 +139,7 @@ TEST_F(ClipStoreJoining, LoadingThatFailsLeavesTheStoreAsItWas) {
     add(drafts::text(u"captured"_s), 60);
     const OpenedHistory history = m_history.open();
     execute("DROP TABLE clips;");
-    EXPECT_THROW(awaited(m_store->attach(history.database, false)), SQLiteError);
+    EXPECT_THROW((void)awaited(m_store->attach(history.database, false)), SQLiteError);
     EXPECT_EQ(titles(), QStringList(u"captured"_s));
     m_store->setOpening(false);
     EXPECT_TRUE(m_store->isMemoryOnly());
@@ -153,7 +153,7 @@ TEST_F(ClipStoreJoining, AStoreMayGoWhileItJoins) {
     const OpenedHistory history = m_history.open();
     auto attaching = m_store->attach(history.database, false);
     m_store.reset();
-    awaited(std::move(attaching));
+    EXPECT_FALSE(awaited(std::move(attaching)));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "history/file/ClipDatabase.h"
+#include "support/DamagedPage.h"
 #include "support/TemporaryHistory.h"
 
 #include <QFile>
@@ -40,6 +41,8 @@ protected:
         }
         return bytes;
     }
+    /// Spoils the page of the row that was used then, not that of any other row.
+    void damageRowOf(Date used) const { damagePageOfRow(m_history.path(), used); }
     TemporaryHistory m_history;
 };
 

@@ -250,6 +250,31 @@ TEST_F(OpenHistoryTest, AForeignTableIsKeptAndJoinedByOurs) {
     EXPECT_EQ(query("PRAGMA auto_vacuum;"), "2");
 }
 
+TEST_F(OpenHistoryTest, TheCheckOfAFileThatSeemsSoundIsLeftToTheCallerWhereItIsWanted) {
+    keepOneClip();
+    EXPECT_TRUE(m_history.open().isChecked);
+    const auto beside = [this](KeyStore& keyStore) {
+        return ClipDatabase::openHistory(m_history.folder(), keyStore, Asking::allowed, FileCheck::beside).value();
+    };
+    EXPECT_FALSE(beside(m_history.keyStore()).isChecked);
+    EXPECT_TRUE(historyfile::passesCheck(m_history.path()));
+    MemoryKeyStore other(SymmetricKey::random());
+    const OpenedHistory fresh = beside(other);
+    EXPECT_TRUE(fresh.isChecked);
+    EXPECT_TRUE(fresh.recoveredFromDamage) << "the key is tried first in any case";
+}
+
+TEST_F(OpenHistoryTest, DamageThatOnlyTheWholeCheckSeesIsSeenByIt) {
+    {
+        const auto database = m_history.open().database;
+        for (int i = 0; i < 60; ++i)
+            insert(*database, someClip(i, QString(300, u'x')));
+    }
+    damageRowOf(0);
+    EXPECT_TRUE(historyfile::looksReadable(m_history.path(), m_history.key()));
+    EXPECT_FALSE(historyfile::passesCheck(m_history.path()));
+}
+
 TEST_F(OpenHistoryTest, AFolderThatIsNotThereCannotBeWrittenTo) {
     const auto opened = ClipDatabase::openHistory(m_history.folder() + u"/missing"_s, m_history.keyStore());
     ASSERT_FALSE(opened.has_value());
