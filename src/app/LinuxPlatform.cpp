@@ -30,6 +30,7 @@
 #include "linux/x11/keys/X11KeyboardLayout.h"
 #include "linux/x11/keys/X11PasteKeys.h"
 #include "linux/x11/keys/X11PasteTarget.h"
+#include "linux/x11/selection/QtClipboardNotices.h"
 #include "linux/x11/selection/X11Pasteboard.h"
 #include "linux/x11/windows/WaylandSession.h"
 #include "linux/x11/windows/X11ClassicIcon.h"
@@ -47,6 +48,7 @@
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
+#include <QTimer>
 #include <algorithm>
 #include <iterator>
 
@@ -129,6 +131,7 @@ std::optional<Reason> addX11Display(Platform& platform, std::shared_ptr<XlibConn
         connection, focus, platform.isWaylandSession ? std::make_unique<WindowManagerFence>(connection) : nullptr);
     platform.drags = std::make_unique<X11DragSource>();
     platform.statusItem = sessionTray(std::make_unique<X11ClassicIcon>(connection, &trayMark));
+    QTimer::singleShot(0, QCoreApplication::instance(), &stopQtClipboardNotices);
     return std::nullopt;
 }
 

@@ -30,6 +30,36 @@ def a_gtk_editor_copies():
         same(row["sourceAppName"], "Mousepad", "the source application")
 
 
+def a_copy_wakes_nothing_of_the_toolkit():
+    """It reads no clipboard here; each copy and each selected text of any program would wake two threads for it."""
+
+    def thread(pid):
+        for task in os.listdir(f"/proc/{pid}/task"):
+            with open(f"/proc/{pid}/task/{task}/comm", encoding="ascii") as name:
+                if name.read().strip() == "QXcbEventQueue":
+                    return f"/proc/{pid}/task/{task}/status"
+        raise Failure("the toolkit has no thread for the X server")
+
+    def woken(status):
+        with open(status, encoding="ascii") as file:
+            return next(int(line.split()[1]) for line in file if line.startswith("voluntary_ctxt_switches"))
+
+    with Vellumry() as program:
+        copy_text("copied first")
+        wait_for_clip(lambda row: text_of(row) == "copied first", "the first copy")
+        open_panel()  # from here on nothing of it is left to be made
+        key("Escape")
+        wait_panel_closed()
+        status = thread(program.pid)
+        before = woken(status)
+        for index in range(20):
+            copy_text(f"selected {index}", "primary")
+            copy_text(f"copied {index}")
+        wait_for_clip(lambda row: text_of(row) == "copied 19", "the last copy")
+        if woken(status) - before > 10:
+            raise Failure(f"woken {woken(status) - before} times for 40 texts")
+
+
 def a_qt_editor_copies():
     with Vellumry(), FeatherPad() as client:
         client.type_and_copy("words of a qt editor")
