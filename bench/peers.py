@@ -10,7 +10,7 @@ import time
 
 from gi.repository import Gio, GLib
 
-from desktop import HISTORY, QUIET, SETTINGS, Process, Vellumry, key, wait_until, windows
+from desktop import DATA, HISTORY, QUIET, SETTINGS, ROOT, Process, Vellumry, key, wait_until, windows
 
 
 def texts(count, seed=5):
@@ -26,6 +26,12 @@ def texts(count, seed=5):
             pieces.append(chance.choice(words))
             size += len(pieces[-1]) + 1
         yield " ".join(pieces)
+
+
+def fill_history(made):
+    """Into our history's file, while the program does not run."""
+    program = os.path.join(ROOT, "build", "release", "bench", "bench_fill")
+    subprocess.run([program, DATA], input="\0".join(made).encode(), check=True)
 
 
 class Tool:
@@ -51,13 +57,15 @@ class Tool:
     def wait_ready(self):
         time.sleep(2.0)
 
-    def fill(self, owner, count):
-        """Through the clipboard, the way a user does, as fast as it is taken."""
+    def fill(self, owner, count, is_short=False):
+        """Through the clipboard, the way a user does, as fast as it is taken. Returns how many clips there are then."""
+        count = count // 5 if is_short else count
         for text in texts(count):
             owner.copy(text)
             owner.serve(0.5, until=lambda: owner.read_at is not None)
             owner.serve(0.015)
         owner.serve(1.0)
+        return count
 
     def watch_for(self, text):
         """A question whose answer turns true once this copy is in the history."""
@@ -78,9 +86,10 @@ class Ours(Tool):
     has_panel = True
     has_history = True
 
-    def __init__(self):
+    def __init__(self, most=10000):
         super().__init__()
         self.connection = None
+        self.most = most
 
     def is_there(self):
         return True
@@ -88,8 +97,17 @@ class Ours(Tool):
     def start(self):
         os.makedirs(os.path.dirname(SETTINGS), exist_ok=True)
         with open(SETTINGS, "w", encoding="utf-8") as file:
-            file.write("[General]\nkeepAtMost=10000\n")
+            file.write(f"[General]\nkeepAtMost={self.most}\n")
         self.process = Vellumry(ready=False)
+
+    def fill(self, owner, count, is_short=False):
+        if not is_short:
+            return super().fill(owner, count)
+        self.stop()
+        fill_history(texts(count))
+        self.start()
+        self.wait_ready()
+        return count
 
     def wait_ready(self):
         self.process.wait_ready(60)
@@ -133,11 +151,12 @@ class CopyQ(Tool):
     def count(self):
         return int(self.ask("size"))
 
-    def fill(self, owner, count):
+    def fill(self, owner, count, is_short=False):
         """By its own command: copies that follow each other faster than it looks at them it leaves out."""
         made = list(texts(count))
         for first in range(0, count, 20):
             self.ask("add", "--", *made[first:first + 20])
+        return count
 
     def watch_for(self, text):
         # Backslashes of an argument are its own.

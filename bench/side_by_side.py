@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Whole-process figures of the built program beside those of other clipboard managers, by the same method, in the same headless
-desktop and the same call. `--alone` leaves the others out. Run by bench/run inside scripts/headless-session.
+desktop and the same call. `--alone` leaves the others out; `--short` measures less often, and fills tools that take clips only through
+the clipboard with a fifth of them. Run by bench/run inside scripts/headless-session.
 
 Each row: our figure, that of each tool ("-" where it has none), what ours must reach, and "<<" where ours is not first. Figures are
 medians, with the least and the most of them where there are several. Nothing here passes or fails.
@@ -22,10 +23,13 @@ from Xlib.protocol import event  # noqa: E402
 import peers  # noqa: E402
 from machine import described, process_tree, pss_megabytes, schedstat_seconds, switches, written_bytes  # noqa: E402
 
+SHORT = "--short" in sys.argv
 CLIPS = int(os.environ.get("VELLUMRY_BENCH_CLIPS", "5000"))
-BURST = 300
-QUIET_COPIES = 120  # half a minute at four a second
-STARTS = 9
+BURST = 100 if SHORT else 300
+QUIET_COPIES = 40 if SHORT else 120  # at four a second
+SINGLE_COPIES = 10 if SHORT else 20
+SHOWINGS = 6 if SHORT else 8
+STARTS = 5 if SHORT else 9
 REST = 20.0
 
 
@@ -132,7 +136,7 @@ def time_to_watching(tool, owner):
 def measure_copies(tool, owner, figures):
     if tool.has_history:
         delays = []
-        for index in range(20):
+        for index in range(SINGLE_COPIES):
             text = f"one measured copy {index}"
             kept = tool.watch_for(text)
             began = time.monotonic()
@@ -158,7 +162,7 @@ def measure_panel(tool, owner, figures):
     region = (760, 300, 60, 60)
     blank = display.Display().screen().root.get_image(*region, X.ZPixmap, 0xFFFFFFFF).data
     shown = []
-    for _ in range(8):
+    for _ in range(SHOWINGS):
         shown.append(changed_after(blank, region, press_shortcut) * 1000)
         owner.serve(0.3)
         tool.hide()
@@ -173,7 +177,7 @@ def measure(tool):
     tool.prepare()
     tool.start()
     tool.wait_ready()
-    tool.fill(owner, CLIPS)
+    figures["clips"] = [tool.fill(owner, CLIPS, SHORT)]
     measure_copies(tool, owner, figures)
     if tool.has_panel:
         measure_panel(tool, owner, figures)
@@ -192,6 +196,7 @@ def measure(tool):
 
 # What, and our limit ("" for none). Where our time goes stands in docs/performance.md.
 ROWS = (
+    ("clips", "clips at the beginning", ""),
     ("copy", "copy to the history, ms (ours durable)", 8),
     ("lost 20", f"lost of {BURST} at 20 a second", 0),
     ("lost 50", f"lost of {BURST} at 50 a second", 0),
@@ -220,12 +225,12 @@ def is_first(name, results):
     return medians[0] <= min(medians)
 
 
-def print_table(tools, results):
-    cells = [["n", "what", *(tool.name for tool in tools), "limit", ""]]
-    for name, label, limit in ROWS:
+def print_rows(rows, names, results, marks=True):
+    cells = [["n", "what", *names, "limit", ""]]
+    for name, label, limit in rows:
         if not results[0].get(name):
             continue
-        mark = "" if is_first(name, results) else "<<"
+        mark = "" if not marks or name == "clips" or is_first(name, results) else "<<"
         cells.append([str(len(results[0][name])), label, *(shown(result.get(name)) for result in results), str(limit), mark])
     widths = [max(len(row[column]) for row in cells) for column in range(len(cells[0]))]
     for row in cells:
@@ -235,8 +240,11 @@ def print_table(tools, results):
 def main():
     print(f"{described()}; {CLIPS} clips; n is the number of measurements")
     tools = peers.tools("--alone" in sys.argv)
-    results = [measure(tool) for tool in tools]
-    print_table(tools, results)
+    results = []
+    for tool in tools:
+        print(f"measuring {tool.name}", file=sys.stderr, flush=True)
+        results.append(measure(tool))
+    print_rows(ROWS, [tool.name for tool in tools], results)
     print(described(), flush=True)
 
 
