@@ -7,6 +7,7 @@
 
 #include <QSet>
 #include <set>
+#include <utility>
 
 namespace vellumry {
 
@@ -38,6 +39,10 @@ public:
 
     /// Replaces everything; sorts, equals keeping their order. Of several clips with one id the first stays.
     void assign(std::vector<ClipRef> clips);
+    /// Copies `clips` for a thread that goes on with them. So many counts to be raised take a while: it is done where the
+    /// list is made, and `takeCopy` hands it over.
+    void copyForAnother() { m_copy = m_clips; }
+    [[nodiscard]] std::vector<ClipRef> takeCopy() { return std::exchange(m_copy, {}); }
     /// Puts the clip before the first that was not used later.
     void insert(ClipRef clip);
     /// Puts `clip` in place of the listed `old`, at the position that its own last use asks for.
@@ -60,6 +65,7 @@ private:
     void leave(const Clip& clip);
 
     std::vector<ClipRef> m_clips;
+    std::vector<ClipRef> m_copy;
     ClipsBy<&Clip::id> m_byId;
     /// A file that only we wrote holds no fingerprint twice. If one does, this has fewer entries than there are
     /// clips.

@@ -61,7 +61,7 @@ QCoro::Task<ClipRef> ClipStore::add(ClipDraft draft, Date now, std::shared_ptr<C
     if (copy && !existing)
         copy->clip = clip->id;
     // The keys of its image text stay: that text was kept, or there is none.
-    d->search->forgetText(clip->id);
+    d->forgetText(clip->id);
     changed();
     auto writing = d->writer.insert(clip->id, std::move(draft.payload));
     co_await writing;
@@ -128,7 +128,7 @@ QCoro::Task<void> ClipStore::setImageText(QUuid id, std::optional<QString> text,
     changedClip->imageTextIsAccurate = isAccurate;
     const ClipRef clip = std::move(changedClip);
     d->list.change(clip);
-    d->search->forgetText(id);
+    d->forgetText(id);
     d->search->forgetLookAlikes(id);
     changed();
     auto writing = d->writer.updateMeta(clip);
@@ -146,6 +146,8 @@ void ClipStore::changed() {
 
 /// A little at a time, so that no key and no copy waits for it.
 void ClipStore::prepareSearch() {
+    if (d->loadedSearch)
+        return;
     if (d->search->prepare(clips(), d->revision, foldingTime))
         d->folding.stop();
     else

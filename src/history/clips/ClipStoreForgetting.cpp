@@ -42,7 +42,8 @@ QCoro::Task<void> ClipStore::clearHistory(bool keepPinned) {
     std::shared_ptr<ClipList> gone = d->list.takeAll(keepPinned);
     if (!gone)
         co_return;
-    std::shared_ptr<ClipSearch> texts = std::exchange(d->search, std::make_unique<ClipSearch>());
+    std::shared_ptr<ClipSearch> texts = std::exchange(d->search, std::make_shared<ClipSearch>());
+    d->loadedSearch.reset();
     d->writer.forgetGone();
     changed();
     auto ids = [gone = std::move(gone), texts = std::move(texts), keepPinned] { return gone->ids(keepPinned); };
@@ -62,7 +63,7 @@ QCoro::Task<void> ClipStore::enforceRetention(Date now) {
 }
 
 void ClipStore::forget(const QUuid& id) {
-    d->search->forgetText(id);
+    d->forgetText(id);
     d->search->forgetLookAlikes(id);
 }
 

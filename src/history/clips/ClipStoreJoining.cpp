@@ -22,6 +22,8 @@ ClipDraft draftOf(const Clip& clip, const ClipPayload& payload) {
 
 /// More than a panel shows at once.
 constexpr qint64 clipsAtFirst = 100;
+/// Between two looks whether the folding is still wanted.
+constexpr std::chrono::milliseconds foldingAtOnce{5};
 
 QCoro::Task<bool> alwaysSound() {
     co_return true;
@@ -84,8 +86,39 @@ QCoro::Task<void> ClipStore::load(std::shared_ptr<ClipDatabase> database) {
         co_return;
     auto loading = database->loadBeside();
     const std::shared_ptr<ClipList> whole = co_await loading;
-    if (self)
-        complete(std::move(*whole));
+    if (!self)
+        co_return;
+    std::vector<ClipRef> loaded = whole->takeCopy();
+    if (d->cleared)
+        loaded.clear();
+    std::vector<QUuid> changed = d->list.ids(false);
+    complete(std::move(*whole));
+    for (const QUuid& id : d->writer.rowsToGo())
+        changed.push_back(id);
+    d->foldLoaded(std::move(loaded), std::move(changed), self);
+}
+
+QCoro::Task<void> ClipStore::Private::foldLoaded(std::vector<ClipRef> clips, std::vector<QUuid> changed,
+                                                 QPointer<ClipStore> store) {
+    loadedSearch = std::make_unique<LoadedSearch>();
+    loadedSearch->forgotten = std::move(changed);
+    const LoadedSearch* const own = loadedSearch.get();
+    auto fold = [loaded = std::move(clips), isUnwanted = own->isUnwanted] {
+        auto made = std::make_shared<ClipSearch>();
+        while (!*isUnwanted && !made->prepare(loaded, 0, foldingAtOnce))
+            continue;
+        return made;
+    };
+    auto making = loadedSearch->thread.run(std::move(fold));
+    std::shared_ptr<ClipSearch> made = co_await making;
+    if (!store || loadedSearch.get() != own)
+        co_return;
+    for (const QUuid& id : loadedSearch->forgotten) {
+        made->forgetText(id);
+        made->forgetLookAlikes(id);
+    }
+    search = std::move(made);
+    loadedSearch.reset();
 }
 
 /// The fingerprints that all clips of now have under another key.

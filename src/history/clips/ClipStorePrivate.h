@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/SerialExecutor.h"
 #include "history/clips/ClipHasher.h"
 #include "history/clips/ClipJoining.h"
 #include "history/clips/ClipList.h"
@@ -10,9 +11,22 @@
 #include "history/file/ClipDatabase.h"
 #include "history/search/ClipSearch.h"
 
+#include <QPointer>
 #include <QTimer>
+#include <atomic>
+#include <memory>
+#include <vector>
 
 namespace vellumry {
+
+/// A search that is made ready for what was loaded.
+struct LoadedSearch {
+    ~LoadedSearch() { *isUnwanted = true; }
+
+    std::vector<QUuid> forgotten; ///< clips whose text has changed or gone since it was begun
+    std::shared_ptr<std::atomic<bool>> isUnwanted = std::make_shared<std::atomic<bool>>(false);
+    SerialExecutor thread{"Folding"}; // last: it ends before the others go
+};
 
 struct ClipStore::Private {
     Private(ClipCrypto historyCrypto, RetentionPolicy limits, ClipStore* store)
@@ -36,7 +50,20 @@ struct ClipStore::Private {
     bool recoveredFromDamage = false;
     double sensitiveLifetime = 60;
     bool autoExpire = false;
-    std::unique_ptr<ClipSearch> search = std::make_unique<ClipSearch>();
+    /// What was folded of the clip is no longer true.
+    void forgetText(const QUuid& id) {
+        search->forgetText(id);
+        if (loadedSearch)
+            loadedSearch->forgotten.push_back(id);
+    }
+
+    /// Folds the texts of `clips`, which were just loaded, and takes the search over. What was folded of `changed` is
+    /// thrown away.
+    QCoro::Task<void> foldLoaded(std::vector<ClipRef> clips, std::vector<QUuid> changed, QPointer<ClipStore> store);
+
+    std::shared_ptr<ClipSearch> search = std::make_shared<ClipSearch>();
+    /// Exists while the texts of a history that was just loaded are folded on a thread of their own.
+    std::unique_ptr<LoadedSearch> loadedSearch;
     QTimer folding; ///< runs while the search has something to prepare
     Clock clock = currentDate;
     ExpiryTimer expiry;

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QCryptographicHash>
 #include <algorithm>
+#include <array>
 
 namespace vellumry {
 
@@ -16,18 +17,27 @@ constexpr int valueOf(char digit) {
     return digit >= 'a' && digit <= 'f' ? digit - 'a' + 10 : -1;
 }
 
+/// `valueOf` every byte: a start asks for that of each clip.
+constexpr std::array<qint8, 256> values = [] {
+    std::array<qint8, 256> result{};
+    for (int byte = 0; byte < 256; ++byte)
+        result[static_cast<std::size_t>(byte)] = static_cast<qint8>(valueOf(static_cast<char>(byte)));
+    return result;
+}();
+
 } // namespace
 
 Fingerprint Fingerprint::ofText(QByteArrayView text) {
     Fingerprint fingerprint;
     const qsizetype size = std::ssize(fingerprint.m_bytes);
-    if (text.size() != 2 * size || std::ranges::any_of(text, [](char digit) { return valueOf(digit) < 0; }))
-        return ofCode(QCryptographicHash::hash(text.toByteArray(), QCryptographicHash::Sha256));
-    for (qsizetype i = 0; i < size; ++i) {
-        const int byte = valueOf(text[2 * i]) << 4 | valueOf(text[2 * i + 1]);
-        fingerprint.m_bytes[static_cast<std::size_t>(i)] = static_cast<char>(byte);
+    int all = text.size() == 2 * size ? 0 : -1;
+    for (qsizetype i = 0; i < size && all >= 0; ++i) {
+        const int high = values[static_cast<unsigned char>(text[2 * i])];
+        const int low = values[static_cast<unsigned char>(text[2 * i + 1])];
+        all |= high | low;
+        fingerprint.m_bytes[static_cast<std::size_t>(i)] = static_cast<char>(high << 4 | low);
     }
-    return fingerprint;
+    return all >= 0 ? fingerprint : ofCode(QCryptographicHash::hash(text.toByteArray(), QCryptographicHash::Sha256));
 }
 
 Fingerprint Fingerprint::ofCode(QByteArrayView code) {

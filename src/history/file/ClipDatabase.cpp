@@ -2,6 +2,8 @@
 #include "history/file/ClipDatabase.h"
 
 #include "foundation/Logging.h"
+#include "foundation/UnusedMemory.h"
+#include "history/clips/ClipList.h"
 #include "history/clips/ClipList.h"
 #include "history/file/ClipRows.h"
 #include "history/file/HistoryFile.h"
@@ -149,9 +151,14 @@ QCoro::Task<NewestClips> ClipDatabase::loadNewest(qint64 count) {
 
 QCoro::Task<std::shared_ptr<ClipList>> ClipDatabase::loadBeside() {
     auto load = [this] {
-        SQLiteDatabase sqlite(m_path, SQLiteDatabase::Access::readOnly);
         auto list = std::make_shared<ClipList>();
-        list->assign(cliprows::readAll(sqlite, m_crypto));
+        {
+            SQLiteDatabase sqlite(m_path, SQLiteDatabase::Access::readOnly);
+            list->assign(cliprows::readAll(sqlite, m_crypto));
+        }
+        list->copyForAnother();
+        // What the connection had read lay among the clips.
+        giveBackUnusedMemory();
         return list;
     };
     m_loader = std::make_unique<SerialExecutor>("History load");

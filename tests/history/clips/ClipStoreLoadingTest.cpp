@@ -173,6 +173,24 @@ TEST_F(ClipStoreLoading, ADamagedFileIsLetGoAndWhatWasCapturedGoesIntoTheNext) {
     });
 }
 
+TEST_F(ClipStoreLoading, ASearchFindsWhatIsThereHoweverItsTextsWereFolded) {
+    beginToAttach();
+    EXPECT_TRUE(decide(true));
+    // While the texts are folded beside, and behind it.
+    for (int round = 0; round < 60; ++round) {
+        const QString text = u"changing %1"_s.arg(round);
+        const ClipRef added = add(drafts::text(text), 900 + round);
+        ASSERT_EQ(m_store->search(text, ClipFilter::all).size(), 1U) << round;
+        ASSERT_EQ(m_store->search(u"oldest"_s, ClipFilter::all).size(), 1U) << round;
+        awaited(m_store->remove({added->id}, false));
+        ASSERT_TRUE(m_store->search(text, ClipFilter::all).empty()) << round;
+    }
+    awaited(m_store->remove({oldest->id}, false));
+    EXPECT_TRUE(m_store->search(u"oldest"_s, ClipFilter::all).empty());
+    awaited(m_store->clearHistory(false));
+    EXPECT_TRUE(m_store->search(u"row"_s, ClipFilter::all).empty());
+}
+
 TEST_F(ClipStoreLoading, AFileThatCannotBeLoadedIsJudgedByTheVerdict) {
     const auto attach = [&](bool isSound) {
         const OpenedHistory history = m_history.open();
