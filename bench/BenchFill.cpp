@@ -4,12 +4,12 @@
 // first one oldest. The key goes into the session's keyring.
 
 #include "capture/DraftTitles.h"
+#include "foundation/UniformType.h"
 #include "history/clips/ClipFingerprint.h"
 #include "history/clips/ClipOfDraft.h"
 #include "history/file/ClipDatabase.h"
 #include "history/file/ClipRows.h"
 #include "history/file/HistoryFile.h"
-#include "foundation/UniformType.h"
 #include "linux/keyring/KeychainKeyStore.h"
 
 #include <QCoreApplication>

@@ -92,12 +92,10 @@ std::unique_ptr<ClipStore> launched(const QString& folder, KeyStore& keyStore, d
     const auto history =
         ClipDatabase::openHistory(folder, keyStore, KeyStore::Asking::allowed, FileCheck::beside).value();
     auto store = std::make_unique<ClipStore>(unlimited);
-    QObject::connect(store.get(), &ClipStore::storageChanged, store.get(), [&] {
-        latest = latest > 0 ? latest : static_cast<double>(timer.nsecsElapsed()) / 1e6;
-    });
+    QObject::connect(store.get(), &ClipStore::storageChanged, store.get(),
+                     [&] { latest = latest > 0 ? latest : static_cast<double>(timer.nsecsElapsed()) / 1e6; });
     const QString path = folder + u'/' + historyfile::fileName;
-    keep(QCoro::waitFor(
-        store->attach(history.database, false, [&opening, path] { return checkOf(&opening, path); })));
+    keep(QCoro::waitFor(store->attach(history.database, false, [&opening, path] { return checkOf(&opening, path); })));
     store->disconnect();
     return store;
 }

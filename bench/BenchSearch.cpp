@@ -32,7 +32,8 @@ std::string foldedBuffer(const std::vector<ClipRef>& clips) {
     std::string buffer;
     for (const ClipRef& clip : clips) {
         const QString text = clip->title.toString() + u'\n' + clip->searchText.toString() + u'\n' +
-                             clip->sourceAppName.value_or(QString()) + u'\n' + clip->imageText.value_or(StoredText()).toString();
+                             clip->sourceAppName.value_or(QString()) + u'\n' +
+                             clip->imageText.value_or(StoredText()).toString();
         buffer += text::foldedBytes(QStringView(text)).toStdString() + clipEnd;
     }
     return buffer;

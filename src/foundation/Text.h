@@ -52,8 +52,8 @@ void forEachCharacter(QStringView text, const std::function<bool(QStringView)>& 
 [[nodiscard]] QByteArray foldedBytes(QStringView text);
 /// The UTF-8 bytes of `folded` of text that is UTF-8 already.
 [[nodiscard]] QByteArray foldedBytes(const QByteArray& utf8);
-/// True when `foldedBytes` does nothing to this text but make its letters small: it is ASCII, and the current locale has
-/// the usual i.
+/// True when `foldedBytes` does nothing to this text but make its letters small: it is ASCII, and the current locale
+/// has the usual i.
 [[nodiscard]] bool foldsToLowerCase(QByteArrayView utf8);
 
 /// True for text of nothing but U+0000…U+007F, in UTF-16 units or in the bytes of any coding that begins with ASCII.

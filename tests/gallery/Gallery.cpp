@@ -184,8 +184,9 @@ private:
     }
 
     void choose(const char* beginning) {
-        const auto found = std::ranges::find_if(
-            store.clips(), [&](const ClipRef& clip) { return clip->title.toString().startsWith(QString::fromUtf8(beginning)); });
+        const auto found = std::ranges::find_if(store.clips(), [&](const ClipRef& clip) {
+            return clip->title.toString().startsWith(QString::fromUtf8(beginning));
+        });
         if (found != store.clips().end())
             panel.model().selectOnly((*found)->id);
     }

@@ -10,8 +10,8 @@
 
 namespace vellumry {
 
-/// Overwrites where SQLite notes the rows of a page, in each page that names the first row used at `used` or later: the file
-/// opens, and what lies on other pages can be read.
+/// Overwrites where SQLite notes the rows of a page, in each page that names the first row used at `used` or later: the
+/// file opens, and what lies on other pages can be read.
 inline void damagePageOfRow(const QString& path, double used) {
     QByteArray id;
     {

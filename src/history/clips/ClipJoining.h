@@ -19,8 +19,8 @@ struct JoinedClips {
     std::vector<QUuid> unwanted;  ///< rows that were cleared before they were known
 };
 
-/// Gives the clip what a copy of its content would keep of the row whose place it takes: the age, the pin and the text of
-/// an unchanged picture.
+/// Gives the clip what a copy of its content would keep of the row whose place it takes: the age, the pin and the text
+/// of an unchanged picture.
 void inherit(Clip& clip, const Clip& row);
 
 /// Joins the `rows` of a file with the clips that were `captured` meanwhile, whose fingerprints under the file's key

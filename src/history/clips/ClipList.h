@@ -39,8 +39,8 @@ public:
 
     /// Replaces everything; sorts, equals keeping their order. Of several clips with one id the first stays.
     void assign(std::vector<ClipRef> clips);
-    /// Copies `clips` for a thread that goes on with them. So many counts to be raised take a while: it is done where the
-    /// list is made, and `takeCopy` hands it over.
+    /// Copies `clips` for a thread that goes on with them. So many counts to be raised take a while: it is done where
+    /// the list is made, and `takeCopy` hands it over.
     void copyForAnother() { m_copy = m_clips; }
     [[nodiscard]] std::vector<ClipRef> takeCopy() { return std::exchange(m_copy, {}); }
     /// Puts the clip before the first that was not used later.

@@ -61,10 +61,11 @@ public:
     void setOpening(bool isOpening);
     /// Tells whether a file that is worked with already is sound.
     using FileVerdict = std::function<QCoro::Task<bool>()>;
-    /// Joins the history of a file with what was captured without one, which is written to it. The latest clips are there
-    /// first, then the rest; nothing is written before all are there and `isSound`, which is asked at once, has answered.
-    /// False when it says no or throws: nothing of the file is left then, nothing that was captured is lost, and
-    /// `database` is let go. Throws what loading threw; the store is then as after a no. Until it has gone well once.
+    /// Joins the history of a file with what was captured without one, which is written to it. The latest clips are
+    /// there first, then the rest; nothing is written before all are there and `isSound`, which is asked at once, has
+    /// answered. False when it says no or throws: nothing of the file is left then, nothing that was captured is lost,
+    /// and `database` is let go. Throws what loading threw; the store is then as after a no. Until it has gone well
+    /// once.
     [[nodiscard]] QCoro::Task<bool> attach(std::shared_ptr<ClipDatabase> database, bool recoveredFromDamage,
                                            FileVerdict isSound = nullptr);
     /// The file is open, but only its latest clips are among `clips`: the rest is on its way.

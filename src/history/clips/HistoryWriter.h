@@ -43,8 +43,8 @@ public:
     /// The file that was held is not to be used: what waits with its payload goes on waiting for another one, and rows
     /// that were to go are still to go.
     void abandon();
-    /// Of the clips that wait, some take the place of a row of another identity (`replaced`, by the clip's); the rows of
-    /// `unwanted` go.
+    /// Of the clips that wait, some take the place of a row of another identity (`replaced`, by the clip's); the rows
+    /// of `unwanted` go.
     void replaceRows(const QHash<QUuid, QUuid>& replaced, const std::vector<QUuid>& unwanted);
     /// The rows that are in the file only because nothing was written yet.
     [[nodiscard]] QSet<QUuid> rowsToGo() const;

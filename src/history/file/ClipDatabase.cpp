@@ -4,7 +4,6 @@
 #include "foundation/Logging.h"
 #include "foundation/UnusedMemory.h"
 #include "history/clips/ClipList.h"
-#include "history/clips/ClipList.h"
 #include "history/file/ClipRows.h"
 #include "history/file/HistoryFile.h"
 

@@ -54,8 +54,8 @@ public:
     [[nodiscard]] QCoro::Task<std::vector<ClipRef>> loadAll();
     /// The readable clips of the latest `count` rows.
     [[nodiscard]] QCoro::Task<NewestClips> loadNewest(qint64 count);
-    /// Every readable clip as a list, made by a connection and a thread of their own: payloads can be read meanwhile. The
-    /// caller keeps this alive until then.
+    /// Every readable clip as a list, made by a connection and a thread of their own: payloads can be read meanwhile.
+    /// The caller keeps this alive until then.
     [[nodiscard]] QCoro::Task<std::shared_ptr<ClipList>> loadBeside();
     /// Nothing when there is no such row; throws for one that cannot be unsealed or decoded.
     [[nodiscard]] QCoro::Task<std::optional<ClipPayload>> payload(QUuid id);
@@ -98,7 +98,7 @@ private:
     const bool m_foundLog; // before the connection, which makes a log
     SQLiteDatabase m_sqlite;
     const ClipCrypto m_crypto;
-    SerialExecutor m_executor; // behind the connection, so that its thread has ended before that closes
+    SerialExecutor m_executor;                // behind the connection, so that its thread has ended before that closes
     std::unique_ptr<SerialExecutor> m_loader; ///< while a list is loaded
 };
 

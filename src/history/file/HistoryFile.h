@@ -25,12 +25,12 @@ inline constexpr std::array companionSuffixes{"", "-wal", "-shm", "-journal"};
 /// at, throws SQLiteError. Changes nothing but that it plays back what a power cut left in a rollback journal.
 [[nodiscard]] bool isReadable(const QString& path, const SymmetricKey& key);
 
-/// Whether the existing file can be worked with before it was looked through: nothing is to be played back or rewritten,
-/// the table has our columns, and `key` opens its latest row. Never throws: false when anything is in doubt.
+/// Whether the existing file can be worked with before it was looked through: nothing is to be played back or
+/// rewritten, the table has our columns, and `key` opens its latest row. Never throws: false when anything is in doubt.
 [[nodiscard]] bool looksReadable(const QString& path, const SymmetricKey& key);
 
-/// The part of `isReadable` that goes through the whole file: SQLite's own check. False means damage, seen twice; throws
-/// SQLiteError as that does.
+/// The part of `isReadable` that goes through the whole file: SQLite's own check. False means damage, seen twice;
+/// throws SQLiteError as that does.
 [[nodiscard]] bool passesCheck(const QString& path);
 
 /// Moves the file and its companions to "History-unreadable-", the time and ".sqlite" in the same folder, never over a

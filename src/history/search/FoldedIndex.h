@@ -30,8 +30,8 @@ public:
     /// Keeps `text`, which is valid UTF-8. The slot is one that no living text has and that was not removed since
     /// `recycle`.
     Slot append(const QByteArray& text);
-    /// Keeps the text that `before`, `body` in lower case and `behind` make together. `body` is ASCII; it is not copied.
-    /// `before` ends with a line feed and `behind` begins with one.
+    /// Keeps the text that `before`, `body` in lower case and `behind` make together. `body` is ASCII; it is not
+    /// copied. `before` ends with a line feed and `behind` begins with one.
     Slot append(const QByteArray& before, QByteArray body, const QByteArray& behind);
     /// Wipes the text. Its slot stays out of use until `recycle`.
     void remove(Slot slot);

@@ -56,7 +56,8 @@ private:
         if (clip.isSensitive())
             return text::foldedBytes(clip.sourceAppName.value_or(QString()));
         const QString haystack = clip.title.toString() + u'\n' + clip.searchText.toString() + u'\n' +
-                                 clip.sourceAppName.value_or(QString()) + u'\n' + clip.imageText.value_or(StoredText()).toString();
+                                 clip.sourceAppName.value_or(QString()) + u'\n' +
+                                 clip.imageText.value_or(StoredText()).toString();
         return m_folded.try_emplace(clip.id, text::foldedBytes(QStringView(haystack))).first->second;
     }
 
