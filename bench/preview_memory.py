@@ -11,7 +11,7 @@ import time
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
-from at_rest import CLIPS, Owner, OursAtRest  # noqa: E402
+from at_rest import CLIPS, Owner, OursAtRest, name_of  # noqa: E402
 
 from machine import process_tree, pss_megabytes  # noqa: E402
 
@@ -49,6 +49,7 @@ def main():
     memory = lambda: pss_megabytes(process_tree(tool.process.pid))
     print(f"clips: {tool.count()}, load {os.getloadavg()[0]:.1f}")
     print(f"before, MB: {memory():.1f}")
+    parts = lambda: ", ".join(f"{name_of(f'/proc/{pid}')} {pss_megabytes([pid]):.1f}" for pid in process_tree(tool.process.pid))
     for round_ in range(3):
         tool.show_panel()
         most = 0.0
@@ -57,9 +58,9 @@ def main():
             time.sleep(0.05)
             most = max(most, memory())
         tool.hide()
-        used = memory()
+        used = f"{memory():.1f} ({parts()})"
         owner.serve(20.0)
-        print(f"use {round_ + 1}: while {LOOKED_AT} clips were looked at at most {most:.1f} MB, just after {used:.1f} (limit {LIMIT}), "
+        print(f"use {round_ + 1}: while {LOOKED_AT} clips were looked at at most {most:.1f} MB, just after {used} (limit {LIMIT}), "
               f"20 s later {memory():.1f}")
     tool.stop()
 
