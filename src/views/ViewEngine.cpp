@@ -2,7 +2,6 @@
 #include "views/ViewEngine.h"
 
 #include "foundation/InterfaceLocale.h"
-#include "views/EmojiFont.h"
 #include "views/QmlModules.h"
 #include "views/SymbolProvider.h"
 
@@ -27,7 +26,6 @@ ViewEngine::~ViewEngine() = default;
 QQmlEngine& ViewEngine::engine() {
     if (!m_engine) {
         keepQmlModule(&qml_register_types_Vellumry_Views);
-        preferColouredEmoji();
         m_engine = std::make_unique<QQmlEngine>(this);
         m_engine->addImportPath(QStringLiteral("qrc:/vellumry"));
         m_engine->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);

@@ -2,8 +2,6 @@
 #include "views/ViewEngine.h"
 
 #include <QColor>
-#include <QImage>
-#include <QPainter>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <gtest/gtest.h>
@@ -35,24 +33,6 @@ TEST_F(ViewsTest, AViewFollowsTheChoiceBetweenLightAndDark) {
     EXPECT_GT(item->property("ground").value<QColor>().lightness(), item->property("text").value<QColor>().lightness());
     views.setAppearance(ViewEngine::Appearance::dark);
     EXPECT_LT(item->property("ground").value<QColor>().lightness(), item->property("text").value<QColor>().lightness());
-}
-
-TEST_F(ViewsTest, AnEmojiThatTheTextFontLacksComesInColour) {
-    const auto label = make("Text { font.family: Views.family }");
-    QImage image(64, 64, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    QFont font = label->property("font").value<QFont>();
-    font.setPixelSize(32);
-    painter.setFont(font);
-    painter.drawText(8, 48, QStringLiteral("👍"));
-    painter.end();
-    int colourful = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            colourful += image.pixelColor(x, y).hslSaturation() > 100 ? 1 : 0;
-    }
-    EXPECT_GT(colourful, 50);
 }
 
 TEST_F(ViewsTest, TwoEnginesFollowTheirOwnChoice) {
