@@ -21,6 +21,9 @@ function(vellumry_target_defaults target)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 19)
     # Older ones understate their concepts, and libstdc++ then hides std::expected from them.
     target_compile_options(${target} PRIVATE -Wno-builtin-macro-redefined -Wno-macro-redefined -D__cpp_concepts=202002L)
+  elseif(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_GREATER_EQUAL 15)
+    # They see empty optionals as uninitialised, which QCoro moves into its promises.
+    target_compile_options(${target} PRIVATE -Wno-maybe-uninitialized)
   endif()
   target_compile_definitions(${target} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
                                               QT_NO_FOREACH)
