@@ -326,8 +326,10 @@ def test_log():
 def test_bindings_are_told():
     """Where no program can hold keys, the status tells the lines that bind them, as this session's compositor understood them."""
     status = subprocess.run([PROGRAM, "--status"], stdout=subprocess.PIPE, timeout=desktop.LIMIT, check=False).stdout.decode()
-    lines = {"sway": "bindsym Ctrl+Mod4+v exec vellumry --action open-panel",
-             "labwc": '<keybind key="C-W-v"><action name="Execute" command="vellumry --action open-panel"/></keybind>',
+    command = "dbus-send --type=method_call --dest=com.vellumry.Vellumry /com/vellumry/Vellumry " \
+              "com.vellumry.Vellumry.Actions.Perform string:open-panel"
+    lines = {"sway": f"bindsym Ctrl+Mod4+v exec {command}\n",
+             "labwc": f'<keybind key="C-W-v"><action name="Execute" command="{command}"/></keybind>',
              "kwin": "KGlobalAccel", "gnome": "held by the extension"}
     if SESSION in lines:
         assert lines[SESSION] in status, status

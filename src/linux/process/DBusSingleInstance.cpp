@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/process/DBusSingleInstance.h"
 
+#include "linux/process/ActionInterface.h"
 #include "linux/process/ApplicationInterface.h"
 #include "linux/process/StatusInterface.h"
 
@@ -43,10 +44,13 @@ DBusSingleInstance::DBusSingleInstance(QDBusConnection bus, const QString& lockP
         if (onReopen)
             onReopen();
     };
-    interface->onAction = [this](const QString& name) {
+    const auto act = [this](const QString& name) {
         if (onAction)
             onAction(name);
     };
+    interface->onAction = act;
+    auto* actions = new ActionInterface(&m_object);
+    actions->onAction = act;
     auto* status = new StatusInterface(&m_object);
     status->onReport = [this] { return onStatus ? onStatus() : QString(); };
 }

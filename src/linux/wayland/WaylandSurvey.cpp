@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/wayland/WaylandSurvey.h"
 
+#include "linux/process/ActionInterface.h"
 #include "linux/process/ProcessHardening.h"
 #include "linux/wayland/WaylandPointer.h"
 #include "linux/wayland/keys/GlobalAccelHotKeys.h"
@@ -50,7 +51,7 @@ OwnBindings ownBindingsOfSession() {
     const auto line = [&](const char* key, const char* action) {
         const QString name = QLatin1String(key);
         return pattern.arg(bindings.file.isEmpty() ? name.toUpper() : name,
-                           QStringLiteral("vellumry --action ") + QLatin1String(action));
+                           actionCommand(QLatin1String(action)));
     };
     bindings.lines = {line("v", "open-panel"), line("s", "toggle-stack")};
     return bindings;
