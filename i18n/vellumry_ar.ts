@@ -2255,5 +2255,29 @@
         <source>Loading the history…</source>
         <translation>جارٍ تحميل السجل…</translation>
     </message>
+    <message>
+        <source>GNOME did not switch the extension on. Look for Vellumry in the Extensions app.</source>
+        <translation>لم يُفعّل جنوم الامتداد. ابحث عن Vellumry في تطبيق الامتدادات.</translation>
+    </message>
+    <message>
+        <source>Switch On</source>
+        <translation>تفعيل</translation>
+    </message>
+    <message>
+        <source>The extension is on from your next login. Log out and in again to use it.</source>
+        <translation>سيعمل الامتداد من تسجيل دخولك القادم. سجّل الخروج ثم ادخل من جديد لاستخدامه.</translation>
+    </message>
+    <message>
+        <source>The extension is on. Vellumry starts again with it.</source>
+        <translation>الامتداد مفعّل. يبدأ Vellumry من جديد معه.</translation>
+    </message>
+    <message>
+        <source>Vellumry's extension for GNOME is off</source>
+        <translation>امتداد Vellumry لجنوم متوقف</translation>
+    </message>
+    <message>
+        <source>With it, no copy is missed, shortcuts work everywhere and Vellumry pastes for you.</source>
+        <translation>معه لا تضيع أي نسخة، وتعمل الاختصارات في كل مكان، ويلصق Vellumry نيابة عنك.</translation>
+    </message>
 </context>
 </TS>

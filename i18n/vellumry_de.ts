@@ -2095,5 +2095,29 @@
         <source>Loading the history…</source>
         <translation>Verlauf wird geladen …</translation>
     </message>
+    <message>
+        <source>GNOME did not switch the extension on. Look for Vellumry in the Extensions app.</source>
+        <translation>GNOME hat die Erweiterung nicht eingeschaltet. Suchen Sie Vellumry in der Anwendung „Erweiterungen“.</translation>
+    </message>
+    <message>
+        <source>Switch On</source>
+        <translation>Einschalten</translation>
+    </message>
+    <message>
+        <source>The extension is on from your next login. Log out and in again to use it.</source>
+        <translation>Die Erweiterung wirkt ab Ihrer nächsten Anmeldung. Melden Sie sich ab und wieder an, um sie zu nutzen.</translation>
+    </message>
+    <message>
+        <source>The extension is on. Vellumry starts again with it.</source>
+        <translation>Die Erweiterung ist eingeschaltet. Vellumry startet mit ihr neu.</translation>
+    </message>
+    <message>
+        <source>Vellumry's extension for GNOME is off</source>
+        <translation>Vellumrys Erweiterung für GNOME ist ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>With it, no copy is missed, shortcuts work everywhere and Vellumry pastes for you.</source>
+        <translation>Mit ihr entgeht Vellumry keine Kopie, die Tastenkürzel wirken überall, und Vellumry fügt für Sie ein.</translation>
+    </message>
 </context>
 </TS>

@@ -2095,5 +2095,29 @@
         <source>Loading the history…</source>
         <translation>Cargando el historial…</translation>
     </message>
+    <message>
+        <source>GNOME did not switch the extension on. Look for Vellumry in the Extensions app.</source>
+        <translation>GNOME no activó la extensión. Busque Vellumry en la aplicación Extensiones.</translation>
+    </message>
+    <message>
+        <source>Switch On</source>
+        <translation>Activar</translation>
+    </message>
+    <message>
+        <source>The extension is on from your next login. Log out and in again to use it.</source>
+        <translation>La extensión estará activa desde su próximo inicio de sesión. Cierre la sesión y vuelva a entrar para usarla.</translation>
+    </message>
+    <message>
+        <source>The extension is on. Vellumry starts again with it.</source>
+        <translation>La extensión está activada. Vellumry se inicia de nuevo con ella.</translation>
+    </message>
+    <message>
+        <source>Vellumry's extension for GNOME is off</source>
+        <translation>La extensión de Vellumry para GNOME está desactivada</translation>
+    </message>
+    <message>
+        <source>With it, no copy is missed, shortcuts work everywhere and Vellumry pastes for you.</source>
+        <translation>Con ella no se pierde ninguna copia, los atajos funcionan en todas partes y Vellumry pega por usted.</translation>
+    </message>
 </context>
 </TS>

@@ -2095,5 +2095,29 @@
         <source>Loading the history…</source>
         <translation>Chargement de l’historique…</translation>
     </message>
+    <message>
+        <source>GNOME did not switch the extension on. Look for Vellumry in the Extensions app.</source>
+        <translation>GNOME n’a pas activé l’extension. Cherchez Vellumry dans l’application Extensions.</translation>
+    </message>
+    <message>
+        <source>Switch On</source>
+        <translation>Activer</translation>
+    </message>
+    <message>
+        <source>The extension is on from your next login. Log out and in again to use it.</source>
+        <translation>L’extension sera active à votre prochaine connexion. Déconnectez-vous puis reconnectez-vous pour l’utiliser.</translation>
+    </message>
+    <message>
+        <source>The extension is on. Vellumry starts again with it.</source>
+        <translation>L’extension est activée. Vellumry redémarre avec elle.</translation>
+    </message>
+    <message>
+        <source>Vellumry's extension for GNOME is off</source>
+        <translation>L’extension de Vellumry pour GNOME est désactivée</translation>
+    </message>
+    <message>
+        <source>With it, no copy is missed, shortcuts work everywhere and Vellumry pastes for you.</source>
+        <translation>Avec elle, aucune copie n’échappe à Vellumry, les raccourcis fonctionnent partout et Vellumry colle pour vous.</translation>
+    </message>
 </context>
 </TS>

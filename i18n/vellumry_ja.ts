@@ -2055,5 +2055,29 @@
         <source>Loading the history…</source>
         <translation>履歴を読み込んでいます…</translation>
     </message>
+    <message>
+        <source>GNOME did not switch the extension on. Look for Vellumry in the Extensions app.</source>
+        <translation>GNOME は拡張機能を有効にできませんでした。「拡張機能」アプリで Vellumry を探してください。</translation>
+    </message>
+    <message>
+        <source>Switch On</source>
+        <translation>有効にする</translation>
+    </message>
+    <message>
+        <source>The extension is on from your next login. Log out and in again to use it.</source>
+        <translation>拡張機能は次のログインから有効になります。使うには、ログアウトしてからもう一度ログインしてください。</translation>
+    </message>
+    <message>
+        <source>The extension is on. Vellumry starts again with it.</source>
+        <translation>拡張機能が有効になりました。Vellumry を再起動します。</translation>
+    </message>
+    <message>
+        <source>Vellumry's extension for GNOME is off</source>
+        <translation>GNOME 用の Vellumry 拡張機能が無効です</translation>
+    </message>
+    <message>
+        <source>With it, no copy is missed, shortcuts work everywhere and Vellumry pastes for you.</source>
+        <translation>有効にすると、コピーを逃さず、ショートカットがどこでも働き、Vellumry が代わりに貼り付けます。</translation>
+    </message>
 </context>
 </TS>

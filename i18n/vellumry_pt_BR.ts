@@ -2095,5 +2095,29 @@
         <source>Loading the history…</source>
         <translation>Carregando o histórico…</translation>
     </message>
+    <message>
+        <source>GNOME did not switch the extension on. Look for Vellumry in the Extensions app.</source>
+        <translation>O GNOME não ativou a extensão. Procure o Vellumry no aplicativo Extensões.</translation>
+    </message>
+    <message>
+        <source>Switch On</source>
+        <translation>Ativar</translation>
+    </message>
+    <message>
+        <source>The extension is on from your next login. Log out and in again to use it.</source>
+        <translation>A extensão estará ativa a partir da sua próxima sessão. Saia e entre de novo para usá-la.</translation>
+    </message>
+    <message>
+        <source>The extension is on. Vellumry starts again with it.</source>
+        <translation>A extensão está ativada. O Vellumry reinicia com ela.</translation>
+    </message>
+    <message>
+        <source>Vellumry's extension for GNOME is off</source>
+        <translation>A extensão do Vellumry para o GNOME está desativada</translation>
+    </message>
+    <message>
+        <source>With it, no copy is missed, shortcuts work everywhere and Vellumry pastes for you.</source>
+        <translation>Com ela, nenhuma cópia se perde, os atalhos funcionam em todo lugar e o Vellumry cola para você.</translation>
+    </message>
 </context>
 </TS>

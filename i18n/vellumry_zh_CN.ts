@@ -2055,5 +2055,29 @@
         <source>Loading the history…</source>
         <translation>正在载入历史记录…</translation>
     </message>
+    <message>
+        <source>GNOME did not switch the extension on. Look for Vellumry in the Extensions app.</source>
+        <translation>GNOME 未能启用该扩展。请在“扩展”应用中查找 Vellumry。</translation>
+    </message>
+    <message>
+        <source>Switch On</source>
+        <translation>启用</translation>
+    </message>
+    <message>
+        <source>The extension is on from your next login. Log out and in again to use it.</source>
+        <translation>扩展将在您下次登录后生效。请注销并重新登录以使用它。</translation>
+    </message>
+    <message>
+        <source>The extension is on. Vellumry starts again with it.</source>
+        <translation>扩展已启用。Vellumry 将随之重新启动。</translation>
+    </message>
+    <message>
+        <source>Vellumry's extension for GNOME is off</source>
+        <translation>Vellumry 的 GNOME 扩展已关闭</translation>
+    </message>
+    <message>
+        <source>With it, no copy is missed, shortcuts work everywhere and Vellumry pastes for you.</source>
+        <translation>启用后不会漏掉任何复制，快捷键处处可用，Vellumry 会为您粘贴。</translation>
+    </message>
 </context>
 </TS>

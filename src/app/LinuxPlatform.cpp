@@ -102,6 +102,7 @@ std::optional<Reason> addX11Display(Platform& platform, std::shared_ptr<XlibConn
     std::unique_ptr<X11Pasteboard> pasteboard = std::move(*created);
     connection = *opened;
     platform.isWaylandSession = isWaylandSession(*connection);
+    platform.extension = waylanddisplay::extension();
     const auto focus = std::make_shared<X11Focus>(connection);
     X11PasteTarget::Options options;
     options.offerAsPrimary = [board = pasteboard.get()] { return board->offerAsPrimary(); };

@@ -3,6 +3,7 @@
 #include "app/WaylandDisplay.h"
 
 #include "platform/desktop/Capability.h"
+#include "platform/desktop/DesktopExtension.h"
 
 namespace vellumry::waylanddisplay {
 
@@ -16,6 +17,10 @@ std::vector<Capability> capabilities() {
 
 std::optional<Reason> add(Platform&) {
     return Reason{QStringLiteral("this build has no Wayland part")};
+}
+
+std::unique_ptr<DesktopExtension> extension() {
+    return nullptr;
 }
 
 } // namespace vellumry::waylanddisplay

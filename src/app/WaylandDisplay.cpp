@@ -5,6 +5,7 @@
 #include "linux/accessibility/PasswordFocus.h"
 #include "linux/applications/DesktopEntries.h"
 #include "linux/applications/XdgInstalledApplications.h"
+#include "linux/gnome/ShellExtension.h"
 #include "linux/wayland/WaylandSurvey.h"
 #include "linux/wayland/keys/BoundElsewhere.h"
 #include "linux/wayland/keys/GlobalAccelHotKeys.h"
@@ -85,6 +86,15 @@ std::optional<Reason> add(Platform& platform) {
     platform.idleSeconds = [idle = std::make_shared<WaylandIdleTime>(connection)] { return idle->seconds(); };
     platform.panelSurface = std::make_unique<LayerPanelSurface>(focus);
     return std::nullopt;
+}
+
+std::unique_ptr<DesktopExtension> extension() {
+    const auto survey = WaylandSurvey::take();
+    if (!survey || survey->isEnough() || !gnomedisplay::isGnome())
+        return nullptr;
+    if (gnomedisplay::hasExtension() || !ShellExtension::isInstalled())
+        return nullptr;
+    return std::make_unique<ShellExtension>();
 }
 
 } // namespace vellumry::waylanddisplay

@@ -4,11 +4,13 @@
 #include "foundation/Reason.h"
 
 #include <QString>
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace vellumry {
 
+class DesktopExtension;
 struct Capability;
 struct Platform;
 
@@ -25,6 +27,9 @@ namespace waylanddisplay {
 
 /// The seams of the display for this session. Main thread, after the application object.
 [[nodiscard]] std::optional<Reason> add(Platform& platform);
+
+/// What the user could switch on for the program to work natively here; null without. After the application object.
+[[nodiscard]] std::unique_ptr<DesktopExtension> extension();
 
 } // namespace waylanddisplay
 

@@ -19,7 +19,10 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <optional>
 #include <thread>
+#include <unistd.h>
 
 using namespace vellumry;
 
@@ -89,6 +92,20 @@ int runProgram(int& argc, char** argv) {
     return status;
 }
 
+/// The program anew in this process, with the platform that the user chose and not what we chose for the first one.
+int startAgain(char** argv, const std::optional<QByteArray>& chosenPlatform) {
+    if (chosenPlatform)
+        qputenv("QT_QPA_PLATFORM", *chosenPlatform);
+    else
+        qunsetenv("QT_QPA_PLATFORM");
+    alarm(0); // the first one has ended in time
+    std::error_code unreadable;
+    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", unreadable);
+    execv(program.c_str(), argv);
+    qCCritical(logging::app) << "could not be started again";
+    return 1;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -114,5 +131,9 @@ int main(int argc, char** argv) {
     case Wish::run:
         break;
     }
-    return runProgram(argc, argv);
+    std::optional<QByteArray> chosenPlatform;
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        chosenPlatform = qgetenv("QT_QPA_PLATFORM");
+    const int status = runProgram(argc, argv);
+    return status == restartStatus ? startAgain(argv, chosenPlatform) : status;
 }

@@ -94,6 +94,32 @@ void OnboardingModel::takeOfferedShortcut() {
     Q_EMIT changed();
 }
 
+void OnboardingModel::switchOnExtension() {
+    if (!offersExtension())
+        return;
+    m_hooks.switchOnExtension([self = QPointer<OnboardingModel>(this)](DesktopExtension::Outcome outcome) {
+        if (!self)
+            return;
+        self->m_extension = outcome;
+        Q_EMIT self->changed();
+    });
+}
+
+QString OnboardingModel::extensionMessage() const {
+    using Outcome = DesktopExtension::Outcome;
+    if (!m_extension)
+        return {};
+    switch (*m_extension) {
+    case Outcome::on:
+        return localised("The extension is on. Vellumry starts again with it.");
+    case Outcome::atNextLogin:
+        return localised("The extension is on from your next login. Log out and in again to use it.");
+    case Outcome::refused:
+        break;
+    }
+    return localised("GNOME did not switch the extension on. Look for Vellumry in the Extensions app.");
+}
+
 void OnboardingModel::replay() {
     m_copied = false;
     m_panelOpened = false;

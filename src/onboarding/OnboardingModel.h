@@ -2,6 +2,7 @@
 #pragma once
 
 #include "capture/FileAccess.h"
+#include "platform/desktop/DesktopExtension.h"
 #include "platform/display/HotKeyRegistrar.h"
 
 #include <QCoroTask>
@@ -33,6 +34,8 @@ class OnboardingModel : public QObject {
     Q_PROPERTY(QString shortcutOffer READ shortcutOffer NOTIFY changed)
     Q_PROPERTY(bool isKeyringClosed READ isKeyringClosed NOTIFY changed)
     Q_PROPERTY(bool isWaylandSession READ isWaylandSession CONSTANT)
+    Q_PROPERTY(bool offersExtension READ offersExtension NOTIFY changed)
+    Q_PROPERTY(QString extensionMessage READ extensionMessage NOTIFY changed)
     Q_PROPERTY(QString bindingsFile READ bindingsFile CONSTANT)
     Q_PROPERTY(QString bindings READ bindings CONSTANT)
     Q_PROPERTY(QString sample READ sample CONSTANT)
@@ -59,6 +62,8 @@ public:
         /// The last step is over, with the user's choice.
         std::function<void(bool launchAtLogin)> finish = [](bool) {};
         bool isWaylandSession = false;
+        /// Switches on what lets more work in this session, and starts the program again; not set without such a part.
+        std::function<void(std::function<void(DesktopExtension::Outcome)> onAnswered)> switchOnExtension;
         /// Where no program can hold keys.
         OwnBindings ownBindings;
     };
@@ -84,6 +89,10 @@ public:
     [[nodiscard]] QString shortcutOffer() const { return m_hooks.shortcutOffer(); }
     [[nodiscard]] bool isKeyringClosed() const { return m_isKeyringClosed; }
     [[nodiscard]] bool isWaylandSession() const { return m_hooks.isWaylandSession; }
+    /// There is a part of the desktop to be switched on, and the user did not yet.
+    [[nodiscard]] bool offersExtension() const { return m_hooks.switchOnExtension && !m_extension; }
+    /// What became of switching it on; empty before.
+    [[nodiscard]] QString extensionMessage() const;
     /// The file that `bindings` go into; empty where the desktop has a window for them.
     [[nodiscard]] const QString& bindingsFile() const { return m_hooks.ownBindings.file; }
     /// The lines by which the user binds the program's keys; empty where the program holds them itself.
@@ -105,6 +114,7 @@ public:
     Q_INVOKABLE void copyBindings() { m_hooks.copy(bindings()); }
     Q_INVOKABLE void openPanel() { m_hooks.openPanel(); }
     Q_INVOKABLE void takeOfferedShortcut();
+    Q_INVOKABLE void switchOnExtension();
     Q_INVOKABLE void unlockKeyring() { m_hooks.unlockKeyring(); }
     Q_INVOKABLE void checkFiles() { runFileCheck(); }
     /// The try from its beginning.
@@ -127,6 +137,7 @@ private:
     bool m_launchAtLogin = true;
     bool m_isKeyringClosed = false;
     std::optional<FileAccess::Result> m_fileAccess;
+    std::optional<DesktopExtension::Outcome> m_extension;
     QTimer m_trustPoll; ///< while its step shows: the desktop does not notify of a permission
 };
 

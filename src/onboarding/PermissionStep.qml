@@ -78,6 +78,24 @@ FocusScope {
                 title: Views.words("This is a Wayland session: Vellumry sees what X11 apps copy, and what the desktop shares with them. Some copies may be missing")
             }
             FormRow {
+                visible: step.onboarding.offersExtension
+                symbol: "gearshape"
+                symbolColour: Theme.accent
+                title: Views.words("Vellumry's extension for GNOME is off")
+                help: Views.words("With it, no copy is missed, shortcuts work everywhere and Vellumry pastes for you.")
+
+                PushButton {
+                    text: Views.words("Switch On")
+                    help: Views.words("Vellumry's extension for GNOME is off")
+                    onPressed: step.onboarding.switchOnExtension()
+                }
+            }
+            FormRow {
+                visible: step.onboarding.extensionMessage !== ""
+                isNote: true
+                title: step.onboarding.extensionMessage
+            }
+            FormRow {
                 isNote: true
                 title: Views.words("Vellumry only presses ⌘V for you. It never reads your screen or what you type.")
             }

@@ -3,6 +3,7 @@
 #include "shell/AppEnvironment.h"
 
 #include "foundation/Localisation.h"
+#include "shell/Ending.h"
 
 namespace vellumry {
 
@@ -29,6 +30,16 @@ void AppEnvironment::makeOnboarding() {
     };
     hooks.ownBindings = m_platform->hotKeys->ownBindings();
     hooks.isWaylandSession = m_platform->isWaylandSession;
+    if (m_platform->extension) {
+        hooks.switchOnExtension = [this](std::function<void(DesktopExtension::Outcome)> onAnswered) {
+            m_platform->extension->switchOn([onAnswered = std::move(onAnswered)](DesktopExtension::Outcome outcome) {
+                onAnswered(outcome);
+                // The display is chosen at the start.
+                if (outcome == DesktopExtension::Outcome::on)
+                    restartProgram();
+            });
+        };
+    }
     m_onboardingModel = std::make_unique<OnboardingModel>(std::move(hooks));
     m_onboarding = std::make_unique<OnboardingWindowController>(*m_onboardingModel, *m_transfer, m_views);
     m_onboarding->onClose = [this] { onboardingClosed(); };

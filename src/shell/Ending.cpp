@@ -5,9 +5,21 @@
 
 namespace vellumry {
 
-void endProgram() {
+namespace {
+
+void endWith(int status) {
     QMetaObject::invokeMethod(
-        QCoreApplication::instance(), [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+        QCoreApplication::instance(), [status] { QCoreApplication::exit(status); }, Qt::QueuedConnection);
+}
+
+} // namespace
+
+void endProgram() {
+    endWith(0);
+}
+
+void restartProgram() {
+    endWith(restartStatus);
 }
 
 } // namespace vellumry

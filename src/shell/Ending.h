@@ -7,4 +7,10 @@ namespace vellumry {
 /// is open neither keeps the program nor counts as answered. Any thread.
 void endProgram();
 
+/// What the event loop ends with when the program is to start again.
+inline constexpr int restartStatus = 75;
+
+/// Ends the program in the same way, for it to start again in the same process. Any thread.
+void restartProgram();
+
 } // namespace vellumry

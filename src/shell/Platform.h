@@ -5,6 +5,7 @@
 #include "foundation/UserDefaults.h"
 #include "platform/desktop/Capability.h"
 #include "platform/desktop/DateTimer.h"
+#include "platform/desktop/DesktopExtension.h"
 #include "platform/desktop/DesktopLook.h"
 #include "platform/desktop/InstalledApplications.h"
 #include "platform/desktop/KeyStore.h"
@@ -84,6 +85,8 @@ struct Platform {
     bool isWaylandSession = false;
     /// What the time between two rounds of maintenance is waited with.
     std::unique_ptr<Alarm> maintenance = std::make_unique<TimerAlarm>(Qt::VeryCoarseTimer);
+    /// What could be switched on for more to work in this session; null without.
+    std::unique_ptr<DesktopExtension> extension;
     /// What time it is.
     Clock clock = currentDate;
     /// Whether there is room for pictures where this folder lies.

@@ -36,6 +36,35 @@ TEST_F(OnboardingModelTest, GoesThroughItsFourStepsAndThenEnds) {
     EXPECT_EQ(model.step(), Step::done);
 }
 
+TEST_F(OnboardingModelTest, WithoutAPartOfTheDesktopNothingIsOffered) {
+    OnboardingModel model(hooks());
+    EXPECT_FALSE(model.offersExtension());
+    model.switchOnExtension();
+    EXPECT_TRUE(model.extensionMessage().isEmpty());
+}
+
+TEST_F(OnboardingModelTest, WhatBecameOfThePartOfTheDesktopIsSaid) {
+    using Outcome = DesktopExtension::Outcome;
+    QStringList said;
+    for (const Outcome outcome : {Outcome::on, Outcome::atNextLogin, Outcome::refused}) {
+        std::function<void(Outcome)> answer;
+        OnboardingModel::Hooks wired = hooks();
+        wired.switchOnExtension = [&answer](std::function<void(Outcome)> onAnswered) { answer = std::move(onAnswered); };
+        OnboardingModel model(std::move(wired));
+        EXPECT_TRUE(model.offersExtension());
+        model.switchOnExtension();
+        EXPECT_TRUE(model.offersExtension()) << "before the desktop has answered";
+        int changes = 0;
+        QObject::connect(&model, &OnboardingModel::changed, &model, [&changes] { ++changes; });
+        answer(outcome);
+        EXPECT_EQ(changes, 1);
+        EXPECT_FALSE(model.offersExtension());
+        said.append(model.extensionMessage());
+    }
+    EXPECT_EQ(said.removeDuplicates(), 0);
+    EXPECT_FALSE(said.contains(QString()));
+}
+
 TEST_F(OnboardingModelTest, TheChoiceOfTheLastStepIsHandedOn) {
     OnboardingModel model(hooks());
     model.setLaunchAtLogin(false);

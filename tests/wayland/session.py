@@ -168,6 +168,18 @@ def stays(condition, what, seconds=1.5):
         time.sleep(0.02)
 
 
+def press_button(name):
+    node = wait_until(lambda: desktop.accessible("vellumry", "push button", name) or desktop.accessible("vellumry", "button", name),
+                      f"the button {name!r}")
+    node.queryAction().doAction(0)
+
+
+def forgo_settings():
+    """The next start is a first one."""
+    if os.path.exists(desktop.SETTINGS):
+        os.remove(desktop.SETTINGS)
+
+
 def shown_query():
     return desktop.text_shown("vellumry", "text")
 

@@ -8,7 +8,8 @@ import sys
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
-from session import (HINT, PROGRAM, Window, copy, offered, open_panel, pasted, press, settle, told, type_text)  # noqa: E402
+from session import (HINT, PROGRAM, Window, copy, forgo_settings, offered, open_panel, pasted, picture, press, press_button, settle, told,  # noqa: E402
+                     type_text)  # noqa: E402
 
 import desktop  # noqa: E402
 from desktop import Vellumry, run, text_of, wait_for_clip, wait_until  # noqa: E402
@@ -107,6 +108,27 @@ def test_nobody_else_is_answered():
         with Vellumry():
             refused()
         assert window.text == "", "a key was pressed"
+
+
+def test_first_run_switches_it_on():
+    """The first run offers the extension that is switched off; the program starts again with it, in the same process."""
+    switch_off()
+    forgo_settings()
+    try:
+        with Vellumry(greeted=False) as program:
+            assert "found: GNOME extension" not in told(PROGRAM, "--status").decode()
+            press_button("^Get Started$")
+            wait_until(lambda: desktop.accessible("vellumry", "button", "^Switch On$") or
+                       desktop.accessible("vellumry", "push button", "^Switch On$"), "the offer")
+            picture("first-run-extension")
+            press_button("^Switch On$")
+            wait_until(is_there, "the extension")
+            wait_until(lambda: "found: GNOME extension" in told(PROGRAM, "--status").decode(), "the program with the extension")
+            assert program.alive()
+            copy("seen by the extension")
+            wait_for_clip(lambda row: text_of(row) == "seen by the extension", "the copy in the history")
+    finally:
+        switch_on()
 
 
 def test_status():

@@ -3,12 +3,14 @@
 scripts/wayland-session gnome-plain."""
 
 import os
+import shutil
 import subprocess
 import sys
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
-from session import PROGRAM, Window, copy, picture, press, search_field_has_focus, shown_query, told, type_text  # noqa: E402
+from session import (HERE, PROGRAM, Window, copy, forgo_settings, picture, press, press_button, search_field_has_focus,  # noqa: E402
+                     shown_query, told, type_text)
 
 import desktop  # noqa: E402
 from desktop import Vellumry, run, text_of, wait_for_clip, wait_until  # noqa: E402
@@ -70,6 +72,23 @@ def test_wayland_copies():
     with Vellumry(), Window(env=X11):
         copy("of a Wayland program")
         wait_for_clip(lambda row: text_of(row) == "of a Wayland program", "the copy in the history")
+
+
+def test_first_run_enters_the_extension():
+    """An extension that was installed after the login is offered, and entered for the next one."""
+    folder = os.path.expanduser("~/.local/share/gnome-shell/extensions/clipboard@vellumry.com")
+    shutil.copytree(os.path.join(HERE, "../../packaging/gnome-shell/clipboard@vellumry.com"), folder)
+    forgo_settings()
+    try:
+        with Vellumry(greeted=False):
+            press_button("^Get Started$")
+            press_button("^Switch On$")
+            wait_until(lambda: desktop.accessible("vellumry", "label", "^The extension is on from your next login"), "the answer")
+            picture("first-run-extension")
+        assert told("gsettings", "get", "org.gnome.shell", "enabled-extensions").decode().strip() == "['clipboard@vellumry.com']"
+    finally:
+        told("gsettings", "reset", "org.gnome.shell", "enabled-extensions")
+        shutil.rmtree(folder)
 
 
 desktop.main(desktop.own_tests())

@@ -328,7 +328,7 @@ def test_bindings_are_told():
     status = subprocess.run([PROGRAM, "--status"], stdout=subprocess.PIPE, timeout=desktop.LIMIT, check=False).stdout.decode()
     command = "dbus-send --type=method_call --dest=com.vellumry.Vellumry /com/vellumry/Vellumry " \
               "com.vellumry.Vellumry.Actions.Perform string:open-panel"
-    lines = {"sway": f"bindsym Ctrl+Mod4+v exec {command}\n",
+    lines = {"sway": f"bindsym Ctrl+Mod4+v exec {command}",
              "labwc": f'<keybind key="C-W-v"><action name="Execute" command="{command}"/></keybind>',
              "kwin": "KGlobalAccel", "gnome": "held by the extension"}
     if SESSION in lines:
