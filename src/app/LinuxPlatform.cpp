@@ -47,6 +47,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QStandardPaths>
 #include <QTimer>
 #include <algorithm>
@@ -136,6 +137,17 @@ std::optional<Reason> addX11Display(Platform& platform, std::shared_ptr<XlibConn
     return std::nullopt;
 }
 
+std::unique_ptr<Opener> openerIn(const QProcessEnvironment& environment) {
+    return std::make_unique<DesktopOpener>(
+        QDBusConnection::sessionBus(), [environment](const QString& program, const QStringList& arguments) {
+            QProcess process;
+            process.setProgram(program);
+            process.setArguments(arguments);
+            process.setProcessEnvironment(environment);
+            return process.startDetached();
+        });
+}
+
 /// Only an AppImage of the user's own replaces itself: everything else belongs to a package manager.
 void addUpdater(Platform& platform) {
 #ifndef NDEBUG
@@ -165,7 +177,7 @@ QString readerPath() {
     return QFile::exists(installed) ? QDir::cleanPath(installed) : here + QStringLiteral("/vellumry-reader");
 }
 
-OrReason<Platform> makeLinuxPlatform(DisplayKind display) {
+OrReason<Platform> makeLinuxPlatform(DisplayKind display, const QProcessEnvironment& given) {
     Platform platform;
     platform.home = QDir::homePath();
     platform.dataHome = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
@@ -178,7 +190,7 @@ OrReason<Platform> makeLinuxPlatform(DisplayKind display) {
         return std::unexpected(std::move(*problem));
     platform.singleInstance = std::make_unique<DBusSingleInstance>();
     platform.sounds = std::make_unique<ThemeSounds>();
-    platform.opener = std::make_unique<DesktopOpener>();
+    platform.opener = openerIn(given);
     if (!platform.statusItem)
         platform.statusItem = sessionTray(nullptr);
     platform.keyStore = std::make_unique<KeychainKeyStore>();

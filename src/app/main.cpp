@@ -3,6 +3,7 @@
 #include "app/Errands.h"
 #include "app/LinuxPlatform.h"
 #include "app/ReadyNotice.h"
+#include "app/RendererNotices.h"
 #include "app/WaylandDisplay.h"
 #include "foundation/Localisation.h"
 #include "foundation/Logging.h"
@@ -16,6 +17,7 @@
 #include <QClipboard>
 #include <QDBusConnection>
 #include <QGuiApplication>
+#include <QProcessEnvironment>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -41,6 +43,9 @@ DisplayKind chooseQtDefaults() {
     if (waylanddisplay::isWanted()) {
         // The second where Qt's plugin for the first is not installed.
         setenv("QT_QPA_PLATFORM", "wayland;xcb", 1);
+        // Plasma's theme asks for GL, which nothing here draws with: 19 MB of a compiler for shaders.
+        if (qgetenv("QT_QUICK_BACKEND") == "software")
+            setenv("QT_WAYLAND_CLIENT_BUFFER_INTEGRATION", "none", 0);
         // Our surfaces do have places: Qt is to remember them.
         setenv("QT_WAYLAND_DISABLE_FIXED_POSITIONS", "1", 1);
         return DisplayKind::wayland;
@@ -61,6 +66,7 @@ void keepTextFieldsOffTheClipboard() {
 
 /// The program as the session's running copy.
 int runProgram(int& argc, char** argv) {
+    const QProcessEnvironment given = QProcessEnvironment::systemEnvironment();
     DisplayKind display = chooseQtDefaults();
     // Qt would abort without a word that a user sees.
     if (display == DisplayKind::x11 && !XlibConnection::canOpenDisplay())
@@ -76,7 +82,7 @@ int runProgram(int& argc, char** argv) {
     if (!QGuiApplication::platformName().startsWith(u"wayland"))
         display = DisplayKind::x11;
 
-    auto platform = makeLinuxPlatform(display);
+    auto platform = makeLinuxPlatform(display, given);
     if (!platform) {
         qCCritical(logging::app).noquote() << "cannot work on this display:" << platform.error().text;
         return 1;
@@ -117,6 +123,7 @@ int main(int argc, char** argv) {
     using Wish = CommandLine::Wish;
     const CommandLine commandLine = CommandLine::read(argc, argv);
     logging::start(commandLine.isVerbose ? logging::Detail::all : logging::Detail::warnings);
+    leaveOutRendererNotices();
     switch (commandLine.wish) {
     case Wish::say:
         std::fputs(qUtf8Printable(commandLine.text), stdout);

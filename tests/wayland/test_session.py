@@ -323,6 +323,14 @@ def test_log():
         same(canary in line, False, line)
 
 
+def test_start_is_quiet():
+    """The log of a start holds no notice of Qt's: what it says about renderers is our own choice."""
+    with Vellumry(stderr=subprocess.PIPE) as program:
+        program.stop()
+        log = program.handle.stderr.read().decode()
+    assert not [line for line in log.split("\n") if line and " vellumry." not in line], log
+
+
 def test_bindings_are_told():
     """Where no program can hold keys, the status tells the lines that bind them, as this session's compositor understood them."""
     status = subprocess.run([PROGRAM, "--status"], stdout=subprocess.PIPE, timeout=desktop.LIMIT, check=False).stdout.decode()
