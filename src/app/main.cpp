@@ -22,9 +22,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <optional>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 using namespace vellumry;
 
@@ -64,9 +64,8 @@ void keepTextFieldsOffTheClipboard() {
     QGuiApplication::clipboard()->blockSignals(true);
 }
 
-/// The program as the session's running copy.
-int runProgram(int& argc, char** argv) {
-    const QProcessEnvironment given = QProcessEnvironment::systemEnvironment();
+/// The program as the session's running copy; `given` is the environment that it was started with.
+int runProgram(int& argc, char** argv, const QProcessEnvironment& given) {
     DisplayKind display = chooseQtDefaults();
     // Qt would abort without a word that a user sees.
     if (display == DisplayKind::x11 && !XlibConnection::canOpenDisplay())
@@ -98,16 +97,19 @@ int runProgram(int& argc, char** argv) {
     return status;
 }
 
-/// The program anew in this process, with the platform that the user chose and not what we chose for the first one.
-int startAgain(char** argv, const std::optional<QByteArray>& chosenPlatform) {
-    if (chosenPlatform)
-        qputenv("QT_QPA_PLATFORM", *chosenPlatform);
-    else
-        qunsetenv("QT_QPA_PLATFORM");
+/// The program anew in this process, without what we chose for the first one.
+int startAgain(char** argv, const QProcessEnvironment& given) {
+    QByteArrayList variables;
+    for (const QString& variable : given.toStringList())
+        variables.append(variable.toLocal8Bit());
+    std::vector<char*> environment;
+    for (QByteArray& variable : variables)
+        environment.push_back(variable.data());
+    environment.push_back(nullptr);
     alarm(0); // the first one has ended in time
     std::error_code unreadable;
     const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", unreadable);
-    execv(program.c_str(), argv);
+    execve(program.c_str(), argv, environment.data());
     qCCritical(logging::app) << "could not be started again";
     return 1;
 }
@@ -138,9 +140,7 @@ int main(int argc, char** argv) {
     case Wish::run:
         break;
     }
-    std::optional<QByteArray> chosenPlatform;
-    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        chosenPlatform = qgetenv("QT_QPA_PLATFORM");
-    const int status = runProgram(argc, argv);
-    return status == restartStatus ? startAgain(argv, chosenPlatform) : status;
+    const QProcessEnvironment given = QProcessEnvironment::systemEnvironment();
+    const int status = runProgram(argc, argv, given);
+    return status == restartStatus ? startAgain(argv, given) : status;
 }
