@@ -138,14 +138,14 @@ std::optional<Reason> addX11Display(Platform& platform, std::shared_ptr<XlibConn
 }
 
 std::unique_ptr<Opener> openerIn(const QProcessEnvironment& environment) {
-    return std::make_unique<DesktopOpener>(
-        QDBusConnection::sessionBus(), [environment](const QString& program, const QStringList& arguments) {
-            QProcess process;
-            process.setProgram(program);
-            process.setArguments(arguments);
-            process.setProcessEnvironment(environment);
-            return process.startDetached();
-        });
+    return std::make_unique<DesktopOpener>(QDBusConnection::sessionBus(),
+                                           [environment](const QString& program, const QStringList& arguments) {
+                                               QProcess process;
+                                               process.setProgram(program);
+                                               process.setArguments(arguments);
+                                               process.setProcessEnvironment(environment);
+                                               return process.startDetached();
+                                           });
 }
 
 /// Only an AppImage of the user's own replaces itself: everything else belongs to a package manager.

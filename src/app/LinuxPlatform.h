@@ -12,8 +12,8 @@ namespace vellumry {
 enum class DisplayKind : quint8 { x11, wayland };
 
 /// The implementations for this session. Fails when the display lacks what the program cannot do without. Main thread,
-/// after the application object. Programs that are started for the user get the environment `given`: what we chose for our
-/// own windows is not for theirs.
+/// after the application object. Programs that are started for the user get the environment `given`: what we chose for
+/// our own windows is not for theirs.
 [[nodiscard]] OrReason<Platform> makeLinuxPlatform(DisplayKind display, const QProcessEnvironment& given);
 
 /// Where the program that opens pictures stands: beside this one.

@@ -64,7 +64,10 @@ std::expected<std::unique_ptr<ExportFolder>, Failure> ExportFolder::create(const
     if (descriptor < 0)
         return std::unexpected(failureOf(errno));
     folder->m_written.append(unfinishedIndex);
-    folder->m_index.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
+    if (!folder->m_index.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
+        ::close(descriptor);
+        return std::unexpected(Failure::refused);
+    }
     const QByteArray head = "{\"vellumryExport\": " + QByteArray::number(exportformat::version) + ",\n \"clips\": [";
     if (auto begun = folder->append(head); !begun)
         return std::unexpected(begun.error());

@@ -49,7 +49,9 @@ TEST_F(OnboardingModelTest, WhatBecameOfThePartOfTheDesktopIsSaid) {
     for (const Outcome outcome : {Outcome::on, Outcome::atNextLogin, Outcome::refused}) {
         std::function<void(Outcome)> answer;
         OnboardingModel::Hooks wired = hooks();
-        wired.switchOnExtension = [&answer](std::function<void(Outcome)> onAnswered) { answer = std::move(onAnswered); };
+        wired.switchOnExtension = [&answer](std::function<void(Outcome)> onAnswered) {
+            answer = std::move(onAnswered);
+        };
         OnboardingModel model(std::move(wired));
         EXPECT_TRUE(model.offersExtension());
         model.switchOnExtension();

@@ -59,17 +59,17 @@ ShellExtension::ShellExtension(QDBusConnection bus)
 ShellExtension::~ShellExtension() = default;
 
 bool ShellExtension::isInstalled() {
-    return !QStandardPaths::locate(QStandardPaths::GenericDataLocation,
-                                   QStringLiteral("gnome-shell/extensions/%1/metadata.json")
-                                       .arg(QString::fromLatin1(shell::extension)))
+    return !QStandardPaths::locate(
+                QStandardPaths::GenericDataLocation,
+                QStringLiteral("gnome-shell/extensions/%1/metadata.json").arg(QString::fromLatin1(shell::extension)))
                 .isEmpty();
 }
 
 void ShellExtension::switchOn(std::function<void(Outcome)> onAnswered) {
     m_onAnswered = std::move(onAnswered);
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.gnome.Shell"), QStringLiteral("/org/gnome/Shell"),
-        QStringLiteral("org.gnome.Shell.Extensions"), QStringLiteral("EnableExtension"));
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(QStringLiteral("org.gnome.Shell"), QStringLiteral("/org/gnome/Shell"),
+                                       QStringLiteral("org.gnome.Shell.Extensions"), QStringLiteral("EnableExtension"));
     call.setArguments({QString::fromLatin1(shell::extension)});
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call, shellMilliseconds), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* finished) {

@@ -24,8 +24,8 @@ public Q_SLOTS:
     void Perform(const QString& name);
 };
 
-/// The command line that asks the running program for an action: by `dbus-send` where it is installed, which starts in a
-/// twentieth of the time that the program's own libraries take to load.
+/// The command line that asks the running program for an action: by `dbus-send` where it is installed, which starts in
+/// a twentieth of the time that the program's own libraries take to load.
 [[nodiscard]] QString actionCommand(const QString& action);
 
 } // namespace vellumry

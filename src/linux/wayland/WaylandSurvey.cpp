@@ -50,8 +50,7 @@ OwnBindings ownBindingsOfSession() {
     // Configurations name the keys by their lower-case letters, windows of settings show what is on the caps.
     const auto line = [&](const char* key, const char* action) {
         const QString name = QLatin1String(key);
-        return pattern.arg(bindings.file.isEmpty() ? name.toUpper() : name,
-                           actionCommand(QLatin1String(action)));
+        return pattern.arg(bindings.file.isEmpty() ? name.toUpper() : name, actionCommand(QLatin1String(action)));
     };
     bindings.lines = {line("v", "open-panel"), line("s", "toggle-stack")};
     return bindings;
