@@ -3,6 +3,8 @@
 #include "reader/ReaderService.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <fcntl.h>
 #ifdef __GLIBC__
 #include <malloc.h>
@@ -30,6 +32,13 @@ void giveLargeBlocksBack() {
 #endif
 }
 
+/// An AppImage has plugins for HEIF of its own, or none: those of the system are made for the system's library.
+void takeOwnPlugins() {
+    const QString own = QCoreApplication::applicationDirPath() + QStringLiteral("/../../lib/vellumry/heif");
+    if (QFileInfo(own).isDir())
+        qputenv("LIBHEIF_PLUGIN_PATH", QFile::encodeName(QDir::cleanPath(own)));
+}
+
 } // namespace
 
 /// `vellumry-reader`: opens pictures; a copy is not kept before its thumbnail is made, so it is as urgent as any
@@ -41,6 +50,7 @@ int main(int argc, char** argv) {
     readersandbox::enter(readsText ? Urgency::background : Urgency::awaited);
     // Tells Qt where its decoders are; there is no event loop.
     const QCoreApplication application(argc, argv);
+    takeOwnPlugins();
     std::unique_ptr<PictureReader> pictureReader;
     std::string languages;
     if (readsText) {
