@@ -31,13 +31,18 @@ def settle(tool):
 
 def fill(tool, owner):
     tool.fill(owner, CLIPS)
-    before = tool.count()
+
+    def put(copy, *content):
+        """One after the other: a copy that is overtaken is none."""
+        before = tool.count()
+        copy(*content)
+        wait_until(lambda: tool.count() > before, "the copy")
+
     for number in range(PICTURES):
-        copy_bytes(run("convert", "-size", "1920x1080", f"gradient:#{number * 7919 % 0xFFF:03x}-#{number * 104729 % 0xFFF:03x}", "png:-", timeout=60), "image/png")
-        copy_text(f"https://example.org/page/{number}")
-        copy_text(f"line of a longer text {number}\n" * 2_000)
-        wait_until(lambda: tool.count() >= before + 3 * number + 1, "the copies")
-        time.sleep(0.3)
+        colours = f"gradient:#{number * 7919 % 0xFFF:03x}-#{number * 104729 % 0xFFF:03x}"
+        put(copy_bytes, run("convert", "-size", "1920x1080", colours, "png:-", timeout=60), "image/png")
+        put(copy_text, f"https://example.org/page/{number}")
+        put(copy_text, f"line of a longer text {number}\n" * 2_000)
 
 
 def main():
