@@ -2,7 +2,7 @@
 #include "app/RendererNotices.h"
 
 #include <QString>
-#include <QtLogging>
+#include <QtGlobal>
 #include <algorithm>
 #include <array>
 
