@@ -12,7 +12,7 @@ import time
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, HERE)
 
-from side_by_side import Owner, changed_after, press_shortcut, print_rows, time_to_watching  # noqa: E402
+from side_by_side import SHORT, Owner, changed_after, press_shortcut, print_rows, time_to_watching  # noqa: E402
 
 from Xlib import X, display  # noqa: E402
 from Xlib.ext import xtest  # noqa: E402
@@ -23,8 +23,8 @@ from peers import Ours, fill_history, texts  # noqa: E402
 from desktop import DATA, key  # noqa: E402
 
 LONG = int(os.environ.get("VELLUMRY_BENCH_LONG", "100000"))
-STARTS = 7
-SEARCHES = 3
+STARTS = 4 if SHORT else 7
+SEARCHES = 2 if SHORT else 3
 LIST = (420, 330, 300, 400)  # rows of the panel, without the field that one types into
 PANEL = (760, 300, 60, 60)
 LETTERS = "qxz"
