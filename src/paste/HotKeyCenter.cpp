@@ -21,7 +21,13 @@ bool HotKeyCenter::hasKeys() const {
 }
 
 std::optional<quint32> HotKeyCenter::registerShortcut(const Shortcut& shortcut, Action action) {
+    return registerShortcut(shortcut, std::move(action), {});
+}
+
+std::optional<quint32> HotKeyCenter::registerShortcut(const Shortcut& shortcut, Action action,
+                                                      const HotKeyPurpose& purpose) {
     const auto id = m_nextID++;
+    m_registrar.announce(id, purpose);
     if (!m_registrar.grab(id, shortcut.keyCode, shortcut.modifiers))
         return std::nullopt;
     m_actions.insert(id, std::move(action));

@@ -10,6 +10,7 @@
 namespace vellumry {
 
 class HotKeyRegistrar;
+struct HotKeyPurpose;
 
 /// Joins global key combinations with what they do. Takes the registrar's `onPressed` for itself; gives all keys back
 /// when it goes. Main thread.
@@ -28,6 +29,9 @@ public:
     /// The id of the registration; nothing when the combination is taken. An id is never used twice in a run, that of a
     /// failed registration included, so that a late key press cannot reach a newer action.
     [[nodiscard]] std::optional<quint32> registerShortcut(const Shortcut& shortcut, Action action);
+    /// The same, for a key that the desktop may show the user.
+    [[nodiscard]] std::optional<quint32> registerShortcut(const Shortcut& shortcut, Action action,
+                                                          const HotKeyPurpose& purpose);
     /// An unknown id does nothing.
     void unregister(quint32 id);
 

@@ -5,6 +5,7 @@
 #include "foundation/Logging.h"
 #include "foundation/UserDefaults.h"
 #include "paste/HotKeyCenter.h"
+#include "platform/display/HotKeyRegistrar.h"
 
 #include <utility>
 
@@ -24,8 +25,10 @@ ShortcutRegistrations::~ShortcutRegistrations() {
 QStringList ShortcutRegistrations::reload() {
     suspend();
     QStringList problems;
-    addChosen(QStringLiteral("openPanelShortcut"), Shortcut::openPanelDefault(), m_actions.togglePanel, problems);
-    addChosen(QStringLiteral("pasteStackShortcut"), Shortcut::pasteStackDefault(), m_actions.toggleStack, problems);
+    addChosen(QStringLiteral("openPanelShortcut"), Shortcut::openPanelDefault(), m_actions.togglePanel,
+              HotKeyPurpose{QStringLiteral("open-panel"), localised("Open Vellumry")}, problems);
+    addChosen(QStringLiteral("pasteStackShortcut"), Shortcut::pasteStackDefault(), m_actions.toggleStack,
+              HotKeyPurpose{QStringLiteral("toggle-stack"), localised("Start / stop Paste Stack")}, problems);
     if (m_actions.pastePinned && m_preferences.boolean(QStringLiteral("pinnedShortcutsEnabled")))
         addPinned();
     return problems;
@@ -59,7 +62,7 @@ std::optional<ShortcutRegistrations::Offer> ShortcutRegistrations::offer() {
 }
 
 void ShortcutRegistrations::addChosen(const QString& key, const Shortcut& standard, const std::function<void()>& action,
-                                      QStringList& problems) {
+                                      const HotKeyPurpose& purpose, QStringList& problems) {
     if (!action)
         return;
     const QVariant stored = m_preferences.object(key);
@@ -68,7 +71,7 @@ void ShortcutRegistrations::addChosen(const QString& key, const Shortcut& standa
         m_preferences.refuse(key);
     const Shortcut shortcut = chosen.value_or(standard);
     // Where keys cannot be held, none is taken.
-    if (!m_center.hasKeys() || add(shortcut, action))
+    if (!m_center.hasKeys() || add(shortcut, action, purpose))
         return;
     qCWarning(logging::paste).noquote() << "the shortcut of" << key << "is held by another program or has no key";
     m_takenKeys.append(key);
@@ -76,8 +79,8 @@ void ShortcutRegistrations::addChosen(const QString& key, const Shortcut& standa
         localised("%1 is already used by another app. Pick another shortcut.").arg(shortcut.display(m_layout)));
 }
 
-bool ShortcutRegistrations::add(const Shortcut& shortcut, std::function<void()> action) {
-    const auto id = m_center.registerShortcut(shortcut, std::move(action));
+bool ShortcutRegistrations::add(const Shortcut& shortcut, std::function<void()> action, const HotKeyPurpose& purpose) {
+    const auto id = m_center.registerShortcut(shortcut, std::move(action), purpose);
     if (id)
         m_hotKeyIDs.push_back(*id);
     return id.has_value();
@@ -85,7 +88,9 @@ bool ShortcutRegistrations::add(const Shortcut& shortcut, std::function<void()> 
 
 void ShortcutRegistrations::addPinned() {
     for (int number = 1; number <= 9; ++number) {
-        if (add(Shortcut::pinned(number), [paste = m_actions.pastePinned, number] { paste(number); }))
+        const HotKeyPurpose purpose{QStringLiteral("paste-pin-%1").arg(number),
+                                    localised("Pinned clip") + u' ' + QString::number(number)};
+        if (add(Shortcut::pinned(number), [paste = m_actions.pastePinned, number] { paste(number); }, purpose))
             m_pinnedNumbers.insert(number);
     }
 }

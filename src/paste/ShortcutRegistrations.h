@@ -12,6 +12,7 @@
 namespace vellumry {
 
 class HotKeyCenter;
+struct HotKeyPurpose;
 class UserDefaults;
 
 /// The program's global shortcuts as the settings have them: the panel's, the Paste Stack's, and those of the pinned
@@ -54,9 +55,9 @@ public:
     [[nodiscard]] const std::vector<quint32>& hotKeyIDs() const { return m_hotKeyIDs; }
 
 private:
-    [[nodiscard]] bool add(const Shortcut& shortcut, std::function<void()> action);
+    [[nodiscard]] bool add(const Shortcut& shortcut, std::function<void()> action, const HotKeyPurpose& purpose);
     void addChosen(const QString& key, const Shortcut& standard, const std::function<void()>& action,
-                   QStringList& problems);
+                   const HotKeyPurpose& purpose, QStringList& problems);
     void addPinned();
 
     const UserDefaults& m_preferences;

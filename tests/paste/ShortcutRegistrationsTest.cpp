@@ -45,6 +45,20 @@ TEST(ShortcutRegistrations, RegistersThePanelTheStackAndTheNinePins) {
     EXPECT_EQ(keys.called, (QStringList{QStringLiteral("panel"), QStringLiteral("stack"), QStringLiteral("3")}));
 }
 
+TEST(ShortcutRegistrations, SaysWhatEachKeyIsForInNamesThatLast) {
+    Keys keys;
+    keys.registrations.reload();
+    keys.registrations.reload();
+    QStringList names;
+    for (const quint32 id : keys.registrations.hotKeyIDs()) {
+        names.append(keys.registrar.purposes[id].name);
+        EXPECT_FALSE(keys.registrar.purposes[id].description.isEmpty());
+    }
+    EXPECT_EQ(names.mid(0, 3), (QStringList{QStringLiteral("open-panel"), QStringLiteral("toggle-stack"),
+                                            QStringLiteral("paste-pin-1")}));
+    EXPECT_EQ(QSet(names.begin(), names.end()).size(), 11);
+}
+
 TEST(ShortcutRegistrations, UsesTheChosenKeysAndTheDefaultsForWhatIsNone) {
     Keys keys;
     keys.preferences.setObject(QStringLiteral("openPanelShortcut"),

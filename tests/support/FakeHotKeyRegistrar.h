@@ -17,10 +17,11 @@ class FakeHotKeyRegistrar : public HotKeyRegistrar {
 public:
     using Combination = std::pair<KeyCode, Modifiers>;
 
-    std::set<Combination> taken;            ///< `grab` refuses these
-    std::map<quint32, Combination> grabbed; ///< by id, what is held now
-    bool anyKeys = true;                    ///< false: no program can hold keys
-    std::vector<quint32> askedIDs;          ///< of each `grab`, refused ones included
+    std::set<Combination> taken;               ///< `grab` refuses these
+    std::map<quint32, Combination> grabbed;    ///< by id, what is held now
+    bool anyKeys = true;                       ///< false: no program can hold keys
+    std::vector<quint32> askedIDs;             ///< of each `grab`, refused ones included
+    std::map<quint32, HotKeyPurpose> purposes; ///< by id, as they were announced
 
     [[nodiscard]] bool hasKeys() const override { return anyKeys; }
     [[nodiscard]] bool grab(quint32 id, KeyCode keyCode, Modifiers modifiers) override {
@@ -31,6 +32,7 @@ public:
         grabbed.emplace(id, combination);
         return true;
     }
+    void announce(quint32 id, const HotKeyPurpose& purpose) override { purposes[id] = purpose; }
     void release(quint32 id) override { grabbed.erase(id); }
 
     [[nodiscard]] bool holds(const Combination& combination) const {

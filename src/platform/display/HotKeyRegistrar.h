@@ -17,6 +17,12 @@ struct OwnBindings {
     QStringList lines;
 };
 
+/// What a key is for, where the desktop shows the user the keys of programs. A value.
+struct HotKeyPurpose {
+    QString name;        ///< the same in every run; letters, digits and hyphens
+    QString description; ///< for the user
+};
+
 /// Keys that reach the program whatever application is in front. Main thread.
 class HotKeyRegistrar {
 public:
@@ -25,7 +31,13 @@ public:
     [[nodiscard]] virtual bool hasKeys() const { return true; }
     /// How the user does that; nothing where `hasKeys`.
     [[nodiscard]] virtual OwnBindings ownBindings() const { return {}; }
-    /// False when another program holds the combination, or the platform has no global keys.
+    /// What the key that is grabbed next with this id is for.
+    virtual void announce(quint32 id, const HotKeyPurpose& purpose) {
+        Q_UNUSED(id)
+        Q_UNUSED(purpose)
+    }
+    /// False when another program holds the combination, or the platform has no global keys. A platform that asks the
+    /// user first answers true.
     [[nodiscard]] virtual bool grab(quint32 id, KeyCode keyCode, Modifiers modifiers) = 0;
     virtual void release(quint32 id) = 0;
     /// Called on the main thread when a grabbed combination is pressed; key repeats are left out.
