@@ -3,6 +3,7 @@
 
 #include "app/Capabilities.h"
 #include "app/LinuxPlatform.h"
+#include "app/PortalRoads.h"
 #include "app/WaylandDisplay.h"
 #include "foundation/Localisation.h"
 #include "linux/process/DBusSingleInstance.h"
@@ -59,6 +60,8 @@ QString statusFromOutside(NoStatus why) {
         for (Capability& capability : capabilities::ofDisplay(XlibConnection::create()))
             report.capabilities.push_back(std::move(capability));
     }
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        PortalRoads::complete(report.capabilities);
     for (Capability& capability : capabilities::ofSession(readerPath()))
         report.capabilities.push_back(std::move(capability));
     report.bytesOnDisk = bytesOnDisk();

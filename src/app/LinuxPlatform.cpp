@@ -2,6 +2,7 @@
 #include "app/LinuxPlatform.h"
 
 #include "app/Capabilities.h"
+#include "app/PortalRoads.h"
 #include "app/WaylandDisplay.h"
 #include "foundation/Logging.h"
 #include "linux/accessibility/ActiveDescendant.h"
@@ -14,6 +15,7 @@
 #include "linux/keyring/KeychainKeyStore.h"
 #include "linux/look/LinuxDesktopLook.h"
 #include "linux/peers/LinuxPeerHistories.h"
+#include "linux/portal/PortalBus.h"
 #include "linux/process/AppImage.h"
 #include "linux/process/DBusSingleInstance.h"
 #include "linux/process/MemoryReturn.h"
@@ -57,6 +59,9 @@ namespace vellumry {
 
 namespace {
 
+/// A portal that runs answers within a millisecond; the start does not wait for one that hangs.
+constexpr std::chrono::milliseconds portalTime{300};
+
 QImage trayMark(const QSize& size) {
     return symbolImage(QStringLiteral("Logo"), QColor::fromRgb(TrayPictures::colour), size);
 }
@@ -78,7 +83,7 @@ private:
 
 /// `connection` is that of an X11 session, null in another one, where the display's scale does not hold that of texts.
 void addLook(Platform& platform, std::shared_ptr<XlibConnection> connection) {
-    LinuxDesktopLook::Places places{QDBusConnection::sessionBus(), platform.folders.get()};
+    LinuxDesktopLook::Places places{portalbus::connection(), platform.folders.get()};
     places.configFolder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     places.isPlasma = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(QLatin1String("KDE"));
     places.scalesText = connection == nullptr;
@@ -122,8 +127,15 @@ std::optional<Reason> addX11Display(Platform& platform, std::shared_ptr<XlibConn
     const auto entries = std::make_shared<DesktopEntries>();
     platform.frontmost = std::make_unique<X11FrontmostApplication>(connection, entries);
     platform.applications = std::make_unique<XdgInstalledApplications>(entries, iconFoldersOfSession());
-    platform.hotKeys = std::make_unique<X11HotKeys>(connection);
     platform.keyboard = std::make_unique<X11KeyboardLayout>(connection);
+    if (platform.isWaylandSession) {
+        const PortalRoads portals(platform);
+        platform.hotKeys =
+            portals.hotKeys([keyboard = platform.keyboard.get()](KeyCode key) { return keyboard->charactersFor(key); });
+        options.everywhere = portals.keyboard();
+    }
+    if (!platform.hotKeys)
+        platform.hotKeys = std::make_unique<X11HotKeys>(connection);
     auto target = std::make_unique<X11PasteTarget>(connection, focus, std::move(options));
     pasteKeys.looksFirst = [front = target.get()] { return front->looksFirst(); };
     platform.pasteTarget = std::move(target);
@@ -184,6 +196,9 @@ OrReason<Platform> makeLinuxPlatform(DisplayKind display, const QProcessEnvironm
     const QString settings = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     platform.settingsFolder = settings + QStringLiteral("/Vellumry");
     platform.defaults = std::make_unique<UserDefaults>(platform.settingsFolder + QStringLiteral("/Vellumry.conf"));
+    platform.isConfined = QFile::exists(QStringLiteral("/.flatpak-info")) || qEnvironmentVariableIsSet("SNAP");
+    // The portal's settings say how windows are to look.
+    portalbus::introduce(portalbus::connection(), portalTime);
     std::shared_ptr<XlibConnection> connection;
     if (auto problem =
             display == DisplayKind::wayland ? waylanddisplay::add(platform) : addX11Display(platform, connection))
@@ -206,7 +221,6 @@ OrReason<Platform> makeLinuxPlatform(DisplayKind display, const QProcessEnvironm
     platform.folders = std::make_unique<InotifyFolderWatching>();
     addLook(platform, connection);
     platform.peers = std::make_unique<LinuxPeerHistories>();
-    platform.isConfined = QFile::exists(QStringLiteral("/.flatpak-info")) || qEnvironmentVariableIsSet("SNAP");
     // A confined package sees an autostart folder of its own.
     if (!platform.isConfined) {
         auto loginItem = std::make_unique<XdgLoginItem>();

@@ -2,12 +2,14 @@
 #include "app/WaylandDisplay.h"
 
 #include "app/GnomeDisplay.h"
+#include "app/PortalRoads.h"
 #include "linux/accessibility/PasswordFocus.h"
 #include "linux/applications/DesktopEntries.h"
 #include "linux/applications/XdgInstalledApplications.h"
 #include "linux/gnome/ShellExtension.h"
 #include "linux/wayland/WaylandSurvey.h"
 #include "linux/wayland/keys/BoundElsewhere.h"
+#include "linux/wayland/keys/CompositorKeys.h"
 #include "linux/wayland/keys/GlobalAccelHotKeys.h"
 #include "linux/wayland/keys/WaylandKeyboardLayout.h"
 #include "linux/wayland/keys/WaylandPasteKeys.h"
@@ -24,11 +26,24 @@ namespace vellumry::waylanddisplay {
 
 namespace {
 
-std::unique_ptr<HotKeyRegistrar> hotKeys(const std::shared_ptr<WaylandKeymap>& keymap, bool isPlasma) {
+/// By what needs no question of the user, if there is such a thing.
+void addKeys(Platform& platform, const std::shared_ptr<WaylandKeymap>& keymap, bool isPlasma,
+             std::unique_ptr<KeyInjector>& injector) {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (isPlasma && GlobalAccelHotKeys::isThere(bus))
-        return std::make_unique<GlobalAccelHotKeys>(bus, keymap);
-    return std::make_unique<BoundElsewhere>(ownBindingsOfSession());
+        platform.hotKeys = std::make_unique<GlobalAccelHotKeys>(bus, keymap);
+    if (platform.hotKeys && injector)
+        return;
+    const PortalRoads portals(platform);
+    if (!platform.hotKeys)
+        platform.hotKeys = portals.hotKeys([keymap](KeyCode keyCode) {
+            const auto evdevCode = keymap->positions().evdevCode(keyCode);
+            return evdevCode ? keymap->charactersFor(*evdevCode) : std::nullopt;
+        });
+    if (!platform.hotKeys)
+        platform.hotKeys = std::make_unique<BoundElsewhere>(ownBindingsOfSession());
+    if (!injector)
+        injector = portals.keyboard();
 }
 
 } // namespace
@@ -79,10 +94,10 @@ std::optional<Reason> add(Platform& platform) {
     const auto entries = std::make_shared<DesktopEntries>();
     platform.frontmost = std::make_unique<WaylandFrontmostApplication>(windows, entries);
     platform.applications = std::make_unique<XdgInstalledApplications>(entries, iconFoldersOfSession());
-    platform.hotKeys = hotKeys(keymap, survey->isPlasma);
+    std::unique_ptr<KeyInjector> injector = makeCompositorKeys(connection, keymap);
+    addKeys(platform, keymap, survey->isPlasma, injector);
     platform.keyboard = std::make_unique<WaylandKeyboardLayout>(keymap);
-    platform.pasteTarget = std::make_unique<WaylandPasteTarget>(focus, keymap, KeyInjector::create(connection, keymap),
-                                                                std::move(options));
+    platform.pasteTarget = std::make_unique<WaylandPasteTarget>(focus, keymap, std::move(injector), std::move(options));
     platform.idleSeconds = [idle = std::make_shared<WaylandIdleTime>(connection)] { return idle->seconds(); };
     platform.panelSurface = std::make_unique<LayerPanelSurface>(focus);
     return std::nullopt;

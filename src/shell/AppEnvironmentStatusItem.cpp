@@ -4,6 +4,8 @@
 #include "shell/Ending.h"
 
 #include <QPointer>
+#include <algorithm>
+#include <iterator>
 
 namespace vellumry {
 
@@ -27,6 +29,7 @@ std::vector<Capability> AppEnvironment::capabilities() const {
     const QString tray = QStringLiteral("tray");
     std::vector<Capability> capabilities = m_platform->capabilities;
     std::erase_if(capabilities, [&tray](const Capability& capability) { return capability.name == tray; });
+    std::ranges::move(m_platform->standing(), std::back_inserter(capabilities));
     capabilities.push_back(
         (isInTray() ? Capability::found(tray, QStringLiteral("the icon is in the desktop's panel"))
                     : Capability::without(tray, QStringLiteral("no panel or tray that shows icons: the "

@@ -79,6 +79,8 @@ struct Platform {
     std::unique_ptr<DateTimer> expiryTimer;
     /// What the session offers and lacks, as far as the start has found out.
     std::vector<Capability> capabilities;
+    /// What of it changes while the program runs, asked anew for each report: permissions of the user, for one.
+    std::function<std::vector<Capability>()> standing = [] { return std::vector<Capability>(); };
     /// Finds out the rest: asks the disk and other processes. May block; any thread.
     std::function<std::vector<Capability>()> findCapabilities = [] { return std::vector<Capability>(); };
     /// The session is one of Wayland, and we see what goes on among its X11 programs.

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "linux/gnome/ShellLink.h"
-#include "linux/wayland/keys/KeyInjector.h"
+#include "linux/keys/KeyInjector.h"
 
 namespace vellumry {
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "linux/wayland/keys/WaylandKeymap.h"
-
-#include <memory>
+#include <QCoroTask>
+#include <QtGlobal>
 #include <vector>
 
 namespace vellumry {
@@ -19,13 +18,13 @@ public:
     };
     /// False while keys cannot be pressed; that may change.
     [[nodiscard]] virtual bool isReady() const { return true; }
+    /// Asks the user for the permission, where it takes one that we do not have.
+    virtual void requestPermission() {}
+    /// Waits until the next `press` reaches a window. False when it will not: a permission was taken back, or nothing
+    /// answers in time.
+    [[nodiscard]] virtual QCoro::Task<bool> prepare() { co_return true; }
     /// Presses the modifiers, then the key, and lets go of them in the other direction.
     virtual void press(const std::vector<Modifier>& modifiers, quint32 evdevCode) = 0;
-
-    /// By the protocol that is offered: KWin's fake input, to programs whose desktop file asks for it, else a virtual
-    /// keyboard. Null without either.
-    [[nodiscard]] static std::unique_ptr<KeyInjector> create(const std::shared_ptr<WaylandConnection>& connection,
-                                                             const std::shared_ptr<WaylandKeymap>& keymap);
 };
 
 } // namespace vellumry

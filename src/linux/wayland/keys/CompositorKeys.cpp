@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "linux/wayland/keys/KeyInjector.h"
+#include "linux/wayland/keys/CompositorKeys.h"
 
 #include "linux/wayland/Descriptor.h"
 
@@ -113,8 +113,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<KeyInjector> KeyInjector::create(const std::shared_ptr<WaylandConnection>& connection,
-                                                 const std::shared_ptr<WaylandKeymap>& keymap) {
+std::unique_ptr<KeyInjector> makeCompositorKeys(const std::shared_ptr<WaylandConnection>& connection,
+                                                const std::shared_ptr<WaylandKeymap>& keymap) {
     constexpr quint32 withDestructor = 5;
     if (connection->version(org_kde_kwin_fake_input_interface) >= withDestructor)
         return std::make_unique<FakeInput>(

@@ -32,9 +32,22 @@ QCoro::Task<bool> WaylandPasteTarget::isSecureInput() {
     co_return co_await asking;
 }
 
+void WaylandPasteTarget::requestTrust() {
+    if (m_injector)
+        m_injector->requestPermission();
+}
+
 QCoro::Task<bool> WaylandPasteTarget::regainFocus() {
+    const QPointer<QObject> self(this);
+    if (m_injector) {
+        auto preparing = m_injector->prepare();
+        const bool isPrepared = co_await preparing;
+        if (self == nullptr || !isPrepared)
+            co_return false;
+    }
     settleQt();
-    return focusReturned(m_focus, QPointer<QObject>(this), m_options.focusDeadline);
+    auto returning = focusReturned(m_focus, self, m_options.focusDeadline);
+    co_return co_await returning;
 }
 
 void WaylandPasteTarget::pressPaste() {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "linux/wayland/keys/KeyInjector.h"
+#include "linux/keys/KeyInjector.h"
+#include "linux/wayland/keys/WaylandKeymap.h"
 #include "linux/wayland/windows/WaylandFocus.h"
 #include "platform/display/PasteTarget.h"
 
@@ -32,8 +33,7 @@ public:
                        std::unique_ptr<KeyInjector> injector, Options options);
 
     [[nodiscard]] bool isTrusted() const override { return m_injector != nullptr && m_injector->isReady(); }
-    /// What may press keys is decided at the start, by the compositor and the desktop file.
-    void requestTrust() override {}
+    void requestTrust() override;
     [[nodiscard]] QCoro::Task<bool> isSecureInput() override;
     [[nodiscard]] QCoro::Task<bool> regainFocus() override;
     void pressPaste() override;

@@ -15,6 +15,7 @@
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
 #include <X11/keysym.h>
+#include <xkbcommon/xkbcommon-names.h>
 
 namespace vellumry {
 
@@ -35,6 +36,21 @@ X11PasteTarget::X11PasteTarget(std::shared_ptr<XlibConnection> connection, std::
     : m_connection(std::move(connection))
     , m_focus(std::move(focus))
     , m_options(std::move(options)) {}
+
+bool X11PasteTarget::isTrusted() const {
+    if (!m_options.everywhere)
+        return m_connection->hasTestExtension();
+    return m_options.everywhere->isReady() || (m_connection->hasTestExtension() && m_focus->isProgramRemembered());
+}
+
+void X11PasteTarget::requestTrust() {
+    if (m_options.everywhere)
+        m_options.everywhere->requestPermission();
+}
+
+KeyInjector* X11PasteTarget::injector() const {
+    return m_options.everywhere && m_options.everywhere->isReady() ? m_options.everywhere.get() : nullptr;
+}
 
 QCoro::Task<bool> X11PasteTarget::isSecureInput() {
     if (isKeyboardTaken())
@@ -57,7 +73,15 @@ bool X11PasteTarget::isKeyboardTaken() const {
 }
 
 QCoro::Task<bool> X11PasteTarget::regainFocus() {
-    return focusReturned(m_focus, QPointer<QObject>(this), m_options.focusDeadline);
+    const QPointer<QObject> self(this);
+    if (KeyInjector* keys = injector()) {
+        auto preparing = keys->prepare();
+        const bool isPrepared = co_await preparing;
+        if (self == nullptr || !isPrepared)
+            co_return false;
+    }
+    auto returning = focusReturned(m_focus, self, m_options.focusDeadline);
+    co_return co_await returning;
 }
 
 QCoro::Task<void> X11PasteTarget::keyboardFree() {
@@ -78,6 +102,17 @@ void X11PasteTarget::pressPaste() {
     const quint32 letter = keymap.keycodeTyping(u'v', placeOf(KEY_V));
     const bool isTerminal = isTerminalInFront();
     const bool hasPrimary = isTerminal && m_options.offerAsPrimary && m_options.offerAsPrimary();
+    if (KeyInjector* keys = injector()) {
+        const quint32 paste = hasPrimary ? KEY_INSERT : letter - KeyCodes::xOffset;
+        std::vector<KeyInjector::Modifier> modifiers;
+        if (!hasPrimary)
+            modifiers.push_back({KEY_LEFTCTRL, XKB_MOD_NAME_CTRL});
+        if (isTerminal)
+            modifiers.push_back({KEY_LEFTSHIFT, XKB_MOD_NAME_SHIFT});
+        m_options.willPress();
+        keys->press(modifiers, paste);
+        return;
+    }
     releaseHeldKeys();
     m_options.willPress();
     if (hasPrimary)

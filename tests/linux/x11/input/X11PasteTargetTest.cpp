@@ -94,6 +94,55 @@ TEST_F(X11PasteTargetTest, AnEditorGetsCtrlV) {
     EXPECT_EQ(primaryOffers, 0);
 }
 
+namespace {
+
+/// Keys that reach all windows of a session, once that is allowed.
+class PermittedKeys final : public KeyInjector {
+public:
+    [[nodiscard]] bool isReady() const override { return isAllowed; }
+    void requestPermission() override { ++requests; }
+    [[nodiscard]] QCoro::Task<bool> prepare() override { return answering(isAllowed && isThere); }
+    void press(const std::vector<Modifier>& held, quint32 evdevCode) override {
+        for (const Modifier& modifier : held)
+            pressed.push_back(modifier.evdevCode);
+        pressed.push_back(evdevCode);
+    }
+
+    bool isAllowed = false;
+    bool isThere = true;
+    int requests = 0;
+    std::vector<quint32> pressed;
+};
+
+} // namespace
+
+TEST_F(X11PasteTargetTest, InASessionOfWaylandKeysNeedAPermissionUnlessAnX11ProgramIsPastedInto) {
+    const auto keys = std::make_shared<PermittedKeys>();
+    X11PasteTarget::Options options;
+    options.everywhere = keys;
+    X11PasteTarget mixed(connection, focus, options);
+    EXPECT_FALSE(mixed.isTrusted());
+    mixed.requestTrust();
+    EXPECT_EQ(keys->requests, 1);
+
+    XClient editor;
+    ASSERT_TRUE(editor.open("edit", "Editor"));
+    focus->remember();
+    EXPECT_TRUE(mixed.isTrusted());
+    mixed.pressPaste();
+    EXPECT_EQ(pasted(editor), (Chords{{symbolV, control}}));
+    EXPECT_EQ(keys->pressed, std::vector<quint32>());
+    focus->forget();
+
+    keys->isAllowed = true;
+    EXPECT_TRUE(mixed.isTrusted());
+    EXPECT_TRUE(awaited(mixed.regainFocus()));
+    mixed.pressPaste();
+    EXPECT_EQ(keys->pressed, (std::vector<quint32>{KEY_LEFTCTRL, KEY_V}));
+    keys->isThere = false;
+    EXPECT_FALSE(awaited(mixed.regainFocus())) << "no session, no keys";
+}
+
 TEST_F(X11PasteTargetTest, ATerminalGetsShiftInsertAndThePrimarySelection) {
     XClient terminal;
     ASSERT_TRUE(terminal.open("xterm", "XTerm"));

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "linux/portal/PortalLink.h"
+
+#include "foundation/Logging.h"
+#include "linux/portal/PortalBus.h"
+#include "linux/portal/PortalNames.h"
+
+#include <QDBusArgument>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QPointer>
+#include <QUuid>
+#include <utility>
+
+namespace vellumry {
+
+namespace {
+
+/// Starting the portal and its backends is part of it.
+constexpr int callMilliseconds = 20'000;
+
+OneShot<QDBusMessage> answerTo(const QDBusPendingCall& call) {
+    const OneShot<QDBusMessage> answer;
+    // A second watcher would not be told.
+    if (call.isFinished()) {
+        answer.deliver(call.reply());
+        return answer;
+    }
+    auto* watcher = new QDBusPendingCallWatcher(call);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, [watcher, answer] {
+        watcher->deleteLater();
+        answer.deliver(watcher->reply());
+    });
+    return answer;
+}
+
+/// Not to be guessed by another program, which could answer in the portal's name.
+QString freshToken() {
+    return QStringLiteral("vellumry") + QUuid::createUuid().toString(QUuid::Id128);
+}
+
+bool isError(const QDBusMessage& message) {
+    return message.type() != QDBusMessage::ReplyMessage;
+}
+
+PortalLink::Outcome outcomeOf(uint response) {
+    if (response == 0)
+        return PortalLink::Outcome::given;
+    return response == 1 ? PortalLink::Outcome::refused : PortalLink::Outcome::failed;
+}
+
+} // namespace
+
+PortalLink::PortalLink(QDBusConnection bus, Options options)
+    : m_bus(std::move(bus))
+    , m_options(std::move(options))
+    , m_isIntroduced(m_options.isIntroduced) {
+    // No sender is named: the bus would be asked for its owner, and would have to answer first.
+    m_bus.connect(QString(), QString(), portal::request, QStringLiteral("Response"), this,
+                  SLOT(hearResponse(QDBusMessage)));
+    m_bus.connect(QString(), QString(), portal::session, QStringLiteral("Closed"), this,
+                  SLOT(hearClosed(QDBusMessage)));
+    m_bus.connect(QString(), QString(), QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameOwnerChanged"),
+                  QStringList{portal::service}, QString(), this, SLOT(hearOwner(QString, QString, QString)));
+}
+
+PortalLink::~PortalLink() {
+    for (const QString& path : m_pending.keys())
+        forget(path, Outcome::missing);
+}
+
+QDBusMessage PortalLink::messageFor(const QString& interface, const QString& method, const QVariantList& arguments) {
+    QDBusMessage message = QDBusMessage::createMethodCall(portal::service, portal::path, interface, method);
+    message.setArguments(arguments);
+    return message;
+}
+
+OneShot<QDBusMessage> PortalLink::call(QDBusMessage message) {
+    return answerTo(m_bus.asyncCall(message, callMilliseconds));
+}
+
+/// Tells the portal our name, once. Older portals know no such method, and name us by our cgroup if at all.
+OneShot<QDBusMessage> PortalLink::introduced() {
+    if (m_isIntroduced) {
+        const OneShot<QDBusMessage> done;
+        done.deliver(QDBusMessage());
+        return done;
+    }
+    if (!m_introduction)
+        m_introduction = m_bus.asyncCall(
+            messageFor(portal::registry, QStringLiteral("Register"), {portalbus::applicationID, QVariantMap()}),
+            callMilliseconds);
+    return answerTo(*m_introduction);
+}
+
+QCoro::Task<PortalLink::Answer> PortalLink::request(Call call, std::chrono::milliseconds limit) {
+    const QPointer<PortalLink> self(this);
+    const auto introducing = introduced();
+    const QDBusMessage introduction = co_await introducing;
+    if (self == nullptr)
+        co_return Answer{};
+    if (introduction.type() == QDBusMessage::ErrorMessage)
+        qCInfo(logging::wayland).noquote() << "not registered:" << introduction.errorName();
+
+    const QString token = freshToken();
+    call.options[QStringLiteral("handle_token")] = token;
+    call.arguments.append(call.options);
+    const QString path =
+        portal::path + QStringLiteral("/request/") + m_bus.baseService().mid(1).replace(u'.', u'_') + u'/' + token;
+    // The response may overtake the reply.
+    const OneShot<Answer> answer;
+    m_pending.insert(path, answer);
+    const auto calling = this->call(messageFor(call.interface, call.method, call.arguments));
+    const QDBusMessage reply = co_await calling;
+    if (self == nullptr)
+        co_return Answer{};
+    if (isError(reply)) {
+        qCInfo(logging::wayland).noquote() << call.method << "failed:" << reply.errorName();
+        forget(path, Outcome::missing);
+    } else {
+        answer.deliverAfter(limit, Answer{Outcome::unanswered});
+    }
+    Answer given = co_await answer;
+    if (self == nullptr)
+        co_return Answer{};
+    m_pending.remove(path);
+    if (given.outcome == Outcome::unanswered)
+        m_bus.send(QDBusMessage::createMethodCall(portal::service, path, portal::request, QStringLiteral("Close")));
+    co_return given;
+}
+
+QCoro::Task<QString> PortalLink::openSession(QString interface) {
+    Call call{interface, QStringLiteral("CreateSession")};
+    call.options[QStringLiteral("session_handle_token")] = freshToken();
+    auto asking = request(std::move(call));
+    const Answer answer = co_await asking;
+    if (answer.outcome != Outcome::given)
+        co_return QString();
+    const QVariant session = answer.results.value(QStringLiteral("session_handle"));
+    // A string by the documents, a path by its meaning.
+    const bool isPath = session.metaType() == QMetaType::fromType<QDBusObjectPath>();
+    co_return isPath ? session.value<QDBusObjectPath>().path() : session.toString();
+}
+
+void PortalLink::closeSession(const QString& session) {
+    if (!session.isEmpty())
+        m_bus.send(QDBusMessage::createMethodCall(portal::service, session, portal::session, QStringLiteral("Close")));
+}
+
+void PortalLink::forget(const QString& path, Outcome outcome) {
+    // It may go on at once, and ask for more.
+    const OneShot<Answer> answer = m_pending.take(path);
+    answer.deliver(Answer{outcome});
+}
+
+void PortalLink::hearResponse(const QDBusMessage& message) {
+    const auto pending = m_pending.constFind(message.path());
+    if (pending == m_pending.constEnd())
+        return;
+    const OneShot<Answer> answer = *pending;
+    if (message.signature() != QLatin1String("ua{sv}")) {
+        answer.deliver(Answer{Outcome::failed});
+        return;
+    }
+    const QVariantList arguments = message.arguments();
+    answer.deliver(Answer{outcomeOf(arguments[0].toUInt()), qdbus_cast<QVariantMap>(arguments[1])});
+}
+
+void PortalLink::hearClosed(const QDBusMessage& message) {
+    Q_EMIT sessionClosed(message.path());
+}
+
+void PortalLink::hearOwner(const QString& name, const QString& before, const QString& now) {
+    if (name != portal::service)
+        return;
+    if (!before.isEmpty()) {
+        m_introduction.reset();
+        m_isIntroduced = false;
+        for (const QString& path : m_pending.keys())
+            forget(path, Outcome::missing);
+        Q_EMIT ended();
+    }
+    if (!now.isEmpty())
+        Q_EMIT began();
+}
+
+} // namespace vellumry

@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "linux/portal/PortalHotKeys.h"
+
+#include "linux/portal/PortalTrigger.h"
+#include "linux/portal/PortalWorld.h"
+
+namespace vellumry {
+
+namespace {
+
+using Standing = PortalHotKeys::Standing;
+
+constexpr Modifiers controlSuper = Modifiers(Modifier::command) | Modifier::control;
+const QString panelName = QStringLiteral("open-panel-CTRL+LOGO+v");
+const QString stackName = QStringLiteral("toggle-stack-CTRL+LOGO+s");
+
+class PortalHotKeysTest : public PortalWorld {
+protected:
+    void start() {
+        hotKeys.reset();
+        PortalHotKeys::Options options;
+        options.charactersFor = [](KeyCode key) -> std::optional<QString> {
+            if (key == KeyCode::v)
+                return QStringLiteral("v");
+            if (key == KeyCode::s)
+                return QStringLiteral("s");
+            return std::nullopt;
+        };
+        options.refused = [this] { return refused; };
+        options.refuse = [this](const QStringList& names) { refused = names; };
+        hotKeys = std::make_unique<PortalHotKeys>(link, std::move(options));
+        hotKeys->onPressed = [this](quint32 id) { pressed.push_back(id); };
+    }
+    bool grab(quint32 id, KeyCode key, const char* name) {
+        hotKeys->announce(id, {QString::fromLatin1(name), QStringLiteral("What it does")});
+        return hotKeys->grab(id, key, controlSuper);
+    }
+    void grabBoth() {
+        start();
+        EXPECT_TRUE(grab(1, KeyCode::v, "open-panel"));
+        EXPECT_TRUE(grab(2, KeyCode::s, "toggle-stack"));
+    }
+    void untilStanding(Standing standing) {
+        runUntil([this, standing] { return hotKeys->standing() == standing; });
+    }
+    /// Lets what is under way come to its end: the portal answers in order.
+    void settle() { (void)awaited(link->openSession(QStringLiteral("org.freedesktop.portal.RemoteDesktop"))); }
+
+    std::unique_ptr<PortalHotKeys> hotKeys;
+    std::vector<quint32> pressed;
+    QStringList refused;
+};
+
+} // namespace
+
+TEST(PortalTrigger, IsWrittenAsTheSpecificationHasIt) {
+    EXPECT_EQ(portalTrigger(u'v', controlSuper), u"CTRL+LOGO+v");
+    EXPECT_EQ(portalTrigger(u'V', Modifiers(Modifier::option) | Modifier::shift), u"ALT+SHIFT+v");
+    EXPECT_EQ(portalTrigger(u'1', Modifier::control), u"LOGO+1");
+    EXPECT_EQ(portalTrigger(u',', Modifier::command), u"CTRL+comma");
+}
+
+TEST_F(PortalHotKeysTest, AllKeysAreAskedForTogetherInWordsForTheUser) {
+    grabBoth();
+    untilStanding(Standing::given);
+    EXPECT_EQ(portal.count("BindShortcuts"), 1);
+    const QList<CarriedShortcut> shortcuts = portal.shortcuts();
+    ASSERT_EQ(shortcuts.size(), 2);
+    EXPECT_EQ(shortcuts[0].name, panelName);
+    EXPECT_EQ(shortcuts[0].values.value(QStringLiteral("description")), QStringLiteral("What it does"));
+    EXPECT_EQ(shortcuts[0].values.value(QStringLiteral("preferred_trigger")), QStringLiteral("CTRL+LOGO+v"));
+    EXPECT_TRUE(hotKeys->capability().isFound);
+}
+
+TEST_F(PortalHotKeysTest, APressReachesItsKey) {
+    grabBoth();
+    untilStanding(Standing::given);
+    portal.activate(portal.session(), stackName);
+    runUntil([this] { return !pressed.empty(); });
+    EXPECT_EQ(pressed, std::vector<quint32>{2});
+}
+
+TEST_F(PortalHotKeysTest, ThePressOfAnotherSessionIsNone) {
+    grabBoth();
+    untilStanding(Standing::given);
+    portal.activate(QStringLiteral("/org/freedesktop/portal/desktop/session/x/another"), panelName);
+    portal.activate(portal.session(), QStringLiteral("what was never asked for"));
+    portal.activate(portal.session(), panelName);
+    runUntil([this] { return !pressed.empty(); });
+    EXPECT_EQ(pressed, std::vector<quint32>{1});
+}
+
+TEST_F(PortalHotKeysTest, AKeyWithoutANameIsRefusedAtOnce) {
+    start();
+    EXPECT_FALSE(grab(1, KeyCode::a, "open-panel"));
+    settle();
+    EXPECT_EQ(portal.count("BindShortcuts"), 0);
+}
+
+TEST_F(PortalHotKeysTest, AFailureThatListsTheShortcutsIsAGrant) {
+    portal.responses[QStringLiteral("BindShortcuts")].code = 2;
+    grabBoth();
+    untilStanding(Standing::given);
+}
+
+TEST_F(PortalHotKeysTest, ASuccessThatListsNothingIsNone) {
+    portal.responses[QStringLiteral("BindShortcuts")].results = QVariantMap();
+    grabBoth();
+    untilStanding(Standing::failed);
+    EXPECT_FALSE(hotKeys->capability().isFound);
+    EXPECT_TRUE(hotKeys->capability().detail.contains(u"settings"));
+}
+
+TEST_F(PortalHotKeysTest, AListOfAnotherShapeIsNone) {
+    portal.responses[QStringLiteral("BindShortcuts")].results =
+        QVariantMap{{QStringLiteral("shortcuts"), QStringList{panelName, stackName}}};
+    grabBoth();
+    untilStanding(Standing::failed);
+}
+
+TEST_F(PortalHotKeysTest, AShortcutThatIsLeftWithoutAKeyIsMissed) {
+    portal.responses[QStringLiteral("BindShortcuts")].results =
+        ScriptedPortal::listing({{panelName, QStringLiteral("Press a key")}, {stackName, QString()}});
+    grabBoth();
+    untilStanding(Standing::partly);
+    EXPECT_FALSE(hotKeys->capability().isFound);
+}
+
+TEST_F(PortalHotKeysTest, ATakenKeyThatPlasmaReportsAsGivenIsFoundOut) {
+    FakeGlobalAccel accel(bus.address());
+    accel.withoutKey = {panelName};
+    grabBoth();
+    untilStanding(Standing::partly);
+    EXPECT_EQ(accel.components.value(0), u"com.vellumry.Vellumry");
+}
+
+TEST_F(PortalHotKeysTest, WhatTheUserRefusedIsNotAskedForAgain) {
+    portal.responses[QStringLiteral("BindShortcuts")] = {.code = 1, .results = QVariantMap()};
+    grabBoth();
+    untilStanding(Standing::refused);
+    EXPECT_EQ(refused, (QStringList{panelName, stackName}));
+    // The next run.
+    grabBoth();
+    untilStanding(Standing::refused);
+    EXPECT_EQ(portal.count("BindShortcuts"), 1);
+    // Another shortcut is another question.
+    portal.responses.clear();
+    hotKeys->release(2);
+    untilStanding(Standing::given);
+    EXPECT_EQ(portal.count("BindShortcuts"), 2);
+}
+
+TEST_F(PortalHotKeysTest, TheSameKeysUnderOtherNumbersAreNotAskedForAgain) {
+    grabBoth();
+    untilStanding(Standing::given);
+    hotKeys->release(1);
+    hotKeys->release(2);
+    EXPECT_TRUE(grab(3, KeyCode::v, "open-panel"));
+    EXPECT_TRUE(grab(4, KeyCode::s, "toggle-stack"));
+    settle();
+    EXPECT_EQ(portal.count("BindShortcuts"), 1);
+    portal.activate(portal.last("BindShortcuts").arguments[0].value<QDBusObjectPath>().path(), panelName);
+    runUntil([this] { return !pressed.empty(); });
+    EXPECT_EQ(pressed, std::vector<quint32>{3});
+}
+
+TEST_F(PortalHotKeysTest, OtherKeysAreAskedForInASessionOfTheirOwn) {
+    grabBoth();
+    untilStanding(Standing::given);
+    const QString before = portal.session();
+    hotKeys->release(2);
+    runUntil([this] { return portal.count("BindShortcuts") == 2; });
+    untilStanding(Standing::given);
+    EXPECT_EQ(portal.last("Close").path, before);
+    EXPECT_EQ(portal.shortcuts().size(), 1);
+    hotKeys->release(1);
+    untilStanding(Standing::none);
+    runUntil([this] { return portal.count("Close") == 2; });
+}
+
+TEST_F(PortalHotKeysTest, AWishThatChangesDuringTheQuestionIsAskedAfterIt) {
+    portal.responses[QStringLiteral("BindShortcuts")].isSilent = true;
+    grabBoth();
+    runUntil([this] { return portal.count("BindShortcuts") == 1; });
+    hotKeys->release(2);
+    settle();
+    EXPECT_EQ(portal.count("BindShortcuts"), 1) << "two questions at once";
+    portal.responses.clear();
+    portal.respond("BindShortcuts", 1, {});
+    untilStanding(Standing::given);
+    EXPECT_EQ(portal.shortcuts().size(), 1);
+}
+
+TEST_F(PortalHotKeysTest, APortalThatComesBackIsAskedAgain) {
+    grabBoth();
+    untilStanding(Standing::given);
+    portal.end();
+    untilStanding(Standing::failed);
+    portal.begin();
+    untilStanding(Standing::given);
+    portal.activate(portal.session(), panelName);
+    runUntil([this] { return !pressed.empty(); });
+}
+
+TEST_F(PortalHotKeysTest, APortalThatDiesOfTheQuestionIsLeftInPeace) {
+    portal.responses[QStringLiteral("BindShortcuts")].endsPortal = true;
+    grabBoth();
+    for (int dead = 1; dead <= 3; ++dead) {
+        runUntil([this, dead] { return portal.count("BindShortcuts") == dead && !portal.isThere(); });
+        untilStanding(Standing::failed);
+        portal.begin();
+    }
+    settle();
+    settle();
+    EXPECT_EQ(portal.count("BindShortcuts"), 3);
+}
+
+TEST_F(PortalHotKeysTest, KeysThatAreTakenBackAreReportedAndNotAskedForAtOnce) {
+    grabBoth();
+    untilStanding(Standing::given);
+    portal.closeSession(portal.session());
+    untilStanding(Standing::failed);
+    settle();
+    EXPECT_EQ(portal.count("BindShortcuts"), 1);
+}
+
+TEST_F(PortalHotKeysTest, WithoutAPortalTheyAreMissing) {
+    portal.end();
+    grabBoth();
+    untilStanding(Standing::failed);
+    EXPECT_FALSE(hotKeys->capability().isFound);
+    EXPECT_EQ(hotKeys->capability().features, std::vector{Feature::shortcuts});
+}
+
+} // namespace vellumry
