@@ -90,7 +90,8 @@ void ShortcutRegistrations::addPinned() {
     for (int number = 1; number <= 9; ++number) {
         const HotKeyPurpose purpose{QStringLiteral("paste-pin-%1").arg(number),
                                     localised("Pinned clip") + u' ' + QString::number(number)};
-        if (add(Shortcut::pinned(number), [paste = m_actions.pastePinned, number] { paste(number); }, purpose))
+        if (add(
+                Shortcut::pinned(number), [paste = m_actions.pastePinned, number] { paste(number); }, purpose))
             m_pinnedNumbers.insert(number);
     }
 }

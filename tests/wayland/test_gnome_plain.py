@@ -9,6 +9,7 @@ import sys
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
+from questions import refuse_shortcuts  # noqa: E402
 from session import (HERE, PROGRAM, Window, copy, forgo_settings, picture, press, press_button, search_field_has_focus,  # noqa: E402
                      shown_query, told, type_text)
 
@@ -16,6 +17,12 @@ import desktop  # noqa: E402
 from desktop import Vellumry, run, text_of, wait_for_clip, wait_until  # noqa: E402
 
 X11 = dict(os.environ, GDK_BACKEND="x11")
+
+
+def answer_the_question():
+    """What GNOME asks about shortcuts would have the keyboard; the tests of the portals have them."""
+    with Vellumry():
+        refuse_shortcuts()
 
 
 def open_panel():
@@ -91,4 +98,5 @@ def test_first_run_enters_the_extension():
         shutil.rmtree(folder)
 
 
+answer_the_question()
 desktop.main(desktop.own_tests())

@@ -76,7 +76,7 @@ public:
     QMap<QString, Response> responses; ///< by method
     std::vector<Call> calls;
     std::vector<Key> keys;
-    int visibilityAtRegister = -1; ///< whether others may look at this process (PR_GET_DUMPABLE)
+    int visibilityAtRegister = -1;   ///< whether others may look at this process (PR_GET_DUMPABLE)
     QMap<QString, quint32> versions; ///< of interfaces; those that are not here are missing
 
     [[nodiscard]] QString introspect(const QString&) const override { return {}; }

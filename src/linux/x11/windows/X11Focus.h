@@ -34,8 +34,8 @@ public:
     /// keeps it, whichever of the two requests comes first.
     void giveBack(XWindow ours, unsigned long time = 0);
     void forget();
-    /// Whether what is remembered is an X11 program's window: nothing, a window of Wayland, or one of the window manager's
-    /// own, is not.
+    /// Whether what is remembered is an X11 program's window: nothing, a window of Wayland, or one of the window
+    /// manager's own, is not.
     [[nodiscard]] bool isProgramRemembered() { return isRemembered() && m_client != 0; }
 
     /// Where the keyboard is. Without a remembered window, and a while after it was given back, any window will do:

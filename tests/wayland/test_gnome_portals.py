@@ -1,0 +1,82 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""GNOME without our extension, by the desktop's portals: the user is asked for the shortcuts and for the paste key, once. Run inside
+scripts/wayland-session gnome-plain."""
+
+import os
+import sys
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+
+from session import PROGRAM, Window, copy, picture, press, search_field_has_focus, told  # noqa: E402
+from questions import choose, forget_refusal, is_open, refuse_shortcuts  # noqa: E402
+
+import desktop  # noqa: E402
+from desktop import Vellumry, run, text_of, wait_for_clip, wait_until  # noqa: E402
+
+KEYS = "found: hot keys (global shortcuts portal)"
+PASTE = "found: paste key (remote desktop portal, allowed)"
+
+
+def reports(line):
+    return line in told(PROGRAM, "--status").decode()
+
+
+def give_shortcuts(window):
+    wait_until(lambda: is_open("Add Keyboard Shortcuts"), "the question about the shortcuts")
+    picture("shortcuts")
+    choose("^Add$")
+    wait_until(lambda: reports(KEYS), "the shortcuts to be given")
+    wait_until(lambda: window.state["active"], "the keyboard back in the window")
+
+
+def allow_pasting(window):
+    run(PROGRAM, "--action", "open-panel")
+    wait_until(search_field_has_focus, "the search field to have the focus")
+    choose("^Allow Vellumry to paste for you$", "vellumry")
+    wait_until(lambda: is_open("Remote Desktop"), "the question about the paste key")
+    picture("permission")
+    press("tab", "space")
+    choose("^Share$")
+    wait_until(lambda: reports(PASTE), "the permission")
+    wait_until(lambda: window.state["active"], "the keyboard back in the window")
+
+
+def paste_first(window, words):
+    copy(words)
+    wait_for_clip(lambda row: text_of(row) == words, "the copy in the history")
+    press("ctrl+a")
+    press("ctrl+super+v")
+    wait_until(search_field_has_focus, "the search field to have the focus")
+    picture("panel")
+    press("return")
+    window.wait_text(words)
+
+
+def test_refused_shortcuts():
+    """What was refused is told in the status, and not asked for at the next start."""
+    with Window() as window:
+        with Vellumry():
+            refuse_shortcuts()
+            wait_until(lambda: reports("missing: hot keys (refused"), "the refusal in the status")
+        with Vellumry():
+            wait_until(lambda: reports("missing: hot keys (refused"), "the refusal in the status of the next run")
+            assert not is_open("Add Keyboard Shortcuts")
+            assert window.state["active"]
+    forget_refusal()
+
+
+def test_shortcuts_and_the_paste_key():
+    """Both are asked for once, and work in the windows of Wayland programs: the next start has them without a question."""
+    with Window() as window:
+        with Vellumry():
+            give_shortcuts(window)
+            allow_pasting(window)
+            paste_first(window, "by the portal")
+        with Vellumry():
+            wait_until(lambda: reports(KEYS), "the shortcuts of the last time")
+            assert reports(PASTE)
+            assert window.state["active"], "a second question"
+            paste_first(window, "and once more")
+
+
+desktop.main(desktop.own_tests())
