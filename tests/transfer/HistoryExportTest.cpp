@@ -81,7 +81,7 @@ TEST_F(HistoryExportTest, EverythingComesBackByteForByte) {
         const Clip& was = *expected[i];
         const Clip& is = *second->clips()[i];
         EXPECT_EQ(is.title, was.title);
-        EXPECT_EQ(is.kind, was.kind) << was.title.toStdString();
+        EXPECT_EQ(is.kind, was.kind) << was.title.toString().toStdString();
         EXPECT_EQ(is.createdAt, was.createdAt);
         EXPECT_EQ(is.lastUsedAt, was.lastUsedAt);
         EXPECT_EQ(is.isPinned, was.isPinned);
@@ -89,7 +89,7 @@ TEST_F(HistoryExportTest, EverythingComesBackByteForByte) {
         EXPECT_EQ(is.sourceBundleID, was.sourceBundleID);
         EXPECT_EQ(is.sourceAppName, was.sourceAppName);
         EXPECT_EQ(is.isScreenshot, was.isScreenshot);
-        EXPECT_EQ(awaited(second->payload(is.id)), awaited(store->payload(was.id))) << was.title.toStdString();
+        EXPECT_EQ(awaited(second->payload(is.id)), awaited(store->payload(was.id))) << was.title.toString().toStdString();
     }
     // And once more, into the same files.
     HistoryExport again(*second);
