@@ -79,9 +79,11 @@ KdeGlobals::~KdeGlobals() = default;
 
 QCoro::Task<void> KdeGlobals::read() {
     const std::weak_ptr<bool> life = m_life;
+    const quint64 number = ++m_readings;
     auto reading = runDetached([file = m_file] { return textOf(file); }, readingLimit);
     const std::optional<QByteArray> text = co_await reading;
-    if (life.expired() || !text)
+    // Readings run on threads of their own, so an earlier one may end last.
+    if (life.expired() || number != m_readings || !text)
         co_return;
     const SaidLook said = lookOf(*text);
     if (std::exchange(m_said, said) != said)

@@ -32,6 +32,7 @@ private:
     QString m_file;
     std::function<void()> m_onChanged;
     SaidLook m_said;
+    quint64 m_readings = 0;
     std::unique_ptr<FolderWatch> m_watch;
     std::shared_ptr<bool> m_life = std::make_shared<bool>(true);
 };
