@@ -89,7 +89,8 @@ TEST_F(HistoryExportTest, EverythingComesBackByteForByte) {
         EXPECT_EQ(is.sourceBundleID, was.sourceBundleID);
         EXPECT_EQ(is.sourceAppName, was.sourceAppName);
         EXPECT_EQ(is.isScreenshot, was.isScreenshot);
-        EXPECT_EQ(awaited(second->payload(is.id)), awaited(store->payload(was.id))) << was.title.toString().toStdString();
+        EXPECT_EQ(awaited(second->payload(is.id)), awaited(store->payload(was.id)))
+            << was.title.toString().toStdString();
     }
     // And once more, into the same files.
     HistoryExport again(*second);
