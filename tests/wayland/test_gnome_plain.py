@@ -9,9 +9,9 @@ import sys
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
-from questions import refuse_shortcuts  # noqa: E402
 from session import (HERE, PROGRAM, Window, copy, forgo_settings, picture, press, press_button, search_field_has_focus,  # noqa: E402
                      shown_query, told, type_text)
+from questions import refuse_shortcuts  # noqa: E402
 
 import desktop  # noqa: E402
 from desktop import Vellumry, run, text_of, wait_for_clip, wait_until  # noqa: E402

@@ -9,7 +9,6 @@
 #include <QDBusArgument>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
-#include <QPointer>
 
 namespace vellumry {
 
@@ -141,18 +140,18 @@ void PortalHotKeys::askAgain() {
 }
 
 QCoro::Task<void> PortalHotKeys::ask() {
-    const QPointer<PortalHotKeys> self(this);
+    const std::weak_ptr<bool> life = m_life;
     const int asked = m_portal;
     m_isAsking = true;
     // What is wanted may change meanwhile.
-    while (self != nullptr && asked == m_portal && wish() != m_asked) {
+    while (!life.expired() && asked == m_portal && wish() != m_asked) {
         m_asked = wish();
         // A session is bound once.
         m_link->closeSession(std::exchange(m_session, QString()));
         auto binding = bind(m_asked);
         co_await binding;
     }
-    if (self != nullptr && asked == m_portal)
+    if (!life.expired() && asked == m_portal)
         m_isAsking = false;
 }
 
@@ -166,11 +165,11 @@ QCoro::Task<void> PortalHotKeys::bind(Wish wanted) {
         co_return;
     }
     m_standing = Standing::asking;
-    const QPointer<PortalHotKeys> self(this);
+    const std::weak_ptr<bool> life = m_life;
     const int asked = m_portal;
     auto opening = m_link->openSession(portal::globalShortcuts);
     const QString session = co_await opening;
-    if (self == nullptr || asked != m_portal)
+    if (life.expired() || asked != m_portal)
         co_return;
     if (session.isEmpty()) {
         take(PortalLink::Outcome::missing, {}, wanted);
@@ -186,18 +185,18 @@ QCoro::Task<void> PortalHotKeys::bind(Wish wanted) {
     call.arguments = {QVariant::fromValue(QDBusObjectPath(session)), QVariant::fromValue(shortcuts), QString()};
     auto asking = m_link->request(std::move(call), m_options.consent);
     const PortalLink::Answer answer = co_await asking;
-    if (self == nullptr || asked != m_portal)
+    if (life.expired() || asked != m_portal)
         co_return;
     auto looking = withoutTaken(givenIn(answer.results));
     const QSet<QString> given = co_await looking;
-    if (self != nullptr && asked == m_portal)
+    if (!life.expired() && asked == m_portal)
         take(answer.outcome, m_session.isEmpty() ? QSet<QString>() : given, wanted);
 }
 
 /// Plasma 6.3 reports as given what another program holds; only the service behind its portal tells the truth. It is
 /// not asked where it is not there, or not to be seen by a confined program.
 QCoro::Task<QSet<QString>> PortalHotKeys::withoutTaken(QSet<QString> given) {
-    const QPointer<PortalHotKeys> self(this);
+    const std::weak_ptr<bool> life = m_life;
     QSet<QString> ours = given;
     for (const QString& name : given) {
         QDBusMessage asking =
@@ -207,7 +206,7 @@ QCoro::Task<QSet<QString>> PortalHotKeys::withoutTaken(QSet<QString> given) {
         asking.setArguments({QStringList{portalbus::applicationID, name, QString(), QString()}});
         const auto calling = m_link->call(asking);
         const QDBusMessage reply = co_await calling;
-        if (self == nullptr || reply.type() != QDBusMessage::ReplyMessage)
+        if (life.expired() || reply.type() != QDBusMessage::ReplyMessage)
             break;
         if (reply.signature() != QLatin1String("a(ai)"))
             continue;
@@ -238,7 +237,8 @@ void PortalHotKeys::take(PortalLink::Outcome outcome, const QSet<QString>& given
         settle(Standing::given, QString());
     } else if (count > 0) {
         settle(Standing::partly, QStringLiteral("the desktop gave %1 of %2 shortcuts").arg(count).arg(wanted.size()));
-    } else if (outcome == PortalLink::Outcome::refused) {
+    } else if (outcome != PortalLink::Outcome::unanswered && outcome != PortalLink::Outcome::missing) {
+        // GNOME 48 answers its Cancel with a failure. Asking at every start would be worse than asking once too few.
         m_options.refuse(wanted.keys());
         settle(Standing::refused, QStringLiteral("the shortcuts were refused"));
     } else {

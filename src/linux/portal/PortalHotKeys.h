@@ -82,6 +82,8 @@ private:
     int m_portal = 0; ///< counts the portals that have ended: what one of them was asked is no other's
     int m_losses = 0; ///< how often the portal has ended before it gave keys
     Standing m_standing = Standing::none;
+    /// Goes first: what waits for the link is resumed when the link ends, with this half gone.
+    std::shared_ptr<bool> m_life = std::make_shared<bool>(true);
 };
 
 } // namespace vellumry

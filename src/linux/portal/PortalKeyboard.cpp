@@ -5,7 +5,6 @@
 #include "linux/portal/PortalNames.h"
 
 #include <QDBusObjectPath>
-#include <QPointer>
 #include <utility>
 
 namespace vellumry {
@@ -51,7 +50,7 @@ void PortalKeyboard::requestPermission() {
 }
 
 QCoro::Task<bool> PortalKeyboard::prepare() {
-    const QPointer<PortalKeyboard> self(this);
+    const std::weak_ptr<bool> life = m_life;
     if (!m_isStarted && !m_isOpening)
         open();
     if (m_isOpening) {
@@ -59,7 +58,7 @@ QCoro::Task<bool> PortalKeyboard::prepare() {
         done.deliverAfter(m_options.patience);
         const auto watching = connect(this, &PortalKeyboard::settled, this, [done] { done.deliver(); });
         co_await done;
-        if (self == nullptr)
+        if (life.expired())
             co_return false;
         disconnect(watching);
     }
@@ -68,11 +67,11 @@ QCoro::Task<bool> PortalKeyboard::prepare() {
 }
 
 QCoro::Task<void> PortalKeyboard::open() {
-    const QPointer<PortalKeyboard> self(this);
+    const std::weak_ptr<bool> life = m_life;
     m_isOpening = true;
     auto opening = m_link->openSession(portal::remoteDesktop);
     const QString session = co_await opening;
-    if (self == nullptr)
+    if (life.expired())
         co_return;
     if (session.isEmpty()) {
         lose("the desktop's portal opens no session");
@@ -81,12 +80,12 @@ QCoro::Task<void> PortalKeyboard::open() {
         auto starting = start(session);
         co_await starting;
     }
-    if (self != nullptr)
+    if (!life.expired())
         finish();
 }
 
 QCoro::Task<void> PortalKeyboard::start(QString session) {
-    const QPointer<PortalKeyboard> self(this);
+    const std::weak_ptr<bool> life = m_life;
     const QVariant path = QVariant::fromValue(QDBusObjectPath(session));
     PortalLink::Call devices{portal::remoteDesktop, QStringLiteral("SelectDevices"), {path}};
     devices.options = {{QStringLiteral("types"), keyboard}, {QStringLiteral("persist_mode"), untilRevoked}};
@@ -94,7 +93,7 @@ QCoro::Task<void> PortalKeyboard::start(QString session) {
         devices.options[QStringLiteral("restore_token")] = token;
     auto selecting = m_link->request(std::move(devices));
     const PortalLink::Answer selected = co_await selecting;
-    if (self == nullptr)
+    if (life.expired())
         co_return;
     if (selected.outcome != PortalLink::Outcome::given) {
         lose("the desktop lets no keys be pressed");
@@ -103,7 +102,7 @@ QCoro::Task<void> PortalKeyboard::start(QString session) {
     PortalLink::Call begin{portal::remoteDesktop, QStringLiteral("Start"), {path, QString()}};
     auto asking = m_link->request(std::move(begin), m_options.consent);
     const PortalLink::Answer answer = co_await asking;
-    if (self != nullptr)
+    if (!life.expired())
         take(answer);
 }
 
@@ -163,10 +162,10 @@ void PortalKeyboard::notify(quint32 evdevCode, bool isDown) {
 }
 
 QCoro::Task<void> PortalKeyboard::watch(OneShot<QDBusMessage> reply) {
-    const QPointer<PortalKeyboard> self(this);
+    const std::weak_ptr<bool> life = m_life;
     const QDBusMessage answer = co_await reply;
     // With the session goes its keyboard, and what was held down on it.
-    if (self != nullptr && answer.type() == QDBusMessage::ErrorMessage && m_isStarted)
+    if (!life.expired() && answer.type() == QDBusMessage::ErrorMessage && m_isStarted)
         lose("the permission was taken back");
 }
 

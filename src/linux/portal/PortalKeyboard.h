@@ -63,6 +63,8 @@ private:
     bool m_isOpening = false;
     bool m_wasRefused = false;
     QTimer m_rest;
+    /// Goes first: what waits for the link is resumed when the link ends, with this half gone.
+    std::shared_ptr<bool> m_life = std::make_shared<bool>(true);
 
 Q_SIGNALS:
     /// A session was opened, or will not be.

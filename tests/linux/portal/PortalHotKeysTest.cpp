@@ -53,7 +53,7 @@ protected:
 
 } // namespace
 
-TEST(PortalTrigger, IsWrittenAsTheSpecificationHasIt) {
+TEST(PortalTrigger, IsWrittenInTheNotationOfThePortal) {
     EXPECT_EQ(portalTrigger(u'v', controlSuper), u"CTRL+LOGO+v");
     EXPECT_EQ(portalTrigger(u'V', Modifiers(Modifier::option) | Modifier::shift), u"ALT+SHIFT+v");
     EXPECT_EQ(portalTrigger(u'1', Modifier::control), u"LOGO+1");
@@ -103,19 +103,35 @@ TEST_F(PortalHotKeysTest, AFailureThatListsTheShortcutsIsAGrant) {
     untilStanding(Standing::given);
 }
 
-TEST_F(PortalHotKeysTest, ASuccessThatListsNothingIsNone) {
+TEST_F(PortalHotKeysTest, AFailureThatListsNothingIsARefusal) {
+    portal.responses[QStringLiteral("BindShortcuts")] = {.code = 2, .results = QVariantMap()};
+    grabBoth();
+    untilStanding(Standing::refused);
+    EXPECT_EQ(refused, (QStringList{panelName, stackName}));
+}
+
+TEST_F(PortalHotKeysTest, TheProgramMayEndDuringTheQuestion) {
+    portal.responses[QStringLiteral("BindShortcuts")].isSilent = true;
+    grabBoth();
+    runUntil([this] { return portal.count("BindShortcuts") == 1; });
+    link.reset();
+    hotKeys.reset();
+    EXPECT_TRUE(refused.isEmpty());
+}
+
+TEST_F(PortalHotKeysTest, ASuccessThatListsNothingIsARefusal) {
     portal.responses[QStringLiteral("BindShortcuts")].results = QVariantMap();
     grabBoth();
-    untilStanding(Standing::failed);
+    untilStanding(Standing::refused);
     EXPECT_FALSE(hotKeys->capability().isFound);
     EXPECT_TRUE(hotKeys->capability().detail.contains(u"settings"));
 }
 
-TEST_F(PortalHotKeysTest, AListOfAnotherShapeIsNone) {
+TEST_F(PortalHotKeysTest, AListOfAnotherShapeIsARefusal) {
     portal.responses[QStringLiteral("BindShortcuts")].results =
         QVariantMap{{QStringLiteral("shortcuts"), QStringList{panelName, stackName}}};
     grabBoth();
-    untilStanding(Standing::failed);
+    untilStanding(Standing::refused);
 }
 
 TEST_F(PortalHotKeysTest, AShortcutThatIsLeftWithoutAKeyIsMissed) {

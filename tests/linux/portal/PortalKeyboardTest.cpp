@@ -49,6 +49,15 @@ TEST_F(PortalKeyboardTest, AsksOnceForAKeyboardUntilRevoked) {
     EXPECT_TRUE(keyboard->capability().isFound);
 }
 
+TEST_F(PortalKeyboardTest, TheProgramMayEndDuringTheQuestion) {
+    portal.responses[QStringLiteral("Start")].isSilent = true;
+    keyboard->requestPermission();
+    runUntil([this] { return portal.count("Start") == 1; });
+    link.reset();
+    keyboard.reset();
+    EXPECT_EQ(token, QString());
+}
+
 TEST_F(PortalKeyboardTest, PressesTheModifiersAroundTheKey) {
     allow();
     EXPECT_TRUE(prepared());
