@@ -78,7 +78,7 @@ public:
     /// Gives freed pages back and empties the write-ahead log, so that nothing deleted is left in either. Throws
     /// SQLiteError as long as another connection reads what is in the log.
     [[nodiscard]] QCoro::Task<void> reclaimSpace();
-    /// A row that is to be written; its payload is null where that stands in the file already.
+    /// A row to write; its payload is null where that stands in the file already.
     struct Row {
         ClipRef clip;
         std::shared_ptr<const ClipPayload> payload;

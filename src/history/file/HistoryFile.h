@@ -25,7 +25,7 @@ inline constexpr std::array companionSuffixes{"", "-wal", "-shm", "-journal"};
 /// at, throws SQLiteError. Changes nothing but that it plays back what a power cut left in a rollback journal.
 [[nodiscard]] bool isReadable(const QString& path, const SymmetricKey& key);
 
-/// Whether the existing file can be worked with before it was looked through: nothing is to be played back or
+/// Whether the existing file can be worked with before it was looked through: nothing has to be played back or
 /// rewritten, the table has our columns, and `key` opens its latest row. Never throws: false when anything is in doubt.
 [[nodiscard]] bool looksReadable(const QString& path, const SymmetricKey& key);
 

@@ -8,7 +8,7 @@
 
 namespace vellumry {
 
-/// A key combination as portals want it, "CTRL+LOGO+v" (the shortcuts specification of freedesktop.org, 0.1).
+/// A key combination as portals want it, "CTRL+LOGO+v" (the shortcuts format of freedesktop.org, 0.1).
 /// `character` is what the key types without modifiers. Empty for what no key symbol stands for.
 [[nodiscard]] QString portalTrigger(QChar character, Modifiers modifiers);
 
