@@ -55,13 +55,14 @@ bool AppDelegate::applicationDidFinishLaunching() {
     return true;
 }
 
-/// The keys that every window of the program has, whatever has the keyboard in it: Ctrl+, and Ctrl+Q.
+/// The keys that every window of the program has, whatever has the keyboard in it: Ctrl+, and Ctrl+Q, which only closes
+/// the panel.
 bool AppDelegate::isWindowKey(const QKeyEvent& event) {
     if (!m_environment || event.modifiers() != Qt::ControlModifier || m_environment->settingsModel().isRecording())
         return false;
     if (event.key() == Qt::Key_Comma)
         m_environment->openSettings();
-    else if (event.key() == Qt::Key_Q)
+    else if (event.key() == Qt::Key_Q && !m_environment->panel().isVisible())
         endProgram();
     else
         return false;

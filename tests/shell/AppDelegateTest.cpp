@@ -85,6 +85,16 @@ TEST_F(AppDelegateTest, EveryWindowHasTheKeysOfTheProgram) {
     EXPECT_TRUE(isEnding) << "a program that stays would run into the limit of the test";
 }
 
+TEST_F(AppDelegateTest, CtrlQInThePanelIsThePanels) {
+    run();
+    instance->onAction(QStringLiteral("open-panel"));
+    const auto panels = QGuiApplication::topLevelWindows();
+    const auto panel = std::ranges::find_if(panels, [](const QWindow* window) { return window->isVisible(); });
+    ASSERT_NE(panel, panels.end());
+    QTest::keyClick(*panel, Qt::Key_Q, Qt::ControlModifier);
+    runUntil([this] { return !delegate.environment()->panel().isVisible(); });
+}
+
 TEST_F(AppDelegateTest, TheSettingsComeInPlaceOfThePanel) {
     run();
     instance->onAction(QStringLiteral("open-panel"));
