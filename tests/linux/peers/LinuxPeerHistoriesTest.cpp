@@ -65,6 +65,14 @@ protected:
     [[nodiscard]] QString path(const char* name) const { return home.filePath(QString::fromUtf8(name)); }
     /// Klipper as it is since Plasma 6.3.
     void moveToPlasma6() const { copyTree(path("plasma6"), folders.data); }
+    /// Klipper's database, changed by `sql`, as Klipper has it open: to be closed.
+    [[nodiscard]] sqlite3* openKlipper(const char* sql) const {
+        sqlite3* database = nullptr;
+        const QString file = folders.data + QStringLiteral("/klipper/history3.sqlite");
+        EXPECT_EQ(sqlite3_open(QFile::encodeName(file).constData(), &database), SQLITE_OK);
+        EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK);
+        return database;
+    }
     static void write(const QString& path, const QByteArray& bytes) {
         QDir().mkpath(QFileInfo(path).path());
         QFile file(path);
@@ -341,14 +349,8 @@ TEST_F(LinuxPeerHistoriesTest, KlippersDatabaseIsPreferredAndKnowsTimes) {
 
 TEST_F(LinuxPeerHistoriesTest, WhatKlipperHasOnlyInItsLogIsSeen) {
     moveToPlasma6();
-    sqlite3* database = nullptr;
-    ASSERT_EQ(sqlite3_open(QFile::encodeName(folders.data + QStringLiteral("/klipper/history3.sqlite")).constData(),
-                           &database),
-              SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(database,
-                           "INSERT INTO main VALUES('00ff', 1795000020, 1795000020, 'text/plain', 'logged', 0)",
-                           nullptr, nullptr, nullptr),
-              SQLITE_OK);
+    sqlite3* database =
+        openKlipper("INSERT INTO main VALUES('00ff', 1795000020, 1795000020, 'text/plain', 'logged', 0)");
     const auto before = traces(folders.data);
     EXPECT_EQ(textOf(clips("klipper").front()), "logged") << "without files its column counts";
     EXPECT_EQ(traces(folders.data), before) << "while Klipper has it open";
@@ -357,15 +359,8 @@ TEST_F(LinuxPeerHistoriesTest, WhatKlipperHasOnlyInItsLogIsSeen) {
 
 TEST_F(LinuxPeerHistoriesTest, AColumnThatIsWorkedOutIsNotBelieved) {
     moveToPlasma6();
-    sqlite3* database = nullptr;
-    ASSERT_EQ(sqlite3_open(QFile::encodeName(folders.data + QStringLiteral("/klipper/history3.sqlite")).constData(),
-                           &database),
-              SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(database,
-                           "ALTER TABLE main RENAME COLUMN text TO plain;"
-                           "ALTER TABLE main ADD COLUMN text TEXT AS (hex(zeroblob(90000000)))",
-                           nullptr, nullptr, nullptr),
-              SQLITE_OK);
+    sqlite3* database = openKlipper("ALTER TABLE main RENAME COLUMN text TO plain;"
+                                    "ALTER TABLE main ADD COLUMN text TEXT AS (hex(zeroblob(90000000)))");
     sqlite3_close(database);
     EXPECT_TRUE(clips("klipper").empty());
     EXPECT_TRUE(wasDamaged);
