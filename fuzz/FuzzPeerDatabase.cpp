@@ -9,7 +9,7 @@ using namespace vellumry;
 
 /// The history of Klipper since Plasma 6.3: SQLite's own reading of a damaged file, and ours of what it finds there.
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
-    static const QTemporaryDir place(QStringLiteral("/dev/shm/vellumry-fuzz-XXXXXX"));
+    static const QTemporaryDir place(QStringLiteral("/dev/shm/vellumry-fuzz-"));
     static const QString scratch = [] {
         QDir(place.path()).mkdir(QStringLiteral("scratch"));
         return place.filePath(QStringLiteral("scratch"));

@@ -64,8 +64,8 @@ KlipperDatabaseHistory::open(const QString& folder, const QString& scratch) {
     auto database = ForeignFile::open(folder + QStringLiteral("/history3.sqlite"), largestDatabase);
     if (!database)
         return std::unexpected(stateOf(database.error()));
-    // QTemporaryDir replaces the six letters, makes the folder with mode 700 and removes it with its content.
-    const QTemporaryDir copy(scratch + QStringLiteral("/vellumry-XXXXXX"));
+    // QTemporaryDir completes the name, makes the folder with mode 700 and removes it with its content.
+    const QTemporaryDir copy(scratch + QStringLiteral("/vellumry-"));
     const QString path = copy.filePath(QStringLiteral("history3.sqlite"));
     if (!copy.isValid() || !copyFile(*database, path))
         return std::unexpected(PeerHistory::State::unreadable);

@@ -7,9 +7,9 @@
 namespace vellumry {
 
 std::unique_ptr<PrivateFiles> PrivateFiles::write(const std::vector<DragSource::File>& files) {
-    // Gone at the latest with the session, even when the program is killed. QTemporaryDir replaces the six letters.
+    // Gone at the latest with the session, even when the program is killed. QTemporaryDir completes the name.
     const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    std::unique_ptr<PrivateFiles> written(new PrivateFiles(runtime + QStringLiteral("/vellumry-drag-XXXXXX")));
+    std::unique_ptr<PrivateFiles> written(new PrivateFiles(runtime + QStringLiteral("/vellumry-drag-")));
     if (!written->m_folder.isValid())
         return nullptr;
     for (const DragSource::File& file : files) {
