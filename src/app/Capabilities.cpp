@@ -25,11 +25,11 @@ Capability extension(const char* name, bool isThere, const char* without) {
 
 Capability windowManager(XlibConnection& connection) {
     const QString name = QStringLiteral("window manager");
-    const auto windows = XWindowProperties::numbers(connection, connection.root(), "_NET_SUPPORTING_WM_CHECK");
-    if (windows.empty() || !XWindowProperties::exists(connection, windows.front()))
+    const auto windows = windowproperties::numbers(connection, connection.root(), "_NET_SUPPORTING_WM_CHECK");
+    if (windows.empty() || !windowproperties::exists(connection, windows.front()))
         return Capability::without(name,
                                    QStringLiteral("none, or one that does not say so: the focus is handled by us"));
-    return Capability::found(name, XWindowProperties::text(connection, windows.front(), "_NET_WM_NAME"));
+    return Capability::found(name, windowproperties::text(connection, windows.front(), "_NET_WM_NAME"));
 }
 
 QDBusMessage asked(const QDBusConnection& bus, const QString& method, const QVariantList& arguments) {

@@ -4,7 +4,7 @@
 #include <QHash>
 #include <initializer_list>
 
-namespace vellumry::ApplicationIdentifiers {
+namespace vellumry::applicationids {
 
 namespace {
 
@@ -108,4 +108,4 @@ std::optional<QString> standing(const QString& linuxName) {
     return found == table().cend() ? std::nullopt : std::optional(*found);
 }
 
-} // namespace vellumry::ApplicationIdentifiers
+} // namespace vellumry::applicationids

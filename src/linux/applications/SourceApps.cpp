@@ -26,7 +26,7 @@ SourceApp sourceAppOf(const ApplicationHints& hints, const DesktopEntryIndex& in
     const QString id = entry.has_value() ? entry->id : firstOf({hints.applicationID, hints.className, hints.program});
     SourceApp source;
     for (const QString& name : {id, hints.applicationID, hints.className, hints.instanceName}) {
-        source.bundleID = ApplicationIdentifiers::standing(name);
+        source.bundleID = applicationids::standing(name);
         if (source.bundleID.has_value())
             break;
     }

@@ -65,7 +65,7 @@ std::vector<InstalledApplication> installedApplications(const DesktopEntryIndex&
     std::vector<InstalledApplication> applications;
     QSet<QString> known;
     for (const DesktopEntry& entry : index.entries()) {
-        const QString identifier = ApplicationIdentifiers::standing(entry.id).value_or(entry.id);
+        const QString identifier = applicationids::standing(entry.id).value_or(entry.id);
         if (entry.isHidden || known.contains(identifier))
             continue;
         known.insert(identifier);

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <utility>
 
-namespace vellumry::KeyCodes {
+namespace vellumry::keycodes {
 
 namespace {
 
@@ -60,4 +60,4 @@ std::optional<char16_t> letter(KeyCode key) {
     return letters[number];
 }
 
-} // namespace vellumry::KeyCodes
+} // namespace vellumry::keycodes

@@ -9,7 +9,7 @@
 
 /// The two numberings of a keyboard's physical keys: the program's own `KeyCode` and the evdev codes of
 /// linux/input-event-codes.h. An X key code is the evdev code and 8. Pure functions; any thread.
-namespace vellumry::KeyCodes {
+namespace vellumry::keycodes {
 
 inline constexpr quint32 count = 128;
 /// X numbers its keys from 8 on.
@@ -26,4 +26,4 @@ inline constexpr quint32 xOffset = 8;
     return std::views::iota(0U, count) | std::views::transform([](quint32 number) { return KeyCode(number); });
 }
 
-} // namespace vellumry::KeyCodes
+} // namespace vellumry::keycodes

@@ -13,11 +13,11 @@ namespace {
 /// The key that types `letter`, its place on a US keyboard first.
 std::optional<quint32> keyTyping(char16_t letter, KeyCode ownKey,
                                  const std::function<std::optional<char16_t>(quint32)>& typed) {
-    const auto own = KeyCodes::evdevCode(ownKey);
+    const auto own = keycodes::evdevCode(ownKey);
     if (own.has_value() && typed(*own) == letter)
         return own;
-    for (const KeyCode key : KeyCodes::all()) {
-        const auto code = KeyCodes::evdevCode(key);
+    for (const KeyCode key : keycodes::all()) {
+        const auto code = keycodes::evdevCode(key);
         if (code.has_value() && typed(*code) == letter)
             return code;
     }
@@ -28,15 +28,15 @@ std::optional<quint32> keyTyping(char16_t letter, KeyCode ownKey,
 
 KeyPositions::KeyPositions(const std::function<std::optional<char16_t>(quint32)>& typed) {
     std::set<quint32> taken;
-    for (const KeyCode key : KeyCodes::all()) {
-        const auto letter = KeyCodes::letter(key);
+    for (const KeyCode key : keycodes::all()) {
+        const auto letter = keycodes::letter(key);
         const auto code = letter.has_value() ? keyTyping(*letter, key, typed) : std::nullopt;
         if (code.has_value() && taken.insert(*code).second)
             m_evdevCodes[std::to_underlying(key)] = *code;
     }
     std::vector<KeyCode> withoutKey;
-    for (const KeyCode key : KeyCodes::all()) {
-        const auto place = KeyCodes::evdevCode(key);
+    for (const KeyCode key : keycodes::all()) {
+        const auto place = keycodes::evdevCode(key);
         if (m_evdevCodes[std::to_underlying(key)] != 0 || !place.has_value())
             continue;
         if (taken.insert(*place).second)
@@ -45,8 +45,8 @@ KeyPositions::KeyPositions(const std::function<std::optional<char16_t>(quint32)>
             withoutKey.push_back(key);
     }
     auto unused = withoutKey.begin();
-    for (const KeyCode key : KeyCodes::all()) {
-        const auto place = KeyCodes::evdevCode(key);
+    for (const KeyCode key : keycodes::all()) {
+        const auto place = keycodes::evdevCode(key);
         if (unused != withoutKey.end() && place.has_value() && taken.insert(*place).second)
             m_evdevCodes[std::to_underlying(*unused++)] = *place;
     }

@@ -22,7 +22,7 @@ public:
     [[nodiscard]] std::optional<KeyCode> keyCode(quint32 evdevCode) const;
 
 private:
-    std::array<quint32, KeyCodes::count> m_evdevCodes{}; ///< by key code
+    std::array<quint32, keycodes::count> m_evdevCodes{}; ///< by key code
 };
 
 } // namespace vellumry

@@ -4,7 +4,7 @@
 #include <QSet>
 #include <algorithm>
 
-namespace vellumry::TerminalApps {
+namespace vellumry::terminalapps {
 
 namespace {
 
@@ -103,4 +103,4 @@ bool looksFirst(const QStringList& names) {
     });
 }
 
-} // namespace vellumry::TerminalApps
+} // namespace vellumry::terminalapps

@@ -6,7 +6,7 @@
 
 /// Which applications are terminals: they paste on Shift+Insert, and leave Ctrl+V to the program that runs in them.
 /// Pure function; any thread.
-namespace vellumry::TerminalApps {
+namespace vellumry::terminalapps {
 
 /// True when one of an application's names (window class, instance) is known for a terminal's. `userNames` are the
 /// user's own additions; one with "!" before it is no terminal whatever the built-in list says. Case does not count,
@@ -17,4 +17,4 @@ namespace vellumry::TerminalApps {
 /// text.
 [[nodiscard]] bool looksFirst(const QStringList& names);
 
-} // namespace vellumry::TerminalApps
+} // namespace vellumry::terminalapps

@@ -23,13 +23,13 @@ TEST(ApplicationIdentifiers, KnownApplicationsStandUnderTheNamesOfTheLists) {
         {QStringLiteral("org.kde.spectacle"), QStringLiteral("com.apple.screencaptureui")},
     };
     for (const auto& [name, identifier] : expected)
-        EXPECT_EQ(ApplicationIdentifiers::standing(name), identifier) << name.toStdString();
+        EXPECT_EQ(applicationids::standing(name), identifier) << name.toStdString();
 }
 
 TEST(ApplicationIdentifiers, OthersKeepTheirOwn) {
-    EXPECT_EQ(ApplicationIdentifiers::standing(QStringLiteral("org.gnome.Terminal")), std::nullopt);
-    EXPECT_EQ(ApplicationIdentifiers::standing(QStringLiteral("firefox-esr")), std::nullopt);
-    EXPECT_EQ(ApplicationIdentifiers::standing(QString()), std::nullopt);
+    EXPECT_EQ(applicationids::standing(QStringLiteral("org.gnome.Terminal")), std::nullopt);
+    EXPECT_EQ(applicationids::standing(QStringLiteral("firefox-esr")), std::nullopt);
+    EXPECT_EQ(applicationids::standing(QString()), std::nullopt);
 }
 
 } // namespace vellumry

@@ -5,7 +5,7 @@ namespace vellumry {
 
 std::optional<KeyCode> WaylandKeyboardLayout::keyCodeFor(QChar character) const {
     const QString wanted(character.toLower());
-    for (const KeyCode key : KeyCodes::all()) {
+    for (const KeyCode key : keycodes::all()) {
         if (charactersFor(key) == wanted)
             return key;
     }
@@ -18,9 +18,9 @@ std::optional<QString> WaylandKeyboardLayout::charactersFor(KeyCode keyCode) con
 }
 
 std::optional<KeyCode> WaylandKeyboardLayout::keyCodeOfScanCode(quint32 nativeScanCode) const {
-    if (nativeScanCode < KeyCodes::xOffset)
+    if (nativeScanCode < keycodes::xOffset)
         return std::nullopt;
-    return m_keymap->positions().keyCode(nativeScanCode - KeyCodes::xOffset);
+    return m_keymap->positions().keyCode(nativeScanCode - keycodes::xOffset);
 }
 
 } // namespace vellumry

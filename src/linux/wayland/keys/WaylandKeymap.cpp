@@ -108,7 +108,7 @@ QByteArray WaylandKeymap::text() const {
 std::optional<char16_t> WaylandKeymap::typed(quint32 evdevCode, quint32 layout) const {
     const xkb_keysym_t* symbols = nullptr;
     if (!m_keymap ||
-        xkb_keymap_key_get_syms_by_level(m_keymap.get(), evdevCode + KeyCodes::xOffset, layout, 0, &symbols) != 1)
+        xkb_keymap_key_get_syms_by_level(m_keymap.get(), evdevCode + keycodes::xOffset, layout, 0, &symbols) != 1)
         return std::nullopt;
     const quint32 character = xkb_keysym_to_utf32(symbols[0]);
     if (character < 0x20 || character > 0xFFFF || character == 0x7F)

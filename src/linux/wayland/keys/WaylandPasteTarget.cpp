@@ -66,7 +66,7 @@ void WaylandPasteTarget::pressPaste() {
 bool WaylandPasteTarget::isTerminalInFront() const {
     const WaylandWindows::Window* window = m_focus->inFront();
     const QStringList userNames = m_options.terminalApps ? m_options.terminalApps() : QStringList();
-    return window != nullptr && TerminalApps::contains({window->applicationID}, userNames);
+    return window != nullptr && terminalapps::contains({window->applicationID}, userNames);
 }
 
 } // namespace vellumry

@@ -65,16 +65,16 @@ unsigned int X11Keymap::latinGroup() const {
 
 KeyPositions X11Keymap::positions() const {
     const unsigned int group = latinGroup();
-    return KeyPositions([this, group](quint32 evdevCode) { return typed(evdevCode + KeyCodes::xOffset, group); });
+    return KeyPositions([this, group](quint32 evdevCode) { return typed(evdevCode + keycodes::xOffset, group); });
 }
 
 std::optional<quint32> X11Keymap::keycodeFor(KeyCode key) const {
     const auto code = positions().evdevCode(key);
-    return code.has_value() ? std::optional(*code + KeyCodes::xOffset) : std::nullopt;
+    return code.has_value() ? std::optional(*code + keycodes::xOffset) : std::nullopt;
 }
 
 std::optional<KeyCode> X11Keymap::keyOf(quint32 keycode) const {
-    return keycode < KeyCodes::xOffset ? std::nullopt : positions().keyCode(keycode - KeyCodes::xOffset);
+    return keycode < keycodes::xOffset ? std::nullopt : positions().keyCode(keycode - keycodes::xOffset);
 }
 
 std::optional<QString> X11Keymap::charactersFor(quint32 keycode) const {

@@ -18,8 +18,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr quint32 placeOfV = KEY_V + KeyCodes::xOffset;
-constexpr quint32 placeOfInsert = KEY_INSERT + KeyCodes::xOffset;
+constexpr quint32 placeOfV = KEY_V + keycodes::xOffset;
+constexpr quint32 placeOfInsert = KEY_INSERT + keycodes::xOffset;
 
 /// A change of layout comes as a handful of notices.
 constexpr auto grabAgainDelay = 50ms;

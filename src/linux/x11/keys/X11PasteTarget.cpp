@@ -26,7 +26,7 @@ constexpr std::chrono::milliseconds keyboardLook{15};
 constexpr int mostKeyboardLooks = 40;
 
 constexpr quint32 placeOf(quint32 evdevCode) {
-    return evdevCode + KeyCodes::xOffset;
+    return evdevCode + keycodes::xOffset;
 }
 
 } // namespace
@@ -57,7 +57,7 @@ QCoro::Task<bool> X11PasteTarget::isSecureInput() {
         co_return true;
     if (!m_options.isPasswordField)
         co_return false;
-    auto asking = m_options.isPasswordField(XWindowProperties::processOf(*m_connection, windowInFront()));
+    auto asking = m_options.isPasswordField(windowproperties::processOf(*m_connection, windowInFront()));
     co_return co_await asking;
 }
 
@@ -103,7 +103,7 @@ void X11PasteTarget::pressPaste() {
     const bool isTerminal = isTerminalInFront();
     const bool hasPrimary = isTerminal && m_options.offerAsPrimary && m_options.offerAsPrimary();
     if (KeyInjector* keys = injector()) {
-        const quint32 paste = hasPrimary ? KEY_INSERT : letter - KeyCodes::xOffset;
+        const quint32 paste = hasPrimary ? KEY_INSERT : letter - keycodes::xOffset;
         std::vector<KeyInjector::Modifier> modifiers;
         if (!hasPrimary)
             modifiers.push_back({KEY_LEFTCTRL, XKB_MOD_NAME_CTRL});
@@ -126,22 +126,22 @@ void X11PasteTarget::pressPaste() {
 }
 
 XWindow X11PasteTarget::windowInFront() const {
-    const XWindow client = XWindowProperties::clientOf(*m_connection, XWindowProperties::focusWindow(*m_connection));
-    return client != 0 ? client : XWindowProperties::activeWindow(*m_connection);
+    const XWindow client = windowproperties::clientOf(*m_connection, windowproperties::focusWindow(*m_connection));
+    return client != 0 ? client : windowproperties::activeWindow(*m_connection);
 }
 
 QStringList X11PasteTarget::namesInFront() const {
-    const auto windowClass = XWindowProperties::windowClass(*m_connection, windowInFront());
+    const auto windowClass = windowproperties::windowClass(*m_connection, windowInFront());
     return {windowClass.name, windowClass.instance};
 }
 
 bool X11PasteTarget::isTerminalInFront() const {
     const QStringList userNames = m_options.terminalApps ? m_options.terminalApps() : QStringList();
-    return TerminalApps::contains(namesInFront(), userNames);
+    return terminalapps::contains(namesInFront(), userNames);
 }
 
 bool X11PasteTarget::looksFirst() const {
-    return TerminalApps::looksFirst(namesInFront());
+    return terminalapps::looksFirst(namesInFront());
 }
 
 // Every key, not only the modifiers: a key that is down cannot be pressed once more. The user's own release later goes
@@ -150,7 +150,7 @@ bool X11PasteTarget::looksFirst() const {
 void X11PasteTarget::releaseHeldKeys() {
     char down[X11Keymap::keyCount / 8];
     XQueryKeymap(m_connection->display(), down);
-    for (quint32 key = KeyCodes::xOffset; key < X11Keymap::keyCount; ++key) {
+    for (quint32 key = keycodes::xOffset; key < X11Keymap::keyCount; ++key) {
         if ((down[key / 8] & (1 << (key % 8))) != 0)
             XTestFakeKeyEvent(m_connection->display(), key, False, CurrentTime);
     }

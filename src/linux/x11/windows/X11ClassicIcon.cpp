@@ -78,7 +78,7 @@ void X11ClassicIcon::lookForTray() {
 
 void X11ClassicIcon::makeWindow() {
     Display* display = m_connection->display();
-    const auto numbers = XWindowProperties::numbers(*m_connection, m_tray, "_NET_SYSTEM_TRAY_VISUAL");
+    const auto numbers = windowproperties::numbers(*m_connection, m_tray, "_NET_SYSTEM_TRAY_VISUAL");
     const auto visual = numbers.empty() ? std::nullopt : translucentVisual(display, numbers.front());
     XSetWindowAttributes attributes{};
     attributes.event_mask = ExposureMask | StructureNotifyMask | ButtonReleaseMask;

@@ -45,8 +45,8 @@ void X11Focus::remember() {
         return;
     forget();
     XGetInputFocus(m_connection->display(), &m_focus, &m_revertTo);
-    m_active = XWindowProperties::activeWindow(*m_connection);
-    m_client = XWindowProperties::clientOf(*m_connection, m_focus);
+    m_active = windowproperties::activeWindow(*m_connection);
+    m_client = windowproperties::clientOf(*m_connection, m_focus);
     if (m_focus > 1)
         m_connection->listen(m_focus, focusEvents);
 }
@@ -70,7 +70,7 @@ void X11Focus::giveBack(XWindow ours, unsigned long time) {
         m_topLevels = topLevels();
     // A window manager gives the keyboard to any window when the remembered one closes. What the user chose for that
     // one must not be typed into another, so it stays remembered for its while.
-    if (XWindowProperties::focusWindow(*m_connection) != ours)
+    if (windowproperties::focusWindow(*m_connection) != ours)
         return;
     Display* display = m_connection->display();
     XErrorTrap trap(display);
@@ -138,7 +138,7 @@ XWindow X11Focus::topLevelOf(XWindow window) const {
 void X11Focus::hold() {
     if (m_holdsLeft == 0 || !m_givenBack || m_clock() - *m_givenBack > heldFor)
         return;
-    const XWindow focus = XWindowProperties::focusWindow(*m_connection);
+    const XWindow focus = windowproperties::focusWindow(*m_connection);
     if (isSameClient(focus))
         return;
     // A window that opened since takes the keyboard by right, wherever the pointer lies.
@@ -178,18 +178,18 @@ bool X11Focus::isSameClient(XWindow focus) {
         return true;
     if (focus <= 1 || m_client == 0)
         return false;
-    return XWindowProperties::clientOf(*m_connection, focus) == m_client;
+    return windowproperties::clientOf(*m_connection, focus) == m_client;
 }
 
 X11Focus::Standing X11Focus::standing() {
-    const XWindow focus = XWindowProperties::focusWindow(*m_connection);
+    const XWindow focus = windowproperties::focusWindow(*m_connection);
     if (!isRemembered())
         return focus == 0 ? Standing::away : Standing::returned;
     if (isSameClient(focus))
         return Standing::returned;
     // A toolkit may have made its inner focus window anew; the program's own window is what counts.
     const XWindow lasting = m_client != 0 ? m_client : m_focus;
-    return lasting > 1 && !XWindowProperties::exists(*m_connection, lasting) ? Standing::gone : Standing::away;
+    return lasting > 1 && !windowproperties::exists(*m_connection, lasting) ? Standing::gone : Standing::away;
 }
 
 void X11Focus::handleEvent(XEvent* event) {

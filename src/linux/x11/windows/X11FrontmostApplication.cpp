@@ -52,11 +52,11 @@ void X11FrontmostApplication::handleEvent(XEvent* event) {
 }
 
 void X11FrontmostApplication::follow() {
-    const XWindow active = XWindowProperties::activeWindow(*m_connection);
+    const XWindow active = windowproperties::activeWindow(*m_connection);
     const bool isKnown = active == m_window && m_hints != ApplicationHints();
     if (active <= 1 || isKnown)
         return;
-    const qint64 process = XWindowProperties::processOf(*m_connection, active);
+    const qint64 process = windowproperties::processOf(*m_connection, active);
     if (process == QCoreApplication::applicationPid())
         return;
     if (m_window != 0)
@@ -69,11 +69,11 @@ void X11FrontmostApplication::follow() {
 }
 
 ApplicationHints X11FrontmostApplication::hintsOf(XWindow window, qint64 process) const {
-    const auto windowClass = XWindowProperties::windowClass(*m_connection, window);
+    const auto windowClass = windowproperties::windowClass(*m_connection, window);
     ApplicationHints hints;
     hints.applicationID =
-        firstOf({XWindowProperties::text(*m_connection, window, "_GTK_APPLICATION_ID"),
-                 XWindowProperties::text(*m_connection, window, "_KDE_NET_WM_DESKTOP_FILE"), sandboxedID(process)});
+        firstOf({windowproperties::text(*m_connection, window, "_GTK_APPLICATION_ID"),
+                 windowproperties::text(*m_connection, window, "_KDE_NET_WM_DESKTOP_FILE"), sandboxedID(process)});
     hints.className = windowClass.name;
     hints.instanceName = windowClass.instance;
     if (process > 0)
@@ -105,7 +105,7 @@ SourceApp X11FrontmostApplication::pasteboardOwner() const {
     const XWindow named = owner <= 1 ? 0 : namedWindowOfClient(owner);
     if (named == 0)
         return {};
-    const qint64 process = XWindowProperties::processOf(*m_connection, named);
+    const qint64 process = windowproperties::processOf(*m_connection, named);
     if (process == QCoreApplication::applicationPid())
         return {};
     return applicationOf(hintsOf(named, process));
@@ -114,8 +114,8 @@ SourceApp X11FrontmostApplication::pasteboardOwner() const {
 /// The client's window that bears a class: among those that the window manager knows, iconified ones included, and
 /// among those it does not, the hidden ones. 0 for a client without any.
 XWindow X11FrontmostApplication::namedWindowOfClient(XWindow window) const {
-    for (const XWindow candidate : XWindowProperties::windowsOfClient(*m_connection, window)) {
-        if (XWindowProperties::windowClass(*m_connection, candidate) != XWindowProperties::WindowClass())
+    for (const XWindow candidate : windowproperties::windowsOfClient(*m_connection, window)) {
+        if (windowproperties::windowClass(*m_connection, candidate) != windowproperties::WindowClass())
             return candidate;
     }
     return 0;

@@ -182,7 +182,7 @@ bool X11PanelSurface::isOverPassiveWindow() const {
 }
 
 bool X11PanelSurface::reducesMotion() const {
-    return XSettings::integer(*m_connection, "Gtk/EnableAnimations") == 0;
+    return xsettings::integer(*m_connection, "Gtk/EnableAnimations") == 0;
 }
 
 // Raw button presses are told whichever window gets the click. Where no window takes the keyboard on a click (the bare
@@ -227,7 +227,7 @@ void X11PanelSurface::handleEvent(XEvent* event) {
     const bool isLost = event->type == FocusOut && event->xfocus.window == m_presentedID &&
                         event->xfocus.mode != NotifyGrab && event->xfocus.mode != NotifyUngrab &&
                         event->xfocus.detail != NotifyPointer && event->xfocus.detail != NotifyInferior;
-    if (isLost && XWindowProperties::focusWindow(*m_connection) != m_presentedID)
+    if (isLost && windowproperties::focusWindow(*m_connection) != m_presentedID)
         loseFocus();
 }
 

@@ -123,10 +123,10 @@ QSize X11Screens::desktopSize() const {
 
 std::vector<X11Screens::Strut> X11Screens::struts(QSize desktop) const {
     std::vector<Strut> all;
-    for (const XWindow window : XWindowProperties::numbers(*m_connection, m_connection->root(), "_NET_CLIENT_LIST")) {
-        auto numbers = XWindowProperties::numbers(*m_connection, window, "_NET_WM_STRUT_PARTIAL");
+    for (const XWindow window : windowproperties::numbers(*m_connection, m_connection->root(), "_NET_CLIENT_LIST")) {
+        auto numbers = windowproperties::numbers(*m_connection, window, "_NET_WM_STRUT_PARTIAL");
         if (numbers.empty())
-            numbers = XWindowProperties::numbers(*m_connection, window, "_NET_WM_STRUT");
+            numbers = windowproperties::numbers(*m_connection, window, "_NET_WM_STRUT");
         const std::vector<Strut> found = strutsOf(numbers, desktop);
         all.insert(all.end(), found.begin(), found.end());
     }
@@ -134,8 +134,8 @@ std::vector<X11Screens::Strut> X11Screens::struts(QSize desktop) const {
 }
 
 QRect X11Screens::workArea() const {
-    const auto areas = XWindowProperties::numbers(*m_connection, m_connection->root(), "_NET_WORKAREA");
-    const auto desktops = XWindowProperties::numbers(*m_connection, m_connection->root(), "_NET_CURRENT_DESKTOP");
+    const auto areas = windowproperties::numbers(*m_connection, m_connection->root(), "_NET_WORKAREA");
+    const auto desktops = windowproperties::numbers(*m_connection, m_connection->root(), "_NET_CURRENT_DESKTOP");
     // Four values a desktop; some window managers give one desktop's for all.
     size_t at = desktops.empty() ? 0 : desktops.front() * 4;
     if (at + 4 > areas.size())

@@ -9,7 +9,7 @@
 
 #include <X11/Xlib.h>
 
-namespace vellumry::XSettings {
+namespace vellumry::xsettings {
 
 namespace {
 
@@ -132,4 +132,4 @@ std::optional<qint32> integer(XlibConnection& connection, QByteArrayView name) {
     return integerIn(property(connection), name);
 }
 
-} // namespace vellumry::XSettings
+} // namespace vellumry::xsettings

@@ -9,7 +9,7 @@
 
 /// What the desktop tells its applications about the user's choices (freedesktop.org XSETTINGS registry 0.5). Nothing
 /// where no desktop does.
-namespace vellumry::XSettings {
+namespace vellumry::xsettings {
 
 /// The number under `name` in the manager's property. Nothing where there is none, for another kind of value, and for
 /// bytes that are not such a property. Pure; any thread.
@@ -26,4 +26,4 @@ namespace vellumry::XSettings {
 /// The number that the manager of the connection's screen has under `name` now. Main thread; asks the server alone.
 [[nodiscard]] std::optional<qint32> integer(XlibConnection& connection, QByteArrayView name);
 
-} // namespace vellumry::XSettings
+} // namespace vellumry::xsettings

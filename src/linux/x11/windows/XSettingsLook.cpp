@@ -33,19 +33,19 @@ XSettingsLook::~XSettingsLook() {
 void XSettingsLook::followManager() {
     if (m_manager != 0)
         m_connection->ignore(m_manager, managerEvents);
-    m_manager = XSettings::manager(*m_connection);
+    m_manager = xsettings::manager(*m_connection);
     if (m_manager != 0)
         m_connection->listen(m_manager, managerEvents);
     read();
 }
 
 void XSettingsLook::read() {
-    const QByteArray property = XSettings::property(*m_connection);
+    const QByteArray property = xsettings::property(*m_connection);
     const auto text = [&property](const char* name) {
-        return QString::fromUtf8(XSettings::textIn(property, name).value_or(QByteArray()));
+        return QString::fromUtf8(xsettings::textIn(property, name).value_or(QByteArray()));
     };
     SaidLook said = lookOfNames(text("Net/ThemeName"), text("Gtk/FontName"));
-    if (const auto animations = XSettings::integerIn(property, "Gtk/EnableAnimations"))
+    if (const auto animations = xsettings::integerIn(property, "Gtk/EnableAnimations"))
         said.reducesMotion = *animations == 0;
     if (std::exchange(m_said, said) != said)
         m_onChanged(said);

@@ -9,7 +9,7 @@
 #include <X11/Xlib-xcb.h>
 #include <X11/Xlib.h>
 
-namespace vellumry::XWindowProperties {
+namespace vellumry::windowproperties {
 
 namespace {
 
@@ -152,4 +152,4 @@ bool exists(XlibConnection& connection, XWindow window) {
     return XGetWindowAttributes(connection.display(), window, &attributes) != 0;
 }
 
-} // namespace vellumry::XWindowProperties
+} // namespace vellumry::windowproperties

@@ -8,7 +8,7 @@
 
 /// What windows of other programs say about themselves. Every answer is empty when the window is gone. Names and
 /// meanings are those of the ICCCM and of the freedesktop.org window manager specification.
-namespace vellumry::XWindowProperties {
+namespace vellumry::windowproperties {
 
 /// WM_CLASS.
 struct WindowClass {
@@ -39,4 +39,4 @@ struct WindowClass {
 /// True when the window exists.
 [[nodiscard]] bool exists(XlibConnection& connection, XWindow window);
 
-} // namespace vellumry::XWindowProperties
+} // namespace vellumry::windowproperties

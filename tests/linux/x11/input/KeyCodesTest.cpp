@@ -39,12 +39,12 @@ const Layout russian{u"йцукенгшщзхъ", u"фывапролджэ", u"�
 } // namespace
 
 TEST(KeyCodes, ShortcutsOfTheProgramAreWhereTheyAreOnAKeyboard) {
-    EXPECT_EQ(KeyCodes::evdevCode(KeyCode::v), quint32(KEY_V));
-    EXPECT_EQ(KeyCodes::evdevCode(KeyCode::s), quint32(KEY_S));
+    EXPECT_EQ(keycodes::evdevCode(KeyCode::v), quint32(KEY_V));
+    EXPECT_EQ(keycodes::evdevCode(KeyCode::s), quint32(KEY_S));
     const std::map<quint32, quint32> digits = {{18, KEY_1}, {19, KEY_2}, {20, KEY_3}, {21, KEY_4}, {23, KEY_5},
                                                {22, KEY_6}, {26, KEY_7}, {28, KEY_8}, {25, KEY_9}};
     for (const auto& [number, code] : digits)
-        EXPECT_EQ(KeyCodes::evdevCode(KeyCode(number)), code);
+        EXPECT_EQ(keycodes::evdevCode(KeyCode(number)), code);
 }
 
 TEST(KeyCodes, NamedKeysAreThoseOfTheKeyNames) {
@@ -53,49 +53,49 @@ TEST(KeyCodes, NamedKeysAreThoseOfTheKeyNames) {
         {116, KEY_PAGEUP}, {117, KEY_DELETE}, {119, KEY_END},  {121, KEY_PAGEDOWN}, {122, KEY_F1}, {111, KEY_F12},
         {123, KEY_LEFT},   {124, KEY_RIGHT},  {125, KEY_DOWN}, {126, KEY_UP}};
     for (const auto& [number, code] : named)
-        EXPECT_EQ(KeyCodes::evdevCode(KeyCode(number)), code) << number;
+        EXPECT_EQ(keycodes::evdevCode(KeyCode(number)), code) << number;
 }
 
 TEST(KeyCodes, ModifiersStandWhereTheProgramHasThem) {
-    EXPECT_EQ(KeyCodes::evdevCode(KeyCode::command), quint32(KEY_LEFTCTRL));
-    EXPECT_EQ(KeyCodes::evdevCode(KeyCode::control), quint32(KEY_LEFTMETA));
-    EXPECT_EQ(KeyCodes::evdevCode(KeyCode::option), quint32(KEY_LEFTALT));
-    EXPECT_EQ(KeyCodes::evdevCode(KeyCode::shift), quint32(KEY_LEFTSHIFT));
+    EXPECT_EQ(keycodes::evdevCode(KeyCode::command), quint32(KEY_LEFTCTRL));
+    EXPECT_EQ(keycodes::evdevCode(KeyCode::control), quint32(KEY_LEFTMETA));
+    EXPECT_EQ(keycodes::evdevCode(KeyCode::option), quint32(KEY_LEFTALT));
+    EXPECT_EQ(keycodes::evdevCode(KeyCode::shift), quint32(KEY_LEFTSHIFT));
 }
 
 TEST(KeyCodes, BothDirectionsAgreeForEveryKey) {
     std::set<quint32> seen;
-    for (const KeyCode key : KeyCodes::all()) {
-        const auto code = KeyCodes::evdevCode(key);
+    for (const KeyCode key : keycodes::all()) {
+        const auto code = keycodes::evdevCode(key);
         if (!code.has_value())
             continue;
         EXPECT_TRUE(seen.insert(*code).second) << std::to_underlying(key);
-        EXPECT_EQ(KeyCodes::keyCode(*code), key);
+        EXPECT_EQ(keycodes::keyCode(*code), key);
     }
     EXPECT_GE(seen.size(), 110U);
 }
 
 TEST(KeyCodes, WhatIsNoKeyHasNoCode) {
-    EXPECT_EQ(KeyCodes::evdevCode(KeyCode(52)), std::nullopt);
-    EXPECT_EQ(KeyCodes::evdevCode(KeyCode(200)), std::nullopt);
-    EXPECT_EQ(KeyCodes::keyCode(0), std::nullopt);
-    EXPECT_EQ(KeyCodes::keyCode(700), std::nullopt);
+    EXPECT_EQ(keycodes::evdevCode(KeyCode(52)), std::nullopt);
+    EXPECT_EQ(keycodes::evdevCode(KeyCode(200)), std::nullopt);
+    EXPECT_EQ(keycodes::keyCode(0), std::nullopt);
+    EXPECT_EQ(keycodes::keyCode(700), std::nullopt);
 }
 
 TEST(KeyCodes, LettersAreThoseOfAUSKeyboard) {
     std::set<char16_t> letters;
-    for (const KeyCode key : KeyCodes::all()) {
-        if (const auto letter = KeyCodes::letter(key)) {
+    for (const KeyCode key : keycodes::all()) {
+        if (const auto letter = keycodes::letter(key)) {
             letters.insert(*letter);
-            EXPECT_EQ(us.typed(*KeyCodes::evdevCode(key)), letter);
+            EXPECT_EQ(us.typed(*keycodes::evdevCode(key)), letter);
         }
     }
     EXPECT_EQ(letters.size(), 26U);
 }
 
 TEST(KeyPositions, OnAUSKeyboardEveryKeyIsInItsPlace) {
-    for (const KeyCode key : KeyCodes::all())
-        EXPECT_EQ(us.positions().evdevCode(key), KeyCodes::evdevCode(key));
+    for (const KeyCode key : keycodes::all())
+        EXPECT_EQ(us.positions().evdevCode(key), keycodes::evdevCode(key));
 }
 
 TEST(KeyPositions, ALetterIsTheKeyThatTypesIt) {
@@ -107,17 +107,17 @@ TEST(KeyPositions, ALetterIsTheKeyThatTypesIt) {
 }
 
 TEST(KeyPositions, WithoutLatinLettersKeysKeepTheirPlaces) {
-    for (const KeyCode key : KeyCodes::all())
-        EXPECT_EQ(russian.positions().evdevCode(key), KeyCodes::evdevCode(key));
+    for (const KeyCode key : keycodes::all())
+        EXPECT_EQ(russian.positions().evdevCode(key), keycodes::evdevCode(key));
 }
 
 TEST(KeyPositions, EveryKeyHasExactlyOneCodeOnEachLayout) {
     for (const Layout& layout : {us, dvorak, french, russian}) {
         const KeyPositions positions = layout.positions();
         std::set<quint32> codes;
-        for (const KeyCode key : KeyCodes::all()) {
+        for (const KeyCode key : keycodes::all()) {
             const auto code = positions.evdevCode(key);
-            ASSERT_EQ(code.has_value(), KeyCodes::evdevCode(key).has_value()) << std::to_underlying(key);
+            ASSERT_EQ(code.has_value(), keycodes::evdevCode(key).has_value()) << std::to_underlying(key);
             if (!code.has_value())
                 continue;
             EXPECT_TRUE(codes.insert(*code).second) << std::to_underlying(key);

@@ -43,7 +43,7 @@ protected:
 
     void show() {
         surface.present(&panel, frame);
-        ASSERT_EQ(XWindowProperties::focusWindow(*connection), panel.winId());
+        ASSERT_EQ(windowproperties::focusWindow(*connection), panel.winId());
     }
 
     /// How many presses and releases have reached the target when it is `expected` or the wait is over.
@@ -125,7 +125,7 @@ TEST_F(FencedPanelTest, TheKeyboardIsTakenOnceTheWindowManagerKnowsThePanel) {
     EXPECT_TRUE(panel.isVisible());
     EXPECT_TRUE(target.hasFocus());
     manager.answer();
-    EXPECT_TRUE(eventually([&] { return XWindowProperties::focusWindow(*connection) == panel.winId(); }));
+    EXPECT_TRUE(eventually([&] { return windowproperties::focusWindow(*connection) == panel.winId(); }));
     client.chord({KEY_A});
     EXPECT_TRUE(eventually([&] { return panel.typed == u"a"; }));
 }
@@ -151,7 +151,7 @@ TEST_F(FencedPanelTest, AnAnswerToAnEarlierQuestionDoesNotCount) {
     EXPECT_TRUE(target.hasFocus());
     manager.takeQuestion();
     manager.answer();
-    EXPECT_TRUE(eventually([&] { return XWindowProperties::focusWindow(*connection) == panel.winId(); }));
+    EXPECT_TRUE(eventually([&] { return windowproperties::focusWindow(*connection) == panel.winId(); }));
 }
 
 TEST_F(FencedPanelTest, AWindowOfTheManagersOwnIsNotGivenTheKeyboard) {
@@ -166,10 +166,10 @@ TEST_F(FencedPanelTest, AWindowOfTheManagersOwnIsNotGivenTheKeyboard) {
     fenced.present(&panel, frame);
     manager.takeQuestion();
     manager.answer();
-    ASSERT_TRUE(eventually([&] { return XWindowProperties::focusWindow(*connection) == panel.winId(); }));
+    ASSERT_TRUE(eventually([&] { return windowproperties::focusWindow(*connection) == panel.winId(); }));
     fenced.dismiss(&panel);
     EXPECT_FALSE(panel.isVisible());
-    EXPECT_NE(XWindowProperties::focusWindow(*connection), own);
+    EXPECT_NE(windowproperties::focusWindow(*connection), own);
 }
 
 TEST_F(X11PanelSurfaceTest, AWindowManagerThatDoesNotAnswerIsNotWaitedForLong) {
@@ -178,7 +178,7 @@ TEST_F(X11PanelSurfaceTest, AWindowManagerThatDoesNotAnswerIsNotWaitedForLong) {
                            std::make_unique<WindowManagerFence>(connection, "VELLUMRY_TEST_SILENT", 10ms));
     fenced.adopt(&panel);
     fenced.present(&panel, frame);
-    EXPECT_TRUE(eventually([&] { return XWindowProperties::focusWindow(*connection) == panel.winId(); }));
+    EXPECT_TRUE(eventually([&] { return windowproperties::focusWindow(*connection) == panel.winId(); }));
     fenced.dismiss(&panel);
 }
 
@@ -187,7 +187,7 @@ TEST_F(X11PanelSurfaceTest, WithoutAWindowManagerThePanelWaitsForNoAnswer) {
                            std::make_unique<WindowManagerFence>(connection, "VELLUMRY_TEST_NONE", 1h));
     fenced.adopt(&panel);
     fenced.present(&panel, frame);
-    EXPECT_TRUE(eventually([&] { return XWindowProperties::focusWindow(*connection) == panel.winId(); }));
+    EXPECT_TRUE(eventually([&] { return windowproperties::focusWindow(*connection) == panel.winId(); }));
     fenced.dismiss(&panel);
 }
 
@@ -341,10 +341,10 @@ TEST_F(X11PanelSurfaceTest, TranslucencyFollowsTheCompositor) {
 }
 
 TEST_F(X11PanelSurfaceTest, ThePanelIsInNoTaskBar) {
-    const auto states = XWindowProperties::numbers(*connection, panel.winId(), "_NET_WM_STATE");
+    const auto states = windowproperties::numbers(*connection, panel.winId(), "_NET_WM_STATE");
     EXPECT_NE(std::find(states.begin(), states.end(), connection->atom("_NET_WM_STATE_SKIP_TASKBAR")), states.end());
     show();
-    const auto managed = XWindowProperties::numbers(*connection, connection->root(), "_NET_CLIENT_LIST");
+    const auto managed = windowproperties::numbers(*connection, connection->root(), "_NET_CLIENT_LIST");
     EXPECT_EQ(std::find(managed.begin(), managed.end(), panel.winId()), managed.end());
 }
 

@@ -43,7 +43,7 @@ bool isManaged(XlibConnection& connection) {
     timer.start();
     bool result = false;
     while (!result && timer.elapsed() < probeMilliseconds)
-        result = !XWindowProperties::numbers(connection, probe, "WM_STATE").empty();
+        result = !windowproperties::numbers(connection, probe, "WM_STATE").empty();
     XDestroyWindow(display, probe);
     XSync(display, False);
     return result;

@@ -7,7 +7,7 @@ namespace vellumry {
 
 namespace {
 
-using XSettings::integerIn;
+using xsettings::integerIn;
 
 /// A number, a text, a colour and another number, lowest byte first.
 QByteArray property() {
