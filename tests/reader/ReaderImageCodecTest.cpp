@@ -5,6 +5,7 @@
 #include "reader/HeifBytes.h"
 #include "reader/PictureBytes.h"
 #include "support/Awaited.h"
+#include "support/LoggedLines.h"
 
 #include <QTimer>
 #include <csignal>
@@ -148,6 +149,7 @@ TEST(ReaderImageCodec, WithoutAReaderSummariesAreEmpty) {
 }
 
 TEST(ReaderImageCodec, GoingAwayEndsAHangingReaderAtOnce) {
+    const LoggedLines log;
     auto codec = std::make_unique<ReaderImageCodec>(fakeReader, std::chrono::hours(1));
     auto first = codec->summarise("hang", 160);
     auto second = codec->summarise("good", 160);
@@ -155,6 +157,7 @@ TEST(ReaderImageCodec, GoingAwayEndsAHangingReaderAtOnce) {
     EXPECT_TRUE(children().isEmpty());
     EXPECT_EQ(awaited(std::move(first)), ImageSummary());
     EXPECT_EQ(awaited(std::move(second)), ImageSummary());
+    EXPECT_EQ(log.count(QtWarningMsg, u"reader"), 0) << "that is no fault of the reader's";
 }
 
 } // namespace

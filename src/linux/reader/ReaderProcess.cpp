@@ -120,6 +120,8 @@ ReaderProcess::Answer ReaderProcess::ask(const QByteArray& picture, readerprotoc
         case Outcome::answered:
             return {reply};
         case Outcome::failed: {
+            if (m_isInterrupted)
+                return {};
             const bool isLate = readersocket::Clock::now() >= end;
             qCWarning(logging::readerProcess)
                 << (isLate ? "the reader of pictures took too long over one" : "the reader of pictures died of one");
@@ -158,6 +160,8 @@ bool ReaderProcess::start() {
             process = m_process = spawn(QFile::encodeName(m_path), m_argument, other.get());
     }
     if (process == 0) {
+        if (m_isInterrupted)
+            return false;
         qCWarning(logging::readerProcess) << "the reader of pictures cannot be started";
         return false;
     }
