@@ -21,6 +21,8 @@ constexpr quint32 oldestVersion = 3;
 constexpr int deepestWindow = 32;
 /// A target that hangs keeps the drag no longer than this.
 constexpr auto statusPatience = 1500ms;
+/// Between two questions to a target that reads what it is offered before it takes it.
+constexpr auto askAgainInterval = 50ms;
 /// One that has taken the drop may read for a while.
 constexpr auto dropPatience = 60s;
 constexpr auto stalledLimit = 30s;
@@ -64,6 +66,9 @@ XdndSession::XdndSession(std::unique_ptr<XcbConnection> connection, std::shared_
             decide(DragSource::End::refused);
         }
     });
+    m_askAgain.setSingleShot(true);
+    m_askAgain.setInterval(askAgainInterval);
+    connect(&m_askAgain, &QTimer::timeout, this, &XdndSession::sendPosition);
 }
 
 /// Becomes the owner of the selection at the server's own time (ICCCM 2.1), which a change of a property tells.
@@ -182,6 +187,7 @@ void XdndSession::leave() {
         send(QStringLiteral("XdndLeave"), 0, 0, 0, 0);
     m_target = {};
     m_isAccepted = false;
+    m_wasRead = false;
     m_awaitsStatus = false;
     m_hasMovedSince = false;
     xcb_flush(m_connection->handle());
@@ -218,12 +224,13 @@ void XdndSession::release() {
         return;
     move();
     m_isReleased = true;
-    if (m_target.window == XCB_NONE)
+    if (m_target.window == XCB_NONE) {
         decide(DragSource::End::refused);
-    else if (!m_awaitsStatus)
+        return;
+    }
+    m_patience.start(statusPatience);
+    if (!m_awaitsStatus)
         handleStatus(m_isAccepted);
-    else
-        m_patience.start(statusPatience);
 }
 
 void XdndSession::cancel() {
@@ -242,6 +249,12 @@ void XdndSession::handleStatus(bool isAccepted) {
     }
     if (!m_isReleased || m_isDecided)
         return;
+    if (!m_isAccepted && m_wasRead) {
+        // File managers refuse until they have read the list of files, and say yes only to the next question. A quick
+        // hand has let go by then.
+        m_askAgain.start();
+        return;
+    }
     if (!m_isAccepted) {
         leave();
         decide(DragSource::End::refused);
@@ -258,6 +271,7 @@ void XdndSession::handleEvents() {
         switch (event->response_type & 0x7F) {
         case XCB_SELECTION_REQUEST: {
             const auto& request = *reinterpret_cast<const xcb_selection_request_event_t*>(event.get());
+            m_wasRead = true;
             if (!handleDirectSave(request))
                 m_owner.handleRequest(request, now);
             break;
@@ -335,6 +349,7 @@ void XdndSession::finish() {
     if (std::exchange(m_isDone, true))
         return;
     m_patience.stop();
+    m_askAgain.stop();
     m_notifier.setEnabled(false);
     xcb_set_selection_owner(m_connection->handle(), XCB_NONE, m_connection->atom(selectionName), m_time);
     xcb_flush(m_connection->handle());

@@ -68,11 +68,13 @@ private:
     std::optional<DragSource::File> m_saved;
     SelectionOwner m_owner;
     QSocketNotifier m_notifier;
-    QTimer m_patience; ///< with a target that does not answer
+    QTimer m_patience; ///< with a target that does not answer, or does not accept
+    QTimer m_askAgain;
     xcb_timestamp_t m_time = XCB_CURRENT_TIME;
     Target m_target;
     quint32 m_place = 0; ///< of the pointer on the root window, x above y
     bool m_isAccepted = false;
+    bool m_wasRead = false; ///< by the target, before the drop
     bool m_awaitsStatus = false;
     bool m_hasMovedSince = false; ///< while a status was awaited
     bool m_isReleased = false;

@@ -138,6 +138,30 @@ TEST_F(X11DragSourceTest, TheDropWaitsForAnAnswerThatIsUnderWay) {
     EXPECT_EQ(ends, std::vector{DragSource::End::dropped});
 }
 
+TEST_F(X11DragSourceTest, AWindowThatReadsBeforeItAcceptsIsAskedAgain) {
+    left->accepts = false;
+    ASSERT_TRUE(beginText());
+    pointAt(50, 50);
+    EXPECT_EQ(ask(peer(), "UTF8_STRING", "XdndSelection").bytes, "dragged");
+    source->release();
+    ASSERT_TRUE(until([&] { return left->heard.count("XdndPosition") > 1; }));
+    EXPECT_TRUE(ends.empty()) << "it has read what it is offered, and may take it";
+    left->accepts = true;
+    ASSERT_TRUE(until([&] { return left->hears("XdndDrop"); }));
+    EXPECT_EQ(ends, std::vector{DragSource::End::dropped});
+}
+
+TEST_F(X11DragSourceTest, AWindowThatReadsAndNeverAcceptsDoesNotKeepTheDrag) {
+    left->accepts = false;
+    ASSERT_TRUE(beginText());
+    pointAt(50, 50);
+    EXPECT_EQ(ask(peer(), "UTF8_STRING", "XdndSelection").bytes, "dragged");
+    source->release();
+    EXPECT_TRUE(until([&] { return !ends.empty(); }));
+    EXPECT_EQ(ends, std::vector{DragSource::End::refused});
+    EXPECT_FALSE(left->hears("XdndDrop"));
+}
+
 TEST_F(X11DragSourceTest, LongContentsGoInIncrements) {
     const QByteArray pattern = patternOf(3'000'000).toHex();
     ASSERT_TRUE(beginText(pattern));
