@@ -29,14 +29,21 @@ def place(window, x=0, y=0, width=500, height=400):
 
 
 def carry(title, where, drop=True):
-    """Presses a row, carries it there and lets go."""
+    """Presses a row, carries it there and, once the drag is seen there, lets go."""
     x, y = middle(row(title))
     run("xdotool", "mousemove", str(x), str(y), "mousedown", "1")
     steps = 12
     for step in range(1, steps + 1):
         run("xdotool", "mousemove", str(x + (where[0] - x) * step // steps), str(y + (where[1] - y) * step // steps))
+    wait_until(lambda: windows("^Vellumry drag$"), "the picture at the pointer")
     if drop:
-        run("xdotool", "mouseup", "1")
+        let_go()
+
+
+def let_go():
+    """Releases the button and waits for the end of the drag."""
+    run("xdotool", "mouseup", "1")
+    wait_until(lambda: not windows("^Vellumry drag$"), "the end of the drag")
 
 
 class DropWindow(Process):
@@ -219,12 +226,12 @@ def what_nobody_takes_comes_back():
         open_panel()
         carry(title, (60, 1000))
         wait_until(lambda: not leftovers(), "the picture's file to be gone")
-        same(panel_is_open(), True, "the panel is open")
+        wait_until(panel_is_open, "the panel to be back")
         carry(title, (60, 1000), drop=False)
         run("xdotool", "key", "Escape")  # to clear modifiers would let go of the button as well
-        run("xdotool", "mouseup", "1")
+        let_go()
         wait_until(lambda: not leftovers(), "the picture's file to be gone")
-        same(panel_is_open(), True, "the panel is open")
+        wait_until(panel_is_open, "the panel to be back")
         key("ctrl+Delete")
         wait_until(lambda: texts_kept() == [], "the panel to hear keys")
 
