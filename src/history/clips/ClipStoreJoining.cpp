@@ -2,6 +2,7 @@
 
 // How the history's file comes to a store that captures already.
 
+#include "foundation/BulkWork.h"
 #include "history/clips/ClipStorePrivate.h"
 #include "history/file/ClipRows.h"
 
@@ -104,6 +105,7 @@ QCoro::Task<void> ClipStore::Private::foldLoaded(std::vector<ClipRef> clips, std
     loadedSearch->forgotten = std::move(changed);
     const LoadedSearch* const own = loadedSearch.get();
     auto fold = [loaded = std::move(clips), isUnwanted = own->isUnwanted] {
+        const BulkWork work;
         auto made = std::make_shared<ClipSearch>();
         while (!*isUnwanted && !made->prepare(loaded, 0, foldingAtOnce))
             continue;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/file/ClipDatabase.h"
 
+#include "foundation/BulkWork.h"
 #include "foundation/Logging.h"
 #include "foundation/UnusedMemory.h"
 #include "history/clips/ClipList.h"
@@ -150,6 +151,7 @@ QCoro::Task<NewestClips> ClipDatabase::loadNewest(qint64 count) {
 
 QCoro::Task<std::shared_ptr<ClipList>> ClipDatabase::loadBeside() {
     auto load = [this] {
+        const BulkWork work;
         auto list = std::make_shared<ClipList>();
         {
             SQLiteDatabase sqlite(m_path, SQLiteDatabase::Access::readOnly);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/file/ClipLoading.h"
 
+#include "foundation/BulkWork.h"
 #include "foundation/Logging.h"
 #include "foundation/SerialExecutor.h"
 #include "foundation/UnusedMemory.h"
@@ -107,7 +108,10 @@ struct ClipLoading::Private {
             helperDecoder = std::make_unique<Decoder>(key);
             helper = std::make_unique<SerialExecutor>("History rows");
         }
-        helper->post([this, &batch] { decode(batch, *helperDecoder); });
+        helper->post([this, &batch] {
+            const BulkWork work;
+            decode(batch, *helperDecoder);
+        });
         if (waiting > batchesAhead)
             decode(batch, decoder);
         batches.push_back(std::make_unique<Batch>());

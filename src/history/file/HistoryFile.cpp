@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/file/HistoryFile.h"
 
+#include "foundation/BulkWork.h"
 #include "history/file/ClipRows.h"
 #include "history/file/SQLiteDatabase.h"
 #include "history/file/Unsealer.h"
@@ -130,6 +131,7 @@ bool looksReadable(const QString& path, const SymmetricKey& key) {
 }
 
 bool passesCheck(const QString& path) {
+    const BulkWork work;
     return hasPassedCheck(path) || hasPassedCheck(path);
 }
 
