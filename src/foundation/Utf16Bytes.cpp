@@ -2,42 +2,109 @@
 #include "foundation/Utf16Bytes.h"
 
 #include <QtEndian>
+#include <cstring>
 
 namespace vellumry::utf16bytes {
 
 namespace {
 
-// Words of one script come in runs, so four units at a time are tried before each single one. In the numbers below the
-// first unit is the lowest sixteen bits.
-constexpr quint64 everyUnit(quint64 unit) {
-    return unit | unit << 16 | unit << 32 | unit << 48;
+/// Eight units at a time, in registers of the processor: a start converts all that was ever copied.
+constexpr qsizetype blockUnits = 8;
+constexpr qsizetype blockBytes = blockUnits * 2;
+using Units = quint16 __attribute__((vector_size(blockBytes)));
+using Halves = quint64 __attribute__((vector_size(blockBytes)));
+using Bytes = quint8 __attribute__((vector_size(blockUnits)));
+
+Units unitsAt(const char* bigEndian) {
+    Units units;
+    std::memcpy(&units, bigEndian, sizeof units);
+    return Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? units << 8 | units >> 8 : units;
 }
 
-quint64 fourUnits(const char* bigEndian) {
-    const auto units = qFromBigEndian<quint64>(bigEndian);
-    return units >> 48 | (units >> 16 & 0xFFFF0000u) | (units << 16 & 0xFFFF00000000u) | units << 48;
+bool isZero(Units units) {
+    Halves halves;
+    std::memcpy(&halves, &units, sizeof units);
+    return (halves[0] | halves[1]) == 0;
 }
 
-bool areAscii(quint64 units) {
-    return (units & everyUnit(0xFF80)) == 0;
+/// One in each unit for which the comparison holds.
+template <typename Mask>
+Units counted(Mask mask) {
+    Units ones;
+    std::memcpy(&ones, &mask, sizeof ones);
+    return ones & 1;
+}
+
+/// Bytes that a unit takes beyond the first, half of a pair two in all.
+int extraBytes(char16_t unit) {
+    return int{unit >= 0x80} + int{unit >= 0x800} - int{QChar::isSurrogate(unit)};
+}
+
+/// The bytes of the text in UTF-8, if no surrogate in it stands alone.
+qsizetype utf8Size(QByteArrayView bigEndian) {
+    constexpr int mostBlocks = 10'000; // of two extra bytes at most: more would leave sixteen bits
+    const char* in = bigEndian.data();
+    const char* const end = in + bigEndian.size();
+    qsizetype size = bigEndian.size() / 2;
+    while (end - in >= blockBytes) {
+        Units extra{};
+        for (int i = 0; i < mostBlocks && end - in >= blockBytes; ++i, in += blockBytes) {
+            const Units units = unitsAt(in);
+            extra += counted(units >= 0x80) + counted(units >= 0x800) - counted((units & 0xF800) == 0xD800);
+        }
+        for (qsizetype i = 0; i < blockUnits; ++i)
+            size += extra[i];
+    }
+    for (; in < end; in += 2)
+        size += extraBytes(qFromBigEndian<char16_t>(in));
+    return size;
+}
+
+char* writeAscii(char* out, Units units) {
+    const Bytes bytes = __builtin_convertvector(units, Bytes);
+    std::memcpy(out, &bytes, sizeof bytes);
+    return out + sizeof bytes;
 }
 
 /// All from U+0080 to U+07FF: most alphabets but the Latin.
-bool takeTwoBytesEach(quint64 units) {
-    const bool isBelow = (units & everyUnit(0xF800)) == 0;
-    return isBelow && ((units + everyUnit(0x7F80)) & everyUnit(0x8000)) == everyUnit(0x8000);
-}
-
-char* writeAscii(char* out, quint64 units) {
-    for (int i = 0; i < 4; ++i)
-        *out++ = static_cast<char>(units >> 16 * i);
+char* writeTwoBytesEach(char* out, Units units) {
+    for (qsizetype i = 0; i < blockUnits; ++i) {
+        *out++ = static_cast<char>(0xC0 | units[i] >> 6);
+        *out++ = static_cast<char>(0x80 | (units[i] & 0x3F));
+    }
     return out;
 }
 
-char* writeTwoBytesEach(char* out, quint64 units) {
-    const quint64 bytes = (units >> 6 & everyUnit(0x1F)) | everyUnit(0x80C0) | (units & everyUnit(0x3F)) << 8;
-    qToLittleEndian(bytes, out);
-    return out + sizeof bytes;
+/// Words of such an alphabet and what stands between them. Writes one byte beyond the end that it returns.
+char* writeOneOrTwoBytesEach(char* out, Units units) {
+    for (qsizetype i = 0; i < blockUnits; ++i) {
+        const quint16 unit = units[i];
+        const bool isAscii = unit < 0x80;
+        out[0] = static_cast<char>(isAscii ? unit : 0xC0 | unit >> 6);
+        out[1] = static_cast<char>(0x80 | (unit & 0x3F));
+        out += isAscii ? 1 : 2;
+    }
+    return out;
+}
+
+/// All from U+0800 on, without surrogates.
+char* writeThreeBytesEach(char* out, Units units) {
+    for (qsizetype i = 0; i < blockUnits; ++i) {
+        *out++ = static_cast<char>(0xE0 | units[i] >> 12);
+        *out++ = static_cast<char>(0x80 | (units[i] >> 6 & 0x3F));
+        *out++ = static_cast<char>(0x80 | (units[i] & 0x3F));
+    }
+    return out;
+}
+
+/// Writes a block of one kind, behind which at least one more byte follows, and returns the end; null for a mixed one.
+char* writeBlock(char* out, Units units) {
+    if (isZero(units & 0xFF80))
+        return writeAscii(out, units);
+    if (isZero(units & 0xF800))
+        return isZero(counted(units < 0x80)) ? writeTwoBytesEach(out, units) : writeOneOrTwoBytesEach(out, units);
+    const bool areLong = isZero(counted(units < 0x800)) && isZero(counted((units & 0xF800) == 0xD800));
+    return areLong ? writeThreeBytesEach(out, units) : nullptr;
 }
 
 char* writeScalar(char* out, char32_t scalar) {
@@ -61,32 +128,40 @@ char* writeScalar(char* out, char32_t scalar) {
     return out;
 }
 
-/// Writes all of it and returns the end; null when a surrogate stands alone.
-char* convert(QByteArrayView bigEndian, char* out) {
+/// Writes the next unit, or pair, and moves `in` behind it; null when a surrogate stands alone.
+char* writeNext(const char*& in, const char* end, char* out) {
+    char32_t scalar = qFromBigEndian<quint16>(in);
+    in += 2;
+    if (QChar::isSurrogate(scalar)) {
+        const quint16 low = in < end ? qFromBigEndian<quint16>(in) : 0;
+        if (!QChar::isHighSurrogate(scalar) || !QChar::isLowSurrogate(low))
+            return nullptr;
+        scalar = QChar::surrogateToUcs4(static_cast<char16_t>(scalar), low);
+        in += 2;
+    }
+    return writeScalar(out, scalar);
+}
+
+/// Writes all of it; false when a surrogate stands alone.
+bool convert(QByteArrayView bigEndian, char* out) {
     const char* in = bigEndian.data();
     const char* const end = in + bigEndian.size();
     while (in < end) {
-        if (end - in >= 8) {
-            const quint64 units = fourUnits(in);
-            const bool isAscii = areAscii(units);
-            if (isAscii || takeTwoBytesEach(units)) {
-                out = isAscii ? writeAscii(out, units) : writeTwoBytesEach(out, units);
-                in += 8;
+        const char* blockEnd = in + 2;
+        if (end - in > blockBytes) {
+            if (char* const written = writeBlock(out, unitsAt(in))) {
+                out = written;
+                in += blockBytes;
                 continue;
             }
+            blockEnd = in + blockBytes;
         }
-        char32_t scalar = qFromBigEndian<quint16>(in);
-        in += 2;
-        if (QChar::isSurrogate(scalar)) {
-            const quint16 low = in < end ? qFromBigEndian<quint16>(in) : 0;
-            if (!QChar::isHighSurrogate(scalar) || !QChar::isLowSurrogate(low))
-                return nullptr;
-            scalar = QChar::surrogateToUcs4(static_cast<char16_t>(scalar), low);
-            in += 2;
-        }
-        out = writeScalar(out, scalar);
+        while (out && in < blockEnd)
+            out = writeNext(in, end, out);
+        if (!out)
+            return false;
     }
-    return out;
+    return true;
 }
 
 } // namespace
@@ -98,12 +173,10 @@ QString toString(QByteArrayView bigEndian) {
 }
 
 std::optional<QByteArray> toUtf8(QByteArrayView bigEndian) {
-    // No unit takes more than three bytes, and the two of a pair four together.
-    QByteArray room(bigEndian.size() / 2 * 3, Qt::Uninitialized);
-    const char* const end = convert(bigEndian, room.data());
-    if (!end)
+    QByteArray utf8(utf8Size(bigEndian), Qt::Uninitialized);
+    if (!convert(bigEndian, utf8.data()))
         return std::nullopt;
-    return QByteArray(room.constData(), end - room.constData());
+    return utf8;
 }
 
 } // namespace vellumry::utf16bytes
