@@ -2,6 +2,7 @@
 #include "history/file/ClipMetaReader.h"
 
 #include "foundation/BinaryList.h"
+#include "foundation/Text.h"
 #include "foundation/Utf16Bytes.h"
 #include "history/clips/StringPool.h"
 #include "history/file/RecordFields.h"
@@ -13,14 +14,6 @@ namespace {
 using Marker = BinaryList::Marker;
 using Object = BinaryList::Object;
 
-bool isAscii(QByteArrayView bytes) {
-    // Without an early way out, so that the compiler can look at many bytes at a time.
-    quint8 any = 0;
-    for (const char byte : bytes)
-        any |= static_cast<quint8>(byte);
-    return any < 0x80;
-}
-
 /// A string object's text; nothing for anything else, and for bytes beyond ASCII where the marker promises ASCII.
 std::optional<QString> stringOf(BinaryList& list, const Object& object, StringPool* pool = nullptr) {
     const bool isUtf16 = object.is(Marker::utf16);
@@ -29,7 +22,7 @@ std::optional<QString> stringOf(BinaryList& list, const Object& object, StringPo
     const QByteArrayView bytes = list.bytesOf(object);
     if (isUtf16)
         return pool ? pool->shared(utf16bytes::toString(bytes)) : utf16bytes::toString(bytes);
-    if (!isAscii(bytes))
+    if (!text::isAscii(bytes))
         return std::nullopt;
     return pool ? pool->sharedAscii(bytes) : QString::fromLatin1(bytes);
 }
@@ -43,7 +36,7 @@ std::optional<StoredText> storedTextOf(BinaryList& list, const Object& object) {
         auto converted = utf16bytes::toUtf8(bytes);
         return converted ? StoredText::fromUtf8(*std::move(converted)) : StoredText(utf16bytes::toString(bytes));
     }
-    return isAscii(bytes) ? std::optional(StoredText::fromUtf8(bytes.toByteArray())) : std::nullopt;
+    return text::isAscii(bytes) ? std::optional(StoredText::fromUtf8(bytes.toByteArray())) : std::nullopt;
 }
 
 std::optional<QByteArray> dataOf(BinaryList& list, const Object& object) {

@@ -89,12 +89,17 @@ void requireColumns(SQLiteDatabase& database) {
 }
 
 std::vector<ClipRef> readAll(SQLiteDatabase& database, const ClipCrypto& crypto) {
+    // In the order in which they lie, and sorted here: by the index each row would be looked for in the table. Of two
+    // of one time the later row comes first, as it does by the index backwards.
     auto rows = database.prepare(
-        "SELECT id, kind, created, used, pinned, expires, fingerprint, size, meta FROM clips ORDER BY used DESC;");
+        "SELECT id, kind, created, used, pinned, expires, fingerprint, size, meta FROM clips ORDER BY rowid;");
     ClipLoading loading(crypto);
     while (rows.step())
         loading.take(rows);
-    return loading.finish();
+    std::vector<ClipRef> clips = loading.finish();
+    std::ranges::reverse(clips);
+    std::ranges::stable_sort(clips, std::greater<>(), &Clip::lastUsedAt);
+    return clips;
 }
 
 NewestClips readNewest(SQLiteDatabase& database, const ClipCrypto& crypto, qint64 count) {
