@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// From a copy to its clip on the disk, against SQLite's part of it alone: `bench_add`.
+// From a copy to its clip on the disk, against SQLite's part of it alone: `bench_add`. Medians of five runs, each the
+// medians of its copies; beside the ratio the least and the most of the five.
 
 #include "Corpus.h"
 #include "Measure.h"
@@ -17,12 +18,14 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 namespace vellumry::bench {
 
 namespace {
 
+constexpr int runs = 5;
 constexpr int copies = 300;
 // As capture cuts them.
 constexpr qsizetype longestTitle = 300;
@@ -80,7 +83,14 @@ ClipDraft draftOf(qsizetype length, int number) {
     return draft;
 }
 
-void benchAdd(qsizetype length) {
+struct Medians {
+    double insert = 0;
+    double add = 0;
+    [[nodiscard]] double ratio() const { return add / insert; }
+};
+
+/// Both in turns, each on a file of its own that begins empty.
+Medians runOnce(qsizetype length) {
     QTemporaryDir plainFolder;
     QTemporaryDir folder;
     PlainInserter plain(plainFolder.path());
@@ -95,8 +105,22 @@ void benchAdd(qsizetype length) {
         const ClipDraft draft = draftOf(length, copy);
         adds.push_back(milliseconds([&] { keep(QCoro::waitFor(store->add(draft, 1.8e9 + copy))); }));
     }
-    std::printf("%10lld %6zu | %10.3f | %10.3f %6.2f\n", static_cast<long long>(length), store->clips().size(),
-                median(inserts), median(adds), median(adds) / median(inserts));
+    return {median(inserts), median(adds)};
+}
+
+void benchAdd(qsizetype length) {
+    std::vector<double> inserts;
+    std::vector<double> adds;
+    std::vector<double> ratios;
+    for (int run = 0; run < runs; ++run) {
+        const Medians medians = runOnce(length);
+        inserts.push_back(medians.insert);
+        adds.push_back(medians.add);
+        ratios.push_back(medians.ratio());
+    }
+    const auto [least, most] = std::ranges::minmax(ratios);
+    std::printf("%10lld | %10.3f | %10.3f %6.2f (%.2f to %.2f)\n", static_cast<long long>(length), median(inserts),
+                median(adds), median(ratios), least, most);
 }
 
 } // namespace
@@ -105,7 +129,10 @@ void benchAdd(qsizetype length) {
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    std::printf("%10s %6s | %10s | %10s %6s\n", "characters", "stored", "INSERT ms", "add ms", "ratio");
+    double load = 0;
+    (void)getloadavg(&load, 1);
+    std::printf("load %.1f, medians of %d runs of %d copies\n", load, vellumry::bench::runs, vellumry::bench::copies);
+    std::printf("%10s | %10s | %10s %6s\n", "characters", "INSERT ms", "add ms", "ratio");
     for (const qsizetype length : {18, 720, 20'000, 500'000})
         vellumry::bench::benchAdd(length);
     return 0;
