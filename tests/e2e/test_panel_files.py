@@ -95,6 +95,22 @@ def copies_files():
         wait_until(lambda: (clipboard("text/uri-list") or b"").strip() == address(path).encode(), "the file on the clipboard")
 
 
+def copies_a_file_whose_name_is_not_utf8():
+    """It is there, and goes out under the very bytes of its name."""
+    with Vellumry():
+        path = tempfile.mkdtemp(prefix="files").encode() + b"/caf\xe9.txt"
+        with open(path, "wb") as file:
+            file.write(b"of another encoding")
+        copy_bytes(address(path).encode() + b"\r\n", "text/uri-list")
+        title = wait_for_clip(lambda kept: kept["kind"] == 4, "the copy of the file")["title"]
+        copy_text("newer")
+        wait_for_clip(lambda kept: text_of(kept) == "newer", "the newer copy")
+        open_panel()
+        open_row_menu(title)
+        choose("Copy")
+        wait_until(lambda: (clipboard("text/uri-list") or b"").strip() == address(path).encode(), "the file on the clipboard")
+
+
 def pastes_the_names_of_files_that_are_gone():
     """The menu then has that entry in place of Paste and Copy, and the preview that button in place of Paste."""
     with Vellumry(), Mousepad() as editor:
