@@ -2,6 +2,7 @@
 """GNOME without our extension, by the desktop's portals: the user is asked for the shortcuts and for the paste key, once. Run inside
 scripts/wayland-session gnome-plain."""
 
+import contextlib
 import os
 import sys
 
@@ -13,6 +14,7 @@ from questions import choose, forget_refusal, is_open, refuse_shortcuts  # noqa:
 import desktop  # noqa: E402
 from desktop import Vellumry, run, text_of, wait_for_clip, wait_until  # noqa: E402
 
+PASTES = int(os.environ.get("VELLUMRY_PASTES", "10"))
 KEYS = "found: hot keys (global shortcuts portal)"
 PASTE = "found: paste key (remote desktop portal, allowed)"
 
@@ -77,6 +79,27 @@ def test_shortcuts_and_the_paste_key():
             assert reports(PASTE)
             assert window.state["active"], "a second question"
             paste_first(window, "and once more")
+
+
+@contextlib.contextmanager
+def busy_machine():
+    """Programs that leave no core idle, as many as there are cores."""
+    with contextlib.ExitStack() as stack:
+        for _ in range(os.cpu_count()):
+            stack.enter_context(desktop.Process("/bin/sh", "-c", "while :; do :; done"))
+        yield
+
+
+def test_pastes_on_a_busy_machine():
+    """The portal hands keys on from many threads: no paste types a letter in the place of the clip."""
+    with Window() as window, Vellumry(), busy_machine():
+        copy("word ")
+        wait_for_clip(lambda row: text_of(row) == "word ", "the copy in the history")
+        for count in range(1, PASTES + 1):
+            press("ctrl+super+v")
+            wait_until(search_field_has_focus, "the search field to have the focus")
+            press("return")
+            window.wait_text("word " * count)
 
 
 desktop.main(desktop.own_tests())

@@ -22,16 +22,11 @@ PortalKeyboard::PortalKeyboard(std::shared_ptr<PortalLink> link, Options options
     m_rest.setSingleShot(true);
     m_rest.setInterval(m_options.rest);
     connect(&m_rest, &QTimer::timeout, this, &PortalKeyboard::close);
-    connect(m_link.get(), &PortalLink::ended, this, [this] {
-        m_session.clear();
-        m_isStarted = false;
-    });
+    connect(m_link.get(), &PortalLink::ended, this, &PortalKeyboard::forgetSession);
     // By the lock screen, by the user from the desktop's panel, or because the permission was taken back.
     connect(m_link.get(), &PortalLink::sessionClosed, this, [this](const QString& session) {
-        if (session == m_session) {
-            m_session.clear();
-            m_isStarted = false;
-        }
+        if (session == m_session)
+            forgetSession();
     });
 }
 
@@ -139,34 +134,51 @@ void PortalKeyboard::finish() {
 }
 
 void PortalKeyboard::close() {
+    m_link->closeSession(m_session);
+    forgetSession();
+}
+
+void PortalKeyboard::forgetSession() {
+    m_session.clear();
     m_isStarted = false;
-    m_link->closeSession(std::exchange(m_session, QString()));
+    m_keys.clear();
 }
 
 void PortalKeyboard::press(const std::vector<Modifier>& modifiers, quint32 evdevCode) {
     if (!m_isStarted)
         return;
     for (const Modifier& modifier : modifiers)
-        notify(modifier.evdevCode, true);
-    notify(evdevCode, true);
-    notify(evdevCode, false);
+        m_keys.push_back({modifier.evdevCode, true});
+    m_keys.push_back({evdevCode, true});
+    m_keys.push_back({evdevCode, false});
     for (auto modifier = modifiers.rbegin(); modifier != modifiers.rend(); ++modifier)
-        notify(modifier->evdevCode, false);
+        m_keys.push_back({modifier->evdevCode, false});
     m_rest.start();
+    if (!m_isPressing)
+        pressAll();
 }
 
-void PortalKeyboard::notify(quint32 evdevCode, bool isDown) {
-    const QVariant path = QVariant::fromValue(QDBusObjectPath(m_session));
-    watch(m_link->call(PortalLink::messageFor(portal::remoteDesktop, QStringLiteral("NotifyKeyboardKeycode"),
-                                              {path, QVariantMap(), int(evdevCode), isDown ? 1U : 0U})));
-}
-
-QCoro::Task<void> PortalKeyboard::watch(OneShot<QDBusMessage> reply) {
+/// xdg-desktop-portal handles each call on a thread of a pool, so that calls overtake each other on a busy machine: "v"
+/// would be typed without its Ctrl. It answers when it has handed the key on, and from there on keys stay in order.
+QCoro::Task<void> PortalKeyboard::pressAll() {
     const std::weak_ptr<bool> life = m_life;
-    const QDBusMessage answer = co_await reply;
-    // With the session goes its keyboard, and what was held down on it.
-    if (!life.expired() && answer.type() == QDBusMessage::ErrorMessage && m_isStarted)
-        lose("the permission was taken back");
+    m_isPressing = true;
+    while (!m_keys.empty()) {
+        const Key key = m_keys.front();
+        m_keys.pop_front();
+        const QString session = m_session;
+        const QVariant path = QVariant::fromValue(QDBusObjectPath(session));
+        const auto pressing =
+            m_link->call(PortalLink::messageFor(portal::remoteDesktop, QStringLiteral("NotifyKeyboardKeycode"),
+                                                {path, QVariantMap(), int(key.evdevCode), key.isDown ? 1U : 0U}));
+        const QDBusMessage reply = co_await pressing;
+        if (life.expired())
+            co_return;
+        // With the session goes its keyboard, and what was held down on it.
+        if (reply.type() == QDBusMessage::ErrorMessage && m_isStarted && session == m_session)
+            lose("the permission was taken back");
+    }
+    m_isPressing = false;
 }
 
 Capability PortalKeyboard::capability() const {

@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <deque>
 #include <functional>
 #include <memory>
 
@@ -40,7 +41,7 @@ public:
     /// Opens a session, `Options::patience` at most. Where the permission has gone, the desktop asks the user again,
     /// and this paste goes without.
     [[nodiscard]] QCoro::Task<bool> prepare() override;
-    /// Within a session only.
+    /// Within a session only. Each key follows when the portal has taken the one before.
     void press(const std::vector<Modifier>& modifiers, quint32 evdevCode) override;
 
     /// Whether keys can be pressed, for the report.
@@ -51,10 +52,15 @@ private:
     QCoro::Task<void> start(QString session);
     void take(const PortalLink::Answer& answer);
     void lose(const char* why);
+    void forgetSession();
     void finish();
     void close();
-    void notify(quint32 evdevCode, bool isDown);
-    QCoro::Task<void> watch(OneShot<QDBusMessage> reply);
+    QCoro::Task<void> pressAll();
+
+    struct Key {
+        quint32 evdevCode = 0;
+        bool isDown = false;
+    };
 
     std::shared_ptr<PortalLink> m_link;
     const Options m_options;
@@ -62,6 +68,8 @@ private:
     bool m_isStarted = false;
     bool m_isOpening = false;
     bool m_wasRefused = false;
+    std::deque<Key> m_keys; ///< still to be pressed in this session
+    bool m_isPressing = false;
     QTimer m_rest;
     /// Goes first: what waits for the link is resumed when the link ends, with this half gone.
     std::shared_ptr<bool> m_life = std::make_shared<bool>(true);

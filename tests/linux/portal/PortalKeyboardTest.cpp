@@ -71,6 +71,38 @@ TEST_F(PortalKeyboardTest, PressesTheModifiersAroundTheKey) {
                                                              {KEY_LEFTCTRL, false}}));
 }
 
+TEST_F(PortalKeyboardTest, AKeyIsPressedWhenThePortalHasTakenTheOneBefore) {
+    allow();
+    EXPECT_TRUE(prepared());
+    portal.holdsKeys = true;
+    paste();
+    for (std::size_t taken = 1; taken <= 4; ++taken) {
+        runUntil([&] { return portal.keys.size() >= taken; });
+        // What else has been sent by now is answered behind it.
+        EXPECT_NE(awaited(link->openSession(QStringLiteral("org.freedesktop.portal.GlobalShortcuts"))), QString());
+        EXPECT_EQ(portal.keys.size(), taken) << "a portal with many threads would mix them up";
+        portal.answerKeys();
+    }
+    EXPECT_EQ(portal.keys, (std::vector<ScriptedPortal::Key>{
+                               {KEY_LEFTCTRL, true}, {KEY_V, true}, {KEY_V, false}, {KEY_LEFTCTRL, false}}));
+}
+
+TEST_F(PortalKeyboardTest, ThePasteKeyIsNotPressedWithoutItsModifier) {
+    allow();
+    EXPECT_TRUE(prepared());
+    portal.holdsKeys = true;
+    paste();
+    runUntil([this] { return portal.keys.size() == 1; });
+    portal.closeSession(portal.session());
+    EXPECT_NE(awaited(link->openSession(QStringLiteral("org.freedesktop.portal.GlobalShortcuts"))), QString());
+    portal.holdsKeys = false;
+    EXPECT_TRUE(prepared()) << "of a new session";
+    portal.answerKeys();
+    paste();
+    runUntil([this] { return portal.keys.size() >= 5; });
+    EXPECT_EQ(portal.keys[1], (ScriptedPortal::Key{KEY_LEFTCTRL, true}));
+}
+
 TEST_F(PortalKeyboardTest, ATokenOpensASessionWithoutAQuestionAndTheNextOneIsKept) {
     token = QStringLiteral("of the last run");
     EXPECT_TRUE(keyboard->isReady());

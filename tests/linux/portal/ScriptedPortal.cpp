@@ -115,6 +115,11 @@ void ScriptedPortal::respond(const char* member, uint code, const QVariantMap& r
     sendResponse(m_requests.value(QLatin1String(member)), response, results);
 }
 
+void ScriptedPortal::answerKeys() {
+    for (const QDBusMessage& key : std::exchange(m_heldKeys, {}))
+        EXPECT_TRUE(bus().send(key.createReply()));
+}
+
 void ScriptedPortal::activate(const QString& session, const QString& name) {
     QDBusMessage signal = QDBusMessage::createSignal(root, QStringLiteral("org.freedesktop.portal.GlobalShortcuts"),
                                                      QStringLiteral("Activated"));
@@ -157,6 +162,10 @@ bool ScriptedPortal::handleMessage(const QDBusMessage& message, const QDBusConne
             return connection.send(message.createErrorReply(QDBusError::AccessDenied, QString()));
         if (message.member() == u"NotifyKeyboardKeycode")
             keys.push_back({message.arguments().value(2).toInt(), message.arguments().value(3).toUInt() == 1});
+        if (message.member() == u"NotifyKeyboardKeycode" && holdsKeys) {
+            m_heldKeys.push_back(message);
+            return true;
+        }
         return connection.send(message.createReply());
     }
     answerRequest(message, connection);

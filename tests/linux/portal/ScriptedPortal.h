@@ -67,6 +67,8 @@ public:
     [[nodiscard]] QString session() const;
     /// Answers a request that was answered with silence.
     void respond(const char* member, uint code, const QVariantMap& results);
+    /// Answers the keys that `holdsKeys` has kept waiting.
+    void answerKeys();
     /// The user presses a shortcut.
     void activate(const QString& session, const QString& name);
     void closeSession(const QString& session);
@@ -76,6 +78,7 @@ public:
     QMap<QString, Response> responses; ///< by method
     std::vector<Call> calls;
     std::vector<Key> keys;
+    bool holdsKeys = false;          ///< they are answered by `answerKeys` only
     int visibilityAtRegister = -1;   ///< whether others may look at this process (PR_GET_DUMPABLE)
     QMap<QString, quint32> versions; ///< of interfaces; those that are not here are missing
 
@@ -91,6 +94,7 @@ private:
     QString m_name;
     int m_generation = 0;
     int m_tokens = 0;
+    std::vector<QDBusMessage> m_heldKeys;
     QMap<QString, QString> m_requests; ///< the path of the last request of a method
 };
 
