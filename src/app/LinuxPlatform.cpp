@@ -16,6 +16,7 @@
 #include "linux/look/LinuxDesktopLook.h"
 #include "linux/peers/LinuxPeerHistories.h"
 #include "linux/portal/PortalBus.h"
+#include "linux/portal/PortalIntroduction.h"
 #include "linux/process/AppImage.h"
 #include "linux/process/DBusSingleInstance.h"
 #include "linux/process/MemoryReturn.h"
@@ -59,8 +60,8 @@ namespace vellumry {
 
 namespace {
 
-/// A portal that runs answers within a millisecond; the start does not wait for one that hangs.
-constexpr std::chrono::milliseconds portalTime{300};
+/// How long the process is visible to a portal that hangs; one that runs answers within a millisecond.
+constexpr std::chrono::milliseconds portalTime{1000};
 
 QImage trayMark(const QSize& size) {
     return symbolImage(QStringLiteral("Logo"), QColor::fromRgb(TrayPictures::colour), size);
@@ -82,8 +83,10 @@ private:
 };
 
 /// `connection` is that of an X11 session, null in another one, where the display's scale does not hold that of texts.
-void addLook(Platform& platform, std::shared_ptr<XlibConnection> connection) {
-    LinuxDesktopLook::Places places{portalbus::connection(), platform.folders.get()};
+void addLook(Platform& platform, std::shared_ptr<XlibConnection> connection,
+             std::shared_ptr<PortalIntroduction> introduction) {
+    LinuxDesktopLook::Places places{introduction->bus(), platform.folders.get()};
+    places.introduction = std::move(introduction);
     places.configFolder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     places.isPlasma = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(QLatin1String("KDE"));
     places.scalesText = connection == nullptr;
@@ -95,7 +98,8 @@ void addLook(Platform& platform, std::shared_ptr<XlibConnection> connection) {
 
 /// One connection for keys, focus and windows, which the caller gets as well; the pasteboard has its own, with its own
 /// thread.
-std::optional<Reason> addX11Display(Platform& platform, std::shared_ptr<XlibConnection>& connection) {
+std::optional<Reason> addX11Display(Platform& platform, const std::shared_ptr<PortalIntroduction>& introduction,
+                                    std::shared_ptr<XlibConnection>& connection) {
     auto created = X11Pasteboard::create(qgetenv("DISPLAY"));
     if (!created)
         return created.error();
@@ -128,14 +132,15 @@ std::optional<Reason> addX11Display(Platform& platform, std::shared_ptr<XlibConn
     platform.frontmost = std::make_unique<X11FrontmostApplication>(connection, entries);
     platform.applications = std::make_unique<XdgInstalledApplications>(entries, iconFoldersOfSession());
     platform.keyboard = std::make_unique<X11KeyboardLayout>(connection);
+    const auto ownHotKeys = [connection] { return std::make_unique<X11HotKeys>(connection); };
     if (platform.isWaylandSession) {
-        const PortalRoads portals(platform);
-        platform.hotKeys =
-            portals.hotKeys([keyboard = platform.keyboard.get()](KeyCode key) { return keyboard->charactersFor(key); });
+        const PortalRoads portals(platform, introduction);
+        platform.hotKeys = portals.hotKeys(
+            [keyboard = platform.keyboard.get()](KeyCode key) { return keyboard->charactersFor(key); }, ownHotKeys);
         options.everywhere = portals.keyboard();
+    } else {
+        platform.hotKeys = ownHotKeys();
     }
-    if (!platform.hotKeys)
-        platform.hotKeys = std::make_unique<X11HotKeys>(connection);
     auto target = std::make_unique<X11PasteTarget>(connection, focus, std::move(options));
     pasteKeys.looksFirst = [front = target.get()] { return front->looksFirst(); };
     platform.pasteTarget = std::move(target);
@@ -198,10 +203,11 @@ OrReason<Platform> makeLinuxPlatform(DisplayKind display, const QProcessEnvironm
     platform.defaults = std::make_unique<UserDefaults>(platform.settingsFolder + QStringLiteral("/Vellumry.conf"));
     platform.isConfined = QFile::exists(QStringLiteral("/.flatpak-info")) || qEnvironmentVariableIsSet("SNAP");
     // The portal's settings say how windows are to look.
-    portalbus::introduce(portalbus::connection(), portalTime);
+    const auto introduction = std::make_shared<PortalIntroduction>(portalbus::connection(), portalTime);
+    introduction->begin();
     std::shared_ptr<XlibConnection> connection;
-    if (auto problem =
-            display == DisplayKind::wayland ? waylanddisplay::add(platform) : addX11Display(platform, connection))
+    if (auto problem = display == DisplayKind::wayland ? waylanddisplay::add(platform, introduction)
+                                                       : addX11Display(platform, introduction, connection))
         return std::unexpected(std::move(*problem));
     platform.singleInstance = std::make_unique<DBusSingleInstance>();
     platform.sounds = std::make_unique<ThemeSounds>();
@@ -219,7 +225,7 @@ OrReason<Platform> makeLinuxPlatform(DisplayKind display, const QProcessEnvironm
         qCWarning(logging::process).noquote() << "secrets expire less punctually:" << timer.error().text;
     platform.bookmarks = std::make_unique<PosixFileBookmarks>();
     platform.folders = std::make_unique<InotifyFolderWatching>();
-    addLook(platform, connection);
+    addLook(platform, connection, introduction);
     platform.peers = std::make_unique<LinuxPeerHistories>();
     // A confined package sees an autostart folder of its own.
     if (!platform.isConfined) {

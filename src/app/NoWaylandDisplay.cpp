@@ -15,7 +15,7 @@ std::vector<Capability> capabilities() {
     return {};
 }
 
-std::optional<Reason> add(Platform&) {
+std::optional<Reason> add(Platform&, const std::shared_ptr<PortalIntroduction>&) {
     return Reason{QStringLiteral("this build has no Wayland part")};
 }
 

@@ -5,6 +5,7 @@
 #include "platform/desktop/Capability.h"
 #include "platform/display/KeyCode.h"
 
+#include <QCoroTask>
 #include <QString>
 #include <functional>
 #include <memory>
@@ -15,6 +16,7 @@ namespace vellumry {
 
 class HotKeyRegistrar;
 class KeyInjector;
+class PortalIntroduction;
 class PortalLink;
 struct Platform;
 
@@ -22,15 +24,17 @@ struct Platform;
 class PortalRoads {
 public:
     using CharactersFor = std::function<std::optional<QString>(KeyCode)>;
+    using MakeHotKeys = std::function<std::unique_ptr<HotKeyRegistrar>()>;
 
-    /// Asks the portal what there is, a second at most. `platform` must outlive what is made here.
-    explicit PortalRoads(Platform& platform);
+    /// Asks the portal what there is, without waiting where a desktop is known for its portal; elsewhere one that runs
+    /// is waited for a moment. `platform.defaults` must outlive what is made here.
+    PortalRoads(Platform& platform, const std::shared_ptr<PortalIntroduction>& introduction);
     ~PortalRoads();
 
-    /// Null where this desktop's portal holds no keys for programs. Takes the lines about missing keys out of the
-    /// platform's capabilities, and reports itself.
-    [[nodiscard]] std::unique_ptr<HotKeyRegistrar> hotKeys(CharactersFor charactersFor) const;
-    /// Null where it lets none press any. Reports as `hotKeys`.
+    /// The portal's keys; what `otherwise` makes where it turns out that it holds none for programs. Takes the lines
+    /// about missing keys out of the platform's capabilities, and reports itself.
+    [[nodiscard]] std::unique_ptr<HotKeyRegistrar> hotKeys(CharactersFor charactersFor, MakeHotKeys otherwise) const;
+    /// Null where it is known by now that the portal lets no program press keys. Reports as `hotKeys`.
     [[nodiscard]] std::unique_ptr<KeyInjector> keyboard() const;
 
     /// In a report from outside: puts what portals do in the place of what the display server lacks. Asks as the
@@ -38,11 +42,14 @@ public:
     static void complete(std::vector<Capability>& lines);
 
 private:
+    /// What the portal has said.
+    struct Found;
+
+    static QCoro::Task<void> ask(std::weak_ptr<Found> found);
     void report(std::function<Capability()> capability) const;
 
     Platform& m_platform;
-    PortalSurvey m_survey;
-    std::shared_ptr<PortalLink> m_link;
+    std::shared_ptr<Found> m_found; ///< null where no portal is asked
 };
 
 } // namespace vellumry

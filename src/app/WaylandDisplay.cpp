@@ -27,21 +27,21 @@ namespace vellumry::waylanddisplay {
 namespace {
 
 /// By what needs no question of the user, if there is such a thing.
-void addKeys(Platform& platform, const std::shared_ptr<WaylandKeymap>& keymap, bool isPlasma,
-             std::unique_ptr<KeyInjector>& injector) {
+void addKeys(Platform& platform, const std::shared_ptr<PortalIntroduction>& introduction,
+             const std::shared_ptr<WaylandKeymap>& keymap, bool isPlasma, std::unique_ptr<KeyInjector>& injector) {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (isPlasma && GlobalAccelHotKeys::isThere(bus))
         platform.hotKeys = std::make_unique<GlobalAccelHotKeys>(bus, keymap);
     if (platform.hotKeys && injector)
         return;
-    const PortalRoads portals(platform);
+    const PortalRoads portals(platform, introduction);
     if (!platform.hotKeys)
-        platform.hotKeys = portals.hotKeys([keymap](KeyCode keyCode) {
-            const auto evdevCode = keymap->positions().evdevCode(keyCode);
-            return evdevCode ? keymap->charactersFor(*evdevCode) : std::nullopt;
-        });
-    if (!platform.hotKeys)
-        platform.hotKeys = std::make_unique<BoundElsewhere>(ownBindingsOfSession());
+        platform.hotKeys = portals.hotKeys(
+            [keymap](KeyCode keyCode) {
+                const auto evdevCode = keymap->positions().evdevCode(keyCode);
+                return evdevCode ? keymap->charactersFor(*evdevCode) : std::nullopt;
+            },
+            [] { return std::make_unique<BoundElsewhere>(ownBindingsOfSession()); });
     if (!injector)
         injector = portals.keyboard();
 }
@@ -64,7 +64,7 @@ std::vector<Capability> capabilities() {
 }
 
 /// One connection for keys, focus and windows; the pasteboard has its own, with its own thread, and Qt one for ours.
-std::optional<Reason> add(Platform& platform) {
+std::optional<Reason> add(Platform& platform, const std::shared_ptr<PortalIntroduction>& introduction) {
     const auto survey = WaylandSurvey::take();
     if (!survey)
         return survey.error();
@@ -95,7 +95,7 @@ std::optional<Reason> add(Platform& platform) {
     platform.frontmost = std::make_unique<WaylandFrontmostApplication>(windows, entries);
     platform.applications = std::make_unique<XdgInstalledApplications>(entries, iconFoldersOfSession());
     std::unique_ptr<KeyInjector> injector = makeCompositorKeys(connection, keymap);
-    addKeys(platform, keymap, survey->isPlasma, injector);
+    addKeys(platform, introduction, keymap, survey->isPlasma, injector);
     platform.keyboard = std::make_unique<WaylandKeyboardLayout>(keymap);
     platform.pasteTarget = std::make_unique<WaylandPasteTarget>(focus, keymap, std::move(injector), std::move(options));
     platform.idleSeconds = [idle = std::make_shared<WaylandIdleTime>(connection)] { return idle->seconds(); };

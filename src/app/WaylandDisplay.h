@@ -11,6 +11,7 @@
 namespace vellumry {
 
 class DesktopExtension;
+class PortalIntroduction;
 struct Capability;
 struct Platform;
 
@@ -25,8 +26,9 @@ namespace waylanddisplay {
 /// Wayland part.
 [[nodiscard]] std::vector<Capability> capabilities();
 
-/// The seams of the display for this session. Main thread, after the application object.
-[[nodiscard]] std::optional<Reason> add(Platform& platform);
+/// The seams of the display for this session; portals are asked once `introduction` is made. Main thread, after the
+/// application object.
+[[nodiscard]] std::optional<Reason> add(Platform& platform, const std::shared_ptr<PortalIntroduction>& introduction);
 
 /// What the user could switch on for the program to work natively here; null without. After the application object.
 [[nodiscard]] std::unique_ptr<DesktopExtension> extension();

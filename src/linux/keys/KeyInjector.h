@@ -16,6 +16,8 @@ public:
         quint32 evdevCode = 0;
         const char* name = nullptr; ///< of the real modifier that it sets
     };
+    /// False once it is known that nothing here presses keys, with a permission or without.
+    [[nodiscard]] virtual bool isThere() const { return true; }
     /// False while keys cannot be pressed; that may change.
     [[nodiscard]] virtual bool isReady() const { return true; }
     /// Asks the user for the permission, where it takes one that we do not have.

@@ -11,6 +11,8 @@
 
 namespace vellumry {
 
+class PortalIntroduction;
+
 /// The desktop's look from all places that say something of it: the settings portal first, then Plasma's own file in a
 /// Plasma session, then what an X server's settings manager says. Main thread.
 class LinuxDesktopLook : public DesktopLookSource {
@@ -20,6 +22,8 @@ public:
         FolderWatching* folders = nullptr; ///< outlives this; without it Plasma's file is not read
         QString configFolder{};            ///< $XDG_CONFIG_HOME
         bool isPlasma = false;             ///< Plasma's file counts
+        /// Makes us known on `bus` to a portal that restarts.
+        std::shared_ptr<PortalIntroduction> introduction{};
         bool scalesText = false;           ///< the portal's scale of texts is not in the display's scale already
     };
 
@@ -32,6 +36,7 @@ public:
 private:
     void combine();
 
+    std::shared_ptr<PortalIntroduction> m_introduction;
     bool m_scalesText;
     SaidLook m_xSettings;
     DesktopLook m_look;

@@ -83,8 +83,17 @@ void PortalSettings::settingChanged(const QDBusMessage& message) {
 }
 
 void PortalSettings::ownerChanged(const QString& name, const QString&, const QString& now) {
-    if (name == portal && !now.isEmpty())
+    if (name != portal || now.isEmpty())
+        return;
+    // It hears our name first (PortalIntroduction), which is told in this turn too: the bus's answer comes behind it.
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+                                       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId"));
+    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        watcher->deleteLater();
         ask();
+    });
 }
 
 void PortalSettings::take(const Values& values) {

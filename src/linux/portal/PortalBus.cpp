@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/portal/PortalBus.h"
 
-#include "linux/portal/PortalNames.h"
-#include "linux/process/ProcessHardening.h"
-
-#include <QDBusConnectionInterface>
-#include <QDBusMessage>
-#include <QVariantMap>
+#include <QDBusPendingCallWatcher>
 
 namespace vellumry::portalbus {
 
@@ -14,16 +9,19 @@ QDBusConnection connection() {
     return QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("vellumry-portal"));
 }
 
-void introduce(QDBusConnection bus, std::chrono::milliseconds limit) {
-    if (!bus.isConnected() || !bus.interface()->isServiceRegistered(portal::service))
-        return;
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(portal::service, portal::path, portal::registry, QStringLiteral("Register"));
-    call.setAutoStartService(false);
-    call.setArguments({applicationID, QVariantMap()});
-    // Portals before 1.20 know no such method, and those of a confined program take no name; they have looked by then.
-    const VisibleProcess visible;
-    bus.call(call, QDBus::Block, int(limit.count()));
+OneShot<QDBusMessage> answerTo(const QDBusPendingCall& call) {
+    const OneShot<QDBusMessage> answer;
+    // A watcher would not be told.
+    if (call.isFinished()) {
+        answer.deliver(call.reply());
+        return answer;
+    }
+    auto* watcher = new QDBusPendingCallWatcher(call);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, [watcher, answer] {
+        watcher->deleteLater();
+        answer.deliver(watcher->reply());
+    });
+    return answer;
 }
 
 } // namespace vellumry::portalbus

@@ -15,6 +15,7 @@ namespace vellumry {
 namespace {
 
 constexpr int mostLosses = 3;
+constexpr int mostRevivals = 10;
 
 /// A shortcut as the portal has it.
 struct PortalShortcut {
@@ -125,12 +126,15 @@ PortalHotKeys::Wish PortalHotKeys::wish() const {
 void PortalHotKeys::drop() {
     ++m_portal;
     m_isAsking = false;
-    m_session.clear();
+    m_link->abandonSession(std::exchange(m_session, QString()));
     m_asked.clear();
     if (m_keys.isEmpty())
         return;
+    // Nothing else may start it again, and until then the keys are dead. One that dies over and over is let go.
     if (m_standing != Standing::given)
         ++m_losses;
+    else if (m_revivals++ < mostRevivals)
+        m_ask.start(m_options.revival);
     m_standing = Standing::failed;
 }
 

@@ -28,6 +28,8 @@ public:
         std::function<void(const QStringList& names)> refuse;
         /// As long as the user may think about the question.
         std::chrono::milliseconds consent = std::chrono::minutes(10);
+        /// How long after the end of a portal that gave keys the next one is started.
+        std::chrono::milliseconds revival{1000};
     };
     enum class Standing : quint8 {
         none,    ///< no keys are wanted
@@ -81,6 +83,7 @@ private:
     bool m_isAsking = false;
     int m_portal = 0; ///< counts the portals that have ended: what one of them was asked is no other's
     int m_losses = 0; ///< how often the portal has ended before it gave keys
+    int m_revivals = 0;
     Standing m_standing = Standing::none;
     /// Goes first: what waits for the link is resumed when the link ends, with this half gone.
     std::shared_ptr<bool> m_life = std::make_shared<bool>(true);

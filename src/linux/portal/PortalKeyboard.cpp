@@ -22,7 +22,10 @@ PortalKeyboard::PortalKeyboard(std::shared_ptr<PortalLink> link, Options options
     m_rest.setSingleShot(true);
     m_rest.setInterval(m_options.rest);
     connect(&m_rest, &QTimer::timeout, this, &PortalKeyboard::close);
-    connect(m_link.get(), &PortalLink::ended, this, &PortalKeyboard::forgetSession);
+    connect(m_link.get(), &PortalLink::ended, this, [this] {
+        m_link->abandonSession(m_session);
+        forgetSession();
+    });
     // By the lock screen, by the user from the desktop's panel, or because the permission was taken back.
     connect(m_link.get(), &PortalLink::sessionClosed, this, [this](const QString& session) {
         if (session == m_session)
@@ -35,7 +38,7 @@ PortalKeyboard::~PortalKeyboard() {
 }
 
 bool PortalKeyboard::isReady() const {
-    return m_isStarted || !m_options.token().isEmpty();
+    return isThere() && (m_isStarted || !m_options.token().isEmpty());
 }
 
 void PortalKeyboard::requestPermission() {

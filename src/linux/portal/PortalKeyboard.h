@@ -24,6 +24,8 @@ public:
         std::function<QString()> token;
         /// Empty for none.
         std::function<void(const QString& token)> keepToken;
+        /// False once it is known that the portal lets no program press keys.
+        std::function<bool()> isThere = [] { return true; };
         /// How long a session stays after it was used.
         std::chrono::milliseconds rest{3000};
         /// How long a paste waits for a session.
@@ -35,6 +37,7 @@ public:
     PortalKeyboard(std::shared_ptr<PortalLink> link, Options options);
     ~PortalKeyboard() override;
 
+    [[nodiscard]] bool isThere() const override { return m_options.isThere(); }
     /// True once the user has allowed it.
     [[nodiscard]] bool isReady() const override;
     void requestPermission() override;

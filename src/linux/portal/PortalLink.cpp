@@ -7,7 +7,6 @@
 
 #include <QDBusArgument>
 #include <QDBusObjectPath>
-#include <QDBusPendingCallWatcher>
 #include <QPointer>
 #include <QUuid>
 #include <utility>
@@ -18,21 +17,6 @@ namespace {
 
 /// Starting the portal and its backends is part of it.
 constexpr int callMilliseconds = 20'000;
-
-OneShot<QDBusMessage> answerTo(const QDBusPendingCall& call) {
-    const OneShot<QDBusMessage> answer;
-    // A second watcher would not be told.
-    if (call.isFinished()) {
-        answer.deliver(call.reply());
-        return answer;
-    }
-    auto* watcher = new QDBusPendingCallWatcher(call);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, [watcher, answer] {
-        watcher->deleteLater();
-        answer.deliver(watcher->reply());
-    });
-    return answer;
-}
 
 /// Not to be guessed by another program, which could answer in the portal's name.
 QString freshToken() {
@@ -51,10 +35,10 @@ PortalLink::Outcome outcomeOf(uint response) {
 
 } // namespace
 
-PortalLink::PortalLink(QDBusConnection bus, Options options)
-    : m_bus(std::move(bus))
-    , m_options(std::move(options))
-    , m_isIntroduced(m_options.isIntroduced) {
+PortalLink::PortalLink(std::shared_ptr<PortalIntroduction> introduction, Options options)
+    : m_introduction(std::move(introduction))
+    , m_bus(m_introduction->bus())
+    , m_options(std::move(options)) {
     // No sender is named: the bus would be asked for its owner, and would have to answer first.
     m_bus.connect(QString(), QString(), portal::request, QStringLiteral("Response"), this,
                   SLOT(hearResponse(QDBusMessage)));
@@ -76,31 +60,30 @@ QDBusMessage PortalLink::messageFor(const QString& interface, const QString& met
 }
 
 OneShot<QDBusMessage> PortalLink::call(QDBusMessage message) {
-    return answerTo(m_bus.asyncCall(message, callMilliseconds));
+    return portalbus::answerTo(m_bus.asyncCall(message, callMilliseconds));
 }
 
-/// Tells the portal our name, once. Older portals know no such method, and name us by our cgroup if at all.
-OneShot<QDBusMessage> PortalLink::introduced() {
-    if (m_isIntroduced) {
-        const OneShot<QDBusMessage> done;
-        done.deliver(QDBusMessage());
-        return done;
+QCoro::Task<PortalSurvey> PortalLink::survey() {
+    const QPointer<PortalLink> self(this);
+    const auto introducing = m_introduction->made();
+    const QDBusMessage introduction = co_await introducing;
+    PortalSurvey survey;
+    for (const auto& [interface, version] : survey.interfaces()) {
+        if (self == nullptr)
+            co_return PortalSurvey();
+        const auto asking = call(PortalSurvey::question(interface));
+        const QDBusMessage answer = co_await asking;
+        *version = PortalSurvey::versionIn(answer);
     }
-    if (!m_introduction)
-        m_introduction = m_bus.asyncCall(
-            messageFor(portal::registry, QStringLiteral("Register"), {portalbus::applicationID, QVariantMap()}),
-            callMilliseconds);
-    return answerTo(*m_introduction);
+    co_return survey;
 }
 
 QCoro::Task<PortalLink::Answer> PortalLink::request(Call call, std::chrono::milliseconds limit) {
     const QPointer<PortalLink> self(this);
-    const auto introducing = introduced();
+    const auto introducing = m_introduction->made();
     const QDBusMessage introduction = co_await introducing;
     if (self == nullptr)
         co_return Answer{};
-    if (introduction.type() == QDBusMessage::ErrorMessage)
-        qCInfo(logging::wayland).noquote() << "not registered:" << introduction.errorName();
 
     const QString token = freshToken();
     call.options[QStringLiteral("handle_token")] = token;
@@ -147,6 +130,18 @@ void PortalLink::closeSession(const QString& session) {
         m_bus.send(QDBusMessage::createMethodCall(portal::service, session, portal::session, QStringLiteral("Close")));
 }
 
+/// GNOME's part of the portal is a process of its own, which outlives the portal and goes on holding the shortcuts of a
+/// session that the portal has forgotten: another session is given the same ones, and hears nothing of them.
+void PortalLink::abandonSession(const QString& session) {
+    if (session.isEmpty())
+        return;
+    QDBusMessage close = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.impl.portal.desktop.gnome"),
+                                                        session, QStringLiteral("org.freedesktop.impl.portal.Session"),
+                                                        QStringLiteral("Close"));
+    close.setAutoStartService(false);
+    m_bus.send(close);
+}
+
 void PortalLink::forget(const QString& path, Outcome outcome) {
     // It may go on at once, and ask for more.
     const OneShot<Answer> answer = m_pending.take(path);
@@ -174,8 +169,6 @@ void PortalLink::hearOwner(const QString& name, const QString& before, const QSt
     if (name != portal::service)
         return;
     if (!before.isEmpty()) {
-        m_introduction.reset();
-        m_isIntroduced = false;
         for (const QString& path : m_pending.keys())
             forget(path, Outcome::missing);
         Q_EMIT ended();

@@ -2,16 +2,17 @@
 #pragma once
 
 #include "foundation/OneShot.h"
+#include "linux/portal/PortalIntroduction.h"
+#include "linux/portal/PortalSurvey.h"
 
 #include <QCoroTask>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusPendingCall>
 #include <QHash>
 #include <QObject>
 #include <QVariantMap>
 #include <chrono>
-#include <optional>
+#include <memory>
 
 namespace vellumry {
 
@@ -39,17 +40,17 @@ public:
         QVariantMap options{};
     };
     struct Options {
-        /// The portal that runs has been told our name (`portalbus::introduce`); else it is told before anything else.
-        bool isIntroduced = false;
         /// For what needs no word of the user.
         std::chrono::milliseconds patience{20'000};
     };
 
-    /// `bus` is `portalbus::connection()`, but in tests.
-    PortalLink(QDBusConnection bus, Options options);
+    /// Each portal is told our name before anything else.
+    PortalLink(std::shared_ptr<PortalIntroduction> introduction, Options options);
     ~PortalLink() override;
 
     [[nodiscard]] QDBusConnection& bus() { return m_bus; }
+    /// Which portals of use to us there are. Starts the portal, as every request does.
+    [[nodiscard]] QCoro::Task<PortalSurvey> survey();
     /// Makes a request and waits for the portal's response, `limit` at most, then takes the request back.
     [[nodiscard]] QCoro::Task<Answer> request(Call call, std::chrono::milliseconds limit);
     /// Makes a request that asks the user nothing.
@@ -57,6 +58,8 @@ public:
     /// The path of a new session of `interface`; empty when there is none.
     [[nodiscard]] QCoro::Task<QString> openSession(QString interface);
     void closeSession(const QString& session);
+    /// Ends what is left of a session whose portal has ended.
+    void abandonSession(const QString& session);
     /// Calls a method that answers at once. An error message when it does not.
     [[nodiscard]] OneShot<QDBusMessage> call(QDBusMessage message);
     [[nodiscard]] static QDBusMessage messageFor(const QString& interface, const QString& method,
@@ -76,14 +79,12 @@ private Q_SLOTS:
     void hearOwner(const QString& name, const QString& before, const QString& now);
 
 private:
-    [[nodiscard]] OneShot<QDBusMessage> introduced();
     void forget(const QString& path, Outcome outcome);
 
+    const std::shared_ptr<PortalIntroduction> m_introduction;
     QDBusConnection m_bus;
     const Options m_options;
-    bool m_isIntroduced;                            ///< to the portal that runs now, before our time
-    std::optional<QDBusPendingCall> m_introduction; ///< to the portal that runs now
-    QHash<QString, OneShot<Answer>> m_pending;      ///< by the request's path
+    QHash<QString, OneShot<Answer>> m_pending; ///< by the request's path
 };
 
 } // namespace vellumry

@@ -2,7 +2,11 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
+#include <QString>
+#include <array>
 #include <chrono>
+#include <utility>
 
 namespace vellumry {
 
@@ -15,9 +19,18 @@ struct PortalSurvey {
         wanted,  ///< a portal that does not run yet is started
         unwanted ///< and counts as missing
     };
-    /// Asks the portal and waits for `limit` at most: a portal that does not answer has nothing. `bus` is not the
-    /// connection that portals are used by (PortalLink).
+    /// Whether it is worth asking: a portal runs, or can be started and may be. Asks the bus.
+    [[nodiscard]] static bool canBeThere(const QDBusConnection& bus, Start start);
+    /// Asks the portal and waits for `limit` at most: a portal that does not answer has nothing. For programs that ask
+    /// it nothing else; `PortalLink::survey` does not wait. `bus` is not the connection that portals are used by.
     [[nodiscard]] static PortalSurvey take(QDBusConnection bus, Start start, std::chrono::milliseconds limit);
+
+    /// Each interface with its place here.
+    [[nodiscard]] std::array<std::pair<QString, quint32*>, 2> interfaces();
+    /// Asks for the version of an interface.
+    [[nodiscard]] static QDBusMessage question(const QString& interface);
+    /// 0 in an error.
+    [[nodiscard]] static quint32 versionIn(const QDBusMessage& answer);
 
     bool operator==(const PortalSurvey&) const = default;
 };

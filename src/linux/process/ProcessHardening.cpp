@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/process/ProcessHardening.h"
 
+#include <mutex>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 
@@ -15,13 +16,36 @@ void hardenProcess() {
 #endif
 }
 
-VisibleProcess::VisibleProcess()
-    : m_before(prctl(PR_GET_DUMPABLE, 0, 0, 0, 0)) {
+namespace {
+
+/// Of the process, as what it counts is.
+struct Visibility {
+    std::mutex mutex;
+    int wanted = 0;
+    int before = 0;
+};
+
+Visibility& visibility() {
+    static Visibility visibility;
+    return visibility;
+}
+
+} // namespace
+
+VisibleProcess::VisibleProcess() {
+    Visibility& now = visibility();
+    const std::lock_guard lock(now.mutex);
+    if (now.wanted++ > 0)
+        return;
+    now.before = prctl(PR_GET_DUMPABLE, 0, 0, 0, 0);
     prctl(PR_SET_DUMPABLE, 1, 0, 0, 0);
 }
 
 VisibleProcess::~VisibleProcess() {
-    prctl(PR_SET_DUMPABLE, m_before, 0, 0, 0);
+    Visibility& now = visibility();
+    const std::lock_guard lock(now.mutex);
+    if (--now.wanted == 0)
+        prctl(PR_SET_DUMPABLE, now.before, 0, 0, 0);
 }
 
 } // namespace vellumry

@@ -9,17 +9,14 @@ namespace vellumry {
 void hardenProcess();
 
 /// As long as it lives, other processes of the user may see which program this is, as they may of an ordinary process.
-/// For a moment at the start, before there are secrets in memory: a compositor that grants rights by desktop file looks
-/// up the program of a new connection in /proc. Any thread, one at a time.
+/// For a moment, if it can be before there are secrets in memory: a compositor that grants rights by desktop file looks
+/// up the program of a new connection in /proc, as portals do. Any thread; the last of several hides the process.
 class VisibleProcess {
 public:
     VisibleProcess();
     ~VisibleProcess();
     VisibleProcess(const VisibleProcess&) = delete;
     VisibleProcess& operator=(const VisibleProcess&) = delete;
-
-private:
-    int m_before = 0;
 };
 
 } // namespace vellumry

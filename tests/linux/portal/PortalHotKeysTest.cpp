@@ -208,9 +208,12 @@ TEST_F(PortalHotKeysTest, AWishThatChangesDuringTheQuestionIsAskedAfterIt) {
 }
 
 TEST_F(PortalHotKeysTest, APortalThatComesBackIsAskedAgain) {
+    FakePortalBackend backend(bus.address());
     grabBoth();
     untilStanding(Standing::given);
+    const QString session = portal.session();
     portal.end();
+    runUntil([&] { return backend.closed == QStringList{session}; });
     untilStanding(Standing::failed);
     portal.begin();
     untilStanding(Standing::given);

@@ -208,6 +208,16 @@ TEST_F(PortalKeyboardTest, ASessionThatTheDesktopEndsIsOpenedAnewByTheNextPaste)
     EXPECT_EQ(portal.count("NotifyKeyboardKeycode"), 0) << "no key without a session";
 }
 
+TEST_F(PortalKeyboardTest, WhatIsLeftOfASessionEndsWithThePortal) {
+    FakePortalBackend backend(bus.address());
+    allow();
+    EXPECT_TRUE(prepared());
+    const QString session = portal.session();
+    portal.end();
+    runUntil([&] { return !backend.closed.isEmpty(); });
+    EXPECT_EQ(backend.closed, QStringList{session});
+}
+
 TEST_F(PortalKeyboardTest, APortalThatRestartsIsAskedAnew) {
     allow();
     EXPECT_TRUE(prepared());

@@ -31,11 +31,11 @@ TEST_F(PortalLinkTest, ThePortalHearsOurNameBeforeAnythingElse) {
 }
 
 TEST_F(PortalLinkTest, APortalThatKnowsUsIsNotToldAgain) {
-    PortalLink::Options options;
-    options.isIntroduced = true;
-    connect(options);
+    introduction->begin();
+    const auto heard = introduction->made();
+    runUntil([this] { return portal.count("Register") == 1; });
     EXPECT_EQ(asked().outcome, Outcome::given);
-    EXPECT_EQ(portal.count("Register"), 0);
+    EXPECT_EQ(portal.count("Register"), 1);
 }
 
 TEST_F(PortalLinkTest, APortalThatTakesNoNamesIsAskedAllTheSame) {
@@ -102,6 +102,29 @@ TEST_F(PortalLinkTest, APortalThatEndsAnswersWhatIsOpenAndHearsOurNameWhenItIsBa
     runUntil([&begins] { return begins == 1; });
     EXPECT_EQ(asked().outcome, Outcome::given);
     EXPECT_EQ(portal.count("Register"), 2);
+}
+
+TEST_F(PortalLinkTest, TellsWhatThePortalHas) {
+    portal.versions = {{QStringLiteral("org.freedesktop.portal.RemoteDesktop"), 2}};
+    EXPECT_EQ(awaited(link->survey()), (PortalSurvey{0, 2}));
+    EXPECT_EQ(portal.calls[0].member, u"Register");
+    portal.end();
+    EXPECT_EQ(awaited(link->survey()), PortalSurvey());
+}
+
+TEST_F(PortalLinkTest, TheProgramMayEndWhileThePortalIsAsked) {
+    portal.responses[QStringLiteral("Get")].isSilent = true;
+    portal.versions = {{QStringLiteral("org.freedesktop.portal.RemoteDesktop"), 2}};
+    bool isOver = false;
+    const auto watching = [](auto task, bool* over) -> QCoro::Task<void> {
+        const PortalSurvey survey = co_await task;
+        EXPECT_EQ(survey, PortalSurvey());
+        *over = true;
+    }(link->survey(), &isOver);
+    runUntil([this] { return portal.count("Get") == 1; });
+    link.reset();
+    portal.end();
+    runUntil([&isOver] { return isOver; });
 }
 
 TEST_F(PortalLinkTest, ASessionIsOpenedAndClosed) {

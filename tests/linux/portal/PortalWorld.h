@@ -21,18 +21,22 @@ protected:
     }
     ~PortalWorld() override {
         link.reset();
+        introduction.reset();
         QDBusConnection::disconnectFromBus(QStringLiteral("link"));
     }
 
     void connect(const PortalLink::Options& options) {
         link.reset();
+        introduction.reset();
         QDBusConnection::disconnectFromBus(QStringLiteral("link"));
-        link =
-            std::make_shared<PortalLink>(QDBusConnection::connectToBus(bus.address(), QStringLiteral("link")), options);
+        introduction = std::make_shared<PortalIntroduction>(
+            QDBusConnection::connectToBus(bus.address(), QStringLiteral("link")), std::chrono::seconds(60));
+        link = std::make_shared<PortalLink>(introduction, options);
     }
 
     PrivateBus bus;
     ScriptedPortal portal{bus.address()};
+    std::shared_ptr<PortalIntroduction> introduction;
     std::shared_ptr<PortalLink> link;
 };
 

@@ -224,6 +224,22 @@ void ScriptedPortal::sendResponse(const QString& path, const Response& response,
     EXPECT_TRUE(bus().send(signal));
 }
 
+FakePortalBackend::FakePortalBackend(const QString& address) {
+    QDBusConnection bus = QDBusConnection::connectToBus(address, QStringLiteral("fake-backend"));
+    EXPECT_TRUE(bus.registerVirtualObject(root, this, QDBusConnection::SubPath));
+    EXPECT_TRUE(bus.registerService(QStringLiteral("org.freedesktop.impl.portal.desktop.gnome")));
+}
+
+FakePortalBackend::~FakePortalBackend() {
+    QDBusConnection::disconnectFromBus(QStringLiteral("fake-backend"));
+}
+
+bool FakePortalBackend::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
+    if (message.member() == u"Close" && message.interface() == u"org.freedesktop.impl.portal.Session")
+        closed.append(message.path());
+    return connection.send(message.createReply());
+}
+
 FakeGlobalAccel::FakeGlobalAccel(const QString& address) {
     qDBusRegisterMetaType<CarriedKeys>();
     qDBusRegisterMetaType<QList<CarriedKeys>>();

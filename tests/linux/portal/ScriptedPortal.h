@@ -98,6 +98,19 @@ private:
     QMap<QString, QString> m_requests; ///< the path of the last request of a method
 };
 
+/// GNOME's part of the portal, as far as it ends sessions.
+class FakePortalBackend : public QDBusVirtualObject {
+    Q_OBJECT
+public:
+    explicit FakePortalBackend(const QString& address);
+    ~FakePortalBackend() override;
+
+    QStringList closed; ///< paths of sessions
+
+    [[nodiscard]] QString introspect(const QString&) const override { return {}; }
+    [[nodiscard]] bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
+};
+
 /// Plasma's service of global shortcuts, as far as it tells which keys an action has.
 class FakeGlobalAccel : public QDBusVirtualObject {
     Q_OBJECT

@@ -2,6 +2,7 @@
 #include "linux/process/ProcessHardening.h"
 
 #include <gtest/gtest.h>
+#include <memory>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -39,6 +40,23 @@ TEST(ProcessHardening, TheProcessCanBeSeenForAMomentAndIsClosedAgain) {
             const VisibleProcess visible;
             wasOpen = prctl(PR_GET_DUMPABLE) == 1;
         }
+        _exit(wasOpen && prctl(PR_GET_DUMPABLE) == closed ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+}
+
+TEST(ProcessHardening, OfSeveralThatMakeTheProcessSeenTheLastHidesIt) {
+    const pid_t child = fork();
+    if (child == 0) {
+        hardenProcess();
+        const int closed = prctl(PR_GET_DUMPABLE);
+        auto first = std::make_unique<VisibleProcess>();
+        auto second = std::make_unique<VisibleProcess>();
+        first.reset();
+        const bool wasOpen = prctl(PR_GET_DUMPABLE) == 1;
+        second.reset();
         _exit(wasOpen && prctl(PR_GET_DUMPABLE) == closed ? 0 : 1);
     }
     int status = 0;

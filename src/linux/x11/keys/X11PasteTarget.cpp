@@ -38,7 +38,7 @@ X11PasteTarget::X11PasteTarget(std::shared_ptr<XlibConnection> connection, std::
     , m_options(std::move(options)) {}
 
 bool X11PasteTarget::isTrusted() const {
-    if (!m_options.everywhere)
+    if (!m_options.everywhere || !m_options.everywhere->isThere())
         return m_connection->hasTestExtension();
     return m_options.everywhere->isReady() || (m_connection->hasTestExtension() && m_focus->isProgramRemembered());
 }
