@@ -84,8 +84,7 @@ PortalRoads::PortalRoads(Platform& platform, const std::shared_ptr<PortalIntrodu
         known = PortalSurvey();
     if (known == PortalSurvey())
         return;
-    m_found = std::make_shared<Found>(
-        Found{std::make_shared<PortalLink>(introduction, PortalLink::Options()), known});
+    m_found = std::make_shared<Found>(Found{std::make_shared<PortalLink>(introduction, PortalLink::Options()), known});
     if (!known)
         ask(m_found);
 }

@@ -4,6 +4,8 @@ scripts/wayland-session gnome-plain."""
 
 import contextlib
 import os
+import re
+import signal
 import sys
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
@@ -79,6 +81,26 @@ def test_shortcuts_and_the_paste_key():
             assert reports(PASTE)
             assert window.state["active"], "a second question"
             paste_first(window, "and once more")
+
+
+def portal():
+    """The process of the desktop's portal; None while there is none."""
+    number = re.search(r"\d+,", told("gdbus", "call", "--session", "-d", "org.freedesktop.DBus", "-o", "/", "-m",
+                                     "org.freedesktop.DBus.GetConnectionUnixProcessID", "org.freedesktop.portal.Desktop").decode())
+    return int(number.group()[:-1]) if number else None
+
+
+def test_a_portal_that_dies():
+    """Shortcuts and paste key come back with the next portal, without a question: it is started when nothing else starts it."""
+    with Window() as window, Vellumry():
+        wait_until(lambda: reports(KEYS), "the shortcuts")
+        paste_first(window, "before")
+        first = portal()
+        os.kill(first, signal.SIGKILL)
+        wait_until(lambda: portal() not in (None, first), "another portal")
+        wait_until(lambda: reports(KEYS), "the shortcuts of the other portal")
+        paste_first(window, "behind it")
+        assert window.state["active"], "a second question"
 
 
 @contextlib.contextmanager

@@ -24,7 +24,7 @@ public:
         bool isPlasma = false;             ///< Plasma's file counts
         /// Makes us known on `bus` to a portal that restarts.
         std::shared_ptr<PortalIntroduction> introduction{};
-        bool scalesText = false;           ///< the portal's scale of texts is not in the display's scale already
+        bool scalesText = false; ///< the portal's scale of texts is not in the display's scale already
     };
 
     explicit LinuxDesktopLook(const Places& places);

@@ -31,8 +31,8 @@ public:
     [[nodiscard]] QDBusConnection& bus() { return m_bus; }
     /// To the portal that runs, if there is one; and from then on to each that follows it.
     void begin();
-    /// Resumes when the portal has heard our name or will not; one is started for it. With the portal's answer: an error
-    /// of older portals, which know no such method and name us by our cgroup if at all.
+    /// Resumes when the portal has heard our name or will not; one is started for it. With the portal's answer: an
+    /// error of older portals, which know no such method and name us by our cgroup if at all.
     [[nodiscard]] OneShot<QDBusMessage> made();
 
 private Q_SLOTS:

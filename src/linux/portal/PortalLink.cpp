@@ -135,9 +135,9 @@ void PortalLink::closeSession(const QString& session) {
 void PortalLink::abandonSession(const QString& session) {
     if (session.isEmpty())
         return;
-    QDBusMessage close = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.impl.portal.desktop.gnome"),
-                                                        session, QStringLiteral("org.freedesktop.impl.portal.Session"),
-                                                        QStringLiteral("Close"));
+    QDBusMessage close =
+        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.impl.portal.desktop.gnome"), session,
+                                       QStringLiteral("org.freedesktop.impl.portal.Session"), QStringLiteral("Close"));
     close.setAutoStartService(false);
     m_bus.send(close);
 }

@@ -14,8 +14,7 @@ bool PortalSurvey::canBeThere(const QDBusConnection& bus, Start start) {
     if (!bus.isConnected())
         return false;
     return bus.interface()->isServiceRegistered(portal::service) ||
-           (start == Start::wanted &&
-            bus.interface()->activatableServiceNames().value().contains(portal::service));
+           (start == Start::wanted && bus.interface()->activatableServiceNames().value().contains(portal::service));
 }
 
 PortalSurvey PortalSurvey::take(QDBusConnection bus, Start start, std::chrono::milliseconds limit) {
@@ -38,8 +37,8 @@ std::array<std::pair<QString, quint32*>, 2> PortalSurvey::interfaces() {
 }
 
 QDBusMessage PortalSurvey::question(const QString& interface) {
-    QDBusMessage message = QDBusMessage::createMethodCall(portal::service, portal::path, portal::properties,
-                                                          QStringLiteral("Get"));
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(portal::service, portal::path, portal::properties, QStringLiteral("Get"));
     message.setArguments({interface, QStringLiteral("version")});
     return message;
 }

@@ -20,9 +20,7 @@ protected:
         keys.choose(std::move(made));
         return chosen;
     }
-    bool grab(quint32 id, const FakeHotKeyRegistrar::Combination& key) {
-        return keys.grab(id, key.first, key.second);
-    }
+    bool grab(quint32 id, const FakeHotKeyRegistrar::Combination& key) { return keys.grab(id, key.first, key.second); }
 
     DeferredHotKeys keys;
 };
