@@ -73,12 +73,14 @@ struct ClipSearch::Private {
     std::optional<Found> found; ///< by the last search, while no clip has changed
     std::size_t prepared = 0;   ///< so many of the first clips of `preparedRevision` are folded
     std::size_t foldedAhead = 0;
-    bool isOrderBegun = false; ///< the order has the first `prepared` clips and no more
+    std::optional<std::size_t> withoutText; ///< so many clips had none in the index when all were prepared
+    bool isOrderBegun = false;              ///< the order has the first `prepared` clips and no more
     std::optional<qint64> preparedRevision;
 
     Slot slotOfClip(const Clip& clip);
     void follow(const std::vector<ClipRef>& clips, std::optional<qint64> revision);
     bool giveBackWaste();
+    [[nodiscard]] bool hasAllTexts(const std::vector<ClipRef>& clips) const;
     [[nodiscard]] std::optional<std::vector<Slot>> candidates(const QByteArray& needle, ClipFilter filter) const;
     [[nodiscard]] bool isWorthwhile(const std::vector<Slot>& slots) const;
     void findExact(const ByteSearch& search, ClipFilter filter);
@@ -126,6 +128,8 @@ bool ClipSearch::prepare(const std::vector<ClipRef>& clips, qint64 revision, std
         d->isOrderBegun = d->order.size() == 0;
     }
     const std::size_t slotsBefore = d->index.slotCount();
+    if (d->hasAllTexts(clips))
+        d->prepared = clips.size();
     while (d->prepared < clips.size() && std::chrono::steady_clock::now() < end) {
         const std::size_t next = std::min(d->prepared + clipsAtOnce, clips.size());
         // Later changes of the order are cheap enough for a keystroke, and most of them no search will ever see.
@@ -135,10 +139,13 @@ bool ClipSearch::prepare(const std::vector<ClipRef>& clips, qint64 revision, std
             if (const Clip& clip = *clips[d->prepared]; !clip.isSensitive())
                 (void)d->slotOfClip(clip);
         }
+        if (d->hasAllTexts(clips))
+            d->prepared = clips.size();
     }
     d->foldedAhead += d->index.slotCount() - slotsBefore;
     if (d->prepared < clips.size())
         return false;
+    d->withoutText = clips.size() - d->slotOf.size();
     if (std::exchange(d->isOrderBegun, false))
         d->order.finish(revision);
     if (std::exchange(d->foldedAhead, 0) > manyTexts)
@@ -190,6 +197,13 @@ void ClipSearch::Private::follow(const std::vector<ClipRef>& clips, std::optiona
     // Folding the whole history leaves as much behind as it makes.
     if (index.slotCount() - slotsBefore > manyTexts)
         giveBackUnusedMemory();
+}
+
+/// Once all were prepared, the count tells whether new ones are there: they come first, and the rest need not be looked
+/// at. Where a secret has gone and an old text has changed at the same time it is wrong by one, and a search folds
+/// that.
+bool ClipSearch::Private::hasAllTexts(const std::vector<ClipRef>& clips) const {
+    return withoutText && !isOrderBegun && clips.size() <= slotOf.size() + *withoutText;
 }
 
 /// Searches take care of what removed texts leave behind. Where nothing is searched for, texts that are folded ahead

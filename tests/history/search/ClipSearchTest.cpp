@@ -252,6 +252,24 @@ TEST(ClipSearch, PreparingGoesOnWhereTheLastSliceEnded) {
     EXPECT_EQ(search.search(clips, u"text 4999 "_s, ClipFilter::all, 1), Clips{clips.back()});
 }
 
+TEST(ClipSearch, BehindAChangeOnlyWhatIsNewIsLookedAt) {
+    Clips clips{secretFrom(u"Terminal"_s, u"hunter2"_s)};
+    for (int number = 0; number < 5000; ++number)
+        clips.push_back(textClip(u"text %1 "_s.arg(number)));
+    ClipSearch search;
+    (void)prepared(search, clips, 1, std::chrono::seconds(1));
+    constexpr std::chrono::microseconds noTime{0};
+    search.forgetText(clips.back()->id);
+    clips.pop_back();
+    EXPECT_TRUE(search.prepare(clips, 2, noTime));
+    clips.insert(clips.begin(), textClip(u"newcomer"_s));
+    EXPECT_FALSE(search.prepare(clips, 3, noTime));
+    (void)prepared(search, clips, 3, std::chrono::seconds(1));
+    EXPECT_TRUE(search.prepare(clips, 4, noTime));
+    EXPECT_EQ(search.search(clips, u"newcomer"_s, ClipFilter::all, 4), Clips{clips.front()});
+    EXPECT_EQ(search.search(clips, u"text 4998 "_s, ClipFilter::all, 4), Clips{clips.back()});
+}
+
 TEST(ClipSearch, WhatChangesWhileTheRestIsPreparedIsFoundAsItIsNow) {
     Clips clips;
     for (int number = 0; number < 500; ++number)
