@@ -2,6 +2,7 @@
 #include "linux/x11/windows/X11FrontmostApplication.h"
 
 #include "linux/applications/SourceApps.h"
+#include "linux/x11/windows/SelectionClient.h"
 #include "linux/x11/windows/XWindowProperties.h"
 
 #include <QCoreApplication>
@@ -21,6 +22,16 @@ QString firstOf(std::initializer_list<QString> candidates) {
             return candidate;
     }
     return {};
+}
+
+ApplicationHints hintsFrom(const SelectionClient& client) {
+    ApplicationHints hints;
+    hints.applicationID = firstOf({client.gtkApplication, client.kdeDesktopFile, sandboxedID(client.process)});
+    hints.className = client.windowClass.name;
+    hints.instanceName = client.windowClass.instance;
+    if (client.process > 0)
+        hints.program = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/%1/exe").arg(client.process))).fileName();
+    return hints;
 }
 
 } // namespace
@@ -69,16 +80,12 @@ void X11FrontmostApplication::follow() {
 }
 
 ApplicationHints X11FrontmostApplication::hintsOf(XWindow window, qint64 process) const {
-    const auto windowClass = windowproperties::windowClass(*m_connection, window);
-    ApplicationHints hints;
-    hints.applicationID =
-        firstOf({windowproperties::text(*m_connection, window, "_GTK_APPLICATION_ID"),
-                 windowproperties::text(*m_connection, window, "_KDE_NET_WM_DESKTOP_FILE"), sandboxedID(process)});
-    hints.className = windowClass.name;
-    hints.instanceName = windowClass.instance;
-    if (process > 0)
-        hints.program = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/%1/exe").arg(process))).fileName();
-    return hints;
+    SelectionClient client;
+    client.windowClass = windowproperties::windowClass(*m_connection, window);
+    client.process = process;
+    client.gtkApplication = windowproperties::text(*m_connection, window, "_GTK_APPLICATION_ID");
+    client.kdeDesktopFile = windowproperties::text(*m_connection, window, "_KDE_NET_WM_DESKTOP_FILE");
+    return hintsFrom(client);
 }
 
 std::optional<DesktopEntry> X11FrontmostApplication::currentEntry() const {
@@ -97,28 +104,11 @@ SourceApp X11FrontmostApplication::applicationOf(const ApplicationHints& hints) 
     return hints == ApplicationHints() ? SourceApp() : sourceAppOf(hints, *m_entries->index());
 }
 
-// Toolkits own selections with an unmapped window that says nothing of itself; the program's other windows
-// do, be they hidden or iconified by now.
-
 SourceApp X11FrontmostApplication::pasteboardOwner() const {
-    const XWindow owner = XGetSelectionOwner(m_connection->display(), m_connection->atom("CLIPBOARD"));
-    const XWindow named = owner <= 1 ? 0 : namedWindowOfClient(owner);
-    if (named == 0)
+    const auto client = SelectionClient::of(*m_connection, "CLIPBOARD");
+    if (!client || client->process == QCoreApplication::applicationPid())
         return {};
-    const qint64 process = windowproperties::processOf(*m_connection, named);
-    if (process == QCoreApplication::applicationPid())
-        return {};
-    return applicationOf(hintsOf(named, process));
-}
-
-/// The client's window that bears a class: among those that the window manager knows, iconified ones included, and
-/// among those it does not, the hidden ones. 0 for a client without any.
-XWindow X11FrontmostApplication::namedWindowOfClient(XWindow window) const {
-    for (const XWindow candidate : windowproperties::windowsOfClient(*m_connection, window)) {
-        if (windowproperties::windowClass(*m_connection, candidate) != windowproperties::WindowClass())
-            return candidate;
-    }
-    return 0;
+    return applicationOf(hintsFrom(*client));
 }
 
 } // namespace vellumry

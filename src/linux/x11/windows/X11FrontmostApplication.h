@@ -18,7 +18,7 @@ public:
     X11FrontmostApplication(std::shared_ptr<XlibConnection> connection, std::shared_ptr<DesktopEntries> entries);
 
     [[nodiscard]] SourceApp current() const override;
-    /// Waits for the X server a few times.
+    /// Waits for the X server twice.
     [[nodiscard]] SourceApp pasteboardOwner() const override;
     /// The installed application in front, with its icon; nothing when it has no desktop file.
     [[nodiscard]] std::optional<DesktopEntry> currentEntry() const;
@@ -29,7 +29,6 @@ private:
     [[nodiscard]] ApplicationHints hintsOf(XWindow window, qint64 process) const;
     [[nodiscard]] std::optional<DesktopEntry> entryOf(const ApplicationHints& hints) const;
     [[nodiscard]] SourceApp applicationOf(const ApplicationHints& hints) const;
-    [[nodiscard]] XWindow namedWindowOfClient(XWindow window) const;
 
     std::shared_ptr<XlibConnection> m_connection;
     std::shared_ptr<DesktopEntries> m_entries;

@@ -6,7 +6,6 @@
 #include <QByteArrayList>
 
 #include <X11/Xatom.h>
-#include <X11/Xlib-xcb.h>
 #include <X11/Xlib.h>
 
 namespace vellumry::windowproperties {
@@ -45,26 +44,6 @@ Property read(XlibConnection& connection, XWindow window, const char* name) {
     if (data != nullptr)
         XFree(data);
     return result;
-}
-
-std::vector<XWindow> childrenOf(XlibConnection& connection, XWindow window) {
-    Window root = 0;
-    Window parent = 0;
-    Window* children = nullptr;
-    unsigned int count = 0;
-    XErrorTrap trap(connection.display());
-    if (!XQueryTree(connection.display(), window, &root, &parent, &children, &count))
-        return {};
-    const std::vector<XWindow> result(children, children + count);
-    if (children != nullptr)
-        XFree(children);
-    return result;
-}
-
-/// A window's number begins with its client's; the server tells every client which bits are left to it.
-XWindow clientNumber(XlibConnection& connection, XWindow window) {
-    const xcb_setup_t* setup = xcb_get_setup(XGetXCBConnection(connection.display()));
-    return window & ~XWindow(setup->resource_id_mask);
 }
 
 XWindow parentOf(XlibConnection& connection, XWindow window) {
@@ -130,18 +109,6 @@ XWindow topLevelOf(XlibConnection& connection, XWindow window) {
         at = parent;
     }
     return 0;
-}
-
-std::vector<XWindow> windowsOfClient(XlibConnection& connection, XWindow window) {
-    std::vector<XWindow> result;
-    std::vector<XWindow> candidates = numbers(connection, connection.root(), "_NET_CLIENT_LIST");
-    for (const XWindow child : childrenOf(connection, connection.root()))
-        candidates.push_back(child);
-    for (const XWindow candidate : candidates) {
-        if (clientNumber(connection, candidate) == clientNumber(connection, window))
-            result.push_back(candidate);
-    }
-    return result;
 }
 
 bool exists(XlibConnection& connection, XWindow window) {

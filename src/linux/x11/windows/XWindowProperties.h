@@ -33,9 +33,6 @@ struct WindowClass {
 [[nodiscard]] XWindow clientOf(XlibConnection& connection, XWindow window);
 /// The child of the root that holds `window` or is it, a window manager's frame often; 0 when the window is gone.
 [[nodiscard]] XWindow topLevelOf(XlibConnection& connection, XWindow window);
-/// The windows of the program that `window` belongs to, mapped or not: those that the window manager knows and those
-/// that are children of the root.
-[[nodiscard]] std::vector<XWindow> windowsOfClient(XlibConnection& connection, XWindow window);
 /// True when the window exists.
 [[nodiscard]] bool exists(XlibConnection& connection, XWindow window);
 
