@@ -45,7 +45,7 @@ bool passesQuickCheck(SQLiteDatabase& database) {
     QByteArray findings;
     while (check.step())
         findings += check.text(0).toByteArray() + '\n';
-    if (couldNotRead(findings))
+    if (couldNotRead(findings) || database.hasBeenRefused())
         throw SQLiteError(SQLiteError::Case::step, SQLITE_IOERR_READ, "a page cannot be read");
     return findings == "ok\n";
 }
@@ -73,7 +73,8 @@ bool isSound(const QString& path, const SymmetricKey& key) {
     // A journal can be played back by a connection only that may write.
     const bool hasJournal = QFile::exists(QFile::decodeName(encodedCompanion(path, "-journal")));
     try {
-        SQLiteDatabase database(path, hasJournal ? SQLiteDatabase::Access::recover : SQLiteDatabase::Access::readOnly);
+        SQLiteDatabase database(path,
+                                hasJournal ? SQLiteDatabase::Access::recover : SQLiteDatabase::Access::readThrough);
         if (!passesQuickCheck(database))
             return false;
         if (!hasClipsTable(database))
@@ -89,7 +90,7 @@ bool isSound(const QString& path, const SymmetricKey& key) {
 
 bool hasPassedCheck(const QString& path) {
     try {
-        SQLiteDatabase database(path, SQLiteDatabase::Access::readOnly);
+        SQLiteDatabase database(path, SQLiteDatabase::Access::readThrough);
         return passesQuickCheck(database);
     } catch (const SQLiteError& error) {
         if (isDamage(error))

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/file/SQLiteDatabase.h"
 
+#include "history/file/ReadAhead.h"
+
 #include <QFile>
 #include <sqlite3.h>
 #include <utility>
@@ -14,6 +16,7 @@ constexpr int busyMilliseconds = 250;
 int flagsOf(SQLiteDatabase::Access access) {
     switch (access) {
     case SQLiteDatabase::Access::readOnly:
+    case SQLiteDatabase::Access::readThrough:
         return SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX;
     case SQLiteDatabase::Access::recover:
         return SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
@@ -37,7 +40,8 @@ SQLiteDatabase::SQLiteDatabase(const QString& path, Access access) {
 }
 
 void SQLiteDatabase::open(const QString& path, Access access) {
-    const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle, flagsOf(access), nullptr);
+    const char* const layer = access == Access::readThrough ? readahead::layer() : nullptr;
+    const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle, flagsOf(access), layer);
     if (!m_handle)
         throw SQLiteError(SQLiteError::Case::open, result, "code " + std::to_string(result));
     sqlite3_extended_result_codes(m_handle, 1);
@@ -45,7 +49,8 @@ void SQLiteDatabase::open(const QString& path, Access access) {
         throw error(SQLiteError::Case::open);
     sqlite3_busy_timeout(m_handle, busyMilliseconds);
     // SQLite opens what it may not write for reading, without a word; every change would then be lost.
-    if (access != Access::readOnly && sqlite3_db_readonly(m_handle, "main") == 1)
+    const bool mayWrite = access == Access::recover || access == Access::readWrite;
+    if (mayWrite && sqlite3_db_readonly(m_handle, "main") == 1)
         throw SQLiteError(SQLiteError::Case::open, SQLITE_READONLY, "attempt to write a readonly database");
 }
 
@@ -82,6 +87,10 @@ SQLiteDatabase::Statement SQLiteDatabase::prepareKept(const char* sql) {
     if (const auto kept = m_kept.extract(sql))
         return {*this, kept.mapped(), sql};
     return {*this, compiled(sql, SQLITE_PREPARE_PERSISTENT), sql};
+}
+
+bool SQLiteDatabase::hasBeenRefused() const {
+    return readahead::hasRefused(m_handle);
 }
 
 sqlite3_stmt* SQLiteDatabase::compiled(const char* sql, unsigned flags) {

@@ -19,9 +19,10 @@ namespace vellumry {
 class SQLiteDatabase {
 public:
     enum class Access {
-        readOnly,  ///< changes nothing in the file
-        recover,   ///< of an existing file: plays back what a power cut left unfinished, and changes nothing else
-        readWrite, ///< makes the file when it is missing, writes ahead and overwrites deleted content with zeros
+        readOnly,    ///< changes nothing in the file
+        readThrough, ///< the same, for going through most of it: what lies behind one another is read at once
+        recover,     ///< of an existing file: plays back what a power cut left unfinished, and changes nothing else
+        readWrite,   ///< makes the file when it is missing, writes ahead and overwrites deleted content with zeros
     };
 
     /// A prepared statement, used once. Must go before its connection.
@@ -68,6 +69,9 @@ public:
     [[nodiscard]] Statement prepare(const char* sql);
     /// The same for a literal that is used again and again: it is compiled once. Nothing that was bound to it is kept.
     [[nodiscard]] Statement prepareKept(const char* sql);
+
+    /// Whether the disk has refused a page to this connection, which is one for reading through.
+    [[nodiscard]] bool hasBeenRefused() const;
 
 private:
     [[nodiscard]] sqlite3_stmt* compiled(const char* sql, unsigned flags);
