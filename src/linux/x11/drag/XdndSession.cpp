@@ -16,9 +16,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr quint32 newestVersion = 5;
-constexpr quint32 oldestVersion = 3;
-constexpr int deepestWindow = 32;
 /// A target that hangs keeps the drag no longer than this.
 constexpr auto statusPatience = 1500ms;
 /// Between two questions to a target that reads what it is offered before it takes it.
@@ -107,48 +104,6 @@ void XdndSession::describe() {
     xcb_flush(m_connection->handle());
 }
 
-std::optional<quint32> XdndSession::number(xcb_window_t window, const QString& property) {
-    const auto value = m_connection->property(window, m_connection->atom(property), sizeof(quint32), false);
-    if (!value || value->format != 32 || value->bytes.size() < qsizetype(sizeof(quint32)))
-        return std::nullopt;
-    quint32 number = 0;
-    std::copy_n(value->bytes.constData(), sizeof number, reinterpret_cast<char*>(&number));
-    return number;
-}
-
-std::optional<XdndSession::Target> XdndSession::awareOf(xcb_window_t window) {
-    Target target{window, window, 0};
-    const QString proxyName = QStringLiteral("XdndProxy");
-    // A proxy that is gone may have left its number behind: a living one names itself.
-    if (const auto proxy = number(window, proxyName); proxy && number(*proxy, proxyName) == proxy)
-        target.receiver = *proxy;
-    const auto version = number(target.receiver, QStringLiteral("XdndAware"));
-    if (!version || *version < oldestVersion)
-        return std::nullopt;
-    target.version = std::min(*version, newestVersion);
-    return target;
-}
-
-/// The uppermost window below the pointer that takes drops. Windows whose input shape is empty are passed over by the
-/// server: our panel, and the picture of what is dragged.
-XdndSession::Target XdndSession::targetAt(int x, int y) {
-    xcb_connection_t* server = m_connection->handle();
-    xcb_window_t window = m_connection->root();
-    for (int depth = 0; depth < deepestWindow; ++depth) {
-        const XcbPointer<xcb_translate_coordinates_reply_t> below(
-            xcb_translate_coordinates_reply(server,
-                                            xcb_translate_coordinates(server, m_connection->root(), window,
-                                                                      static_cast<qint16>(x), static_cast<qint16>(y)),
-                                            nullptr));
-        if (!below || below->child == XCB_NONE)
-            break;
-        window = below->child;
-        if (const auto target = awareOf(window))
-            return *target;
-    }
-    return awareOf(m_connection->root()).value_or(Target());
-}
-
 void XdndSession::move() {
     if (m_isDecided || m_isReleased)
         return;
@@ -158,7 +113,7 @@ void XdndSession::move() {
     if (!pointer)
         return;
     m_place = (static_cast<quint32>(pointer->root_x) << 16) | static_cast<quint16>(pointer->root_y);
-    if (const Target target = targetAt(pointer->root_x, pointer->root_y); target != m_target) {
+    if (const XdndTarget target = XdndTarget::at(*m_connection, pointer->root_x, pointer->root_y); target != m_target) {
         leave();
         enter(target);
     }
@@ -166,7 +121,7 @@ void XdndSession::move() {
     handleEvents();
 }
 
-void XdndSession::enter(const Target& target) {
+void XdndSession::enter(const XdndTarget& target) {
     m_target = target;
     if (target.window == XCB_NONE)
         return;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "linux/pasteboard/OfferedContents.h"
+#include "linux/x11/drag/XdndTarget.h"
 #include "linux/x11/selection/SelectionOwner.h"
 #include "linux/x11/selection/XcbConnection.h"
 #include "platform/display/DragSource.h"
@@ -37,21 +38,11 @@ public:
     std::function<void()> onDone = [] {};
 
 private:
-    struct Target {
-        xcb_window_t window = XCB_NONE;
-        xcb_window_t receiver = XCB_NONE; ///< of the messages: the window, or its proxy
-        quint32 version = 0;
-        bool operator==(const Target&) const = default;
-    };
-
     XdndSession(std::unique_ptr<XcbConnection> connection, std::shared_ptr<const OfferedContents> contents,
                 std::optional<DragSource::File> saved);
     bool own();
     void describe();
-    [[nodiscard]] Target targetAt(int x, int y);
-    [[nodiscard]] std::optional<Target> awareOf(xcb_window_t window);
-    [[nodiscard]] std::optional<quint32> number(xcb_window_t window, const QString& property);
-    void enter(const Target& target);
+    void enter(const XdndTarget& target);
     void leave();
     void sendPosition();
     void send(const QString& message, quint32 one, quint32 two, quint32 three, quint32 four);
@@ -71,7 +62,7 @@ private:
     QTimer m_patience; ///< with a target that does not answer, or does not accept
     QTimer m_askAgain;
     xcb_timestamp_t m_time = XCB_CURRENT_TIME;
-    Target m_target;
+    XdndTarget m_target;
     quint32 m_place = 0; ///< of the pointer on the root window, x above y
     bool m_isAccepted = false;
     bool m_wasRead = false; ///< by the target, before the drop
