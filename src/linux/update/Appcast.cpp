@@ -23,7 +23,9 @@ std::optional<QByteArray> signedPart(const QByteArray& feed, const QByteArray& p
     const QByteArray whole = feed.endsWith('\n') ? feed.chopped(1) : feed;
     const qsizetype line = whole.lastIndexOf('\n') + 1;
     const QByteArray comment = whole.mid(line);
-    if (!comment.startsWith(signatureBegin) || !comment.endsWith(signatureEnd))
+    // Begin and end share a blank: a comment that holds nothing between them has both and is shorter than the two.
+    if (comment.size() < signatureBegin.size() + signatureEnd.size() || !comment.startsWith(signatureBegin) ||
+        !comment.endsWith(signatureEnd))
         return std::nullopt;
     const QByteArray signature =
         QByteArray::fromBase64(comment.mid(signatureBegin.size()).chopped(signatureEnd.size()));
