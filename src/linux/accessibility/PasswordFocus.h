@@ -16,7 +16,7 @@ namespace vellumry {
 /// A hint, no proof: an application that does not use the bus, or answers too slowly, has no password fields for us.
 class PasswordFocus {
 public:
-    explicit PasswordFocus(std::chrono::milliseconds deadline = std::chrono::milliseconds(100))
+    explicit PasswordFocus(std::chrono::milliseconds deadline = std::chrono::milliseconds(250))
         : m_deadline(deadline) {}
 
     /// True when a password field has the focus in the active window of the process; of any window of it when none is
