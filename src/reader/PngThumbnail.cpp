@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reader/PngThumbnail.h"
 
+#include "reader/StoredPng.h"
+
 #include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <csetjmp>
 #include <cstring>
+#include <optional>
 #include <png.h>
 #include <vector>
 
@@ -21,11 +24,17 @@ constexpr int channels = 4;
 /// What the library reads from, and where it has come to.
 struct Source {
     QByteArrayView bytes;
+    std::optional<StoredPng> stored{}; ///< the same, inflated
     qsizetype position = 0;
 };
 
 void readBytes(png_structp png, png_bytep to, std::size_t count) {
     auto* const source = static_cast<Source*>(png_get_io_ptr(png));
+    if (source->stored) {
+        if (!source->stored->read(to, count))
+            png_error(png, "cut off");
+        return;
+    }
     if (count > static_cast<std::size_t>(source->bytes.size() - source->position))
         png_error(png, "cut off");
     std::memcpy(to, source->bytes.data() + source->position, count);
@@ -113,7 +122,7 @@ private:
 class Reading {
 public:
     explicit Reading(QByteArrayView file)
-        : m_source{file}
+        : m_source{file, StoredPng::of(file)}
         , m_png(png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, onError, onWarning))
         , m_info(m_png ? png_create_info_struct(m_png) : nullptr) {
         if (m_png)
