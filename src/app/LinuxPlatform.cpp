@@ -5,6 +5,7 @@
 #include "app/PortalRoads.h"
 #include "app/WaylandDisplay.h"
 #include "foundation/Logging.h"
+#include "foundation/UnusedMemory.h"
 #include "linux/accessibility/ActiveDescendant.h"
 #include "linux/accessibility/PasswordFocus.h"
 #include "linux/applications/DesktopEntries.h"
@@ -234,7 +235,10 @@ OrReason<Platform> makeLinuxPlatform(DisplayKind display, const QProcessEnvironm
         platform.loginItem = std::move(loginItem);
     }
     addUpdater(platform);
-    platform.returnMemory = &returnCode;
+    platform.returnMemory = [] {
+        giveBackUnusedMemory();
+        returnCode();
+    };
     platform.tellActiveRow = &tellActiveDescendant;
     return platform;
 }

@@ -172,6 +172,7 @@ void PanelController::show() {
     m_surface->present(m_view.get(), frame);
     shapeInput();
     m_model.setPresented(true);
+    m_model.store().wakeSearch();
     onShow();
     if (fades())
         m_fade.start();
@@ -196,6 +197,7 @@ void PanelController::forgetTyped() {
     m_model.setQuery({});
     m_model.store().forgetSearch();
     m_views->engine().collectGarbage();
+    onRest();
 }
 
 void PanelController::toggle() {

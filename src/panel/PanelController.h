@@ -85,6 +85,8 @@ public:
 
     /// Called after the panel came up.
     std::function<void()> onShow = [] {};
+    /// Called a moment after the panel closed, unless it is open again, when it has let go of what was typed.
+    std::function<void()> onRest = [] {};
 
 private:
     static constexpr int fadeIn = 120; ///< milliseconds

@@ -254,7 +254,9 @@ void AppEnvironment::runMaintenance() {
     m_store->setPolicy(m_preferences->retentionPolicy());
     m_store->enforceRetention(m_platform->clock());
     m_updates->installIfQuiet();
-    if (!m_panel->isVisible() && std::exchange(m_hasWorked, false))
+    if (m_settings->isVisible() || m_onboarding->isVisible())
+        m_hasWorked = true;
+    else if (!m_panel->isVisible() && std::exchange(m_hasWorked, false))
         m_platform->returnMemory();
 }
 

@@ -188,7 +188,7 @@ private:
     bool m_isQuitting = false;
     bool m_wasBehind = false;
     bool m_areShortcutsSuspended = false; ///< the keys that are pressed are a new one
-    bool m_hasWorked = true;              ///< started, or shown its panel, since memory was last given back
+    bool m_hasWorked = true;              ///< started, or shown a window, since memory was last given back
 };
 
 } // namespace vellumry

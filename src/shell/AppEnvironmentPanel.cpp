@@ -30,6 +30,11 @@ void AppEnvironment::wirePanel() {
         if (m_onboarding->isVisible())
             m_onboardingModel->notePanelOpened();
     };
+    // The reader of pictures and the code of the views are half of what an open panel takes.
+    m_panel->onRest = [this] {
+        m_platform->images->rest();
+        m_platform->returnMemory();
+    };
     connect(&m_textReading->queue(), &TextReadingQueue::changed, m_panel.get(), &PanelController::readingChanged);
     m_panel->model().onOpenLink = [this](const QString& address) { openLink(address); };
     m_panel->model().onShowFiles = [this](const QStringList& paths) { m_platform->opener->showFiles(paths); };

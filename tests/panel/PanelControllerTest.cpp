@@ -161,6 +161,19 @@ TEST_F(PanelControllerTest, OnlyThePanelTakesThePointerAndNotItsShadow) {
     EXPECT_EQ(surface.inputArea.center(), QRect(QPoint(0, 0), view()->size()).center());
 }
 
+TEST_F(PanelControllerTest, AMomentBehindItsClosingItRests) {
+    int rests = 0;
+    panel.onRest = [&] { ++rests; };
+    open();
+    panel.hide();
+    EXPECT_EQ(rests, 0) << "a paste comes first";
+    panel.show();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(rests, 0) << "it is open again";
+    panel.hide();
+    runUntil([&] { return rests == 1; });
+}
+
 TEST_F(PanelControllerTest, ItFadesInWhereWindowsBlend) {
     surface.blends = true;
     panel.show();

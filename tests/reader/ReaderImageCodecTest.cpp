@@ -7,6 +7,7 @@
 #include "support/Awaited.h"
 #include "support/LoggedLines.h"
 
+#include <QElapsedTimer>
 #include <QTimer>
 #include <csignal>
 #include <gtest/gtest.h>
@@ -102,6 +103,22 @@ TEST(ReaderImageCodec, AReaderStartedAheadServesThePictureThatComes) {
     codec.prepare();
     EXPECT_EQ(awaited(codec.summarise(encode(twoColours(10, 20), "PNG"), 160)).pixelSize, QSize(10, 20));
     EXPECT_EQ(children(), first);
+}
+
+TEST(ReaderImageCodec, ToldToRestItEndsItsReaderBehindWhatItWasAsked) {
+    ReaderImageCodec codec(realReader);
+    auto asked = codec.summarise(encode(twoColours(10, 20), "PNG"), 160);
+    codec.rest();
+    EXPECT_EQ(awaited(std::move(asked)).pixelSize, QSize(10, 20));
+    QTimer looks;
+    looks.start(std::chrono::milliseconds(1));
+    // Left alone, it would stay for some seconds.
+    QElapsedTimer passed;
+    passed.start();
+    runUntil([] { return children().isEmpty(); });
+    EXPECT_LT(passed.elapsed(), 4'000);
+    codec.rest();
+    EXPECT_EQ(awaited(codec.summarise(encode(twoColours(30, 40), "PNG"), 160)).pixelSize, QSize(30, 40));
 }
 
 TEST(ReaderImageCodec, RequestsMadeTogetherAreAnsweredEachForItself) {

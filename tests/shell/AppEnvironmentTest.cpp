@@ -187,6 +187,26 @@ TEST_F(AppEnvironmentTest, MemoryIsGivenBackOnceAfterEachTimeOfWork) {
     EXPECT_EQ(memoryReturns, 2);
 }
 
+TEST_F(AppEnvironmentTest, MemoryAndTheReaderOfPicturesGoAMomentBehindThePanel) {
+    start();
+    maintain();
+    environment->openPanel();
+    environment->togglePanel();
+    runUntil([this] { return memoryReturns == 2; });
+    EXPECT_EQ(images->rests, 1);
+}
+
+TEST_F(AppEnvironmentTest, AWindowThatWasOpenForLongGivesItsMemoryBackWhenItIsClosed) {
+    start();
+    maintain();
+    environment->openSettings();
+    maintain();
+    EXPECT_EQ(memoryReturns, 1);
+    environment->settings().close();
+    maintain();
+    EXPECT_EQ(memoryReturns, 2);
+}
+
 TEST_F(AppEnvironmentTest, AFullDiskIsToldOnceAnHour) {
     const char* const warning = "Your Mac is almost full. Vellumry saves text only for now";
     const ToastMessage other{QStringLiteral("pin.fill"), QStringLiteral("Pinned"), ToastMessage::Tone::success};

@@ -23,8 +23,10 @@ public:
     std::vector<Request> previews; ///< the same for previews
 
     int preparations = 0; ///< how often it was told that a picture comes
+    int rests = 0;        ///< how often it was told that none is expected
 
     void prepare() override { ++preparations; }
+    void rest() override { ++rests; }
     [[nodiscard]] QCoro::Task<ImageSummary> summarise(QByteArray image, int thumbnailPixels) override {
         requests.push_back({std::move(image), thumbnailPixels});
         const ImageSummary answer = summary; // what is returned is moved from

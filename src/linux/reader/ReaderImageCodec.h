@@ -17,6 +17,7 @@ public:
         , m_deadline(deadline) {}
 
     void prepare() override { m_worker.prepare(); }
+    void rest() override { m_worker.rest(); }
     [[nodiscard]] QCoro::Task<ImageSummary> summarise(QByteArray image, int thumbnailPixels) override;
     [[nodiscard]] QCoro::Task<QByteArray> preview(QByteArray image, int longerSide) override;
 

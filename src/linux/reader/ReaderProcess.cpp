@@ -104,6 +104,10 @@ void ReaderProcess::prepare() {
         (void)start();
 }
 
+void ReaderProcess::rest() {
+    (void)finish();
+}
+
 ReaderProcess::Answer ReaderProcess::ask(const QByteArray& picture, readerprotocol::Operation operation, int pixels,
                                          std::chrono::milliseconds deadline) {
     const Descriptor file = memoryFileOf(picture);

@@ -38,6 +38,8 @@ public:
     /// process is ended.
     [[nodiscard]] Answer ask(const QByteArray& picture, readerprotocol::Operation operation, int pixels,
                              std::chrono::milliseconds deadline);
+    /// Ends the process, if there is one; the next request starts another.
+    void rest();
     /// Collects a process that has ended of its own; does nothing while it runs.
     void reap();
     /// Ends a running request at once and lets no other begin. Any thread.

@@ -25,6 +25,10 @@ void ReaderWorker::prepare() {
     m_executor.post([process = m_process.get()] { process->prepare(); });
 }
 
+void ReaderWorker::rest() {
+    m_executor.post([process = m_process.get()] { process->rest(); });
+}
+
 QCoro::Task<ReaderProcess::Answer> ReaderWorker::ask(QByteArray picture, readerprotocol::Operation operation,
                                                      int pixels, std::chrono::milliseconds deadline) {
     if (picture.isEmpty())

@@ -30,6 +30,8 @@ public:
 
     /// Starts the reader unless it runs, so that it is ready when a picture comes. Returns at once.
     void prepare();
+    /// Ends the reader behind the requests that were made; the next one starts another. Returns at once.
+    void rest();
     /// As ReaderProcess::ask; the deadline counts from the moment that the picture's turn comes. The worker may be gone
     /// when the task ends.
     [[nodiscard]] QCoro::Task<ReaderProcess::Answer> ask(QByteArray picture, readerprotocol::Operation operation,

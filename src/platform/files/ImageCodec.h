@@ -28,6 +28,9 @@ public:
     /// A picture is on its way: whatever must be started to open it starts now, while its bytes still arrive. Returns
     /// at once, and is worth calling only when one really comes.
     virtual void prepare() {}
+    /// No picture is expected any more: whatever stands ready for the next one may go, behind those that are being
+    /// opened. Returns at once.
+    virtual void rest() {}
     /// An empty summary for bytes that are no picture, and when the decoder died or took too long.
     [[nodiscard]] virtual QCoro::Task<ImageSummary> summarise(QByteArray image, int thumbnailPixels) = 0;
     /// The picture to look at: a PNG, upright, at most `longerSide` pixels on its longer side and never larger than it
