@@ -66,8 +66,11 @@ bool OnboardingWindowController::isVisible() const {
 }
 
 bool OnboardingWindowController::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Close && !isQuitting())
-        onClose();
+    if (event->type() == QEvent::Close) {
+        m_views->discard(std::move(m_view));
+        if (!isQuitting())
+            onClose();
+    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -13,7 +13,7 @@ class OnboardingModel;
 class TransferModel;
 class ViewEngine;
 
-/// The window "Welcome to Vellumry". Main thread.
+/// The window "Welcome to Vellumry": made when it is shown, gone when it is closed. Main thread.
 class OnboardingWindowController : public QObject {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ public:
     void show();
     void close();
     [[nodiscard]] bool isVisible() const;
-    /// Null before it is first shown.
+    /// Null unless it is open.
     [[nodiscard]] QQuickView* window() const { return m_view.get(); }
 
     /// Called when the window was closed, by the user or by `close`, but not by the end of the program.

@@ -76,8 +76,12 @@ bool SettingsWindowController::isVisible() const {
 bool SettingsWindowController::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::FocusOut:
+        m_model->stopRecording();
+        break;
     case QEvent::Close:
         m_model->stopRecording();
+        // Opened once in a long while, and quickly made again.
+        m_views->discard(std::move(m_view));
         break;
     case QEvent::FocusIn:
         m_model->refreshAll();

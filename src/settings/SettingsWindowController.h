@@ -12,7 +12,7 @@ class SettingsModel;
 class TransferModel;
 class ViewEngine;
 
-/// The window "Vellumry Settings": made when it is first shown, kept hidden after closing. Main thread.
+/// The window "Vellumry Settings": made when it is shown, gone when it is closed. Main thread.
 class SettingsWindowController : public QObject {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ public:
     void bringForward();
     void close();
     [[nodiscard]] bool isVisible() const;
-    /// Null before it is first shown.
+    /// Null unless it is open.
     [[nodiscard]] QQuickView* window() const { return m_view.get(); }
 
 protected:

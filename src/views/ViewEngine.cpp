@@ -21,7 +21,11 @@ ViewEngine::ViewEngine() {
     resolve();
 }
 
-ViewEngine::~ViewEngine() = default;
+ViewEngine::~ViewEngine() {
+    // No view outlives the engine, at the end of the program either.
+    for (const QPointer<QQuickView>& window : m_discarded)
+        delete window.data();
+}
 
 QQmlEngine& ViewEngine::engine() {
     if (!m_engine) {
@@ -37,6 +41,18 @@ std::unique_ptr<QQuickView> ViewEngine::makeWindow(const QString& title) {
     auto window = std::make_unique<QQuickView>(&engine(), nullptr);
     window->setTitle(title);
     return window;
+}
+
+void ViewEngine::discard(std::unique_ptr<QQuickView> window) {
+    if (!window)
+        return;
+    connect(window.get(), &QObject::destroyed, this, [this] {
+        m_engine->collectGarbage();
+        m_engine->trimComponentCache();
+    });
+    std::erase(m_discarded, nullptr);
+    m_discarded.emplace_back(window.get());
+    window.release()->deleteLater();
 }
 
 void ViewEngine::setAppearance(Appearance appearance) {

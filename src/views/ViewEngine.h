@@ -5,9 +5,11 @@
 #include "views/ThemeColors.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <functional>
 #include <memory>
+#include <vector>
 
 class QAccessibleInterface;
 class QQmlEngine;
@@ -29,6 +31,9 @@ public:
     /// A window without a view yet, drawn by the common engine. `title` is what screen readers and task switchers say.
     [[nodiscard]] std::unique_ptr<QQuickView> makeWindow(const QString& title);
     [[nodiscard]] QQmlEngine& engine();
+    /// Lets go of a window that has been closed, and of what only its view needed. From its own events too: it goes
+    /// with the next turn of the event loop.
+    void discard(std::unique_ptr<QQuickView> window);
 
     void setAppearance(Appearance appearance);
     /// What the desktop says of its look; followed by all windows at once.
@@ -61,6 +66,7 @@ private:
     void resolve();
 
     std::unique_ptr<QQmlEngine> m_engine;
+    std::vector<QPointer<QQuickView>> m_discarded; ///< null where they have gone
     Appearance m_appearance = Appearance::system;
     DesktopLook m_look;
     ColorChoice m_choice;

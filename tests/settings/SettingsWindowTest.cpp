@@ -10,6 +10,7 @@
 #include "support/Transfers.h"
 #include "views/ViewEngine.h"
 
+#include <QPointer>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTest>
@@ -191,6 +192,16 @@ TEST_F(SettingsWindowTest, ARecordingEndsWithItsWindow) {
     model.pasteStackShortcut()->toggle();
     controller.close();
     EXPECT_FALSE(model.pasteStackShortcut()->isRecording());
+}
+
+TEST_F(SettingsWindowTest, ItIsGoneWhenItIsClosedAndMadeAnewWhenItIsOpened) {
+    const QPointer<QQuickView> closed = controller.window();
+    controller.close();
+    EXPECT_FALSE(controller.isVisible());
+    runUntil([&] { return !closed; });
+    controller.show(2);
+    EXPECT_TRUE(controller.isVisible());
+    EXPECT_EQ(root()->property("pane"), 2);
 }
 
 TEST_F(SettingsWindowTest, ATakenShortcutIsShownWithAnotherOffered) {
@@ -378,6 +389,7 @@ TEST_F(SettingsWindowTest, ClosesByItsKeysAndComesBackWithTheFirstPane) {
     press(Qt::Key_W, Qt::ControlModifier);
     EXPECT_FALSE(controller.isVisible());
     controller.show(0);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(controller.window(), 60'000));
     EXPECT_TRUE(shows("Panel position"));
     press(Qt::Key_Escape);
     EXPECT_FALSE(controller.isVisible());
