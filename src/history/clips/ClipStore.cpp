@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/clips/ClipStore.h"
 
+#include "foundation/Text.h"
 #include "history/clips/ClipOfDraft.h"
 #include "history/clips/ClipStorePrivate.h"
 
@@ -17,6 +18,8 @@ using namespace std::chrono_literals;
 constexpr auto restBeforeFolding = 1000ms;
 constexpr auto foldingTime = 3ms;
 constexpr auto foldingPause = 20ms;
+/// Folding so many clips' texts takes as long as painting a frame.
+constexpr std::size_t quicklyFolded = 10'000;
 
 } // namespace
 
@@ -139,7 +142,7 @@ void ClipStore::changed() {
     ++d->revision;
     if (d->autoExpire)
         d->expiry.arm(nextExpiry());
-    if (!d->folding.isActive())
+    if (!d->isSearchAsleep && !d->folding.isActive())
         d->folding.start(restBeforeFolding);
     Q_EMIT clipsChanged();
 }
@@ -257,11 +260,28 @@ std::vector<QUuid> ClipStore::clipsWithRoughText() const {
 }
 
 std::vector<ClipRef> ClipStore::search(const QString& query, ClipFilter filter) const {
+    // A blank query needs nothing that is folded.
+    if (!text::trimmed(query).isEmpty())
+        d->isSearchAsleep = false;
     return d->search->search(clips(), query, filter, d->revision);
 }
 
 void ClipStore::forgetSearch() {
     d->search->forgetQuery();
+    if (d->loadedSearch || clips().size() > quicklyFolded)
+        return;
+    d->isSearchAsleep = true;
+    d->folding.stop();
+    d->search = std::make_shared<ClipSearch>();
+}
+
+void ClipStore::wakeSearch() {
+    if (std::exchange(d->isSearchAsleep, false))
+        d->folding.start(foldingPause);
+}
+
+std::size_t ClipStore::searchCapacity() const {
+    return d->search->capacity();
 }
 
 } // namespace vellumry

@@ -122,8 +122,14 @@ public:
     [[nodiscard]] std::vector<QUuid> clipsWithRoughText() const;
     /// The clips that match, in history order. Synchronous, no limit on the number of results.
     [[nodiscard]] std::vector<ClipRef> search(const QString& query, ClipFilter filter) const;
-    /// Wipes the last query, by which `search` goes on faster when more of it is typed.
+    /// Nothing is searched for any more: wipes the last query, by which `search` goes on faster when more of it is
+    /// typed, and in a history of up to 10,000 clips what was folded of their texts, which takes milliseconds to make
+    /// again. It is made again by `wakeSearch`, or by the next search.
     void forgetSearch();
+    /// Something is about to be searched for: makes ready what `forgetSearch` has given back, in the background.
+    void wakeSearch();
+    /// Bytes that are held for folded texts.
+    [[nodiscard]] std::size_t searchCapacity() const;
 
 Q_SIGNALS:
     /// Something of `clips` changed.

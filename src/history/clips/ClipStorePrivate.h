@@ -64,7 +64,8 @@ struct ClipStore::Private {
     std::shared_ptr<ClipSearch> search = std::make_shared<ClipSearch>();
     /// Exists while the texts of a history that was just loaded are folded on a thread of their own.
     std::unique_ptr<LoadedSearch> loadedSearch;
-    QTimer folding; ///< runs while the search has something to prepare
+    QTimer folding;              ///< runs while the search has something to prepare
+    bool isSearchAsleep = false; ///< nothing is prepared for it
     Clock clock = currentDate;
     ExpiryTimer expiry;
     ClipHasher hasher;

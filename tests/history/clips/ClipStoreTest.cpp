@@ -236,6 +236,22 @@ TEST_F(ClipStoreTest, ClearingMaySpareThePins) {
     EXPECT_TRUE(m_store.clips().empty());
 }
 
+TEST_F(ClipStoreTest, WhatWasFoldedGoesWhenNothingIsSearchedForAndComesBack) {
+    const ClipRef one = addText(u"one"_s, 1);
+    EXPECT_EQ(m_store.search(u"ONE"_s, ClipFilter::all), std::vector<ClipRef>{one});
+    EXPECT_GT(m_store.searchCapacity(), 0U);
+    m_store.forgetSearch();
+    EXPECT_EQ(m_store.searchCapacity(), 0U);
+    const ClipRef two = addText(u"two"_s, 2);
+    (void)m_store.search(u" "_s, ClipFilter::all);
+    EXPECT_EQ(m_store.searchCapacity(), 0U);
+    m_store.wakeSearch();
+    runUntil([this] { return m_store.searchCapacity() > 0; });
+    m_store.forgetSearch();
+    EXPECT_EQ(m_store.search(u"TWO"_s, ClipFilter::all), std::vector<ClipRef>{two});
+    EXPECT_GT(m_store.searchCapacity(), 0U);
+}
+
 TEST_F(ClipStoreTest, EveryChangeIsAnnouncedOnceItIsTrue) {
     QStringList seen;
     QObject::connect(&m_store, &ClipStore::clipsChanged, &m_store, [&] { seen.append(titles().join(u'+')); });
