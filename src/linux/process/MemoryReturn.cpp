@@ -51,6 +51,9 @@ void returnLargeBlocks() {
     constexpr int largeBlock = 512 * 1024;
     mallopt(M_MMAP_THRESHOLD, largeBlock);
     mallopt(M_TRIM_THRESHOLD, largeBlock);
+    // One heap for the main thread and one for all others. A dozen, most of which hold what one thread once needed,
+    // take a megabyte more.
+    mallopt(M_ARENA_MAX, 2);
 #endif
 }
 
