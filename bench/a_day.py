@@ -15,7 +15,7 @@ sys.path.insert(0, HERE)
 
 from side_by_side import Owner, press_shortcut  # noqa: E402
 
-from machine import process_tree, pss_megabytes  # noqa: E402
+from machine import anonymous_megabytes, process_tree, pss_megabytes  # noqa: E402
 from peers import texts  # noqa: E402
 from Xlib import X, Xatom
 from Xlib.protocol import event
@@ -74,12 +74,6 @@ def handles(pids):
 
 def threads(pids):
     return sum(len(os.listdir(f"/proc/{pid}/task")) for pid in pids if os.path.exists(f"/proc/{pid}/task"))
-
-
-def anonymous_megabytes(pid):
-    """What the process itself has written to: no file and no other process shares it."""
-    with open(f"/proc/{pid}/smaps_rollup", encoding="ascii") as file:
-        return next(int(line.split()[1]) for line in file if line.startswith("Anonymous:")) / 1024
 
 
 class Day:

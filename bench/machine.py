@@ -40,6 +40,12 @@ def pss_megabytes(pids):
     return sum(int(line.split()[1]) for line in lines if line.startswith("Pss:")) / 1024
 
 
+def anonymous_megabytes(pid):
+    """What the process itself has written to: no file and no other process shares it."""
+    with open(f"/proc/{pid}/smaps_rollup", encoding="ascii") as file:
+        return next(int(line.split()[1]) for line in file if line.startswith("Anonymous:")) / 1024
+
+
 def written_bytes(pids):
     """What the file system had to write or will have to, whole pages of it."""
     lines = [line for pid in pids for line in read_or_nothing(f"/proc/{pid}/io").splitlines()]

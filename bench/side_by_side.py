@@ -181,6 +181,7 @@ def measure(tool):
     measure_copies(tool, owner, figures)
     if tool.has_panel:
         measure_panel(tool, owner, figures)
+    owner.serve(1.0)
     figures["used"] = [pss_megabytes(process_tree(tool.process.pid))]
     owner.serve(2.0)
     before = switches(process_tree(tool.process.pid))
@@ -205,7 +206,7 @@ ROWS = (
     ("written", "written a copy of 190 characters, kB", 12),
     ("first", "first showing of the panel, ms", ""),
     ("panel", "shortcut to painted panel, ms", 10),
-    ("used", "memory just after use (PSS), MB", 40),
+    ("used", "memory 1 s after use (PSS), MB", 40),
     ("rested", f"memory {REST:.0f} s later, MB", 40),
     ("wake-ups", f"wake-ups in {REST:.0f} s of rest", ""),
     ("start", "start to watching, ms", 80),
