@@ -7,6 +7,7 @@
 #include "history/file/ClipRows.h"
 
 #include <QPointer>
+#include <algorithm>
 
 namespace vellumry {
 
@@ -25,6 +26,14 @@ ClipDraft draftOf(const Clip& clip, const ClipPayload& payload) {
 constexpr qint64 clipsAtFirst = 100;
 /// Between two looks whether the folding is still wanted.
 constexpr std::chrono::milliseconds foldingAtOnce{5};
+
+/// Makes `copy` the same as `clips`, of which all but the first few are the same already: copying each would take the
+/// main thread a millisecond or two.
+void makeEqual(std::vector<ClipRef>& copy, const std::vector<ClipRef>& clips) {
+    const auto [ours, theirs] = std::mismatch(copy.rbegin(), copy.rend(), clips.rbegin(), clips.rend());
+    copy.erase(copy.begin(), ours.base());
+    copy.insert(copy.begin(), clips.begin(), theirs.base());
+}
 
 QCoro::Task<bool> alwaysSound() {
     co_return true;
@@ -90,24 +99,18 @@ QCoro::Task<void> ClipStore::load(std::shared_ptr<ClipDatabase> database) {
     if (!self)
         co_return;
     std::vector<ClipRef> loaded = whole->takeCopy();
-    if (d->cleared)
-        loaded.clear();
-    std::vector<QUuid> changed = d->list.ids(false);
     complete(std::move(*whole));
-    for (const QUuid& id : d->writer.rowsToGo())
-        changed.push_back(id);
-    d->foldLoaded(std::move(loaded), std::move(changed), self);
+    makeEqual(loaded, clips());
+    d->foldLoaded(std::move(loaded), self);
 }
 
-QCoro::Task<void> ClipStore::Private::foldLoaded(std::vector<ClipRef> clips, std::vector<QUuid> changed,
-                                                 QPointer<ClipStore> store) {
+QCoro::Task<void> ClipStore::Private::foldLoaded(std::vector<ClipRef> clips, QPointer<ClipStore> store) {
     loadedSearch = std::make_unique<LoadedSearch>();
-    loadedSearch->forgotten = std::move(changed);
     const LoadedSearch* const own = loadedSearch.get();
-    auto fold = [loaded = std::move(clips), isUnwanted = own->isUnwanted] {
+    auto fold = [loaded = std::move(clips), at = revision, isUnwanted = own->isUnwanted] {
         const BulkWork work;
         auto made = std::make_shared<ClipSearch>();
-        while (!*isUnwanted && !made->prepare(loaded, 0, foldingAtOnce))
+        while (!*isUnwanted && !made->prepare(loaded, at, foldingAtOnce))
             continue;
         return made;
     };

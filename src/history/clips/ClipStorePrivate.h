@@ -57,9 +57,9 @@ struct ClipStore::Private {
             loadedSearch->forgotten.push_back(id);
     }
 
-    /// Folds the texts of `clips`, which were just loaded, and takes the search over. What was folded of `changed` is
-    /// thrown away.
-    QCoro::Task<void> foldLoaded(std::vector<ClipRef> clips, std::vector<QUuid> changed, QPointer<ClipStore> store);
+    /// Folds the texts of `clips`, which are those of the list, and takes the search over. What was folded of clips
+    /// that have changed until then is thrown away.
+    QCoro::Task<void> foldLoaded(std::vector<ClipRef> clips, QPointer<ClipStore> store);
 
     std::shared_ptr<ClipSearch> search = std::make_shared<ClipSearch>();
     /// Exists while the texts of a history that was just loaded are folded on a thread of their own.
