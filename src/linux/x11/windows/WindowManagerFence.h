@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <chrono>
 #include <functional>
+#include <set>
 
 namespace vellumry {
 
@@ -14,11 +15,16 @@ namespace vellumry {
 ///
 /// A window manager that composes the display on Wayland (Mutter) hands the keyboard on to X11 windows itself. It does
 /// not hear that a window got the focus before it knows the window, and keeps the keys from it then.
+///
+/// Mutter ends, and the user's session with it, when a window to which it owes an answer is gone: such a window stays
+/// until the answer has come, and the end of this waits for it.
 class WindowManagerFence : public QObject {
     Q_OBJECT
 public:
     /// A user takes a panel that has the keyboard after this time for a slow one, not for a broken one.
     static constexpr std::chrono::milliseconds usualWait{250};
+    /// How long the end waits for answers that are owed.
+    static constexpr std::chrono::milliseconds lastWait{1000};
 
     /// `selection` is what the window manager owns; an empty one stands for that of the connection's screen (WM_Sn).
     explicit WindowManagerFence(std::shared_ptr<XlibConnection> connection, const QByteArray& selection = {},
@@ -35,10 +41,12 @@ private:
     void handleEvent(XEvent* event);
     void pass();
     void forgetQuestion();
+    void takeAnswer(XWindow window);
 
     std::shared_ptr<XlibConnection> m_connection;
     XAtom m_selection;
-    XWindow m_window = 0; ///< the one that the answer is sent to: another one for each question
+    XWindow m_window = 0;     ///< the one that the answer is sent to: another one for each question
+    std::set<XWindow> m_owed; ///< those of earlier questions that have no answer yet
     std::function<void()> m_onPassed;
     QTimer m_deadline;
 };

@@ -9,6 +9,8 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <atomic>
+#include <future>
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>
 
@@ -85,8 +87,17 @@ public:
         event.xselection.selection = m_question.xselectionrequest.selection;
         event.xselection.target = m_question.xselectionrequest.target;
         event.xselection.property = m_question.xselectionrequest.property;
+        // Mutter handles no error of this, and dies of it.
+        static int errors;
+        errors = 0;
+        const auto before = XSetErrorHandler([](Display*, XErrorEvent*) -> int {
+            ++errors;
+            return 0;
+        });
         XSendEvent(m_client.display(), event.xselection.requestor, False, NoEventMask, &event);
         XSync(m_client.display(), False);
+        XSetErrorHandler(before);
+        EXPECT_EQ(errors, 0) << "the window that asked is gone";
     }
 
 private:
@@ -180,6 +191,34 @@ TEST_F(X11PanelSurfaceTest, AWindowManagerThatDoesNotAnswerIsNotWaitedForLong) {
     fenced.present(&panel, frame);
     EXPECT_TRUE(eventually([&] { return windowproperties::focusWindow(*connection) == panel.winId(); }));
     fenced.dismiss(&panel);
+}
+
+TEST_F(X11PanelSurfaceTest, AnAnswerThatComesTooLateFindsTheWindowThatAskedStill) {
+    FakeManager manager("VELLUMRY_TEST_LATE");
+    X11PanelSurface fenced(connection, focus,
+                           std::make_unique<WindowManagerFence>(connection, "VELLUMRY_TEST_LATE", 10ms));
+    fenced.adopt(&panel);
+    fenced.present(&panel, frame);
+    manager.takeQuestion();
+    EXPECT_TRUE(eventually([&] { return windowproperties::focusWindow(*connection) == panel.winId(); }));
+    fenced.dismiss(&panel);
+    connection->flush();
+    manager.answer();
+}
+
+TEST_F(X11PanelSurfaceTest, TheEndWaitsForAnAnswerThatIsOwed) {
+    FakeManager manager("VELLUMRY_TEST_LATE");
+    auto fence = std::make_unique<WindowManagerFence>(connection, "VELLUMRY_TEST_LATE", 1h);
+    fence->await([] {});
+    manager.takeQuestion();
+    std::atomic<bool> isAnswered = false;
+    auto answering = std::async(std::launch::async, [&] {
+        isAnswered = true;
+        manager.answer();
+    });
+    fence.reset();
+    EXPECT_TRUE(isAnswered);
+    answering.get();
 }
 
 TEST_F(X11PanelSurfaceTest, WithoutAWindowManagerThePanelWaitsForNoAnswer) {
