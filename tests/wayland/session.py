@@ -90,6 +90,11 @@ def pasted(kind=PLAIN):
     return told(*CLIPBOARD, "paste", kind) if CLIPBOARD else told("wl-paste", "-n", "-t", kind)
 
 
+def selected():
+    """What stands on PRIMARY. GNOME tells it to no program that has not the keyboard."""
+    return told("wl-paste", "--primary", "-n")
+
+
 def offered():
     return told(*([*CLIPBOARD, "types"] if CLIPBOARD else ["wl-paste", "-l"])).decode().split("\n")
 

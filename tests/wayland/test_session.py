@@ -10,7 +10,7 @@ import time
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
-from session import (HERE, HINT, PROGRAM, SESSION, Klipper, Window, clear, copy, offered, open_panel, owner, pasted,  # noqa: E402
+from session import (HERE, HINT, PROGRAM, SESSION, Klipper, Window, clear, copy, offered, open_panel, owner, pasted, selected,  # noqa: E402
                      picture, press, search_field_has_focus, settle, shown_query, stays, type_text)
 
 import desktop  # noqa: E402
@@ -233,7 +233,7 @@ def test_locked():
 
 
 def test_terminal():
-    """A terminal gets its own paste key."""
+    """A terminal gets its own paste key, and finds the clip on PRIMARY, from which many paste."""
     folder = tempfile.mkdtemp()
     typed = os.path.join(folder, "typed")
     with Vellumry():
@@ -257,6 +257,8 @@ def test_terminal():
                     return "echo for a terminal" in file.read()
 
             wait_until(content, "the text in the terminal")
+            if SESSION != "gnome":
+                assert selected() == b"echo for a terminal"
 
 
 def paste_in_order(window, words):
