@@ -4,6 +4,7 @@
 #include "foundation/Date.h"
 #include "foundation/StoredText.h"
 #include "history/clips/Fingerprint.h"
+#include "history/clips/Sparse.h"
 #include "platform/display/PasteboardItem.h"
 
 #include <QByteArray>
@@ -73,17 +74,17 @@ struct Clip {
     bool isScreenshot = false;
     StoredText title;
     StoredText searchText;
-    std::optional<QString> sourceBundleID;
-    std::optional<QString> sourceAppName;
+    Sparse<QString> sourceBundleID;
+    Sparse<QString> sourceAppName;
     Date createdAt = 0;
     Date lastUsedAt = 0;
-    std::optional<Date> expiresAt;
+    Sparse<Date> expiresAt;
     Fingerprint fingerprint;
     qint64 byteSize = 0;
     std::vector<FileRef> files;
-    std::optional<QByteArray> thumbnail;
+    Sparse<QByteArray> thumbnail;
     qint64 pinOrder = 0; ///< position among the pins, 0 when unpinned
-    std::optional<StoredText> imageText;
+    Sparse<StoredText> imageText;
 
     /// A sensitive clip deletes itself; this is the only definition of one.
     [[nodiscard]] bool isSensitive() const { return expiresAt.has_value(); }
