@@ -37,15 +37,20 @@ set(VELLUMRY_COMMON_HEADERS
     <QByteArray> <QCoroTask> <QDateTime> <QDir> <QFile> <QHash> <QLocale> <QObject> <QPointer> <QSet> <QString>
     <QStringList> <QTimer> <QUuid> <QVariant>)
 
-# vellumry_precompiled_headers(NAME HEADERS header… LINKS library…): a set of precompiled headers that targets share.
+# vellumry_precompiled_headers(NAME HEADERS header… LINKS library… [FOR_PROGRAMS]): a set of precompiled headers that libraries share,
+# or programs.
 function(vellumry_precompiled_headers name)
-  cmake_parse_arguments(ARG "" "" "HEADERS;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "FOR_PROGRAMS" "" "HEADERS;LINKS" ${ARGN})
   if(VELLUMRY_PRECOMPILED)
     add_library(${name} OBJECT ${PROJECT_SOURCE_DIR}/cmake/Precompiled.cpp)
     vellumry_target_defaults(${name})
     set_target_properties(${name} PROPERTIES AUTOMOC OFF)
     target_link_libraries(${name} PRIVATE ${ARG_LINKS})
     target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})
+    if(ARG_FOR_PROGRAMS)
+      # GCC 13 and newer take no headers in a program that were compiled for libraries. The last of the two options counts.
+      target_compile_options(${name} PRIVATE ${CMAKE_CXX_COMPILE_OPTIONS_PIE})
+    endif()
   endif()
 endfunction()
 
