@@ -115,6 +115,7 @@ def busy_machine():
 def test_pastes_on_a_busy_machine():
     """The portal hands keys on from many threads: no paste types a letter in the place of the clip."""
     with Window() as window, Vellumry(), busy_machine():
+        wait_until(lambda: reports(KEYS), "the shortcuts")
         copy("word ")
         wait_for_clip(lambda row: text_of(row) == "word ", "the copy in the history")
         for count in range(1, PASTES + 1):
