@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "foundation/BulkWork.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <thread>
 
@@ -17,30 +18,35 @@ struct Standing {
     bool operator==(const Standing&) const = default;
 };
 
-TEST(BulkWork, ItsThreadStandsBehindOthersWhileItLasts) {
-    std::thread([] {
+/// On a thread of the usual priority, whatever the tests run at.
+void onUsualThread(const std::function<void()>& check) {
+    std::thread([&check] {
         const sched_param none{};
         ASSERT_EQ(sched_setscheduler(0, SCHED_OTHER, &none), 0);
+        check();
+    }).join();
+}
+
+TEST(BulkWork, ItsThreadStandsBehindOthersWhileItLasts) {
+    onUsualThread([] {
         const Standing before;
         {
             const BulkWork work;
             EXPECT_EQ(Standing().policy, SCHED_BATCH);
         }
         EXPECT_EQ(Standing(), before);
-    }).join();
+    });
 }
 
 TEST(BulkWork, WithinOtherBulkWorkItChangesNothing) {
-    std::thread([] {
-        const sched_param none{};
-        ASSERT_EQ(sched_setscheduler(0, SCHED_OTHER, &none), 0);
+    onUsualThread([] {
         const BulkWork work;
         {
             const BulkWork inner;
             EXPECT_EQ(Standing().policy, SCHED_BATCH);
         }
         EXPECT_EQ(Standing().policy, SCHED_BATCH);
-    }).join();
+    });
 }
 
 TEST(BulkWork, LeavesOtherThreadsAlone) {
