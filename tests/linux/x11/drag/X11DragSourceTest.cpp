@@ -40,6 +40,13 @@ protected:
             return condition();
         });
     }
+    void dropWhereItIsReadButNotAccepted() {
+        left->accepts = false;
+        ASSERT_TRUE(beginText());
+        pointAt(50, 50);
+        EXPECT_EQ(ask(peer(), "UTF8_STRING", "XdndSelection").bytes, "dragged");
+        source->release();
+    }
     void pointAt(qint16 x, qint16 y) {
         left->point(x, y);
         source->move();
@@ -139,11 +146,7 @@ TEST_F(X11DragSourceTest, TheDropWaitsForAnAnswerThatIsUnderWay) {
 }
 
 TEST_F(X11DragSourceTest, AWindowThatReadsBeforeItAcceptsIsAskedAgain) {
-    left->accepts = false;
-    ASSERT_TRUE(beginText());
-    pointAt(50, 50);
-    EXPECT_EQ(ask(peer(), "UTF8_STRING", "XdndSelection").bytes, "dragged");
-    source->release();
+    ASSERT_NO_FATAL_FAILURE(dropWhereItIsReadButNotAccepted());
     ASSERT_TRUE(until([&] { return left->heard.count("XdndPosition") > 1; }));
     EXPECT_TRUE(ends.empty()) << "it has read what it is offered, and may take it";
     left->accepts = true;
@@ -152,11 +155,7 @@ TEST_F(X11DragSourceTest, AWindowThatReadsBeforeItAcceptsIsAskedAgain) {
 }
 
 TEST_F(X11DragSourceTest, AWindowThatReadsAndNeverAcceptsDoesNotKeepTheDrag) {
-    left->accepts = false;
-    ASSERT_TRUE(beginText());
-    pointAt(50, 50);
-    EXPECT_EQ(ask(peer(), "UTF8_STRING", "XdndSelection").bytes, "dragged");
-    source->release();
+    ASSERT_NO_FATAL_FAILURE(dropWhereItIsReadButNotAccepted());
     EXPECT_TRUE(until([&] { return !ends.empty(); }));
     EXPECT_EQ(ends, std::vector{DragSource::End::refused});
     EXPECT_FALSE(left->hears("XdndDrop"));
