@@ -10,7 +10,7 @@ import sys
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
-from session import PROGRAM, Window, copy, open_panel, picture, press, search_field_has_focus, told  # noqa: E402
+from session import PROGRAM, Window, copy, open_panel, picture, press, told, wait_for_panel  # noqa: E402
 from questions import choose, forget_refusal, is_open, refuse_shortcuts  # noqa: E402
 
 import desktop  # noqa: E402
@@ -35,7 +35,7 @@ def give_shortcuts(window):
 
 def allow_pasting(window):
     run(PROGRAM, "--action", "open-panel")
-    wait_until(search_field_has_focus, "the search field to have the focus")
+    wait_for_panel(window)
     choose("^Allow Vellumry to paste for you$", "vellumry")
     wait_until(lambda: is_open("Remote Desktop"), "the question about the paste key")
     picture("permission")
@@ -49,8 +49,7 @@ def paste_first(window, words):
     copy(words)
     wait_for_clip(lambda row: text_of(row) == words, "the copy in the history")
     press("ctrl+a")
-    press("ctrl+super+v")
-    wait_until(search_field_has_focus, "the search field to have the focus")
+    open_panel(window)
     picture("panel")
     press("return")
     window.wait_text(words)
