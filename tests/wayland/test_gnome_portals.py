@@ -119,7 +119,9 @@ def test_pastes_on_a_busy_machine():
         wait_for_clip(lambda row: text_of(row) == "word ", "the copy in the history")
         for count in range(1, PASTES + 1):
             wait_until(lambda: window.state["active"], "the keyboard back in the window")
-            open_panel(window)
+            # Not by its keys: V may be down still from the paste before, and Mutter drops a key that is pressed a second time.
+            run(PROGRAM, "--action", "open-panel")
+            wait_for_panel(window)
             press("return")
             window.wait_text("word " * count)
 
