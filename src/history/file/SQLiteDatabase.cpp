@@ -45,6 +45,8 @@ void SQLiteDatabase::open(const QString& path, Access access) {
     if (!m_handle)
         throw SQLiteError(SQLiteError::Case::open, result, "code " + std::to_string(result));
     sqlite3_extended_result_codes(m_handle, 1);
+    // SQLite's own pool of small blocks hands them on without clearing them; what is given back to the heap is cleared.
+    sqlite3_db_config(m_handle, SQLITE_DBCONFIG_LOOKASIDE, nullptr, 0, 0);
     if (result != SQLITE_OK)
         throw error(SQLiteError::Case::open);
     sqlite3_busy_timeout(m_handle, busyMilliseconds);
