@@ -3,6 +3,7 @@
 // What is left of a secret when it is gone: in the history file, its companions, and this process's own memory. Linked
 // with the wiping heap, as the program is.
 
+#include "foundation/Logging.h"
 #include "history/file/DatabaseTest.h"
 #include "support/Drafts.h"
 #include "torture/MemoryScan.h"
@@ -50,6 +51,10 @@ QByteArray utf16(const QString& string) {
 
 class Residue : public DatabaseTest, public testing::WithParamInterface<qsizetype> {
 protected:
+    /// The rules of the log are read, as at the start of the program: the loader's first visit to some functions saves
+    /// the vector registers on the stack, with what was last copied in them.
+    Residue() { EXPECT_TRUE(logging::history().isWarningEnabled()); }
+
     /// Adds a secret of so many characters and learns what it looks like in its several forms. No copy of it stays
     /// here.
     void addSecret(ClipStore& store, qsizetype length) {
