@@ -2,15 +2,12 @@
 #include "app/LinuxPlatform.h"
 
 #include "app/Capabilities.h"
-#include "app/PortalRoads.h"
 #include "app/WaylandDisplay.h"
+#include "app/X11Display.h"
 #include "foundation/Logging.h"
 #include "foundation/UnusedMemory.h"
 #include "linux/accessibility/ActiveDescendant.h"
-#include "linux/accessibility/PasswordFocus.h"
-#include "linux/applications/DesktopEntries.h"
 #include "linux/applications/DesktopOpener.h"
-#include "linux/applications/XdgInstalledApplications.h"
 #include "linux/files/InotifyFolderWatching.h"
 #include "linux/files/PosixFileBookmarks.h"
 #include "linux/keyring/KeychainKeyStore.h"
@@ -29,19 +26,6 @@
 #include "linux/tray/SessionTray.h"
 #include "linux/tray/StatusNotifierTray.h"
 #include "linux/update/AppImageUpdater.h"
-#include "linux/x11/drag/X11DragSource.h"
-#include "linux/x11/keys/X11HotKeys.h"
-#include "linux/x11/keys/X11KeyboardLayout.h"
-#include "linux/x11/keys/X11PasteKeys.h"
-#include "linux/x11/keys/X11PasteTarget.h"
-#include "linux/x11/selection/QtClipboardNotices.h"
-#include "linux/x11/selection/X11Pasteboard.h"
-#include "linux/x11/windows/WaylandSession.h"
-#include "linux/x11/windows/X11ClassicIcon.h"
-#include "linux/x11/windows/X11Focus.h"
-#include "linux/x11/windows/X11FrontmostApplication.h"
-#include "linux/x11/windows/X11IdleTime.h"
-#include "linux/x11/windows/X11PanelSurface.h"
 #include "linux/x11/windows/XSettingsLook.h"
 #include "linux/x11/windows/XlibConnection.h"
 #include "settings/Preferences.h"
@@ -53,9 +37,6 @@
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTimer>
-#include <algorithm>
-#include <iterator>
 
 namespace vellumry {
 
@@ -63,14 +44,6 @@ namespace {
 
 /// How long the process is visible to a portal that hangs; one that runs answers within a millisecond.
 constexpr std::chrono::milliseconds portalTime{1000};
-
-QImage trayMark(const QSize& size) {
-    return symbolImage(QStringLiteral("Logo"), QColor::fromRgb(TrayPictures::colour), size);
-}
-
-std::unique_ptr<StatusItem> sessionTray(std::unique_ptr<ClassicIcon> classic) {
-    return std::make_unique<SessionTray>(std::make_unique<StatusNotifierTray>(&symbolImage), std::move(classic));
-}
 
 /// With what the settings manager of an X server says.
 class X11DesktopLook : public LinuxDesktopLook {
@@ -95,64 +68,6 @@ void addLook(Platform& platform, std::shared_ptr<XlibConnection> connection,
         platform.look = std::make_unique<X11DesktopLook>(places, std::move(connection));
     else
         platform.look = std::make_unique<LinuxDesktopLook>(places);
-}
-
-/// One connection for keys, focus and windows, which the caller gets as well; the pasteboard has its own, with its own
-/// thread.
-std::optional<Reason> addX11Display(Platform& platform, const std::shared_ptr<PortalIntroduction>& introduction,
-                                    std::shared_ptr<XlibConnection>& connection) {
-    auto created = X11Pasteboard::create(qgetenv("DISPLAY"));
-    if (!created)
-        return created.error();
-    const auto opened = XlibConnection::create();
-    platform.capabilities = capabilities::ofDisplay(opened);
-    // Why not natively.
-    std::ranges::copy(waylanddisplay::capabilities(), std::back_inserter(platform.capabilities));
-    if (!opened)
-        return opened.error();
-    std::unique_ptr<X11Pasteboard> pasteboard = std::move(*created);
-    connection = *opened;
-    platform.isWaylandSession = isWaylandSession(*connection);
-    platform.extension = waylanddisplay::extension();
-    const auto focus = std::make_shared<X11Focus>(connection);
-    X11PasteTarget::Options options;
-    options.offerAsPrimary = [board = pasteboard.get()] { return board->offerAsPrimary(); };
-    options.terminalApps = [defaults = platform.defaults.get()] { return Preferences::terminalApps(*defaults); };
-    options.isPasswordField = [focus = std::make_shared<PasswordFocus>()](qint64 process) {
-        return focus->isIn(process);
-    };
-    const auto injected = std::make_shared<InjectedPresses>();
-    options.willPress = [injected] { injected->announce(std::chrono::steady_clock::now()); };
-    X11PasteKeys::Options pasteKeys;
-    pasteKeys.wasServed = [board = pasteboard.get()] { return board->wasServed(); };
-    pasteKeys.offerAsPrimary = [board = pasteboard.get()] { (void)board->offerAsPrimary(); };
-    pasteKeys.wasListed = [board = pasteboard.get()] { return board->wasListed(); };
-    pasteKeys.injected = injected;
-    platform.pasteboard = std::move(pasteboard);
-    const auto entries = std::make_shared<DesktopEntries>();
-    platform.frontmost = std::make_unique<X11FrontmostApplication>(connection, entries);
-    platform.applications = std::make_unique<XdgInstalledApplications>(entries, iconFoldersOfSession());
-    platform.keyboard = std::make_unique<X11KeyboardLayout>(connection);
-    const auto ownHotKeys = [connection] { return std::make_unique<X11HotKeys>(connection); };
-    if (platform.isWaylandSession) {
-        const PortalRoads portals(platform, introduction);
-        platform.hotKeys = portals.hotKeys(
-            [keyboard = platform.keyboard.get()](KeyCode key) { return keyboard->charactersFor(key); }, ownHotKeys);
-        options.everywhere = portals.keyboard();
-    } else {
-        platform.hotKeys = ownHotKeys();
-    }
-    auto target = std::make_unique<X11PasteTarget>(connection, focus, std::move(options));
-    pasteKeys.looksFirst = [front = target.get()] { return front->looksFirst(); };
-    platform.pasteTarget = std::move(target);
-    platform.pasteKeys = std::make_unique<X11PasteKeys>(std::move(pasteKeys));
-    platform.idleSeconds = [idle = std::make_shared<X11IdleTime>(connection)] { return idle->seconds(); };
-    platform.panelSurface = std::make_unique<X11PanelSurface>(
-        connection, focus, platform.isWaylandSession ? std::make_unique<WindowManagerFence>(connection) : nullptr);
-    platform.drags = std::make_unique<X11DragSource>();
-    platform.statusItem = sessionTray(std::make_unique<X11ClassicIcon>(connection, &trayMark));
-    QTimer::singleShot(0, QCoreApplication::instance(), &stopQtClipboardNotices);
-    return std::nullopt;
 }
 
 std::unique_ptr<Opener> openerIn(const QProcessEnvironment& environment) {
@@ -208,13 +123,13 @@ OrReason<Platform> makeLinuxPlatform(DisplayKind display, const QProcessEnvironm
     introduction->begin();
     std::shared_ptr<XlibConnection> connection;
     if (auto problem = display == DisplayKind::wayland ? waylanddisplay::add(platform, introduction)
-                                                       : addX11Display(platform, introduction, connection))
+                                                       : x11display::add(platform, introduction, connection))
         return std::unexpected(std::move(*problem));
     platform.singleInstance = std::make_unique<DBusSingleInstance>();
     platform.sounds = std::make_unique<ThemeSounds>();
     platform.opener = openerIn(given);
-    if (!platform.statusItem)
-        platform.statusItem = sessionTray(nullptr);
+    platform.statusItem = std::make_unique<SessionTray>(std::make_unique<StatusNotifierTray>(&symbolImage),
+                                                        connection ? x11display::classicIcon(connection) : nullptr);
     platform.keyStore = std::make_unique<KeychainKeyStore>();
     const QString reader = readerPath();
     platform.findCapabilities = [reader] { return capabilities::ofSession(reader); };
