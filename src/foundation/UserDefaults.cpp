@@ -3,65 +3,15 @@
 
 #include "foundation/IniFile.h"
 #include "foundation/IniValue.h"
-
 #include "foundation/Logging.h"
+#include "foundation/SettingsFile.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
 #include <QSet>
-#include <fcntl.h>
 #include <limits>
-#include <sys/stat.h>
-#include <time.h>
-#include <unistd.h>
 
 namespace vellumry {
 
 namespace {
-
-/// No hand and no program of ours writes more.
-constexpr qint64 mostBytes = 1024 * 1024;
-
-/// What tells one state of a file from the next.
-struct FileState {
-    quint64 inode = 0;
-    qint64 size = -1;
-    qint64 changedNanoseconds = 0;
-    bool isRegular = false;
-    bool operator==(const FileState&) const = default;
-};
-
-FileState stateFrom(const struct stat& status) {
-    return {status.st_ino, status.st_size, status.st_mtim.tv_sec * 1'000'000'000 + status.st_mtim.tv_nsec,
-            S_ISREG(status.st_mode)};
-}
-
-FileState stateOf(const QString& path) {
-    struct stat status {};
-    if (stat(QFile::encodeName(path).constData(), &status) != 0)
-        return {};
-    return stateFrom(status);
-}
-
-/// The content of a regular file of a bearable size. Never waits for a writer, as opening a pipe would.
-std::optional<QByteArray> contentOf(const QString& path) {
-    const int descriptor = open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    struct stat status {};
-    const bool isBearable =
-        descriptor >= 0 && fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size <= mostBytes;
-    QFile source;
-    if (!isBearable || !source.open(descriptor, QIODevice::ReadOnly)) {
-        if (descriptor >= 0)
-            close(descriptor);
-        return std::nullopt;
-    }
-    // It may have grown since.
-    QByteArray content = source.read(mostBytes);
-    close(descriptor);
-    return content;
-}
 
 std::optional<qint64> numberIn(const QVariant& value) {
     switch (value.typeId()) {
@@ -103,46 +53,6 @@ std::optional<bool> truthIn(const QVariant& value) {
     }
 }
 
-qint64 nowNanoseconds() {
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
-    return now.tv_sec * 1'000'000'000 + now.tv_nsec;
-}
-
-/// A file's time moves in steps of some milliseconds: two writes within one step look alike.
-constexpr qint64 timeStampGrain = 50'000'000;
-
-void makeFolderDurable(const QString& path) {
-    const int folder = open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder < 0)
-        return;
-    (void)fsync(folder);
-    close(folder);
-}
-
-bool makePrivateFolder(const QString& path) {
-    if (QFileInfo(path).isDir())
-        return true;
-    if (!QDir().mkpath(QFileInfo(path).path()))
-        return false;
-    return mkdir(QFile::encodeName(path).constData(), S_IRWXU) == 0 || QFileInfo(path).isDir();
-}
-
-bool write(const QString& path, const QByteArray& content) {
-    const QString folder = QFileInfo(path).absolutePath();
-    if (!makePrivateFolder(folder))
-        return false;
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-    // commit() of Qt 6.4 takes the place of the old file all the same when the last bytes found no room on the disk.
-    if (file.write(content) != content.size() || !file.flush() || fsync(file.handle()) != 0 || !file.commit())
-        return false;
-    makeFolderDurable(folder);
-    return true;
-}
-
 } // namespace
 
 struct UserDefaults::Private {
@@ -153,7 +63,7 @@ struct UserDefaults::Private {
 
     IniFile file;
     QVariantMap stored;
-    FileState state;
+    settingsfile::FileState state;
     bool mayHaveChangedUnseen = false;
     bool isUnreadable = false;
     bool isUnwritable = false;
@@ -174,12 +84,12 @@ struct UserDefaults::Private {
     bool refresh() {
         if (path.isEmpty())
             return true;
-        const FileState found = stateOf(path);
+        const settingsfile::FileState found = settingsfile::stateOf(path);
         if (found == state && !mayHaveChangedUnseen)
             return true;
         QByteArray content;
-        if (found != FileState{}) {
-            auto read = found.isRegular ? contentOf(path) : std::nullopt;
+        if (found != settingsfile::FileState{}) {
+            auto read = found.isRegular ? settingsfile::contentOf(path) : std::nullopt;
             if (!read) {
                 noteUnreadable();
                 return false;
@@ -189,7 +99,7 @@ struct UserDefaults::Private {
         isUnreadable = false;
         if (found != state)
             refused.clear();
-        mayHaveChangedUnseen = found != FileState{} && nowNanoseconds() - found.changedNanoseconds < timeStampGrain;
+        mayHaveChangedUnseen = settingsfile::mayChangeUnseen(found);
         state = found;
         file = IniFile(content);
         stored = file.values();
@@ -211,7 +121,7 @@ struct UserDefaults::Private {
             else
                 changed.remove(entry.key());
         }
-        if (!write(path, changed.toBytes())) {
+        if (!settingsfile::write(path, changed.toBytes())) {
             noteUnwritable();
             return;
         }
