@@ -2,8 +2,8 @@
 #include "app/CommandLine.h"
 #include "app/Errands.h"
 #include "app/LinuxPlatform.h"
+#include "app/QtNotices.h"
 #include "app/ReadyNotice.h"
-#include "app/RendererNotices.h"
 #include "app/WaylandDisplay.h"
 #include "foundation/Localisation.h"
 #include "foundation/Logging.h"
@@ -125,7 +125,7 @@ int main(int argc, char** argv) {
     using Wish = CommandLine::Wish;
     const CommandLine commandLine = CommandLine::read(argc, argv);
     logging::start(commandLine.isVerbose ? logging::Detail::all : logging::Detail::warnings);
-    leaveOutRendererNotices();
+    leaveOutQtNotices();
     switch (commandLine.wish) {
     case Wish::say:
         std::fputs(qUtf8Printable(commandLine.text), stdout);

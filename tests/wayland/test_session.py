@@ -326,7 +326,7 @@ def test_log():
 
 
 def test_start_is_quiet():
-    """The log of a start holds no notice of Qt's: what it says about renderers is our own choice."""
+    """The log of a start holds no notice of Qt's: what it says about renderers and portals is our own choice."""
     with Vellumry(stderr=subprocess.PIPE) as program:
         program.stop()
         log = program.handle.stderr.read().decode()
