@@ -30,9 +30,14 @@ bool isPortalDesktop() {
 }
 
 /// Hyprland's portal holds no keys: the user has to bind them in its configuration all the same, where our own lines do
-/// without the portal.
+/// without the portal. sway and labwc have no such portal: one that answers there is another desktop's, installed
+/// beside theirs, and gives no shortcuts.
 PortalSurvey withoutIdleOnes(PortalSurvey found) {
-    if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").startsWith(u"Hyprland", Qt::CaseInsensitive))
+    const QStringList names = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':');
+    const auto isThere = [&names](const char* name) {
+        return names.contains(QLatin1String(name), Qt::CaseInsensitive);
+    };
+    if (isThere("Hyprland") || isThere("sway") || isThere("labwc"))
         found.globalShortcuts = 0;
     return found;
 }
