@@ -50,13 +50,6 @@ quint64 BinaryList::highBitsOf(const Object& numeric) const {
     return numeric.count > 8 ? number(numeric.content, numeric.count - 8) : 0;
 }
 
-quint64 BinaryList::number(quint64 position, quint64 size) const {
-    quint64 value = 0;
-    for (quint64 i = 0; i < size; ++i)
-        value = value << 8 | static_cast<quint8>(m_bytes[static_cast<qsizetype>(position + i)]);
-    return value;
-}
-
 bool BinaryList::readCount(Object& found) const {
     switch (static_cast<Marker>(found.kind)) {
     case Marker::integer:

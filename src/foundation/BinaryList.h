@@ -68,7 +68,16 @@ public:
     [[nodiscard]] quint64 highBitsOf(const Object& numeric) const;
 
 private:
-    [[nodiscard]] quint64 number(quint64 position, quint64 size) const;
+    [[nodiscard]] quint64 number(quint64 position, quint64 size) const {
+        const char* const bytes = m_bytes.data() + position;
+        // Nearly every reference has one byte, every offset one or two.
+        if (size == 1)
+            return static_cast<quint8>(*bytes);
+        quint64 value = 0;
+        for (quint64 i = 0; i < size; ++i)
+            value = value << 8 | static_cast<quint8>(bytes[i]);
+        return value;
+    }
 
     /// A count of 15 and more stands behind the marker, as an integer object.
     [[nodiscard]] bool readCount(Object& found) const;

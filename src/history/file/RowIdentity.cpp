@@ -1,45 +1,36 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/file/RowIdentity.h"
 
+#include "foundation/HexDigits.h"
+
+#include <algorithm>
 #include <array>
 
 namespace vellumry::rowidentity {
-
-namespace {
-
-/// The value of each hexadecimal digit, -1 for every other byte.
-constexpr std::array<qint8, 256> hexValues = [] {
-    std::array<qint8, 256> values{};
-    values.fill(-1);
-    for (int i = 0; i < 16; ++i) {
-        values[static_cast<quint8>("0123456789abcdef"[i])] = static_cast<qint8>(i);
-        values[static_cast<quint8>("0123456789ABCDEF"[i])] = static_cast<qint8>(i);
-    }
-    return values;
-}();
-
-} // namespace
 
 QString textOf(const QUuid& id) {
     return id.toString(QUuid::WithoutBraces).toUpper();
 }
 
 std::optional<QUuid> uuidOf(QByteArrayView text) {
+    constexpr std::array<qsizetype, 5> groups{8, 4, 4, 4, 12};
+    std::array<char, 32> digits{};
     if (text.size() != 36)
         return std::nullopt;
-    std::array<char, 16> bytes{};
-    std::size_t digits = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (i == 8 || i == 13 || i == 18 || i == 23) {
-            if (text[i] != '-')
-                return std::nullopt;
-            continue;
-        }
-        const int value = hexValues[static_cast<quint8>(text[i])];
-        if (value < 0)
+    const char* in = text.data();
+    char* out = digits.data();
+    for (const qsizetype group : groups) {
+        if (in != text.data() && *in++ != '-')
             return std::nullopt;
-        bytes[digits / 2] = static_cast<char>(bytes[digits / 2] << 4 | value);
-        ++digits;
+        out = std::copy_n(in, group, out);
+        in += group;
+    }
+    for (char& digit : digits)
+        digit = static_cast<char>(digit | (digit & 0x40) >> 1); // to lower case
+    std::array<char, 16> bytes{};
+    for (std::size_t at = 0; at < bytes.size(); at += 4) {
+        if (!hexdigits::readEight(digits.data() + 2 * at, bytes.data() + at))
+            return std::nullopt;
     }
     return QUuid::fromRfc4122(QByteArrayView(bytes.data(), bytes.size()));
 }
