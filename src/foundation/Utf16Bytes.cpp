@@ -66,23 +66,16 @@ char* writeAscii(char* out, Units units) {
     return out + sizeof bytes;
 }
 
-/// All from U+0080 to U+07FF: most alphabets but the Latin.
-char* writeTwoBytesEach(char* out, Units units) {
-    for (qsizetype i = 0; i < blockUnits; ++i) {
-        *out++ = static_cast<char>(0xC0 | units[i] >> 6);
-        *out++ = static_cast<char>(0x80 | (units[i] & 0x3F));
-    }
-    return out;
-}
-
-/// Words of such an alphabet and what stands between them. Writes one byte beyond the end that it returns.
+/// All below U+0800: words of most alphabets and what stands between them. Writes one byte beyond the end that it
+/// returns. No branch depends on a unit: of mixed words it would be foreseen wrongly half of the time.
 char* writeOneOrTwoBytesEach(char* out, Units units) {
+    const Units more = counted(units >= 0x80);
+    const Units isLong = -more;
+    const Units first = (units & ~isLong) | ((0xC0 | units >> 6) & isLong);
+    const Units pairs = first | (0x80 | (units & 0x3F)) << 8;
     for (qsizetype i = 0; i < blockUnits; ++i) {
-        const quint16 unit = units[i];
-        const bool isAscii = unit < 0x80;
-        out[0] = static_cast<char>(isAscii ? unit : 0xC0 | unit >> 6);
-        out[1] = static_cast<char>(0x80 | (unit & 0x3F));
-        out += isAscii ? 1 : 2;
+        qToLittleEndian(quint16{pairs[i]}, out);
+        out += 1 + more[i];
     }
     return out;
 }
@@ -102,7 +95,7 @@ char* writeBlock(char* out, Units units) {
     if (isZero(units & 0xFF80))
         return writeAscii(out, units);
     if (isZero(units & 0xF800))
-        return isZero(counted(units < 0x80)) ? writeTwoBytesEach(out, units) : writeOneOrTwoBytesEach(out, units);
+        return writeOneOrTwoBytesEach(out, units);
     const bool areLong = isZero(counted(units < 0x800)) && isZero(counted((units & 0xF800) == 0xD800));
     return areLong ? writeThreeBytesEach(out, units) : nullptr;
 }
