@@ -13,10 +13,6 @@ constexpr int deepestIndent = 8;
 /// What a reader's window never gets to; the rest is passed over.
 constexpr qsizetype longestText = 400'000;
 
-bool isBlank(QChar character) {
-    return character == u' ' || character == u'\n' || character == u'\t' || character == u'\r' || character == u'\f';
-}
-
 const QString* find(const std::vector<std::pair<QString, QString>>& attributes, QLatin1String name) {
     const auto found = std::ranges::find_if(attributes, [name](const auto& entry) { return entry.first == name; });
     return found == attributes.end() ? nullptr : &found->second;
@@ -153,7 +149,7 @@ void HtmlParser::write(QStringView text) {
     qsizetype begin = 0;
     const bool keepsBlanks = current().flow.keepsBlanks;
     const auto isFolded = [keepsBlanks](QChar character) {
-        return character.isNull() || character == u'\r' || (!keepsBlanks && isBlank(character));
+        return character.isNull() || character == u'\r' || (!keepsBlanks && html::isBlank(character));
     };
     while (begin < text.size()) {
         qsizetype end = begin;
@@ -162,7 +158,7 @@ void HtmlParser::write(QStringView text) {
         if (end > begin)
             writeVisible(text.sliced(begin, end - begin));
         for (begin = end; begin < text.size() && isFolded(text[begin]); ++begin)
-            if (!m_hasBlank && !keepsBlanks && isBlank(text[begin])) {
+            if (!m_hasBlank && !keepsBlanks && html::isBlank(text[begin])) {
                 m_hasBlank = true;
                 m_blankStyle = current().style;
             }

@@ -11,10 +11,6 @@ namespace {
 
 constexpr qsizetype longestName = 16;
 
-bool isBlank(QChar character) {
-    return character == u' ' || character == u'\n' || character == u'\t' || character == u'\r' || character == u'\f';
-}
-
 bool isLetter(QChar character) {
     return (character >= u'a' && character <= u'z') || (character >= u'A' && character <= u'Z');
 }
@@ -44,7 +40,7 @@ void HtmlParser::readMarkup() {
 
 void HtmlParser::readTag(bool isClosing) {
     const qsizetype begin = m_position;
-    while (m_position < m_html.size() && !isBlank(m_html[m_position]) && m_html[m_position] != u'>' &&
+    while (m_position < m_html.size() && !html::isBlank(m_html[m_position]) && m_html[m_position] != u'>' &&
            m_html[m_position] != u'/')
         ++m_position;
     const QStringView written = m_html.sliced(begin, m_position - begin);
@@ -63,12 +59,12 @@ HtmlParser::Attributes HtmlParser::readAttributes() {
                                     QStringLiteral("start"), QStringLiteral("hidden")};
     Attributes attributes;
     while (m_position < m_html.size() && m_html[m_position] != u'>') {
-        if (isBlank(m_html[m_position]) || m_html[m_position] == u'/') {
+        if (html::isBlank(m_html[m_position]) || m_html[m_position] == u'/') {
             ++m_position;
             continue;
         }
         const qsizetype begin = m_position++;
-        while (m_position < m_html.size() && !isBlank(m_html[m_position]) && m_html[m_position] != u'=' &&
+        while (m_position < m_html.size() && !html::isBlank(m_html[m_position]) && m_html[m_position] != u'=' &&
                m_html[m_position] != u'>' && m_html[m_position] != u'/')
             ++m_position;
         const QStringView name = m_html.sliced(begin, m_position - begin);
@@ -83,13 +79,13 @@ HtmlParser::Attributes HtmlParser::readAttributes() {
 /// Behind an attribute's name; empty where no value follows.
 QString HtmlParser::readValue() {
     qsizetype place = m_position;
-    while (place < m_html.size() && isBlank(m_html[place]))
+    while (place < m_html.size() && html::isBlank(m_html[place]))
         ++place;
     if (place >= m_html.size() || m_html[place] != u'=')
         return {};
     do
         ++place;
-    while (place < m_html.size() && isBlank(m_html[place]));
+    while (place < m_html.size() && html::isBlank(m_html[place]));
     qsizetype end = place;
     if (place < m_html.size() && (m_html[place] == u'"' || m_html[place] == u'\'')) {
         end = m_html.indexOf(m_html[place], place + 1);
@@ -97,7 +93,7 @@ QString HtmlParser::readValue() {
         m_position = std::min(end + 1, m_html.size());
         ++place;
     } else {
-        while (end < m_html.size() && !isBlank(m_html[end]) && m_html[end] != u'>')
+        while (end < m_html.size() && !html::isBlank(m_html[end]) && m_html[end] != u'>')
             ++end;
         m_position = end;
     }

@@ -33,4 +33,9 @@ struct Meaning {
 /// The text of a reference between "&" and ";", "amp" or "#x20AC"; nothing for an unknown one.
 [[nodiscard]] std::optional<QString> referenced(QStringView name);
 
+/// What stands between words and attributes, and counts as one blank in a text (HTML Standard 13.2: ASCII whitespace).
+[[nodiscard]] inline bool isBlank(QChar character) {
+    return character == u' ' || character == u'\n' || character == u'\t' || character == u'\r' || character == u'\f';
+}
+
 } // namespace vellumry::html
