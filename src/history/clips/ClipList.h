@@ -62,6 +62,8 @@ private:
     [[nodiscard]] std::ptrdiff_t position(Date date, std::ptrdiff_t first, std::ptrdiff_t last) const;
     [[nodiscard]] std::ptrdiff_t indexOf(const Clip& clip) const;
     void enter(const Clip& clip);
+    /// Enters a clip that is found by its identity already.
+    void enterBesideId(const Clip& clip);
     void leave(const Clip& clip);
 
     std::vector<ClipRef> m_clips;

@@ -140,8 +140,11 @@ QCoro::Task<Result> ClipDatabase::onExecutor(std::function<Result(SQLiteDatabase
 }
 
 QCoro::Task<std::vector<ClipRef>> ClipDatabase::loadAll() {
-    return onExecutor<std::vector<ClipRef>>(
-        [this](SQLiteDatabase& sqlite) { return cliprows::readAll(sqlite, m_crypto); });
+    return onExecutor<std::vector<ClipRef>>([this](SQLiteDatabase& sqlite) {
+        auto clips = cliprows::readAll(sqlite, m_crypto);
+        giveBackUnusedMemory();
+        return clips;
+    });
 }
 
 QCoro::Task<NewestClips> ClipDatabase::loadNewest(qint64 count) {
@@ -158,7 +161,7 @@ QCoro::Task<std::shared_ptr<ClipList>> ClipDatabase::loadBeside() {
             list->assign(cliprows::readAll(sqlite, m_crypto));
         }
         list->copyForAnother();
-        // What the connection had read lay among the clips.
+        // What the connection had read, and what was sealed, lay among the clips.
         giveBackUnusedMemory();
         return list;
     };

@@ -4,7 +4,6 @@
 #include "foundation/BulkWork.h"
 #include "foundation/Logging.h"
 #include "foundation/SerialExecutor.h"
-#include "foundation/UnusedMemory.h"
 #include "history/clips/StringPool.h"
 #include "history/file/ClipMetaReader.h"
 #include "history/file/RowIdentity.h"
@@ -13,6 +12,8 @@
 #include <algorithm>
 #include <atomic>
 #include <iterator>
+#include <mutex>
+#include <utility>
 
 namespace vellumry {
 
@@ -54,7 +55,6 @@ public:
             batch.clips.push_back(std::move(row.clip));
         }
         batch.rows = {};
-        batch.sealed = {};
     }
 
 private:
@@ -98,7 +98,23 @@ struct ClipLoading::Private {
         } catch (...) {
             batch.error = std::current_exception();
         }
+        {
+            const std::lock_guard lock(mutex);
+            spare.push_back(std::exchange(batch.sealed, {}));
+        }
         --waiting;
+    }
+
+    /// An empty batch; of one that is done, its room for what is sealed: no new memory for each.
+    std::unique_ptr<Batch> newBatch() {
+        auto batch = std::make_unique<Batch>();
+        const std::lock_guard lock(mutex);
+        if (!spare.empty()) {
+            batch->sealed = std::move(spare.back());
+            spare.pop_back();
+            batch->sealed.resize(0);
+        }
+        return batch;
     }
 
     void close() {
@@ -114,13 +130,15 @@ struct ClipLoading::Private {
         });
         if (waiting > batchesAhead)
             decode(batch, decoder);
-        batches.push_back(std::make_unique<Batch>());
+        batches.push_back(newBatch());
     }
 
     const SymmetricKey& key;
     Decoder decoder;
     std::size_t taken = 0;
     std::vector<std::unique_ptr<Batch>> batches;
+    std::mutex mutex;
+    std::vector<QByteArray> spare; ///< guarded by the mutex
     std::atomic<int> waiting = 0;
     std::unique_ptr<Decoder> helperDecoder;
     std::unique_ptr<SerialExecutor> helper; // last, so that its thread has ended before what it works on goes
@@ -161,9 +179,6 @@ std::vector<ClipRef> ClipLoading::finish() {
     if (clips.size() < d->taken)
         qCWarning(logging::history) << d->taken - clips.size() << "of" << d->taken
                                     << "clips cannot be read; they stay in the file";
-    // What was sealed is as much again as what was in it.
-    d->batches.clear();
-    giveBackUnusedMemory();
     return clips;
 }
 

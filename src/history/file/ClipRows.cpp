@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/file/ClipRows.h"
 
+#include "history/clips/SharedClips.h"
 #include "history/file/ClipLoading.h"
 #include "history/file/ClipMeta.h"
 #include "history/file/PayloadCoding.h"
@@ -45,6 +46,28 @@ qint64 pinnedColumn(const Clip& clip) {
 void removeRow(SQLiteDatabase& database, const QUuid& id) {
     const std::array<SQLValue, 1> values{rowidentity::textOf(id)};
     run(database, "DELETE FROM clips WHERE id = ?;", values);
+}
+
+/// Of two clips of one time the later one of `clips` comes first. The times are sorted by themselves: the clips lie all
+/// over the memory.
+std::vector<ClipRef> latestFirst(std::vector<ClipRef> clips) {
+    struct Place {
+        Date lastUsedAt;
+        std::size_t index;
+    };
+    std::vector<Place> places(clips.size());
+    for (std::size_t count = 0; count < clips.size(); ++count) {
+        const std::size_t index = clips.size() - 1 - count;
+        if (index >= clipsAhead)
+            __builtin_prefetch(&clips[index - clipsAhead]->lastUsedAt);
+        places[count] = {clips[index]->lastUsedAt, index};
+    }
+    std::ranges::stable_sort(places, std::greater<>(), &Place::lastUsedAt);
+    std::vector<ClipRef> sorted;
+    sorted.reserve(clips.size());
+    for (const Place& place : places)
+        sorted.push_back(std::move(clips[place.index]));
+    return sorted;
 }
 
 /// All that `work` does or, when it throws, nothing.
@@ -96,10 +119,7 @@ std::vector<ClipRef> readAll(SQLiteDatabase& database, const ClipCrypto& crypto)
     ClipLoading loading(crypto);
     while (rows.step())
         loading.take(rows);
-    std::vector<ClipRef> clips = loading.finish();
-    std::ranges::reverse(clips);
-    std::ranges::stable_sort(clips, std::greater<>(), &Clip::lastUsedAt);
-    return clips;
+    return latestFirst(loading.finish());
 }
 
 NewestClips readNewest(SQLiteDatabase& database, const ClipCrypto& crypto, qint64 count) {

@@ -41,6 +41,8 @@ bool couldNotRead(const QByteArray& finding) {
 }
 
 bool passesQuickCheck(SQLiteDatabase& database) {
+    // Of all pages the check needs a few again. So many stay in the processor's own cache.
+    database.execute("PRAGMA cache_size = 64;");
     auto check = database.prepare("PRAGMA quick_check;");
     QByteArray findings;
     while (check.step())

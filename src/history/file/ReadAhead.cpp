@@ -2,21 +2,32 @@
 #include "history/file/ReadAhead.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <memory>
 #include <sqlite3.h>
+#include <utility>
 
 namespace vellumry::readahead {
 
 namespace {
 
-/// A run of pages is read in pieces that grow: most of what a picture takes is read at once, and little is read in vain
-/// behind a short text.
-constexpr sqlite3_int64 firstPiece = 8 * 1024;
-constexpr sqlite3_int64 largestPiece = 512 * 1024;
+/// What is read at once. SQLite's check goes through a tree from its end to its beginning, but through the pages of one
+/// picture forwards: a few blocks are kept, so that each is read about once.
+constexpr sqlite3_int64 blockSize = 128 * 1024;
+constexpr std::size_t blockCount = 8;
 
 /// Numbers below 100 are SQLite's own.
 constexpr int askWhetherRefused = 2601;
+
+/// A part of the file of which something was asked for lately.
+struct Block {
+    sqlite3_int64 begin = -1;
+    sqlite3_int64 end = -1;  ///< no greater than `begin` for one that is read page by page
+    sqlite3_int64 asked = 0; ///< bytes
+    int lent = 0;            ///< pages that SQLite looks at where they lie
+    char* bytes = nullptr;
+};
 
 /// The real file, and what was read ahead of it.
 class File {
@@ -29,21 +40,37 @@ public:
     [[nodiscard]] const sqlite3_io_methods& methods() { return *real()->pMethods; }
 
     int read(void* bytes, int size, sqlite3_int64 offset) {
-        const bool isNext = offset == m_next;
-        m_next = offset + size;
-        const bool isHere = offset >= m_begin && m_next <= m_end;
-        if (!isHere) {
-            if (!isNext)
-                m_piece = firstPiece;
-            if (!isNext || !m_isDatabase || !readPiece(size, offset))
-                return readPlainly(bytes, size, offset);
-        }
-        std::memcpy(bytes, m_buffer.get() + (offset - m_begin), static_cast<std::size_t>(size));
+        if (!m_isDatabase)
+            return readPlainly(bytes, size, offset);
+        const Block* const block = ask(size, offset);
+        if (!block)
+            return readPlainly(bytes, size, offset);
+        std::memcpy(bytes, block->bytes + (offset - block->begin), static_cast<std::size_t>(size));
         return SQLITE_OK;
     }
 
+    /// The bytes where they lie, until they are given back; null where they must be read.
+    char* lend(int size, sqlite3_int64 offset) {
+        Block* const block = m_isDatabase ? ask(size, offset) : nullptr;
+        if (!block)
+            return nullptr;
+        ++block->lent;
+        return block->bytes + (offset - block->begin);
+    }
+    void takeBack(const char* bytes) {
+        const auto isOf = [bytes](const Block& block) {
+            return block.bytes && bytes >= block.bytes && bytes < block.bytes + blockSize;
+        };
+        if (const auto block = std::ranges::find_if(m_blocks, isOf); block != m_blocks.end())
+            --block->lent;
+    }
+
     /// For when somebody else may write.
-    void forget() { m_begin = m_end = 0; }
+    void forget() {
+        for (Block& block : m_blocks)
+            block.begin = block.end = -1;
+        m_fileSize = -1;
+    }
     [[nodiscard]] bool hasRefused() const { return m_hasRefused; }
 
 private:
@@ -53,32 +80,62 @@ private:
         return result;
     }
 
-    bool readPiece(int size, sqlite3_int64 offset) {
-        sqlite3_int64 fileSize = 0;
-        if (methods().xFileSize(real(), &fileSize) != SQLITE_OK)
+    /// The block that has these bytes; null for bytes that are to be read by themselves.
+    Block* ask(int size, sqlite3_int64 offset) {
+        const sqlite3_int64 begin = offset - offset % blockSize;
+        const auto found = std::ranges::find(m_blocks, begin, &Block::begin);
+        if (found != m_blocks.end())
+            std::rotate(m_blocks.begin(), found, found + 1);
+        else if (!replaceOldest(begin))
+            return nullptr;
+        Block& block = m_blocks.front();
+        block.asked += size;
+        return offset + size <= block.end ? &block : nullptr;
+    }
+
+    /// Puts a block from `begin` on in front; false when every block is lent.
+    bool replaceOldest(sqlite3_int64 begin) {
+        const auto oldest =
+            std::find_if(m_blocks.rbegin(), m_blocks.rend(), [](const Block& block) { return block.lent == 0; });
+        if (oldest == m_blocks.rend())
             return false;
-        const sqlite3_int64 piece = std::min(m_piece, fileSize - offset);
-        m_piece = std::min(m_piece * 2, largestPiece);
-        if (piece < size)
-            return false;
-        if (!m_buffer)
-            m_buffer = std::make_unique_for_overwrite<char[]>(largestPiece);
-        forget();
-        if (methods().xRead(real(), m_buffer.get(), static_cast<int>(piece), offset) != SQLITE_OK)
-            return false;
-        m_begin = offset;
-        m_end = offset + piece;
+        std::rotate(m_blocks.begin(), oldest.base() - 1, oldest.base());
+        Block& block = m_blocks.front();
+        // What is gone through now is read as the block was that goes: at once, if a third of that was asked for. Page
+        // by page that much takes as long.
+        const bool isWorthIt = block.begin < 0 || 3 * block.asked >= blockSize;
+        block.begin = block.end = begin;
+        block.asked = 0;
+        if (isWorthIt)
+            readWhole(block);
         return true;
+    }
+
+    void readWhole(Block& block) {
+        if (m_fileSize < 0 && methods().xFileSize(real(), &m_fileSize) != SQLITE_OK)
+            return;
+        const sqlite3_int64 size = std::min(blockSize, m_fileSize - block.begin);
+        if (size <= 0)
+            return;
+        if (!m_memoryOfBlocks)
+            allocateBlocks();
+        if (methods().xRead(real(), block.bytes, static_cast<int>(size), block.begin) == SQLITE_OK)
+            block.end = block.begin + size;
+    }
+
+    void allocateBlocks() {
+        m_memoryOfBlocks = std::make_unique_for_overwrite<char[]>(blockCount * blockSize);
+        char* bytes = m_memoryOfBlocks.get();
+        for (Block& block : m_blocks)
+            block.bytes = std::exchange(bytes, bytes + blockSize);
     }
 
     std::unique_ptr<char[]> m_memory;
     bool m_isDatabase;
     bool m_hasRefused = false;
-    std::unique_ptr<char[]> m_buffer;
-    sqlite3_int64 m_begin = 0;
-    sqlite3_int64 m_end = 0;
-    sqlite3_int64 m_next = -1; ///< where the last page that was asked for ends
-    sqlite3_int64 m_piece = firstPiece;
+    std::unique_ptr<char[]> m_memoryOfBlocks;
+    std::array<Block, blockCount> m_blocks; ///< the latest first
+    sqlite3_int64 m_fileSize = -1;
 };
 
 /// What SQLite gets for a file.
@@ -115,7 +172,7 @@ struct Passed<Method> {
 sqlite3_io_methods makeMethods() {
     using M = sqlite3_io_methods;
     sqlite3_io_methods methods{};
-    methods.iVersion = 2; // shared memory, but no mapping of the file itself: every byte goes through here
+    methods.iVersion = 3;
     methods.xClose = closeFile;
     methods.xRead = [](sqlite3_file* handle, void* bytes, int size, sqlite3_int64 offset) {
         return fileOf(handle).read(bytes, size, offset);
@@ -128,9 +185,20 @@ sqlite3_io_methods makeMethods() {
     methods.xUnlock = Passed<&M::xUnlock>::onForgetting;
     methods.xCheckReservedLock = Passed<&M::xCheckReservedLock>::on;
     methods.xFileControl = [](sqlite3_file* handle, int operation, void* argument) {
+        if (operation == SQLITE_FCNTL_MMAP_SIZE)
+            return SQLITE_OK; // the file itself is not mapped: every byte goes through here
         if (operation != askWhetherRefused)
             return Passed<&M::xFileControl>::on(handle, operation, argument);
         *static_cast<bool*>(argument) = fileOf(handle).hasRefused();
+        return SQLITE_OK;
+    };
+    methods.xFetch = [](sqlite3_file* handle, sqlite3_int64 offset, int size, void** bytes) {
+        *bytes = fileOf(handle).lend(size, offset);
+        return SQLITE_OK;
+    };
+    methods.xUnfetch = [](sqlite3_file* handle, sqlite3_int64, void* bytes) {
+        if (bytes)
+            fileOf(handle).takeBack(static_cast<const char*>(bytes));
         return SQLITE_OK;
     };
     methods.xSectorSize = Passed<&M::xSectorSize>::on;

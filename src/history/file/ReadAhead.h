@@ -7,9 +7,11 @@ struct sqlite3;
 /// are most of the work.
 namespace vellumry::readahead {
 
-/// The name of a layer between SQLite and the operating system (https://www.sqlite.org/vfs.html) that reads what
-/// follows as soon as a database is read page behind page: for connections that go through a file and change nothing.
-/// A piece that cannot be read is read again page by page, so that an error counts for its own page only. Any thread.
+/// The name of a layer between SQLite and the operating system (https://www.sqlite.org/vfs.html) that reads a database
+/// in blocks of many pages as long as most of them are asked for: for connections that go through a file and change
+/// nothing. SQLite looks at the pages of a block where they lie, if it was told that it may map the file (`PRAGMA
+/// mmap_size`, of any size). A block that cannot be read is read page by page, so that an error counts for its own
+/// page only. Any thread.
 [[nodiscard]] const char* layer();
 
 /// Whether the system has refused to read a page of the database to this connection, which goes through the layer:

@@ -33,6 +33,9 @@ SQLiteDatabase::SQLiteDatabase(const QString& path, Access access) {
         open(path, access);
         if (access == Access::readWrite)
             prepareForWriting();
+        // What the layer has read is looked at where it lies.
+        if (access == Access::readThrough)
+            execute("PRAGMA mmap_size = 1;");
     } catch (...) {
         close();
         throw;

@@ -4,8 +4,10 @@
 #include "foundation/SecureBytes.h"
 #include "foundation/Text.h"
 #include "foundation/UnusedMemory.h"
+#include "history/clips/SharedClips.h"
 #include "history/search/BitSet.h"
 #include "history/search/ClipSearchOrder.h"
+#include "history/search/FoldedClip.h"
 
 #include <QHash>
 #include <algorithm>
@@ -22,33 +24,14 @@ constexpr std::size_t costOfOneText = 128;
 /// So many texts folded at once are a first search.
 constexpr std::size_t manyTexts = 1000;
 
-/// Below this a text is scanned faster beside its neighbours than by itself.
-constexpr qsizetype longText = 2048;
-
-/// Puts everything of a clip that its reader may remember into the index, as one text.
-Slot append(FoldedIndex& index, const Clip& clip) {
-    const QByteArray before = clip.title.utf8() + '\n';
-    const QByteArray& body = clip.searchText.utf8();
-    const QByteArray behind =
-        '\n' + clip.sourceAppName.value_or(QString()).toUtf8() + '\n' + clip.imageText.value_or(StoredText()).utf8();
-    if (body.size() >= longText && text::foldsToLowerCase(body))
-        return index.append(text::foldedBytes(before), body, text::foldedBytes(behind));
-    return index.append(text::foldedBytes(before + body + behind));
-}
-
-/// Those of `clips` that are marked. Each copy counts up in a clip that is far away in memory, so a few are fetched
-/// ahead.
+/// Those of `clips` that are marked.
 std::vector<ClipRef> gathered(const std::vector<ClipRef>& clips, const BitSet& isMarked) {
-    constexpr std::size_t ahead = 16;
     const std::vector<std::size_t> marked = isMarked.positions();
     std::vector<ClipRef> result;
     result.reserve(marked.size());
     for (std::size_t index = 0; index < marked.size(); ++index) {
-        if (index + ahead < marked.size()) {
-            // std::make_shared lays the count right before the clip.
-            const auto* const clip = reinterpret_cast<const char*>(clips[marked[index + ahead]].get());
-            __builtin_prefetch(clip - sizeof(void*), 1);
-        }
+        if (index + clipsAhead < marked.size())
+            prefetchCount(clips[marked[index + clipsAhead]]);
         result.push_back(clips[marked[index]]);
     }
     return result;
@@ -181,7 +164,7 @@ Slot ClipSearch::Private::slotOfClip(const Clip& clip) {
     const auto known = slotOf.constFind(clip.id);
     if (known != slotOf.constEnd())
         return *known;
-    return *slotOf.insert(clip.id, append(index, clip));
+    return *slotOf.insert(clip.id, appendFolded(clip, index));
 }
 
 void ClipSearch::Private::follow(const std::vector<ClipRef>& clips, std::optional<qint64> revision) {
@@ -192,6 +175,8 @@ void ClipSearch::Private::follow(const std::vector<ClipRef>& clips, std::optiona
         clips, index, [this](const Clip& clip) { return slotOfClip(clip); }, revision);
     if (!hasChanged)
         return;
+    // The preparation has nothing left to do: without this it would go through all clips behind each keystroke.
+    withoutText = clips.size() - slotOf.size();
     found.reset();
     index.recycle();
     // Folding the whole history leaves as much behind as it makes.

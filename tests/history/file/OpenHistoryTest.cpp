@@ -31,7 +31,8 @@ struct Trouble {
     On on;
     int code;
     int left = 0;
-    [[nodiscard]] bool isNow(On call) { return call == on && left-- == 0; }
+    int times = 1; ///< in a row
+    [[nodiscard]] bool isNow(On call) { return call == on && left-- <= 0 && left >= -times; }
 };
 
 class TroubledFile : public VfsFile {
@@ -153,11 +154,14 @@ TEST_F(OpenHistoryTest, NoSingleErrorOfTheDiskPutsTheFileAside) {
         awaited(database->deleteAll({load(*database).back()->id}));
     }
     using enum Trouble::On;
-    for (const auto& [on, code] : {std::pair(read, SQLITE_IOERR_READ), std::pair(write, SQLITE_FULL),
-                                   std::pair(write, SQLITE_IOERR_WRITE), std::pair(sync, SQLITE_IOERR_FSYNC)}) {
+    // The check reads whole blocks; one that fails is read page by page, so that only the second error counts.
+    for (const auto& [on, code, times] :
+         {std::tuple(read, SQLITE_IOERR_READ, 1), std::tuple(read, SQLITE_IOERR_READ, 2),
+          std::tuple(write, SQLITE_FULL, 1), std::tuple(write, SQLITE_IOERR_WRITE, 1),
+          std::tuple(sync, SQLITE_IOERR_FSYNC, 1)}) {
         int failures = 0;
         for (int number = 0; number < 200; ++number) {
-            Trouble trouble{on, code, number};
+            Trouble trouble{on, code, number, times};
             installTestVfs([&](sqlite3_file* real) { return std::make_unique<TroubledFile>(real, trouble); });
             {
                 const auto opened = ClipDatabase::openHistory(m_history.folder(), m_history.keyStore());
@@ -173,7 +177,7 @@ TEST_F(OpenHistoryTest, NoSingleErrorOfTheDiskPutsTheFileAside) {
             if (!hasHappened)
                 break;
         }
-        EXPECT_TRUE(on != read || failures > 5);
+        EXPECT_TRUE(on != read || failures > (times == 1 ? 0 : 5)) << failures;
     }
     EXPECT_EQ(load(*m_history.open().database).size(), 59U);
 }

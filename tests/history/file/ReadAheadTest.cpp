@@ -19,6 +19,7 @@ class WatchedFile : public VfsFile {
 public:
     struct Watch {
         int reads = 0;
+        qint64 bytes = 0;
         qint64 badPage = -1;
     };
     WatchedFile(sqlite3_file* real, Watch& watch)
@@ -26,6 +27,7 @@ public:
         , m_watch(&watch) {}
     int read(void* bytes, int size, std::int64_t offset) override {
         ++m_watch->reads;
+        m_watch->bytes += size;
         const qint64 bad = m_watch->badPage * pageSize;
         const bool isBad = m_watch->badPage >= 0 && offset < bad + pageSize && offset + size > bad;
         return isBad ? SQLITE_IOERR_READ : VfsFile::read(bytes, size, offset);
@@ -40,15 +42,16 @@ protected:
     /// Short texts, and between them payloads of many pages.
     void SetUp() override {
         const auto database = m_history.open().database;
-        for (int i = 0; i < 40; ++i) {
-            ClipPayload payload;
-            ClipPayload::Item item;
-            item.representations[u"public.png"_s] =
-                QByteArray(i % 8 == 3 ? 60'000 : 40, static_cast<char>('a' + i % 26));
-            payload.items = {item};
-            insert(*database, someClip(i, QString(300, u'x')), payload);
-        }
+        for (int i = 0; i < 40; ++i)
+            insertPayload(*database, i, i % 8 == 3 ? 60'000 : 40);
         awaited(database->reclaimSpace());
+    }
+    void insertPayload(ClipDatabase& database, int number, qsizetype size) {
+        ClipPayload::Item item;
+        item.representations[u"public.png"_s] = QByteArray(size, static_cast<char>('a' + number % 26));
+        ClipPayload payload;
+        payload.items = {item};
+        insert(database, someClip(number, QString(300, u'x')), payload);
     }
     [[nodiscard]] qint64 pages() const { return QFileInfo(m_history.path()).size() / pageSize; }
 
@@ -59,13 +62,16 @@ protected:
         int error = 0;
         bool operator==(const Findings&) const = default;
     };
-    [[nodiscard]] Findings findings(Access access) const {
+    enum class Reading { none, payloads };
+    [[nodiscard]] Findings findings(Access access, Reading reading = Reading::payloads) const {
         Findings found;
         try {
             SQLiteDatabase database(m_history.path(), access);
             auto check = database.prepare("PRAGMA quick_check;");
             while (check.step())
                 found.verdict += check.text(0).toByteArray() + '\n';
+            if (reading == Reading::none)
+                return found;
             auto rows = database.prepare("SELECT payload FROM clips ORDER BY rowid;");
             while (rows.step())
                 found.payloads += rows.blob(0).isEmpty() ? 0 : 1;
@@ -89,6 +95,20 @@ TEST_F(ReadAheadTest, AFileOfPicturesIsReadInFewCalls) {
     const int plain = reads(Access::readOnly);
     EXPECT_GT(plain, pages());
     EXPECT_LT(reads(Access::readThrough), plain / 2);
+}
+
+TEST_F(ReadAheadTest, NoPictureIsReadTwice) {
+    {
+        const auto database = m_history.open().database;
+        for (int i = 0; i < 60; ++i)
+            insertPayload(*database, 100 + i, 80'000 + 1'000 * i);
+        awaited(database->reclaimSpace());
+    }
+    installTestVfs([this](sqlite3_file* real) { return std::make_unique<WatchedFile>(real, m_watch); });
+    EXPECT_EQ(findings(Access::readThrough, Reading::none).verdict, "ok\n");
+    removeTestVfs();
+    EXPECT_GT(m_watch.bytes, pages() * pageSize);
+    EXPECT_LT(m_watch.bytes, pages() * pageSize * 5 / 4);
 }
 
 TEST_F(ReadAheadTest, EveryDamagedPageIsFoundAsByReadingPageByPage) {

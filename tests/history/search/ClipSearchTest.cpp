@@ -270,6 +270,18 @@ TEST(ClipSearch, BehindAChangeOnlyWhatIsNewIsLookedAt) {
     EXPECT_EQ(search.search(clips, u"text 4998 "_s, ClipFilter::all, 4), Clips{clips.back()});
 }
 
+TEST(ClipSearch, BehindASearchNothingIsLeftToPrepare) {
+    Clips clips{secretFrom(u"Terminal"_s, u"hunter2"_s)};
+    for (int number = 0; number < 5000; ++number)
+        clips.push_back(textClip(u"text %1 "_s.arg(number)));
+    ClipSearch search;
+    (void)search.search(clips, u"text"_s, ClipFilter::all, 1);
+    constexpr std::chrono::microseconds noTime{0};
+    EXPECT_TRUE(search.prepare(clips, 1, noTime)) << "all clips are gone through once more behind each keystroke";
+    clips.insert(clips.begin(), textClip(u"newcomer"_s));
+    EXPECT_FALSE(search.prepare(clips, 2, noTime));
+}
+
 TEST(ClipSearch, WhatChangesWhileTheRestIsPreparedIsFoundAsItIsNow) {
     Clips clips;
     for (int number = 0; number < 500; ++number)
