@@ -66,6 +66,8 @@ public:
     [[nodiscard]] std::optional<Instant> nextDeadline() const;
     /// Answers everything that is still open with nothing; from then on every question is answered so.
     void end();
+    /// Waits, behind `end`, until our window may go (OwedAnswers.h).
+    void awaitOwedAnswers();
 
 private:
     using TimeWaiter = std::function<void(std::optional<xcb_timestamp_t>)>;

@@ -75,6 +75,7 @@ void PasteboardThread::run() {
     m_engine->end();
     // Commands of the last moment still get their answer, which is nothing.
     runCommands();
+    m_engine->awaitOwedAnswers();
     xcb_flush(m_engine->connection().handle());
 }
 

@@ -35,6 +35,7 @@ void SelectionReader::read(Request request, Instant now) {
     Transfer& transfer = m_transfers[*property];
     transfer.sequence = ++m_sequence;
     transfer.ownership = m_ownership;
+    transfer.owner = m_owner;
     transfer.request = std::move(request);
     transfer.overdue = isNextInTurn(transfer) ? now + transfer.request.silence : transfer.request.deadline;
 }
@@ -216,8 +217,9 @@ void SelectionReader::giveUp(Transfers::iterator found, Instant now, std::option
         done(std::move(outcome));
 }
 
-void SelectionReader::endAll(xcb_atom_t selection, Instant now) {
+void SelectionReader::setOwner(xcb_atom_t selection, xcb_window_t owner, Instant now) {
     ++m_ownership;
+    m_owner = owner;
     std::vector<xcb_atom_t> ending;
     for (const auto& [property, transfer] : m_transfers) {
         const bool isAwaited = transfer.phase == Phase::asked || transfer.phase == Phase::incremental;
@@ -228,6 +230,14 @@ void SelectionReader::endAll(xcb_atom_t selection, Instant now) {
         if (const auto found = m_transfers.find(property); found != m_transfers.end())
             giveUp(found, now);
     }
+}
+
+bool SelectionReader::isOwedAnswersBy(xcb_window_t windowOfClient) const {
+    return std::ranges::any_of(m_transfers, [&](const auto& entry) {
+        const Transfer& transfer = entry.second;
+        const bool isUnanswered = transfer.phase == Phase::asked || transfer.phase == Phase::abandoned;
+        return isUnanswered && m_connection.isSameClient(transfer.owner, windowOfClient);
+    });
 }
 
 void SelectionReader::expire(Instant now) {

@@ -44,8 +44,11 @@ public:
     void handleSelectionNotify(const xcb_selection_notify_event_t& event, Instant now);
     /// For new values of properties of our own window.
     void handleNewValue(xcb_atom_t property, Instant now);
-    /// Gives up on everything that was asked of `selection`: it has another owner, which owes no answer yet.
-    void endAll(xcb_atom_t selection, Instant now);
+    /// Sets the owner that is asked from now on. Gives up on everything that was asked of `selection` before: its next
+    /// owner owes no answer yet.
+    void setOwner(xcb_atom_t selection, xcb_window_t owner, Instant now);
+    /// Whether a client has not answered yet, be it that the answer is awaited no more.
+    [[nodiscard]] bool isOwedAnswersBy(xcb_window_t windowOfClient) const;
     /// Gives up on what is overdue.
     void expire(Instant now);
     /// When `expire` has something to do; nothing while nothing is under way.
@@ -63,6 +66,7 @@ private:
         Phase phase = Phase::asked;
         quint64 sequence = 0;
         quint64 ownership = 0; ///< which of the owners that came after each other was asked
+        xcb_window_t owner = XCB_NONE;
         XcbProperty collected;
         Instant overdue; ///< the silence that counts
         [[nodiscard]] Instant deadline() const { return std::min(overdue, request.deadline); }
@@ -84,6 +88,7 @@ private:
     quint64 m_sequence = 0;
     quint64 m_answered = 0;  ///< the sequence of the latest request that was answered
     quint64 m_ownership = 0; ///< counts the changes of owner
+    xcb_window_t m_owner = XCB_NONE;
 };
 
 } // namespace vellumry

@@ -38,6 +38,7 @@ std::optional<Reason> XcbConnection::open(const QByteArray& displayName) {
     for (int i = 0; i < screenNumber && screen.rem > 1; ++i)
         xcb_screen_next(&screen);
     m_root = screen.data->root;
+    m_managerSelection = QStringLiteral("WM_S%1").arg(screenNumber);
 
     const xcb_query_extension_reply_t* xfixes = xcb_get_extension_data(m_connection, &xcb_xfixes_id);
     if (!xfixes || !xfixes->present)

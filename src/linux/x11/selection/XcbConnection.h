@@ -42,6 +42,8 @@ public:
 
     [[nodiscard]] xcb_connection_t* handle() const { return m_connection; }
     [[nodiscard]] xcb_window_t root() const { return m_root; }
+    /// What the window manager of our screen owns as long as it is that (ICCCM 2.8).
+    [[nodiscard]] const QString& managerSelection() const { return m_managerSelection; }
     /// The invisible window; PropertyNotify events of it are selected.
     [[nodiscard]] xcb_window_t window() const { return m_window; }
     /// What the events of XFixes count from.
@@ -83,6 +85,7 @@ private:
 
     xcb_connection_t* m_connection = nullptr;
     xcb_window_t m_root = XCB_NONE;
+    QString m_managerSelection;
     xcb_window_t m_window = XCB_NONE;
     quint8 m_xfixesFirstEvent = 0;
     qsizetype m_chunkBytes = 0;
