@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/x11/drag/XdndSession.h"
 
-#include "foundation/FileUrl.h"
+#include "linux/x11/drag/DirectSave.h"
 
-#include <QFile>
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -23,10 +22,8 @@ constexpr auto askAgainInterval = 50ms;
 /// One that has taken the drop may read for a while.
 constexpr auto dropPatience = 60s;
 constexpr auto stalledLimit = 30s;
-constexpr qint64 longestAddress = 8 * 1024;
 
 const QString selectionName = QStringLiteral("XdndSelection");
-const QString directSave = QStringLiteral("XdndDirectSave0");
 
 template <typename Element>
 QByteArrayView bytesOf(const std::vector<Element>& elements) {
@@ -96,9 +93,8 @@ void XdndSession::describe() {
     for (const QString& target : m_contents->targets())
         types.push_back(m_connection->atom(target));
     if (m_saved) {
-        types.insert(types.begin(), m_connection->atom(directSave));
-        m_connection->setProperty(m_connection->window(), m_connection->atom(directSave), atom(u"text/plain"), 8,
-                                  m_saved->name.toUtf8());
+        types.insert(types.begin(), m_connection->atom(directsave::selectionTarget));
+        directsave::propose(*m_connection, m_saved->name);
     }
     m_connection->setProperty(m_connection->window(), atom(u"XdndTypeList"), XCB_ATOM_ATOM, 32, bytesOf(types));
     xcb_flush(m_connection->handle());
@@ -128,7 +124,7 @@ void XdndSession::enter(const XdndTarget& target) {
     std::array<quint32, 3> types{};
     std::size_t count = 0;
     if (m_saved)
-        types[count++] = m_connection->atom(directSave);
+        types[count++] = m_connection->atom(directsave::selectionTarget);
     for (const QString& name : m_contents->targets()) {
         if (count < types.size())
             types[count++] = m_connection->atom(name);
@@ -267,25 +263,12 @@ void XdndSession::handleMessage(const xcb_client_message_event_t& message) {
         finish();
 }
 
-/// The target has written where it wants the file, and asks us to put it there (Direct Save Protocol 0). Any client
-/// could write that and ask: only the one that was dropped on is obeyed, and no file is replaced.
 bool XdndSession::handleDirectSave(const xcb_selection_request_event_t& request) {
-    if (!m_saved || request.target != m_connection->atom(directSave))
+    if (!m_saved || request.target != m_connection->atom(directsave::selectionTarget))
         return false;
-    const auto address =
-        m_connection->property(m_connection->window(), m_connection->atom(directSave), longestAddress, false);
-    const QString path = address ? fileurl::pathOf(address->bytes).value_or(QString()) : QString();
-    QFile file(path);
     const bool isTarget = m_connection->isSameClient(request.requestor, m_target.receiver) ||
                           m_connection->isSameClient(request.requestor, m_target.window);
-    const bool isMade =
-        m_isDecided && isTarget && !path.isEmpty() && file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
-    const bool isSaved = isMade && file.write(m_saved->bytes) == m_saved->bytes.size() && file.flush();
-    // A part of a picture is worse than none.
-    if (isMade && !isSaved) {
-        file.close();
-        QFile::remove(path);
-    }
+    const bool isSaved = m_isDecided && isTarget && directsave::save(*m_connection, *m_saved);
     m_connection->setProperty(request.requestor, request.property, XCB_ATOM_STRING, 8, isSaved ? "S" : "F");
     m_connection->notifyRequestor(request, request.property);
     return true;
