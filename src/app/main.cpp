@@ -11,6 +11,7 @@
 #include "linux/process/ProcessHardening.h"
 #include "linux/process/TerminationSignals.h"
 #include "linux/x11/windows/XlibConnection.h"
+#include "linux/x11/keys/ComposedKeys.h"
 #include "shell/AppDelegate.h"
 #include "shell/Ending.h"
 
@@ -20,6 +21,7 @@
 #include <QProcessEnvironment>
 #include <chrono>
 #include <cstdio>
+#include <clocale>
 #include <cstdlib>
 #include <filesystem>
 #include <thread>
@@ -59,6 +61,15 @@ DisplayKind chooseQtDefaults() {
 }
 
 /// Text fields of Qt look at the clipboard on every change of it, on the main thread and for as long as the owner keeps
+/// Dead keys and compose sequences are ours on X11, see `ComposedKeys`, unless the user has another input method.
+/// Before the application is made; returns whether they are.
+bool leaveComposingToUs(DisplayKind display) {
+    if (display != DisplayKind::x11 || !qgetenv("QT_IM_MODULES").isEmpty() ||
+        !ComposedKeys::standInFor(qgetenv("QT_IM_MODULE")))
+        return false;
+    return setenv("QT_IM_MODULE", "none", 1) == 0;
+}
+
 /// silent: ten seconds without a panel. We read it through the pasteboard alone, so that the notice is not needed.
 void keepTextFieldsOffTheClipboard() {
     QGuiApplication::clipboard()->blockSignals(true);
@@ -72,7 +83,11 @@ int runProgram(int& argc, char** argv, const QProcessEnvironment& given) {
         return errands::tellOfMissingDisplay(argc, argv);
 
     QGuiApplication application(argc, argv);
+    const bool composes = leaveComposingToUs(display);
     QGuiApplication::setDesktopFileName(QStringLiteral("com.vellumry.Vellumry"));
+    ComposedKeys composedKeys(setlocale(LC_CTYPE, nullptr));
+    if (composes)
+        application.installEventFilter(&composedKeys);
     QGuiApplication::setQuitOnLastWindowClosed(false);
     keepTextFieldsOffTheClipboard();
     // The bus takes its time to let us in: it does so while the display is asked.

@@ -2,6 +2,8 @@
 """The panel's search field and the clipboard: what was copied goes in, what is selected goes out, and an owner that keeps silent
 holds up nobody."""
 
+import os
+import signal
 import time
 
 from desktop import (Failure, Vellumry, clipboard, copy_text, key, main, open_panel, own_tests, run, same, text_of, text_shown,
@@ -91,6 +93,25 @@ def takes_dead_keys_and_compose_sequences():
             field_becomes("ß")
             key("ctrl+BackSpace")
             field_becomes("")
+    finally:
+        run("setxkbmap", "-layout", "us", "-option", "")
+
+
+def keys_typed_at_a_busy_program_keep_their_order():
+    """Letters and accents that wait together are no other word."""
+    layout = ("setxkbmap", "-layout", "us", "-variant", "intl")
+    try:
+        run(*layout)
+        with Vellumry() as program:
+            open_panel()
+            type_text("n")
+            field_becomes("n")
+            os.kill(program.pid, signal.SIGSTOP)
+            type_text("e")
+            key("dead_acute", "e")
+            type_text("s")
+            os.kill(program.pid, signal.SIGCONT)
+            field_becomes("neés")
     finally:
         run("setxkbmap", "-layout", "us", "-option", "")
 
