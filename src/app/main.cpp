@@ -7,11 +7,12 @@
 #include "app/WaylandDisplay.h"
 #include "foundation/Localisation.h"
 #include "foundation/Logging.h"
+#include "linux/look/EmojiInColour.h"
 #include "linux/process/MemoryReturn.h"
 #include "linux/process/ProcessHardening.h"
 #include "linux/process/TerminationSignals.h"
-#include "linux/x11/windows/XlibConnection.h"
 #include "linux/x11/keys/ComposedKeys.h"
+#include "linux/x11/windows/XlibConnection.h"
 #include "shell/AppDelegate.h"
 #include "shell/Ending.h"
 
@@ -20,8 +21,8 @@
 #include <QGuiApplication>
 #include <QProcessEnvironment>
 #include <chrono>
-#include <cstdio>
 #include <clocale>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <thread>
@@ -60,7 +61,6 @@ DisplayKind chooseQtDefaults() {
     return DisplayKind::x11;
 }
 
-/// Text fields of Qt look at the clipboard on every change of it, on the main thread and for as long as the owner keeps
 /// Dead keys and compose sequences are ours on X11, see `ComposedKeys`, unless the user has another input method.
 /// Before the application is made; returns whether they are.
 bool leaveComposingToUs(DisplayKind display) {
@@ -70,6 +70,7 @@ bool leaveComposingToUs(DisplayKind display) {
     return setenv("QT_IM_MODULE", "none", 1) == 0;
 }
 
+/// Text fields of Qt look at the clipboard on every change of it, on the main thread and for as long as the owner keeps
 /// silent: ten seconds without a panel. We read it through the pasteboard alone, so that the notice is not needed.
 void keepTextFieldsOffTheClipboard() {
     QGuiApplication::clipboard()->blockSignals(true);
@@ -82,14 +83,15 @@ int runProgram(int& argc, char** argv, const QProcessEnvironment& given) {
     if (display == DisplayKind::x11 && !XlibConnection::canOpenDisplay())
         return errands::tellOfMissingDisplay(argc, argv);
 
-    QGuiApplication application(argc, argv);
     const bool composes = leaveComposingToUs(display);
-    QGuiApplication::setDesktopFileName(QStringLiteral("com.vellumry.Vellumry"));
+    QGuiApplication application(argc, argv);
     ComposedKeys composedKeys(setlocale(LC_CTYPE, nullptr));
     if (composes)
         application.installEventFilter(&composedKeys);
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.vellumry.Vellumry"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     keepTextFieldsOffTheClipboard();
+    drawEmojiInColour();
     // The bus takes its time to let us in: it does so while the display is asked.
     const std::jthread bus([] { (void)QDBusConnection::sessionBus(); });
     installCatalogue();
