@@ -59,8 +59,7 @@ private:
 /// `connection` is that of an X11 session, null in another one, where the display's scale does not hold that of texts.
 void addLook(Platform& platform, std::shared_ptr<XlibConnection> connection,
              std::shared_ptr<PortalIntroduction> introduction) {
-    LinuxDesktopLook::Places places{introduction->bus(), platform.folders.get()};
-    places.introduction = std::move(introduction);
+    LinuxDesktopLook::Places places{std::move(introduction), platform.folders.get()};
     places.configFolder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     places.isPlasma = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(QLatin1String("KDE"));
     places.scalesText = connection == nullptr;

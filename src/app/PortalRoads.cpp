@@ -32,12 +32,16 @@ bool isPortalDesktop() {
 /// Hyprland's portal holds no keys: the user has to bind them in its configuration all the same, where our own lines do
 /// without the portal. sway and labwc have no such portal: one that answers there is another desktop's, installed
 /// beside theirs, and gives no shortcuts.
-PortalSurvey withoutIdleOnes(PortalSurvey found) {
+bool areKeysIdle() {
     const QStringList names = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':');
     const auto isThere = [&names](const char* name) {
         return names.contains(QLatin1String(name), Qt::CaseInsensitive);
     };
-    if (isThere("Hyprland") || isThere("sway") || isThere("labwc"))
+    return isThere("Hyprland") || isThere("sway") || isThere("labwc");
+}
+
+PortalSurvey withoutIdleOnes(PortalSurvey found) {
+    if (areKeysIdle())
         found.globalShortcuts = 0;
     return found;
 }
@@ -80,8 +84,10 @@ struct PortalRoads::Found {
     std::vector<std::function<void(const PortalSurvey&)>> waiting{};
 };
 
-PortalRoads::PortalRoads(Platform& platform, const std::shared_ptr<PortalIntroduction>& introduction)
+PortalRoads::PortalRoads(Platform& platform, const std::shared_ptr<PortalIntroduction>& introduction, Wants wants)
     : m_platform(platform) {
+    if (!wants.paste && (!wants.keys || areKeysIdle()))
+        return;
     std::optional<PortalSurvey> known;
     if (!isPortalDesktop())
         known = survey(startTime);
@@ -177,7 +183,7 @@ void PortalRoads::complete(std::vector<Capability>& lines) {
             return !line.isFound && (line.name == name || std::ranges::count(line.features, feature) > 0);
         });
     };
-    const bool lacksKeys = isLacking(Feature::shortcuts, keysName);
+    const bool lacksKeys = isLacking(Feature::shortcuts, keysName) && !areKeysIdle();
     const bool lacksPaste = isLacking(Feature::paste, pasteName);
     if (!lacksKeys && !lacksPaste)
         return;

@@ -26,9 +26,16 @@ public:
     using CharactersFor = std::function<std::optional<QString>(KeyCode)>;
     using MakeHotKeys = std::function<std::unique_ptr<HotKeyRegistrar>()>;
 
+    /// What the display server does not do for us already.
+    struct Wants {
+        bool keys = true;
+        bool paste = true;
+    };
+
     /// Asks the portal what there is, without waiting where a desktop is known for its portal; elsewhere one that runs
-    /// is waited for a moment. `platform.defaults` must outlive what is made here.
-    PortalRoads(Platform& platform, const std::shared_ptr<PortalIntroduction>& introduction);
+    /// is waited for a moment. None is asked for what would not be used. `platform.defaults` must outlive what is made
+    /// here.
+    PortalRoads(Platform& platform, const std::shared_ptr<PortalIntroduction>& introduction, Wants wants);
     ~PortalRoads();
 
     /// The portal's keys; what `otherwise` makes where it turns out that it holds none for programs. Takes the lines

@@ -34,7 +34,7 @@ void addKeys(Platform& platform, const std::shared_ptr<PortalIntroduction>& intr
         platform.hotKeys = std::make_unique<GlobalAccelHotKeys>(bus, keymap);
     if (platform.hotKeys && injector)
         return;
-    const PortalRoads portals(platform, introduction);
+    const PortalRoads portals(platform, introduction, {!platform.hotKeys, !injector});
     if (!platform.hotKeys)
         platform.hotKeys = portals.hotKeys(
             [keymap](KeyCode keyCode) {

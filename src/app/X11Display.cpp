@@ -47,7 +47,7 @@ std::unique_ptr<KeyInjector> addHotKeys(Platform& platform, const std::shared_pt
         platform.hotKeys = ownHotKeys();
         return nullptr;
     }
-    const PortalRoads portals(platform, introduction);
+    const PortalRoads portals(platform, introduction, PortalRoads::Wants());
     platform.hotKeys = portals.hotKeys(
         [keyboard = platform.keyboard.get()](KeyCode key) { return keyboard->charactersFor(key); }, ownHotKeys);
     return portals.keyboard();

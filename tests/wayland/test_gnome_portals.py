@@ -11,11 +11,13 @@ import sys
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
 from session import PROGRAM, Window, copy, open_panel, picture, press, told, wait_for_panel  # noqa: E402
+from lock_screen import LockedScreen  # noqa: E402
 from questions import choose, forget_refusal, is_open, refuse_shortcuts  # noqa: E402
 
 import desktop  # noqa: E402
-from desktop import Vellumry, run, text_of, wait_for_clip, wait_until  # noqa: E402
+from desktop import Vellumry, run, text_of, unsealed, wait_for_clip, wait_until  # noqa: E402
 
+DESKTOP_FILE = os.path.expanduser("~/.local/share/applications/com.vellumry.Vellumry.desktop")
 PASTES = int(os.environ.get("VELLUMRY_PASTES", "10"))
 KEYS = "found: hot keys (global shortcuts portal)"
 PASTE = "found: paste key (remote desktop portal, allowed)"
@@ -68,6 +70,23 @@ def test_refused_shortcuts():
     forget_refusal()
 
 
+def test_without_a_desktop_file():
+    """A portal that finds no desktop file gives nothing; the status says so, and the next start with one is asked the question."""
+    kept = DESKTOP_FILE + ".kept"
+    os.rename(DESKTOP_FILE, kept)
+    try:
+        with Vellumry():
+            wait_until(lambda: reports("missing: hot keys (the desktop's portal gives keys to programs with a desktop file"), "the reason")
+            assert not is_open("Add Keyboard Shortcuts")
+    finally:
+        os.rename(kept, DESKTOP_FILE)
+    with Vellumry():
+        wait_until(lambda: is_open("Add Keyboard Shortcuts"), "the question about the shortcuts")
+        choose("^Cancel$")
+        wait_until(lambda: not is_open("Add Keyboard Shortcuts"), "the end of the question")
+    forget_refusal()
+
+
 def test_shortcuts_and_the_paste_key():
     """Both are asked for once, and work in the windows of Wayland programs: the next start has them without a question."""
     with Window() as window:
@@ -80,6 +99,18 @@ def test_shortcuts_and_the_paste_key():
             assert reports(PASTE)
             assert window.state["active"], "a second question"
             paste_first(window, "and once more")
+
+
+def test_locked():
+    """A lock screen ends the portal's session in the middle of its work: shortcuts and paste key work behind it, without a question."""
+    with Window() as window, Vellumry():
+        wait_until(lambda: reports(KEYS), "the shortcuts")
+        paste_first(window, "before the lock")
+        with LockedScreen():
+            press("ctrl+super+v", "escape")
+        wait_until(lambda: window.state["active"], "the keyboard back in the window")
+        assert [text_of(row) for row in unsealed()][:1] == ["before the lock"]
+        paste_first(window, "behind the lock")
 
 
 def portal():

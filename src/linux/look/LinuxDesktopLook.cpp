@@ -6,9 +6,8 @@
 namespace vellumry {
 
 LinuxDesktopLook::LinuxDesktopLook(const Places& places)
-    : m_introduction(places.introduction)
-    , m_scalesText(places.scalesText)
-    , m_portal(places.bus, [this] { combine(); }) {
+    : m_scalesText(places.scalesText)
+    , m_portal(places.introduction, [this] { combine(); }) {
     if (places.isPlasma && places.folders)
         m_plasma = std::make_unique<KdeGlobals>(places.configFolder, *places.folders, [this] { combine(); });
 }

@@ -5,7 +5,6 @@
 #include "linux/look/PortalSettings.h"
 #include "platform/desktop/DesktopLook.h"
 
-#include <QDBusConnection>
 #include <QString>
 #include <memory>
 
@@ -18,13 +17,11 @@ class PortalIntroduction;
 class LinuxDesktopLook : public DesktopLookSource {
 public:
     struct Places {
-        QDBusConnection bus;
+        std::shared_ptr<PortalIntroduction> introduction;
         FolderWatching* folders = nullptr; ///< outlives this; without it Plasma's file is not read
         QString configFolder{};            ///< $XDG_CONFIG_HOME
         bool isPlasma = false;             ///< Plasma's file counts
-        /// Makes us known on `bus` to a portal that restarts.
-        std::shared_ptr<PortalIntroduction> introduction{};
-        bool scalesText = false; ///< the portal's scale of texts is not in the display's scale already
+        bool scalesText = false;           ///< the portal's scale of texts is not in the display's scale already
     };
 
     explicit LinuxDesktopLook(const Places& places);
@@ -36,7 +33,6 @@ public:
 private:
     void combine();
 
-    std::shared_ptr<PortalIntroduction> m_introduction;
     bool m_scalesText;
     SaidLook m_xSettings;
     DesktopLook m_look;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/look/PortalSettings.h"
 
+#include "linux/portal/PortalIntroduction.h"
+#include "linux/portal/PortalNames.h"
+
 #include <QDBusArgument>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -13,8 +16,6 @@ namespace vellumry {
 
 namespace {
 
-const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString settings = QStringLiteral("org.freedesktop.portal.Settings");
 const QString appearance = QStringLiteral("org.freedesktop.appearance");
 const QString gnome = QStringLiteral("org.gnome.desktop.interface");
@@ -43,24 +44,24 @@ std::optional<quint32> colorOf(const QVariant& value) {
 
 } // namespace
 
-PortalSettings::PortalSettings(QDBusConnection bus, std::function<void()> onChanged)
-    : m_bus(std::move(bus))
+PortalSettings::PortalSettings(std::shared_ptr<PortalIntroduction> introduction, std::function<void()> onChanged)
+    : m_introduction(std::move(introduction))
     , m_onChanged(std::move(onChanged)) {
     // No sender is named: the bus would be asked for its owner, and would have to answer first.
-    m_bus.connect(QString(), portalPath, settings, QStringLiteral("SettingChanged"), this,
-                  SLOT(settingChanged(QDBusMessage)));
-    m_bus.connect(QString(), QString(), QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameOwnerChanged"),
-                  QStringList{portal}, QString(), this, SLOT(ownerChanged(QString, QString, QString)));
-    ask();
+    m_introduction->bus().connect(QString(), portal::path, settings, QStringLiteral("SettingChanged"), this,
+                                  SLOT(settingChanged(QDBusMessage)));
+    connect(m_introduction.get(), &PortalIntroduction::introduced, this, &PortalSettings::ask);
+    if (!m_introduction->portal().isEmpty())
+        ask();
 }
 
 PortalSettings::~PortalSettings() = default;
 
 void PortalSettings::ask() {
-    QDBusMessage call = QDBusMessage::createMethodCall(portal, portalPath, settings, QStringLiteral("ReadAll"));
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(m_introduction->portal(), portal::path, settings, QStringLiteral("ReadAll"));
     call.setArguments({QStringList{appearance, gnome, gnomeAccess}});
-    call.setAutoStartService(false);
-    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
+    auto* watcher = new QDBusPendingCallWatcher(m_introduction->bus().asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* finished) {
         finished->deleteLater();
         const QDBusMessage reply = finished->reply();
@@ -80,20 +81,6 @@ void PortalSettings::settingChanged(const QDBusMessage& message) {
     Values values = m_values;
     values[space][arguments[1].toString()] = arguments[2].value<QDBusVariant>().variant();
     take(values);
-}
-
-void PortalSettings::ownerChanged(const QString& name, const QString&, const QString& now) {
-    if (name != portal || now.isEmpty())
-        return;
-    // It hears our name first (PortalIntroduction), which is told in this turn too: the bus's answer comes behind it.
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-                                       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId"));
-    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        watcher->deleteLater();
-        ask();
-    });
 }
 
 void PortalSettings::take(const Values& values) {

@@ -3,18 +3,21 @@
 
 #include "linux/look/SaidLook.h"
 
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QMap>
 #include <QObject>
 #include <QVariantMap>
 #include <functional>
+#include <memory>
 
 namespace vellumry {
 
+class PortalIntroduction;
+
 /// The settings that the desktop's portal hands out (org.freedesktop.portal.Settings, version 1): the keys of
 /// org.freedesktop.appearance, and where those are silent what GNOME says under its own names. The portal is not
-/// started for it; one that comes later is asked then. Nothing waits for it. Main thread.
+/// started for it; it is asked when `introduction` has told it our name, and so is one that comes later. Nothing waits
+/// for it. Main thread.
 class PortalSettings : public QObject {
     Q_OBJECT
 
@@ -23,7 +26,7 @@ public:
     using Values = QMap<QString, QVariantMap>;
 
     /// `onChanged` is called when `said` is different.
-    PortalSettings(QDBusConnection bus, std::function<void()> onChanged);
+    PortalSettings(std::shared_ptr<PortalIntroduction> introduction, std::function<void()> onChanged);
     ~PortalSettings() override;
 
     [[nodiscard]] const SaidLook& said() const { return m_said; }
@@ -32,13 +35,12 @@ public:
 
 private Q_SLOTS:
     void settingChanged(const QDBusMessage& message);
-    void ownerChanged(const QString& name, const QString& before, const QString& now);
 
 private:
     void ask();
     void take(const Values& values);
 
-    QDBusConnection m_bus;
+    std::shared_ptr<PortalIntroduction> m_introduction;
     std::function<void()> m_onChanged;
     Values m_values;
     SaidLook m_said;

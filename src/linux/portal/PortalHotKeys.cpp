@@ -4,10 +4,10 @@
 #include "foundation/Logging.h"
 #include "linux/portal/PortalBus.h"
 #include "linux/portal/PortalNames.h"
+#include "linux/portal/PortalShortcut.h"
 #include "linux/portal/PortalTrigger.h"
 
 #include <QDBusArgument>
-#include <QDBusMetaType>
 #include <QDBusObjectPath>
 
 namespace vellumry {
@@ -16,59 +16,14 @@ namespace {
 
 constexpr int mostLosses = 3;
 constexpr int mostRevivals = 10;
-
-/// A shortcut as the portal has it.
-struct PortalShortcut {
-    QString name;
-    QVariantMap values;
-};
-
-QDBusArgument& operator<<(QDBusArgument& argument, const PortalShortcut& shortcut) {
-    argument.beginStructure();
-    argument << shortcut.name << shortcut.values;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, PortalShortcut& shortcut) {
-    argument.beginStructure();
-    argument >> shortcut.name >> shortcut.values;
-    argument.endStructure();
-    return argument;
-}
-
-} // namespace
-
-} // namespace vellumry
-
-Q_DECLARE_METATYPE(vellumry::PortalShortcut)
-
-namespace vellumry {
-
-namespace {
-
-/// The names of the shortcuts that have a key. The user may have left one without.
-QSet<QString> givenIn(const QVariantMap& results) {
-    const QVariant list = results.value(QStringLiteral("shortcuts"));
-    if (list.metaType() != QMetaType::fromType<QDBusArgument>() ||
-        list.value<QDBusArgument>().currentSignature() != QLatin1String("a(sa{sv})"))
-        return {};
-    QSet<QString> names;
-    for (const PortalShortcut& shortcut : qdbus_cast<QList<PortalShortcut>>(list.value<QDBusArgument>())) {
-        const QVariant trigger = shortcut.values.value(QStringLiteral("trigger_description"));
-        if (!trigger.isValid() || !trigger.toString().isEmpty())
-            names.insert(shortcut.name);
-    }
-    return names;
-}
+constexpr int mostRetries = 4;
 
 } // namespace
 
 PortalHotKeys::PortalHotKeys(std::shared_ptr<PortalLink> link, Options options)
     : m_link(std::move(link))
     , m_options(std::move(options)) {
-    qDBusRegisterMetaType<PortalShortcut>();
-    qDBusRegisterMetaType<QList<PortalShortcut>>();
+    registerPortalShortcut();
     m_link->bus().connect(QString(), portal::path, portal::globalShortcuts, QStringLiteral("Activated"), this,
                           SLOT(hearActivated(QDBusMessage)));
     m_ask.setSingleShot(true);
@@ -139,8 +94,11 @@ void PortalHotKeys::drop() {
 }
 
 void PortalHotKeys::askAgain() {
-    if (!m_isAsking)
-        ask();
+    if (m_isAsking)
+        return;
+    if (m_isRetrying)
+        m_asked.clear();
+    ask();
 }
 
 QCoro::Task<void> PortalHotKeys::ask() {
@@ -150,6 +108,7 @@ QCoro::Task<void> PortalHotKeys::ask() {
     // What is wanted may change meanwhile.
     while (!life.expired() && asked == m_portal && wish() != m_asked) {
         m_asked = wish();
+        m_isRetrying = false;
         // A session is bound once.
         m_link->closeSession(std::exchange(m_session, QString()));
         auto binding = bind(m_asked);
@@ -191,7 +150,7 @@ QCoro::Task<void> PortalHotKeys::bind(Wish wanted) {
     const PortalLink::Answer answer = co_await asking;
     if (life.expired() || asked != m_portal)
         co_return;
-    auto looking = withoutTaken(givenIn(answer.results));
+    auto looking = withoutTaken(givenShortcuts(answer.results));
     const QSet<QString> given = co_await looking;
     if (!life.expired() && asked == m_portal)
         take(answer.outcome, m_session.isEmpty() ? QSet<QString>() : given, wanted);
@@ -238,6 +197,7 @@ void PortalHotKeys::take(PortalLink::Outcome outcome, const QSet<QString>& given
         count += given.contains(name) ? 1 : 0;
     if (count == wanted.size()) {
         m_losses = 0;
+        m_retries = 0;
         settle(Standing::given, QString());
     } else if (count > 0) {
         settle(Standing::partly, QStringLiteral("the desktop gave %1 of %2 shortcuts").arg(count).arg(wanted.size()));
@@ -245,11 +205,23 @@ void PortalHotKeys::take(PortalLink::Outcome outcome, const QSet<QString>& given
         // GNOME 48 answers its Cancel with a failure. Asking at every start would be worse than asking once too few.
         m_options.refuse(wanted.keys());
         settle(Standing::refused, QStringLiteral("the shortcuts were refused"));
+    } else if (outcome == PortalLink::Outcome::unanswered) {
+        settle(Standing::failed, QStringLiteral("the desktop did not answer about shortcuts"));
     } else {
-        settle(Standing::failed, outcome == PortalLink::Outcome::unanswered
-                                     ? QStringLiteral("the desktop did not answer about shortcuts")
-                                     : QStringLiteral("the desktop gave no shortcuts"));
+        // Told once: each retry would say the same.
+        const QString warning = m_link->isUnknown() ? QStringLiteral("the desktop finds no desktop file of ours")
+                                                    : QStringLiteral("the desktop gave no shortcuts");
+        settle(Standing::failed, m_retries == 0 ? warning : QString());
+        retry();
     }
+}
+
+/// A portal may not be ready for a program that starts right behind the desktop, as at a login.
+void PortalHotKeys::retry() {
+    if (m_retries >= mostRetries)
+        return;
+    m_isRetrying = true;
+    m_ask.start(m_options.retry * (1 << m_retries++));
 }
 
 void PortalHotKeys::settle(Standing standing, const QString& warning) {
@@ -279,6 +251,14 @@ Capability PortalHotKeys::capability() const {
     case Standing::failed:
         break;
     }
+    if (m_link->isUnknown())
+        return Capability::missing(
+                   name,
+                   QStringLiteral("the desktop's portal gives keys to programs with a desktop file: put %1.desktop "
+                                  "into ~/.local/share/applications and start Vellumry again, or bind a key to "
+                                  "vellumry --action open-panel")
+                       .arg(portalbus::applicationID))
+            .serving({Feature::shortcuts});
     return lacking("the desktop's portal gave none");
 }
 

@@ -30,6 +30,8 @@ public:
         std::chrono::milliseconds consent = std::chrono::minutes(10);
         /// How long after the end of a portal that gave keys the next one is started.
         std::chrono::milliseconds revival{1000};
+        /// How long after a question that the portal could not put it is asked again; twice as long each further time.
+        std::chrono::milliseconds retry{2000};
     };
     enum class Standing : quint8 {
         none,    ///< no keys are wanted
@@ -70,6 +72,7 @@ private:
     QCoro::Task<void> bind(Wish wanted);
     QCoro::Task<QSet<QString>> withoutTaken(QSet<QString> given);
     void take(PortalLink::Outcome outcome, const QSet<QString>& given, const Wish& wanted);
+    void retry();
     void settle(Standing standing, const QString& warning);
     void drop();
 
@@ -84,6 +87,8 @@ private:
     int m_portal = 0; ///< counts the portals that have ended: what one of them was asked is no other's
     int m_losses = 0; ///< how often the portal has ended before it gave keys
     int m_revivals = 0;
+    int m_retries = 0;
+    bool m_isRetrying = false; ///< the same wish is asked for once more
     Standing m_standing = Standing::none;
     /// Goes first: what waits for the link is resumed when the link ends, with this half gone.
     std::shared_ptr<bool> m_life = std::make_shared<bool>(true);

@@ -172,8 +172,8 @@ QCoro::Task<void> PortalKeyboard::pressAll() {
         const QString session = m_session;
         const QVariant path = QVariant::fromValue(QDBusObjectPath(session));
         const auto pressing =
-            m_link->call(PortalLink::messageFor(portal::remoteDesktop, QStringLiteral("NotifyKeyboardKeycode"),
-                                                {path, QVariantMap(), int(key.evdevCode), key.isDown ? 1U : 0U}));
+            m_link->call(m_link->messageFor(portal::remoteDesktop, QStringLiteral("NotifyKeyboardKeycode"),
+                                            {path, QVariantMap(), int(key.evdevCode), key.isDown ? 1U : 0U}));
         const QDBusMessage reply = co_await pressing;
         if (life.expired())
             co_return;

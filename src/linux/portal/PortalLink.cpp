@@ -53,8 +53,9 @@ PortalLink::~PortalLink() {
         forget(path, Outcome::missing);
 }
 
-QDBusMessage PortalLink::messageFor(const QString& interface, const QString& method, const QVariantList& arguments) {
-    QDBusMessage message = QDBusMessage::createMethodCall(portal::service, portal::path, interface, method);
+QDBusMessage PortalLink::messageFor(const QString& interface, const QString& method,
+                                    const QVariantList& arguments) const {
+    QDBusMessage message = QDBusMessage::createMethodCall(m_introduction->portal(), portal::path, interface, method);
     message.setArguments(arguments);
     return message;
 }
@@ -71,7 +72,9 @@ QCoro::Task<PortalSurvey> PortalLink::survey() {
     for (const auto& [interface, version] : survey.interfaces()) {
         if (self == nullptr)
             co_return PortalSurvey();
-        const auto asking = call(PortalSurvey::question(interface));
+        if (m_introduction->portal().isEmpty())
+            break;
+        const auto asking = call(PortalSurvey::question(m_introduction->portal(), interface));
         const QDBusMessage answer = co_await asking;
         *version = PortalSurvey::versionIn(answer);
     }
@@ -82,7 +85,7 @@ QCoro::Task<PortalLink::Answer> PortalLink::request(Call call, std::chrono::mill
     const QPointer<PortalLink> self(this);
     const auto introducing = m_introduction->made();
     const QDBusMessage introduction = co_await introducing;
-    if (self == nullptr)
+    if (self == nullptr || m_introduction->portal().isEmpty())
         co_return Answer{};
 
     const QString token = freshToken();
@@ -98,7 +101,7 @@ QCoro::Task<PortalLink::Answer> PortalLink::request(Call call, std::chrono::mill
     if (self == nullptr)
         co_return Answer{};
     if (isError(reply)) {
-        qCInfo(logging::wayland).noquote() << call.method << "failed:" << reply.errorName();
+        qCInfo(logging::wayland).noquote() << call.method << "failed:" << reply.errorName() << reply.errorMessage();
         forget(path, Outcome::missing);
     } else {
         answer.deliverAfter(limit, Answer{Outcome::unanswered});
@@ -108,7 +111,7 @@ QCoro::Task<PortalLink::Answer> PortalLink::request(Call call, std::chrono::mill
         co_return Answer{};
     m_pending.remove(path);
     if (given.outcome == Outcome::unanswered)
-        m_bus.send(QDBusMessage::createMethodCall(portal::service, path, portal::request, QStringLiteral("Close")));
+        close(path, portal::request);
     co_return given;
 }
 
@@ -127,7 +130,13 @@ QCoro::Task<QString> PortalLink::openSession(QString interface) {
 
 void PortalLink::closeSession(const QString& session) {
     if (!session.isEmpty())
-        m_bus.send(QDBusMessage::createMethodCall(portal::service, session, portal::session, QStringLiteral("Close")));
+        close(session, portal::session);
+}
+
+void PortalLink::close(const QString& path, const QString& interface) {
+    const QString portal = m_introduction->portal();
+    if (!portal.isEmpty())
+        m_bus.send(QDBusMessage::createMethodCall(portal, path, interface, QStringLiteral("Close")));
 }
 
 /// GNOME's part of the portal is a process of its own, which outlives the portal and goes on holding the shortcuts of a
@@ -149,10 +158,9 @@ void PortalLink::forget(const QString& path, Outcome outcome) {
 }
 
 void PortalLink::hearResponse(const QDBusMessage& message) {
-    const auto pending = m_pending.constFind(message.path());
-    if (pending == m_pending.constEnd())
+    if (!m_pending.contains(message.path()))
         return;
-    const OneShot<Answer> answer = *pending;
+    const OneShot<Answer> answer = m_pending.take(message.path());
     if (message.signature() != QLatin1String("ua{sv}")) {
         answer.deliver(Answer{Outcome::failed});
         return;

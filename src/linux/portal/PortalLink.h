@@ -49,6 +49,8 @@ public:
     ~PortalLink() override;
 
     [[nodiscard]] QDBusConnection& bus() { return m_bus; }
+    /// The portal finds no desktop file of ours, and may refuse everything for that.
+    [[nodiscard]] bool isUnknown() const { return m_introduction->isUnknown(); }
     /// Which portals of use to us there are. Starts the portal, as every request does.
     [[nodiscard]] QCoro::Task<PortalSurvey> survey();
     /// Makes a request and waits for the portal's response, `limit` at most, then takes the request back.
@@ -62,8 +64,9 @@ public:
     void abandonSession(const QString& session);
     /// Calls a method that answers at once. An error message when it does not.
     [[nodiscard]] OneShot<QDBusMessage> call(QDBusMessage message);
-    [[nodiscard]] static QDBusMessage messageFor(const QString& interface, const QString& method,
-                                                 const QVariantList& arguments);
+    /// A call to the portal that knows us, which a later one does not get.
+    [[nodiscard]] QDBusMessage messageFor(const QString& interface, const QString& method,
+                                          const QVariantList& arguments) const;
 
 Q_SIGNALS:
     /// The portal has ended a session of ours.
@@ -80,6 +83,8 @@ private Q_SLOTS:
 
 private:
     void forget(const QString& path, Outcome outcome);
+    /// Ends the request or session at `path`.
+    void close(const QString& path, const QString& interface);
 
     const std::shared_ptr<PortalIntroduction> m_introduction;
     QDBusConnection m_bus;

@@ -24,7 +24,7 @@ PortalSurvey PortalSurvey::take(QDBusConnection bus, Start start, std::chrono::m
     // All at once: the portal may have to be started.
     std::vector<std::pair<QDBusPendingCall, quint32*>> asked;
     for (const auto& [interface, version] : survey.interfaces())
-        asked.emplace_back(bus.asyncCall(question(interface), int(limit.count())), version);
+        asked.emplace_back(bus.asyncCall(question(portal::service, interface), int(limit.count())), version);
     for (auto& [call, version] : asked) {
         call.waitForFinished();
         *version = versionIn(call.reply());
@@ -36,9 +36,9 @@ std::array<std::pair<QString, quint32*>, 2> PortalSurvey::interfaces() {
     return {std::pair(portal::globalShortcuts, &globalShortcuts), std::pair(portal::remoteDesktop, &remoteDesktop)};
 }
 
-QDBusMessage PortalSurvey::question(const QString& interface) {
+QDBusMessage PortalSurvey::question(const QString& portal, const QString& interface) {
     QDBusMessage message =
-        QDBusMessage::createMethodCall(portal::service, portal::path, portal::properties, QStringLiteral("Get"));
+        QDBusMessage::createMethodCall(portal, portal::path, portal::properties, QStringLiteral("Get"));
     message.setArguments({interface, QStringLiteral("version")});
     return message;
 }

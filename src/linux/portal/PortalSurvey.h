@@ -27,8 +27,8 @@ struct PortalSurvey {
 
     /// Each interface with its place here.
     [[nodiscard]] std::array<std::pair<QString, quint32*>, 2> interfaces();
-    /// Asks for the version of an interface.
-    [[nodiscard]] static QDBusMessage question(const QString& interface);
+    /// Asks `portal`, a name on the bus, for the version of an interface.
+    [[nodiscard]] static QDBusMessage question(const QString& portal, const QString& interface);
     /// 0 in an error.
     [[nodiscard]] static quint32 versionIn(const QDBusMessage& answer);
 

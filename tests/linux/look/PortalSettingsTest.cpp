@@ -2,6 +2,7 @@
 #include "linux/look/PortalSettings.h"
 
 #include "linux/PrivateBus.h"
+#include "linux/portal/PortalIntroduction.h"
 #include "support/Eventually.h"
 
 #include <QDBusArgument>
@@ -80,11 +81,16 @@ namespace {
 class PortalSettingsTest : public ::testing::Test {
 protected:
     PortalSettingsTest() { EXPECT_TRUE(bus.isRunning()); }
-    ~PortalSettingsTest() override { QDBusConnection::disconnectFromBus(QStringLiteral("reader")); }
+    ~PortalSettingsTest() override {
+        settings.reset();
+        QDBusConnection::disconnectFromBus(QStringLiteral("reader"));
+    }
 
     void start() {
-        settings = std::make_unique<PortalSettings>(
-            QDBusConnection::connectToBus(bus.address(), QStringLiteral("reader")), [this] { ++changes; });
+        const auto introduction = std::make_shared<PortalIntroduction>(
+            QDBusConnection::connectToBus(bus.address(), QStringLiteral("reader")), std::chrono::seconds(60));
+        introduction->begin();
+        settings = std::make_unique<PortalSettings>(introduction, [this] { ++changes; });
     }
 
     PrivateBus bus;

@@ -1,57 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/portal/PortalHotKeys.h"
 
+#include "linux/portal/HotKeysWorld.h"
 #include "linux/portal/PortalTrigger.h"
-#include "linux/portal/PortalWorld.h"
 
 namespace vellumry {
-
-namespace {
-
-using Standing = PortalHotKeys::Standing;
-
-constexpr Modifiers controlSuper = Modifiers(Modifier::command) | Modifier::control;
-const QString panelName = QStringLiteral("open-panel-CTRL+LOGO+v");
-const QString stackName = QStringLiteral("toggle-stack-CTRL+LOGO+s");
-
-class PortalHotKeysTest : public PortalWorld {
-protected:
-    void start() {
-        hotKeys.reset();
-        PortalHotKeys::Options options;
-        options.charactersFor = [](KeyCode key) -> std::optional<QString> {
-            if (key == KeyCode::v)
-                return QStringLiteral("v");
-            if (key == KeyCode::s)
-                return QStringLiteral("s");
-            return std::nullopt;
-        };
-        options.refused = [this] { return refused; };
-        options.refuse = [this](const QStringList& names) { refused = names; };
-        hotKeys = std::make_unique<PortalHotKeys>(link, std::move(options));
-        hotKeys->onPressed = [this](quint32 id) { pressed.push_back(id); };
-    }
-    bool grab(quint32 id, KeyCode key, const char* name) {
-        hotKeys->announce(id, {QString::fromLatin1(name), QStringLiteral("What it does")});
-        return hotKeys->grab(id, key, controlSuper);
-    }
-    void grabBoth() {
-        start();
-        EXPECT_TRUE(grab(1, KeyCode::v, "open-panel"));
-        EXPECT_TRUE(grab(2, KeyCode::s, "toggle-stack"));
-    }
-    void untilStanding(Standing standing) {
-        runUntil([this, standing] { return hotKeys->standing() == standing; });
-    }
-    /// Lets what is under way come to its end: the portal answers in order.
-    void settle() { (void)awaited(link->openSession(QStringLiteral("org.freedesktop.portal.RemoteDesktop"))); }
-
-    std::unique_ptr<PortalHotKeys> hotKeys;
-    std::vector<quint32> pressed;
-    QStringList refused;
-};
-
-} // namespace
 
 TEST(PortalTrigger, IsWrittenInTheNotationOfThePortal) {
     EXPECT_EQ(portalTrigger(u'v', controlSuper), u"CTRL+LOGO+v");
@@ -160,8 +113,8 @@ TEST_F(PortalHotKeysTest, WhatTheUserRefusedIsNotAskedForAgain) {
     untilStanding(Standing::refused);
     EXPECT_EQ(portal.count("BindShortcuts"), 1);
     // Another shortcut is another question.
-    portal.responses.clear();
     hotKeys->release(2);
+    portal.responses.clear();
     untilStanding(Standing::given);
     EXPECT_EQ(portal.count("BindShortcuts"), 2);
 }
@@ -205,50 +158,6 @@ TEST_F(PortalHotKeysTest, AWishThatChangesDuringTheQuestionIsAskedAfterIt) {
     portal.respond("BindShortcuts", 1, {});
     untilStanding(Standing::given);
     EXPECT_EQ(portal.shortcuts().size(), 1);
-}
-
-TEST_F(PortalHotKeysTest, APortalThatComesBackIsAskedAgain) {
-    FakePortalBackend backend(bus.address());
-    grabBoth();
-    untilStanding(Standing::given);
-    const QString session = portal.session();
-    portal.end();
-    runUntil([&] { return backend.closed == QStringList{session}; });
-    untilStanding(Standing::failed);
-    portal.begin();
-    untilStanding(Standing::given);
-    portal.activate(portal.session(), panelName);
-    runUntil([this] { return !pressed.empty(); });
-}
-
-TEST_F(PortalHotKeysTest, APortalThatDiesOfTheQuestionIsLeftInPeace) {
-    portal.responses[QStringLiteral("BindShortcuts")].endsPortal = true;
-    grabBoth();
-    for (int dead = 1; dead <= 3; ++dead) {
-        runUntil([this, dead] { return portal.count("BindShortcuts") == dead && !portal.isThere(); });
-        untilStanding(Standing::failed);
-        portal.begin();
-    }
-    settle();
-    settle();
-    EXPECT_EQ(portal.count("BindShortcuts"), 3);
-}
-
-TEST_F(PortalHotKeysTest, KeysThatAreTakenBackAreReportedAndNotAskedForAtOnce) {
-    grabBoth();
-    untilStanding(Standing::given);
-    portal.closeSession(portal.session());
-    untilStanding(Standing::failed);
-    settle();
-    EXPECT_EQ(portal.count("BindShortcuts"), 1);
-}
-
-TEST_F(PortalHotKeysTest, WithoutAPortalTheyAreMissing) {
-    portal.end();
-    grabBoth();
-    untilStanding(Standing::failed);
-    EXPECT_FALSE(hotKeys->capability().isFound);
-    EXPECT_EQ(hotKeys->capability().features, std::vector{Feature::shortcuts});
 }
 
 } // namespace vellumry

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/portal/PortalIntroduction.h"
 
+#include "linux/look/PortalSettings.h"
 #include "linux/portal/PortalBus.h"
 #include "linux/portal/PortalWorld.h"
 
@@ -92,6 +93,48 @@ TEST_F(PortalIntroductionTest, OneThatRestartsHearsOurNameAndCanSeeUs) {
     portal.begin();
     runUntil([this] { return portal.count("Register") == 2; });
     EXPECT_EQ(portal.visibilityAtRegister, 1);
+    expectHidden();
+}
+
+TEST_F(PortalIntroductionTest, OneThatBeginsWhileTheProgramStartsIsAskedForSettingsBehindOurName) {
+    portal.end();
+    introduction->begin();
+    expectHidden();
+    // What the bus tells of it has not been heard when the settings are wanted.
+    portal.begin();
+    const PortalSettings settings(introduction, [] {});
+    runUntil([this] { return portal.count("ReadAll") == 1; });
+    EXPECT_EQ(portal.calls.front().member, u"Register") << "it would be nameless for good";
+    EXPECT_NE(awaited(link->openSession(QStringLiteral("org.freedesktop.portal.GlobalShortcuts"))), QString());
+}
+
+TEST_F(PortalIntroductionTest, OneThatRestartsUnheardGetsNothingThatWasMeantForTheOneBefore) {
+    introduction->begin();
+    const QString session = awaited(link->openSession(QStringLiteral("org.freedesktop.portal.GlobalShortcuts")));
+    portal.end();
+    portal.calls.clear();
+    portal.begin();
+    link->closeSession(session);
+    const QDBusMessage late = link->messageFor(QStringLiteral("org.freedesktop.portal.RemoteDesktop"),
+                                               QStringLiteral("NotifyKeyboardKeycode"), {});
+    const auto answer = link->call(late);
+    EXPECT_EQ(awaited(link->openSession(QStringLiteral("org.freedesktop.portal.GlobalShortcuts"))), QString());
+    runUntil([this] { return portal.count("Register") == 1; });
+    EXPECT_EQ(portal.calls.front().member, u"Register");
+    EXPECT_NE(awaited(link->openSession(QStringLiteral("org.freedesktop.portal.GlobalShortcuts"))), QString());
+}
+
+TEST_F(PortalIntroductionTest, OneThatFindsOurDesktopFileAMomentLaterIsToldAgainBeforeAnythingElse) {
+    portal.responses[QStringLiteral("Register")] = {.isError = true,
+                                                    .errorName = QStringLiteral("org.freedesktop.portal.Error.Failed")};
+    introduction->begin();
+    const PortalSettings settings(introduction, [] {});
+    runUntil([this] { return portal.count("Register") == 1; });
+    portal.responses.clear();
+    runUntil([this] { return portal.count("ReadAll") == 1; });
+    EXPECT_EQ(portal.count("Register"), 2);
+    EXPECT_EQ(portal.calls[1].member, u"Register");
+    EXPECT_FALSE(introduction->isUnknown());
     expectHidden();
 }
 

@@ -62,6 +62,7 @@ ScriptedPortal::ScriptedPortal(QString address)
     : m_address(std::move(address)) {
     qDBusRegisterMetaType<CarriedShortcut>();
     qDBusRegisterMetaType<QList<CarriedShortcut>>();
+    qDBusRegisterMetaType<QMap<QString, QVariantMap>>();
 }
 
 ScriptedPortal::~ScriptedPortal() {
@@ -80,6 +81,8 @@ void ScriptedPortal::end() {
         return;
     bus().unregisterService(service);
     bus().unregisterObject(root);
+    m_known.clear();
+    m_nameless.clear();
     QDBusConnection::disconnectFromBus(std::exchange(m_name, QString()));
 }
 
@@ -141,8 +144,23 @@ QVariantMap ScriptedPortal::listing(const QMap<QString, QString>& triggers) {
     return {{QStringLiteral("shortcuts"), QVariant::fromValue(list)}};
 }
 
+bool ScriptedPortal::isRefused(const QDBusMessage& message) {
+    const QString caller = message.service();
+    if (message.member() == u"Register")
+        m_known.append(caller);
+    else if (!m_known.contains(caller) && !m_nameless.contains(caller))
+        m_nameless.append(caller);
+    const bool needsName = message.member() == u"Register" || message.member() == u"CreateSession";
+    return needsName && m_nameless.contains(caller);
+}
+
 bool ScriptedPortal::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
     calls.push_back(Call{message.member(), message.path(), message.arguments()});
+    if (isRefused(message))
+        return connection.send(
+            message.createErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotAllowed"), QString()));
+    if (message.member() == u"ReadAll")
+        return connection.send(message.createReply(QVariant::fromValue(QMap<QString, QVariantMap>())));
     if (message.member() == u"Get") {
         const quint32 version = versions.value(message.arguments().value(0).toString());
         if (responses.value(QStringLiteral("Get")).isSilent)
@@ -158,8 +176,10 @@ bool ScriptedPortal::handleMessage(const QDBusMessage& message, const QDBusConne
             visibilityAtRegister = prctl(PR_GET_DUMPABLE);
         if (responses.value(message.member()).isSilent)
             return true;
-        if (responses.value(message.member()).isError)
-            return connection.send(message.createErrorReply(QDBusError::AccessDenied, QString()));
+        if (const Response response = responses.value(message.member()); response.isError)
+            return connection.send(response.errorName.isEmpty()
+                                       ? message.createErrorReply(QDBusError::AccessDenied, QString())
+                                       : message.createErrorReply(response.errorName, QString()));
         if (message.member() == u"NotifyKeyboardKeycode")
             keys.push_back({message.arguments().value(2).toInt(), message.arguments().value(3).toUInt() == 1});
         if (message.member() == u"NotifyKeyboardKeycode" && holdsKeys) {

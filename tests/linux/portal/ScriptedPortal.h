@@ -23,12 +23,14 @@ QDBusArgument& operator<<(QDBusArgument& argument, const CarriedShortcut& shortc
 const QDBusArgument& operator>>(const QDBusArgument& argument, CarriedShortcut& shortcut);
 
 /// The desktop's portals on a connection of their own: grants everything, but for what a test tells it to do otherwise.
+/// As the true one it takes a name only from those that have asked for nothing yet, and grants the nameless nothing.
 class ScriptedPortal : public QDBusVirtualObject {
     Q_OBJECT
 public:
     /// What a request is answered with.
     struct Response {
         bool isError = false;    ///< the method fails
+        QString errorName{};     ///< with this error; else one of the bus's
         bool isSilent = false;   ///< the method is answered, the request is not
         bool comesFirst = false; ///< the response overtakes the method's answer
         bool isGarbled = false;  ///< of another signature than documented
@@ -86,6 +88,7 @@ public:
     [[nodiscard]] bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
 
 private:
+    [[nodiscard]] bool isRefused(const QDBusMessage& message);
     void answerRequest(const QDBusMessage& message, const QDBusConnection& connection);
     [[nodiscard]] QVariantMap usualResults(const QDBusMessage& message);
     void sendResponse(const QString& path, const Response& response, const QVariantMap& results) const;
@@ -96,6 +99,8 @@ private:
     int m_tokens = 0;
     std::vector<QDBusMessage> m_heldKeys;
     QMap<QString, QString> m_requests; ///< the path of the last request of a method
+    QStringList m_known;               ///< connections that have tried to tell their name
+    QStringList m_nameless;            ///< connections that asked for something before
 };
 
 /// GNOME's part of the portal, as far as it ends sessions.
