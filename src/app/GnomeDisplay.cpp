@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/GnomeDisplay.h"
 
+#include "app/CompositorReturn.h"
 #include "linux/accessibility/PasswordFocus.h"
 #include "linux/applications/DesktopEntries.h"
 #include "linux/applications/XdgInstalledApplications.h"
+#include "linux/gnome/GnomeIdleTime.h"
 #include "linux/gnome/ShellHotKeys.h"
 #include "linux/gnome/ShellKeyInjector.h"
 #include "linux/gnome/ShellNames.h"
@@ -64,6 +66,7 @@ std::optional<Reason> add(Platform& platform) {
     const auto opened = WaylandConnection::create();
     if (!opened)
         return opened.error();
+    compositorreturn::follow(**opened);
     std::unique_ptr<WaylandPasteboard> pasteboard = std::move(*created);
     const auto keymap = std::make_shared<WaylandKeymap>(*opened);
     const auto link = std::make_shared<ShellLink>();
@@ -85,6 +88,7 @@ std::optional<Reason> add(Platform& platform) {
     platform.keyboard = std::make_unique<WaylandKeyboardLayout>(keymap);
     platform.pasteTarget = std::make_unique<WaylandPasteTarget>(focus, keymap, std::make_unique<ShellKeyInjector>(link),
                                                                 std::move(options));
+    platform.idleSeconds = [idle = std::make_shared<GnomeIdleTime>()] { return idle->seconds(); };
     platform.panelSurface = std::make_unique<ShellPanelSurface>(link, focus);
     return std::nullopt;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/WaylandDisplay.h"
 
+#include "app/CompositorReturn.h"
 #include "app/GnomeDisplay.h"
 #include "app/PortalRoads.h"
 #include "linux/accessibility/PasswordFocus.h"
@@ -79,6 +80,7 @@ std::optional<Reason> add(Platform& platform, const std::shared_ptr<PortalIntrod
         return opened.error();
     std::unique_ptr<WaylandPasteboard> pasteboard = std::move(*created);
     const std::shared_ptr<WaylandConnection>& connection = *opened;
+    compositorreturn::follow(*connection);
     const auto keymap = std::make_shared<WaylandKeymap>(connection);
     const std::shared_ptr<WaylandWindows> windows = WaylandWindows::create(connection);
     const auto focus = std::make_shared<WaylandFocus>(windows);

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The pasteboard with a compositor that has bad manners, none or two seats, or that goes.
-#include "linux/wayland/selection/WaylandPasteboard.h"
-
 #include "foundation/UniformType.h"
+#include "linux/wayland/keys/CompositorKeys.h"
+#include "linux/wayland/keys/WaylandKeymap.h"
+#include "linux/wayland/selection/WaylandPasteboard.h"
+#include "linux/wayland/windows/WaylandFocus.h"
+#include "linux/wayland/windows/WaylandIdleTime.h"
 #include "support/Awaited.h"
 #include "wayland/FakeCompositor.h"
 
+#include <QCoreApplication>
 #include <gtest/gtest.h>
 
 namespace vellumry {
@@ -105,6 +109,33 @@ TEST(HostileCompositor, WhenItGoesAllThatIsOpenIsAnsweredWithNothing) {
     EXPECT_FALSE(world.writes());
     EXPECT_EQ(awaited(world.board->beginReading()), nullptr);
     awaited(world.board->catchUp());
+}
+
+TEST(HostileCompositor, WithoutASeatNoKeyIsPressedAndNoRestCounted) {
+    const FakeCompositor compositor(0);
+    const auto connection = WaylandConnection::create(compositor.name());
+    ASSERT_TRUE(connection);
+    EXPECT_EQ((*connection)->seat(), nullptr);
+    const auto keymap = std::make_shared<WaylandKeymap>(*connection);
+    EXPECT_EQ(makeCompositorKeys(*connection, keymap), nullptr);
+    EXPECT_EQ(WaylandIdleTime(*connection).seconds(), 0);
+    const WaylandFocus focus(WaylandWindows::create(*connection));
+}
+
+TEST(HostileCompositor, WhenItGoesTheConnectionForKeysTellsOnceAndOneToTheNextWorks) {
+    FakeCompositor compositor(1);
+    const auto connection = WaylandConnection::create(compositor.name());
+    ASSERT_TRUE(connection);
+    const auto keymap = std::make_shared<WaylandKeymap>(*connection);
+    int told = 0;
+    QObject::connect(connection->get(), &WaylandConnection::broke, connection->get(), [&told] { ++told; });
+    compositor.die();
+    runUntil([&] { return told > 0; });
+    (*connection)->flush();
+    (*connection)->roundTrip();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(told, 1);
+    EXPECT_TRUE(WaylandConnection::create(compositor.name()));
 }
 
 TEST(HostileCompositor, ThousandsOfTypesAreCutToThoseThatAreKnownAndAFewOthers) {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linux/wayland/selection/PipeReader.h"
 
-#include <csignal>
-#include <fcntl.h>
+#include "wayland/TestPipe.h"
+
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -16,13 +16,10 @@ using Instant = PipeReader::Instant;
 /// One owner that writes into a pipe, at times of our own.
 struct World {
     World() {
-        std::signal(SIGPIPE, SIG_IGN); // as on the pasteboard's thread
-        int ends[2] = {-1, -1};
-        EXPECT_EQ(pipe2(ends, O_CLOEXEC), 0);
-        fcntl(ends[0], F_SETFL, O_NONBLOCK);
-        writing = Descriptor(ends[1]);
+        TestPipe pipe;
+        writing = std::move(pipe.writing);
         PipeReader::Request request;
-        request.pipe = Descriptor(ends[0]);
+        request.pipe = std::move(pipe.reading);
         request.maxBytes = 1000;
         request.silence = 90s;
         request.deadline = start + 10min;
@@ -86,6 +83,28 @@ TEST(PipeReader, AnOwnerThatFallsSilentIsGivenUpSooner) {
     world.look(world.start + 1min + 89s);
     EXPECT_EQ(world.answers, 0);
     world.look(world.start + 1min + 90s);
+    EXPECT_EQ(world.answers, 1);
+    EXPECT_FALSE(world.given);
+}
+
+TEST(PipeReader, WhatIsOnItsWayHasAWhileToCome) {
+    World world;
+    world.write("one ");
+    world.reader.endAllAt(world.start + 100ms);
+    world.write("two");
+    world.writing.reset();
+    world.look(world.start + 99ms);
+    ASSERT_TRUE(world.given);
+    EXPECT_EQ(world.given->bytes, QByteArray("one two"));
+}
+
+TEST(PipeReader, WhatDoesNotComeInThatWhileIsGivenUp) {
+    World world;
+    world.reader.endAllAt(world.start + 100ms);
+    EXPECT_EQ(world.reader.nextDeadline(), world.start + 100ms);
+    world.look(world.start + 99ms);
+    EXPECT_EQ(world.answers, 0);
+    world.look(world.start + 100ms);
     EXPECT_EQ(world.answers, 1);
     EXPECT_FALSE(world.given);
 }

@@ -118,9 +118,12 @@ TEST(WaylandPasteKeys, AManagerThatReadsEachNewItemTakesNone) {
 TEST(WaylandPasteKeys, SeveralFormsReadForOnePasteCountOnce) {
     World world;
     world.start({"one", "two"});
-    EXPECT_EQ(world.peer.paste(), QByteArray("one"));
-    EXPECT_EQ(world.peer.paste(QStringLiteral("UTF8_STRING")), QByteArray("one"));
-    EXPECT_EQ(world.peer.paste(QStringLiteral("text/plain")), QByteArray("one"));
+    // Asked for at once: on a busy machine one might come long after the other.
+    std::vector<Descriptor> pipes;
+    for (const char* type : {"text/plain;charset=utf-8", "UTF8_STRING", "text/plain"})
+        pipes.push_back(world.peer.askOnly(QString::fromLatin1(type)));
+    for (const Descriptor& pipe : pipes)
+        EXPECT_EQ(world.peer.pasted(pipe), QByteArray("one"));
     world.pass(200ms);
     EXPECT_EQ(world.pastes, 1);
     EXPECT_EQ(world.peer.paste(), QByteArray("two"));

@@ -114,6 +114,26 @@ TEST(WaylandPasteboard, AnOwnerThatNeverGivesCostsItselfOnly) {
     EXPECT_EQ(world.read(), QByteArray("given"));
 }
 
+TEST(WaylandPasteboard, ATextThatIsOnItsWayWhenTheNextCopyComesIsRead) {
+    PasteboardLimits limits;
+    limits.farewell = 60s;
+    World world(limits);
+    world.copied({{plain, std::nullopt}});
+    const auto reading = world.begin();
+    auto items = world.finished(reading->itemTypes());
+    auto text = reading->data(0, uniformtype::utf8PlainText, anySize);
+    const auto outcome = std::make_shared<detail::AwaitedOutcome<std::optional<QByteArray>>>();
+    const auto watching = detail::watchTask(std::move(text), outcome);
+    world.peer.until([&] { return world.peer.sends() == 1; });
+    WaylandPeer next;
+    const qint64 before = world.board->copyCount();
+    next.copyText("next");
+    world.peer.until([&] { return world.board->copyCount() > before; });
+    world.peer.answerLate("first");
+    world.peer.until([&] { return outcome->isDone(); });
+    EXPECT_EQ(*outcome->value, QByteArray("first"));
+}
+
 TEST(WaylandPasteboard, MoreThanIsWantedIsNotTaken) {
     World world;
     world.copied({{plain, QByteArray(4096, 'x')}});

@@ -6,6 +6,8 @@
 #include "linux/wayland/selection/WaylandPasteboard.h"
 #include "wayland/MutterSelection.h"
 
+#include <QProcess>
+#include <gtest/gtest.h>
 #include <poll.h>
 #include <stdexcept>
 
@@ -15,6 +17,13 @@ std::unique_ptr<WaylandPasteboard> pasteboardOfSession(const PasteboardLimits& l
     if (auto created = WaylandPasteboard::create(QByteArray(), limits))
         return std::move(*created);
     return std::move(*WaylandPasteboard::createOn(std::move(*ShellSelection::create()), limits));
+}
+
+void pressKey(const char* key) {
+    QStringList command = qEnvironmentVariable("VELLUMRY_TYPE").split(u' ');
+    const QString typist = command.takeFirst();
+    command.append(QString::fromLatin1(key));
+    ASSERT_EQ(QProcess::execute(typist, command), 0);
 }
 
 WaylandPeer::WaylandPeer() {
@@ -72,6 +81,11 @@ void WaylandPeer::copy(const std::map<QString, std::optional<QByteArray>>& conte
     m_control->roundTrip();
 }
 
+void WaylandPeer::answerLate(const QByteArray& bytes) {
+    for (const Descriptor& pipe : std::exchange(m_unanswered, {}))
+        ASSERT_EQ(write(pipe.get(), bytes.constData(), std::size_t(bytes.size())), bytes.size());
+}
+
 void WaylandPeer::letGo() {
     m_source.reset();
     m_control->roundTrip();
@@ -95,7 +109,10 @@ Descriptor WaylandPeer::askOnly(const QString& type) {
 }
 
 QByteArray WaylandPeer::paste(const QString& type) {
-    const Descriptor pipe = askOnly(type);
+    return pasted(askOnly(type));
+}
+
+QByteArray WaylandPeer::pasted(const Descriptor& pipe) {
     QByteArray pasted;
     bool hasEnded = !pipe.isOpen();
     until([&] {

@@ -10,9 +10,10 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
 from session import (HINT, PROGRAM, Window, copy, forgo_settings, offered, open_panel, pasted, picture, press, press_button, settle, told,  # noqa: E402
                      type_text)  # noqa: E402
+from lock_screen import LockedScreen  # noqa: E402
 
 import desktop  # noqa: E402
-from desktop import Vellumry, run, text_of, wait_for_clip, wait_until  # noqa: E402
+from desktop import Vellumry, run, text_of, unsealed, wait_for_clip, wait_until  # noqa: E402
 
 EXTENSION = "clipboard@vellumry.com"
 NAME = "com.vellumry.GnomeShell"
@@ -35,6 +36,18 @@ def switch_off():
 def switch_on():
     called("org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell.Extensions.EnableExtension", EXTENSION)
     wait_until(is_there, "the extension to come back")
+
+
+class LockedShell(LockedScreen):
+    """The extension comes back a while behind the unlocked screen."""
+
+    def __enter__(self):
+        super().__enter__()
+        wait_until(lambda: not is_there(), "the extension to go")
+
+    def __exit__(self, *_):
+        super().__exit__()
+        wait_until(is_there, "the extension to come back")
 
 
 def test_extension_goes_and_comes():
@@ -71,8 +84,29 @@ def test_copies_while_it_is_away():
         assert pasted("text/plain") == b"https://example.org/ copied meanwhile"
 
 
+def test_locked():
+    """A lock screen, for which GNOME empties the clipboard, is no copy; what stood there comes back behind it; copies, keys and pastes go on."""
+    with Vellumry(), Window() as window:
+        copy("before the lock")
+        wait_for_clip(lambda row: text_of(row) == "before the lock", "the copy in the history")
+        with LockedShell():
+            press("ctrl+super+v", "escape")
+        wait_until(lambda: window.state["active"], "the keyboard back in the window")
+        assert [text_of(row) for row in unsealed()] == ["before the lock"]
+        wait_until(lambda: pasted() == b"before the lock", "the copy of another program on the clipboard")
+        open_panel(window)
+        press("return")
+        window.wait_text("before the lock")
+        with LockedShell():
+            press("escape")
+        wait_until(lambda: pasted() == b"before the lock", "what we had on the clipboard")
+        wait_until(lambda: window.state["active"], "the keyboard back in the window")
+        copy("after the lock")
+        wait_for_clip(lambda row: text_of(row) == "after the lock", "the copy in the history")
+
+
 def test_stack_behind_a_lock():
-    """A lock screen switches extensions off: a stack goes on where it stood."""
+    """A stack goes on where it stood before the screen was locked; keys pressed there are the lock screen's."""
     with Vellumry(), Window() as window:
         run(PROGRAM, "--action", "toggle-stack")
         for word in ("one ", "two ", "three "):
@@ -83,9 +117,10 @@ def test_stack_behind_a_lock():
         press("ctrl+v")
         window.wait_text("one ")
         settle()
-        switch_off()
-        switch_on()
+        with LockedShell():
+            press("ctrl+v", "ctrl+v")
         wait_until(lambda: HINT in offered(), "the stack on the clipboard again")
+        wait_until(lambda: window.state["active"], "the keyboard back in the window")
         settle()
         press("ctrl+v")
         window.wait_text("one two ")
@@ -123,6 +158,7 @@ def test_first_run_switches_it_on():
             picture("first-run-extension")
             press_button("^Switch On$")
             wait_until(is_there, "the extension")
+            program.wait_ready(desktop.LIMIT)  # once more: what is copied before it watches is no copy to it
             wait_until(lambda: "found: GNOME extension" in told(PROGRAM, "--status").decode(), "the program with the extension")
             assert program.alive()
             copy("seen by the extension")

@@ -10,7 +10,7 @@ import time
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
-from session import (HERE, HINT, PROGRAM, SESSION, Klipper, Window, clear, copy, offered, open_panel, owner, pasted, selected,  # noqa: E402
+from session import (HERE, HINT, PROGRAM, SESSION, Klipper, Window, clear, copy, offered, only_in, open_panel, owner, pasted, press_button, selected,  # noqa: E402
                      picture, press, search_field_has_focus, settle, shown_query, stays, type_text)
 
 import desktop  # noqa: E402
@@ -209,10 +209,9 @@ def test_secret_expires():
         os.remove(desktop.SETTINGS)
 
 
+@only_in("sway", "labwc")
 def test_locked():
     """A screen that is locked in the middle of a stack costs no item: keys pressed there are the locker's."""
-    if SESSION != "sway":
-        return
     with Vellumry(), Window() as window:
         run(PROGRAM, "--action", "toggle-stack")
         for word in ("before ", "after "):
@@ -286,12 +285,27 @@ def test_stack():
         paste_in_order(window, ["alpha", "beta", "gamma", "delta", "epsilon"])
 
 
+@only_in("kwin")
 def test_stack_beside_klipper():
     """Plasma's clipboard manager, which reads what is new, takes no item of a stack."""
-    if SESSION != "kwin":
-        return
     with Vellumry(), Klipper(), Window() as window:
         paste_in_order(window, ["one", "two", "three", "four", "five"])
+
+
+@only_in("kwin")
+def test_klippers_history_is_taken_over():
+    """As Plasma's clipboard manager itself wrote it."""
+    with Klipper() as peer:
+        for text in ("oldest of theirs", "newest of theirs"):
+            copy(text)
+            wait_until(lambda: peer.newest() == text, "the copy in its history")
+    clear()
+    with Vellumry():
+        run(PROGRAM, "--action", "open-settings")
+        wait_until(lambda: desktop.accessible("vellumry", "page tab", "^History$"), "the settings").queryAction().doAction(0)
+        press_button("^Import…$")
+        press_button("^Import$")
+        wait_for_clip(lambda row: text_of(row) == "oldest of theirs", "what was copied before we ran")
 
 
 def test_log():
@@ -325,9 +339,13 @@ def test_log():
         same(canary in line, False, line)
 
 
-def test_start_is_quiet():
-    """The log of a start holds no notice of Qt's: what it says about renderers and portals is our own choice."""
-    with Vellumry(stderr=subprocess.PIPE) as program:
+def test_log_is_quiet():
+    """The log of a start and of a panel that was open holds no notice of Qt's: what it says about renderers and portals is our own choice."""
+    with Vellumry(stderr=subprocess.PIPE) as program, Window() as window:
+        for _ in range(2):
+            open_panel(window)
+            press("escape")
+            wait_until(lambda: window.state["active"], "the keyboard back in the window")
         program.stop()
         log = program.handle.stderr.read().decode()
     assert not [line for line in log.split("\n") if line and " vellumry." not in line], log

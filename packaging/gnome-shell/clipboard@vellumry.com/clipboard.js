@@ -4,6 +4,8 @@ import Gio from 'gi://Gio';
 import GioUnix from 'gi://GioUnix';
 import Meta from 'gi://Meta';
 
+import * as Main from 'resource:///org/gnome/shell/ui/main.js';
+
 import {CLIPBOARD_INTERFACE} from './interfaces.js';
 import {call, Service} from './service.js';
 
@@ -18,6 +20,9 @@ const ECHO_MICROSECONDS = 20000;
 const KIND_FOREIGN = 0;
 const KIND_OURS = 1;
 const KIND_KEPT = 2;
+
+/** What stands on the clipboard is the empty text of a lock screen. Extensions are off behind it, and their services gone. */
+let isEmptiedByLock = false;
 
 /**
  * The clipboard, to be seen, read and owned.
@@ -63,7 +68,9 @@ export class ClipboardService extends Service {
     }
 
     follow() {
-        this._tell(this._selection.get_mimetypes(Meta.SelectionType.SELECTION_CLIPBOARD), KIND_FOREIGN);
+        const types = this._selection.get_mimetypes(Meta.SelectionType.SELECTION_CLIPBOARD) ?? [];
+        this._tell(isEmptiedByLock && types.length === 1 ? [] : types, KIND_FOREIGN);
+        isEmptiedByLock = false;
     }
 
     read([serial, type], fdList) {
@@ -154,7 +161,19 @@ export class ClipboardService extends Service {
 
     _tell(types, kind) {
         this._serial++;
-        this.emit('OwnerChanged', '(uasu)', [this._serial, types ?? [], kind]);
+        this.emit('OwnerChanged', '(uasu)', [this._serial, types, kind]);
+    }
+
+    /**
+     * Before it locks the screen the shell puts an empty text on the clipboard, which is no copy, and after which nothing of ours is
+     * given up: whether it does so is known when this turn is over.
+     */
+    async _tellUnlessLocking(types) {
+        const serial = ++this._serial;
+        await null;
+        isEmptiedByLock = Main.sessionMode.isLocked;
+        if (!isEmptiedByLock && serial === this._serial)
+            this.emit('OwnerChanged', '(uasu)', [serial, types, KIND_FOREIGN]);
     }
 
     _follow(type, source) {
@@ -171,7 +190,10 @@ export class ClipboardService extends Service {
         this._isOurs = kind === KIND_OURS;
         this._source = this._isOurs ? source : null;
         this._emptiedAt = source ? 0 : now;
-        this._tell(types, kind);
+        if (kind === KIND_FOREIGN && sourceType === 'MetaSelectionSourceMemory')
+            this._tellUnlessLocking(types);
+        else
+            this._tell(types, kind);
     }
 
     async _openSession() {

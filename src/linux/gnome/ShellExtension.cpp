@@ -20,7 +20,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int shellMilliseconds = 5000;
+constexpr int answerMilliseconds = 5000;
 /// The shell loads its files and starts it.
 constexpr auto longestStart = 10s;
 
@@ -71,7 +71,7 @@ void ShellExtension::switchOn(std::function<void(Outcome)> onAnswered) {
         QDBusMessage::createMethodCall(QStringLiteral("org.gnome.Shell"), QStringLiteral("/org/gnome/Shell"),
                                        QStringLiteral("org.gnome.Shell.Extensions"), QStringLiteral("EnableExtension"));
     call.setArguments({QString::fromLatin1(shell::extension)});
-    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call, shellMilliseconds), this);
+    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call, answerMilliseconds), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* finished) {
         const QDBusPendingReply<bool> reply = *finished;
         finished->deleteLater();

@@ -69,6 +69,7 @@ void WaylandConnection::readEvents() {
     if (wl_display_dispatch(m_display.get()) < 0) {
         qCWarning(logging::wayland) << "The compositor has gone.";
         m_notifier->setEnabled(false);
+        Q_EMIT broke();
         return;
     }
     wl_display_flush(m_display.get());

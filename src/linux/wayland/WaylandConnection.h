@@ -40,6 +40,10 @@ public:
     /// Waits until the compositor has done what was asked, and told what came of it: a fraction of a millisecond.
     void roundTrip();
 
+Q_SIGNALS:
+    /// The compositor has ended, or ended the conversation. Once.
+    void broke();
+
 private:
     struct Global {
         quint32 name = 0;

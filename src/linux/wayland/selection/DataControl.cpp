@@ -91,11 +91,11 @@ struct DataControl::Listeners {
             node.mapped()();
     }
 
-    static constexpr wl_registry_listener registry{global, globalRemove};
-    static constexpr ext_data_control_device_v1_listener device{dataOffer, selection, finished, primarySelection};
-    static constexpr ext_data_control_offer_v1_listener offer{offered};
-    static constexpr ext_data_control_source_v1_listener source{send, cancelled};
-    static constexpr wl_callback_listener callback{done};
+    static constexpr wl_registry_listener ofRegistry{global, globalRemove};
+    static constexpr ext_data_control_device_v1_listener ofDevice{dataOffer, selection, finished, primarySelection};
+    static constexpr ext_data_control_offer_v1_listener ofOffer{offered};
+    static constexpr ext_data_control_source_v1_listener ofSource{send, cancelled};
+    static constexpr wl_callback_listener ofCallback{done};
 };
 
 OrReason<std::unique_ptr<DataControl>> DataControl::create(const QByteArray& displayName) {
@@ -116,7 +116,7 @@ OrReason<std::unique_ptr<DataControl>> DataControl::create(const QByteArray& dis
 DataControl::DataControl(wl_display* display)
     : m_display(owned(display, &wl_display_disconnect))
     , m_registry(owned(wl_display_get_registry(display), &wl_registry_destroy)) {
-    wl_registry_add_listener(m_registry.get(), &Listeners::registry, this);
+    wl_registry_add_listener(m_registry.get(), &Listeners::ofRegistry, this);
 }
 
 DataControl::~DataControl() {
@@ -167,12 +167,12 @@ void DataControl::followSeat() {
         return;
     m_device = owned(ext_data_control_manager_v1_get_data_device(m_manager.get(), m_seats.front().proxy.get()),
                      &ext_data_control_device_v1_destroy);
-    ext_data_control_device_v1_add_listener(m_device.get(), &Listeners::device, this);
+    ext_data_control_device_v1_add_listener(m_device.get(), &Listeners::ofDevice, this);
 }
 
 void DataControl::takeOffer(ext_data_control_offer_v1* proxy) {
     auto offer = std::make_unique<WaylandOffer>(proxy);
-    ext_data_control_offer_v1_add_listener(proxy, &Listeners::offer, offer.get());
+    ext_data_control_offer_v1_add_listener(proxy, &Listeners::ofOffer, offer.get());
     m_announced[proxy] = std::move(offer);
 }
 
@@ -185,7 +185,7 @@ std::unique_ptr<SelectionControl::Source> DataControl::makeSource(const QStringL
     auto source = std::make_unique<WaylandSource>();
     source->proxy =
         owned(ext_data_control_manager_v1_create_data_source(m_manager.get()), &ext_data_control_source_v1_destroy);
-    ext_data_control_source_v1_add_listener(source->proxy.get(), &Listeners::source, source.get());
+    ext_data_control_source_v1_add_listener(source->proxy.get(), &Listeners::ofSource, source.get());
     for (const QString& type : mimeTypes)
         ext_data_control_source_v1_offer(source->proxy.get(), type.toUtf8().constData());
     return source;
@@ -208,7 +208,7 @@ void DataControl::setPrimarySelection(const Source* source) {
 void DataControl::sync(std::function<void()> done) {
     wl_callback* callback = wl_display_sync(m_display.get());
     m_syncs[callback] = std::move(done);
-    wl_callback_add_listener(callback, &Listeners::callback, this);
+    wl_callback_add_listener(callback, &Listeners::ofCallback, this);
 }
 
 void DataControl::prepareWait(std::vector<pollfd>& descriptors) {

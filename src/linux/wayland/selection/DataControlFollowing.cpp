@@ -49,7 +49,9 @@ void DataControlEngine::handleSelection(std::unique_ptr<SelectionControl::Offer>
     const bool wasForeign = m_offer != nullptr;
     m_offer = std::move(offer);
     m_targets.clear();
-    m_reader.endAll();
+    // What the owner before was asked for may be on its way, or in the pipe: a program may copy and quit, and on a busy
+    // machine the next copy comes before the last one was taken in.
+    m_reader.endAllAt(std::chrono::steady_clock::now() + m_limits.farewell);
     if (m_offer && m_offer->isTooLong()) {
         qCWarning(logging::wayland) << "A copy is not kept: its program offers too many types.";
         m_offer.reset();

@@ -26,6 +26,11 @@ void PipeReader::endAll() {
         finish(m_transfers.begin(), std::nullopt);
 }
 
+void PipeReader::endAllAt(Instant deadline) {
+    for (Transfer& transfer : m_transfers)
+        transfer.request.deadline = std::min(transfer.request.deadline, deadline);
+}
+
 void PipeReader::addDescriptors(std::vector<pollfd>& descriptors) const {
     for (const Transfer& transfer : m_transfers)
         descriptors.push_back({transfer.request.pipe.get(), POLLIN, 0});

@@ -34,6 +34,8 @@ public:
     void read(Request request, Instant now);
     /// Gives up on everything.
     void endAll();
+    /// Gives up on what has not come by then.
+    void endAllAt(Instant deadline);
     void addDescriptors(std::vector<pollfd>& descriptors) const;
     /// Reads from those of `descriptors` that are ours and have something.
     void handle(const std::vector<pollfd>& descriptors, Instant now);

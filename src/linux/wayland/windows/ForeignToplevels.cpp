@@ -45,9 +45,9 @@ struct ForeignToplevels::Listeners {
     }
     static void parent(void*, Handle*, Handle*) {}
 
-    static constexpr zwlr_foreign_toplevel_manager_v1_listener manager{toplevel, finished};
-    static constexpr zwlr_foreign_toplevel_handle_v1_listener handle{title, applicationID, output, output,
-                                                                     state, done,          closed, parent};
+    static constexpr zwlr_foreign_toplevel_manager_v1_listener ofManager{toplevel, finished};
+    static constexpr zwlr_foreign_toplevel_handle_v1_listener ofHandle{title, applicationID, output, output,
+                                                                       state, done,          closed, parent};
 };
 
 std::unique_ptr<WaylandWindows> ForeignToplevels::create(std::shared_ptr<WaylandConnection> connection) {
@@ -65,14 +65,14 @@ ForeignToplevels::ForeignToplevels(std::shared_ptr<WaylandConnection> connection
                                    zwlr_foreign_toplevel_manager_v1* manager)
     : m_connection(std::move(connection))
     , m_manager(owned(manager, &zwlr_foreign_toplevel_manager_v1_destroy)) {
-    zwlr_foreign_toplevel_manager_v1_add_listener(manager, &Listeners::manager, this);
+    zwlr_foreign_toplevel_manager_v1_add_listener(manager, &Listeners::ofManager, this);
 }
 
 ForeignToplevels::~ForeignToplevels() = default;
 
 void ForeignToplevels::take(zwlr_foreign_toplevel_handle_v1* proxy) {
     m_toplevels[proxy] = Toplevel{owned(proxy, &zwlr_foreign_toplevel_handle_v1_destroy), add(), {}};
-    zwlr_foreign_toplevel_handle_v1_add_listener(proxy, &Listeners::handle, this);
+    zwlr_foreign_toplevel_handle_v1_add_listener(proxy, &Listeners::ofHandle, this);
 }
 
 } // namespace vellumry
