@@ -68,7 +68,9 @@ void InotifyThread::end() {
 
 void InotifyThread::run() {
     pthread_setname_np(pthread_self(), "folders");
-    armAll();
+    // What changed before the folders were watched was not seen, and may have come behind the first look at them.
+    if (armAll())
+        announce();
     while (!m_isEnding) {
         std::array<pollfd, 2> descriptors{pollfd{m_wake, POLLIN, 0}, pollfd{m_inotify, POLLIN, 0}};
         if (poll(descriptors.data(), descriptors.size(), -1) < 0 && errno != EINTR)

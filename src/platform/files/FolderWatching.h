@@ -20,8 +20,8 @@ public:
 
     /// Calls `onChanged` on the main thread when an entry of one of `folders` appeared, was renamed or was written to
     /// its end; several changes may come as one call. A folder that does not exist, or goes away, is watched from when
-    /// it is there (again), which is a change too. Nothing is told of what changed before. Null when the system has no
-    /// means of watching.
+    /// it is there (again), which is a change too. The watch begins in a while: that is told as well, for what changed
+    /// until then. Null when the system has no means of watching.
     [[nodiscard]] virtual std::unique_ptr<FolderWatch> watch(QStringList folders, std::function<void()> onChanged) = 0;
 };
 

@@ -56,6 +56,12 @@ protected:
     int notices = 0;
 };
 
+TEST_F(InotifyFolderWatchingTest, ItsBeginningIsTold) {
+    makeFolder("shots");
+    watching = system.watch({path("shots")}, [this] { ++notices; });
+    expectNotice();
+}
+
 TEST_F(InotifyFolderWatchingTest, NewAndRenamedFilesAreNoticed) {
     makeFolder("shots");
     watch({path("shots")}, "shots");
