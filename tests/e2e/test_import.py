@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The history of a real CopyQ is taken over, by the settings and by the first run; everything goes into a folder and comes back."""
+"""The histories of other programs are taken over as they themselves wrote them, by the settings and by the first run; everything goes
+into a folder and comes back."""
 
 import json
 import os
@@ -8,17 +9,19 @@ import shutil
 import stat
 import subprocess
 
-from desktop import (DATA, PROGRAM, QUIET, Process, Vellumry, accessible, focus, key, main, own_tests, picture, remember, run, same,
+from desktop import (copy_text, DATA, PROGRAM, QUIET, Process, Vellumry, accessible, focus, key, main, own_tests, picture, remember, run, same,
                      text_of, unsealed, wait_for_clip, wait_until, windows)
 from settings_file import forget_settings
 
 HOME = os.environ["HOME"]
-PEER = os.path.join(os.environ["XDG_CONFIG_HOME"], "copyq")
+COPYQ = os.path.join(os.environ["XDG_CONFIG_HOME"], "copyq")
+GPASTE = os.path.join(os.environ["XDG_DATA_HOME"], "gpaste")
+CLIPMAN = os.path.join(os.environ["XDG_CACHE_HOME"], "xfce4", "clipman")
 
 
 def with_copyq(*texts):
     """CopyQ remembers these, the last one on top, and is closed."""
-    shutil.rmtree(PEER, ignore_errors=True)
+    forget_peers()
     with Process("copyq") as peer:
         wait_until(lambda: subprocess.run(["copyq", "size"], **QUIET).returncode == 0, "CopyQ")
         for text in texts:
@@ -27,10 +30,47 @@ def with_copyq(*texts):
         wait_until(lambda: not peer.alive(), "CopyQ's end")
 
 
-def traces():
-    """What is in CopyQ's folder, and when it was written."""
+def with_gpaste(*texts):
+    """The same for GPaste."""
+    forget_peers()
+    settings = dict(os.environ, GSETTINGS_BACKEND="keyfile")
+    with Process("/usr/libexec/gpaste/gpaste-daemon", env=settings):
+        # Its client would have the bus start another one, which would outlive this.
+        wait_until(lambda: has_owner("org.gnome.GPaste"), "GPaste")
+        for text in texts:
+            run("gpaste-client", "add", text)
+        wait_until(lambda: all(holds(os.path.join(GPASTE, "history.xml"), text) for text in texts), "GPaste's file")
+
+
+def has_owner(name):
+    asking = ("gdbus", "call", "--session", "-d", "org.freedesktop.DBus", "-o", "/", "-m", "org.freedesktop.DBus.NameHasOwner", name)
+    return b"true" in run(*asking)
+
+
+def with_clipman(*texts):
+    """The same for Xfce's clipman, which has no command to add a text: they are copied until it keeps them."""
+    forget_peers()
+    with Process("xfce4-clipman"):
+        for text in texts:
+            wait_until(lambda: copy_text(text) or holds(os.path.join(CLIPMAN, "textsrc"), text), "clipman's file")
+
+
+def forget_peers():
+    for folder in (COPYQ, GPASTE, CLIPMAN):
+        shutil.rmtree(folder, ignore_errors=True)
+
+
+def holds(path, text):
+    if not os.path.exists(path):
+        return False
+    with open(path, encoding="utf-8") as file:
+        return text in file.read()
+
+
+def traces(of):
+    """What is in another program's folder, and when it was written."""
     found = {}
-    for folder, _, names in os.walk(PEER):
+    for folder, _, names in os.walk(of):
         for name in names:
             path = os.path.join(folder, name)
             with open(path, "rb") as file:
@@ -59,9 +99,9 @@ def says(text):
     wait_until(lambda: any(accessible("vellumry", role, re.escape(text)) for role in ("label", "static", "alert", "notification")), repr(text))
 
 
-def copyqs_history_is_taken_over_in_its_order():
-    with_copyq("oldest of theirs", "4111 1111 1111 1111", "newest of theirs")
-    before = traces()
+def taken_over(folder):
+    """Imports what the folder's program remembers of three texts, one of them a card's number, and takes that back."""
+    before = traces(folder)
     with Vellumry():
         remember("mine")
         open_history_pane()
@@ -73,9 +113,29 @@ def copyqs_history_is_taken_over_in_its_order():
         says("2 clips were imported. 1 password, code or key was left out.")
         picture("import-done")
         wait_until(lambda: len(unsealed()) == 3, "the clips on the disk")
-        same(traces(), before, "CopyQ's folder")
+        theirs = sorted((row for row in unsealed() if "theirs" in text_of(row)), key=lambda row: -row["used"])
+        same([text_of(row) for row in theirs], ["newest of theirs", "oldest of theirs"], "their order")
+        same(traces(folder), before, "their folder")
         press("Undo Import")
         wait_until(lambda: len(unsealed()) == 1, "the own clip alone")
+
+
+THEIRS = ("oldest of theirs", "4111 1111 1111 1111", "newest of theirs")
+
+
+def copyqs_history_is_taken_over_in_its_order():
+    with_copyq(*THEIRS)
+    taken_over(COPYQ)
+
+
+def gpastes_history_is_taken_over_in_its_order():
+    with_gpaste(*THEIRS)
+    taken_over(GPASTE)
+
+
+def clipmans_history_is_taken_over_in_its_order():
+    with_clipman(*THEIRS)
+    taken_over(CLIPMAN)
 
 
 def the_first_run_offers_it():

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "foundation/Date.h"
+#include "platform/files/PeerHistories.h"
 
 #include <QByteArray>
 #include <QFile>
@@ -38,5 +39,11 @@ private:
     qint64 m_position = 0;
     Date m_modified = 0;
 };
+
+/// What the user is told of a history whose file cannot be opened.
+[[nodiscard]] inline PeerHistory::State stateOf(ForeignFile::Failure failure) {
+    using State = PeerHistory::State;
+    return failure == ForeignFile::Failure::tooLarge ? State::tooLarge : State::unreadable;
+}
 
 } // namespace vellumry

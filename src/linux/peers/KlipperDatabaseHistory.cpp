@@ -53,10 +53,6 @@ bool hasPlainColumns(sqlite3* database) {
     return columns && sqlite3_step(columns.get()) == SQLITE_DONE;
 }
 
-PeerHistory::State stateOf(ForeignFile::Failure failure) {
-    return failure == ForeignFile::Failure::tooLarge ? PeerHistory::State::tooLarge : PeerHistory::State::unreadable;
-}
-
 } // namespace
 
 std::expected<std::unique_ptr<KlipperDatabaseHistory>, PeerHistory::State>

@@ -24,10 +24,6 @@ using Opened = std::expected<std::unique_ptr<PeerReading>, State>;
 /// Of those that are held in memory as a whole.
 constexpr qint64 largestFile = qint64{256} << 20;
 
-State stateOf(ForeignFile::Failure failure) {
-    return failure == ForeignFile::Failure::tooLarge ? State::tooLarge : State::unreadable;
-}
-
 Opened openCopyQ(const Folders& folders) {
     auto reading = std::make_unique<CopyQHistory>(CopyQHistory::tabs(folders.config + QStringLiteral("/copyq")));
     if (reading->isLocked())
