@@ -32,7 +32,7 @@ OnboardingWindowController::~OnboardingWindowController() = default;
 void OnboardingWindowController::make() {
     keepQmlModule(&qml_register_types_Vellumry_Onboarding);
     keepQmlModule(&qml_register_types_Vellumry_Transfer);
-    m_view = m_views->makeWindow(localised("Welcome to Vellumry"));
+    m_view = m_views->makeOrdinaryWindow(localised("Welcome to Vellumry"));
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
     m_view->setInitialProperties({{QStringLiteral("onboarding"), QVariant::fromValue(m_model)},
                                   {QStringLiteral("transfer"), QVariant::fromValue(m_transfer)}});

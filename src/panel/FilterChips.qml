@@ -4,65 +4,45 @@ import QtQuick
 import Vellumry.Panel
 import Vellumry.Views
 
-// One chip a filter, with how many clips it lets through.
+// One chip a filter. Large texts, long words and large numbers may leave no room for all numbers: then only the chosen
+// chip has one; and where the words alone are too long, all chips are as wide as there is room for each.
 Row {
     id: chips
 
     required property PanelFacade panel
+    readonly property bool isTight: widthWith(true) > width
+    readonly property bool isVeryTight: isTight && widthWith(false) > width
+    readonly property real evenWidth: (width + spacing) / Math.max(1, all.count) - spacing
+
+    function widthWith(allNumbers: bool): real {
+        let sum = -spacing;
+        for (let index = 0; all.isMade && index < all.count; ++index) {
+            const chip = all.itemAt(index) as FilterChip;
+            if (chip)
+                sum += chip.wordWidth + spacing + (allNumbers || chip.isCurrent ? chip.numberWidth : 0);
+        }
+        return sum;
+    }
 
     spacing: Theme.gap
     Accessible.role: Accessible.PageTabList
     Accessible.name: Views.words("Filters")
 
     Repeater {
+        id: all
+
+        /// The count is told before the items are there.
+        property int made: 0
+        readonly property bool isMade: made === count
+
         model: chips.panel.filters
+        onItemAdded: ++made
+        onItemRemoved: --made
 
-        Rectangle {
-            id: chip
-
-            required property int index
-            required property string title
-            required property string count
-            readonly property bool isCurrent: chips.panel.filter === index
-
-            width: label.implicitWidth + number.implicitWidth + 3 * Theme.gap + Theme.grid
-            height: Theme.chipHeight
-            radius: height / 2
-            color: isCurrent ? Theme.selected : area.containsMouse ? Theme.hovered : "transparent"
-            border.width: Theme.thin
-            border.color: isCurrent ? Theme.accent : Theme.line
-            Accessible.role: Accessible.PageTab
-            Accessible.name: title
-            Accessible.description: count
-            Accessible.selectable: true
-            Accessible.selected: isCurrent
-            Accessible.onPressAction: chips.panel.filter = index
-
-            Label {
-                id: label
-                anchors.left: parent.left
-                anchors.leftMargin: Theme.margin
-                anchors.verticalCenter: parent.verticalCenter
-                text: chip.title
-                color: chip.isCurrent ? Theme.accent : Theme.text
-                font.weight: Font.Medium
-            }
-            Label {
-                id: number
-                anchors.left: label.right
-                anchors.leftMargin: Theme.grid
-                anchors.verticalCenter: parent.verticalCenter
-                text: chip.count
-                color: chip.isCurrent ? Theme.accent : Theme.secondary
-            }
-            onIsCurrentChanged: Views.tellSelected(chip)
-
-            MouseArea {
-                id: area
-                anchors.fill: parent
-                hoverEnabled: true
-                onClicked: chips.panel.filter = chip.index
-            }
+        FilterChip {
+            panel: chips.panel
+            showsNumber: !chips.isTight || (isCurrent && !chips.isVeryTight)
+            mostWidth: chips.isVeryTight ? chips.evenWidth : chips.width
         }
     }
 }

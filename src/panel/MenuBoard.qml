@@ -13,6 +13,8 @@ Rectangle {
     required property bool isRoot
     required property real mostHeight
     property real widest: 0
+    /// Beside the entries, where they scroll.
+    readonly property real barRoom: bar.visible ? Theme.gap : 0
 
     function entryAt(row: int): MenuEntry {
         return entries.itemAt(row) as MenuEntry;
@@ -36,7 +38,7 @@ Rectangle {
             flick.contentY = entry.y + entry.height - flick.height;
     }
 
-    width: Math.max(Theme.transformWidth, widest + 2 * Theme.grid)
+    width: Math.max(Theme.transformWidth, widest + barRoom + 2 * Theme.grid)
     height: Math.min(mostHeight, column.height + 2 * Theme.grid)
     radius: Theme.rowRadius
     color: Theme.ground
@@ -74,7 +76,8 @@ Rectangle {
 
         Column {
             id: column
-            width: flick.width
+            x: Views.isRightToLeft ? board.barRoom : 0
+            width: flick.width - board.barRoom
 
             Repeater {
                 id: entries
@@ -88,6 +91,7 @@ Rectangle {
                         if (isThere || isCurrent)
                             board.menu.pointed(board.level, isThere ? index : -1);
                     }
+                    onEntered: board.menu.entered(board.level, index)
                     onRested: {
                         if (board.isRoot)
                             board.menu.rested(index);
@@ -96,5 +100,13 @@ Rectangle {
                 }
             }
         }
+    }
+    ScrollBar {
+        id: bar
+        objectName: "menuScrollBar"
+        view: flick
+        anchors.right: parent.right
+        y: flick.y
+        height: flick.height
     }
 }

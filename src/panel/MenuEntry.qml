@@ -23,6 +23,8 @@ Item {
     /// The width without anything cut.
     signal needs(width: real)
     signal pointed(isThere: bool)
+    /// The pointer is on it, by its own motion or because the entry came up under it.
+    signal entered
     signal rested
     signal chosen
 
@@ -119,7 +121,7 @@ Item {
         enabled: !entry.isSeparator
         hoverEnabled: true
         acceptedButtons: Qt.LeftButton | Qt.RightButton
-        // Moved there, not come up under it.
+        onEntered: entry.entered()
         onPositionChanged: entry.pointed(true)
         onExited: entry.pointed(false)
         onClicked: entry.chosen()

@@ -112,7 +112,11 @@ void PanelController::makeView() {
     m_surface->adopt(m_view.get());
     m_fade.setTargetObject(m_view.get());
     // Size, corners and input are counted in the pixels of the display.
-    connect(m_view.get(), &QWindow::screenChanged, this, &PanelController::applyLook);
+    connect(m_view.get(), &QWindow::screenChanged, this, [this] {
+        if (isVisible())
+            fitTo(m_surface->screenOf(panelFrame().toAlignedRect()));
+        applyLook();
+    });
     followDisplays();
     applyLook();
     m_view->setInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&m_facade)},
@@ -135,7 +139,7 @@ void PanelController::warmUp() {
 }
 
 QRect PanelController::windowFrame(const QRectF& panel) const {
-    return QRect(panel.topLeft().toPoint(), panelSize)
+    return QRect(panel.topLeft().toPoint(), m_size)
         .adjusted(-m_shadowMargin, -m_shadowMargin, m_shadowMargin, m_shadowMargin);
 }
 
@@ -157,16 +161,16 @@ void PanelController::show() {
     m_forget.stop();
     m_model.prepareForShow();
     warmUp();
+    const std::optional<ScreenPlace> screen = m_surface->screenUnderPointer();
+    fitTo(screen);
     applyLook();
     m_facade.setStill(isStill());
     m_facade.setDormant(false);
     m_preview.setDormant(false);
     m_facade.present();
     std::optional<QRect> frame;
-    if (const std::optional<ScreenPlace> screen = m_surface->screenUnderPointer()) {
-        const auto saved = m_hooks.position(screen->key);
-        frame = windowFrame(placement::placement(saved, panelSize, screen->visible));
-    }
+    if (screen)
+        frame = windowFrame(placement::placement(m_hooks.position(screen->key), m_size, screen->visible));
     if (fades())
         m_view->setOpacity(0);
     m_surface->present(m_view.get(), frame);
@@ -236,7 +240,7 @@ void PanelController::settlePosition() {
         return;
     const auto remembered = placement::rememberable(frame, screen->visible);
     m_hooks.setPosition(remembered, screen->key);
-    const QRect settled = windowFrame(placement::placement(remembered, panelSize, screen->visible));
+    const QRect settled = windowFrame(placement::placement(remembered, m_size, screen->visible));
     if (settled == m_view->geometry())
         return;
     if (isStill()) {

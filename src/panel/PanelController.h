@@ -30,6 +30,7 @@ class PanelController : public QObject {
     Q_OBJECT
 
 public:
+    /// Where texts have their usual size. Larger ones get a larger panel, as far as the display has room.
     static constexpr QSize panelSize{780, 500};
     using Appearance = ViewEngine::Appearance;
 
@@ -100,6 +101,8 @@ private:
     void stayInSight();
     [[nodiscard]] bool isStill() const;
     [[nodiscard]] bool fades() const;
+    void fitTo(const std::optional<ScreenPlace>& screen);
+    void standOn(const ScreenPlace& screen);
     [[nodiscard]] QRect windowFrame(const QRectF& panel) const;
     [[nodiscard]] QRectF panelFrame() const;
     void wireDrags();
@@ -125,6 +128,7 @@ private:
     PassiveWindow m_dragged;   ///< what the pointer carries
     bool m_lostFocus = false;  ///< while something was dragged
     int m_shadowMargin = 0;
+    QSize m_size = panelSize; ///< without the shadow, for the display that it stands on
     /// Saves the place a moment after the pointer let go.
     QTimer m_settle;
     QPoint m_grabbedAt;

@@ -26,6 +26,11 @@ void PanelController::wireDrags() {
     m_facade.drag().setSource(m_hooks.dragSource);
     m_facade.drag().onPhase = [this](PanelDrag::Phase phase) { dragPhase(phase); };
     m_facade.drag().onMoved = [this] { showDragged(); };
+    // A title has its width when it is laid out, just before it is painted.
+    connect(&m_dragged, &PassiveWindow::wantedSizeChanged, this, [this] {
+        if (m_dragged.isVisible())
+            showDragged();
+    });
 }
 
 void PanelController::dragPhase(PanelDrag::Phase phase) {

@@ -11,6 +11,7 @@
 #include <QQuickView>
 #include <QRegion>
 #include <QScreen>
+#include <algorithm>
 
 namespace vellumry {
 
@@ -28,11 +29,17 @@ QRegion roundedMask(const QSize& size) {
 
 } // namespace
 
+/// Texts that are twice as large need twice the room. A display that is too small for that is filled.
+void PanelController::fitTo(const std::optional<ScreenPlace>& screen) {
+    const QSize wanted = (QSizeF(panelSize) * std::max(1.0, m_views->textScale())).toSize();
+    m_size = screen ? wanted.boundedTo(screen->visible.size()).expandedTo(panelSize) : wanted;
+}
+
 /// Room for a shadow where windows may be translucent, and cut corners where not.
 void PanelController::applyLook() {
     m_shadowMargin = m_surface->canBlend() ? shadowRoom : 0;
     m_facade.setShadowMargin(m_shadowMargin);
-    const QSize size = panelSize + QSize(2 * m_shadowMargin, 2 * m_shadowMargin);
+    const QSize size = m_size + QSize(2 * m_shadowMargin, 2 * m_shadowMargin);
     m_view->resize(size);
     m_view->setMask(m_shadowMargin > 0 ? QRegion() : roundedMask(size));
     // The edge of a mask is not smooth: what shows there of the window's own ground would be black.
@@ -45,7 +52,7 @@ void PanelController::applyLook() {
 /// The shadow is not the panel: a click there is meant for what lies below. Set again on each display, because the
 /// server counts in that display's pixels.
 void PanelController::shapeInput() {
-    m_surface->setInputArea(m_view.get(), QRect(QPoint(m_shadowMargin, m_shadowMargin), panelSize));
+    m_surface->setInputArea(m_view.get(), QRect(QPoint(m_shadowMargin, m_shadowMargin), m_size));
 }
 
 bool PanelController::isStill() const {
@@ -60,7 +67,15 @@ void PanelController::followLook() {
                        .mark = colors.selected,
                        .fixedFamily = QFontDatabase::systemFont(QFontDatabase::FixedFont).family()});
     // A window without a shadow has the edge's colour in its corners.
-    if (m_view)
+    if (!m_view)
+        return;
+    const QSize before = m_size;
+    const auto screen = isVisible() ? m_surface->screenOf(panelFrame().toAlignedRect()) : std::optional<ScreenPlace>();
+    if (screen)
+        fitTo(screen);
+    if (screen && m_size != before)
+        standOn(*screen);
+    else
         applyLook();
 }
 
@@ -88,8 +103,15 @@ void PanelController::stayInSight() {
         screen = m_surface->screenUnderPointer();
     if (!screen)
         return;
+    standOn(*screen);
+}
+
+/// At its place on that display, as large as there is room.
+void PanelController::standOn(const ScreenPlace& screen) {
     m_slide.stop();
-    m_view->setGeometry(windowFrame(placement::placement(m_hooks.position(screen->key), panelSize, screen->visible)));
+    fitTo(screen);
+    applyLook();
+    m_view->setGeometry(windowFrame(placement::placement(m_hooks.position(screen.key), m_size, screen.visible)));
     shapeInput();
 }
 

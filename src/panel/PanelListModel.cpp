@@ -4,7 +4,6 @@
 #include "history/clips/ClipStore.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace vellumry {
@@ -55,20 +54,7 @@ void PanelListModel::followDormant() {
 
 void PanelListModel::rebuild() {
     m_deletions = m_model->store().deletions();
-    std::vector<Row> rows;
-    std::vector<int> headers;
-    const std::vector<PanelModel::Section>& sections = m_model->sections();
-    std::size_t count = sections.size();
-    for (const PanelModel::Section& section : sections)
-        count += section.clips.size();
-    rows.reserve(count);
-    for (const PanelModel::Section& section : sections) {
-        headers.push_back(static_cast<int>(rows.size()));
-        rows.push_back({section.title, nullptr});
-        for (const ClipRef& clip : section.clips)
-            rows.push_back({QString(), clip});
-    }
-    m_headers = std::move(headers);
+    PanelListRows rows(m_model->listing());
     m_rowNumbers = m_model->rowNumbers();
     m_pinNumbers = m_model->pinNumbers();
 
@@ -77,42 +63,24 @@ void PanelListModel::rebuild() {
     m_shownFilter = m_model->filter();
     if (!isSameSearch || m_isDormant)
         rebindRows(std::move(rows));
-    else if (const auto gone = runBetween(m_rows, rows))
+    else if (const auto gone = m_rows.runBeyond(rows))
         removeRun(*gone, std::move(rows));
-    else if (const auto come = runBetween(rows, m_rows))
+    else if (const auto come = rows.runBeyond(m_rows))
         insertRun(*come, std::move(rows));
     else
         rebindRows(std::move(rows));
 }
 
-std::optional<PanelListModel::Run> PanelListModel::runBetween(const std::vector<Row>& longer,
-                                                              const std::vector<Row>& shorter) {
-    const auto isSame = [](const Row& one, const Row& other) {
-        if (one.clip == other.clip)
-            return one.clip != nullptr || one.header == other.header;
-        return one.clip && other.clip && one.clip->id == other.clip->id;
-    };
-    if (shorter.size() >= longer.size())
-        return std::nullopt;
-    const auto first = std::ranges::mismatch(longer, shorter, isSame).in1;
-    const auto last = first + std::ptrdiff_t(longer.size() - shorter.size());
-    const auto place = first - longer.begin();
-    if (!std::equal(last, longer.end(), shorter.begin() + place, shorter.end(), isSame))
-        return std::nullopt;
-    return Run{static_cast<int>(place), static_cast<int>(last - first)};
-}
-
-void PanelListModel::removeRun(Run run, std::vector<Row> rows) {
-    const auto first = m_rows.begin() + run.row;
-    const auto headers = std::count_if(first, first + run.count, [](const Row& row) { return !row.clip; });
+void PanelListModel::removeRun(Run run, PanelListRows rows) {
+    const int headers = m_rows.headersIn(run);
     beginRemoveRows({}, run.row, run.row + run.count - 1);
     m_rows = std::move(rows);
     endRemoveRows();
     tellAllChanged();
-    Q_EMIT gapClosed(run.row, run.count - static_cast<int>(headers), static_cast<int>(headers));
+    Q_EMIT gapClosed(run.row, run.count - headers, headers);
 }
 
-void PanelListModel::insertRun(Run run, std::vector<Row> rows) {
+void PanelListModel::insertRun(Run run, PanelListRows rows) {
     beginInsertRows({}, run.row, run.row + run.count - 1);
     m_rows = std::move(rows);
     endInsertRows();
@@ -120,27 +88,25 @@ void PanelListModel::insertRun(Run run, std::vector<Row> rows) {
 }
 
 void PanelListModel::tellAllChanged() {
-    if (!m_rows.empty())
+    if (rowCount() > 0)
         Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
 
 /// Rows that stay are rebound before any are added and after any are removed: views may look at them in between.
-void PanelListModel::rebindRows(std::vector<Row> rows) {
-    const auto before = static_cast<int>(m_rows.size());
-    const auto after = static_cast<int>(rows.size());
-    const int shared = std::min(before, after);
+void PanelListModel::rebindRows(PanelListRows rows) {
+    const int before = m_rows.count();
+    const int after = rows.count();
     if (after < before) {
         beginRemoveRows({}, after, before - 1);
-        m_rows.resize(rows.size());
+        m_rows.cut(after);
         endRemoveRows();
     }
-    std::vector<Row> added(std::make_move_iterator(rows.begin() + shared), std::make_move_iterator(rows.end()));
-    rows.resize(static_cast<std::size_t>(shared));
     m_rows = std::move(rows);
+    m_rows.cut(std::min(before, after));
     tellAllChanged();
-    if (!added.empty()) {
+    if (after > before) {
         beginInsertRows({}, before, after - 1);
-        m_rows.insert(m_rows.end(), std::make_move_iterator(added.begin()), std::make_move_iterator(added.end()));
+        m_rows.cut(after);
         endInsertRows();
     }
 }
@@ -148,37 +114,26 @@ void PanelListModel::rebindRows(std::vector<Row> rows) {
 void PanelListModel::repaintSelection() {
     if (m_isDormant)
         follow();
-    else if (!m_rows.empty())
-        Q_EMIT dataChanged(index(0), index(static_cast<int>(m_rows.size()) - 1), {IsSelectedRole});
+    else if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {IsSelectedRole});
 }
 
 int PanelListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    return parent.isValid() ? 0 : m_rows.count();
 }
 
 ClipRef PanelListModel::clipAt(int row) const {
-    return row >= 0 && row < rowCount() ? m_rows[static_cast<std::size_t>(row)].clip : nullptr;
+    return row >= 0 && row < rowCount() ? m_rows.clipAt(row) : nullptr;
 }
 
 int PanelListModel::rowOf(const QUuid& id) const {
-    const auto found = std::ranges::find_if(m_rows, [&](const Row& row) { return row.clip && row.clip->id == id; });
-    return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
+    return m_rows.rowOf(id).value_or(-1);
 }
 
 int PanelListModel::primaryRow() const {
     if (m_isBehind) // the model's places are of rows to come
         return m_model->selectedID() ? rowOf(*m_model->selectedID()) : -1;
-    const int index = m_model->selectedIndex();
-    if (index < 0)
-        return -1;
-    // One header stands above each section, so a clip lies as many rows lower as sections begin up to it.
-    int row = index;
-    for (const int header : m_headers) {
-        if (header > row)
-            break;
-        ++row;
-    }
-    return row < rowCount() ? row : -1;
+    return m_rows.rowOfClip(m_model->selectedIndex()).value_or(-1);
 }
 
 QVariant PanelListModel::data(const QModelIndex& index, int role) const {
@@ -186,10 +141,10 @@ QVariant PanelListModel::data(const QModelIndex& index, int role) const {
         return {};
     if (role != Qt::DisplayRole && (role < HeaderRole || role > IsSensitiveRole))
         return {};
-    const Row& row = m_rows[static_cast<std::size_t>(index.row())];
+    const Clip* const clip = m_rows.peek(index.row());
     if (role == IsHeaderRole)
-        return !row.clip;
-    return row.clip ? clipValue(*row.clip, role) : headerValue(row, role);
+        return clip == nullptr;
+    return clip != nullptr ? clipValue(*clip, role) : headerValue(*m_rows.headerAt(index.row()), role);
 }
 
 QHash<int, QByteArray> PanelListModel::roleNames() const {

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "panel/PanelListRows.h"
 #include "panel/PanelModel.h"
 
 #include <QAbstractListModel>
 #include <QHash>
-#include <optional>
-#include <vector>
 
 namespace vellumry {
 
@@ -70,27 +69,16 @@ Q_SIGNALS:
     void gapClosed(int row, int clips, int headers);
 
 private:
-    struct Row {
-        QString header; ///< of a header; may be empty
-        ClipRef clip;   ///< null for a header
-    };
-
     void follow();
     void followDormant();
     void rebuild();
-    void rebindRows(std::vector<Row> rows);
-    /// The rows by which a longer list differs from a shorter one.
-    struct Run {
-        int row = 0;
-        int count = 0;
-    };
-    /// Nothing when they differ by more than one run, or are equally long.
-    [[nodiscard]] static std::optional<Run> runBetween(const std::vector<Row>& longer, const std::vector<Row>& shorter);
-    void removeRun(Run run, std::vector<Row> rows);
-    void insertRun(Run run, std::vector<Row> rows);
+    using Run = PanelListRows::Run;
+    void rebindRows(PanelListRows rows);
+    void removeRun(Run run, PanelListRows rows);
+    void insertRun(Run run, PanelListRows rows);
     void tellAllChanged();
     void repaintSelection();
-    [[nodiscard]] QVariant headerValue(const Row& row, int role) const;
+    [[nodiscard]] QVariant headerValue(const QString& header, int role) const;
     [[nodiscard]] QVariant clipValue(const Clip& clip, int role) const;
     [[nodiscard]] QString pillOf(const Clip& clip) const;
     [[nodiscard]] QString hintOf(const Clip& clip) const;
@@ -100,8 +88,7 @@ private:
 
     PanelModel* m_model;
     QString m_pinKeys;
-    std::vector<Row> m_rows;
-    std::vector<int> m_headers; ///< the rows that are headers, ascending
+    PanelListRows m_rows;
     QHash<QUuid, int> m_rowNumbers;
     QHash<QUuid, int> m_pinNumbers;
     bool m_isDormant = false;

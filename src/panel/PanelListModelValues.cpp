@@ -10,11 +10,11 @@
 
 namespace vellumry {
 
-QVariant PanelListModel::headerValue(const Row& row, int role) const {
+QVariant PanelListModel::headerValue(const QString& header, int role) const {
     switch (role) {
     case Qt::DisplayRole:
     case HeaderRole:
-        return row.header;
+        return header;
     case IsPinnedRole:
     case IsSelectedRole:
     case IsSensitiveRole:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/PanelMenu.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <utility>
 
@@ -13,6 +14,7 @@ void PanelMenu::open(std::vector<ActionMenuItem> items, const QString& name, QPo
     m_root.setItems(std::move(items));
     m_name = name;
     m_place = place;
+    m_pointerAt = QCursor::pos();
     m_isOpen = true;
     Q_EMIT isOpenChanged();
     if (way == Way::byKeys)
@@ -104,7 +106,14 @@ void PanelMenu::stepIn(MenuLevel& level) {
         choose(&level, level.current());
 }
 
+/// A quick hand's motion may come as one event, which is this one.
+void PanelMenu::entered(MenuLevel* level, int row) {
+    if (QCursor::pos() != m_pointerAt)
+        pointed(level, row);
+}
+
 void PanelMenu::pointed(MenuLevel* level, int row) {
+    m_pointerAt = QCursor::pos();
     // The pointer that leaves the root for the submenu keeps the entry marked that the submenu belongs to.
     if (level == &m_root && row < 0 && m_subRow >= 0)
         level->setCurrent(m_subRow);

@@ -4,6 +4,7 @@
 #include "panel/MenuLevel.h"
 
 #include <QObject>
+#include <QPoint>
 #include <QPointF>
 #include <QString>
 #include <qqmlregistration.h>
@@ -37,6 +38,9 @@ public:
     void keyPressed(int key, Qt::KeyboardModifiers modifiers);
     /// The pointer came onto that entry; -1 for none.
     Q_INVOKABLE void pointed(vellumry::MenuLevel* level, int row);
+    /// It is on that entry now: as `pointed` where it has moved since it was last told of, and nothing where the entry
+    /// has come up under it.
+    Q_INVOKABLE void entered(vellumry::MenuLevel* level, int row);
     /// It has stayed there for a moment: on an entry of the root board that opens its submenu, and closes another's.
     Q_INVOKABLE void rested(int row);
     /// Closes the menu and does what the entry is for, or opens its submenu.
@@ -64,6 +68,7 @@ private:
     bool m_isOpen = false;
     QString m_name;
     QPointF m_place;
+    QPoint m_pointerAt; ///< when the menu opened, or when it was told of last
     int m_subRow = -1;
 };
 

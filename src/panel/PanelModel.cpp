@@ -163,10 +163,10 @@ bool PanelModel::click(const QUuid& id, Modifiers modifiers) {
 }
 
 void PanelModel::followStore() {
-    const auto before = m_isPresented ? m_sections.outdatedClips() : std::vector<ClipRef>();
+    const SharedClips before = m_isPresented ? m_sections.outdatedClips() : nullptr;
     Q_EMIT sectionsChanged();
-    if (!before.empty())
-        setSelection(m_selection.following(before, rows()));
+    if (before && !before->empty())
+        setSelection(m_selection.following(*before, rows()));
 }
 
 void PanelModel::move(int offset) {

@@ -64,6 +64,8 @@ public:
     [[nodiscard]] const std::vector<Section>& sections() const { return m_sections.sections(); }
     /// The clips of all sections in display order.
     [[nodiscard]] const std::vector<ClipRef>& visibleClips() const { return m_sections.clips(); }
+    /// Both, for a reader that keeps them.
+    [[nodiscard]] const PanelSections::Listing& listing() const { return m_sections.listing(); }
     /// Clip id to the digit, 1 to 9, that pastes it from the open panel.
     [[nodiscard]] QHash<QUuid, int> rowNumbers() const { return m_sections.rowNumbers(fileStatuses()); }
     /// Clip id to the digit of its pinned hot key.

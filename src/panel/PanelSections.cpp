@@ -43,21 +43,13 @@ bool PanelSections::setFilter(ClipFilter filter) {
     return std::exchange(m_filter, filter) != filter;
 }
 
-const std::vector<PanelSections::Section>& PanelSections::sections() const {
-    return current().sections;
-}
-
-const std::vector<ClipRef>& PanelSections::clips() const {
-    return current().clips;
-}
-
 PanelRows PanelSections::rows() const {
     // The list holds the store's own references.
     return {clips(), [store = &m_store](const QUuid& id) { return store->find(id); }};
 }
 
-std::vector<ClipRef> PanelSections::outdatedClips() const {
-    return m_cache && m_cache->key != key() ? m_cache->clips : std::vector<ClipRef>();
+SharedClips PanelSections::outdatedClips() const {
+    return m_cache && m_cache->key != key() ? m_cache->listing.clips : nullptr;
 }
 
 bool PanelSections::updateDay() {
@@ -82,70 +74,73 @@ const PanelSections::Cache& PanelSections::current() const {
     if (m_cache && m_cache->key == wanted)
         return *m_cache;
 
-    Cache cache{std::move(wanted), makeSections(), {}};
-    std::size_t count = 0;
-    for (const auto& section : cache.sections)
-        count += section.clips.size();
-    cache.clips.reserve(count);
-    for (const auto& section : cache.sections)
-        cache.clips.insert(cache.clips.end(), section.clips.begin(), section.clips.end());
-    m_cache = std::move(cache);
+    m_cache = Cache{std::move(wanted), makeListing()};
     return *m_cache;
 }
 
-std::vector<PanelSections::Section> PanelSections::makeSections() const {
+PanelSections::Listing PanelSections::makeListing() const {
     // The whole history needs no search, and no copy of a long list.
     if (isPlainList())
-        return m_filter == ClipFilter::all ? sectionsByDay(m_store.clips())
-                                           : sectionsByDay(m_store.search(m_query, m_filter));
+        return m_filter == ClipFilter::all ? listingByDay(m_store.clips())
+                                           : listingByDay(m_store.search(m_query, m_filter));
 
     auto clips = m_store.search(m_query, m_filter);
     if (m_filter == ClipFilter::pinned)
         sortInPinOrder(clips);
-    std::vector<Section> sections;
-    if (!clips.empty()) {
+    Listing listing{shared(std::move(clips)), {}};
+    if (!listing.clips->empty()) {
         const auto title = text::isBlank(m_query) ? QString() : localised("Results");
-        sections.push_back({QStringLiteral("results"), title, std::move(clips)});
+        listing.sections.push_back({QStringLiteral("results"), title, *listing.clips});
     }
-    return sections;
+    return listing;
 }
 
-std::vector<PanelSections::Section> PanelSections::sectionsByDay(const std::vector<ClipRef>& clips) const {
+PanelSections::Listing PanelSections::listingByDay(const std::vector<ClipRef>& clips) const {
     const auto zone = m_calendar.timeZone();
     const auto locale = m_calendar.locale();
     if (!m_dayFormat || m_dayFormat->locale() != locale)
         m_dayFormat = std::make_unique<PanelModelDayFormat>(locale);
     const QDate date = dayAround(m_calendar.now(), zone).date;
 
-    std::vector<Section> sections(1);
+    struct Day {
+        DayLabel label;
+        std::size_t first = 0;
+    };
+    std::vector<Day> days;
+    std::vector<ClipRef> pinned;
+    std::vector<ClipRef> listed;
+    listed.reserve(clips.size());
     // The day spares a look at the calendar for each clip but the first of a day.
     CalendarDay day;
-    QString dayID;
-    for (const auto& clip : clips) {
+    for (std::size_t index = 0; index < clips.size(); ++index) {
+        if (index + clipsAhead < clips.size())
+            prefetchCount(clips[index + clipsAhead]);
+        const ClipRef& clip = clips[index];
         if (clip->isPinned) {
-            sections.front().clips.push_back(clip);
+            pinned.push_back(clip);
             continue;
         }
         if (!day.contains(clip->lastUsedAt)) {
             day = dayAround(clip->lastUsedAt, zone);
             auto label = dayLabel(day, date, *m_dayFormat);
-            if (label.id != dayID) {
-                dayID = label.id;
-                sections.push_back({std::move(label.id), std::move(label.title), {}});
-            }
+            if (days.empty() || label.id != days.back().label.id)
+                days.push_back({std::move(label), listed.size()});
         }
-        sections.back().clips.push_back(clip);
+        listed.push_back(clip);
     }
+    sortInPinOrder(pinned);
+    listed.insert(listed.begin(), pinned.begin(), pinned.end());
 
-    auto& pinned = sections.front();
-    if (pinned.clips.empty()) {
-        sections.erase(sections.begin());
-    } else {
-        pinned.id = QStringLiteral("pinned");
-        pinned.title = localised("Pinned");
-        sortInPinOrder(pinned.clips);
+    Listing listing{shared(std::move(listed)), {}};
+    const std::span<const ClipRef> all(*listing.clips);
+    if (!pinned.empty())
+        listing.sections.push_back({QStringLiteral("pinned"), localised("Pinned"), all.first(pinned.size())});
+    for (std::size_t index = 0; index < days.size(); ++index) {
+        const std::size_t end = index + 1 < days.size() ? days[index + 1].first : all.size() - pinned.size();
+        listing.sections.push_back({std::move(days[index].label.id), std::move(days[index].label.title),
+                                    all.subspan(pinned.size() + days[index].first, end - days[index].first)});
     }
-    return sections;
+    return listing;
 }
 
 QHash<QUuid, int> PanelSections::rowNumbers(const FileStatuses& statuses) const {

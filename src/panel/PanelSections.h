@@ -3,6 +3,7 @@
 
 #include "history/clips/Clip.h"
 #include "history/clips/ClipFilter.h"
+#include "history/clips/SharedClips.h"
 #include "panel/PanelModelCalendar.h"
 #include "panel/PanelSelection.h"
 
@@ -13,6 +14,7 @@
 #include <array>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace vellumry {
@@ -30,8 +32,13 @@ class PanelSections {
 public:
     struct Section {
         QString id;
-        QString title; ///< may be empty
-        std::vector<ClipRef> clips;
+        QString title;                  ///< may be empty
+        std::span<const ClipRef> clips; ///< a part of the listing's
+    };
+    /// Clips in display order, and the sections that lie one behind the other in them.
+    struct Listing {
+        SharedClips clips;
+        std::vector<Section> sections;
     };
 
     /// `store` must outlive this.
@@ -45,12 +52,14 @@ public:
     bool setFilter(ClipFilter filter);
 
     /// No section is empty.
-    [[nodiscard]] const std::vector<Section>& sections() const;
+    [[nodiscard]] const std::vector<Section>& sections() const { return listing().sections; }
     /// The clips of all sections in display order.
-    [[nodiscard]] const std::vector<ClipRef>& clips() const;
+    [[nodiscard]] const std::vector<ClipRef>& clips() const { return *listing().clips; }
+    /// Both, for a reader that keeps them.
+    [[nodiscard]] const Listing& listing() const { return current().listing; }
     [[nodiscard]] PanelRows rows() const;
-    /// The clips that were listed before the last change; empty when nothing has changed since they were computed.
-    [[nodiscard]] std::vector<ClipRef> outdatedClips() const;
+    /// The clips that were listed before the last change; null when nothing has changed since they were computed.
+    [[nodiscard]] SharedClips outdatedClips() const;
     /// Asks for the day anew: the user may have travelled. True when sections were computed for another one.
     bool updateDay();
 
@@ -72,8 +81,7 @@ private:
     };
     struct Cache {
         Key key;
-        std::vector<Section> sections;
-        std::vector<ClipRef> clips;
+        Listing listing;
     };
     struct Counts {
         qint64 revision = 0;
@@ -83,8 +91,8 @@ private:
     [[nodiscard]] bool isPlainList() const;
     [[nodiscard]] Key key() const;
     [[nodiscard]] const Cache& current() const;
-    [[nodiscard]] std::vector<Section> makeSections() const;
-    [[nodiscard]] std::vector<Section> sectionsByDay(const std::vector<ClipRef>& clips) const;
+    [[nodiscard]] Listing makeListing() const;
+    [[nodiscard]] Listing listingByDay(const std::vector<ClipRef>& clips) const;
 
     ClipStore& m_store;
     PanelModelCalendar m_calendar;

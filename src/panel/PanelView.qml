@@ -88,6 +88,8 @@ Item {
             panel: root.panel
             anchors.left: parent.left
             anchors.leftMargin: Theme.inset
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.inset
             anchors.top: line.bottom
             anchors.topMargin: Theme.gap
         }
@@ -116,7 +118,7 @@ Item {
             anchors.top: chips.bottom
             anchors.topMargin: Theme.grid
             anchors.bottom: footer.top
-            width: Theme.previewWidth
+            width: Math.min(Theme.previewWidth, Math.round(board.width / 2))
             visible: root.panel.hasRows
         }
         Tooltip {

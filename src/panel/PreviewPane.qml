@@ -13,6 +13,7 @@ Item {
     property Item askingButton: null
 
     objectName: "preview"
+    clip: true
     Accessible.role: Accessible.Grouping
     Accessible.name: Views.words("Preview")
 
@@ -58,7 +59,7 @@ Item {
             text: pane.preview.note
             color: Theme.secondary
             wrapMode: Text.Wrap
-            elide: Text.ElideNone
+            maximumLineCount: Math.max(1, Math.floor(pane.height / 3 / Theme.smallLine))
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }
@@ -75,6 +76,7 @@ Item {
             visible: pane.preview.showsTransforms
             panel: pane.panel
             width: parent.width
+            mostHeight: pane.height * 0.6
         }
         Flow {
             id: actions

@@ -9,8 +9,14 @@ Rectangle {
     id: list
 
     required property PanelFacade panel
+    /// Where there is less room than the entries need, they scroll.
+    property real mostHeight: entries.implicitHeight + 2 * Theme.gap
 
-    height: entries.implicitHeight + 2 * Theme.gap
+    function reveal(entry: Item) {
+        flick.contentY = Math.max(Math.min(flick.contentY, entry.y), entry.y + entry.height - flick.height);
+    }
+
+    height: Math.min(mostHeight, entries.implicitHeight + 2 * Theme.gap)
     radius: Theme.rowRadius
     color: Theme.ground
     border.color: Theme.edge
@@ -18,52 +24,64 @@ Rectangle {
     Accessible.role: Accessible.PopupMenu
     Accessible.name: Views.words("Transform")
 
-    Column {
-        id: entries
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.top: parent.top
+    Flickable {
+        id: flick
+        anchors.fill: parent
         anchors.margins: Theme.gap
+        contentHeight: entries.implicitHeight
+        boundsBehavior: Flickable.StopAtBounds
+        interactive: false
+        clip: true
 
-        Repeater {
-            model: list.panel.transforms
+        Column {
+            id: entries
+            width: flick.width
 
-            Rectangle {
-                id: entry
+            Repeater {
+                model: list.panel.transforms
 
-                required property int index
-                required property string modelData
-                readonly property bool isCurrent: list.panel.transformIndex === index
+                Rectangle {
+                    id: entry
 
-                width: entries.width
-                height: Theme.menuRowHeight
-                radius: Theme.smallRadius
-                color: isCurrent ? Theme.selected : area.containsMouse ? Theme.hovered : "transparent"
-                Accessible.role: Accessible.MenuItem
-                Accessible.name: modelData
-                Accessible.focusable: true
-                Accessible.focused: isCurrent
-                Accessible.onPressAction: list.panel.transformChosen(index)
-                onIsCurrentChanged: {
-                    if (isCurrent)
-                        Views.tellFocused(entry);
-                }
+                    required property int index
+                    required property string modelData
+                    readonly property bool isCurrent: list.panel.transformIndex === index
 
-                Label {
-                    anchors.left: parent.left
-                    anchors.leftMargin: Theme.gap
-                    anchors.verticalCenter: parent.verticalCenter
-                    text: entry.modelData
-                    color: entry.isCurrent ? Theme.accent : Theme.text
-                    font.pixelSize: Theme.emptySize
-                }
-                MouseArea {
-                    id: area
-                    anchors.fill: parent
-                    hoverEnabled: true
-                    onClicked: list.panel.transformChosen(entry.index)
+                    width: entries.width
+                    height: Theme.menuRowHeight
+                    radius: Theme.smallRadius
+                    color: isCurrent ? Theme.selected : area.containsMouse ? Theme.hovered : "transparent"
+                    Accessible.role: Accessible.MenuItem
+                    Accessible.name: modelData
+                    Accessible.focusable: true
+                    Accessible.focused: isCurrent
+                    Accessible.onPressAction: list.panel.transformChosen(index)
+                    onIsCurrentChanged: {
+                        if (isCurrent) {
+                            list.reveal(entry);
+                            Views.tellFocused(entry);
+                        }
+                    }
+
+                    Label {
+                        anchors.left: parent.left
+                        anchors.leftMargin: Theme.gap
+                        anchors.verticalCenter: parent.verticalCenter
+                        text: entry.modelData
+                        color: entry.isCurrent ? Theme.accent : Theme.text
+                        font.pixelSize: Theme.emptySize
+                    }
+                    MouseArea {
+                        id: area
+                        anchors.fill: parent
+                        hoverEnabled: true
+                        onClicked: list.panel.transformChosen(entry.index)
+                    }
                 }
             }
+        }
+        WheelScroll {
+            flickable: flick
         }
     }
 }

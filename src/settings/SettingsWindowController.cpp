@@ -32,7 +32,7 @@ SettingsWindowController::~SettingsWindowController() = default;
 void SettingsWindowController::make() {
     keepQmlModule(&qml_register_types_Vellumry_Settings);
     keepQmlModule(&qml_register_types_Vellumry_Transfer);
-    m_view = m_views->makeWindow(localised("Vellumry Settings"));
+    m_view = m_views->makeOrdinaryWindow(localised("Vellumry Settings"));
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
     m_view->setInitialProperties({{QStringLiteral("settings"), QVariant::fromValue(m_model)},
                                   {QStringLiteral("transfer"), QVariant::fromValue(m_transfer)}});

@@ -9,6 +9,7 @@ Rectangle {
 
     required property string text
     property bool isPlain: false // stands back behind the other one
+    property bool isDangerous: false // takes away what does not come back
     signal pressed
     signal cancelled
 
@@ -32,7 +33,7 @@ Rectangle {
         id: label
         anchors.centerIn: parent
         text: button.text
-        color: button.isPlain ? Theme.text : Theme.buttonText
+        color: !button.isPlain ? Theme.buttonText : button.isDangerous ? Theme.danger : Theme.text
         font.pixelSize: Theme.messageSize
         font.weight: Font.Medium
     }

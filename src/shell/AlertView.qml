@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vellumry.Views
 
-// A title, a sentence or two, one button; or two, of which the plain one does what is asked about.
+// A title, a sentence or two, one button; or two, of which the plain one does what is asked about and cannot be undone.
 Rectangle {
     id: root
 
@@ -71,6 +71,7 @@ Rectangle {
                     visible: root.action.length > 0
                     text: root.action
                     isPlain: true
+                    isDangerous: true
                     KeyNavigation.tab: key
                     KeyNavigation.right: key
                     onPressed: {

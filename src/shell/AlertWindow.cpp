@@ -24,7 +24,7 @@ AlertWindow::AlertWindow(const Question& question, ViewEngine& views)
                   views) {}
 
 AlertWindow::AlertWindow(const QVariantMap& properties, ViewEngine& views)
-    : m_view(views.makeWindow(QStringLiteral("Vellumry"))) {
+    : m_view(views.makeOrdinaryWindow(QStringLiteral("Vellumry"))) {
     m_view->setResizeMode(QQuickView::SizeViewToRootObject);
     m_view->setInitialProperties(properties);
     m_view->setSource(QUrl(QStringLiteral("qrc:/vellumry/Vellumry/Shell/AlertView.qml")));

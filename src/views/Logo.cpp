@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmap>
 
 namespace vellumry {
 
@@ -72,6 +73,21 @@ void drawBird(QPainter& painter, const LogoMotion::Frame& frame) {
     painter.restore();
 }
 
+/// The sign as large as `size`.
+void drawSign(QPainter& painter, const QSizeF& size, const LogoMotion::Frame& frame) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.scale(size.width() / side, size.height() / side);
+    painter.translate(side / 2, side / 2);
+    painter.scale(frame.tile, frame.tile);
+    painter.translate(-side / 2, -side / 2);
+    QPainterPath tile;
+    tile.addRoundedRect(QRectF(10, 14, 104, 104), 26, 26);
+    painter.fillPath(tile, tileColour);
+    drawClips(painter, frame);
+    drawBird(painter, frame);
+}
+
 } // namespace
 
 Logo::Logo(QQuickItem* parent)
@@ -93,18 +109,20 @@ qreal Logo::duration() const {
 }
 
 void Logo::paint(QPainter* painter) {
-    const LogoMotion::Frame frame = LogoMotion::frameAt(m_time);
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
-    painter->scale(width() / side, height() / side);
-    painter->translate(side / 2, side / 2);
-    painter->scale(frame.tile, frame.tile);
-    painter->translate(-side / 2, -side / 2);
-    QPainterPath tile;
-    tile.addRoundedRect(QRectF(10, 14, 104, 104), 26, 26);
-    painter->fillPath(tile, tileColour);
-    drawClips(*painter, frame);
-    drawBird(*painter, frame);
+    drawSign(*painter, size(), LogoMotion::frameAt(m_time));
+}
+
+QIcon Logo::windowIcon() {
+    QIcon icon;
+    for (const int pixels : {16, 32, 48, 64}) {
+        QPixmap picture(pixels, pixels);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        drawSign(painter, picture.size(), LogoMotion::frameAt(LogoMotion::duration));
+        painter.end();
+        icon.addPixmap(picture);
+    }
+    return icon;
 }
 
 } // namespace vellumry

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QIcon>
 #include <QQuickPaintedItem>
 #include <qqmlregistration.h>
 
@@ -19,6 +20,8 @@ public:
     explicit Logo(QQuickItem* parent = nullptr);
 
     void paint(QPainter* painter) override;
+    /// The still sign in the sizes that title bars, task bars and task switchers ask for.
+    [[nodiscard]] static QIcon windowIcon();
     [[nodiscard]] qreal time() const { return m_time; }
     void setTime(qreal seconds);
     [[nodiscard]] qreal duration() const;

@@ -66,17 +66,17 @@ QtObject {
     readonly property int scrollArea: 16
     readonly property int leastThumb: 28
 
-    readonly property int iconSize: 32
-    readonly property int symbolSize: 18
-    readonly property int smallSymbolSize: 14
-    readonly property int lensSize: 20
-    readonly property int emptySymbolSize: 36
-    readonly property int emptyWidth: 420
-    readonly property int transformWidth: 232
-    readonly property int nextWidth: 260
-    readonly property int tooltipWidth: 360
+    readonly property int iconSize: grown(32)
+    readonly property int symbolSize: grown(18)
+    readonly property int smallSymbolSize: grown(14)
+    readonly property int lensSize: grown(20)
+    readonly property int emptySymbolSize: grown(36)
+    readonly property int emptyWidth: grown(420)
+    readonly property int transformWidth: grown(232)
+    readonly property int nextWidth: grown(260)
+    readonly property int tooltipWidth: grown(360)
     readonly property int alertWidth: 440
-    readonly property int messageWidth: 560
+    readonly property int messageWidth: grown(560)
     readonly property int buttonWidth: 96
     readonly property int controlWidth: 220
     readonly property int pickerWidth: 150
@@ -88,8 +88,8 @@ QtObject {
     readonly property int welcomeLogo: 128
     readonly property int tryFieldWidth: 280
     readonly property int settingsWidth: 540
-    readonly property int previewWidth: 372
-    readonly property int largeTile: 44
+    readonly property int previewWidth: grown(372)
+    readonly property int largeTile: grown(44)
     // What of the shadow's picture is not stretched.
     readonly property int shadowBorder: 86
     // How far the shadow of a small board reaches, and the same of its picture.
@@ -97,10 +97,10 @@ QtObject {
     readonly property int smallShadowBorder: 32
     // Milliseconds that the pointer rests until it is taken for a question.
     readonly property int askingTime: 600
-    readonly property int largeSymbol: 24
-    readonly property int smallTile: 24
-    readonly property int swatchHeight: 140
-    readonly property int wordsHeight: 92
+    readonly property int largeSymbol: grown(24)
+    readonly property int smallTile: grown(24)
+    readonly property int swatchHeight: grown(140)
+    readonly property int wordsHeight: grown(92)
 
     // Milliseconds.
     readonly property int glide: 140
@@ -135,6 +135,10 @@ QtObject {
     /// A size of letters by the user's choice.
     function sized(pixels: int): int {
         return Math.round(pixels * Views.textScale);
+    }
+    /// A measure of what stands beside letters or holds them: it grows with these, and does not shrink.
+    function grown(pixels: int): int {
+        return Math.round(pixels * Math.max(1, Views.textScale));
     }
     function onGrid(length: real): int {
         return Math.ceil(length / 4) * 4;

@@ -2,6 +2,7 @@
 #include "views/ViewEngine.h"
 
 #include "foundation/InterfaceLocale.h"
+#include "views/Logo.h"
 #include "views/QmlModules.h"
 #include "views/SymbolProvider.h"
 
@@ -40,6 +41,15 @@ QQmlEngine& ViewEngine::engine() {
 std::unique_ptr<QQuickView> ViewEngine::makeWindow(const QString& title) {
     auto window = std::make_unique<QQuickView>(&engine(), nullptr);
     window->setTitle(title);
+    return window;
+}
+
+std::unique_ptr<QQuickView> ViewEngine::makeOrdinaryWindow(const QString& title) {
+    auto window = makeWindow(title);
+    // One for all windows: Qt keeps the pictures of an icon in a cache when its window has gone.
+    if (QGuiApplication::windowIcon().isNull())
+        QGuiApplication::setWindowIcon(Logo::windowIcon());
+    window->setIcon(QGuiApplication::windowIcon());
     return window;
 }
 

@@ -30,6 +30,9 @@ public:
 
     /// A window without a view yet, drawn by the common engine. `title` is what screen readers and task switchers say.
     [[nodiscard]] std::unique_ptr<QQuickView> makeWindow(const QString& title);
+    /// The same with the program's sign, for what stands in task bars. On X11 a desktop that does not know our desktop
+    /// file, as where the program was not installed, has no other.
+    [[nodiscard]] std::unique_ptr<QQuickView> makeOrdinaryWindow(const QString& title);
     [[nodiscard]] QQmlEngine& engine();
     /// Lets go of a window that has been closed, and of what only its view needed. From its own events too: it goes
     /// with the next turn of the event loop.

@@ -1,61 +1,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Draws the panel in each of its states, in the language of the environment, without a display: `panel_gallery FOLDER
-// [--dark] [--rtl] [STATE…]`, all states without one. QT_SCALE_FACTOR sets the scale. Tells of texts that do not fit.
+// [--dark] [--rtl] [--text-scale FACTOR] [STATE…]`, all states without one. QT_SCALE_FACTOR sets the scale. Tells of
+// texts that do not fit.
 
 #include "foundation/Localisation.h"
 #include "gallery/CutTexts.h"
+#include "gallery/MadeUpClips.h"
+#include "linux/look/EmojiInColour.h"
 #include "panel/PanelController.h"
 #include "shell/StatusMenu.h"
+#include "support/FakeDragSource.h"
 #include "support/FakeImageCodec.h"
 #include "support/FakePanelSurface.h"
 #include "support/PasteWorld.h"
 
-#include <QBuffer>
 #include <QCommandLineParser>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QLinearGradient>
-#include <QPainter>
-#include <QPainterPath>
+#include <QMouseEvent>
+#include <QQuickItem>
 #include <QQuickView>
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 
 namespace vellumry {
 
 namespace {
-
-/// A picture of our own: hills behind each other under an evening sky.
-QImage hills(QSize size) {
-    QImage image(size, QImage::Format_RGB32);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient sky(0, 0, 0, size.height());
-    sky.setColorAt(0, QColor(0x27, 0x3a, 0x6b));
-    sky.setColorAt(0.6, QColor(0xe7, 0x8d, 0x72));
-    sky.setColorAt(1, QColor(0xf7, 0xd0, 0x8a));
-    painter.fillRect(image.rect(), sky);
-    for (int hill = 0; hill < 4; ++hill) {
-        QPainterPath outline(QPointF(0, size.height()));
-        for (int x = 0; x <= size.width(); x += 4) {
-            const double wave = std::sin(x * (0.004 + hill * 0.0016) + hill * 2.1) * (0.09 - hill * 0.012);
-            outline.lineTo(x, size.height() * (0.55 + hill * 0.12 + wave));
-        }
-        outline.lineTo(size.width(), size.height());
-        painter.fillPath(outline, QColor::fromHsl(228 + hill * 6, 70, 90 - hill * 20));
-    }
-    return image;
-}
-
-QByteArray png(const QImage& image) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes;
-}
 
 class Gallery : public PasteWorld {
 public:
@@ -68,14 +39,18 @@ public:
 
     void setAppearance(ViewEngine::Appearance appearance) { views.setAppearance(appearance); }
 
+    /// How large the desktop wants texts.
+    void setTextScale(double factor) { views.setDesktopLook({.textScale = factor}); }
+
     /// What somebody copies in a day; the last one is the newest.
     void fill() {
         pinned(drafts::text(QStringLiteral("Kind regards,\nJoan Eldridge")), "Mail");
         from(drafts::text(QStringLiteral("Meeting moved to Thursday, 14:30, room Curie")), "Calendar");
-        from(link("https://www.freedesktop.org/wiki/Specifications/clipboards-spec/?from=history#primary"), "Firefox");
-        from(code(), "Konsole");
+        from(madeup::link("https://www.freedesktop.org/wiki/Specifications/clipboards-spec/?from=history#primary"),
+             "Firefox");
+        from(madeup::code(), "Konsole");
         from(photo(), "Image Viewer");
-        from(colour("#3f7fd9"), "Inkscape");
+        from(madeup::colour("#3f7fd9"), "Inkscape");
         from(drafts::secret(QStringLiteral("correct horse battery staple")), "KeePassXC");
         from(drafts::files({QStringLiteral("/home/joan/Letters/offer.odt"),
                             QStringLiteral("/home/joan/Pictures/roof.jpg"),
@@ -84,7 +59,7 @@ public:
         fileStatuses = {{QStringLiteral("/home/joan/Pictures/roof.jpg"),
                          FileStatus::moved(QStringLiteral("/home/joan/Archive/2026/roof.jpg"))},
                         {QStringLiteral("/home/joan/Letters/old draft.odt"), FileStatus::missing()}};
-        from(rich(), "LibreOffice Writer");
+        from(madeup::rich(), "LibreOffice Writer");
         from(drafts::text(QStringLiteral(
                  "Dear neighbours,\n\nthe roof is going to be repaired next week. Please keep the attic windows shut "
                  "from Monday to Wednesday, and move what stands in the yard.\n\nThe crane comes on Tuesday at seven. "
@@ -124,6 +99,8 @@ public:
             {QStringLiteral("menu-of-a-clip"), [this] { press(Qt::Key_Menu, "offer", 0); }},
             {QStringLiteral("menu-of-several"), [this] { press(Qt::Key_Menu, "Dear", 3); }},
             {QStringLiteral("menu"), [this] { press(Qt::Key_F10, "Dear", 0); }},
+            {QStringLiteral("drag"), [this] { drag("offer", 0); }},
+            {QStringLiteral("drag-of-several"), [this] { drag("Dear", 3); }},
             {QStringLiteral("no-keys"), [this] { choose("Meeting"); }},
             {QStringLiteral("empty"), [] {}},
         };
@@ -141,45 +118,14 @@ private:
     void pinned(ClipDraft draft, const char* application) {
         awaited(store.setPinned(from(std::move(draft), application)->id, true, ++now));
     }
-    static ClipDraft link(const char* address) {
-        ClipDraft draft = drafts::text(QString::fromUtf8(address));
-        draft.kind = ClipKind::link;
-        return draft;
-    }
-    static ClipDraft colour(const char* text) {
-        ClipDraft draft = drafts::text(QString::fromUtf8(text));
-        draft.kind = ClipKind::color;
-        return draft;
-    }
-    static ClipDraft rich() {
-        ClipDraft draft = drafts::text(QStringLiteral("Minutes of the house meeting\n\n1. Roof: the offer of 12,400 is "
-                                                      "taken.\n2. Bicycles: a second stand in the yard.\n3. Heating: "
-                                                      "read the meters by the end of the month."));
-        draft.kind = ClipKind::richText;
-        draft.payload.items.front().representations[uniformtype::html] =
-            "<h2>Minutes of the house meeting</h2><ol><li><b>Roof:</b> the offer of <u>12,400</u> is taken. "
-            "<span style='color:#b3261e'>The crane comes on Tuesday.</span></li><li><b>Bicycles:</b> a second stand in "
-            "the yard, see <a href='https://example.org'>the plan</a>.</li><li><b>Heating:</b> <i>read the meters</i> "
-            "by the end of the month and enter them as <code>flat; reading</code>.</li></ol><p><s>Garden: "
-            "postponed.</s></p>";
-        return draft;
-    }
-    static ClipDraft code() {
-        ClipDraft draft = drafts::text(QStringLiteral(
-            "#include <iostream>\n\n/// Greets as often as it is told.\nint main(int argc, char** argv) {\n\tconst int "
-            "times = argc > 1 ? std::atoi(argv[1]) : 1;\n\tfor (int round = 0; round < times; ++round)\n\t\tstd::cout "
-            "<< \"hello\\n\";\n\treturn 0;\n}"));
-        draft.sourceBundleID = QStringLiteral("org.kde.konsole");
-        return draft;
-    }
     ClipDraft photo() {
-        const QImage image = hills(QSize(1280, 720));
-        codec.picture =
-            png(image.scaledToWidth(static_cast<int>(660 * qGuiApp->devicePixelRatio()), Qt::SmoothTransformation));
-        ClipDraft draft = drafts::image(png(image));
+        const QImage image = madeup::hills(QSize(1280, 720));
+        codec.picture = madeup::png(
+            image.scaledToWidth(static_cast<int>(660 * qGuiApp->devicePixelRatio()), Qt::SmoothTransformation));
+        ClipDraft draft = drafts::image(madeup::png(image));
         draft.title = QStringLiteral("Image 1280 × 720");
         draft.searchText = draft.title;
-        draft.thumbnail = png(image.scaledToWidth(160, Qt::SmoothTransformation));
+        draft.thumbnail = madeup::png(image.scaledToWidth(160, Qt::SmoothTransformation));
         return draft;
     }
 
@@ -200,6 +146,50 @@ private:
             QKeyEvent event(type, key, Qt::NoModifier);
             QGuiApplication::sendEvent(surface.adopted.first(), &event);
         }
+    }
+
+    /// The pointer carries that clip and so many below it.
+    void drag(const char* beginning, int below) {
+        choose(beginning);
+        for (int count = 0; count < below; ++count)
+            panel.model().handle(PanelModel::Command::extendDown);
+        auto* window = qobject_cast<QQuickView*>(surface.adopted.first());
+        const QQuickItem* const title = titled(*window->rootObject(), QString::fromUtf8(beginning));
+        if (!title)
+            return;
+        const QPointF place = title->mapToScene(QPointF(0, title->height() / 2));
+        const int before = source.begun;
+        pointer(*window, QEvent::MouseButtonPress, place, Qt::LeftButton);
+        pointer(*window, QEvent::MouseMove, place + QPointF(20, 0), Qt::NoButton);
+        // What is dragged is fetched first.
+        eventually([&] { return source.begun > before; });
+    }
+    /// A button that is held would keep the next state from its keys.
+    void drop() {
+        source.cancel();
+        if (auto* window = qobject_cast<QQuickView*>(surface.adopted.first()))
+            pointer(*window, QEvent::MouseButtonRelease, QPointF(), Qt::LeftButton);
+    }
+    static void pointer(QQuickView& window, QEvent::Type type, QPointF place, Qt::MouseButton button) {
+        const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent event(type, place, window.mapToGlobal(place), button, held, Qt::NoModifier);
+        QGuiApplication::sendEvent(&window, &event);
+    }
+    static QQuickItem* titled(QQuickItem& item, const QString& beginning) {
+        if (item.isVisible() && item.inherits("QQuickText") && item.property("text").toString().startsWith(beginning))
+            return &item;
+        for (QQuickItem* const child : item.childItems()) {
+            if (QQuickItem* const found = titled(*child, beginning))
+                return found;
+        }
+        return nullptr;
+    }
+    /// The window to draw: that of what is dragged while there is one, else the panel.
+    QQuickView* shown() {
+        const auto dragged = std::ranges::find_if(
+            surface.adopted, [](const QWindow* window) { return window->title() == QLatin1String("Vellumry drag"); });
+        const bool isDragging = dragged != surface.adopted.end() && (*dragged)->isVisible();
+        return qobject_cast<QQuickView*>(isDragging ? *dragged : surface.adopted.first());
     }
 
     /// The program's menu on an ordinary day.
@@ -234,19 +224,23 @@ private:
                     store.setImageText(clip->id, QStringLiteral("Evening over the hills\nTrail 4 · 7.2 km\n"), true));
         }
         arrange();
-        auto* view = qobject_cast<QQuickView*>(surface.adopted.first());
+        QQuickView* const view = shown();
         view->setOpacity(1);
         // A desk to lie on, as the picture has no window beneath.
         view->setColor(views.isDark() ? QColor(0x2b, 0x33, 0x3d) : QColor(0xb9, 0xc6, 0xd2));
         // Pictures and sizes come from other threads.
         eventually([] { return false; }, 300);
         const QString file = m_folder + QLatin1Char('/') + name + QStringLiteral(".png");
+        // A window that grows as it is laid out has its size by the next picture.
+        (void)view->grabWindow();
+        QCoreApplication::processEvents();
         if (!view->grabWindow().save(file))
             std::fprintf(stderr, "cannot write %s\n", qUtf8Printable(file));
         for (const QString& trouble : textsThatDoNotFit(*view->contentItem(), ofClips())) {
             if (!name.startsWith(QLatin1String("menu")) || !trouble.startsWith(QLatin1String("over another")))
                 std::fprintf(stderr, "%s: %s\n", qUtf8Printable(name), qUtf8Printable(trouble));
         }
+        drop();
         panel.hide();
     }
 
@@ -257,12 +251,14 @@ private:
         hooks.openPanelKeys = [] { return localised("⌃⌘V"); };
         hooks.showToast = [](const ToastMessage&) {};
         hooks.preview.images = &codec;
+        hooks.dragSource = &source;
         hooks.statusMenu = [this] { return programMenu(); };
         return hooks;
     }
 
     QString m_folder;
     FakeImageCodec codec;
+    FakeDragSource source;
     FakePanelSurface surface;
     ViewEngine views;
     PanelController panel{store, *engine, pasteboard, surface, views, hooks()};
@@ -277,13 +273,16 @@ int main(int argc, char** argv) {
     qputenv("QT_QUICK_BACKEND", "software");
     QGuiApplication application(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    vellumry::drawEmojiInColour();
     vellumry::installCatalogue();
     QCommandLineParser parser;
     parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("where the pictures go"));
     parser.addPositionalArgument(QStringLiteral("states"), QStringLiteral("which of them"), QStringLiteral("[state…]"));
     const QCommandLineOption dark(QStringLiteral("dark"));
     const QCommandLineOption rtl(QStringLiteral("rtl"));
-    parser.addOptions({dark, rtl});
+    const QCommandLineOption textScale(QStringLiteral("text-scale"), QString(), QStringLiteral("factor"),
+                                       QStringLiteral("1"));
+    parser.addOptions({dark, rtl, textScale});
     parser.process(application);
     const QStringList words = parser.positionalArguments();
     if (words.isEmpty())
@@ -291,6 +290,7 @@ int main(int argc, char** argv) {
     vellumry::Gallery gallery(words.first());
     gallery.setAppearance(parser.isSet(dark) ? vellumry::ViewEngine::Appearance::dark
                                              : vellumry::ViewEngine::Appearance::light);
+    gallery.setTextScale(parser.value(textScale).toDouble());
     if (parser.isSet(rtl))
         QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     gallery.fill();

@@ -6,6 +6,7 @@
 
 #include "foundation/Localisation.h"
 #include "gallery/CutTexts.h"
+#include "linux/look/EmojiInColour.h"
 #include "onboarding/OnboardingModel.h"
 #include "onboarding/OnboardingWindowController.h"
 #include "paste/PasteStack.h"
@@ -152,6 +153,8 @@ private:
         draw(QStringLiteral("settings-desktop"), *controller.window());
         model.setSheet({});
         controller.close();
+        // The window goes with the next events, and before what it shows.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
     OnboardingModel::Hooks firstRun() {
@@ -254,6 +257,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QUICK_BACKEND", "software");
     QGuiApplication application(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    vellumry::drawEmojiInColour();
     QGuiApplication::setApplicationVersion(QStringLiteral("0.1.0"));
     vellumry::installCatalogue();
     QCommandLineParser parser;

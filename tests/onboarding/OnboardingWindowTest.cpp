@@ -9,6 +9,8 @@
 #include "support/Transfers.h"
 #include "views/ViewEngine.h"
 
+#include <QIcon>
+#include <QImage>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTest>
@@ -72,6 +74,13 @@ protected:
     OnboardingModel model{hooks()};
     OnboardingWindowController controller{model, transfers.model, views};
 };
+
+TEST_F(OnboardingWindowTest, TaskBarsHaveTheProgramsSignToShow) {
+    const QImage icon = controller.window()->icon().pixmap(QSize(32, 32), 1.0).toImage();
+    ASSERT_FALSE(icon.isNull());
+    EXPECT_EQ(icon.pixelColor(0, 0).alpha(), 0) << "clear beside the sign";
+    EXPECT_GT(icon.pixelColor(16, 28).blue(), icon.pixelColor(16, 28).red()) << "the blue tile";
+}
 
 TEST_F(OnboardingWindowTest, ReturnLeadsThroughAllFourSteps) {
     EXPECT_EQ(controller.window()->title(), QStringLiteral("Welcome to Vellumry"));

@@ -249,3 +249,23 @@ TEST_F(PanelControllerTest, AChangeOfTheDisplaysLeavesAPanelAloneThatIsInSight) 
     ASSERT_TRUE(eventually([&] { return isLater; }));
     EXPECT_EQ(view()->geometry(), before);
 }
+
+TEST_F(PanelControllerTest, LargerTextsGetALargerPanelWhileItIsOpenToo) {
+    views.setDesktopLook({.textScale = 1.5});
+    open();
+    EXPECT_EQ(surface.frames.first().size(), QSize(1170, 750));
+    EXPECT_EQ(surface.inputArea.size(), QSize(1170, 750));
+    views.setDesktopLook({.textScale = 1});
+    EXPECT_EQ(view()->geometry(), home());
+    EXPECT_EQ(surface.inputArea.size(), PanelController::panelSize);
+    views.setDesktopLook({.textScale = 0.8});
+    EXPECT_EQ(view()->size(), PanelController::panelSize);
+}
+
+TEST_F(PanelControllerTest, ThePanelIsNoLargerThanItsDisplay) {
+    surface.screen->visible = QRect(0, 30, 1366, 738);
+    open();
+    views.setDesktopLook({.textScale = 3});
+    EXPECT_EQ(view()->size(), surface.screen->visible.size());
+    EXPECT_EQ(surface.inputArea.size(), surface.screen->visible.size());
+}

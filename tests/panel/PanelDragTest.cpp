@@ -3,6 +3,8 @@
 #include "panel/PanelWindowWorld.h"
 #include "support/FakeDragSource.h"
 
+#include <algorithm>
+
 using namespace vellumry;
 
 namespace {
@@ -236,4 +238,19 @@ TEST_F(PanelDragTest, WhatASearchLeavesOutLeavesNoGapToClose) {
     auto* list = view->rootObject()->findChild<QQuickItem*>(QStringLiteral("clips"));
     EXPECT_EQ(list->property("count").toInt(), 2);
     EXPECT_EQ(list->property("gap").toDouble(), 0);
+}
+
+TEST_F(PanelDragTest, WhatThePointerCarriesHasRoomForItsTitleBeforeThePointerMovesOn) {
+    addText("a title that is longer than those of the other clips");
+    (void)view->grabWindow();
+    const QPoint place = placeOf("a title that is longer than those of the other clips");
+    pressAt(place);
+    moveTo(place + QPoint(0, 30));
+    const auto carried = std::ranges::find_if(
+        surface.adopted, [](const QWindow* window) { return window->title() == QStringLiteral("Vellumry drag"); });
+    ASSERT_NE(carried, surface.adopted.end());
+    auto* window = qobject_cast<QQuickView*>(*carried);
+    (void)window->grabWindow();
+    EXPECT_EQ(window->width(), qRound(window->rootObject()->width()));
+    releaseAt(place);
 }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "foundation/Localisation.h"
 #include "panel/PanelWindowWorld.h"
+#include "support/AccessibleItems.h"
 
 #include <QAccessible>
+#include <QCursor>
 
 using namespace vellumry;
 
@@ -173,4 +175,67 @@ TEST(PanelStatusMenuTest, TheButtonAndF10OpenTheMenuOfTheProgramAsItIsThen) {
     EXPECT_EQ(asked, 2);
     EXPECT_EQ(chosen, 1);
     EXPECT_FALSE(panel.isVisible()) << "what it pastes goes where the user was typing";
+}
+
+TEST(PanelStatusMenuTest, AMenuThatIsHigherThanThePanelShowsThatThereIsMore) {
+    class World : public PanelWindowWorld {
+    public:
+        void TestBody() override {}
+        using PanelWindowWorld::panelHooks;
+        using PanelWindowWorld::surface;
+        using PanelWindowWorld::views;
+    };
+    World world;
+    int entries = 1;
+    auto hooks = world.panelHooks();
+    hooks.statusMenu = [&entries] {
+        return std::vector<ActionMenuItem>(static_cast<std::size_t>(entries), {.text = QStringLiteral("Pause")});
+    };
+    PanelController panel(world.store, *world.engine, world.pasteboard, world.surface, world.views, hooks);
+    panel.show();
+    auto* view = qobject_cast<QQuickView*>(world.surface.adopted.last());
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(view));
+    const auto showsABar = [view] {
+        (void)view->grabWindow();
+        const auto* board = view->rootObject()->findChild<QQuickItem*>(QStringLiteral("menu"));
+        const auto* bar = board ? board->findChild<QQuickItem*>(QStringLiteral("menuScrollBar")) : nullptr;
+        return bar && bar->isVisible();
+    };
+    QTest::keyClick(view, Qt::Key_F10);
+    EXPECT_FALSE(showsABar());
+    QTest::keyClick(view, Qt::Key_Escape);
+    entries = 60;
+    QTest::keyClick(view, Qt::Key_F10);
+    EXPECT_TRUE(showsABar());
+    auto* board = view->rootObject()->findChild<QQuickItem*>(QStringLiteral("menu"));
+    const auto* bar = board->findChild<QQuickItem*>(QStringLiteral("menuScrollBar"));
+    const QQuickItem* entry = accessibleItem(board, QAccessible::MenuItem, QStringLiteral("Pause"));
+    ASSERT_NE(entry, nullptr);
+    EXPECT_LT(entry->mapToItem(board, QPointF(entry->width(), 0)).x(),
+              bar->mapToItem(board, QPointF(bar->width() / 2, 0)).x())
+        << "the thumb lies beside the entries";
+}
+
+TEST_F(PanelMenuViewTest, AHandSoQuickThatItsMotionIsOneEventOpensASubmenu) {
+    open();
+    rightPress(QStringLiteral("older"));
+    const QPoint entry = middleOf(itemWithText(localised("Paste Transformed")));
+    QCursor::setPos(view()->mapToGlobal(entry));
+    QTest::mouseMove(view(), entry);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shows("UPPERCASE"); }, 60'000));
+}
+
+TEST_F(PanelMenuViewTest, AnEntryThatComesUpUnderTheRestingPointerIsNotChosen) {
+    open();
+    press(Qt::Key_Menu);
+    layOut();
+    const QPoint entry = middleOf(itemWithText(localised("Delete")));
+    press(Qt::Key_Escape);
+    QCursor::setPos(view()->mapToGlobal(entry));
+    QTest::mouseMove(view(), entry);
+    press(Qt::Key_Menu);
+    layOut();
+    QTest::mouseMove(view(), entry);
+    press(Qt::Key_Return);
+    EXPECT_NE(store.find(newer->id), nullptr) << "the first entry has the keys";
 }

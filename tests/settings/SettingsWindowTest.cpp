@@ -10,6 +10,7 @@
 #include "support/Transfers.h"
 #include "views/ViewEngine.h"
 
+#include <QIcon>
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickView>
@@ -81,8 +82,16 @@ protected:
     SettingsWindowController controller{model, transfers.model, views};
 };
 
+TEST_F(SettingsWindowTest, EachOpeningHasTheSameIcon) {
+    const qint64 first = window().icon().cacheKey();
+    controller.close();
+    controller.show(0);
+    EXPECT_EQ(window().icon().cacheKey(), first) << "what is drawn anew each time stays in Qt's cache";
+}
+
 TEST_F(SettingsWindowTest, IsAnOrdinaryWindowWithItsTitleAndWidth) {
     EXPECT_EQ(window().title(), QStringLiteral("Vellumry Settings"));
+    EXPECT_FALSE(window().icon().isNull()) << "what task bars show where they do not know the desktop file";
     EXPECT_EQ(window().width(), 540);
     EXPECT_EQ(window().type(), Qt::Window);
     EXPECT_FALSE(window().flags().testFlag(Qt::FramelessWindowHint));

@@ -41,6 +41,16 @@ protected:
         }
         return nullptr;
     }
+    /// The text itself in the window, or null.
+    [[nodiscard]] static const QQuickItem* itemShowing(const QQuickItem& root, const QString& text) {
+        if (root.inherits("QQuickText") && root.property("text").toString() == text)
+            return &root;
+        for (const QQuickItem* child : root.childItems()) {
+            if (const QQuickItem* found = itemShowing(*child, text))
+                return found;
+        }
+        return nullptr;
+    }
 
     AppDelegate delegate;
 };
@@ -78,6 +88,18 @@ TEST_F(AppActionsTest, ClearingAsksFirstAndTheWayOutIsTheFirstKey) {
     QTest::keyClick(question(), Qt::Key_Return);
     runUntil([] { return question() == nullptr; });
     EXPECT_EQ(clips(), 1U);
+}
+
+TEST_F(AppActionsTest, WhatCannotBeUndoneIsRedInTheQuestion) {
+    ask("clear");
+    waitForQuestion();
+    const auto isRed = [](const char* text) {
+        const QQuickItem* label = itemShowing(*question()->rootObject(), QString::fromLatin1(text));
+        const QColor ink = label ? label->property("color").value<QColor>() : QColor();
+        return ink.red() > 2 * ink.green() && ink.red() > 2 * ink.blue();
+    };
+    EXPECT_TRUE(isRed("Clear History"));
+    EXPECT_FALSE(isRed("Cancel"));
 }
 
 TEST_F(AppActionsTest, AQuestionIsNotHiddenByThePanel) {
