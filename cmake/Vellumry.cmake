@@ -13,6 +13,10 @@ if(VELLUMRY_CCACHE)
 endif()
 
 option(VELLUMRY_PRECOMPILED "Precompile the headers that most sources include" ON)
+# What a source costs beside its own code (headers, the same templates again) is paid once for six of them: two thirds of the
+# time for the whole, for which a change compiles five sources more.
+option(VELLUMRY_UNITED "Compile several sources at a time" OFF)
+set(VELLUMRY_UNITED_SOURCES 6)
 
 function(vellumry_target_defaults target)
   target_compile_features(${target} PUBLIC cxx_std_23)
@@ -28,6 +32,11 @@ function(vellumry_target_defaults target)
   target_compile_definitions(${target} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
                                               QT_NO_FOREACH)
   set_target_properties(${target} PROPERTIES AUTOMOC ON CXX_EXTENSIONS OFF)
+  if(VELLUMRY_UNITED)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE ${VELLUMRY_UNITED_SOURCES})
+    # A source that is included counts as a header, in which such a field would be wrong.
+    target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
+  endif()
 endfunction()
 
 # The headers that most sources include, parsed once: 1.1 s for a source that takes 2.8 s without.
@@ -136,6 +145,16 @@ function(vellumry_qml_module target uri)
   list(FILTER sources INCLUDE REGEX "_qml\\.cpp$")
   set_source_files_properties(${sources} PROPERTIES UNITY_GROUP qml)
   set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+  if(VELLUMRY_UNITED)
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "^[A-Za-z]+\\.cpp$")
+    set(count 0)
+    foreach(source IN LISTS sources)
+      math(EXPR group "${count} / ${VELLUMRY_UNITED_SOURCES}")
+      math(EXPR count "${count} + 1")
+      set_source_files_properties(${source} PROPERTIES UNITY_GROUP sources${group})
+    endforeach()
+  endif()
   # The registration of the types includes their headers by name alone.
   target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
   # The code that Qt generates from QML shadows its own parameters.
