@@ -7,7 +7,7 @@ export CCACHE_NOHASHDIR = 1
 export CCACHE_BASEDIR = $(CURDIR)
 
 .PHONY: help run install uninstall package appimage test test-trixie test-appimage test-managers test-wayland wayland-next bench-wayland sanitize torture \
-	bench bench-day gallery matrix lint build asan clean
+	bench bench-day gallery matrix lint lint-wayland build asan clean
 
 help: ## list the tasks
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:.*## /\t/' | expand -t 14
@@ -53,7 +53,7 @@ wayland-next: ## the same in Debian 13 and in Debian testing, written into docs/
 	@scripts/wayland-results trixie "Debian 13"
 	@scripts/wayland-results forky "Debian testing"
 
-bench-wayland: ## figures of the program in sessions of sway and KWin, with a Paste Stack of 300
+bench-wayland: ## figures of the program in sessions of sway, KWin and GNOME, with a Paste Stack of 300
 	@scripts/install-deps --test
 	@bench/wayland
 
@@ -77,7 +77,7 @@ bench: ## build, run the benchmarks and the side-by-side runs, print figures and
 	@$(MAKE) --no-print-directory build
 	@bench/run
 
-bench-day: ## play a day of copies and pastes in twenty minutes, print memory, open files and threads by the hour
+bench-day: ## play a day of copies and pastes in some ten minutes, print memory, open files and threads by the hour
 	@scripts/install-deps --test
 	@$(MAKE) --no-print-directory build
 	@scripts/headless-session /usr/bin/python3 bench/a_day.py 2>/dev/null
@@ -94,6 +94,10 @@ matrix: ## install large applications too, try them all, write what was seen int
 lint: ## formatting, clang-tidy, qmllint, texts, links of the documents
 	@scripts/install-deps --test
 	@scripts/lint
+
+lint-wayland: ## clang-tidy over the sources that only Debian 13 builds
+	@scripts/install-deps --test
+	@scripts/lint-wayland
 
 build: ## build the programs (build/release/vellumry)
 	@cmake --preset release >/dev/null

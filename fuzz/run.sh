@@ -11,7 +11,9 @@ if [ "${1:-}" != --one ]; then
   build_folder=${VELLUMRY_FUZZ_BUILD:-$source_folder/build/fuzz}
   [ $# -gt 0 ] || set -- $(cd "$source_folder/fuzz" && ls Fuzz*.cpp | sed 's/\.cpp$//')
   work=$(mktemp -d)
-  (cd "$source_folder" && cmake --preset fuzz -B "$build_folder" >"$work/configure.log" 2>&1) || { cat "$work/configure.log"; exit 1; }
+  compiler=clang++-16
+  command -v $compiler >/dev/null || compiler=clang++ # Debian 13 has another one
+  (cd "$source_folder" && cmake --preset fuzz -B "$build_folder" -D CMAKE_CXX_COMPILER=$compiler >"$work/configure.log" 2>&1) || { cat "$work/configure.log"; exit 1; }
   cmake --build "$build_folder" -j "$(nproc)" --target "$@" | "$source_folder/scripts/progress" "build fuzz"
   status=0
   if [ "$seconds" -gt 0 ]; then

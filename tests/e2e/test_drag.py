@@ -8,9 +8,9 @@ import tempfile
 
 from clients import FeatherPad, Mousepad, Pcmanfm
 from clients.owners import Owner
-from desktop import (HERE, Process, Vellumry, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests, panel_is_open, picture,
+from desktop import (HERE, Process, Vellumry, accessible, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests, panel_is_open, picture,
                      remember, run, same, text_of, wait_for_clip, wait_panel_closed, wait_until, windows)
-from panel_rows import middle, row, texts_kept
+from panel_rows import middle, row, texts_kept, wait_menu_closed
 
 RUNTIME = os.environ["XDG_RUNTIME_DIR"]
 
@@ -232,6 +232,10 @@ def what_nobody_takes_comes_back():
         let_go()
         wait_until(lambda: not leftovers(), "the picture's file to be gone")
         wait_until(panel_is_open, "the panel to be back")
+        key("Menu")
+        wait_until(lambda: accessible("vellumry", "popup menu"), "the row's menu")
+        key("Escape")
+        wait_menu_closed()
         key("ctrl+Delete")
         wait_until(lambda: texts_kept() == [], "the panel to hear keys")
 

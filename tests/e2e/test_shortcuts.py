@@ -67,8 +67,8 @@ def they_follow_the_layout():
     with Vellumry(), Mousepad() as client:
         pin("alpha")
         try:
-            for layout in ("de", "dvorak", "ru,us", "us"):
-                run("setxkbmap", layout)
+            for layout in ("de", "us -variant dvorak", "ru,us", "us"):
+                run("setxkbmap", *layout.split())
 
                 paste_under_new_layout(client, "alpha", layout)
                 client.clear()

@@ -184,8 +184,8 @@ def the_shortcut_and_the_paste_follow_the_layout():
     with Vellumry(), FeatherPad() as editor:
         probe = HistoryProbe()
         try:
-            for layout in ("de", "dvorak", "ru,us", "us"):
-                run("setxkbmap", layout)
+            for layout in ("de", "us -variant dvorak", "ru,us", "us"):
+                run("setxkbmap", *layout.split())
                 key("ctrl+a")
                 key("Delete")
                 wait_until(lambda: not editor.content(), "an empty editor")

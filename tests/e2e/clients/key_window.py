@@ -33,14 +33,21 @@ class KeyWindow:
         self.display.sync()
         return False
 
-    def wait_for(self, kind, fits=lambda event: True):
+    def wait_for(self, kind, fits=lambda event: True, seconds=60.0):
+        """The next event of that kind; Failure when none came in time, as on a machine where a key never arrives."""
+        end = time.monotonic() + seconds
         while True:
             while self.display.pending_events():
                 event = self.display.next_event()
                 if event.type == kind and fits(event):
                     return event
-            if not select.select([self.display.fileno()], [], [], 5)[0]:
-                raise Failure("nothing came into the window")
+            if not select.select([self.display.fileno()], [], [], max(0.0, end - time.monotonic()))[0]:
+                raise Failure(f"nothing came into the window within {seconds:g} s")
+
+    def forget_events(self):
+        """What has come so far answers no later wait."""
+        while self.display.pending_events():
+            self.display.next_event()
 
     def press(self):
         """Presses Ctrl+V. Milliseconds from the press to its event."""
