@@ -35,6 +35,7 @@ public:
         print("first showing, until painted", {milliseconds([&] { show(); })});
         print("later showings, each with a new clip", measureShowing(), oneFrame);
         measureTyping();
+        measureLetter();
         measurePreviews();
     }
 
@@ -80,6 +81,25 @@ private:
         print("a letter: search, sections, selection", searches);
         print("a letter: all of it, until painted", letters, ofLetter);
         print("a letter: rows, views, painting alone", ours);
+    }
+
+    /// A letter that nearly every clip has: the longest list that a search leaves.
+    void measureLetter() {
+        std::vector<double> typed;
+        std::vector<double> rubbedOut;
+        const auto edit = [&](const QString& text) {
+            return milliseconds([&] {
+                m_panel->model().searchTextEdited(text);
+                paint();
+            });
+        };
+        (void)edit(QString());
+        for (int round = 0; round < rounds; ++round) {
+            typed.push_back(edit(QStringLiteral("e")));
+            rubbedOut.push_back(edit(QString()));
+        }
+        print("a letter that nearly all have, until painted", typed, ofLetter);
+        print("the same rubbed out, until painted", rubbedOut, ofLetter);
     }
 
     /// From the choice until the preview is painted, and how long the main thread was busy at one go until the text was

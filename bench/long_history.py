@@ -43,13 +43,17 @@ def picture(region):
     return root.get_image(*region, X.ZPixmap, 0xFFFFFFFF).data
 
 
-def tap(letter):
-    screen = display.Display()
-    code = screen.keysym_to_keycode(ord(letter))
-    xtest.fake_input(screen, X.KeyPress, code)
-    xtest.fake_input(screen, X.KeyRelease, code)
-    screen.sync()
-    screen.close()
+class Tap:
+    """Types a letter. The connection to the server is made beforehand: it takes some milliseconds of their own."""
+
+    def __init__(self, letter):
+        self.screen = display.Display()
+        self.code = self.screen.keysym_to_keycode(ord(letter))
+
+    def __call__(self):
+        xtest.fake_input(self.screen, X.KeyPress, self.code)
+        xtest.fake_input(self.screen, X.KeyRelease, self.code)
+        self.screen.sync()
 
 
 def first_letter(tool, letter):
@@ -59,7 +63,7 @@ def first_letter(tool, letter):
     tool.wait_ready()
     changed_after(blank, PANEL, press_shortcut)
     time.sleep(0.3)  # all of the panel is painted: what changes now is the letter's doing
-    return changed_after(picture(LIST), LIST, lambda: tap(letter), 20.0)
+    return changed_after(picture(LIST), LIST, Tap(letter), 20.0)
 
 
 def measure(count):

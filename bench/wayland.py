@@ -1,15 +1,17 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the program costs in a Wayland session: copies until they are durable, the panel, a paste, memory, and a Paste Stack of 300.
+"""What the program costs in a Wayland session: copies until they are durable, the panel, a paste, memory, and a Paste Stack of 300; and CopyQ's way to its window.
 
 Run by bench/wayland inside scripts/wayland-session. Prints a table; exits with 1 when a stack's paste was lost or doubled, or a copy
 of the burst. VELLUMRY_BENCH_CLIPS, VELLUMRY_BENCH_COPIES and VELLUMRY_BENCH_STACK are how many clips, copies of the burst and
 stack pastes there are.
 """
 
+import itertools
 import os
-import random
+import shutil
 import sqlite3
 import statistics
+import subprocess
 import sys
 import time
 
@@ -17,15 +19,18 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(os.path.dirname(HERE), "tests", "wayland"))
 
 from gi.repository import Gio, GLib  # noqa: E402
-from session import (HINT, PROGRAM, SESSION, Clipper, Klipper, Window, offered, press, search_field_has_focus)  # noqa: E402
+from one_liners import texts  # noqa: E402
+from session import (HINT, PROGRAM, SESSION, Clipper, Klipper, Window, offered, press, search_field_has_focus,
+                     settle, wait_for_panel)  # noqa: E402
 
 import desktop  # noqa: E402
-from desktop import HISTORY, Vellumry, run, wait_until  # noqa: E402
+from desktop import HISTORY, Process, Vellumry, run, wait_until  # noqa: E402
 
 CLIPS = int(os.environ.get("VELLUMRY_BENCH_CLIPS", "5000"))
 COPIES = int(os.environ.get("VELLUMRY_BENCH_COPIES", "500"))
 ROUNDS = 15
 STACKED = int(os.environ.get("VELLUMRY_BENCH_STACK", "300"))
+RUNS = itertools.count(1)
 BUS = Gio.bus_get_sync(Gio.BusType.SESSION)
 
 
@@ -86,14 +91,6 @@ def pss_megabytes(pid):
     return total / 1024
 
 
-def texts(count, seed=5):
-    """Made-up clips of one line: median 18 characters, mean about 720, a few very long."""
-    chance = random.Random(seed)
-    for index in range(count):
-        length = min(int(chance.lognormvariate(2.9, 2.7)) + 1, 100_000)
-        yield (f"{index} " + "".join(chance.choice("abcdefghij klmnopqrstuvwxyz ") for _ in range(length)))[:max(length, 6)].strip()
-
-
 def copies(clipper, history):
     delays = []
     for index in range(20):
@@ -133,7 +130,8 @@ def return_to_text(window, clipper, history):
         press("ctrl+a", "delete")
         window.wait_text("")
         press("ctrl+super+v")
-        wait_until(search_field_has_focus, "the search field to have the focus")
+        # The search field may seem to have the focus from the last time on.
+        wait_for_panel(window)
         began = time.monotonic()
         press("return")
         window.wait_text(text)
@@ -142,13 +140,57 @@ def return_to_text(window, clipper, history):
     return delays
 
 
+class CopyQ(Process):
+    """The peer, with as many clips, shown by its own command: a user binds that to a key on Wayland."""
+
+    def __init__(self):
+        super().__init__("copyq")
+        wait_until(lambda: self.ask("size").isdigit(), "CopyQ's server")
+        self.ask("config", "maxitems", "10000")
+        # Else it is minimised, which sway does not know, where there is no tray.
+        self.ask("config", "hide_main_window", "true")
+        made = list(texts(CLIPS))
+        for first in range(0, CLIPS, 20):
+            self.ask("add", "--", *made[first:first + 20])
+
+    @staticmethod
+    def ask(*words):
+        return subprocess.run(["copyq", *words], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False, timeout=60).stdout.decode().strip()
+
+    def seconds_to_window(self, window):
+        began = time.monotonic()
+        with Process("copyq", "show"):
+            wait_until(lambda: not window.state["active"], "CopyQ's window to take the keyboard", 10)
+        took = window.state["at"] - began
+        press("escape")
+        wait_until(lambda: window.state["active"], "the keyboard back in the window", 10)
+        return took
+
+
+def beside_copyq(window):
+    name = "CopyQ: command to window with the keyboard, median (most) ms"
+    if shutil.which("copyq") is None:
+        tell(name, "not installed")
+        return
+    with CopyQ() as peer:
+        try:
+            peer.seconds_to_window(window)
+            tell(name, middle([peer.seconds_to_window(window) for _ in range(ROUNDS)]))
+        except desktop.Failure as failure:
+            tell(name, f"does not work here: {failure}")
+
+
 def stack(window, clipper, history, count):
     """Pastes five a second, without a look at what has arrived; the items that are lost, doubled or out of their order."""
     press("ctrl+a", "delete")
     window.wait_text("")
     run(PROGRAM, "--action", "toggle-stack")
-    items = [f"{count}.{index};" for index in range(count)]
+    run_number = next(RUNS)  # what the history has already would not be one clip more
+    items = [f"{run_number}.{index};" for index in range(count)]
     for item in items:
+        # Not into the same few milliseconds in which the stack puts its first item back, behind the copy before: whichever comes last
+        # stays, and no user is as quick.
+        settle()
         before = history.count()
         clipper.copy(item)
         try:
@@ -175,7 +217,7 @@ def middle(delays):
 
 
 def tell(name, value):
-    print(f"{name:52} {value}", flush=True)
+    print(f"{name:62} {value}", flush=True)
 
 
 def stack_is_whole(name, window, clipper, history):
@@ -209,11 +251,16 @@ def main():
         tell("key to painted panel, median (most) ms",
              middle([seconds_to_panel(window, lambda: press("ctrl+super+v")) for _ in range(ROUNDS)]))
         tell("Return to text in a GTK editor, median (most) ms", middle(return_to_text(window, clipper, history)))
-        tell("PSS after use, MB", f"{pss_megabytes(program.pid):.1f}")
+        time.sleep(1)
+        tell("PSS 1 s after use, MB", f"{pss_megabytes(program.pid):.1f}")
+        time.sleep(19)
+        tell("PSS 20 s after use, MB", f"{pss_megabytes(program.pid):.1f}")
         is_whole = stack_is_whole(f"{STACKED} stack pastes at 5 a second", window, clipper, history)
         if SESSION == "kwin":
             with Klipper(), Window() as second:
                 is_whole = stack_is_whole("the same with Klipper running", second, clipper, history) and is_whole
+    with Window() as window:
+        beside_copyq(window)
     tell("load at the end", f"{os.getloadavg()[0]:.1f}")
     sys.exit(0 if is_whole and lost == 0 else 1)
 
