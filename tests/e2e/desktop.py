@@ -55,6 +55,21 @@ def wait_until(condition, what, timeout=LIMIT):
         time.sleep(0.01)
 
 
+def wait_same(read, expected, what, timeout=LIMIT):
+    """Waits until what is read is what is expected; Failure, with what was read last, when it did not come in time."""
+    found = None
+
+    def has_come():
+        nonlocal found
+        found = read()
+        return found == expected
+
+    try:
+        wait_until(has_come, what, timeout)
+    except Failure as failure:
+        raise Failure(f"{failure}\n  expected {expected!r:.400}\n  found    {found!r:.400}") from None
+
+
 def same(actual, expected, what):
     if actual != expected:
         raise Failure(f"{what}:\n  expected {expected!r:.400}\n  found    {actual!r:.400}")
@@ -269,7 +284,7 @@ def window_of_class(name):
 def focus(window):
     """Activates a window and waits until it has the keyboard."""
     subprocess.run(["xdotool", "windowactivate", "--sync", window], **QUIET)
-    wait_until(lambda: active_window() == int(window), f"window {window} active")
+    wait_same(active_window, int(window), f"window {window} active")
 
 
 def focus_under_new_manager(window):

@@ -5,8 +5,8 @@ import os
 import subprocess
 
 from clients import Mousepad
-from desktop import (remember, QUIET, Process, Vellumry, accessible, active_window, copy_text, focused_window, key, main, own_tests, panel_is_open,
-                     run, same, text_of, wait_for_clip, wait_panel_closed, wait_until, windows)
+from desktop import (remember, QUIET, Process, Vellumry, accessible, active_window, copy_text, focused_window, key, main, own_tests,
+                     panel_is_open, run, same, text_of, wait_for_clip, wait_panel_closed, wait_same, wait_until, windows)
 
 PANEL = "^Vellumry$"
 MANAGER = os.environ.get("VELLUMRY_WM", "openbox")
@@ -72,8 +72,8 @@ def open_over(editor, pointer):
 
 
 def back_in(editor, before):
-    wait_until(lambda: active_window() == int(editor.window), "the editor active")
-    wait_until(lambda: focused_window() == before, "the keyboard in the editor")
+    wait_same(active_window, int(editor.window), "the editor active")
+    wait_same(focused_window, before, "the keyboard in the editor")
 
 
 def the_panel_floats_without_a_frame_and_is_in_no_task_bar():
@@ -109,7 +109,7 @@ def a_paste_lands_in_the_editor_wherever_the_pointer_lies():
             key("Return")
             wait_panel_closed()
             expected += "pasted"
-            wait_until(lambda: editor.content() == expected, f"the paste, the pointer at {pointer}")
+            wait_same(editor.content, expected, f"the paste, the pointer at {pointer}")
             back_in(editor, before)
 
 
@@ -125,7 +125,7 @@ def escape_gives_the_keyboard_back_wherever_the_pointer_lies():
             back_in(editor, before)
             key("x")
             expected += "x"
-            wait_until(lambda: editor.content() == expected, f"the letter, the pointer at {pointer}")
+            wait_same(editor.content, expected, f"the letter, the pointer at {pointer}")
 
 
 def a_click_on_another_window_closes_the_panel_and_that_window_has_the_keyboard():
@@ -139,7 +139,7 @@ def a_click_on_another_window_closes_the_panel_and_that_window_has_the_keyboard(
         same(place[1] > panel[1] + panel[3] or place[0] > panel[0] + panel[2], True, "the place is beside the panel")
         run("xdotool", "mousemove", *map(str, place), "click", "1")
         wait_panel_closed()
-        wait_until(lambda: active_window() == int(other.window), "the other window active")
+        wait_same(active_window, int(other.window), "the other window active")
 
 
 def bars_and_messages_take_no_keyboard():
@@ -154,7 +154,7 @@ def bars_and_messages_take_no_keyboard():
         copy_text("stacked")
         wait_for_clip(lambda row: text_of(row) == "stacked", "the copy")
         key("ctrl+v")
-        wait_until(lambda: editor.content() == "stacked", "the paste of the stack")
+        wait_same(editor.content, "stacked", "the paste of the stack")
         wait_until(lambda: not windows("^Paste Stack$"), "the bar to go")
         key("super+alt+3")
         wait_until(lambda: windows("^Vellumry message$"), "the message")

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Starting, filling and emptying a Paste Stack as a user does."""
 
-from desktop import key, wait_until, windows
+from desktop import key, wait_same, wait_until, windows
 
 TOGGLE = "super+ctrl+s"
 HUD = "^Paste Stack$"
@@ -26,4 +26,4 @@ def paste_each(client, combination, expected):
     for text in expected:
         key(combination)
         whole += text
-        wait_until(lambda: client.content() == whole, f"{whole!r} in the client")
+        wait_same(client.content, whole, f"{whole!r} in the client")

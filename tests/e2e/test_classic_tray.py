@@ -3,7 +3,8 @@
 
 from Xlib import X, display, error
 
-from desktop import (Process, Vellumry, accessible, main, own_tests, panel_is_open, picture, run, same, wait_panel_closed, wait_until)
+from desktop import (Process, Vellumry, accessible, main, own_tests, panel_is_open, picture, run, same, wait_panel_closed, wait_same,
+                     wait_until)
 from tray import Watcher
 
 
@@ -37,7 +38,7 @@ def icons():
 
 
 def one_icon():
-    wait_until(lambda: len(icons()) == 1, "one icon in the tray")
+    wait_same(lambda: len(icons()), 1, "one icon in the tray")
     return icons()[0]
 
 

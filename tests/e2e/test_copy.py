@@ -9,7 +9,7 @@ import time
 from clients import Chromium, FeatherPad, KeePassXC, Mousepad, Pcmanfm, XTerm, store_and_quit
 from clients.owners import BusyOwner, Owner
 from desktop import (HISTORY, Failure, Vellumry, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests, representation,
-                     run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until)
+                     run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_same, wait_until)
 
 TEXT = "public.utf8-plain-text"
 
@@ -135,7 +135,7 @@ def what_was_copied_outlives_the_application():
             wait_for_clip(lambda row: text_of(row) == text, "the terminal's line")
             before = len(unsealed())
             client.stop(signal.SIGKILL)
-        wait_until(lambda: clipboard() == text.encode(), "the clipboard to hold the line of the dead terminal")
+        wait_same(clipboard, text.encode(), "the clipboard to hold the line of the dead terminal")
         same(len(unsealed()), before, "clips; taking over is no new copy")
 
 
@@ -163,7 +163,7 @@ def a_program_that_has_its_copy_kept_and_quits_at_once_loses_nothing():
             text = f"stored {index}"
             store_and_quit(text)
             wait_for_clip(lambda row: text_of(row) == text, "the copy of a program that has quit", 60)
-            wait_until(lambda: clipboard() == text.encode(), "the clipboard to hold it", 60)
+            wait_same(clipboard, text.encode(), "the clipboard to hold it", 60)
 
 
 def a_cell_range_of_a_busy_office_program_is_kept_with_its_text():

@@ -5,8 +5,8 @@ import os
 import subprocess
 
 from clients import Mousepad
-from desktop import (remember, QUIET, Failure, Process, Vellumry, accessible, active_window, focused_window, key, main, open_panel, own_tests, panel_is_open, run, same,
-                     wait_panel_closed, wait_until, windows)
+from desktop import (remember, QUIET, Failure, Process, Vellumry, accessible, active_window, focused_window, key, main, open_panel,
+                     own_tests, panel_is_open, run, same, wait_panel_closed, wait_same, wait_until, windows)
 
 LEFT, RIGHT = (0, 960), (960, 960)  # where a display begins and how wide it is
 
@@ -122,7 +122,7 @@ def each_display_remembers_its_own_place():
         open_on(RIGHT)
         same(frame(), moved, "its place on the display where it was dragged")
         drag_panel(home[0] - moved[0] + 12, home[1] - moved[1] + 12)
-        wait_until(lambda: frame() == home, "the panel to slide home")
+        wait_same(frame, home, "the panel to slide home")
         wait_until(lambda: "panelPositions" not in open(saved, encoding="utf-8").read(), "the place to be forgotten")
 
 
@@ -135,7 +135,7 @@ def with_a_finer_display():
 
 
 def size_is(width, height):
-    wait_until(lambda: frame()[2:] == (width, height), f"a panel of {width} x {height}; it is {frame()[2:]}")
+    wait_same(lambda: frame()[2:], (width, height), f"a panel of {width} x {height}; it is {frame()[2:]}")
 
 
 def corner_works():
@@ -186,7 +186,7 @@ def a_display_that_goes_leaves_the_panel_in_sight_and_working():
         same(panel_is_open(), True, "the panel is open")
         key("Return")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "still there", "the paste")
+        wait_same(editor.content, "still there", "the paste")
         same((active_window(), focused_window()), (int(editor.window), before), "who has the keyboard")
 
 
@@ -222,7 +222,7 @@ def it_lies_above_a_full_screen():
         key("Return")
         wait_panel_closed()
         held = os.path.join(os.environ["HOME"], "full")
-        wait_until(lambda: open(held, encoding="utf-8").read() == "into the full screen", "the paste into the full screen")
+        wait_same(lambda: open(held, encoding="utf-8").read(), "into the full screen", "the paste into the full screen")
 
 
 if __name__ == "__main__":

@@ -8,8 +8,9 @@ import tempfile
 
 from clients import FeatherPad, Mousepad, Pcmanfm
 from clients.owners import Owner
-from desktop import (HERE, Process, Vellumry, accessible, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests, panel_is_open, picture,
-                     remember, run, same, text_of, wait_for_clip, wait_panel_closed, wait_until, windows)
+from desktop import (HERE, Process, Vellumry, accessible, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests,
+                     panel_is_open, picture, remember, run, same, text_of, wait_for_clip, wait_panel_closed, wait_same, wait_until,
+                     windows)
 from panel_rows import middle, row, texts_kept, wait_menu_closed
 
 RUNTIME = os.environ["XDG_RUNTIME_DIR"]
@@ -90,7 +91,7 @@ def a_text_into_a_gtk_editor():
         picture("drag")
         run("xdotool", "mouseup", "1")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "dragged", "the text in the editor")
+        wait_same(editor.content, "dragged", "the text in the editor")
         same(clipboard(), b"newer", "the clipboard")
 
 
@@ -102,7 +103,7 @@ def a_text_into_a_qt_editor():
         open_panel()
         carry("dragged", target)
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "dragged", "the text in the editor")
+        wait_same(editor.content, "dragged", "the text in the editor")
 
 
 def a_quick_hand_drags_too():
@@ -125,7 +126,7 @@ def a_quick_hand_drags_too():
         wait_until(lambda: windows("^Vellumry drag$"), "the picture at the pointer")
         run("xdotool", "mouseup", "1")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "dragged", "the text in the editor")
+        wait_same(editor.content, "dragged", "the text in the editor")
 
 
 def several_texts_are_joined():
@@ -137,7 +138,7 @@ def several_texts_are_joined():
         key("shift+Down", "shift+Down")
         carry("two", target)
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "one\ntwo\nthree", "the texts in the editor")
+        wait_same(editor.content, "one\ntwo\nthree", "the texts in the editor")
 
 
 def files_into_a_file_manager():
@@ -169,7 +170,7 @@ def a_picture_into_a_file_manager():
         wait_panel_closed()
         wait_until(lambda: glob.glob(os.path.join(manager.folder, "*.png")), "a file in the folder")
         saved = glob.glob(os.path.join(manager.folder, "*.png"))[0]
-        wait_until(lambda: open(saved, "rb").read() == data, "the picture whole")
+        wait_same(lambda: open(saved, "rb").read(), data, "the picture whole")
     same(leftovers(), [], "files left behind")
 
 
@@ -214,7 +215,7 @@ def a_picture_goes_in_its_own_format():
             carry(title, target)
             wait_panel_closed()
             saved = wait_until(lambda: glob.glob(os.path.join(manager.folder, "*.jpg")), "a file in the folder")[0]
-            wait_until(lambda: open(saved, "rb").read() == data, "the picture whole")
+            wait_same(lambda: open(saved, "rb").read(), data, "the picture whole")
 
 
 def what_nobody_takes_comes_back():
@@ -237,7 +238,7 @@ def what_nobody_takes_comes_back():
         key("Escape")
         wait_menu_closed()
         key("ctrl+Delete")
-        wait_until(lambda: texts_kept() == [], "the panel to hear keys")
+        wait_same(texts_kept, [], "the panel to hear keys")
 
 
 if __name__ == "__main__":

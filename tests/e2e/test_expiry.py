@@ -10,7 +10,7 @@ import time
 import desktop
 from clients import Mousepad, XTerm
 from desktop import (DATA, HISTORY, Failure, Vellumry, accessible, clipboard, copy_text, focus, fresh, key, main, open_panel,
-                     own_tests, owner_of, panel_is_open, same, wait_panel_closed, wait_until)
+                     own_tests, owner_of, panel_is_open, same, wait_panel_closed, wait_same, wait_until)
 from history_probe import HistoryProbe, ids
 from memory_probe import can_look_into, found_in, spread_in
 from settings_file import forget_settings, write_settings
@@ -164,7 +164,7 @@ def offered_by_us(probe, card):
         editor.type_and_copy(card)
         stored = stored_card(probe, card)
         editor.stop(signal.SIGKILL)
-    wait_until(lambda: clipboard() == card.encode(), "the program to offer what the dead editor had copied")
+    wait_same(clipboard, card.encode(), "the program to offer what the dead editor had copied")
     return stored
 
 
@@ -186,7 +186,7 @@ def a_card_that_was_pasted_goes_from_the_clipboard_at_its_time():
         with Mousepad() as editor:
             open_panel()
             key("Return")
-            wait_until(lambda: editor.content() == card, "the card in the editor", 60)
+            wait_same(editor.content, card, "the card in the editor", 60)
             wait_until(lambda: not ids(), "the row to go", LIFETIME + 2)
             wait_until(lambda: not owner_of("CLIPBOARD"), "the clipboard to be nobody's", 60)
 
@@ -199,7 +199,7 @@ def a_card_that_was_pasted_into_a_terminal_goes_from_the_primary_selection():
             focus(terminal.window)
             open_panel()
             key("Return")
-            wait_until(lambda: clipboard(selection="primary") == card.encode(), "the card on the primary selection", 60)
+            wait_same(lambda: clipboard(selection="primary"), card.encode(), "the card on the primary selection", 60)
             if ends_by == "the next copy":
                 copy_text("something else")
             else:

@@ -7,7 +7,7 @@ import signal
 import time
 
 from desktop import (Failure, Vellumry, clipboard, copy_text, key, main, open_panel, own_tests, run, same, text_of, text_shown,
-                     type_text, wait_for_clip, wait_panel_closed, wait_until)
+                     type_text, wait_for_clip, wait_panel_closed, wait_same, wait_until)
 from clients.owners import HostileOwner, Silence
 
 ANSWER_LIMIT = 0.5
@@ -18,7 +18,7 @@ def field():
 
 
 def field_becomes(text, timeout=10.0):
-    wait_until(lambda: field() == text, f"{text!r} in the search field", timeout)
+    wait_same(field, text, f"{text!r} in the search field", timeout)
 
 
 def pastes_what_was_copied():
@@ -45,7 +45,7 @@ def copies_what_is_selected():
         type_text("some words")
         field_becomes("some words")
         key("ctrl+a", "ctrl+c")
-        wait_until(lambda: clipboard() == b"some words", "the words on the clipboard")
+        wait_same(clipboard, b"some words", "the words on the clipboard")
         wait_for_clip(lambda row: text_of(row) == "some words", "them in the history")
         key("ctrl+x")
         field_becomes("")

@@ -8,7 +8,7 @@ import sqlite3
 import subprocess
 
 from desktop import (DATA, HISTORY, PROGRAM, QUIET, SETTINGS, Vellumry, accessible, copy_text, focus, forgo_greeting, key, main,
-                     open_panel, own_tests, panel_is_open, picture, run, same, wait_panel_closed, wait_until, windows)
+                     open_panel, own_tests, panel_is_open, picture, run, same, wait_panel_closed, wait_same, wait_until, windows)
 from history_probe import HistoryProbe, integrity
 
 NEW_MOUNT_NAMESPACE = 0x00020000
@@ -195,7 +195,7 @@ def a_full_disk():
         same(probe.texts(), older[::-1], "the history on a full disk")
         disk.empty()
         everything = [late] + older[::-1]
-        wait_until(lambda: probe.texts() == everything, "the copy in the file once there is room", 60)
+        wait_same(probe.texts, everything, "the copy in the file once there is room", 60)
         same((program.alive(), integrity()), (True, "ok"), "the history")
         program.stop()
         with Vellumry():
@@ -221,7 +221,7 @@ def a_history_on_a_disk_that_is_full_at_the_next_start():
             memory_only("full-disk-later")
             same(glob.glob(DATA + "/History-unreadable-*"), [], "what was put aside")
             disk.empty()
-            wait_until(lambda: HistoryProbe().texts() == ["held in memory", "kept before"], "both in the file", 120)
+            wait_same(lambda: HistoryProbe().texts(), ["held in memory", "kept before"], "both in the file", 120)
         with Vellumry():
             same(HistoryProbe().texts(), ["held in memory", "kept before"], "the history after a restart")
 
@@ -287,7 +287,7 @@ def a_home_on_a_disk_that_is_full():
             memory_only("full-home")
             turns_a_switch()
             disk.empty()
-            wait_until(lambda: kept_now() == ["held in memory"], "the copy in the file once there is room", 120)
+            wait_same(kept_now, ["held in memory"], "the copy in the file once there is room", 120)
             same(program.alive(), True, "the program")
 
 

@@ -5,7 +5,7 @@ import signal
 
 from clients import ShortcutHolder
 from desktop import (Vellumry, accessible, focus, key, main, own_tests, panel_is_open, picture, same, text_of, text_shown,
-                     wait_for_clip, wait_panel_closed, wait_until, windows)
+                     wait_for_clip, wait_panel_closed, wait_same, wait_until, windows)
 from settings_file import forget_settings, settings
 
 WELCOME = "^Welcome to Vellumry$"
@@ -57,7 +57,7 @@ def from_an_empty_home_to_the_first_paste():
         wait_until(lambda: SAMPLE in field_text(), "the paste in our own window")
         picture("first-run-try")
         press_button("^Replay$")
-        wait_until(lambda: field_text() == "", "an empty field")
+        wait_same(field_text, "", "an empty field")
         press_button("^Continue$")
         shown("heading", "You're all set")
         picture("first-run-done")

@@ -4,7 +4,7 @@
 import time
 
 from desktop import (Failure, Vellumry, copy_bytes, key, main, open_panel, own_tests, representation, run, same, wait_panel_closed,
-                     wait_until)
+                     wait_same, wait_until)
 from history_probe import HistoryProbe, ids
 from clients.owners import HostileOwner, Pieces, Silence
 
@@ -161,7 +161,7 @@ def a_large_text_is_kept_byte_for_byte():
     with Watched() as watched:
         data = b"0123456789abcd\xc3\xa4" * (50_000_000 // 16)
         with HostileOwner({"UTF8_STRING": Pieces.of(data)}):
-            wait_until(lambda: len(ids()) == 2, "the large text", 30)
+            wait_same(lambda: len(ids()), 2, "the large text", 30)
         same(representation(watched.probe.rows()[0], "public.utf8-plain-text") == data, True, "the same bytes")
         watched.probe.copy_is_prompt("after it")
 

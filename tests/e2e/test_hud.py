@@ -4,7 +4,7 @@ pointer."""
 
 from clients import Mousepad
 from desktop import (Vellumry, accessible, active_window, copy_text, focused_window, key, main, open_panel, own_tests, run, same,
-                     text_of, wait_for_clip, wait_panel_closed, wait_until, windows)
+                     text_of, wait_for_clip, wait_panel_closed, wait_same, wait_until, windows)
 
 BAR = "^Paste Stack$"
 MESSAGE = "^Vellumry message$"
@@ -53,7 +53,7 @@ def a_finished_stack_takes_its_bar_along():
         copy_text("the only one")
         wait_for_clip(lambda row: text_of(row) == "the only one", "the copy")
         key("ctrl+v")
-        wait_until(lambda: editor.content() == "the only one", "the paste")
+        wait_same(editor.content, "the only one", "the paste")
         wait_until(lambda: bar() is None, "the bar to go", 5)
 
 
@@ -69,7 +69,7 @@ def the_panels_button_starts_a_stack():
         copy_text("by the button")
         wait_for_clip(lambda row: text_of(row) == "by the button", "the copy")
         key("ctrl+v")
-        wait_until(lambda: editor.content() == "by the button", "the paste")
+        wait_same(editor.content, "by the button", "the paste")
         wait_until(lambda: bar() is None, "the bar to go", 5)
 
 

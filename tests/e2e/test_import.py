@@ -9,8 +9,8 @@ import shutil
 import stat
 import subprocess
 
-from desktop import (copy_text, DATA, PROGRAM, QUIET, Process, Vellumry, accessible, focus, key, main, own_tests, picture, remember, run, same,
-                     text_of, unsealed, wait_for_clip, wait_until, windows)
+from desktop import (copy_text, DATA, PROGRAM, QUIET, Process, Vellumry, accessible, focus, key, main, own_tests, picture, remember,
+                     run, same, text_of, unsealed, wait_for_clip, wait_same, wait_until, windows)
 from settings_file import forget_settings
 
 HOME = os.environ["HOME"]
@@ -23,7 +23,7 @@ def with_copyq(*texts):
     """CopyQ remembers these, the last one on top, and is closed."""
     forget_peers()
     with Process("copyq") as peer:
-        wait_until(lambda: subprocess.run(["copyq", "size"], **QUIET).returncode == 0, "CopyQ")
+        wait_same(lambda: subprocess.run(["copyq", "size"], **QUIET).returncode, 0, "CopyQ")
         for text in texts:
             run("copyq", "add", text)
         run("copyq", "exit")
@@ -112,12 +112,12 @@ def taken_over(folder):
         press("Import")
         says("2 clips were imported. 1 password, code or key was left out.")
         picture("import-done")
-        wait_until(lambda: len(unsealed()) == 3, "the clips on the disk")
+        wait_same(lambda: len(unsealed()), 3, "the clips on the disk")
         theirs = sorted((row for row in unsealed() if "theirs" in text_of(row)), key=lambda row: -row["used"])
         same([text_of(row) for row in theirs], ["newest of theirs", "oldest of theirs"], "their order")
         same(traces(folder), before, "their folder")
         press("Undo Import")
-        wait_until(lambda: len(unsealed()) == 1, "the own clip alone")
+        wait_same(lambda: len(unsealed()), 1, "the own clip alone")
 
 
 THEIRS = ("oldest of theirs", "4111 1111 1111 1111", "newest of theirs")
@@ -180,7 +180,7 @@ def everything_goes_into_a_folder_and_comes_back():
         run("xdotool", "type", "--delay", "1", target)
         key("Return")
         says("2 clips were imported.")
-        wait_until(lambda: len(unsealed()) == 2, "the clips on the disk")
+        wait_same(lambda: len(unsealed()), 2, "the clips on the disk")
 
 
 if __name__ == "__main__":

@@ -5,8 +5,8 @@ import os
 import subprocess
 
 from clients import Mousepad
-from desktop import (remember, Process, Vellumry, accessible, focused_window, key, main, own_tests, panel_is_open, run, same, text_shown, wait_panel_closed,
-                     wait_until, windows)
+from desktop import (remember, Process, Vellumry, accessible, focused_window, key, main, own_tests, panel_is_open, run, same,
+                     text_shown, wait_panel_closed, wait_same, wait_until, windows)
 
 ENGINE = "libpinyin"
 FIELD = "^Search clips$"
@@ -26,7 +26,7 @@ class InputMethod(Process):
         with open(os.path.join(folder, "keyfile"), "w", encoding="utf-8") as file:
             file.write(f"[desktop/ibus/general]\npreload-engines=['{ENGINE}']\n")
         super().__init__("ibus-daemon", "--xim", env=dict(os.environ, GSETTINGS_BACKEND="keyfile", PATH="/usr/bin:/bin"))
-        wait_until(lambda: output("ibus", "engine") == ENGINE, "the engine")
+        wait_same(lambda: output("ibus", "engine"), ENGINE, "the engine")
 
 
 def with_input_method():
@@ -107,12 +107,12 @@ def return_takes_the_letters_and_pastes_nothing():
         open_field()
         compose("zhongguo")
         key("Return")
-        wait_until(lambda: in_field() == "zhongguo", "the letters in the field")
+        wait_same(in_field, "zhongguo", "the letters in the field")
         same(panel_is_open(), True, "the panel is open")
         same(editor.content(), "", "the editor's text")
         key("Return")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "zhongguo in letters", "the paste")
+        wait_same(editor.content, "zhongguo in letters", "the paste")
 
 
 def escape_gives_up_what_is_composed_and_then_the_panel():

@@ -9,7 +9,7 @@ import tempfile
 import keyring
 from clients import FeatherPad
 from desktop import (DATA, QUIET, Process, Vellumry, copy_text, key, main, open_panel, own_tests, picture, run, same,
-                     wait_panel_closed, wait_until, windows)
+                     wait_panel_closed, wait_same, wait_until, windows)
 from history_probe import HistoryProbe, ids
 
 ITEM = ("service", "com.vellumry.Vellumry.history", "account", "history-key-v1")
@@ -70,7 +70,7 @@ def works_in_memory(name):
     with FeatherPad() as editor:
         for text in ("held in memory, first", "held in memory, second"):
             copy_text(text)
-            wait_until(lambda: pasted(editor) == text, "the copy on top of the panel")
+            wait_same(lambda: pasted(editor), text, "the copy on top of the panel")
         same(pasted(editor, "Down"), "held in memory, first", "the row below it")
         # Two rows: Down in the second stays there. A clip from before would come third.
         same(pasted(editor, "Down", "Down", "Down"), "held in memory, second", "the last row, after the first was used")
@@ -80,7 +80,7 @@ def pasted(editor, *moves):
     """What the editor holds once the chosen row was pasted into it while it was empty."""
     key("ctrl+a")
     key("Delete")
-    wait_until(lambda: editor.content() == "", "an empty editor")
+    wait_same(editor.content, "", "an empty editor")
     open_panel()
     for move in moves:
         key(move)
@@ -170,7 +170,7 @@ def with_a_keyring_that_is_unlocked_later():
         copy_text("copied while it was locked")
         same(len(ids()), 2, "the rows of the file meanwhile")
         keyring.unlock()
-        wait_until(lambda: len(ids()) == 3, "the copy in the file", 60)
+        wait_same(lambda: len(ids()), 3, "the copy in the file", 60)
         wait_panel_closed()
         probe = HistoryProbe()
         same(probe.texts(), ["copied while it was locked", "kept before, second", "kept before, first"], "the history")
@@ -190,7 +190,7 @@ def with_the_keyring_s_question_unanswered():
         wait_until(lambda: windows("^Vellumry$"), "the alert", 60)
         same(len(ids()), 2, "the rows of the file while the keyring is locked")
         keyring.unlock()
-        wait_until(lambda: len(ids()) == 3, "the copy in the file", 60)
+        wait_same(lambda: len(ids()), 3, "the copy in the file", 60)
 
 
 def with_a_service_that_has_no_keyring():

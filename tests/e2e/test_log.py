@@ -11,8 +11,8 @@ import tempfile
 from clients import FeatherPad, Mousepad
 from clients.owners import Owner
 from desktop import (DATA, PROGRAM, Process, Vellumry, accessible, copy_bytes, focus, key, main, open_panel, own_tests, panel_is_open,
-                     remember, representation, run, same, text_of, type_text, unsealed, wait_for_clip, wait_panel_closed, wait_until,
-                     window_of_class, windows)
+                     remember, representation, run, same, text_of, type_text, unsealed, wait_for_clip, wait_panel_closed, wait_same,
+                     wait_until, window_of_class, windows)
 from panel_rows import choose, middle, open_row_menu, row
 from settings_file import write_settings
 
@@ -103,7 +103,7 @@ def of_previews_menus_merges_and_deletions():
         key("Delete")
         wait_until(lambda: len(unsealed()) < before, "the deletion")
         key("ctrl+z")
-        wait_until(lambda: len(unsealed()) == before, "the deleted clip back")
+        wait_same(lambda: len(unsealed()), before, "the deleted clip back")
         key("Escape")
 
 

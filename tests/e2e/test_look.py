@@ -5,8 +5,8 @@ import os
 import struct
 import subprocess
 
-from desktop import (HERE, Failure, Process, Vellumry, accessible, copy_text, main, open_panel, own_tests, run, text_of, wait_for_clip, wait_until,
-                     windows)
+from desktop import (HERE, Failure, Process, Vellumry, accessible, copy_text, main, open_panel, own_tests, run, text_of, wait_for_clip,
+                     wait_same, wait_until, windows)
 
 
 class Portal(Process):
@@ -132,7 +132,7 @@ def the_settings_managers_theme_and_font_are_followed():
             wait_until(lambda: row_height() > before, "higher rows for larger letters")
             manager.tell({"Net/ThemeName": "Greybird", "Gtk/FontName": "Sans 10"})
             wait_until(is_light, "a light panel again")
-            wait_until(lambda: row_height() == before, "rows as before")
+            wait_same(row_height, before, "rows as before")
     finally:
         manager.close()
 

@@ -15,7 +15,7 @@ from Xlib import X, display
 from clients import FieldWindow, LockedKeePassXC, Mousepad
 from clients.owners import Owner
 from desktop import (QUIET, Vellumry, accessible, active_window, clipboard, copy_bytes, focus, key, main, open_panel, own_tests,
-                     picture, remember, representation, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until,
+                     picture, remember, representation, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_same, wait_until,
                      windows)
 from settings_file import forget_settings, write_settings
 
@@ -96,7 +96,7 @@ def pasting_presses_the_key_and_says_nothing():
     with Vellumry(), Mousepad() as editor:
         remember("plain words")
         choose()
-        wait_until(lambda: editor.content() == "plain words", "the paste")
+        wait_same(editor.content, "plain words", "the paste")
         told_nothing()
 
 
@@ -111,7 +111,7 @@ def without_direct_paste_it_copies_and_says_so():
             same((clipboard(), editor.content()), (b"older", ""), "clipboard and editor")
             same(text_of(unsealed()[0]), "older", "the clip that was used last")
             key("ctrl+v")
-            wait_until(lambda: editor.content() == "older", "the paste by hand")
+            wait_same(editor.content, "older", "the paste by hand")
     finally:
         forget_settings()
 
@@ -137,7 +137,7 @@ def a_password_field_gets_nothing():
         told(SECURE)
         same((clipboard(), field.content()), (b"not a password", ""), "clipboard and field")
         key("ctrl+v")
-        wait_until(lambda: field.content() == "not a password", "the paste by hand")
+        wait_same(field.content, "not a password", "the paste by hand")
 
 
 def a_password_field_of_a_qt_program_gets_nothing():
@@ -153,7 +153,7 @@ def a_common_field_beside_a_password_field_gets_its_paste():
     with Vellumry(), FieldWindow("name") as field:
         remember("a name")
         choose()
-        wait_until(lambda: field.content() == "a name", "the paste in the field")
+        wait_same(field.content, "a name", "the paste in the field")
         told_nothing()
 
 
@@ -163,7 +163,7 @@ def plain_text_goes_without_its_style():
         row = wait_for_clip(lambda row: text_of(row) == "styled", "the styled copy")
         same(representation(row, "public.html"), b"<b>styled</b>", "the style of the clip")
         choose("shift+Return")
-        wait_until(lambda: editor.content() == "styled", "the words in the editor")
+        wait_same(editor.content, "styled", "the words in the editor")
         same(clipboard("text/html"), None, "the style on the clipboard")
         told_nothing()
 
@@ -172,7 +172,7 @@ def a_transform_changes_the_words():
     with Vellumry(), Mousepad() as editor:
         remember("Words OF a Clip")
         choose("ctrl+t", "Return")
-        wait_until(lambda: editor.content() == "words of a clip", "lower case in the editor")
+        wait_same(editor.content, "words of a clip", "lower case in the editor")
         same(text_of(unsealed()[0]), "Words OF a Clip", "the clip itself")
 
 
@@ -182,7 +182,7 @@ def a_moved_file_pastes_from_its_new_place():
         moved = os.path.join(os.path.dirname(path), "renamed.txt")
         os.rename(path, moved)
         choose()
-        wait_until(lambda: listed_file() == moved, "the file's new place on the clipboard")
+        wait_same(listed_file, moved, "the file's new place on the clipboard")
         told_nothing()
 
 
@@ -198,7 +198,7 @@ def a_file_in_the_trash_still_pastes():
         os.rename(path, trashed)
         try:
             choose()
-            wait_until(lambda: listed_file() == trashed, "the file in the trash on the clipboard")
+            wait_same(listed_file, trashed, "the file in the trash on the clipboard")
             told_nothing()
         finally:
             shutil.rmtree(trash)
@@ -243,7 +243,7 @@ def a_target_that_closes_under_the_panel_leaves_its_text_to_nobody():
         told(COPIED)
         focus(neighbour.window)
         key("x")
-        wait_until(lambda: neighbour.content() == "x", "the neighbour's own key, and nothing before it")
+        wait_same(neighbour.content, "x", "the neighbour's own key, and nothing before it")
         same(clipboard(), b"meant for the editor", "the clipboard")
 
 
@@ -255,7 +255,7 @@ def a_window_that_opens_over_the_panel_gets_nothing():
         with FieldWindow("name") as newcomer:
             wait_panel_closed()
             key("Return", "x")
-            wait_until(lambda: newcomer.content() == "x", "the newcomer's own key, and nothing before it")
+            wait_same(newcomer.content, "x", "the newcomer's own key, and nothing before it")
             told_nothing()
             same(editor.content(), "", "the editor's text")
 

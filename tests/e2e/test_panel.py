@@ -6,7 +6,7 @@ import os
 from clients import Mousepad
 from desktop import (Process, Vellumry, accessible, active_window, clipboard, focus_under_new_manager, focused_window, fresh, key,
                      main, open_panel, panel_is_open, remember, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed,
-                     wait_until, windows)
+                     wait_same, wait_until, windows)
 from panel_rows import click, point_at, row, texts_kept
 
 FOLLOWING_MOUSE = """<?xml version="1.0"?>
@@ -38,7 +38,7 @@ def pins_and_unpins():
         row("one")
         key("Home")
         key("ctrl+p")
-        wait_until(lambda: sum(bool(kept["pinned"]) for kept in unsealed()) == 1, "one pin left")
+        wait_same(lambda: sum(bool(kept["pinned"]) for kept in unsealed()), 1, "one pin left")
         key("ctrl+p")
         wait_until(lambda: not any(kept["pinned"] for kept in unsealed()), "no pin left")
 
@@ -53,7 +53,7 @@ def deletes_the_chosen_clip():
         wait_until(lambda: "delete me" not in texts_kept(), "the deletion")
         key("Return")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "keep me", "the paste of the neighbour")
+        wait_same(editor.content, "keep me", "the paste of the neighbour")
 
 
 def merges_and_stays():
@@ -75,7 +75,7 @@ def copies_a_merge_and_a_clip():
         key("Down")
         key("ctrl+c")
         wait_panel_closed()
-        wait_until(lambda: clipboard() == b"first", "the clip on the clipboard")
+        wait_same(clipboard, b"first", "the clip on the clipboard")
         open_panel()
         key("shift+Down")
         key("ctrl+c")
@@ -100,7 +100,7 @@ def clicks_choose_ranges_and_single_clips():
         selected("delta", "gamma", "beta", "alpha")
         run("xdotool", "mouseup", "1")
         key("ctrl+BackSpace")
-        wait_until(lambda: sorted(texts_kept()) == ["alpha", "beta", "delta"], "only the clicked one deleted")
+        wait_same(lambda: sorted(texts_kept()), ["alpha", "beta", "delta"], "only the clicked one deleted")
 
 
 def a_double_click_with_ctrl_pastes_nothing():
@@ -114,7 +114,7 @@ def a_double_click_with_ctrl_pastes_nothing():
         same(panel_is_open(), True, "the panel is open")
         run("xdotool", "click", "--repeat", "2", "--delay", "40", "1")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "older", "the paste")
+        wait_same(editor.content, "older", "the paste")
 
 
 def the_thumb_is_dragged():
@@ -157,7 +157,7 @@ def pastes_where_the_focus_follows_the_mouse():
                 key(end)
                 wait_panel_closed()
                 if end == "Return":
-                    wait_until(lambda: editor.content() == "to the editor", "the paste")
+                    wait_same(editor.content, "to the editor", "the paste")
                 wait_until(lambda: focused_window() == before and active_window() == int(editor.window), "the focus in the editor")
         same(terminal.alive(), True, "the terminal still stands")
 

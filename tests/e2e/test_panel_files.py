@@ -8,7 +8,7 @@ import urllib.parse
 
 from clients import Mousepad
 from desktop import (HERE, Vellumry, accessible, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests, picture, run, same,
-                     text_of, wait_for_clip, wait_panel_closed, wait_until, windows)
+                     text_of, wait_for_clip, wait_panel_closed, wait_same, wait_until, windows)
 from panel_rows import choose, menu_entries, middle, open_row_menu, row
 
 
@@ -92,7 +92,7 @@ def copies_files():
         open_panel()
         open_row_menu(title)
         choose("Copy")
-        wait_until(lambda: (clipboard("text/uri-list") or b"").strip() == address(path).encode(), "the file on the clipboard")
+        wait_same(lambda: (clipboard("text/uri-list") or b"").strip(), address(path).encode(), "the file on the clipboard")
 
 
 def copies_a_file_whose_name_is_not_utf8():
@@ -108,7 +108,7 @@ def copies_a_file_whose_name_is_not_utf8():
         open_panel()
         open_row_menu(title)
         choose("Copy")
-        wait_until(lambda: (clipboard("text/uri-list") or b"").strip() == address(path).encode(), "the file on the clipboard")
+        wait_same(lambda: (clipboard("text/uri-list") or b"").strip(), address(path).encode(), "the file on the clipboard")
 
 
 def pastes_the_names_of_files_that_are_gone():
@@ -123,13 +123,13 @@ def pastes_the_names_of_files_that_are_gone():
         same(menu_entries(), ["Paste File Name", "Pin", "Add to Paste Stack", "Delete"], "the entries of files that are gone")
         choose("Paste File Name")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "one.txt\ntwo.txt", "the names")
+        wait_same(editor.content, "one.txt\ntwo.txt", "the names")
         editor.clear()
         open_panel()
         same(accessible("vellumry", "push button", "^Paste$"), None, "a button that could paste nothing")
         press("^Paste file name$")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "one.txt\ntwo.txt", "the names by the button")
+        wait_same(editor.content, "one.txt\ntwo.txt", "the names by the button")
 
 
 def pastes_the_words_of_a_picture():
@@ -143,7 +143,7 @@ def pastes_the_words_of_a_picture():
             open_panel()
             way()
             wait_panel_closed()
-            wait_until(lambda: editor.content() == "Quarterly", "the words")
+            wait_same(editor.content, "Quarterly", "the words")
             editor.clear()
         open_panel()
         open_row_menu(title)

@@ -4,7 +4,7 @@
 from clients import Mousepad
 from clients.owners import Owner
 from desktop import (Vellumry, accessible, clipboard, copy_text, key, main, open_panel, own_tests, panel_is_open, remember, same, text_of,
-                     text_shown, type_text, unsealed, wait_for_clip, wait_panel_closed, wait_until)
+                     text_shown, type_text, unsealed, wait_for_clip, wait_panel_closed, wait_same, wait_until)
 from panel_rows import choose, open_row_menu, texts_kept
 
 TEXTS = [f"clip {number:02}" for number in range(1, 21)]
@@ -20,7 +20,7 @@ def chosen():
 
 
 def wait_chosen(*titles):
-    wait_until(lambda: chosen() == list(titles), f"{titles} chosen; it is {chosen()}")
+    wait_same(chosen, list(titles), f"{titles} chosen; it is {chosen()}")
 
 
 def filter_shown():
@@ -58,11 +58,11 @@ def tab_and_sideways_arrows_change_the_filter():
         for pressed, name in (("Tab", "Text"), ("Tab", "Links"), ("shift+Tab", "Text"), ("Right", "Links"), ("Left", "Text"), ("Left", "All"),
                               ("Left", "Pinned"), ("Tab", "All")):
             key(pressed)
-            wait_until(lambda: filter_shown() == [name], f"the filter {name} behind {pressed}")
+            wait_same(filter_shown, [name], f"the filter {name} behind {pressed}")
         type_text("wd")
         key("Left")
         type_text("or")
-        wait_until(lambda: text_shown("vellumry", "text", "^Search clips$") == "word", "letters where the caret was put")
+        wait_same(lambda: text_shown("vellumry", "text", "^Search clips$"), "word", "letters where the caret was put")
         same(filter_shown(), ["All"], "the filter")
 
 
@@ -74,7 +74,7 @@ def digits_paste_and_those_without_a_row_are_swallowed():
         key("ctrl+7")
         key("ctrl+2")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "two", "the second row")
+        wait_same(editor.content, "two", "the second row")
 
 
 def plain_text_by_shift_and_by_alt():
@@ -86,7 +86,7 @@ def plain_text_by_shift_and_by_alt():
             open_panel()
             key(pressed)
             wait_panel_closed()
-            wait_until(lambda: editor.content() == "styled", f"the words by {pressed}")
+            wait_same(editor.content, "styled", f"the words by {pressed}")
             wait_until(lambda: clipboard("text/html") is None, "no style on the clipboard")
             editor.clear()
 
@@ -114,7 +114,7 @@ def escape_goes_back_a_step_at_a_time():
         key("Escape")
         wait_chosen("word one")
         key("Escape")
-        wait_until(lambda: text_shown("vellumry", "text", "^Search clips$") == "", "an empty field")
+        wait_same(lambda: text_shown("vellumry", "text", "^Search clips$"), "", "an empty field")
         same(panel_is_open(), True, "the panel is open")
         key("Escape")
         wait_panel_closed()
@@ -127,10 +127,10 @@ def several_are_pinned_and_unpinned():
         open_panel()
         key("shift+Down", "ctrl+p")
         pinned = lambda: sorted(text_of(kept) for kept in unsealed() if kept["pinned"])
-        wait_until(lambda: pinned() == ["three", "two"], "two pins")
+        wait_same(pinned, ["three", "two"], "two pins")
         open_row_menu("two")
         choose("Unpin 2 Clips")
-        wait_until(lambda: pinned() == [], "no pins")
+        wait_same(pinned, [], "no pins")
 
 
 def deletes_several_at_once():
@@ -139,7 +139,7 @@ def deletes_several_at_once():
         remember("one", "two", "three", "four")
         open_panel()
         key("Down", "shift+Down", "ctrl+Delete")
-        wait_until(lambda: sorted(texts_kept()) == ["four", "one"], "the deletion")
+        wait_same(lambda: sorted(texts_kept()), ["four", "one"], "the deletion")
         wait_chosen("one")
 
 
@@ -158,7 +158,7 @@ def transforms_go_by_keys():
         wait_until(lambda: accessible("vellumry", "push button", "^Paste transformed$") is None, "the list to close")
         key("ctrl+t", "End", "Up", "Up", "Up", "Up", "Return")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "SOME WORDS", "the transformed paste")
+        wait_same(editor.content, "SOME WORDS", "the transformed paste")
 
 
 if __name__ == "__main__":

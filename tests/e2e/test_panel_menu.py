@@ -6,7 +6,7 @@ import stat
 
 from clients import Mousepad
 from desktop import (Vellumry, accessible, active_window, clipboard, key, main, open_panel, own_tests, panel_is_open, picture,
-                     remember, run, same, text_of, text_shown, type_text, wait_for_clip, wait_panel_closed, wait_until)
+                     remember, run, same, text_of, text_shown, type_text, wait_for_clip, wait_panel_closed, wait_same, wait_until)
 from panel_rows import choose, menu_entries, menu_entry, middle, open_row_menu, row, texts_kept, wait_menu_closed
 
 
@@ -21,7 +21,7 @@ def pastes_a_clip():
         picture("row-menu")
         choose("Paste")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "older", "the paste")
+        wait_same(editor.content, "older", "the paste")
 
 
 def pastes_plain_and_transformed():
@@ -32,7 +32,7 @@ def pastes_plain_and_transformed():
         open_row_menu("Some Words")
         choose("Paste as Plain Text")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "Some Words", "the plain paste")
+        wait_same(editor.content, "Some Words", "the plain paste")
         editor.clear()
         open_panel()
         open_row_menu("Some Words")
@@ -42,7 +42,7 @@ def pastes_plain_and_transformed():
         picture("row-submenu")
         choose("UPPERCASE")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "SOME WORDS", "the transformed paste")
+        wait_same(editor.content, "SOME WORDS", "the transformed paste")
 
 
 def copies_a_clip():
@@ -52,7 +52,7 @@ def copies_a_clip():
         open_panel()
         open_row_menu("older")
         choose("Copy")
-        wait_until(lambda: clipboard() == b"older", "the clip on the clipboard")
+        wait_same(clipboard, b"older", "the clip on the clipboard")
         key("Escape")
         wait_panel_closed()
         same(editor.content(), "", "what was typed into the editor")
@@ -71,7 +71,7 @@ def pins_unpins_and_deletes():
         wait_for_clip(lambda kept: text_of(kept) == "older" and not kept["pinned"], "no pin")
         open_row_menu("older")
         choose("Delete")
-        wait_until(lambda: texts_kept() == ["newer"], "the deletion")
+        wait_same(texts_kept, ["newer"], "the deletion")
         same(panel_is_open(), True, "the panel is open")
 
 
@@ -84,9 +84,9 @@ def adds_to_the_stack():
         choose("Add to Paste Stack")
         key("Escape")
         wait_panel_closed()
-        wait_until(lambda: active_window() == int(editor.window), "the editor in front")
+        wait_same(active_window, int(editor.window), "the editor in front")
         key("ctrl+v")
-        wait_until(lambda: editor.content() == "stacked", "the stacked clip")
+        wait_same(editor.content, "stacked", "the stacked clip")
 
 
 def works_on_several():
@@ -100,7 +100,7 @@ def works_on_several():
                               "Delete 2 Clips"], "the entries for several")
         choose("Merge into One Clip")
         wait_for_clip(lambda kept: text_of(kept) == "two\nthree", "the merged clip")
-        wait_until(lambda: len(texts_kept()) == 4, "the merged clip in the list")
+        wait_same(lambda: len(texts_kept()), 4, "the merged clip in the list")
         key("Home", "shift+Down")
         open_row_menu("three")
         choose("Pin 2 Clips")
@@ -109,12 +109,12 @@ def works_on_several():
         key("Home", "shift+Down")
         open_row_menu("three")
         choose("Delete 2 Clips")
-        wait_until(lambda: sorted(texts_kept()) == ["one", "two"], "the deletion of both")
+        wait_same(lambda: sorted(texts_kept()), ["one", "two"], "the deletion of both")
         key("Home", "shift+Down")
         open_row_menu("one")
         choose("Merge and Paste")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "one\ntwo", "the merged paste")
+        wait_same(editor.content, "one\ntwo", "the merged paste")
 
 
 def pastes_one_by_one():
@@ -128,11 +128,11 @@ def pastes_one_by_one():
         key("Escape")
         key("Escape")
         wait_panel_closed()
-        wait_until(lambda: active_window() == int(editor.window), "the editor in front")
+        wait_same(active_window, int(editor.window), "the editor in front")
         key("ctrl+v")
-        wait_until(lambda: editor.content() == "first ", "the first clip")
+        wait_same(editor.content, "first ", "the first clip")
         key("ctrl+v")
-        wait_until(lambda: editor.content() == "first second ", "the second clip")
+        wait_same(editor.content, "first second ", "the second clip")
 
 
 def opens_a_link():
@@ -174,7 +174,7 @@ def is_worked_by_keys_alone():
             menu_entry("UPPERCASE")
             key("Down", "Return")
             wait_panel_closed()
-            wait_until(lambda: editor.content() == "A CLIP", "the transformed paste")
+            wait_same(editor.content, "A CLIP", "the transformed paste")
             editor.clear()
 
 
@@ -190,7 +190,7 @@ def closes_for_what_lies_beside():
         same(panel_is_open(), True, "the panel is open")
         open_row_menu("older")
         choose("Delete")
-        wait_until(lambda: texts_kept() == ["newer"], "the deletion")
+        wait_same(texts_kept, ["newer"], "the deletion")
 
 
 def reaches_the_programs_menu_without_a_tray():

@@ -5,7 +5,7 @@ import os
 import signal
 
 from desktop import (HISTORY, Vellumry, accessible, key, main, open_panel, own_tests, panel_is_open, picture, remember, run, same,
-                     text_of, text_shown, type_text, unsealed, wait_for_clip, wait_panel_closed, wait_until)
+                     text_of, text_shown, type_text, unsealed, wait_for_clip, wait_panel_closed, wait_same, wait_until)
 from panel_rows import middle, row, texts_kept
 
 
@@ -28,11 +28,11 @@ def comes_back_by_key_as_it_was():
         before = kept()
         key("Home", "shift+Down")
         key("ctrl+Delete", "ctrl+z")
-        wait_until(lambda: kept() == before, "the clips back")
+        wait_same(kept, before, "the clips back")
         key("ctrl+Delete")
-        wait_until(lambda: texts_kept() == ["older"], "the deletion")
+        wait_same(texts_kept, ["older"], "the deletion")
         key("ctrl+z")
-        wait_until(lambda: kept() == before, "the clips back once more")
+        wait_same(kept, before, "the clips back once more")
 
 
 def comes_back_by_the_button():
@@ -42,11 +42,11 @@ def comes_back_by_the_button():
         open_panel()
         same(undo_button(), None, "an offer before anything was deleted")
         key("Delete")
-        wait_until(lambda: texts_kept() == ["older"], "the deletion")
+        wait_same(texts_kept, ["older"], "the deletion")
         button = wait_until(undo_button, "the offer")
         picture("undo")
         run("xdotool", "mousemove", *map(str, middle(button)), "click", "1")
-        wait_until(lambda: texts_kept() == ["newer", "older"], "the clip back")
+        wait_same(texts_kept, ["newer", "older"], "the clip back")
         wait_until(lambda: undo_button() is None, "the offer to end")
 
 
@@ -58,7 +58,7 @@ def is_offered_for_a_while_only():
         key("Delete")
         wait_until(undo_button, "the offer")
         wait_until(lambda: undo_button() is None, "the offer to end")
-        wait_until(lambda: os.path.getsize(HISTORY + "-wal") == 0, "the log to be emptied")
+        wait_same(lambda: os.path.getsize(HISTORY + "-wal"), 0, "the log to be emptied")
         key("ctrl+z")
         row("older")
         same(texts_kept(), ["older"], "the clips kept")
@@ -70,7 +70,7 @@ def is_over_when_the_panel_closes():
         remember("older", "newer")
         open_panel()
         key("Delete")
-        wait_until(lambda: texts_kept() == ["older"], "the deletion")
+        wait_same(texts_kept, ["older"], "the deletion")
         key("Escape")
         wait_panel_closed()
         open_panel()
@@ -88,7 +88,7 @@ def a_killed_program_has_deleted():
         open_panel()
         key("Delete")
         wait_until(undo_button, "the offer")
-        wait_until(lambda: texts_kept() == ["older"], "the deletion in the file")
+        wait_same(texts_kept, ["older"], "the deletion in the file")
         program.stop(signal.SIGKILL)
     with Vellumry():
         open_panel()
@@ -103,7 +103,7 @@ def a_secret_has_no_way_back():
         wait_for_clip(lambda entry: entry["expires"] is not None, "the card number, kept for a minute")
         open_panel()
         key("Up", "Home", "Delete")
-        wait_until(lambda: texts_kept() == ["plain"], "the deletion")
+        wait_same(texts_kept, ["plain"], "the deletion")
         row("plain")
         same(undo_button(), None, "the offer")
         key("ctrl+z", "Escape")
@@ -117,18 +117,18 @@ def keys_that_rub_out_text_leave_the_clips_alone():
         remember("alpha beta", "gamma")
         open_panel()
         key("Delete")
-        wait_until(lambda: texts_kept() == ["alpha beta"], "the deletion")
+        wait_same(texts_kept, ["alpha beta"], "the deletion")
         type_text("alpha be")
         key("ctrl+BackSpace")
-        wait_until(lambda: text_shown("vellumry") == "alpha", "the word rubbed out")
+        wait_same(lambda: text_shown("vellumry"), "alpha", "the word rubbed out")
         key("ctrl+z")
-        wait_until(lambda: text_shown("vellumry") == "alpha be", "the word back")
+        wait_same(lambda: text_shown("vellumry"), "alpha be", "the word back")
         same(texts_kept(), ["alpha beta"], "the clips kept")
         key("ctrl+BackSpace", "ctrl+BackSpace")
-        wait_until(lambda: text_shown("vellumry") == "", "the field empty")
+        wait_same(lambda: text_shown("vellumry"), "", "the field empty")
         same(texts_kept(), ["alpha beta"], "the clips kept")
         key("ctrl+BackSpace")
-        wait_until(lambda: texts_kept() == [], "the deletion")
+        wait_same(texts_kept, [], "the deletion")
         same(panel_is_open(), True, "the panel is open")
 
 

@@ -5,7 +5,7 @@
 from clients import Chromium, FeatherPad, Mousepad, XTerm
 from desktop import (PANEL, Vellumry, accessible, active_window, clipboard, copy_text, focused_window, key, main, open_panel,
                      own_tests, panel_is_open, picture, remember, run, same, text_of, type_text, unsealed, wait_for_clip,
-                     wait_panel_closed, wait_until, windows)
+                     wait_panel_closed, wait_same, wait_until, windows)
 
 WORDS = ["quick brown fox", "lazy dog", "zebra crossing"]
 
@@ -26,8 +26,8 @@ def into_a_gtk_editor():
     with Vellumry(), Mousepad() as client:
         remember(*WORDS)
         search_and_paste("qu", "quick brown fox")
-        wait_until(lambda: client.content() == "quick brown fox", "the paste in the editor")
-        wait_until(lambda: text_of(unsealed()[0]) == "quick brown fox", "the pasted clip to come first")
+        wait_same(client.content, "quick brown fox", "the paste in the editor")
+        wait_same(lambda: text_of(unsealed()[0]), "quick brown fox", "the pasted clip to come first")
         same(len(unsealed()), len(WORDS), "clips; our own write is no copy")
 
 
@@ -35,7 +35,7 @@ def into_a_qt_editor():
     with Vellumry(), FeatherPad() as client:
         remember(*WORDS)
         search_and_paste("ze", "zebra crossing")
-        wait_until(lambda: client.content() == "zebra crossing", "the paste in the editor")
+        wait_same(client.content, "zebra crossing", "the paste in the editor")
 
 
 def into_a_browser():
@@ -43,7 +43,7 @@ def into_a_browser():
         client.enter_area()
         remember(*WORDS)
         search_and_paste("la", "lazy dog")
-        wait_until(lambda: client.content() == "lazy dog", "the paste in the page")
+        wait_same(client.content, "lazy dog", "the paste in the page")
 
 
 def into_a_terminal():
@@ -51,9 +51,9 @@ def into_a_terminal():
         remember(*WORDS)
         copy_text("an older primary selection", "primary")
         search_and_paste("do", "lazy dog")
-        wait_until(lambda: clipboard(selection="primary") == b"lazy dog", "the words on the primary selection")
+        wait_same(lambda: clipboard(selection="primary"), b"lazy dog", "the words on the primary selection")
         client.settle()
-        wait_until(lambda: client.content() == "lazy dog\n", "the paste in the terminal")
+        wait_same(client.content, "lazy dog\n", "the paste in the terminal")
 
 
 def while_the_shortcut_is_still_held():
@@ -64,12 +64,12 @@ def while_the_shortcut_is_still_held():
             wait_until(panel_is_open, "the panel")
             run("xdotool", "key", "Return")
             wait_panel_closed()
-            wait_until(lambda: client.content() == "zebra crossing", "the paste in the editor")
+            wait_same(client.content, "zebra crossing", "the paste in the editor")
         finally:
             run("xdotool", "keyup", "v", "keyup", "ctrl", "keyup", "super")
         key("ctrl+End")
         type_text(" x")
-        wait_until(lambda: client.content() == "zebra crossing x", "clean typing afterwards")
+        wait_same(client.content, "zebra crossing x", "clean typing afterwards")
 
 
 def a_number_pastes_its_row():
@@ -78,7 +78,7 @@ def a_number_pastes_its_row():
         open_panel()
         key("ctrl+2")
         wait_panel_closed()
-        wait_until(lambda: client.content() == "lazy dog", "the second row in the editor")
+        wait_same(client.content, "lazy dog", "the second row in the editor")
 
 
 def a_number_pastes_its_row_on_a_french_keyboard():
@@ -90,7 +90,7 @@ def a_number_pastes_its_row_on_a_french_keyboard():
             open_panel()
             key("ctrl+eacute")
             wait_panel_closed()
-            wait_until(lambda: client.content() == "lazy dog", "the second row in the editor")
+            wait_same(client.content, "lazy dog", "the second row in the editor")
         finally:
             run("setxkbmap", "us")
 
@@ -102,7 +102,7 @@ def arrows_choose_and_return_pastes():
         key("Down", "Down")
         key("Return")
         wait_panel_closed()
-        wait_until(lambda: client.content() == "quick brown fox", "the third row in the editor")
+        wait_same(client.content, "quick brown fox", "the third row in the editor")
 
 
 def escape_gives_the_keyboard_back():
@@ -113,9 +113,9 @@ def escape_gives_the_keyboard_back():
             open_panel()
             key("Escape")
             wait_panel_closed()
-            wait_until(lambda: focused_window() == before, "the editor to have the keyboard again")
+            wait_same(focused_window, before, "the editor to have the keyboard again")
         type_text("typed on")
-        wait_until(lambda: client.content() == "typed on", "typing after the panel closed")
+        wait_same(client.content, "typed on", "typing after the panel closed")
 
 
 def a_click_elsewhere_closes_the_panel():
@@ -138,7 +138,7 @@ def the_panel_is_no_window_of_the_task_bar():
         picture("panel")
         key("super+ctrl+v")
         wait_panel_closed()
-        wait_until(lambda: active_window() == before, "the same active window")
+        wait_same(active_window, before, "the same active window")
 
 
 def a_large_paste_is_served_whole():
@@ -152,7 +152,7 @@ def a_large_paste_is_served_whole():
         key("Down")
         key("Return")
         wait_panel_closed()
-        wait_until(lambda: len(clipboard() or b"") == len(text), "the large clip on the clipboard", 20)
+        wait_same(lambda: len(clipboard() or b""), len(text), "the large clip on the clipboard", 20)
         same(clipboard(), text.encode(), "the large clip, byte for byte")
 
 

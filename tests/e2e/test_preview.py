@@ -5,7 +5,7 @@ import os
 
 from clients import Mousepad
 from desktop import (Vellumry, accessible, clipboard, copy_bytes, copy_text, fresh, key, main, open_panel, own_tests, panel_is_open,
-                     remember, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_until)
+                     remember, run, same, text_of, unsealed, wait_for_clip, wait_panel_closed, wait_same, wait_until)
 
 TEN_MEGABYTES = "".join(f"line {number:07d} of a long text that nobody reads to its end\n" for number in range(180_000))
 
@@ -30,7 +30,7 @@ def pastes_what_it_shows():
         shows("29 characters")
         press("^Paste$")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "the first line\nand the second", "the paste")
+        wait_same(editor.content, "the first line\nand the second", "the paste")
 
 
 def pins_and_deletes():
@@ -43,7 +43,7 @@ def pins_and_deletes():
         press("^Unpin ")
         wait_until(lambda: not any(kept["pinned"] for kept in unsealed()), "no pin left")
         press("^Delete ")
-        wait_until(lambda: [text_of(kept) for kept in unsealed()] == ["older"], "the deletion")
+        wait_same(lambda: [text_of(kept) for kept in unsealed()], ["older"], "the deletion")
         shows("^older$")
         same(panel_is_open(), True, "the panel is open")
 
@@ -59,7 +59,7 @@ def transforms_as_it_shows():
         shows("^SOME WORDS$")
         press("^Paste transformed$")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "SOME WORDS", "the paste")
+        wait_same(editor.content, "SOME WORDS", "the paste")
 
 
 def several_are_merged():
@@ -71,7 +71,7 @@ def several_are_merged():
         shows("^2 clips selected$", "heading")
         press("^Merge & Paste$")
         wait_panel_closed()
-        wait_until(lambda: editor.content() == "first\nsecond", "the paste")
+        wait_same(editor.content, "first\nsecond", "the paste")
 
 
 def a_picture_is_shown():
@@ -89,7 +89,7 @@ def a_picture_is_shown():
         same(abs(box.width * 9 - box.height * 16) <= 32, True, f"the proportions of {box.width} × {box.height}")
         press("^Paste$")
         wait_panel_closed()
-        wait_until(lambda: clipboard("image/png") == picture, "the picture on the clipboard")
+        wait_same(lambda: clipboard("image/png"), picture, "the picture on the clipboard")
 
 
 def ten_megabytes_are_shown_and_pasted():
@@ -105,7 +105,7 @@ def ten_megabytes_are_shown_and_pasted():
         shows(f"{len(TEN_MEGABYTES):,} characters")
         key("ctrl+c")
         wait_panel_closed()
-        wait_until(lambda: clipboard() == TEN_MEGABYTES.encode(), "the long text on the clipboard")
+        wait_same(clipboard, TEN_MEGABYTES.encode(), "the long text on the clipboard")
 
 
 def a_link_is_opened_by_the_users_browser():

@@ -6,7 +6,7 @@ import signal
 import subprocess
 
 from desktop import (Vellumry, accessible, clipboard, copy_bytes, copy_text, key, main, open_panel, own_tests, picture, run, same,
-                     type_text, unsealed, wait_for_clip, wait_panel_closed, wait_until)
+                     type_text, unsealed, wait_for_clip, wait_panel_closed, wait_same, wait_until)
 
 ENOUGH = 60.0
 
@@ -43,7 +43,7 @@ def a_screenshot_is_found_by_a_word_in_it():
         picture("found-by-a-word-in-it")
         key("Return")
         wait_panel_closed()
-        wait_until(lambda: clipboard("image/png") == png, "the picture on the clipboard")
+        wait_same(lambda: clipboard("image/png"), png, "the picture on the clipboard")
 
 
 def a_second_reading_is_the_better_one():
@@ -108,7 +108,7 @@ def a_reader_that_dies_costs_one_picture():
         copy_bytes(picture_of(**LONG), "image/png")
         reader = wait_until(lambda: readers(program), "a reader", 20)[0]
         copy_bytes(picture_of("Afterwards"), "image/png")
-        wait_until(lambda: len(unsealed()) == 2, "the second picture")
+        wait_same(lambda: len(unsealed()), 2, "the second picture")
         os.kill(reader, signal.SIGKILL)
         wait_until(lambda: reader not in readers(program), "the reader to be gone")
         read_text("afterwards")

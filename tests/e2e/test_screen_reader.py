@@ -6,7 +6,7 @@ import re
 import subprocess
 import tempfile
 
-from desktop import remember, Process, Vellumry, key, main, own_tests, panel_is_open, same, wait_for_clip, text_of, wait_until
+from desktop import remember, Process, Vellumry, key, main, own_tests, panel_is_open, same, wait_for_clip, text_of, wait_same, wait_until
 from panel_rows import texts_kept
 
 # Its log is written in blocks of kilobytes otherwise, and the last words would be missing.
@@ -35,7 +35,7 @@ class Listener(Process):
     def __init__(self):
         self.log = os.path.join(tempfile.mkdtemp(prefix="listener"), "told")
         super().__init__("sh", "-c", 'exec /usr/bin/python3 -c "$0" >"$1"', LISTENER, self.log)
-        wait_until(lambda: self.told() == ["ready"], "the listener")
+        wait_same(self.told, ["ready"], "the listener")
 
     def told(self):
         if not os.path.exists(self.log):
@@ -118,7 +118,7 @@ def it_is_told_which_row_the_keys_work_on():
         open_panel()
         wait_until(lambda: "Clips: second text" in listener.told(), "the row at the start")
         key("Down")
-        wait_until(lambda: listener.told()[-1] == "Clips: first text", "the next row")
+        wait_same(lambda: listener.told()[-1], "Clips: first text", "the next row")
 
 
 def of_a_deletion_the_neighbour_is_read_once():
@@ -128,7 +128,7 @@ def of_a_deletion_the_neighbour_is_read_once():
         orca.hears(open_panel, "third text")
         before = len(orca.said())
         orca.hears(lambda: key("ctrl+Delete"), "second text")
-        wait_until(lambda: len(texts_kept()) == 2, "the deletion")
+        wait_same(lambda: len(texts_kept()), 2, "the deletion")
         orca.hears(lambda: key("Down"), "first text")
         said = orca.said()[before:]
         same([words for words in said if "third text" in words], [], "what is said of the deleted clip")

@@ -5,7 +5,7 @@ from Xlib import X, display
 
 from clients import Mousepad
 from desktop import (Failure, Process, Vellumry, accessible, copy_text, focus_under_new_manager, key, main, open_panel, own_tests,
-                     run, same, text_of, type_text, wait_for_clip, wait_panel_closed, wait_until, windows)
+                     run, same, text_of, type_text, wait_for_clip, wait_panel_closed, wait_same, wait_until, windows)
 
 KEYCODE_OF_3 = 12
 ALT, SUPER = 0x8, 0x40
@@ -28,7 +28,7 @@ def pin(*texts):
 def pastes(client, number, expected):
     before = client.content() or ""
     key(f"super+alt+{number}")
-    wait_until(lambda: client.content() == before + expected, f"the pinned clip {number} in the editor")
+    wait_same(client.content, before + expected, f"the pinned clip {number} in the editor")
 
 
 def numbers_of(client, texts):
@@ -56,7 +56,7 @@ def paste_under_new_layout(client, text, layout):
     for _ in range(5):
         key("super+alt+1")
         try:
-            wait_until(lambda: client.content() == text, f"the paste under {layout}")
+            wait_same(client.content, text, f"the paste under {layout}")
             return
         except Failure:
             continue
@@ -72,7 +72,7 @@ def they_follow_the_layout():
 
                 paste_under_new_layout(client, "alpha", layout)
                 client.clear()
-                wait_until(lambda: client.content() == "", "an empty editor")
+                wait_same(client.content, "", "an empty editor")
         finally:
             run("setxkbmap", "us")
 
@@ -111,13 +111,13 @@ def a_pinned_clip_does_not_advance_a_running_stack():
             copy_text(text)
             wait_for_clip(lambda row: text_of(row) == text, "the copy of " + text)
         key("super+alt+1")
-        wait_until(lambda: client.content() == "pinned", "the pinned clip")
+        wait_same(client.content, "pinned", "the pinned clip")
         key("ctrl+v")
-        wait_until(lambda: client.content() == "pinnedone ", "the first of the stack")
+        wait_same(client.content, "pinnedone ", "the first of the stack")
         key("super+alt+1")
-        wait_until(lambda: client.content() == "pinnedone pinned", "the pinned clip again")
+        wait_same(client.content, "pinnedone pinned", "the pinned clip again")
         key("ctrl+v")
-        wait_until(lambda: client.content() == "pinnedone pinnedtwo ", "the second of the stack")
+        wait_same(client.content, "pinnedone pinnedtwo ", "the second of the stack")
 
 
 # The last one: it takes the desktop's window manager away.

@@ -7,7 +7,7 @@ import shutil
 from clients import FeatherPad, Mousepad, XTerm
 from desktop import (DATA, Vellumry, accessible, active_window, clipboard, copy_text, key, main, open_panel, own_tests,
                      panel_is_open, picture, remember, run, same, text_of, type_text, unsealed, wait_for_clip, wait_panel_closed,
-                     wait_until)
+                     wait_same, wait_until)
 from history_probe import ids
 from stack import TOGGLE, is_running, paste_each, start_stack, wait_ended
 
@@ -20,7 +20,7 @@ def copies_come_back_in_a_gtk_editor():
         paste_each(client, "ctrl+v", ["one ", "two ", "three "])
         wait_ended()
         key("ctrl+v")
-        wait_until(lambda: client.content() == "one two three three ", "the last one again")
+        wait_same(client.content, "one two three three ", "the last one again")
 
 
 def copies_come_back_in_a_qt_editor():
@@ -55,7 +55,7 @@ def with_shift_held_it_pastes_too():
         start_stack()
         remember("one ", "two ")
         key("ctrl+shift+v")
-        wait_until(lambda: clipboard() == b"one ", "the first on the clipboard")
+        wait_same(clipboard, b"one ", "the first on the clipboard")
         key("shift+Insert")
         wait_until(lambda: (client.content() or "").endswith("two "), "the second in the editor")
         wait_ended()
@@ -73,9 +73,9 @@ def other_keys_do_not_advance_it():
         key("Escape")
         wait_panel_closed()
         type_text("v")
-        wait_until(lambda: client.content() == "v", "the letter alone")
+        wait_same(client.content, "v", "the letter alone")
         key("ctrl+v")
-        wait_until(lambda: client.content() == "vone ", "the first of the stack")
+        wait_same(client.content, "vone ", "the first of the stack")
         key(TOGGLE)
         wait_ended()
 
@@ -92,7 +92,7 @@ def holding_the_keys_down_advances_once():
         same(set(client.content()), {"a"}, "what the repeats pasted")
         count = len(client.content())
         key("ctrl+v")
-        wait_until(lambda: client.content() == "a" * count + "b", "the second item once")
+        wait_same(client.content, "a" * count + "b", "the second item once")
         key(TOGGLE)
         wait_ended()
 
@@ -102,7 +102,7 @@ def an_empty_one_leaves_the_clipboard_alone():
         remember("mine")
         start_stack()
         key("ctrl+v")
-        wait_until(lambda: client.content() == "mine", "the clipboard as it was")
+        wait_same(client.content, "mine", "the clipboard as it was")
         same(is_running(), True, "still running")
         key(TOGGLE)
         wait_ended()
@@ -113,16 +113,16 @@ def reversed_the_newest_goes_first():
         start_stack()
         remember("one ", "two ", "three ")
         key("ctrl+v")
-        wait_until(lambda: client.content() == "one ", "the oldest")
+        wait_same(client.content, "one ", "the oldest")
         button = wait_until(lambda: accessible("vellumry", "push button", "first"), "the button that turns it round")
         area = button.queryComponent().getExtents(0)
         run("xdotool", "mousemove", str(area.x + area.width // 2), str(area.y + area.height // 2), "click", "1")
         wait_until(lambda: accessible("vellumry", "push button", "^Newest first"), "the order turned round")
         same(active_window(), int(client.window), "the active window")
         key("ctrl+v")
-        wait_until(lambda: client.content() == "one three ", "the newest")
+        wait_same(client.content, "one three ", "the newest")
         key("ctrl+v")
-        wait_until(lambda: client.content() == "one three two ", "the one before it")
+        wait_same(client.content, "one three two ", "the one before it")
         wait_ended()
 
 
@@ -131,12 +131,12 @@ def stopped_by_hand_the_last_item_stays():
         start_stack()
         remember("one", "two")
         key("ctrl+v")
-        wait_until(lambda: client.content() == "one", "the first")
+        wait_same(client.content, "one", "the first")
         key(TOGGLE)
         wait_ended()
         same(clipboard(), b"one", "the clipboard")
         key("ctrl+v")
-        wait_until(lambda: client.content() == "oneone", "the same once more")
+        wait_same(client.content, "oneone", "the same once more")
 
 
 def a_copy_of_a_moment_ago_comes_first():
@@ -147,7 +147,7 @@ def a_copy_of_a_moment_ago_comes_first():
             copy_text(f"copy {number}.")
             run("xdotool", "key", "ctrl+v")
             wanted = "".join(f"copy {earlier}." for earlier in range(number + 1))
-            wait_until(lambda: client.content() == wanted, f"copy {number} in the editor")
+            wait_same(client.content, wanted, f"copy {number} in the editor")
             wait_ended()
             start_stack()
         same(len(unsealed()), 10, "all of them in the history")
@@ -178,10 +178,10 @@ def ten_a_second_lose_and_double_nothing():
             for number in range(rounds):
                 text = f"{number},"
                 copy_text(text)
-                wait_until(lambda: len(ids()) == number + 1, f"copy {number} in the history, so in the stack")
+                wait_same(lambda: len(ids()), number + 1, f"copy {number} in the history, so in the stack")
                 expected += text
             run("xdotool", "key", "--delay", "100", *["ctrl+v"] * rounds, timeout=60 + rounds)
-            wait_until(lambda: client.content() == expected, "all in order", 20)
+            wait_same(client.content, expected, "all in order", 20)
             wait_ended()
 
 

@@ -10,7 +10,7 @@ from Xlib import X, display
 
 from clients import FeatherPad, HangingOwner, KeyWindow, Mousepad, XTerm
 from desktop import (DATA, Process, Vellumry, accessible, copy_bytes, copy_text, focus, focus_under_new_manager, key, main,
-                     own_tests, remember, run, same, text_of, type_text, unsealed, wait_for_clip, wait_until)
+                     own_tests, remember, run, same, text_of, type_text, unsealed, wait_for_clip, wait_same, wait_until)
 from history_probe import ids
 from settings_file import forget_settings, write_settings
 from stack import TOGGLE, is_running, paste_each, start_stack, wait_ended
@@ -40,9 +40,9 @@ def an_owner_that_hangs_does_not_hold_the_keyboard():
             focus(client.window)
             paste_each(client, "ctrl+v", ["one "])
             type_text("x")
-            wait_until(lambda: client.content() == "one x", "typing goes on")
+            wait_same(client.content, "one x", "typing goes on")
         key("ctrl+v")
-        wait_until(lambda: client.content() == "one xtwo ", "the second")
+        wait_same(client.content, "one xtwo ", "the second")
         wait_ended()
 
 
@@ -62,7 +62,7 @@ def a_program_that_keeps_copying_meanwhile_mixes_nothing_up():
         type_text("x")
         wait_until(lambda: client.content().endswith("x"), "typing goes on")
         client.clear()
-        wait_until(lambda: client.content() == "", "an empty editor")
+        wait_same(client.content, "", "an empty editor")
         key("ctrl+v")
         whole = wait_until(client.content, "the next item")
         # A key may have gone by itself on a busy machine; its item is then the next one's.
@@ -70,7 +70,7 @@ def a_program_that_keeps_copying_meanwhile_mixes_nothing_up():
         for text in noticed[noticed.index(whole) + 1:]:
             key("ctrl+v")
             whole += text
-            wait_until(lambda: client.content() == whole, f"{text!r} behind the others")
+            wait_same(client.content, whole, f"{text!r} behind the others")
         wait_ended()
 
 
@@ -84,7 +84,7 @@ def a_stopped_program_in_front_does_not_hold_the_keyboard():
         focus(client.window)
         paste_each(client, "shift+Insert", ["two\n", "three\n"])
         type_text("typing goes on\n")
-        wait_until(lambda: client.content() == "two\nthree\ntyping goes on\n", "what was typed")
+        wait_same(client.content, "two\nthree\ntyping goes on\n", "what was typed")
         wait_ended()
 
 
@@ -100,7 +100,7 @@ def deleted_files_are_passed_over():
         remember("after the file")
         os.unlink(path)
         key("ctrl+v")
-        wait_until(lambda: client.content() == "after the file", "the item behind the deleted file")
+        wait_same(client.content, "after the file", "the item behind the deleted file")
         wait_ended()
 
 
@@ -150,7 +150,7 @@ def large_texts_hold_no_key_and_arrive_whole():
                 start_stack()
                 for count, content in enumerate(contents, 1):
                     copy_bytes(content, "UTF8_STRING")
-                    wait_until(lambda: len(ids()) == count, f"copy {count} in the history", 30)
+                    wait_same(lambda: len(ids()), count, f"copy {count} in the history", 30)
                 with KeyWindow() as window:
                     pasted = contents[-1]
                     for content in contents:
@@ -175,9 +175,9 @@ def a_new_window_manager_changes_nothing():
             wait_until(lambda: run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK") not in (before, b""), "the new window manager")
             focus_under_new_manager(client.window)
             key("ctrl+v")
-            wait_until(lambda: client.content() == "one two ", "the second")
+            wait_same(client.content, "one two ", "the second")
             key("ctrl+v")
-            wait_until(lambda: client.content() == "one two three ", "the third")
+            wait_same(client.content, "one two three ", "the third")
             wait_ended()
 
 

@@ -9,7 +9,7 @@ import time
 
 from clients import FeatherPad, Mousepad
 from desktop import (HISTORY, Failure, Vellumry, accessible, clipboard, copy_text, key, main, open_panel, own_tests, panel_is_open,
-                     run, same, wait_panel_closed, wait_until)
+                     run, same, wait_panel_closed, wait_same, wait_until)
 from history_probe import HistoryProbe, ids, integrity
 from physical_keys import PhysicalKeys
 from settings_file import forget_settings, write_settings
@@ -166,7 +166,7 @@ def paste_second_row(editor, text):
     key("Down")
     key("Return")
     wait_panel_closed()
-    wait_until(lambda: editor.content() == text, "the paste in the editor")
+    wait_same(editor.content, text, "the paste in the editor")
 
 
 def press_until_open(keys):
@@ -194,7 +194,7 @@ def the_shortcut_and_the_paste_follow_the_layout():
                 press_until_open(keys)
                 keys.press("return")
                 wait_panel_closed()
-                wait_until(lambda: editor.content() == "pasted under " + layout, "the paste under " + layout)
+                wait_same(editor.content, "pasted under " + layout, "the paste under " + layout)
                 keys.close()
         finally:
             run("setxkbmap", "us")

@@ -8,7 +8,7 @@ from gi.repository import GLib
 
 from clients import Mousepad
 from desktop import (Failure, Vellumry, clipboard, copy_text, focus, main, open_panel, own_tests, panel_is_open, same, text_of,
-                     unsealed, wait_for_clip, wait_until, windows)
+                     unsealed, wait_for_clip, wait_same, wait_until, windows)
 from tray import MENU, Watcher, connect
 
 FIXED = ["Open Vellumry", "Start Paste Stack", "Pause Capture", "Ignore Next Copy", "Save New Screenshots", "Clear History…", "-"]
@@ -55,7 +55,7 @@ def a_row_is_pasted_into_the_window_in_front():
         keep("copied later")
         focus(editor.window)
         item.open_until(lambda menu: "from the menu" in menu.labels(), "the row").entry("from the menu").click()
-        wait_until(lambda: editor.content() == "from the menu", "the text in the editor")
+        wait_same(editor.content, "from the menu", "the text in the editor")
 
 
 def a_row_shown_a_while_ago_pastes_what_it_showed():
@@ -67,7 +67,7 @@ def a_row_shown_a_while_ago_pastes_what_it_showed():
         item.open_until(lambda menu: "in its place since" in menu.labels(), "the row above")
         focus(editor.window)
         shown.click()
-        wait_until(lambda: editor.content() == "shown first", "the text in the editor")
+        wait_same(editor.content, "shown first", "the text in the editor")
 
 
 def the_next_copy_is_ignored_and_the_mark_shows_it():
@@ -211,7 +211,7 @@ def without_a_session_bus_everything_but_the_icon_is_there():
     nowhere = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nowhere"}
     with Vellumry(environment=nowhere) as program:
         copy_text("kept in memory")
-        wait_until(lambda: clipboard() == b"kept in memory", "the copy")
+        wait_same(clipboard, b"kept in memory", "the copy")
         open_panel()
         same(program.alive(), True, "the program")
 

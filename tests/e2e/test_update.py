@@ -9,7 +9,7 @@ import subprocess
 import tempfile
 import threading
 
-from desktop import PROGRAM, Vellumry, copy_text, main, own_tests, same, text_of, wait_for_clip, wait_until, windows
+from desktop import PROGRAM, Vellumry, copy_text, main, own_tests, same, text_of, wait_for_clip, wait_same, wait_until, windows
 from tray import Item, Watcher
 
 UPDATABLE = os.path.join(os.path.dirname(PROGRAM), "vellumry-updatable")
@@ -114,12 +114,12 @@ def the_program_becomes_the_next_version_and_goes_on():
             menu.entry(restart).click()
             wait_until(lambda: not program.alive(), "the old version's end")
             same(program.handle.returncode, 0, "its status")
-            wait_until(lambda: len(watcher.registered) == 2, "the new version's icon")
+            wait_same(lambda: len(watcher.registered), 2, "the new version's icon")
             same(image.content() == newer, True, "the new version in the old one's place")
             item = Item(*watcher.registered[1])
             try:
                 item.open_until(lambda menu: "before the update" in menu.labels(), "the history in the new version")
-                wait_until(lambda: image.files() == ["Vellumry.AppImage"], "the old version to be thrown away")
+                wait_same(image.files, ["Vellumry.AppImage"], "the old version to be thrown away")
             finally:
                 item.open().entry("Quit Vellumry").click()
                 wait_until(lambda: not has_owner(item), "the new version's end")

@@ -17,7 +17,7 @@ os.environ["VELLUMRY"] = os.environ["VELLUMRY_BINARY"]
 sys.path.insert(0, os.path.join(HERE, "..", "e2e"))
 
 import desktop  # noqa: E402
-from desktop import Process, wait_until  # noqa: E402
+from desktop import Process, wait_same, wait_until  # noqa: E402
 
 TYPIST = shlex.split(os.environ["VELLUMRY_TYPE"])[1]
 SESSION = os.environ["VELLUMRY_SESSION"]
@@ -123,7 +123,7 @@ class Window(Process):
 
     def wait_text(self, text):
         try:
-            wait_until(lambda: self.text == text, f"the text {text!r} in the foreign window")
+            wait_same(lambda: self.text, text, f"the text {text!r} in the foreign window")
         except desktop.Failure as failure:
             picture("failed")
             raise desktop.Failure(f"{failure}, which has {self.state}") from None
@@ -145,7 +145,7 @@ def wait_for_panel(window):
     if SESSION == "gnome-plain":
         wait_until(lambda: shown_query() or type_text("q"), "a letter in the search field")
         press("escape")
-        wait_until(lambda: shown_query() == "", "the empty search field")
+        wait_same(shown_query, "", "the empty search field")
 
 
 def open_panel(window):

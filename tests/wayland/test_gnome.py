@@ -13,7 +13,7 @@ from session import (HINT, PROGRAM, Window, copy, forgo_settings, offered, open_
 from lock_screen import LockedScreen  # noqa: E402
 
 import desktop  # noqa: E402
-from desktop import Vellumry, run, text_of, unsealed, wait_for_clip, wait_until  # noqa: E402
+from desktop import Vellumry, run, text_of, unsealed, wait_for_clip, wait_same, wait_until  # noqa: E402
 
 EXTENSION = "clipboard@vellumry.com"
 NAME = "com.vellumry.GnomeShell"
@@ -61,7 +61,7 @@ def test_extension_goes_and_comes():
         types = offered()
         switch_off()
         switch_on()
-        wait_until(lambda: offered() == types, "what was pasted, on the clipboard as before")
+        wait_same(offered, types, "what was pasted, on the clipboard as before")
         assert pasted() == b"before it went"
         copy("after it came")
         wait_for_clip(lambda row: text_of(row) == "after it came", "the next copy in the history")
@@ -93,13 +93,13 @@ def test_locked():
             press("ctrl+super+v", "escape")
         wait_until(lambda: window.state["active"], "the keyboard back in the window")
         assert [text_of(row) for row in unsealed()] == ["before the lock"]
-        wait_until(lambda: pasted() == b"before the lock", "the copy of another program on the clipboard")
+        wait_same(pasted, b"before the lock", "the copy of another program on the clipboard")
         open_panel(window)
         press("return")
         window.wait_text("before the lock")
         with LockedShell():
             press("escape")
-        wait_until(lambda: pasted() == b"before the lock", "what we had on the clipboard")
+        wait_same(pasted, b"before the lock", "what we had on the clipboard")
         wait_until(lambda: window.state["active"], "the keyboard back in the window")
         copy("after the lock")
         wait_for_clip(lambda row: text_of(row) == "after the lock", "the copy in the history")

@@ -15,7 +15,7 @@ from session import (HERE, HINT, PROGRAM, SESSION, Klipper, Window, clear, copy,
 
 import desktop  # noqa: E402
 from desktop import (Process, Vellumry, forgo_greeting, representation, run, same, text_of, unsealed, wait_for_clip,  # noqa: E402
-                     wait_until)
+                     wait_same, wait_until)
 
 
 def test_copy_find_paste():
@@ -68,7 +68,7 @@ def test_typing_through_the_opening():
             before = window.text
             press("ctrl+super+v", *letters)
             try:
-                wait_until(lambda: window.text + (shown_query() or "") == before + letters, "all letters, in their order", 20)
+                wait_same(lambda: window.text + (shown_query() or ""), before + letters, "all letters, in their order", 20)
             except desktop.Failure as failure:
                 raise desktop.Failure(f"{failure}: turn {turn}, {window.text[len(before):]!r} and {shown_query()!r}") from None
             press("escape", "escape")
@@ -136,7 +136,7 @@ def test_concealed():
         type_text("hunter2hunter2")
         window.wait_text("hunter2hunter2")
         press("ctrl+k")
-        wait_until(lambda: pasted() == b"hunter2hunter2", "the secret on the clipboard")
+        wait_same(pasted, b"hunter2hunter2", "the secret on the clipboard")
         copy("what is copied next")
         wait_for_clip(lambda row: text_of(row) == "what is copied next", "the next copy")
         assert not [row for row in unsealed() if "hunter2" in (text_of(row) or "")], "the secret is in the history"
@@ -160,7 +160,7 @@ def test_survives_its_program():
         program = owner("outlives its program")
         wait_for_clip(lambda row: text_of(row) == "outlives its program", "the copy in the history")
         program.stop(signal.SIGKILL)
-        wait_until(lambda: pasted() == b"outlives its program", "the copy on the clipboard, its program gone")
+        wait_same(pasted, b"outlives its program", "the copy on the clipboard, its program gone")
 
 
 def copied_in(window, text):
@@ -177,7 +177,7 @@ def test_survives_its_window():
         with Window() as window:
             copied_in(window, "outlives its window")
             window.stop(signal.SIGKILL)
-            wait_until(lambda: pasted() == b"outlives its window", "the copy on the clipboard, its window gone")
+            wait_same(pasted, b"outlives its window", "the copy on the clipboard, its window gone")
         assert len([row for row in unsealed() if text_of(row) == "outlives its window"]) == 1, "kept once"
 
 
@@ -185,7 +185,7 @@ def test_cleared():
     """A clipboard that was emptied stays empty: the program of the copy is still there."""
     with Vellumry(), Window() as window:
         copied_in(window, "to be forgotten")
-        wait_until(lambda: pasted() == b"to be forgotten", "the copy on the clipboard")
+        wait_same(pasted, b"to be forgotten", "the copy on the clipboard")
         clear()
         stays(lambda: pasted() == b"", "the empty clipboard")
         assert [row for row in unsealed() if text_of(row) == "to be forgotten"], "the history has it all the same"
@@ -202,9 +202,9 @@ def test_secret_expires():
             other = owner(card)
             wait_for_clip(lambda row: text_of(row) == card, "the card in the history")
             other.stop(signal.SIGKILL)
-            wait_until(lambda: pasted() == card.encode(), "the card on the clipboard, its program gone")
+            wait_same(pasted, card.encode(), "the card on the clipboard, its program gone")
             wait_until(lambda: not [row for row in unsealed() if text_of(row) == card], "the card to leave the history")
-            wait_until(lambda: pasted() == b"", "the card to leave the clipboard")
+            wait_same(pasted, b"", "the card to leave the clipboard")
     finally:
         os.remove(desktop.SETTINGS)
 
@@ -298,7 +298,7 @@ def test_klippers_history_is_taken_over():
     with Klipper() as peer:
         for text in ("oldest of theirs", "newest of theirs"):
             copy(text)
-            wait_until(lambda: peer.newest() == text, "the copy in its history")
+            wait_same(peer.newest, text, "the copy in its history")
     clear()
     with Vellumry():
         run(PROGRAM, "--action", "open-settings")
