@@ -51,6 +51,7 @@ def wait_until(condition, what, timeout=LIMIT):
         if answer:
             return answer
         if time.monotonic() > end:
+            picture("in-vain-" + re.sub(r"\W+", "-", what))
             raise Failure(f"waited {timeout:g} s in vain for: {what}")
         time.sleep(0.01)
 
@@ -307,7 +308,9 @@ def focused_window():
 
 
 def key(*combinations):
-    run("xdotool", "key", "--clearmodifiers", *combinations)
+    """Presses and releases, one combination after the other. Not with --clearmodifiers: while a grab of ours holds the keyboard back,
+    those of the combination before still count as held, and would be pressed again, for good."""
+    run("xdotool", "key", *combinations)
 
 
 def type_text(text):
