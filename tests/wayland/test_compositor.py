@@ -14,7 +14,7 @@ import threading
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
-from session import PROGRAM, SESSION, Window, open_panel, search_field_has_focus, told  # noqa: E402
+from session import PROGRAM, SESSION, Window, only_in, open_panel, search_field_has_focus, told  # noqa: E402
 
 import desktop  # noqa: E402
 from desktop import Process, Vellumry, run, text_of, unsealed, wait_for_clip, wait_until  # noqa: E402
@@ -91,10 +91,9 @@ def test_compositor_dies():
         assert [row for row in unsealed() if text_of(row) == "copied before the crash"]
 
 
+@only_in("kwin")
 def test_compositor_comes_back():
     """On Plasma, which starts KWin again after a crash, the program sees and serves copies on the next one, and opens its panel there."""
-    if SESSION != "kwin":
-        return
     with Compositor("kwin_wayland_wrapper") as compositor:
         environment = {"WAYLAND_DISPLAY": compositor.display, "QT_WAYLAND_RECONNECT": "1"}
         with Vellumry(environment=environment) as program:
@@ -109,10 +108,9 @@ def test_compositor_comes_back():
             wait_until(search_field_has_focus, "the panel on the next compositor")
 
 
+@only_in("sway", "labwc")
 def test_no_portal_is_asked_in_vain():
     """Where the compositor presses keys and its users bind theirs, the start asks no portal for either, though one runs."""
-    if SESSION not in ("sway", "labwc"):
-        return
     bus = "org.freedesktop.DBus"
     told("gdbus", "call", "--session", "-d", bus, "-o", "/", "-m", bus + ".StartServiceByName", PORTAL, "0")
     with Process("dbus-monitor", "--session", f"destination='{PORTAL}'", stdout=subprocess.PIPE, text=True) as monitor:

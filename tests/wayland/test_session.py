@@ -13,6 +13,8 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 from session import (HERE, HINT, PROGRAM, SESSION, Klipper, Window, clear, copy, offered, only_in, open_panel, owner, pasted, press_button, selected,  # noqa: E402
                      picture, press, search_field_has_focus, settle, shown_query, stays, type_text)
 
+from lock_screen import LockedScreen  # noqa: E402
+
 import desktop  # noqa: E402
 from desktop import (Process, Vellumry, forgo_greeting, representation, run, same, text_of, unsealed, wait_for_clip,  # noqa: E402
                      wait_same, wait_until)
@@ -209,7 +211,7 @@ def test_secret_expires():
         os.remove(desktop.SETTINGS)
 
 
-@only_in("sway", "labwc")
+@only_in("sway", "labwc", "kwin")
 def test_locked():
     """A screen that is locked in the middle of a stack costs no item: keys pressed there are the locker's."""
     with Vellumry(), Window() as window:
@@ -221,12 +223,11 @@ def test_locked():
         settle()
         press("ctrl+v")
         window.wait_text("before ")
-        with Process("swaylock", "--color", "203040") as locker:
+        with LockedScreen():
             wait_until(lambda: not window.state["active"], "the lock screen to have the keyboard")
             press("ctrl+v", "ctrl+v")
             stays(lambda: window.text == "before ", "the text in the window", 0.5)
-            os.kill(locker.pid, signal.SIGUSR1)
-            wait_until(lambda: window.state["active"], "the keyboard back in the window")
+        wait_until(lambda: window.state["active"], "the keyboard back in the window")
         press("ctrl+v")
         window.wait_text("before after ")
 
