@@ -51,7 +51,8 @@ def wait_until(condition, what, timeout=LIMIT):
         if answer:
             return answer
         if time.monotonic() > end:
-            picture("in-vain-" + re.sub(r"\W+", "-", what))
+            if timeout >= LIMIT:  # a shorter one may have been an attempt
+                picture("in-vain-" + re.sub(r"\W+", "-", what)[:60])
             raise Failure(f"waited {timeout:g} s in vain for: {what}")
         time.sleep(0.01)
 
