@@ -65,7 +65,7 @@ public:
             --block->lent;
     }
 
-    /// For when somebody else may write.
+    /// Behind a lock, where another process may write.
     void forget() {
         for (Block& block : m_blocks)
             block.begin = block.end = -1;
