@@ -19,21 +19,17 @@ def asked(method):
     return told("gdbus", "call", "--session", "-d", name, "-o", path, "-m", f"{interface}.{method}").decode()
 
 
-def is_locked():
-    return "true" in asked("GetActive")
-
-
 class DesktopLock:
     """Plasma's and GNOME's own lock screens, which end when the login manager says that the user is back, as a display manager has it. GNOME
     empties the clipboard at its beginning, ends what portals have given, and runs no extensions behind it."""
 
     def __enter__(self):
         asked("Lock")
-        wait_until(is_locked, "the lock screen")
+        wait_until(lambda: "true" in asked("GetActive"), "the lock screen")
 
     def __exit__(self, *_):
         told("gdbus", "call", *LOGIN, "org.freedesktop.login1.Session.Unlock")
-        wait_until(lambda: not is_locked(), "the unlocked screen")
+        wait_until(lambda: "false" in asked("GetActive"), "the unlocked screen")
 
 
 class Swaylock(Process):
